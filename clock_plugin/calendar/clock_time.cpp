@@ -1,0 +1,1 @@
+#include "calendar/clock_time.h"

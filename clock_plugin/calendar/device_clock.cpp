@@ -1,0 +1,1 @@
+#include "calendar/device_clock.h"

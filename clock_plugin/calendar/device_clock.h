@@ -1,0 +1,36 @@
+// The device's clock: the one place where the system's time is read.
+#pragma once
+
+#include "clock_export.h"
+
+#include <QDate>
+#include <QDateTime>
+
+extern "C" {
+/// Replaces the source of the time: a function that returns milliseconds since 1970-01-01 UTC.
+/// Null restores the system's clock.
+CLOCK_EXPORT void clock_set_time_source(long long (*utcMilliseconds)(void));
+}
+
+namespace Lw::HNodeClock {
+
+/// While one lives, every reading is the reading taken when it was made, so that all parts of a
+/// frame show one instant. An inner one keeps the outer one's reading.
+class HeldReading
+{
+public:
+    HeldReading();
+    ~HeldReading();
+    Q_DISABLE_COPY(HeldReading)
+};
+
+/// Milliseconds since 1970-01-01 UTC: the held reading, or the time now.
+qint64 UtcMilliseconds();
+
+/// The millisecond within the second, 0 to 999, of the device's local time.
+int LocalMillisecond();
+
+/// The date in the device's own zone.
+QDate LocalDate();
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,1 @@
+#include "calendar/lunar_calendar.h"

@@ -1,0 +1,66 @@
+// The Chinese lunar calendar of the years 1900 to 2050, from a table of month lengths.
+//
+// The functions outside the namespace are the ones that the host's side calls; they keep the
+// answer and the query in globals and must be entered from one thread only.
+#pragma once
+
+#include "clock_export.h"
+
+/// The lunar date of one day.
+struct Lunar_info
+{
+    int year;
+    int month;     ///< 1 to 12; a leap month carries the number of the month it repeats
+    int day;       ///< 1 to 30
+    int monthDays; ///< length of this lunar month, 29 or 30
+    int leapMonth; ///< the year's leap month, 0 for none
+    int isLeap;    ///< 1 while the month is the leap month
+};
+
+/// Numbers of the sixty-part cycles.
+struct Chinese_era
+{
+    int year;
+    int month;
+    int day;
+};
+
+// Entry i of lunar_info describes the lunar year 1900 + i: bits 0-3 the leap month; bit 16 - m set
+// when month m has 30 days; bit 16 set when the leap month has 30 days.
+extern CLOCK_EXPORT const unsigned int lunar_info[151];
+
+// Texts in GB2312, each in a slot of fixed width with its terminating zero.
+extern CLOCK_EXPORT const char Gan[10][3];
+extern CLOCK_EXPORT const char Zhi[12][3];
+extern CLOCK_EXPORT const char Animals[12][3];
+extern CLOCK_EXPORT const char chinese_month[12][5];
+extern CLOCK_EXPORT const char chinese_day[30][5];
+
+// The Gregorian year and month of the current query, a day that nothing here sets, and the last
+// answer.
+extern CLOCK_EXPORT int s_year;
+extern CLOCK_EXPORT int s_month;
+extern CLOCK_EXPORT int s_day;
+extern CLOCK_EXPORT char returnstr[20];
+
+/// The lunar date as "month$day", the day with two digits ("3$05", "12$29"), in returnstr. Empty
+/// for a month outside February 1900 to February 2051. A day outside its month leaves the
+/// previous answer.
+CLOCK_EXPORT char *LunarCalendarSetup(int year, int month, int day);
+/// Writes the answer for a day of s_year and s_month into returnstr.
+CLOCK_EXPORT void sub_menue(int day);
+/// The lunar date of the first day of a Gregorian month.
+CLOCK_EXPORT void get_lunar_info(int year, int month, Lunar_info *info, Chinese_era *era);
+
+CLOCK_EXPORT int leap(int year);                         ///< 366 for a Gregorian leap year, else 365
+CLOCK_EXPORT int day(int month);                         ///< days of a month of s_year
+CLOCK_EXPORT int get_solar_total(int year, int month);   ///< days from 1900-01-01 to the month's first
+CLOCK_EXPORT int get_week(int year, int month);          ///< weekday of the first: 1 Sunday to 7 Saturday
+CLOCK_EXPORT int get_leap_month(int year);               ///< 0 for none
+CLOCK_EXPORT int get_leap_month_day(int year);           ///< 0, 29 or 30
+CLOCK_EXPORT int get_lunar_month_total(int year, int month); ///< 29 or 30
+CLOCK_EXPORT int get_lunar_year_total(int year);
+/// The two characters of a cycle number in GB2312: four bytes and a zero.
+CLOCK_EXPORT void get_chinese_era(int cycle, char *out);
+/// The day of a lunar date as two digits and a zero.
+CLOCK_EXPORT void out_chinese(Lunar_info *info, char *out);

@@ -1,0 +1,1 @@
+#include "calendar/persian_calendar.h"

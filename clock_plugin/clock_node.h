@@ -1,0 +1,131 @@
+// The content node of one clock: its settings as attributes in the host's store, their conversion
+// to and from SDK XML, and the bookkeeping of its glyph files.
+#pragma once
+
+#include "clock_attributes.h"
+#include "clock_export.h"
+
+#include "hcontentnode.h"
+
+#include <QMetaType>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+QT_BEGIN_NAMESPACE
+class QDomElement;
+QT_END_NAMESPACE
+
+namespace Lw::HNodeClock {
+
+/// Every glyph file moved by an export, and its digest at the same index. One pair for the
+/// process; only appended to, cleared by nobody here.
+extern CLOCK_EXPORT QStringList fileList;
+extern CLOCK_EXPORT QStringList fileMd5List;
+
+/// The constructor writes no attribute: InitData fills a new clock, UpdateNode one that is read.
+class CLOCK_EXPORT HClockNode : public Lw::HContentNode
+{
+    Q_OBJECT
+
+public:
+    HClockNode();
+    ~HClockNode() override;
+
+    // The host's operations.
+    QString Type() override; ///< "LW_Clock_Plugin"
+    bool NodeMatch(QDomElement &element) override; ///< whether the tag is "clock"
+    bool UpdateNode(QDomElement element, QList<Lw::FileInfo> &files) override;
+    void CoverToSDKFormate(QDomElement &parent, Lw::GetProgramModel model) override;
+    void AfterUpdate(bool isTemp) override;
+    bool NodeAlready(int reason) override;
+    bool AllFileExists() override;
+    void InitData() override;
+    int Duration() override; ///< 6000 milliseconds
+    void GetSDKTempFile(QList<QFileInfo> &out) override;
+
+    // Getters.
+    int ClockType();
+    int DigitalSwapArea();
+    int Digital_TopText_d(); ///< reads the key spelled Digital_TopTexy_d
+    int Digital_Date_d();
+    int Digital_Week_d();
+    int Digital_Time_d();
+    int Digital_Lunar_d();
+
+    // Setters. Each stores its key and emits ReDrawSourceImage() once, also for an equal value,
+    // except where the attribute table says that a key needs no redraw.
+    /// Stores sign and magnitude of an adjustment in seconds, modulo one day; emits twice.
+    void SetTimeAdjust(int seconds);
+    void SetTimeZone(QString zone);
+    void SetDaylightSavingTimeStart(QString rule);
+    void SetDaylightSavingTimeEnd(QString rule);
+    void SetHourScaleFName(QString family);
+    void SetHourScaleFSize(int points);
+    void SetAnalog_AMPM_d(int shown);
+    void SetAnalogAMPMFName(QString family);
+    void SetAnalogAMPMFSize(int points);
+    void SetAnalogAMPMColor(int colour);
+    void SetAnalogTopText(QString text);
+    void SetAnalogTopTextFName(QString family);
+    void SetAnalogTopTextFSize(int points);
+    void SetAnalogTopTextColor(int colour);
+    void SetAnalogDateType(int code);
+    void SetAnalogDateFName(QString family);
+    void SetAnalogDateFSize(int points);
+    void SetAnalogDateColor(int colour);
+    void SetAnalogWeekType(int code);
+    void SetAnalogWeekFName(QString family);
+    void SetAnalogWeekFSize(int points);
+    void SetAnalogWeekColor(int colour);
+    void SetAnalogLunarFName(QString family);
+    void SetAnalogLunarFSize(int points);
+    void SetAnalogLunarColor(int colour);
+    void SetDigitalDisplayMode(int mode);
+    void SetDigitalTopText(QString text);
+    void SetDigitalTopTextColor(int colour);
+    void SetDigitalDateType(int code);
+    void SetDigitalDateFName(QString family);
+    void SetDigitalDateColor(int colour);
+    void SetDigitalTimeType(int code);
+    void SetDigitalTimeFName(QString family);
+    void SetDigitalTimeColor(int colour);
+    void SetDigitalWeekType(int code);
+    void SetDigitalWeekFName(QString family);
+    void SetDigitalWeekColor(int colour);
+    void SetDigitalLunarFName(QString family);
+    void SetDigitalLunarColor(int colour);
+
+    int CovertDisplay(QString text); ///< the SDK's "true" and "false" as 1 and 0
+    int LWColorToInt(LWColor colour); ///< the stored int of a packed colour; its top byte is ignored
+
+    // SDK XML.
+    void ClockSubnodeCoverToSDK(QDomElement &element, QString valueKey, QString colorKey,
+                                QString displayKey);
+    void LunarCoverToSDK(QDomElement &element, QString colorKey, QString displayKey);
+    /// Copies what an SDK clock element says into the attributes of an analog, a digital clock.
+    /// What it does not mention stays. Always true.
+    bool PatchAnalog(QDomElement &element);
+    bool PatchDigital(QDomElement &element);
+
+    // Glyph files.
+    bool CheckFileExists(QStringList keys);
+    void ProcessFileName(QString destDir);
+    void SetFileInfo(QString name, QString key, QString destDir);
+    void ProcFile(QDomElement &element, QList<Lw::FileInfo> &files);
+
+Q_SIGNALS:
+    void ReDrawSourceImage(); ///< the glyph images must be made again
+    void SizeChanged(QSize size); ///< declared for the host; never emitted here
+
+private:
+    void Store(Attribute attribute, int value);
+    void Store(Attribute attribute, const QString &value);
+
+    // True once the analog spacing or swap was written. Kept for the host; nothing here reads it.
+    bool m_analogRowsWritten = false;
+};
+
+} // namespace Lw::HNodeClock
+
+Q_DECLARE_METATYPE(Lw::HNodeClock::HClockNode *)

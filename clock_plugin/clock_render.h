@@ -1,0 +1,50 @@
+// Plays one clock: has a frame drawn each second and hands it to the host's player.
+#pragma once
+
+#include "clock_export.h"
+#include "clock_node.h"
+
+#include "icontentrender.h"
+
+#include <QPointer>
+
+namespace Lw {
+class pictureplayer;
+}
+
+namespace Lw::HNodeClock {
+
+class DrawDisplayImage;
+
+/// Owns the frame drawer and the player; holds the node guarded. The renderer has no timer: the
+/// player calls PlayNext again when the time given by UpdateEffect has run out.
+class CLOCK_EXPORT HClockRender : public Lw::IContentRender
+{
+    Q_OBJECT
+
+public:
+    explicit HClockRender(HClockNode *node);
+    ~HClockRender() override;
+
+    /// Shows the first frame at once. Refused (state 2) without a living node or with identifier 0.
+    /// A renderer that was removed must not be started again.
+    void Start(unsigned int playIdentifier, long long position) override;
+    void Pause() override; ///< nothing: a clock cannot pause
+    void Stop() override;
+    void Remove() override; ///< stops, then releases drawer and player
+    void PlayNext() override;
+    /// 0 idle or running steadily, 1 within the first frames after Start, 2 Start was refused.
+    int renderState() override;
+
+    void CleanResources(); ///< may be called twice
+
+private:
+    QPointer<HClockNode> m_node;
+    int m_state = 0;
+    unsigned int m_playIdentifier = 0;
+    int m_tickCounter = 0;
+    DrawDisplayImage *m_drawer = nullptr;
+    Lw::pictureplayer *m_player = nullptr;
+};
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,61 @@
+// Composes the elements of a clock (date, time, week, lunar date, top text) as pixmaps from the
+// node's glyph images, for the reading of its own zone.
+#pragma once
+
+#include "calendar/clock_time.h"
+#include "calendar/persian_calendar.h"
+#include "clock_export.h"
+#include "clock_node.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QObject>
+#include <QPixmap>
+#include <QPointer>
+#include <QString>
+#include <QVector>
+
+QT_BEGIN_NAMESPACE
+class QPainter;
+QT_END_NAMESPACE
+
+namespace Lw::HNodeClock {
+
+/// Zone, adjustment, week code, date code and images are taken at set-up (InitParameters);
+/// everything else is read from the node at each call. All pixmaps are null before set-up, and
+/// where an image is missing.
+class CLOCK_EXPORT DrawClockClassifyImage : public QObject
+{
+    Q_OBJECT
+
+public:
+    DrawClockClassifyImage();
+    ~DrawClockClassifyImage() override;
+
+    void InitParameters(HClockNode *node); ///< loads everything anew; null does nothing
+
+    /// Brings the reading up to date, fills the argument with it (tagged UTC) and returns the
+    /// weekday, 1 Monday to 7 Sunday.
+    int CalculateTimeZone(QDateTime &reading);
+    /// The instant that a daylight-saving rule names in the year of a date, as a standard-time
+    /// reading tagged UTC; invalid for a rule that is empty, malformed or names no day.
+    QDateTime AnalyzeDaylightSavingTime(QDate date, QString rule);
+    /// "AM" or "PM" by the stored hour, which a twelve-hour time pixmap lowers until the next
+    /// time update.
+    QString GetTimeAP();
+    int CountLeapYear(int year); ///< 1 for a Persian leap year, else 0
+    PersianDate CountPersianDate(QDate date);
+
+    QPixmap GetDatePixmap();
+    QPixmap GetTimePixmap();
+    QPixmap GetWeeKPixmap();
+    QPixmap GetLunarPixmap();
+    QPixmap GetTopTextPixmap();
+    void GetLunarDate(); ///< stores the lunar month and day; daylight saving does not count
+
+private:
+    class Private;
+    Private *d;
+};
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,65 @@
+// The state of a frame drawer, shared by the files that draw one kind of clock each.
+#pragma once
+
+#include "compose/draw_clock_classify_image.h"
+#include "display/draw_display_image.h"
+#include "display/row_layout.h"
+
+#include <QPainter>
+
+#include <memory>
+
+namespace Lw::HNodeClock {
+
+class DrawDisplayImage::Private
+{
+public:
+    /// Whether an image of that size can be drawn at all. Bounds: 32767 pixels a side, 256 MiB.
+    static bool Drawable(const QSize &size);
+    /// A new image of the drawer's format filled with the key colour; null where not drawable.
+    QImage NewImage(const QSize &size, const QColor &keyColour) const;
+    int Number(Attribute attribute) { return node->GetAttributeToInt(Key(attribute)); }
+
+    QPointer<HClockNode> node;
+    QPainter painter;
+    DrawClockClassifyImage composer;
+
+    QDateTime dateTime; ///< the displayed reading
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    int hour = 0; ///< 0 to 23, also in twelve-hour mode
+    int minute = 0;
+    int second = -1;
+    int millisecond = 0; ///< of the device's clock
+    int dayOfWeek = 0;   ///< 1 Monday to 7 Sunday
+    int frameWidth = 0;
+    QString dateText; ///< yyyy/MM/dd
+
+    int startCounter = 0;
+    std::unique_ptr<QTime> startTime; ///< of the second frame; null before it
+    int lastSecondDrawn = -1;
+    int repeatedSeconds = 0; ///< analog frames that showed the second of the frame before
+
+    Rows rows; ///< top edges of the text rows
+
+    QImage frame; ///< the frame of this moment
+    QImage spare; ///< the frame before: the next one is drawn over it once nobody holds it
+    QImage::Format imageFormat = QImage::Format_ARGB32;
+
+    // Analog clock.
+    QImage dialCache;
+    QDate dialDate;
+    QString dialTimeAP;
+
+    // Picture clock.
+    QPixmap hourPicture;
+    QPixmap minutePicture;
+    QPixmap secondPicture;
+    QPixmap centrePicture;
+    QImage pictureBackground;
+    int pictureTypeLoaded = 0;
+    bool pictureLoaded = false;
+};
+
+} // namespace Lw::HNodeClock

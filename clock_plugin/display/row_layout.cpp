@@ -1,0 +1,186 @@
+#include "display/row_layout.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Lw::HNodeClock {
+
+namespace {
+
+using Row = int Rows::*;
+
+constexpr std::array<Row, 5> kDateAboveWeek = {&Rows::topText, &Rows::date, &Rows::week,
+                                               &Rows::time, &Rows::lunar};
+constexpr std::array<Row, 5> kWeekAboveDate = {&Rows::topText, &Rows::week, &Rows::date,
+                                               &Rows::time, &Rows::lunar};
+
+// The shown rows of an order from top to bottom; places beyond their number stay null.
+struct Shown
+{
+    std::array<Row, 5> rows = {};
+    int count = 0;
+};
+
+Shown ShownRows(const std::array<Row, 5> &order, const Rows &flags)
+{
+    Shown shown;
+    for (const Row row : order) {
+        if (flags.*row != 0)
+            shown.rows[static_cast<std::size_t>(shown.count++)] = row;
+    }
+    return shown;
+}
+
+const std::array<Row, 5> &OrderOfMany(int swap)
+{
+    return swap == 1 ? kDateAboveWeek : kWeekAboveDate;
+}
+
+int OddPixel(int space)
+{
+    return space % 2 != 0 ? 1 : 0;
+}
+
+// The extra pixel of an odd gap stands above the centre line for week and time as upper row; the
+// top text, the date and a week that was swapped upwards do not take it.
+int UpperRowPixel(Row upper, bool swapped, int space)
+{
+    const bool takesIt = (upper == &Rows::week && !swapped) || upper == &Rows::time;
+    return takesIt ? OddPixel(space) : 0;
+}
+
+} // namespace
+
+int ClampPosition(long long position)
+{
+    constexpr long long kLimit = 1 << 24;
+    return static_cast<int>(std::clamp(position, -kLimit, kLimit));
+}
+
+int CountRows(const Rows &flags)
+{
+    return ShownRows(kDateAboveWeek, flags).count;
+}
+
+void LayOutOneRow(int areaHeight, const Rows &heights, Rows &positions)
+{
+    for (const Row row : kDateAboveWeek)
+        positions.*row = areaHeight / 2 - heights.*row / 2;
+}
+
+void LayOutTwoRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
+                   Rows &positions)
+{
+    Shown shown = ShownRows(kDateAboveWeek, flags);
+    if (shown.count != 2)
+        return;
+    const bool swapped = swap == 1 && shown.rows[0] == &Rows::date && shown.rows[1] == &Rows::week;
+    if (swapped)
+        std::swap(shown.rows[0], shown.rows[1]);
+    const Row upper = shown.rows[0];
+    const long long middle = areaHeight / 2;
+    positions.*upper = ClampPosition(middle - space / 2 - heights.*upper
+                                     - UpperRowPixel(upper, swapped, space));
+    positions.*shown.rows[1] = ClampPosition(middle + space / 2);
+}
+
+void LayOutThreeRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
+                     Rows &positions)
+{
+    const Shown shown = ShownRows(OrderOfMany(swap), flags);
+    if (shown.count != 3)
+        return;
+    const auto [upper, middle, lower, unused4, unused5] = shown.rows;
+    const long long centre = areaHeight / 2;
+    const long long middleTop = centre - heights.*middle / 2;
+    positions.*middle = ClampPosition(middleTop);
+    positions.*upper = ClampPosition(middleTop - space - heights.*upper);
+    positions.*lower = ClampPosition(centre + space + heights.*middle / 2);
+}
+
+void LayOutFourRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
+                    Rows &positions)
+{
+    const Shown shown = ShownRows(OrderOfMany(swap), flags);
+    if (shown.count != 4)
+        return;
+    const auto [first, second, third, fourth, unused] = shown.rows;
+    const long long centre = areaHeight / 2;
+    const long long secondTop = centre - space / 2 - heights.*second;
+    const long long thirdTop = centre + space / 2;
+    positions.*second = ClampPosition(secondTop);
+    positions.*third = ClampPosition(thirdTop);
+    positions.*first = ClampPosition(secondTop - space - heights.*first);
+    positions.*fourth = ClampPosition(thirdTop + heights.*third + space);
+}
+
+void LayOutFiveRows(int areaHeight, int space, int swap, const Rows &heights, Rows &positions)
+{
+    const auto &[first, second, third, fourth, fifth] = OrderOfMany(swap);
+    const long long centre = areaHeight / 2;
+    const long long thirdTop = centre - heights.*third / 2;
+    const long long secondTop = thirdTop - space - heights.*second;
+    const long long fourthTop = space + centre + heights.*third / 2;
+    positions.*third = ClampPosition(thirdTop);
+    positions.*second = ClampPosition(secondTop);
+    positions.*first = ClampPosition(secondTop - space - heights.*first);
+    positions.*fourth = ClampPosition(fourthTop);
+    positions.*fifth = ClampPosition(fourthTop + space + heights.*fourth);
+}
+
+namespace {
+
+// Two rows of an analog clock: the gap is centred on the anchor, and its odd pixel stands above.
+void StackTwo(long long anchor, int space, Row upper, Row lower, const Rows &heights,
+              Rows &positions)
+{
+    positions.*upper = ClampPosition(anchor - space / 2 - heights.*upper - OddPixel(space));
+    positions.*lower = ClampPosition(anchor + space / 2);
+}
+
+// Three rows: the middle one centred on the anchor, the lunar date above it, the last below.
+void StackThree(long long anchor, int space, Row middle, Row lower, const Rows &heights,
+                Rows &positions)
+{
+    const long long middleTop = anchor - heights.*middle / 2;
+    positions.*middle = ClampPosition(middleTop);
+    positions.lunar = ClampPosition(middleTop - space - heights.lunar);
+    positions.*lower = ClampPosition(anchor + space + heights.*middle / 2);
+}
+
+} // namespace
+
+void LayOutAnalogRows(int areaWidth, int areaHeight, int space, int swap, const Rows &flags,
+                      const Rows &heights, Rows &positions)
+{
+    const bool upright = areaWidth < areaHeight;
+    const int upperAnchor = upright ? areaHeight / 2 - areaWidth / 4 : areaHeight / 4;
+    const int lowerAnchor = upright ? areaHeight / 2 + areaWidth / 4 : 3 * (areaHeight / 4);
+    positions.topText = upperAnchor - heights.topText / 2;
+
+    const int count = CountRows({0, flags.date, flags.week, 0, flags.lunar});
+    if (count == 1) {
+        positions.date = lowerAnchor - heights.date / 2;
+        positions.week = lowerAnchor - heights.week / 2;
+        positions.lunar = lowerAnchor - heights.lunar / 2;
+    } else if (count == 2 && flags.lunar != 0) {
+        StackTwo(lowerAnchor, space, &Rows::lunar, flags.week != 0 ? &Rows::week : &Rows::date,
+                 heights, positions);
+    } else if (count == 2 && swap == 1) {
+        StackTwo(lowerAnchor, space, &Rows::week, &Rows::date, heights, positions);
+    } else if (count == 2) {
+        StackTwo(lowerAnchor, space, &Rows::date, &Rows::week, heights, positions);
+    } else if (count == 3 && swap != 0) {
+        StackThree(lowerAnchor, space, &Rows::week, &Rows::date, heights, positions);
+    } else if (count == 3) {
+        StackThree(lowerAnchor, space, &Rows::date, &Rows::week, heights, positions);
+    }
+}
+
+int LineStart(int areaWidth, int space, long long widths, int count)
+{
+    const long long total = widths + static_cast<long long>(space) * (count - 1);
+    return ClampPosition(areaWidth / 2 - total / 2);
+}
+
+} // namespace Lw::HNodeClock

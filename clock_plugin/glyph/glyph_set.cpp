@@ -1,0 +1,1 @@
+#include "glyph/glyph_set.h"

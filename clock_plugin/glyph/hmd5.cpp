@@ -1,0 +1,1 @@
+#include "glyph/hmd5.h"

@@ -1,0 +1,17 @@
+// A node that shows something in an area of the display.
+#pragma once
+
+#include "hnode.h"
+
+namespace Lw {
+
+class HContentNode : public HNode
+{
+    Q_OBJECT
+
+public:
+    explicit HContentNode(QObject *parent = nullptr);
+    ~HContentNode() override;
+};
+
+} // namespace Lw

@@ -1,0 +1,54 @@
+// The attribute store that every node is: settings by key, and files by file key.
+#pragma once
+
+#include "lw_types.h"
+
+#include <QList>
+#include <QScopedPointer>
+
+namespace Lw {
+
+/// One file recorded on a node with HData::SetFilePath.
+struct FileRecord
+{
+    QString key;
+    QString path;
+    QString name;
+    long long size = -1; ///< bytes; -1 where the recorder did not say
+    int kind = 0;
+};
+
+/// Attributes and file records are two name spaces: one key may stand in both.
+class HData
+{
+public:
+    HData();
+
+    QString GetAttribute(QString key);    ///< the value as text; empty when absent
+    int GetAttributeToInt(QString key);   ///< the value as int; 0 when absent or not a number
+    void SetAttribute(QString key, int value, bool notify);
+    void SetAttribute(QString key, QString value, bool notify);
+    bool HaveAttribute(QString key);
+
+    QString GetFirstFile(QString key);    ///< the path recorded under a file key; empty when none
+    /// Records a file. A record of the same key is replaced in its place.
+    void SetFilePath(QString key, QString path, QString name, long long size, int kind);
+
+    QString GetGuid();
+    void SetGuid(QString guid);
+    bool HaveSourcFile();                 ///< whether any file is recorded
+
+    // Beyond what plugins call, for players and tests.
+    QStringList AttributeKeys();          ///< in order of first writing
+    QList<FileRecord> FileRecords();      ///< in order of first recording
+
+protected:
+    ~HData();
+
+private:
+    Q_DISABLE_COPY(HData)
+    class Private;
+    QScopedPointer<Private> d;
+};
+
+} // namespace Lw

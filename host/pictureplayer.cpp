@@ -1,0 +1,130 @@
+#include "pictureplayer.h"
+
+#include "icontentrender.h"
+
+#include <QDeadlineTimer>
+#include <QHash>
+#include <QPointer>
+#include <QTimer>
+
+#include <cmath>
+
+namespace Lw {
+
+namespace {
+
+QHash<unsigned int, QPointer<IContentRender>> &Renderers()
+{
+    static QHash<unsigned int, QPointer<IContentRender>> renderers;
+    return renderers;
+}
+
+QHash<unsigned int, QPointer<pictureplayer>> &Players()
+{
+    static QHash<unsigned int, QPointer<pictureplayer>> players;
+    return players;
+}
+
+double &TimeScale()
+{
+    static double scale = 1.0;
+    return scale;
+}
+
+} // namespace
+
+class pictureplayer::Private
+{
+public:
+    // A timer may fire a fraction of a millisecond early; the wait is over only at the deadline.
+    void Wait()
+    {
+        timer.start(static_cast<int>(qMax<qint64>(0, deadline.remainingTime())));
+    }
+
+    SessionParameter parameter = {};
+    QImage image;
+    QTimer timer;
+    QDeadlineTimer deadline;
+};
+
+pictureplayer::pictureplayer(QObject *parent) : QObject(parent), d(new Private)
+{
+    d->timer.setSingleShot(true);
+    d->timer.setTimerType(Qt::PreciseTimer);
+    connect(&d->timer, &QTimer::timeout, this, [this] {
+        if (!d->deadline.hasExpired()) {
+            d->Wait();
+            return;
+        }
+        // The renderer may delete this player: nothing may follow the call.
+        if (IContentRender *const render = Renderers().value(d->parameter.playIdentifier))
+            render->PlayNext();
+    });
+}
+
+pictureplayer::~pictureplayer()
+{
+    d->timer.stop();
+}
+
+void pictureplayer::Init(const SessionParameter *parameter)
+{
+    d->timer.stop();
+    if (!parameter)
+        return;
+    d->parameter = *parameter;
+    Players().insert(parameter->playIdentifier, this);
+}
+
+void pictureplayer::UpdateImage(QImage image)
+{
+    d->image = image;
+    emit ImageUpdated(image);
+}
+
+void pictureplayer::UpdateEffect(int milliseconds, EffectType)
+{
+    const double scale = TimeScale();
+    if (scale > 0) {
+        const double wait = std::ceil(qMax(0, milliseconds) / scale);
+        d->deadline = QDeadlineTimer(static_cast<qint64>(wait), Qt::PreciseTimer);
+        d->Wait();
+    }
+    emit EffectUpdated(milliseconds);
+}
+
+void pictureplayer::Stop()
+{
+    d->timer.stop();
+}
+
+SessionParameter pictureplayer::Parameter()
+{
+    return d->parameter;
+}
+
+QImage pictureplayer::LastImage()
+{
+    return d->image;
+}
+
+void pictureplayer::Register(unsigned int playIdentifier, Lw::IContentRender *render)
+{
+    if (render)
+        Renderers().insert(playIdentifier, render);
+    else
+        Renderers().remove(playIdentifier);
+}
+
+pictureplayer *pictureplayer::ForIdentifier(unsigned int playIdentifier)
+{
+    return Players().value(playIdentifier);
+}
+
+void pictureplayer::SetTimeScale(double scale)
+{
+    TimeScale() = scale;
+}
+
+} // namespace Lw
