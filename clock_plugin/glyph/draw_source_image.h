@@ -30,7 +30,7 @@ public:
     void DrawNumberImage(HClockNode *node, QString key, QString id, QString family, int size,
                          int colour, QString fileSuffix);
     int GetNumberMaxWidth(QFontMetrics metrics); ///< the widest advance among "0" to "9", in pixels
-    QColor IntToQColor(int colour); ///< 0x00BBGGRR, always opaque
+    QColor IntToQColor(int colour);              ///< 0x00BBGGRR, always opaque
 
 public Q_SLOTS:
     /// Writes the node's whole set and records every file on it. With calcMD5 each file gets its

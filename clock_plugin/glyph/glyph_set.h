@@ -72,17 +72,20 @@ struct GlyphRow
     const char *texts[12];
 };
 
-#define CLOCK_GLYPH_TR(text) QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", text)
-
+// Texts are marked with the context written out, for that is how the translation tools find them.
 // clang-format off
 inline constexpr GlyphRow kGlyphTable[] = {
     {Glyph::TopText, "_toptext", 0, GlyphShape::Text, GlyphWording::TopText,
      GlyphFont::TopText, GlyphClocks::Both, false, true, 1, 6, {}},
     {Glyph::ChWeek, "_chWeek_", 7, GlyphShape::Text, GlyphWording::Translated,
      GlyphFont::Week, GlyphClocks::Both, true, true, 2, 7,
-     {CLOCK_GLYPH_TR("Monday"), CLOCK_GLYPH_TR("Tuesday"), CLOCK_GLYPH_TR("Wednesday"),
-      CLOCK_GLYPH_TR("Thursday"), CLOCK_GLYPH_TR("Friday"), CLOCK_GLYPH_TR("Saturday"),
-      CLOCK_GLYPH_TR("Sunday")}},
+     {QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "Monday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "Tuesday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "Wednesday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "Thursday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "Friday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "Saturday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "Sunday")}},
     {Glyph::EnWeek, "_enWeek_", 7, GlyphShape::Text, GlyphWording::Verbatim,
      GlyphFont::Week, GlyphClocks::Both, true, true, 2, 7,
      {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"}},
@@ -91,18 +94,23 @@ inline constexpr GlyphRow kGlyphTable[] = {
      {"Mon.", "Tues.", "Wed.", "Thurs.", "Fri.", "Sat.", "Sun."}},
     {Glyph::PersiaWeek, "_PersiaWeek_", 7, GlyphShape::Text, GlyphWording::Translated,
      GlyphFont::Week, GlyphClocks::Both, false, true, 2, 7,
-     {CLOCK_GLYPH_TR("PersiaMonday"), CLOCK_GLYPH_TR("PersiaTuesday"),
-      CLOCK_GLYPH_TR("PersiaWednesday"), CLOCK_GLYPH_TR("PersiaThursday"),
-      CLOCK_GLYPH_TR("PersiaFriday"), CLOCK_GLYPH_TR("PersiaSaturday"),
-      CLOCK_GLYPH_TR("PersiaSunday")}},
+     {QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "PersiaMonday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "PersiaTuesday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "PersiaWednesday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "PersiaThursday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "PersiaFriday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "PersiaSaturday"),
+      QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "PersiaSunday")}},
     {Glyph::Lunar, "_lunar", 0, GlyphShape::Text, GlyphWording::Translated,
-     GlyphFont::Lunar, GlyphClocks::Both, true, true, 3, 8, {CLOCK_GLYPH_TR("lunarString")}},
+     GlyphFont::Lunar, GlyphClocks::Both, true, true, 3, 8,
+     {QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "lunarString")}},
     {Glyph::EnMonth, "_dateEnMonth_", 12, GlyphShape::Text, GlyphWording::Verbatim,
      GlyphFont::Date, GlyphClocks::Both, true, true, 4, 13,
      {"Jan.", "Feb.", "Mar.", "Apr.", "May", "Jun.",
       "Jul.", "Aug.", "Sep.", "Oct.", "Nov.", "Dec."}},
     {Glyph::DateCh, "_dateCh", 0, GlyphShape::Text, GlyphWording::Translated,
-     GlyphFont::Date, GlyphClocks::Both, true, true, 5, 10, {CLOCK_GLYPH_TR("DateString")}},
+     GlyphFont::Date, GlyphClocks::Both, true, true, 5, 10,
+     {QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "DateString")}},
     {Glyph::DateChar, "_dateChar", 0, GlyphShape::Text, GlyphWording::Verbatim,
      GlyphFont::Date, GlyphClocks::Both, true, true, 6, 11, {",/"}},
     {Glyph::Space, "_space", 0, GlyphShape::Text, GlyphWording::Verbatim,
@@ -118,7 +126,8 @@ inline constexpr GlyphRow kGlyphTable[] = {
     {Glyph::AnalogPM, "_AnalogPM", 0, GlyphShape::Text, GlyphWording::Verbatim,
      GlyphFont::AmPm, GlyphClocks::Analog, true, true, 12, 3, {"PM"}},
     {Glyph::TimeCh, "_timeCh", 0, GlyphShape::Text, GlyphWording::Translated,
-     GlyphFont::Time, GlyphClocks::Digital, true, true, 10, 1, {CLOCK_GLYPH_TR("TimeString")}},
+     GlyphFont::Time, GlyphClocks::Digital, true, true, 10, 1,
+     {QT_TRANSLATE_NOOP("Lw::HNodeClock::DrwSourceIMage", "TimeString")}},
     {Glyph::TimeChar, "_timeChar", 0, GlyphShape::Text, GlyphWording::Verbatim,
      GlyphFont::Time, GlyphClocks::Digital, true, true, 11, 2, {":"}},
     {Glyph::TimeNumber, "_timeNumber", 0, GlyphShape::DigitStrip, GlyphWording::Verbatim,
@@ -130,7 +139,39 @@ inline constexpr GlyphRow kGlyphTable[] = {
 };
 // clang-format on
 
-#undef CLOCK_GLYPH_TR
+inline constexpr int kGlyphCount = static_cast<int>(std::size(kGlyphTable));
+/// The longest series.
+inline constexpr int kGlyphTexts = static_cast<int>(std::size(kGlyphTable[0].texts));
+
+constexpr bool GlyphTableFollowsEnumeration()
+{
+    for (int i = 0; i < kGlyphCount; ++i) {
+        if (kGlyphTable[i].glyph != static_cast<Glyph>(i))
+            return false;
+    }
+    return true;
+}
+static_assert(GlyphTableFollowsEnumeration(), "row i of the table must describe glyph i");
+
+constexpr bool EveryGlyphHasItsTexts()
+{
+    for (const GlyphRow &row : kGlyphTable) {
+        const bool drawsTexts =
+            row.shape == GlyphShape::Text && row.wording != GlyphWording::TopText;
+        const int expected = !drawsTexts ? 0 : row.count > 0 ? row.count : 1;
+        for (int i = 0; i < kGlyphTexts; ++i) {
+            if ((row.texts[i] != nullptr) != (i < expected))
+                return false;
+        }
+    }
+    return true;
+}
+static_assert(EveryGlyphHasItsTexts(), "a text for every image that shows one, and no more");
+
+constexpr const GlyphRow &RowOf(Glyph glyph)
+{
+    return kGlyphTable[static_cast<int>(glyph)];
+}
 
 /// One image of the set.
 struct GlyphImage
@@ -138,7 +179,8 @@ struct GlyphImage
     const GlyphRow *row;
     int number; ///< within its series from 1; 0 for a single image
 
-    QString Key() const;
+    const QString &Key() const;
+    /// Its text in the table; null for a digit strip and for the node's own text.
     const char *Text() const { return row->texts[number > 0 ? number - 1 : 0]; }
 };
 
@@ -148,11 +190,12 @@ enum class GlyphOrder { Generation, Bookkeeping };
 /// nor digital has the images common to both.
 QVector<GlyphImage> GlyphImages(GlyphOrder order, int clockType);
 
-/// The key of one image; made once for the process. A number outside the series gives an empty key.
+/// The key of one image; made once for the process. A number outside the series, which for a
+/// single image is any but 0, gives an empty key.
 const QString &GlyphKey(Glyph glyph, int number = 0);
 
-/// The attributes of the font that a clock of a type uses. Only the analog clock has an hour-scale
-/// and an AM/PM font, only the digital one a time font.
+/// The attributes of the font that a digital clock, or any other, uses. Only the analog clock has
+/// an hour-scale and an AM/PM font, only the digital one a time font: these are the same for all.
 struct GlyphFontAttributes
 {
     Attribute family;
