@@ -10,6 +10,22 @@
 
 namespace Lw::HNodeClock {
 
+/// A point of time as a clock shows it, in the Gregorian calendar.
+struct DisplayedFields
+{
+    int year = 0;      ///< there is no year 0: -1 goes before 1
+    int month = 0;     ///< 1 to 12
+    int day = 0;       ///< 1 to 31
+    int hour = 0;      ///< 0 to 23
+    int minute = 0;    ///< 0 to 59
+    int second = 0;    ///< 0 to 59
+    int dayOfWeek = 0; ///< 1 Monday to 7 Sunday
+};
+
+/// The fields of a reading in milliseconds since 1970-01-01 UTC, for every value: what a QDateTime
+/// tagged UTC would answer, without making one.
+DisplayedFields SplitReading(qint64 reading);
+
 /// A time of day written with two digits each as "hh:mm:ss"; invalid for every other text.
 QTime ParseTimeOfDay(const QString &text);
 
@@ -38,16 +54,47 @@ struct DaylightRule
 };
 
 /// Reads "month.occurrence.weekday.hh:mm:ss"; the occurrence may be "Last". Nothing for a text
-/// that is empty or malformed. A rule that is read may still name a day that no year has.
+/// that is empty or malformed or has a field out of range. A rule that is read may still name a
+/// day that the month does not have in a year, a fifth Sunday.
 std::optional<DaylightRule> ParseDaylightRule(const QString &text);
 
 /// The instant that a rule names in a year, as a reading of the zone's standard time tagged UTC;
-/// invalid when that year has no such day.
+/// invalid when that year has no such day, and for years outside 1 to 9999.
 QDateTime BoundaryInYear(const DaylightRule &rule, int year);
 
 /// Whether a standard-time reading lies in the period from start (inclusive) to end (exclusive),
 /// all in milliseconds. An end before the start wraps the new year; equal boundaries are no
 /// period.
 bool InDaylightPeriod(qint64 reading, qint64 start, qint64 end);
+
+/// Answers from frame to frame whether daylight saving is in force. Keeps what it made of the rule
+/// texts until they change, and the boundaries until the year changes; in between it neither parses
+/// nor allocates.
+class DaylightSaving
+{
+public:
+    static constexpr int kShiftSeconds = 3600;
+
+    /// Seconds to add to a standard-time reading (milliseconds, tagged UTC): kShiftSeconds in the
+    /// period from the start rule to the end rule of the reading's year, else 0. Always 0 when not
+    /// enabled, when a rule is empty, malformed or names a day that the year does not have, and
+    /// outside the years 1 to 9999.
+    int ShiftSeconds(bool enabled, const QString &start, const QString &end, qint64 reading);
+
+private:
+    void SetRules(const QString &start, const QString &end);
+    void MoveToYearOf(qint64 reading);
+
+    QString m_startText;
+    QString m_endText;
+    std::optional<DaylightRule> m_startRule;
+    std::optional<DaylightRule> m_endRule;
+    // The year that the boundaries are of, from its first to past its last millisecond.
+    qint64 m_yearBegin = 0;
+    qint64 m_yearEnd = 0;
+    bool m_hasPeriod = false;
+    qint64 m_periodStart = 0;
+    qint64 m_periodEnd = 0;
+};
 
 } // namespace Lw::HNodeClock

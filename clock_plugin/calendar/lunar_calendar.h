@@ -1,5 +1,10 @@
 // The Chinese lunar calendar of the years 1900 to 2050, from a table of month lengths.
 //
+// The table is kept as it is, with three errors against the calendar: in 1933 (22 July to 20
+// August) and 1996 (15 July to 13 August, 12 September to 11 October) the answers are one day
+// ahead; in 2033 it has a leap month 7 where the calendar has a leap month 11, so that from 25
+// August to 21 December the month is one too low.
+//
 // The functions outside the namespace are the ones that the host's side calls; they keep the
 // answer and the query in globals and must be entered from one thread only.
 #pragma once
@@ -43,24 +48,47 @@ extern CLOCK_EXPORT int s_month;
 extern CLOCK_EXPORT int s_day;
 extern CLOCK_EXPORT char returnstr[20];
 
-/// The lunar date as "month$day", the day with two digits ("3$05", "12$29"), in returnstr. Empty
-/// for a month outside February 1900 to February 2051. A day outside its month leaves the
-/// previous answer.
+/// The lunar date as "month$day", the day with two digits ("3$05", "12$29"), in returnstr, which
+/// the next call overwrites. Empty before 1 February 1900 and after 10 February 2051. A day outside
+/// its month leaves the previous answer.
 CLOCK_EXPORT char *LunarCalendarSetup(int year, int month, int day);
 /// Writes the answer for a day of s_year and s_month into returnstr.
 CLOCK_EXPORT void sub_menue(int day);
-/// The lunar date of the first day of a Gregorian month.
+/// The lunar date of the first day of a Gregorian month; all zero for a month outside February 1900
+/// to February 2051.
 CLOCK_EXPORT void get_lunar_info(int year, int month, Lunar_info *info, Chinese_era *era);
 
-CLOCK_EXPORT int leap(int year);                         ///< 366 for a Gregorian leap year, else 365
-CLOCK_EXPORT int day(int month);                         ///< days of a month of s_year
-CLOCK_EXPORT int get_solar_total(int year, int month);   ///< days from 1900-01-01 to the month's first
-CLOCK_EXPORT int get_week(int year, int month);          ///< weekday of the first: 1 Sunday to 7 Saturday
-CLOCK_EXPORT int get_leap_month(int year);               ///< 0 for none
-CLOCK_EXPORT int get_leap_month_day(int year);           ///< 0, 29 or 30
-CLOCK_EXPORT int get_lunar_month_total(int year, int month); ///< 29 or 30
+/// 366 for a Gregorian leap year, else 365.
+CLOCK_EXPORT int leap(int year);
+/// Days of a Gregorian month of s_year; 28 for a month outside 1 to 12.
+CLOCK_EXPORT int day(int month);
+/// Days from 1 January 1900 to the first of a Gregorian month, negative before it. The month is
+/// taken into 1 to 12, the answer into the range of int.
+CLOCK_EXPORT int get_solar_total(int year, int month);
+/// The weekday of the first of a Gregorian month: 1 Sunday to 7 Saturday.
+CLOCK_EXPORT int get_week(int year, int month);
+
+// Years outside the table have no leap month, and every month has 29 days, as have months outside
+// 1 to 12.
+
+/// The leap month of a lunar year, 0 for none.
+CLOCK_EXPORT int get_leap_month(int year);
+/// Days of the leap month: 29 or 30, 0 for none.
+CLOCK_EXPORT int get_leap_month_day(int year);
+/// Days of an ordinary lunar month: 29 or 30.
+CLOCK_EXPORT int get_lunar_month_total(int year, int month);
+/// Days of a lunar year, the leap month included.
 CLOCK_EXPORT int get_lunar_year_total(int year);
+
 /// The two characters of a cycle number in GB2312: four bytes and a zero.
 CLOCK_EXPORT void get_chinese_era(int cycle, char *out);
-/// The day of a lunar date as two digits and a zero.
+/// The day of a lunar date as two digits and a zero; empty for a day outside 1 to 30.
 CLOCK_EXPORT void out_chinese(Lunar_info *info, char *out);
+
+namespace Lw::HNodeClock {
+
+/// Whether the lunar calendar has an answer for a Gregorian day: 1 February 1900 to 10 February
+/// 2051, the last day of the lunar year 2050. False for a day that its month does not have.
+bool InLunarRange(int year, int month, int day);
+
+} // namespace Lw::HNodeClock

@@ -1,4 +1,8 @@
 // The Persian (Solar Hijri) calendar, counted from one fixed anchor. Pure.
+//
+// Leap years follow an arithmetic rule of 31 in 128 years, not the equinox. In the years 1993 to
+// 2060 the two part twice: from 20 March 2025 to 20 March 2026, and from 20 March 2058 to 20 March
+// 2059, the rule is one day ahead of the calendar of Iran.
 #pragma once
 
 #include <QDate>
@@ -12,11 +16,11 @@ struct PersianDate
     int day = -1;   ///< 1 to 31
 };
 
-/// Whether a Persian year has 366 days.
+/// Whether a Persian year has 366 days, for every int.
 bool IsPersianLeapYear(int year);
 
-/// The Persian date of a Gregorian one from 21 March 1993 on. Dates before it, invalid ones and
-/// those beyond the counted range have month and day -1.
+/// The Persian date of a Gregorian one from 21 March 1993 (1 Farvardin 1372) on. Dates before it
+/// and invalid ones give the year 1372 with month and day -1.
 PersianDate ToPersianDate(const QDate &date);
 
 } // namespace Lw::HNodeClock

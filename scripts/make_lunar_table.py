@@ -1,0 +1,93 @@
+#!/usr/bin/python3
+"""Makes tests/calendar/lunar_months.csv: every month of the Chinese calendar, 1900 to 2050.
+
+Run by hand (Debian: python3-ephem); neither the build nor the tests run it:
+
+    /usr/bin/python3 scripts/make_lunar_table.py > tests/calendar/lunar_months.csv
+
+The months come from the sky, not from any table of month lengths. A month begins on the day, at
+UTC+8, of a new moon. Month 11 is the month that holds the winter solstice. Where thirteen months
+begin from one month 11 to the next, the first of them without a major solar term (the sun's
+longitude a multiple of 30 degrees) is the leap month and repeats the number before it.
+
+Columns: first day, lunar year, month, leap (1 or 0), length in days.
+"""
+
+import datetime
+import math
+
+import ephem
+
+FIRST_YEAR, LAST_YEAR = 1900, 2050
+CHINA = datetime.timedelta(hours=8)
+
+
+def china_day(instant):
+    """The calendar day at UTC+8 of an instant that ephem gives in UTC."""
+    return (ephem.Date(instant).datetime() + CHINA).date()
+
+
+def new_moon_days(first_year, last_year):
+    days = []
+    instant = ephem.Date((first_year, 1, 1))
+    while instant < ephem.Date((last_year + 1, 1, 1)):
+        instant = ephem.next_new_moon(instant)
+        days.append(china_day(instant))
+        instant = ephem.Date(instant + 1)
+    return days
+
+
+def sun_longitude(instant):
+    """The sun's apparent longitude of date, in degrees."""
+    return math.degrees(ephem.Ecliptic(ephem.Sun(instant), epoch=instant).lon)
+
+
+def major_terms(first_year, last_year):
+    """Days on which the sun's longitude reaches a multiple of 30 degrees, with that multiple."""
+    terms = []
+    instant = ephem.Date((first_year, 1, 1))
+    while instant < ephem.Date((last_year + 1, 1, 1)):
+        target = math.floor(sun_longitude(instant) / 30 + 1) * 30
+        for _ in range(12):
+            behind = (target - sun_longitude(instant) + 180) % 360 - 180
+            instant = ephem.Date(instant + behind * 365.2422 / 360)
+        terms.append((china_day(instant), int(target) % 360))
+        instant = ephem.Date(instant + 1)
+    return terms
+
+
+def index_of_month(moons, day):
+    """The month, as an index of its first day, that holds a day."""
+    return max(i for i, first in enumerate(moons) if first <= day)
+
+
+def months_of_solstice_year(moons, terms, begin, end, year):
+    """Months from the one that holds a winter solstice up to the one that holds the next."""
+    numbers = [11, 12, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10]
+    leap_is_due = end - begin == 13
+    position = -1
+    for i in range(begin, end):
+        has_term = any(moons[i] <= day < moons[i + 1] for day, _ in terms)
+        is_leap = leap_is_due and not has_term
+        leap_is_due = leap_is_due and not is_leap
+        position += 0 if is_leap else 1
+        number = numbers[position]
+        yield moons[i], year + (position >= 2), number, int(is_leap), (moons[i + 1] - moons[i]).days
+
+
+def main():
+    moons = new_moon_days(FIRST_YEAR - 2, LAST_YEAR + 2)
+    terms = major_terms(FIRST_YEAR - 2, LAST_YEAR + 2)
+    solstices = {day.year: day for day, longitude in terms if longitude == 270}
+    print("first_day,year,month,leap,days")
+    for year in range(FIRST_YEAR - 1, LAST_YEAR + 1):
+        begin = index_of_month(moons, solstices[year])
+        end = index_of_month(moons, solstices[year + 1])
+        around = [t for t in terms if abs(t[0].year - year) <= 1]
+        for month in months_of_solstice_year(moons, around, begin, end, year):
+            if FIRST_YEAR <= month[1] <= LAST_YEAR:
+                print(*month, sep=",")
+
+
+if __name__ == "__main__":
+    main()
