@@ -1,8 +1,112 @@
 #include "glyph/draw_source_image.h"
 
+#include "glyph/hmd5.h"
+
+#include "happconfig.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QFont>
+#include <QGuiApplication>
 #include <QPainter>
+#include <QPixmap>
+#include <QSaveFile>
+
+#include <algorithm>
 
 namespace Lw::HNodeClock {
+
+namespace {
+
+constexpr int kFileKind = 3; // what the host calls a glyph image
+constexpr int kDigits = 10;
+constexpr int kDefaultPoints = 12;
+
+// The raster engine paints nothing beyond this coordinate.
+constexpr int kMaxSide = 32767;
+constexpr qint64 kMaxImageBytes = 64 * 1024 * 1024;
+constexpr qint64 kPixelBytes = 4;
+// No font above this size has a line that fits an image. Qt draws boxes of a fixed size instead of
+// glyphs from about twice as much on, which must not pass for the text.
+constexpr int kMaxPoints = kMaxSide;
+// Qt's text widths overflow at 2^25 pixels: so many characters stay below it at every size.
+constexpr int kMeasuredAtOnce = 256;
+
+/// Without antialiasing, so that every pixel is either background or stroke.
+QFont GlyphTypeface(const QString &family, int size)
+{
+    QFont font = QGuiApplication::font();
+    if (!family.isEmpty())
+        font = QFont(family);
+    font.setPointSize(size > 0 ? size : kDefaultPoints);
+    font.setWeight(QFont::Normal);
+    font.setItalic(false);
+    font.setStyleStrategy(QFont::NoAntialias);
+    return font;
+}
+
+int AdvanceWidth(const QFontMetrics &metrics, const QString &text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(text);
+#else
+    return metrics.width(text);
+#endif
+}
+
+/// The advance width of a text; for one that is far too wide for an image, a width that is.
+int TextWidth(const QFontMetrics &metrics, const QString &text)
+{
+    if (text.size() > kMeasuredAtOnce) {
+        qint64 estimate = 0;
+        for (int at = 0; at < text.size() && estimate <= 2 * kMaxSide; at += kMeasuredAtOnce)
+            estimate += AdvanceWidth(metrics, text.mid(at, kMeasuredAtOnce));
+        if (estimate > 2 * kMaxSide)
+            return kMaxSide + 1;
+    }
+    return AdvanceWidth(metrics, text);
+}
+
+/// Null for a size that is empty or beyond the bounds.
+QPixmap TransparentPixmap(int width, int height)
+{
+    const bool fits =
+        width <= kMaxSide && height <= kMaxSide && width * kPixelBytes * height <= kMaxImageBytes;
+    if (!fits || width <= 0 || height <= 0)
+        return QPixmap();
+    QPixmap pixmap(width, height);
+    pixmap.fill(Qt::transparent);
+    return pixmap;
+}
+
+bool Holds(const QString &path, const QByteArray &bytes)
+{
+    const QFileInfo info(path);
+    QFile file(path);
+    return info.isFile() && info.size() == bytes.size() && file.open(QFile::ReadOnly)
+        && file.readAll() == bytes;
+}
+
+/// Writes aside and renames, so that no half-written image ever stands under the name; a file that
+/// shows the same already is left alone.
+void SavePng(const QPixmap &pixmap, const QString &path)
+{
+    QByteArray png;
+    QBuffer buffer(&png);
+    if (!buffer.open(QBuffer::WriteOnly) || !pixmap.save(&buffer, "png") || Holds(path, png))
+        return;
+    QSaveFile file(path);
+    if (file.open(QSaveFile::WriteOnly) && file.write(png) == png.size())
+        file.commit();
+}
+
+constexpr GlyphFont kAnalogFonts[] = {GlyphFont::TopText, GlyphFont::AmPm,  GlyphFont::Date,
+                                      GlyphFont::Week,    GlyphFont::Lunar, GlyphFont::HourScale};
+constexpr GlyphFont kDigitalFonts[] = {GlyphFont::TopText, GlyphFont::Date, GlyphFont::Week,
+                                       GlyphFont::Lunar, GlyphFont::Time};
+
+} // namespace
 
 DrwSourceIMage::DrwSourceIMage() : m_painter(new QPainter) { }
 
@@ -11,6 +115,147 @@ DrwSourceIMage::~DrwSourceIMage()
     delete m_painter;
 }
 
-void DrwSourceIMage::DrawClockSourceImage(HClockNode *, bool, bool) { }
+void DrwSourceIMage::InitParameters(HClockNode *node)
+{
+    if (!node)
+        return;
+    m_clockType = node->GetAttributeToInt(Key(Attribute::ClockType));
+    if (m_clockType == AnalogClock) {
+        m_typePrefix = QStringLiteral("analog_");
+        m_topText = node->GetAttribute(Key(Attribute::AnalogTopText));
+        for (GlyphFont font : kAnalogFonts)
+            ReadFont(node, font);
+    } else if (m_clockType == DigitalClock) {
+        m_typePrefix = QStringLiteral("digital_");
+        m_topText = node->GetAttribute(Key(Attribute::DigitalTopText));
+        for (GlyphFont font : kDigitalFonts)
+            ReadFont(node, font);
+    }
+}
+
+void DrwSourceIMage::ReadFont(HClockNode *node, GlyphFont font)
+{
+    const GlyphFontAttributes attributes = FontAttributes(font, m_clockType);
+    m_fonts[static_cast<int>(font)] = {node->GetAttribute(Key(attributes.family)),
+                                       node->GetAttributeToInt(Key(attributes.size)),
+                                       node->GetAttributeToInt(Key(attributes.colour))};
+}
+
+void DrwSourceIMage::DrawClockSourceImage(HClockNode *node, bool calcMD5, bool isTempUpdate)
+{
+    if (!node)
+        return;
+    m_isTempUpdate = isTempUpdate;
+    m_calcMd5 = calcMD5;
+    InitParameters(node);
+    if (m_clockType == PictureClock)
+        return;
+    const QString id = QString::number(node->GetAttributeToInt(Key(Attribute::Id)));
+    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, m_clockType))
+        DrawGlyph(node, image, id);
+}
+
+void DrwSourceIMage::DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id)
+{
+    const FontSettings &font = m_fonts[static_cast<int>(image.row->font)];
+    const QString &key = image.Key();
+    const QString fileSuffix = key + QLatin1String(".png");
+    if (image.row->shape == GlyphShape::DigitStrip)
+        DrawNumberImage(node, key, id, font.family, font.size, font.colour, fileSuffix);
+    else
+        DrawImage(node, key, TextOf(image), id, font.family, font.size, font.colour, fileSuffix);
+}
+
+QString DrwSourceIMage::TextOf(const GlyphImage &image) const
+{
+    switch (image.row->wording) {
+    case GlyphWording::TopText:
+        return m_topText;
+    case GlyphWording::Translated:
+        return tr(image.Text());
+    case GlyphWording::Verbatim:
+        break;
+    }
+    return QString::fromLatin1(image.Text());
+}
+
+void DrwSourceIMage::DrawImage(HClockNode *node, QString key, QString text, QString id,
+                               QString family, int size, int colour, QString fileSuffix)
+{
+    const QString directory =
+        m_isTempUpdate ? HAppConfig::TempProgramImagePath() : HAppConfig::ClockOutputPath();
+    const QString path = directory + m_typePrefix + id + fileSuffix;
+    if (size <= kMaxPoints) {
+        const QFont font = GlyphTypeface(family, size);
+        const QFontMetrics metrics(font);
+        QPixmap pixmap = TransparentPixmap(TextWidth(metrics, text), metrics.height());
+        if (!pixmap.isNull()) {
+            BeginGlyphs(&pixmap, font, colour);
+            m_painter->drawText(pixmap.rect(), Qt::AlignCenter, text);
+            // Saved while the painter is still at work on it; a strip, after it has ended.
+            SavePng(pixmap, path);
+            m_painter->end();
+        }
+    }
+    Record(node, key, path);
+}
+
+void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, QString family,
+                                     int size, int colour, QString fileSuffix)
+{
+    // Always the regular directory: strips are shared by a program and its temporary updates.
+    const QString path = HAppConfig::ClockOutputPath() + m_typePrefix + id + fileSuffix;
+    if (size <= kMaxPoints) {
+        const QFont font = GlyphTypeface(family, size);
+        const QFontMetrics metrics(font);
+        const int cell = GetNumberMaxWidth(metrics);
+        QPixmap pixmap = TransparentPixmap(kDigits * cell, metrics.height());
+        if (!pixmap.isNull()) {
+            BeginGlyphs(&pixmap, font, colour);
+            for (int digit = 0; digit < kDigits; ++digit)
+                m_painter->drawText(QRect(digit * cell, 0, cell, pixmap.height()), Qt::AlignCenter,
+                                    QString::number(digit));
+            m_painter->end();
+            SavePng(pixmap, path);
+        }
+    }
+    Record(node, key, path);
+}
+
+void DrwSourceIMage::BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour)
+{
+    m_painter->begin(pixmap);
+    m_painter->setFont(font);
+    m_painter->setPen(IntToQColor(colour));
+}
+
+void DrwSourceIMage::Record(HClockNode *node, const QString &key, const QString &path)
+{
+    if (!node)
+        return;
+    if (!m_calcMd5) {
+        node->SetFilePath(key, path, QString(), -1, kFileKind);
+        return;
+    }
+    const QString digested = HMD5::GeneratorFile(path);
+    const QFileInfo file(digested);
+    const bool readable = !digested.isEmpty();
+    node->SetFilePath(key, digested, readable ? file.baseName() : QString(),
+                      readable ? file.size() : 0, kFileKind);
+}
+
+int DrwSourceIMage::GetNumberMaxWidth(QFontMetrics metrics)
+{
+    int widest = 0;
+    for (int digit = 0; digit < kDigits; ++digit)
+        widest = std::max(widest, AdvanceWidth(metrics, QString::number(digit)));
+    return widest;
+}
+
+QColor DrwSourceIMage::IntToQColor(int colour)
+{
+    const auto bits = static_cast<unsigned int>(colour);
+    return QColor(bits & 0xff, bits >> 8 & 0xff, bits >> 16 & 0xff);
+}
 
 } // namespace Lw::HNodeClock

@@ -3,6 +3,7 @@
 
 #include "clock_export.h"
 #include "clock_node.h"
+#include "glyph/glyph_set.h"
 
 #include <QColor>
 #include <QFontMetrics>
@@ -10,12 +11,18 @@
 #include <QString>
 
 QT_BEGIN_NAMESPACE
+class QFont;
 class QPainter;
+class QPixmap;
 QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
 
 /// Lives for one generation: made, called once, deleted.
+///
+/// Nothing is reported. An image that cannot be made or written leaves the file of its name as it
+/// was, and is recorded all the same. That is one of width 0, one above 32767 pixels a side or
+/// 64 MiB, and any of a font above 32767 points.
 class CLOCK_EXPORT DrwSourceIMage : public QObject
 {
     Q_OBJECT
@@ -24,9 +31,15 @@ public:
     DrwSourceIMage();
     ~DrwSourceIMage() override;
 
+    /// Takes type, top text and fonts of the node. Of a clock that is neither analog nor digital
+    /// only the type is taken.
     void InitParameters(HClockNode *node);
+    /// Writes one text in an image as wide as its advance and as high as its font, and records the
+    /// file on the node under the key. An empty family is the application's default font; a size
+    /// of 0 or less is 12 points; the colour is as for IntToQColor.
     void DrawImage(HClockNode *node, QString key, QString text, QString id, QString family,
                    int size, int colour, QString fileSuffix);
+    /// Likewise the digits 0 to 9, in ten cells of the widest digit's advance.
     void DrawNumberImage(HClockNode *node, QString key, QString id, QString family, int size,
                          int colour, QString fileSuffix);
     int GetNumberMaxWidth(QFontMetrics metrics); ///< the widest advance among "0" to "9", in pixels
@@ -35,11 +48,30 @@ public:
 public Q_SLOTS:
     /// Writes the node's whole set and records every file on it. With calcMD5 each file gets its
     /// digest name; with isTempUpdate the text images go to the temporary image directory, the
-    /// digit strips to the clock output directory all the same.
+    /// digit strips to the clock output directory all the same. A picture clock has no set.
     void DrawClockSourceImage(HClockNode *node, bool calcMD5 = false, bool isTempUpdate = false);
 
 private:
+    struct FontSettings
+    {
+        QString family;
+        int size = 0; // points
+        int colour = 0;
+    };
+
+    void ReadFont(HClockNode *node, GlyphFont font);
+    void DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id);
+    QString TextOf(const GlyphImage &image) const;
+    void BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour);
+    void Record(HClockNode *node, const QString &key, const QString &path);
+
     QPainter *m_painter;
+    FontSettings m_fonts[kGlyphFontCount];
+    QString m_topText;
+    QString m_typePrefix;
+    int m_clockType = 0;
+    bool m_calcMd5 = false;
+    bool m_isTempUpdate = false;
 };
 
 } // namespace Lw::HNodeClock

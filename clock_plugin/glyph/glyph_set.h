@@ -53,6 +53,7 @@ enum class GlyphWording {
 
 /// Which of the node's fonts an image uses.
 enum class GlyphFont { TopText, Week, Lunar, Date, HourScale, AmPm, Time };
+inline constexpr int kGlyphFontCount = static_cast<int>(GlyphFont::Time) + 1;
 
 enum class GlyphClocks { Both, Analog, Digital };
 

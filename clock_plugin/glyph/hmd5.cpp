@@ -81,11 +81,14 @@ void WriteLittleEndian(unsigned char *bytes, unsigned long word)
         bytes[i] = static_cast<unsigned char>(word >> (8 * i) & 0xff);
 }
 
-/// Only regular files are read: a device or a pipe might never end.
 bool OpenForReading(QFile &file, const QString &path)
 {
     file.setFileName(path);
-    return (!QFileInfo::exists(path) || QFileInfo(path).isFile()) && file.open(QFile::ReadOnly);
+    file.unsetError();
+    // A device or a pipe might never end; that a directory cannot be read, opening it says.
+    const QFileInfo info(path);
+    const bool endless = info.exists() && !info.isFile() && !info.isDir();
+    return !endless && file.open(QFile::ReadOnly);
 }
 
 /// The digest of an open file in lowercase hexadecimal; empty where reading fails on the way.
