@@ -273,7 +273,7 @@ inline constexpr AttributeRow kAttributeTable[] = {
      "size of the lunar date in points"},
     {Attribute::DigitalLunarColor, "DigitalLunarColor", ValueKind::Colour, Default::Stored, 0xffff00, "", Redraw::Yes,
      "colour of the lunar date"},
-    {Attribute::Analog_Lunar_d, "Analog_Lunar_d", ValueKind::Flag, Default::Absent, 0, "", Redraw::No,
+    {Attribute::Analog_Lunar_d, "Analog_Lunar_d", ValueKind::Flag, Default::Absent, 0, "", Redraw::Yes,
      "analog: show the lunar date"},
     {Attribute::Digital_Lunar_d, "Digital_Lunar_d", ValueKind::Flag, Default::Absent, 0, "", Redraw::No,
      "digital: show the lunar date"},

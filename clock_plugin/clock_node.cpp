@@ -1,8 +1,31 @@
 #include "clock_node.h"
 
+#include "clock_sdk_tables.h"
+
+#include "happconfig.h"
+
+#include <QColor>
 #include <QDomElement>
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QTime>
 
 namespace Lw::HNodeClock {
+
+namespace {
+
+/// Two draws whose mean lies in 0..999: numbers in the middle come up more often.
+int DrawIdentity()
+{
+    const auto draw = [] {
+        return static_cast<int>(QRandomGenerator::global()->generate() % 1000);
+    };
+    const int first = draw();
+    const int second = draw();
+    return (first + second) / 2 + 1000;
+}
+
+} // namespace
 
 HClockNode::HClockNode()
 {
@@ -13,6 +36,8 @@ HClockNode::~HClockNode() = default;
 
 void HClockNode::Store(Attribute attribute, int value)
 {
+    if (attribute == Attribute::AnalogSpace || attribute == Attribute::AnalogSwapArea)
+        m_analogRowsWritten = true;
     SetAttribute(Key(attribute), value, false);
     if (RowOf(attribute).redraw == Redraw::Yes)
         emit ReDrawSourceImage();
@@ -32,7 +57,7 @@ QString HClockNode::Type()
 
 bool HClockNode::NodeMatch(QDomElement &element)
 {
-    return element.tagName() == QLatin1String("clock");
+    return element.tagName() == QLatin1String(Sdk::kClock);
 }
 
 int HClockNode::Duration()
@@ -40,11 +65,297 @@ int HClockNode::Duration()
     return 6000;
 }
 
+// A listener of the redraws may delete the node half way.
+void HClockNode::InitData()
+{
+    const QPointer<HClockNode> self(this);
+    for (const AttributeRow &row : kAttributeTable) {
+        if (!self)
+            return;
+        StoreDefault(row);
+    }
+}
+
+void HClockNode::StoreDefault(const AttributeRow &row)
+{
+    switch (row.origin) {
+    case Default::Absent:
+        return;
+    case Default::Computed:
+        return StoreComputedDefault(row.attribute);
+    case Default::Translated:
+        return Store(row.attribute, tr(row.text));
+    case Default::Stored:
+        break;
+    }
+    if (row.kind == ValueKind::Text)
+        return Store(row.attribute, QString::fromLatin1(row.text));
+    if (row.kind == ValueKind::Colour)
+        return Store(row.attribute,
+                     Lw::HAppConfig::ColorToInt(QColor(static_cast<QRgb>(row.number))));
+    Store(row.attribute, row.number);
+}
+
+// The zone carries no sign, unlike those that editors store, and one west of Greenwich appears as
+// the time of day that it is there at midnight UTC: -5 hours as "19:00".
+void HClockNode::StoreComputedDefault(Attribute attribute)
+{
+    if (attribute == Attribute::Id)
+        return Store(attribute, DrawIdentity());
+    int offsetSeconds = 0;
+    bool daylightSaving = false;
+    Lw::HAppConfig::instance()->GetTimeInfo(offsetSeconds, daylightSaving);
+    if (attribute == Attribute::TimeZone)
+        return SetTimeZone(QTime(0, 0).addSecs(offsetSeconds).toString(QStringLiteral("hh:mm")));
+    Store(attribute, daylightSaving ? 1 : 0);
+}
+
 int HClockNode::ClockType()
 {
     return GetAttributeToInt(Key(Attribute::ClockType));
 }
 
-void HClockNode::InitData() { }
+int HClockNode::DigitalSwapArea()
+{
+    return GetAttributeToInt(Key(Attribute::DigitalSwapArea));
+}
+
+int HClockNode::Digital_TopText_d()
+{
+    return GetAttributeToInt(Key(Attribute::Digital_TopTexy_d));
+}
+
+int HClockNode::Digital_Date_d()
+{
+    return GetAttributeToInt(Key(Attribute::Digital_Date_d));
+}
+
+int HClockNode::Digital_Week_d()
+{
+    return GetAttributeToInt(Key(Attribute::Digital_Week_d));
+}
+
+int HClockNode::Digital_Time_d()
+{
+    return GetAttributeToInt(Key(Attribute::Digital_Time_d));
+}
+
+int HClockNode::Digital_Lunar_d()
+{
+    return GetAttributeToInt(Key(Attribute::Digital_Lunar_d));
+}
+
+// Widened before its sign is taken off: the smallest int has no positive counterpart.
+void HClockNode::SetTimeAdjust(int seconds)
+{
+    constexpr qint64 kSecondsOfDay = 24 * 60 * 60;
+    const auto magnitude = static_cast<int>(qAbs(qint64(seconds)) % kSecondsOfDay);
+    const QPointer<HClockNode> self(this);
+    Store(Attribute::AdjustType, seconds < 0 ? 1 : 0);
+    if (self)
+        Store(Attribute::TimeAdjust,
+              QTime(0, 0).addSecs(magnitude).toString(QStringLiteral("hh'A'mm'B'ss")));
+}
+
+void HClockNode::SetTimeZone(QString zone)
+{
+    Store(Attribute::TimeZone, zone);
+}
+
+void HClockNode::SetDaylightSavingTimeStart(QString rule)
+{
+    Store(Attribute::DaylightSavingTimeStart, rule);
+}
+
+void HClockNode::SetDaylightSavingTimeEnd(QString rule)
+{
+    Store(Attribute::DaylightSavingTimeEnd, rule);
+}
+
+void HClockNode::SetHourScaleFName(QString family)
+{
+    Store(Attribute::HourScaleFName, family);
+}
+
+void HClockNode::SetHourScaleFSize(int points)
+{
+    Store(Attribute::HourScaleFSize, points);
+}
+
+void HClockNode::SetAnalog_AMPM_d(int shown)
+{
+    Store(Attribute::Analog_AMPM_d, shown);
+}
+
+void HClockNode::SetAnalogAMPMFName(QString family)
+{
+    Store(Attribute::AnalogAMPMFName, family);
+}
+
+void HClockNode::SetAnalogAMPMFSize(int points)
+{
+    Store(Attribute::AnalogAMPMFSize, points);
+}
+
+void HClockNode::SetAnalogAMPMColor(int colour)
+{
+    Store(Attribute::AnalogAMPMColor, colour);
+}
+
+void HClockNode::SetAnalogTopText(QString text)
+{
+    Store(Attribute::AnalogTopText, text);
+}
+
+void HClockNode::SetAnalogTopTextFName(QString family)
+{
+    Store(Attribute::AnalogTopTextFName, family);
+}
+
+void HClockNode::SetAnalogTopTextFSize(int points)
+{
+    Store(Attribute::AnalogTopTextFSize, points);
+}
+
+void HClockNode::SetAnalogTopTextColor(int colour)
+{
+    Store(Attribute::AnalogTopTextColor, colour);
+}
+
+void HClockNode::SetAnalogDateType(int code)
+{
+    Store(Attribute::AnalogDateType, code);
+}
+
+void HClockNode::SetAnalogDateFName(QString family)
+{
+    Store(Attribute::AnalogDateFName, family);
+}
+
+void HClockNode::SetAnalogDateFSize(int points)
+{
+    Store(Attribute::AnalogDateFSize, points);
+}
+
+void HClockNode::SetAnalogDateColor(int colour)
+{
+    Store(Attribute::AnalogDateColor, colour);
+}
+
+void HClockNode::SetAnalogWeekType(int code)
+{
+    Store(Attribute::AnalogWeekType, code);
+}
+
+void HClockNode::SetAnalogWeekFName(QString family)
+{
+    Store(Attribute::AnalogWeekFName, family);
+}
+
+void HClockNode::SetAnalogWeekFSize(int points)
+{
+    Store(Attribute::AnalogWeekFSize, points);
+}
+
+void HClockNode::SetAnalogWeekColor(int colour)
+{
+    Store(Attribute::AnalogWeekColor, colour);
+}
+
+void HClockNode::SetAnalogLunarFName(QString family)
+{
+    Store(Attribute::AnalogLunarFName, family);
+}
+
+void HClockNode::SetAnalogLunarFSize(int points)
+{
+    Store(Attribute::AnalogLunarFSize, points);
+}
+
+void HClockNode::SetAnalogLunarColor(int colour)
+{
+    Store(Attribute::AnalogLunarColor, colour);
+}
+
+void HClockNode::SetDigitalDisplayMode(int mode)
+{
+    Store(Attribute::DigitalDisplayMode, mode);
+}
+
+void HClockNode::SetDigitalTopText(QString text)
+{
+    Store(Attribute::DigitalTopText, text);
+}
+
+void HClockNode::SetDigitalTopTextColor(int colour)
+{
+    Store(Attribute::DigitalTopTextColor, colour);
+}
+
+void HClockNode::SetDigitalDateType(int code)
+{
+    Store(Attribute::DigitalDateType, code);
+}
+
+void HClockNode::SetDigitalDateFName(QString family)
+{
+    Store(Attribute::DigitalDateFName, family);
+}
+
+void HClockNode::SetDigitalDateColor(int colour)
+{
+    Store(Attribute::DigitalDateColor, colour);
+}
+
+void HClockNode::SetDigitalTimeType(int code)
+{
+    Store(Attribute::DigitalTimeType, code);
+}
+
+void HClockNode::SetDigitalTimeFName(QString family)
+{
+    Store(Attribute::DigitalTimeFName, family);
+}
+
+void HClockNode::SetDigitalTimeColor(int colour)
+{
+    Store(Attribute::DigitalTimeColor, colour);
+}
+
+void HClockNode::SetDigitalWeekType(int code)
+{
+    Store(Attribute::DigitalWeekType, code);
+}
+
+void HClockNode::SetDigitalWeekFName(QString family)
+{
+    Store(Attribute::DigitalWeekFName, family);
+}
+
+void HClockNode::SetDigitalWeekColor(int colour)
+{
+    Store(Attribute::DigitalWeekColor, colour);
+}
+
+void HClockNode::SetDigitalLunarFName(QString family)
+{
+    Store(Attribute::DigitalLunarFName, family);
+}
+
+void HClockNode::SetDigitalLunarColor(int colour)
+{
+    Store(Attribute::DigitalLunarColor, colour);
+}
+
+int HClockNode::CovertDisplay(QString text)
+{
+    return Lw::BooleanToInt(text);
+}
+
+int HClockNode::LWColorToInt(LWColor colour)
+{
+    const auto channel = [colour](int shift) { return static_cast<int>(colour >> shift & 0xff); };
+    return Lw::HAppConfig::ColorToInt(QColor(channel(0), channel(8), channel(16)));
+}
 
 } // namespace Lw::HNodeClock

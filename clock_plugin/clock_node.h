@@ -18,6 +18,10 @@ QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
 
+enum class Conversion;
+struct ExportSource;
+struct ImportElement;
+
 /// Every glyph file moved by an export, and its digest at the same index. One pair for the
 /// process; only appended to, cleared by nobody here.
 extern CLOCK_EXPORT QStringList fileList;
@@ -33,15 +37,21 @@ public:
     ~HClockNode() override;
 
     // The host's operations.
-    QString Type() override; ///< "LW_Clock_Plugin"
+    QString Type() override;                       ///< "LW_Clock_Plugin"
     bool NodeMatch(QDomElement &element) override; ///< whether the tag is "clock"
+    /// Takes over what an SDK clock element says; what it does not mention stays. False for a null
+    /// element and for a type that is neither analog nor digital: then only its font was taken.
     bool UpdateNode(QDomElement element, QList<Lw::FileInfo> &files) override;
+    /// Appends the clock's element to the parent. Fonts, sizes, spacing and layout are not part of
+    /// that form, nor is anything of a picture clock but its zone and adjustment.
     void CoverToSDKFormate(QDomElement &parent, Lw::GetProgramModel model) override;
+    /// Makes the digest-named glyph images of a node that has no files yet.
     void AfterUpdate(bool isTemp) override;
-    bool NodeAlready(int reason) override;
-    bool AllFileExists() override;
-    void InitData() override;
-    int Duration() override; ///< 6000 milliseconds
+    bool NodeAlready(int reason) override; ///< makes the plainly named glyph images; always true
+    bool AllFileExists() override;         ///< a picture clock needs none
+    void InitData() override; ///< writes the default of every row of the attribute table, in order
+    int Duration() override;  ///< 6000 milliseconds
+    /// Appends the node's files that lie in a temporary program's directory; prints the others.
     void GetSDKTempFile(QList<QFileInfo> &out) override;
 
     // Getters.
@@ -97,9 +107,10 @@ public:
     void SetDigitalLunarColor(int colour);
 
     int CovertDisplay(QString text); ///< the SDK's "true" and "false" as 1 and 0
-    int LWColorToInt(LWColor colour); ///< the stored int of a packed colour; its top byte is ignored
+    int
+    LWColorToInt(LWColor colour); ///< the stored int of a packed colour; its top byte is ignored
 
-    // SDK XML.
+    // SDK XML. The keys are of attributes; what the node does not have is not written.
     void ClockSubnodeCoverToSDK(QDomElement &element, QString valueKey, QString colorKey,
                                 QString displayKey);
     void LunarCoverToSDK(QDomElement &element, QString colorKey, QString displayKey);
@@ -109,18 +120,35 @@ public:
     bool PatchDigital(QDomElement &element);
 
     // Glyph files.
+    /// Whether a file exists for every key; prints the first that has none.
     bool CheckFileExists(QStringList keys);
+    /// Moves the node's glyph images under their digests' names into destDir, which ends in a
+    /// separator, and records them there. The images must carry their plain names: after an
+    /// AfterUpdate or an earlier call there is nothing to move, and the records lose their files.
     void ProcessFileName(QString destDir);
+    /// The same for the one image called name + key. No image is lost: it goes only where the same
+    /// bytes stand under the digest's name. The record and the entries of both lists are made even
+    /// for an image that is missing or cannot be moved.
     void SetFileInfo(QString name, QString key, QString destDir);
+    /// Records every "file" child on the node, as it stands, and appends it to files.
     void ProcFile(QDomElement &element, QList<Lw::FileInfo> &files);
 
 Q_SIGNALS:
-    void ReDrawSourceImage(); ///< the glyph images must be made again
+    void ReDrawSourceImage();     ///< the glyph images must be made again
     void SizeChanged(QSize size); ///< declared for the host; never emitted here
 
 private:
+    // Write one attribute and emit ReDrawSourceImage() where its row of the table says so. A
+    // listener may have deleted the node by the time they return.
     void Store(Attribute attribute, int value);
     void Store(Attribute attribute, const QString &value);
+    void StoreDefault(const AttributeRow &row);
+    void StoreComputedDefault(Attribute attribute);
+
+    void Import(const QDomElement &clock, const ImportElement *begin, const ImportElement *end);
+    void Apply(Attribute target, Conversion conversion, const QString &text);
+    QString SdkAdjust(); // the stored adjustment as the SDK writes it
+    void CoverChildToSDK(QDomElement &child, const ExportSource &source);
 
     // True once the analog spacing or swap was written. Kept for the host; nothing here reads it.
     bool m_analogRowsWritten = false;

@@ -1,38 +1,226 @@
 // The node's side of its glyph files: when they are made, whether they are there, how they travel.
 #include "clock_node.h"
 
+#include "clock_sdk_tables.h"
 #include "glyph/draw_source_image.h"
+#include "glyph/glyph_set.h"
+#include "glyph/hmd5.h"
 
+#include "happconfig.h"
+
+#include <QDir>
 #include <QDomElement>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cstdio>
+#include <sys/stat.h>
 
 namespace Lw::HNodeClock {
 
 QStringList fileList;
 QStringList fileMd5List;
 
+namespace {
+
+constexpr char kLogSource[] = "clock_node.cpp";
+constexpr int kImageFile = 3; // the host's kind of a recorded image
+
+/// By what the file system says, for one file has many spellings: links, "..", bind mounts.
+bool AreOneFile(const QString &path, const QString &other)
+{
+    struct stat first;
+    struct stat second;
+    return stat(QFile::encodeName(path).constData(), &first) == 0
+        && stat(QFile::encodeName(other).constData(), &second) == 0 && first.st_dev == second.st_dev
+        && first.st_ino == second.st_ino;
+}
+
+/// The copy appears under its name only when it is complete and on the disk.
+bool CopyWhole(const QString &source, const QString &dest)
+{
+    QFile in(source);
+    QSaveFile out(dest);
+    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
+        return false;
+    const QByteArray bytes = in.readAll();
+    return in.error() == QFile::NoError && out.write(bytes) == bytes.size() && out.commit();
+}
+
+/// A rename that also replaces what stands at dest. Between file systems it is a copy whose
+/// original goes only after the copy was read back; QFile::rename removes the original while the
+/// copy may still be in its buffer, and a full device then has neither.
+void MoveOver(const QString &source, const QString &dest, const QString &digest)
+{
+    QDir().rmdir(dest); // an empty directory holds nothing; any other entry refuses
+    if (std::rename(QFile::encodeName(source).constData(), QFile::encodeName(dest).constData()) == 0
+        || errno != EXDEV)
+        return;
+    if (QFileInfo(dest).isSymLink())
+        QFile::remove(dest); // the link, not what it leads to
+    if (CopyWhole(source, dest) && HMD5::FileDigest(dest) == digest)
+        QFile::remove(source);
+}
+
+/// Brings an image to its place under its digest's name. The image is removed only where the same
+/// bytes certainly stand at dest; a dest that does not hold what its name says is replaced.
+void MoveToDigestName(const QString &source, const QString &dest, const QString &digest)
+{
+    if (digest.isEmpty() || AreOneFile(source, dest))
+        return;
+    if (HMD5::FileDigest(dest) == digest)
+        QFile::remove(source);
+    else
+        MoveOver(source, dest, digest);
+}
+
+/// The clock type that an element names; nothing where its type is a word of no kind of clock.
+std::optional<int> ClockTypeIn(const QDomElement &element)
+{
+    const QDomElement clockCom = element.firstChildElement(QLatin1String(Sdk::kClockCom));
+    if (!clockCom.isNull())
+        return clockCom.attribute(QLatin1String(Sdk::kClockType), QStringLiteral("-1")).toInt();
+    const QString named =
+        element.attribute(QLatin1String(Sdk::kType), QLatin1String(Sdk::kTypeNames[AnalogClock]));
+    for (const int type : {AnalogClock, DigitalClock, PictureClock}) {
+        if (named == QLatin1String(Sdk::kTypeNames[type]))
+            return type;
+    }
+    return {};
+}
+
+bool IsTemporaryProgramFile(const QString &path)
+{
+    return path.contains(QLatin1String("/root/Box/project/temp/project/"))
+        || path.contains(QLatin1String("/tmp/lwTempProgram/"));
+}
+
+} // namespace
+
 bool HClockNode::NodeAlready(int)
 {
+    if (ClockType() != PictureClock)
+        DrwSourceIMage().DrawClockSourceImage(this, false, false);
     return true;
 }
 
 void HClockNode::AfterUpdate(bool isTemp)
 {
-    Lw::HContentNode::AfterUpdate(isTemp);
+    if (ClockType() == PictureClock && !TakesPartInUpdate())
+        return;
+    QList<Lw::HSendFileInfo> files;
+    GetAllFileList(files);
+    if (!files.isEmpty())
+        return;
+    DrwSourceIMage().DrawClockSourceImage(this, true, isTemp);
+    GetAllFileList(files); // lets the host take notice of the new files
 }
 
 bool HClockNode::AllFileExists()
 {
-    return Lw::HContentNode::AllFileExists();
+    const int clockType = ClockType();
+    if (clockType == PictureClock)
+        return true;
+    QStringList keys;
+    for (const GlyphImage &image : GlyphImages(GlyphOrder::Bookkeeping, clockType)) {
+        if (image.row->required)
+            keys.append(image.Key());
+    }
+    return CheckFileExists(keys);
+}
+
+bool HClockNode::CheckFileExists(QStringList keys)
+{
+    for (const QString &key : qAsConst(keys)) {
+        const QString path = GetFirstFile(key);
+        if (QFile::exists(path))
+            continue;
+        std::printf("[%s::%s::%d]\"File [%s] key[%s]not exists\"\n", kLogSource, "CheckFileExists",
+                    790, qUtf8Printable(path), qUtf8Printable(key));
+        return false;
+    }
+    return true;
+}
+
+void HClockNode::ProcessFileName(QString destDir)
+{
+    const int clockType = ClockType();
+    if (clockType == PictureClock)
+        return;
+    const QString prefix =
+        clockType == DigitalClock ? QStringLiteral("digital_") : QStringLiteral("analog_");
+    const QString name = prefix + QString::number(GetAttributeToInt(Key(Attribute::Id)));
+    for (const GlyphImage &image : GlyphImages(GlyphOrder::Bookkeeping, clockType)) {
+        if (image.row->exported)
+            SetFileInfo(name, image.Key(), destDir);
+    }
+}
+
+void HClockNode::SetFileInfo(QString name, QString key, QString destDir)
+{
+    const QString suffix = QStringLiteral(".png");
+    const QString source = Lw::HAppConfig::ClockOutputPath() + name + key + suffix;
+    const QString digest = HMD5::FileDigest(source);
+    const QString dest = destDir + digest + suffix;
+    std::printf("[%s::%s::%d]\"soucepath[%s], dest[%s]\"\n", kLogSource, "SetFileInfo", 839,
+                qUtf8Printable(source), qUtf8Printable(dest));
+    MoveToDigestName(source, dest, digest);
+    fileList.append(dest);
+    fileMd5List.append(digest);
+    SetFilePath(key, dest, digest, -1, kImageFile);
 }
 
 void HClockNode::GetSDKTempFile(QList<QFileInfo> &out)
 {
-    Lw::HContentNode::GetSDKTempFile(out);
+    QList<Lw::HSendFileInfo> files;
+    GetAllFileList(files);
+    for (const Lw::HSendFileInfo &file : qAsConst(files)) {
+        if (IsTemporaryProgramFile(file.path)) {
+            out.append(QFileInfo(file.path));
+            continue;
+        }
+        std::printf("[%s::%s::%d]\"not in temp file[%s],md5[%s],exists:%d\"\n", kLogSource,
+                    "GetSDKTempFile", 827, qUtf8Printable(file.path), qUtf8Printable(file.md5),
+                    QFile::exists(file.path) ? 1 : 0);
+    }
 }
 
-bool HClockNode::UpdateNode(QDomElement, QList<Lw::FileInfo> &)
+// The font takes effect before the type is judged: an element that is refused for its type has
+// set its font all the same.
+bool HClockNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &files)
 {
-    return false;
+    if (element.isNull())
+        return false;
+    const QPointer<HClockNode> self(this);
+    Import(element, std::begin(kFontImport), std::end(kFontImport));
+    const std::optional<int> type = ClockTypeIn(element);
+    if (!self || (type != DigitalClock && type != AnalogClock))
+        return false;
+    *type == DigitalClock ? PatchDigital(element) : PatchAnalog(element);
+    if (self)
+        Store(Attribute::ClockType, *type);
+    if (self)
+        Import(element, std::begin(kTimeImport), std::end(kTimeImport));
+    if (self)
+        ProcFile(element, files);
+    return !self.isNull();
+}
+
+void HClockNode::ProcFile(QDomElement &element, QList<Lw::FileInfo> &files)
+{
+    const QString tag = QLatin1String(Sdk::kFile);
+    for (QDomElement file = element.firstChildElement(tag); !file.isNull();
+         file = file.nextSiblingElement(tag)) {
+        const QString md5 = file.attribute(QStringLiteral("md5"));
+        const quint64 size = file.attribute(QStringLiteral("size")).toULongLong();
+        const QString path = file.attribute(QStringLiteral("path"));
+        SetFilePath(file.attribute(QStringLiteral("key")), path, md5, static_cast<long long>(size),
+                    kImageFile);
+        files.append({md5, size, path});
+    }
 }
 
 } // namespace Lw::HNodeClock
