@@ -2,7 +2,6 @@
 // node's glyph images, for the reading of its own zone.
 #pragma once
 
-#include "calendar/clock_time.h"
 #include "calendar/persian_calendar.h"
 #include "clock_export.h"
 #include "clock_node.h"
@@ -11,15 +10,11 @@
 #include <QDateTime>
 #include <QObject>
 #include <QPixmap>
-#include <QPointer>
 #include <QString>
-#include <QVector>
-
-QT_BEGIN_NAMESPACE
-class QPainter;
-QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
+
+class ElementComposer;
 
 /// Zone, adjustment, week code, date code and images are taken at set-up (InitParameters);
 /// everything else is read from the node at each call. All pixmaps are null before set-up, and
@@ -53,9 +48,11 @@ public:
     QPixmap GetTopTextPixmap();
     void GetLunarDate(); ///< stores the lunar month and day; daylight saving does not count
 
+    /// The same elements as views on the images, for the drawer of frames; lives as long as this.
+    ElementComposer &Elements();
+
 private:
-    class Private;
-    Private *d;
+    ElementComposer *m_elements;
 };
 
 } // namespace Lw::HNodeClock

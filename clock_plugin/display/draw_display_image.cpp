@@ -1,17 +1,131 @@
+// The drawer's state, the choice of the kind of clock, and the time step.
 #include "display/draw_display_image.h"
 
+#include "calendar/device_clock.h"
+#include "compose/element_composer.h"
 #include "display/draw_display_image_p.h"
+#include "glyph/glyph_set.h"
+
+#include "happconfig.h"
 
 namespace Lw::HNodeClock {
+
+namespace {
+
+// Red 1, green 2, blue 1 as a stored colour: almost black, and the one colour that hosts show
+// through.
+constexpr int kKeyColour = 0x10201;
+
+} // namespace
 
 DrawDisplayImage::DrawDisplayImage(HClockNode *node) : d(new Private)
 {
     d->node = node;
+    if (node)
+        d->frameWidth = node->Size().width();
+    ReLoadSourceFile(node);
 }
 
 DrawDisplayImage::~DrawDisplayImage()
 {
     delete d;
+}
+
+void DrawDisplayImage::ReLoadSourceFile(HClockNode *node)
+{
+    d->composer.InitParameters(node);
+}
+
+QImage DrawDisplayImage::DrawClockDisplayImage()
+{
+    if (!d->node)
+        return d->frame;
+    const HeldReading oneInstant;
+    const ElementComposer::ReadingScope oneReading(d->composer.Elements());
+    d->frameWidth = d->node->Size().width();
+    CalculateTimeZone();
+    switch (d->node->ClockType()) {
+    case AnalogClock:
+        GetAngDisplayArea();
+        DrawAnalogClock();
+        break;
+    case DigitalClock:
+        GetDigitalDisplayArea();
+        DrawDigitalClock();
+        break;
+    case PictureClock:
+        DrawPixmapClock();
+        break;
+    default:
+        break;
+    }
+    return d->frame;
+}
+
+void DrawDisplayImage::CalculateTimeZone()
+{
+    if (!d->node)
+        return;
+    const HeldReading oneInstant;
+    d->composer.CalculateTimeZone(d->dateTime);
+    d->TakeFields();
+    d->millisecond = LocalMillisecond();
+    d->RecordStartTime();
+}
+
+void DrawDisplayImage::GetTime(QTime &start, QTime &now)
+{
+    if (!d->startTime)
+        return;
+    start = *d->startTime;
+    now = QTime(d->hour, d->minute, d->second, d->millisecond);
+}
+
+QColor DrawDisplayImage::GetColorKey()
+{
+    return Lw::HAppConfig::IntToColor(kKeyColour);
+}
+
+QColor DrawDisplayImage::ReturnQcolor(int colour)
+{
+    return QColor(colour & 0xff, colour >> 8 & 0xff, colour >> 16 & 0xff);
+}
+
+void DrawDisplayImage::Private::TakeFields()
+{
+    const QDate date = dateTime.date();
+    if (date != dateTextDate) {
+        dateTextDate = date;
+        dateText = date.toString(QStringLiteral("yyyy/MM/dd"));
+        date.getDate(&year, &month, &day);
+        dayOfWeek = date.dayOfWeek();
+    }
+    const QTime time = dateTime.time();
+    hour = time.hour();
+    minute = time.minute();
+    second = time.second();
+}
+
+// The first frame after construction does not count: the start time is the second frame's, and
+// never replaced.
+void DrawDisplayImage::Private::RecordStartTime()
+{
+    if (!startTime && ++startCounter == 2)
+        startTime = std::make_unique<QTime>(hour, minute, second, millisecond);
+}
+
+bool DrawDisplayImage::Private::Drawable(const QSize &size)
+{
+    return WithinBounds(size, kFrameBytes);
+}
+
+QImage DrawDisplayImage::Private::NewImage(const QSize &size, const QColor &keyColour) const
+{
+    if (!Drawable(size))
+        return QImage();
+    QImage image(size, imageFormat);
+    image.fill(keyColour);
+    return image;
 }
 
 } // namespace Lw::HNodeClock

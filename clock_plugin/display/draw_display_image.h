@@ -50,7 +50,7 @@ public:
     void CalculateTimeZone();
     /// The time of the second frame and the time now; untouched before the second frame.
     void GetTime(QTime &start, QTime &now);
-    QColor GetColorKey(); ///< what the host treats as transparent
+    QColor GetColorKey();            ///< what the host treats as transparent
     QColor ReturnQcolor(int colour); ///< 0x00BBGGRR, always opaque
 
     // Analog clock.

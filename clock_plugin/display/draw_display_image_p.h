@@ -3,6 +3,7 @@
 
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
+#include "display/frame_painter.h"
 #include "display/row_layout.h"
 
 #include <QPainter>
@@ -18,6 +19,14 @@ public:
     static bool Drawable(const QSize &size);
     /// A new image of the drawer's format filled with the key colour; null where not drawable.
     QImage NewImage(const QSize &size, const QColor &keyColour) const;
+    /// Makes the other of the two frames the current one, so that a frame that is still held by
+    /// the consumer is never copied. The frame is replaced by a new one filled with the key colour
+    /// when it is null, of another size, or still held; it stays null where it cannot be drawn.
+    /// Returns whether the frame kept what was drawn into it before.
+    bool PrepareFrame(const QSize &size);
+    /// Splits the reading into the fields below.
+    void TakeFields();
+    void RecordStartTime();
     int Number(Attribute attribute) { return node->GetAttributeToInt(Key(attribute)); }
 
     QPointer<HClockNode> node;
@@ -35,6 +44,7 @@ public:
     int dayOfWeek = 0;   ///< 1 Monday to 7 Sunday
     int frameWidth = 0;
     QString dateText; ///< yyyy/MM/dd
+    QDate dateTextDate;
 
     int startCounter = 0;
     std::unique_ptr<QTime> startTime; ///< of the second frame; null before it
@@ -46,6 +56,12 @@ public:
     QImage frame; ///< the frame of this moment
     QImage spare; ///< the frame before: the next one is drawn over it once nobody holds it
     QImage::Format imageFormat = QImage::Format_ARGB32;
+
+    // Digital clock.
+    using LayOut = void (*)(const DigitalArea &area, Rows &positions);
+    void LayOutDigital(LayOut layOut, int space);
+    FrameContents digitalContents;      ///< of the frame
+    FrameContents digitalSpareContents; ///< of the spare
 
     // Analog clock.
     QImage dialCache;

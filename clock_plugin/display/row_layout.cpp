@@ -62,70 +62,68 @@ int CountRows(const Rows &flags)
     return ShownRows(kDateAboveWeek, flags).count;
 }
 
-void LayOutOneRow(int areaHeight, const Rows &heights, Rows &positions)
+void LayOutOneRow(const DigitalArea &area, Rows &positions)
 {
     for (const Row row : kDateAboveWeek)
-        positions.*row = areaHeight / 2 - heights.*row / 2;
+        positions.*row = area.height / 2 - area.heights.*row / 2;
 }
 
-void LayOutTwoRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
-                   Rows &positions)
+void LayOutTwoRows(const DigitalArea &area, Rows &positions)
 {
-    Shown shown = ShownRows(kDateAboveWeek, flags);
+    Shown shown = ShownRows(kDateAboveWeek, area.flags);
     if (shown.count != 2)
         return;
-    const bool swapped = swap == 1 && shown.rows[0] == &Rows::date && shown.rows[1] == &Rows::week;
+    const bool swapped =
+        area.swap == 1 && shown.rows[0] == &Rows::date && shown.rows[1] == &Rows::week;
     if (swapped)
         std::swap(shown.rows[0], shown.rows[1]);
     const Row upper = shown.rows[0];
-    const long long middle = areaHeight / 2;
-    positions.*upper = ClampPosition(middle - space / 2 - heights.*upper
-                                     - UpperRowPixel(upper, swapped, space));
-    positions.*shown.rows[1] = ClampPosition(middle + space / 2);
+    const long long middle = area.height / 2;
+    positions.*upper = ClampPosition(middle - area.space / 2 - area.heights.*upper
+                                     - UpperRowPixel(upper, swapped, area.space));
+    positions.*shown.rows[1] = ClampPosition(middle + area.space / 2);
 }
 
-void LayOutThreeRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
-                     Rows &positions)
+void LayOutThreeRows(const DigitalArea &area, Rows &positions)
 {
-    const Shown shown = ShownRows(OrderOfMany(swap), flags);
+    const Shown shown = ShownRows(OrderOfMany(area.swap), area.flags);
     if (shown.count != 3)
         return;
     const auto [upper, middle, lower, unused4, unused5] = shown.rows;
-    const long long centre = areaHeight / 2;
-    const long long middleTop = centre - heights.*middle / 2;
+    const long long centre = area.height / 2;
+    const long long middleTop = centre - area.heights.*middle / 2;
     positions.*middle = ClampPosition(middleTop);
-    positions.*upper = ClampPosition(middleTop - space - heights.*upper);
-    positions.*lower = ClampPosition(centre + space + heights.*middle / 2);
+    positions.*upper = ClampPosition(middleTop - area.space - area.heights.*upper);
+    positions.*lower = ClampPosition(centre + area.space + area.heights.*middle / 2);
 }
 
-void LayOutFourRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
-                    Rows &positions)
+void LayOutFourRows(const DigitalArea &area, Rows &positions)
 {
-    const Shown shown = ShownRows(OrderOfMany(swap), flags);
+    const Shown shown = ShownRows(OrderOfMany(area.swap), area.flags);
     if (shown.count != 4)
         return;
     const auto [first, second, third, fourth, unused] = shown.rows;
-    const long long centre = areaHeight / 2;
-    const long long secondTop = centre - space / 2 - heights.*second;
-    const long long thirdTop = centre + space / 2;
+    const long long centre = area.height / 2;
+    const long long secondTop = centre - area.space / 2 - area.heights.*second;
+    const long long thirdTop = centre + area.space / 2;
     positions.*second = ClampPosition(secondTop);
     positions.*third = ClampPosition(thirdTop);
-    positions.*first = ClampPosition(secondTop - space - heights.*first);
-    positions.*fourth = ClampPosition(thirdTop + heights.*third + space);
+    positions.*first = ClampPosition(secondTop - area.space - area.heights.*first);
+    positions.*fourth = ClampPosition(thirdTop + area.heights.*third + area.space);
 }
 
-void LayOutFiveRows(int areaHeight, int space, int swap, const Rows &heights, Rows &positions)
+void LayOutFiveRows(const DigitalArea &area, Rows &positions)
 {
-    const auto &[first, second, third, fourth, fifth] = OrderOfMany(swap);
-    const long long centre = areaHeight / 2;
-    const long long thirdTop = centre - heights.*third / 2;
-    const long long secondTop = thirdTop - space - heights.*second;
-    const long long fourthTop = space + centre + heights.*third / 2;
+    const auto &[first, second, third, fourth, fifth] = OrderOfMany(area.swap);
+    const long long centre = area.height / 2;
+    const long long thirdTop = centre - area.heights.*third / 2;
+    const long long secondTop = thirdTop - area.space - area.heights.*second;
+    const long long fourthTop = area.space + centre + area.heights.*third / 2;
     positions.*third = ClampPosition(thirdTop);
     positions.*second = ClampPosition(secondTop);
-    positions.*first = ClampPosition(secondTop - space - heights.*first);
+    positions.*first = ClampPosition(secondTop - area.space - area.heights.*first);
     positions.*fourth = ClampPosition(fourthTop);
-    positions.*fifth = ClampPosition(fourthTop + space + heights.*fourth);
+    positions.*fifth = ClampPosition(fourthTop + area.space + area.heights.*fourth);
 }
 
 namespace {

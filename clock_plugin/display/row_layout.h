@@ -15,22 +15,29 @@ struct Rows
     int lunar = 0;
 };
 
+/// What the rows of a digital clock are laid out from.
+struct DigitalArea
+{
+    int height = 0; ///< of the area
+    int space = 0;  ///< gap between neighbouring rows; may be negative
+    int swap = 0;
+    Rows flags; ///< which rows take part: the non-zero ones
+    Rows heights;
+};
+
 /// How many rows of a digital clock take part in the layout: those with a non-zero flag.
 int CountRows(const Rows &flags);
 
-/// The rows of a digital clock around the middle of the area. Flags say which rows take part; the
-/// positions of the others stay as they are, except that a single row positions all five. The date
+/// The rows of a digital clock around the middle of the area. The positions of rows that do not
+/// take part stay as they are, except that a single row positions all five. The date
 /// stands above the week with two rows and below it with more; a swap of exactly 1 exchanges them.
 /// Nothing changes when the number of rows taking part is not the function's own (one and five
 /// rows do not ask).
-void LayOutOneRow(int areaHeight, const Rows &heights, Rows &positions);
-void LayOutTwoRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
-                   Rows &positions);
-void LayOutThreeRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
-                     Rows &positions);
-void LayOutFourRows(int areaHeight, int space, int swap, const Rows &flags, const Rows &heights,
-                    Rows &positions);
-void LayOutFiveRows(int areaHeight, int space, int swap, const Rows &heights, Rows &positions);
+void LayOutOneRow(const DigitalArea &area, Rows &positions);
+void LayOutTwoRows(const DigitalArea &area, Rows &positions);
+void LayOutThreeRows(const DigitalArea &area, Rows &positions);
+void LayOutFourRows(const DigitalArea &area, Rows &positions);
+void LayOutFiveRows(const DigitalArea &area, Rows &positions);
 
 /// The rows of an analog clock: the top text around the upper anchor always; date, week and lunar
 /// date around the lower anchor, by their number. Swap exchanges date and week: with two rows when

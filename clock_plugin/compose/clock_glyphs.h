@@ -1,0 +1,46 @@
+// The glyph images of a node, loaded.
+#pragma once
+
+#include "clock_node.h"
+
+#include <QPixmap>
+#include <QVector>
+
+namespace Lw::HNodeClock {
+
+/// Null pixmaps stand for files that are not recorded, missing or broken.
+struct ClockGlyphs
+{
+    QPixmap lunar;
+    QVector<QPixmap> weeks; ///< seven, Monday first; empty until a known week code was loaded
+    QPixmap topText;
+    QPixmap timeNumber;
+    QPixmap timeCh;
+    QPixmap timeChar;
+    QVector<QPixmap> months; ///< thirteen: index 0 a transparent spacer of two digit cells
+    QPixmap space;
+    QPixmap dateNumber;
+    QPixmap dateCh;
+    QPixmap dateChar;
+    QPixmap minus;
+
+    /// Loads what a clock of that type shows; the rest stays. A week code outside 0 to 3 leaves
+    /// the week images as they were.
+    void Load(HClockNode &node, int clockType, int weekType);
+};
+
+/// One image, live: decoded again only when its recorded path or the file's size or time of change
+/// differ from the last time.
+class LiveGlyph
+{
+public:
+    const QPixmap &Load(const QString &path);
+
+private:
+    QString m_path;
+    qint64 m_bytes = -1;
+    qint64 m_changed = 0; ///< milliseconds since 1970
+    QPixmap m_image;
+};
+
+} // namespace Lw::HNodeClock

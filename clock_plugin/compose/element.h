@@ -1,0 +1,102 @@
+// An element of a clock: a canvas put together from pieces of glyph strips.
+#pragma once
+
+#include "image_bounds.h"
+
+#include <QPixmap>
+#include <QRect>
+#include <QSize>
+
+#include <algorithm>
+#include <array>
+
+namespace Lw::HNodeClock {
+
+/// A part of a strip, full height, and where its left edge stands in the element.
+struct Piece
+{
+    const QPixmap *strip = nullptr; ///< valid while the composer that gave it is not set up anew
+    qint64 stripKey = 0;            ///< tells two strips' contents apart, also after a set-up
+    int sourceX = 0;
+    int width = 0;
+    int x = 0;
+
+    bool operator==(const Piece &other) const
+    {
+        return stripKey == other.stripKey && sourceX == other.sourceX && width == other.width
+            && x == other.x;
+    }
+    bool operator!=(const Piece &other) const { return !(*this == other); }
+};
+
+/// Pieces never overlap; what stands past the canvas is cut off.
+class Element
+{
+public:
+    Element() = default;
+    /// A canvas that could not reasonably be made becomes an empty one.
+    Element(long long width, int height)
+    {
+        if (width > 0 && width <= kImageSide
+            && WithinBounds({static_cast<int>(width), height}, kGlyphBytes))
+            m_size = QSize(static_cast<int>(width), height);
+    }
+    /// A whole image as an element of its own.
+    explicit Element(const QPixmap &image) : Element(image.width(), image.height())
+    {
+        Add(image, 0, image.width());
+    }
+
+    int Width() const { return m_size.width(); }
+    int Height() const { return m_size.height(); }
+    const QSize &Size() const { return m_size; }
+    int Count() const { return m_count; }
+    const Piece &At(int index) const { return m_pieces[static_cast<std::size_t>(index)]; }
+
+    /// Adds columns of a strip after what was added before. Columns outside the strip are blank.
+    void Add(const QPixmap &strip, int sourceX, int width)
+    {
+        if (width <= 0)
+            return;
+        const bool visible = !m_size.isEmpty() && sourceX >= 0 && sourceX < strip.width()
+            && m_end < m_size.width() && m_count < static_cast<int>(m_pieces.size());
+        if (visible) {
+            const int present = qMin(width, strip.width() - sourceX);
+            m_pieces[static_cast<std::size_t>(m_count++)] = {&strip, strip.cacheKey(), sourceX,
+                                                             present, static_cast<int>(m_end)};
+        }
+        m_end += width;
+    }
+    /// Adds one cell of a strip of equal cells.
+    void AddCell(const QPixmap &strip, int cellWidth, int cell)
+    {
+        Add(strip, cell < 0 ? -1 : cell * cellWidth, cellWidth);
+    }
+    void Skip(int width) { m_end += width; }
+    /// Goes on at x, and cuts off what was added past it.
+    void StandAt(long long x)
+    {
+        m_end = x;
+        while (m_count > 0 && m_pieces[static_cast<std::size_t>(m_count - 1)].x >= x)
+            --m_count;
+        if (m_count > 0) {
+            Piece &last = m_pieces[static_cast<std::size_t>(m_count - 1)];
+            last.width = static_cast<int>(qMin<long long>(last.width, x - last.x));
+        }
+    }
+
+    bool operator==(const Element &other) const
+    {
+        return m_size == other.m_size && m_count == other.m_count
+            && std::equal(m_pieces.begin(), m_pieces.begin() + m_count, other.m_pieces.begin());
+    }
+    bool operator!=(const Element &other) const { return !(*this == other); }
+
+private:
+    QSize m_size {0, 0};
+    long long m_end = 0; ///< where the next piece begins
+    int m_count = 0;
+    std::array<Piece, 12> m_pieces;
+};
+
+} // namespace Lw::HNodeClock

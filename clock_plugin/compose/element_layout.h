@@ -1,0 +1,43 @@
+// Which pieces make up a date, a time or a lunar date, and where they stand. Pure functions of the
+// images and the numbers shown; nothing is painted here.
+#pragma once
+
+#include "compose/clock_glyphs.h"
+#include "compose/element.h"
+
+namespace Lw::HNodeClock {
+
+/// The date formats.
+enum DateType {
+    DateYearMonthDay = 0,
+    DateMonthDayYear = 1,
+    DateDayMonthYear = 2,
+    DateNamedMonthDayYear = 3,
+    DateDayNamedMonthYear = 4,
+    DateLabelled = 5,
+    DateLabelledMonthDay = 6,
+    DatePersian = 7,
+    DateWithMinus = 8,
+};
+
+/// The time formats. Every other code shows hours, label, minutes and seconds.
+enum TimeType {
+    TimeToSecond = 0,
+    TimeToMinute = 1,
+    TimeLabelled = 2,
+    TimeLabelledToMinute = 3,
+    TimeShortHour = 4,
+};
+
+/// An empty element for a format outside the list. The canvas is as high as the label image, also
+/// for formats that show no label.
+Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month, int day);
+
+/// The digits of the time, with the AM/PM mark after them (null for none).
+Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minute, int second,
+                    const QPixmap &mark);
+
+/// The lunar date in Chinese numerals; empty for a month outside 1 to 12.
+Element LunarElement(const QPixmap &strip, int month, int day);
+
+} // namespace Lw::HNodeClock

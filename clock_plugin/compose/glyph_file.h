@@ -1,0 +1,16 @@
+// Reads picture files made by others: bounded, and never anything but an ordinary file.
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QString>
+
+namespace Lw::HNodeClock {
+
+/// The picture in a file, its format told by its content. Null for a path that is empty or names
+/// no ordinary file (a device or a pipe could block for ever), for a file that cannot be decoded,
+/// and for a picture of more than 32767 pixels a side or 64 MiB, which is asked before decoding.
+QImage ReadImageFile(const QString &path);
+QPixmap ReadGlyphFile(const QString &path);
+
+} // namespace Lw::HNodeClock

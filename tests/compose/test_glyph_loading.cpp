@@ -1,0 +1,185 @@
+// Which images a composer loads, and what it makes of files that are none.
+#include "chosen_time.h"
+#include "compose/clock_glyphs.h"
+#include "compose/glyph_file.h"
+#include "lettered_glyphs.h"
+
+#include <QFile>
+#include <QImageWriter>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using namespace Lw::HNodeClock;
+
+class TestGlyphLoading : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void DigitalClockLoadsAll();
+    void AnalogClockLeavesTheTimeImages();
+    void WeekCodeOutsideTheListChangesNothing();
+    void MonthSpacer_data();
+    void MonthSpacer();
+    void OddFiles_data();
+    void OddFiles();
+    void PipeDoesNotBlock();
+    void TooLargeIsNotDecoded();
+    void LiveImageFollowsTheFile();
+
+private:
+    QTemporaryDir m_directory;
+};
+
+void TestGlyphLoading::DigitalClockLoadsAll()
+{
+    HClockNode node;
+    LetteredGlyphs written(node);
+    written.WriteAll();
+    ClockGlyphs glyphs;
+    glyphs.Load(node, 1, 2);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.timeCh), LetteredGlyphs::Cells("hms", 3));
+    QCOMPARE(glyphs.timeNumber.width(), 20);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.timeChar), QStringLiteral(":"));
+    QCOMPARE(glyphs.weeks.size(), 7);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.weeks.at(6)), QStringLiteral("yyyyyyy"));
+    QCOMPARE(glyphs.months.size(), 13);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(0)), QStringLiteral("______"));
+    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(12)), QStringLiteral("CCCCCC"));
+    QCOMPARE(glyphs.lunar.width(), 34);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.minus), QStringLiteral("----"));
+    QCOMPARE(glyphs.space.width(), 2);
+}
+
+void TestGlyphLoading::AnalogClockLeavesTheTimeImages()
+{
+    HClockNode node;
+    LetteredGlyphs written(node);
+    written.WriteAll();
+    ClockGlyphs glyphs;
+    glyphs.Load(node, 0, 0);
+    QVERIFY(glyphs.timeNumber.isNull());
+    QVERIFY(glyphs.timeCh.isNull());
+    QVERIFY(glyphs.timeChar.isNull());
+    QCOMPARE(glyphs.dateNumber.width(), 30);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.topText), QStringLiteral("LED"));
+}
+
+void TestGlyphLoading::WeekCodeOutsideTheListChangesNothing()
+{
+    HClockNode node;
+    LetteredGlyphs written(node);
+    written.WriteAll();
+    ClockGlyphs glyphs;
+    glyphs.Load(node, 1, 4);
+    QVERIFY(glyphs.weeks.isEmpty());
+    glyphs.Load(node, 1, 1);
+    const qint64 monday = glyphs.weeks.at(0).cacheKey();
+    glyphs.Load(node, 1, -1);
+    QCOMPARE(glyphs.weeks.size(), 7);
+    QCOMPARE(glyphs.weeks.at(0).cacheKey(), monday);
+}
+
+void TestGlyphLoading::MonthSpacer_data()
+{
+    QTest::addColumn<int>("strip");
+    QTest::addColumn<int>("spacer");
+    QTest::newRow("205 columns give 2 times 20") << 205 << 40;
+    QTest::newRow("ten columns") << 10 << 2;
+    QTest::newRow("narrower than its cells") << 9 << 0;
+    QTest::newRow("no strip") << 0 << 0;
+}
+
+void TestGlyphLoading::MonthSpacer()
+{
+    QFETCH(int, strip);
+    QFETCH(int, spacer);
+    HClockNode node;
+    LetteredGlyphs written(node);
+    if (strip > 0)
+        written.Write("_dateNumber", QString(strip, '7'), 4);
+    ClockGlyphs glyphs;
+    glyphs.Load(node, 1, 0);
+    QCOMPARE(glyphs.months.size(), 13);
+    QCOMPARE(glyphs.months.at(0).width(), spacer);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(0)), QString(spacer, '_'));
+}
+
+void TestGlyphLoading::OddFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QImage image(20, 20, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    const QString path = m_directory.filePath("whole.png");
+    QVERIFY(image.save(path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray whole = file.readAll();
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("text") << QByteArray("not a picture");
+    QTest::newRow("signature only") << whole.left(8);
+    QTest::newRow("header only") << whole.left(33);
+    QTest::newRow("cut in half") << whole.left(whole.size() / 2);
+    QByteArray broken = whole;
+    for (int i = 45; i < broken.size() - 20; ++i)
+        broken[i] = static_cast<char>(broken.at(i) ^ 0x5a);
+    QTest::newRow("broken pixels") << broken;
+}
+
+void TestGlyphLoading::OddFiles()
+{
+    QFETCH(QByteArray, content);
+    const QString path = m_directory.filePath("odd.png");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(content);
+    file.close();
+    QVERIFY(ReadImageFile(path).isNull());
+    QVERIFY(ReadGlyphFile(path).isNull());
+}
+
+void TestGlyphLoading::PipeDoesNotBlock()
+{
+    const QString path = m_directory.filePath("pipe.png");
+    QCOMPARE(mkfifo(qPrintable(path), 0600), 0);
+    QVERIFY(ReadImageFile(path).isNull());
+    QVERIFY(ReadImageFile("/dev/zero").isNull());
+    QVERIFY(ReadImageFile(m_directory.path()).isNull());
+    QVERIFY(ReadImageFile(QString()).isNull());
+}
+
+void TestGlyphLoading::TooLargeIsNotDecoded()
+{
+    const auto write = [this](const char *name, const QSize &size) {
+        QImage image(size, QImage::Format_Mono);
+        image.fill(0);
+        const QString path = m_directory.filePath(name);
+        return image.save(path) ? path : QString();
+    };
+    QVERIFY(!ReadImageFile(write("widest.png", {32767, 1})).isNull());
+    QVERIFY(ReadImageFile(write("wide.png", {32768, 1})).isNull());
+    QVERIFY(ReadImageFile(write("high.png", {1, 32768})).isNull());
+    QVERIFY(!ReadImageFile(write("largest.png", {4096, 4096})).isNull());
+    QVERIFY(ReadImageFile(write("large.png", {4096, 4097})).isNull());
+}
+
+void TestGlyphLoading::LiveImageFollowsTheFile()
+{
+    HClockNode node;
+    LetteredGlyphs written(node);
+    LiveGlyph live;
+    const QString path = written.Write("_timeAM", "AA", 3);
+    const qint64 first = live.Load(path).cacheKey();
+    QCOMPARE(LetteredGlyphs::Read(live.Load(path)), QStringLiteral("AA"));
+    QCOMPARE(live.Load(path).cacheKey(), first);
+    written.Write("_timeAM", "AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAB", 3);
+    QCOMPARE(live.Load(path).width(), 33);
+    QVERIFY(QFile::remove(path));
+    QVERIFY(live.Load(path).isNull());
+    QVERIFY(live.Load(QString()).isNull());
+}
+
+QTEST_MAIN(TestGlyphLoading)
+
+#include "test_glyph_loading.moc"

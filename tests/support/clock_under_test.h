@@ -1,0 +1,45 @@
+// A clock node with glyph images in a directory of its own.
+#pragma once
+
+#include "clock_node.h"
+#include "glyph/draw_source_image.h"
+
+#include "happconfig.h"
+
+#include <QTemporaryDir>
+
+class ClockUnderTest
+{
+public:
+    /// A new clock of a type, in UTC, with the default settings, a family that is installed
+    /// everywhere the tests run, and no glyph images yet.
+    explicit ClockUnderTest(int clockType, const QSize &size = QSize(256, 128))
+    {
+        Lw::HAppConfig::SetClockOutputPath(m_directory.path());
+        node.InitData();
+        Set("ClockType", clockType);
+        Set("Id", 1000);
+        Set("TimeZone", "+00:00");
+        for (const QString &key : node.AttributeKeys()) {
+            if (key.endsWith(QLatin1String("FName")))
+                node.SetAttribute(key, QStringLiteral("DejaVu Sans"), false);
+        }
+        node.SetSize(size);
+    }
+
+    void Set(const char *key, int value)
+    {
+        node.SetAttribute(QString::fromLatin1(key), value, false);
+    }
+    void Set(const char *key, const char *value)
+    {
+        node.SetAttribute(QString::fromLatin1(key), QString::fromUtf8(value), false);
+    }
+    void MakeGlyphs() { Lw::HNodeClock::DrwSourceIMage().DrawClockSourceImage(&node); }
+    QString Directory() const { return m_directory.path(); }
+
+    Lw::HNodeClock::HClockNode node;
+
+private:
+    QTemporaryDir m_directory;
+};
