@@ -1,17 +1,15 @@
 #include "glyph/draw_source_image.h"
 
+#include "glyph/glyph_file.h"
 #include "glyph/hmd5.h"
 
 #include "happconfig.h"
 
-#include <QBuffer>
-#include <QFile>
 #include <QFileInfo>
 #include <QFont>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -78,27 +76,6 @@ QPixmap TransparentPixmap(int width, int height)
     QPixmap pixmap(width, height);
     pixmap.fill(Qt::transparent);
     return pixmap;
-}
-
-bool Holds(const QString &path, const QByteArray &bytes)
-{
-    const QFileInfo info(path);
-    QFile file(path);
-    return info.isFile() && info.size() == bytes.size() && file.open(QFile::ReadOnly)
-        && file.readAll() == bytes;
-}
-
-/// Writes aside and renames, so that no half-written image ever stands under the name; a file that
-/// shows the same already is left alone.
-void SavePng(const QPixmap &pixmap, const QString &path)
-{
-    QByteArray png;
-    QBuffer buffer(&png);
-    if (!buffer.open(QBuffer::WriteOnly) || !pixmap.save(&buffer, "png") || Holds(path, png))
-        return;
-    QSaveFile file(path);
-    if (file.open(QSaveFile::WriteOnly) && file.write(png) == png.size())
-        file.commit();
 }
 
 constexpr GlyphFont kAnalogFonts[] = {GlyphFont::TopText, GlyphFont::AmPm,  GlyphFont::Date,
@@ -193,7 +170,7 @@ void DrwSourceIMage::DrawImage(HClockNode *node, QString key, QString text, QStr
             BeginGlyphs(&pixmap, font, colour);
             m_painter->drawText(pixmap.rect(), Qt::AlignCenter, text);
             // Saved while the painter is still at work on it; a strip, after it has ended.
-            SavePng(pixmap, path);
+            Save(pixmap, path);
             m_painter->end();
         }
     }
@@ -216,7 +193,7 @@ void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, 
                 m_painter->drawText(QRect(digit * cell, 0, cell, pixmap.height()), Qt::AlignCenter,
                                     QString::number(digit));
             m_painter->end();
-            SavePng(pixmap, path);
+            Save(pixmap, path);
         }
     }
     Record(node, key, path);
@@ -227,6 +204,12 @@ void DrwSourceIMage::BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour)
     m_painter->begin(pixmap);
     m_painter->setFont(font);
     m_painter->setPen(IntToQColor(colour));
+}
+
+void DrwSourceIMage::Save(const QPixmap &pixmap, const QString &path)
+{
+    // A file under its digest's name is taken for good and never replaced, so it had better be.
+    SavePng(pixmap, path, m_calcMd5 ? Durability::Forced : Durability::Ordinary);
 }
 
 void DrwSourceIMage::Record(HClockNode *node, const QString &key, const QString &path)

@@ -63,6 +63,7 @@ private:
     void DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id);
     QString TextOf(const GlyphImage &image) const;
     void BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour);
+    void Save(const QPixmap &pixmap, const QString &path);
     void Record(HClockNode *node, const QString &key, const QString &path);
 
     QPainter *m_painter;
