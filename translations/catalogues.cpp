@@ -1,0 +1,47 @@
+#include "catalogues.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QPointer>
+#include <QTranslator>
+
+// The resources of a static library are registered by hand, and outside any namespace.
+static void RegisterCatalogues()
+{
+    Q_INIT_RESOURCE(clock_catalogues);
+}
+
+namespace ClockCatalogues {
+
+QStringList Languages()
+{
+    return {QStringLiteral("en"), QStringLiteral("fa"), QStringLiteral("zh")};
+}
+
+QString LanguageFor(const QLocale &locale)
+{
+    const QString language = locale.name().section(QLatin1Char('_'), 0, 0);
+    return Languages().contains(language) ? language : QStringLiteral("en");
+}
+
+bool Install(const QString &language)
+{
+    static QPointer<QTranslator> installed;
+    QCoreApplication *const application = QCoreApplication::instance();
+    if (!application || !Languages().contains(language))
+        return false;
+    RegisterCatalogues();
+    auto *const translator = new QTranslator(application);
+    const bool usable =
+        translator->load(QStringLiteral(":/clock_catalogues/clock_%1.qm").arg(language))
+        && QCoreApplication::installTranslator(translator);
+    if (!usable) {
+        delete translator;
+        return false;
+    }
+    delete installed;
+    installed = translator;
+    return true;
+}
+
+} // namespace ClockCatalogues

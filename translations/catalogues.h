@@ -1,0 +1,23 @@
+// The catalogues that come with the clock: wording for the texts it translates, in a few languages.
+#pragma once
+
+#include <QStringList>
+
+QT_BEGIN_NAMESPACE
+class QLocale;
+QT_END_NAMESPACE
+
+namespace ClockCatalogues {
+
+/// The codes of the languages shipped, in alphabetical order.
+QStringList Languages();
+
+/// The shipped language of a locale; English where there is none.
+QString LanguageFor(const QLocale &locale);
+
+/// Installs a language's catalogue on the application, which owns it from then on, in place of the
+/// one installed before. False, and nothing changes, for a language that is not shipped or without
+/// an application.
+bool Install(const QString &language);
+
+} // namespace ClockCatalogues

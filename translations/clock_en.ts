@@ -1,0 +1,82 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US">
+<context>
+    <name>Lw::HNodeClock::DrwSourceIMage</name>
+    <message>
+        <source>Monday</source>
+        <translation>Monday</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>Tuesday</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>Wednesday</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>Thursday</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>Friday</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>Saturday</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>Sunday</translation>
+    </message>
+    <message>
+        <source>PersiaMonday</source>
+        <translation>دوشنبه</translation>
+    </message>
+    <message>
+        <source>PersiaTuesday</source>
+        <translation>سه‌شنبه</translation>
+    </message>
+    <message>
+        <source>PersiaWednesday</source>
+        <translation>چهارشنبه</translation>
+    </message>
+    <message>
+        <source>PersiaThursday</source>
+        <translation>پنجشنبه</translation>
+    </message>
+    <message>
+        <source>PersiaFriday</source>
+        <translation>جمعه</translation>
+    </message>
+    <message>
+        <source>PersiaSaturday</source>
+        <translation>شنبه</translation>
+    </message>
+    <message>
+        <source>PersiaSunday</source>
+        <translation>یکشنبه</translation>
+    </message>
+    <message>
+        <source>lunarString</source>
+        <translation>一二三四五六七八九十农历闰月日初正</translation>
+    </message>
+    <message>
+        <source>DateString</source>
+        <translation>ＹＭＤ</translation>
+    </message>
+    <message>
+        <source>TimeString</source>
+        <translation>ＨＭＳ</translation>
+    </message>
+</context>
+<context>
+    <name>Lw::HNodeClock::HClockNode</name>
+    <message>
+        <source>LED</source>
+        <translation>LED</translation>
+    </message>
+</context>
+</TS>

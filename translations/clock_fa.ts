@@ -1,0 +1,82 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fa_IR">
+<context>
+    <name>Lw::HNodeClock::DrwSourceIMage</name>
+    <message>
+        <source>Monday</source>
+        <translation>دوشنبه</translation>
+    </message>
+    <message>
+        <source>Tuesday</source>
+        <translation>سه‌شنبه</translation>
+    </message>
+    <message>
+        <source>Wednesday</source>
+        <translation>چهارشنبه</translation>
+    </message>
+    <message>
+        <source>Thursday</source>
+        <translation>پنجشنبه</translation>
+    </message>
+    <message>
+        <source>Friday</source>
+        <translation>جمعه</translation>
+    </message>
+    <message>
+        <source>Saturday</source>
+        <translation>شنبه</translation>
+    </message>
+    <message>
+        <source>Sunday</source>
+        <translation>یکشنبه</translation>
+    </message>
+    <message>
+        <source>PersiaMonday</source>
+        <translation>دوشنبه</translation>
+    </message>
+    <message>
+        <source>PersiaTuesday</source>
+        <translation>سه‌شنبه</translation>
+    </message>
+    <message>
+        <source>PersiaWednesday</source>
+        <translation>چهارشنبه</translation>
+    </message>
+    <message>
+        <source>PersiaThursday</source>
+        <translation>پنجشنبه</translation>
+    </message>
+    <message>
+        <source>PersiaFriday</source>
+        <translation>جمعه</translation>
+    </message>
+    <message>
+        <source>PersiaSaturday</source>
+        <translation>شنبه</translation>
+    </message>
+    <message>
+        <source>PersiaSunday</source>
+        <translation>یکشنبه</translation>
+    </message>
+    <message>
+        <source>lunarString</source>
+        <translation>一二三四五六七八九十农历闰月日初正</translation>
+    </message>
+    <message>
+        <source>DateString</source>
+        <translation>ＹＭＤ</translation>
+    </message>
+    <message>
+        <source>TimeString</source>
+        <translation>ＨＭＳ</translation>
+    </message>
+</context>
+<context>
+    <name>Lw::HNodeClock::HClockNode</name>
+    <message>
+        <source>LED</source>
+        <translation>LED</translation>
+    </message>
+</context>
+</TS>
