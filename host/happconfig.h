@@ -18,10 +18,10 @@ public:
 
     /// Stored colour ints are 0x00BBGGRR; the top byte is ignored and colours come back opaque.
     static QColor IntToColor(int value);
-    static int ColorToInt(QColor color);       ///< alpha is dropped; an invalid colour is 0
-    static int NameToIntColor(QString name);   ///< Qt colour-name syntax; an invalid name is 0
+    static int ColorToInt(QColor color);     ///< alpha is dropped; an invalid colour is 0
+    static int NameToIntColor(QString name); ///< Qt colour-name syntax; an invalid name is 0
 
-    int RenderImageFormat();                   ///< a QImage::Format value
+    int RenderImageFormat(); ///< a QImage::Format value
     /// The device's offset from UTC in seconds, and whether daylight saving is on.
     void GetTimeInfo(int &utcOffsetSeconds, bool &daylightSaving);
 

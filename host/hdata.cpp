@@ -70,7 +70,7 @@ QString HData::GetFirstFile(QString key)
 
 void HData::SetFilePath(QString key, QString path, QString name, long long size, int kind)
 {
-    const FileRecord record{key, path, name, size, kind};
+    const FileRecord record {key, path, name, size, kind};
     const auto found = d->fileIndex.constFind(key);
     if (found != d->fileIndex.constEnd()) {
         d->files[*found] = record;

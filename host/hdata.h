@@ -24,23 +24,23 @@ class HData
 public:
     HData();
 
-    QString GetAttribute(QString key);    ///< the value as text; empty when absent
-    int GetAttributeToInt(QString key);   ///< the value as int; 0 when absent or not a number
+    QString GetAttribute(QString key);  ///< the value as text; empty when absent
+    int GetAttributeToInt(QString key); ///< the value as int; 0 when absent or not a number
     void SetAttribute(QString key, int value, bool notify);
     void SetAttribute(QString key, QString value, bool notify);
     bool HaveAttribute(QString key);
 
-    QString GetFirstFile(QString key);    ///< the path recorded under a file key; empty when none
+    QString GetFirstFile(QString key); ///< the path recorded under a file key; empty when none
     /// Records a file. A record of the same key is replaced in its place.
     void SetFilePath(QString key, QString path, QString name, long long size, int kind);
 
     QString GetGuid();
     void SetGuid(QString guid);
-    bool HaveSourcFile();                 ///< whether any file is recorded
+    bool HaveSourcFile(); ///< whether any file is recorded
 
     // Beyond what plugins call, for players and tests.
-    QStringList AttributeKeys();          ///< in order of first writing
-    QList<FileRecord> FileRecords();      ///< in order of first recording
+    QStringList AttributeKeys();     ///< in order of first writing
+    QList<FileRecord> FileRecords(); ///< in order of first recording
 
 protected:
     ~HData();

@@ -4,12 +4,22 @@
 
 namespace Lw {
 
+namespace {
+
+bool IsWithin(const QObject *object, const QObject *tree)
+{
+    while (object && object != tree)
+        object = object->parent();
+    return object != nullptr;
+}
+
+} // namespace
+
 class HNode::Private
 {
 public:
-    QSize size{-1, -1};
+    QSize size {-1, -1};
     QPoint pos;
-    QList<HNode *> children;
     bool takesPartInUpdate = false;
 };
 
@@ -64,18 +74,15 @@ void HNode::AfterUpdate(bool) { }
 
 bool HNode::AddChild(Lw::HNode *child)
 {
-    return InsertChild(d->children.size(), child);
+    if (!child || IsWithin(this, child))
+        return false;
+    child->setParent(this);
+    return true;
 }
 
 bool HNode::InsertChild(int index, Lw::HNode *child)
 {
-    if (!child || index < 0 || index > d->children.size())
-        return false;
-    child->setParent(this);
-    d->children.insert(index, child);
-    connect(child, &QObject::destroyed, this,
-            [this, child] { d->children.removeOne(child); });
-    return true;
+    return index >= 0 && AddChild(child);
 }
 
 Lw::HNode *HNode::Copy()

@@ -37,8 +37,9 @@ public:
     virtual bool UpdateNode(QDomElement element, QList<Lw::FileInfo> &files);
     virtual void CoverToSDKFormate(QDomElement &parent, Lw::GetProgramModel model);
     virtual void AfterUpdate(bool isTemp);
-    virtual bool AddChild(Lw::HNode *child);               ///< takes ownership
-    virtual bool InsertChild(int index, Lw::HNode *child); ///< takes ownership
+    /// Takes ownership. False for null, and for a node that this one lies within.
+    virtual bool AddChild(Lw::HNode *child);
+    virtual bool InsertChild(int index, Lw::HNode *child); ///< the stand-in keeps no order
     virtual Lw::HNode *Copy();
     virtual void ReloadAttribute();
     virtual void Delete();
@@ -62,9 +63,9 @@ public:
     virtual bool Editable();
     virtual void GetSDKTempFile(QList<QFileInfo> &out);
     virtual bool TranscodeFinish();
-    virtual QSize Size();   ///< pixels; (-1, -1) before layout
+    virtual QSize Size(); ///< pixels; (-1, -1) before layout
     virtual int FrameHeight();
-    virtual QPoint Pos();   ///< pixels from the screen's top left
+    virtual QPoint Pos(); ///< pixels from the screen's top left
     virtual void ON_SizeChange(QSize size);
     virtual bool UseInternalBorder();
     virtual Lw::HNode *SourcNode();

@@ -95,16 +95,18 @@ bool HPluginManager::LoadFile(QString path)
     if (iid.isEmpty())
         return d->Refuse(path, QStringLiteral("not a Qt plugin (%1)").arg(loader.errorString()));
     if (iid != QLatin1String(kControllerPluginIid)) {
-        return d->Refuse(path, QStringLiteral("a plugin for another host (IID \"%1\", expected \"%2\")")
-                                       .arg(iid, QLatin1String(kControllerPluginIid)));
+        return d->Refuse(path,
+                         QStringLiteral("a plugin for another host (IID \"%1\", expected \"%2\")")
+                             .arg(iid, QLatin1String(kControllerPluginIid)));
     }
     QObject *const object = loader.instance();
     if (!object)
         return d->Refuse(path, QStringLiteral("cannot be loaded (%1)").arg(loader.errorString()));
     auto *const plugin = qobject_cast<INodePlugin *>(object);
     if (!plugin) {
-        return d->Refuse(path, QStringLiteral("its object does not implement %1")
-                                       .arg(QLatin1String(qobject_interface_iid<INodePlugin *>())));
+        return d->Refuse(path,
+                         QStringLiteral("its object does not implement %1")
+                             .arg(QLatin1String(qobject_interface_iid<INodePlugin *>())));
     }
     d->plugins.append({canonical, plugin});
     return true;
@@ -129,7 +131,8 @@ Lw::INodePlugin *HPluginManager::PluginFor(QDomElement &element)
 {
     INodePlugin *best = nullptr;
     for (const Private::Loaded &loaded : qAsConst(d->plugins)) {
-        if (loaded.plugin->PluginMatch(element) && (!best || loaded.plugin->level() < best->level()))
+        if (loaded.plugin->PluginMatch(element)
+            && (!best || loaded.plugin->level() < best->level()))
             best = loaded.plugin;
     }
     return best;

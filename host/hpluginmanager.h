@@ -33,7 +33,7 @@ public:
     /// One sentence, with its path, for each file refused since the process began.
     QStringList Refusals();
     int PluginCount();
-    QString PluginPath(int index);     ///< of the plugin at an index below PluginCount()
+    QString PluginPath(int index); ///< of the plugin at an index below PluginCount()
     /// The first plugin, by level and then by order of loading, that claims the element; null when
     /// none does. Plugins live until the process ends.
     Lw::INodePlugin *PluginFor(QDomElement &element);

@@ -8,10 +8,13 @@
 #include <QTimer>
 
 #include <cmath>
+#include <limits>
 
 namespace Lw {
 
 namespace {
+
+constexpr double kLongestWait = 1e12; // milliseconds; some thirty years
 
 QHash<unsigned int, QPointer<IContentRender>> &Renderers()
 {
@@ -36,10 +39,18 @@ double &TimeScale()
 class pictureplayer::Private
 {
 public:
-    // A timer may fire a fraction of a millisecond early; the wait is over only at the deadline.
-    void Wait()
+    void Wait(double milliseconds)
     {
-        timer.start(static_cast<int>(qMax<qint64>(0, deadline.remainingTime())));
+        const double wait = std::ceil(qBound(0.0, milliseconds, kLongestWait));
+        deadline = QDeadlineTimer(static_cast<qint64>(wait), Qt::PreciseTimer);
+        WaitOn();
+    }
+
+    // A timer may fire a fraction of a millisecond early; the wait is over only at the deadline.
+    void WaitOn()
+    {
+        const qint64 longest = std::numeric_limits<int>::max();
+        timer.start(static_cast<int>(qBound<qint64>(0, deadline.remainingTime(), longest)));
     }
 
     SessionParameter parameter = {};
@@ -54,7 +65,7 @@ pictureplayer::pictureplayer(QObject *parent) : QObject(parent), d(new Private)
     d->timer.setTimerType(Qt::PreciseTimer);
     connect(&d->timer, &QTimer::timeout, this, [this] {
         if (!d->deadline.hasExpired()) {
-            d->Wait();
+            d->WaitOn();
             return;
         }
         // The renderer may delete this player: nothing may follow the call.
@@ -73,6 +84,8 @@ void pictureplayer::Init(const SessionParameter *parameter)
     d->timer.stop();
     if (!parameter)
         return;
+    if (Players().value(d->parameter.playIdentifier) == this)
+        Players().remove(d->parameter.playIdentifier);
     d->parameter = *parameter;
     Players().insert(parameter->playIdentifier, this);
 }
@@ -85,12 +98,9 @@ void pictureplayer::UpdateImage(QImage image)
 
 void pictureplayer::UpdateEffect(int milliseconds, EffectType)
 {
-    const double scale = TimeScale();
-    if (scale > 0) {
-        const double wait = std::ceil(qMax(0, milliseconds) / scale);
-        d->deadline = QDeadlineTimer(static_cast<qint64>(wait), Qt::PreciseTimer);
-        d->Wait();
-    }
+    d->timer.stop();
+    if (TimeScale() > 0)
+        d->Wait(milliseconds / TimeScale());
     emit EffectUpdated(milliseconds);
 }
 
