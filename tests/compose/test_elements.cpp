@@ -87,7 +87,7 @@ void TestElements::DateFormats_data()
     QTest::newRow("labels") << 5 << D("2024") + "YYYY" + D("03") + "MMMM" + D("05") + "DDDD";
     QTest::newRow("labels without year") << 6 << D("03") + "MMMM" + D("05") + "DDDD";
     QTest::newRow("minus, day cut by three")
-            << 8 << D("2024") + "----" + D("03") + "----" + D("05").left(3);
+        << 8 << D("2024") + "----" + D("03") + "----" + D("05").left(3);
     QTest::newRow("beyond the list") << 9 << "";
     QTest::newRow("negative") << -1 << "";
 }
@@ -125,15 +125,16 @@ void TestElements::TimeFormats_data()
     QTest::newRow("to the minute") << 1 << afternoon << T("13") + ":" + T("07");
     QTest::newRow("labels") << 2 << afternoon
                             << T("13") + "hhh" + T("07") + "mmm" + T("42") + "sss";
-    QTest::newRow("labels to the minute") << 3 << "2024-03-05T08:15:42"
-                                          << T("08") + "hhh" + T("15") + "mmm";
-    QTest::newRow("short hour of one digit") << 4 << "2024-03-05T09:07:00" << T("9") + ":" + T("07");
-    QTest::newRow("short hour of two digits") << 4 << "2024-03-05T10:07:00"
-                                              << T("10") + ":" + T("07");
+    QTest::newRow("labels to the minute")
+        << 3 << "2024-03-05T08:15:42" << T("08") + "hhh" + T("15") + "mmm";
+    QTest::newRow("short hour of one digit")
+        << 4 << "2024-03-05T09:07:00" << T("9") + ":" + T("07");
+    QTest::newRow("short hour of two digits")
+        << 4 << "2024-03-05T10:07:00" << T("10") + ":" + T("07");
     QTest::newRow("short hour at midnight") << 4 << "2024-03-05T00:07:00" << T("0") + ":" + T("07");
     // Twelve digits' columns and two separators are reserved; the label takes three.
-    QTest::newRow("beyond the list") << 5 << afternoon
-                                     << (T("13") + "hhh" + T("07") + T("42")).left(14);
+    QTest::newRow("beyond the list")
+        << 5 << afternoon << (T("13") + "hhh" + T("07") + T("42")).left(14);
 }
 
 void TestElements::TimeFormats()
@@ -152,15 +153,16 @@ void TestElements::TwelveHours_data()
     QTest::addColumn<QString>("instant");
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("columns");
-    QTest::newRow("midnight stays 00") << "2024-03-05T00:30:00" << 1 << T("00") + ":" + T("30") + "_AA";
+    QTest::newRow("midnight stays 00")
+        << "2024-03-05T00:30:00" << 1 << T("00") + ":" + T("30") + "_AA";
     QTest::newRow("morning") << "2024-03-05T11:59:00" << 1 << T("11") + ":" + T("59") + "_AA";
     QTest::newRow("noon") << "2024-03-05T12:30:00" << 1 << T("12") + ":" + T("30") + "_PPP";
     QTest::newRow("afternoon") << "2024-03-05T13:30:00" << 1 << T("01") + ":" + T("30") + "_PPP";
     QTest::newRow("last hour") << "2024-03-05T23:59:00" << 1 << T("11") + ":" + T("59") + "_PPP";
     QTest::newRow("short hour after conversion")
-            << "2024-03-05T13:07:00" << 4 << T("1") + ":" + T("07") + "_PPP";
+        << "2024-03-05T13:07:00" << 4 << T("1") + ":" + T("07") + "_PPP";
     QTest::newRow("mark after seconds that are cut off")
-            << "2024-03-05T08:15:42" << 3 << T("08") + "hhh" + T("15") + "mmm_AA";
+        << "2024-03-05T08:15:42" << 3 << T("08") + "hhh" + T("15") + "mmm_AA";
 }
 
 void TestElements::TwelveHours()
@@ -208,12 +210,18 @@ void TestElements::Weekdays_data()
     QTest::addColumn<int>("code");
     QTest::addColumn<QString>("instant");
     QTest::addColumn<QString>("columns");
-    QTest::newRow("Chinese, Monday") << 0 << "2024-03-04T12:00:00" << "w";
-    QTest::newRow("Chinese, Sunday") << 0 << "2024-03-10T12:00:00" << "wwwwwww";
-    QTest::newRow("English, Tuesday") << 1 << "2024-03-05T12:00:00" << "xx";
-    QTest::newRow("short English, Friday") << 2 << "2024-03-08T12:00:00" << "yyyyy";
-    QTest::newRow("Persian, Saturday") << 3 << "2024-03-09T12:00:00" << "zzzzzz";
-    QTest::newRow("unknown code at first set-up") << 4 << "2024-03-09T12:00:00" << "";
+    QTest::newRow("Chinese, Monday") << 0 << "2024-03-04T12:00:00"
+                                     << "w";
+    QTest::newRow("Chinese, Sunday") << 0 << "2024-03-10T12:00:00"
+                                     << "wwwwwww";
+    QTest::newRow("English, Tuesday") << 1 << "2024-03-05T12:00:00"
+                                      << "xx";
+    QTest::newRow("short English, Friday") << 2 << "2024-03-08T12:00:00"
+                                           << "yyyyy";
+    QTest::newRow("Persian, Saturday") << 3 << "2024-03-09T12:00:00"
+                                       << "zzzzzz";
+    QTest::newRow("unknown code at first set-up") << 4 << "2024-03-09T12:00:00"
+                                                  << "";
 }
 
 void TestElements::Weekdays()
@@ -244,17 +252,28 @@ void TestElements::LunarDates_data()
     // Cells a to i are the numerals one to nine, j ten, k and l the lead word, n the month word,
     // p the prefix of the first ten days, q the name of the first month. New Year's days and month
     // beginnings are those of the published calendar.
-    QTest::newRow("first day of the first month") << "2024-02-10T12:00:00" << "klqnpa";
-    QTest::newRow("tenth day") << "2024-02-19T12:00:00" << "klqnpj";
-    QTest::newRow("eleventh day") << "2024-02-20T12:00:00" << "klqnja";
-    QTest::newRow("twentieth day") << "2024-02-29T12:00:00" << "klqnbj";
-    QTest::newRow("twenty-first day") << "2024-03-01T12:00:00" << "klqnbja";
-    QTest::newRow("thirtieth day of the twelfth month") << "2024-02-09T12:00:00" << "kljbncj";
-    QTest::newRow("eleventh month, twenty-fifth day") << "2000-01-01T12:00:00" << "kljanbje";
-    QTest::newRow("tenth month, first day") << "2024-11-01T12:00:00" << "kljnpa";
-    QTest::newRow("leap second month, first day") << "2023-03-22T12:00:00" << "klbnpa";
-    QTest::newRow("before the table") << "1900-01-31T12:00:00" << "";
-    QTest::newRow("after the table") << "2051-02-11T12:00:00" << "";
+    QTest::newRow("first day of the first month") << "2024-02-10T12:00:00"
+                                                  << "klqnpa";
+    QTest::newRow("tenth day") << "2024-02-19T12:00:00"
+                               << "klqnpj";
+    QTest::newRow("eleventh day") << "2024-02-20T12:00:00"
+                                  << "klqnja";
+    QTest::newRow("twentieth day") << "2024-02-29T12:00:00"
+                                   << "klqnbj";
+    QTest::newRow("twenty-first day") << "2024-03-01T12:00:00"
+                                      << "klqnbja";
+    QTest::newRow("thirtieth day of the twelfth month") << "2024-02-09T12:00:00"
+                                                        << "kljbncj";
+    QTest::newRow("eleventh month, twenty-fifth day") << "2000-01-01T12:00:00"
+                                                      << "kljanbje";
+    QTest::newRow("tenth month, first day") << "2024-11-01T12:00:00"
+                                            << "kljnpa";
+    QTest::newRow("leap second month, first day") << "2023-03-22T12:00:00"
+                                                  << "klbnpa";
+    QTest::newRow("before the table") << "1900-01-31T12:00:00"
+                                      << "";
+    QTest::newRow("after the table") << "2051-02-11T12:00:00"
+                                     << "";
 }
 
 void TestElements::LunarDates()
@@ -317,8 +336,10 @@ void TestElements::MissingImages_data()
     QTest::addColumn<QString>("time");
     const QString date = D("2024") + "//" + D("03") + "//" + D("05") + "_";
     const QString time = T("13") + ":" + T("07") + ":" + T("42");
-    QTest::newRow("date digits") << "_dateNumber" << "////_" << time;
-    QTest::newRow("date labels, whose height counts") << "_dateCh" << "" << time;
+    QTest::newRow("date digits") << "_dateNumber"
+                                 << "////_" << time;
+    QTest::newRow("date labels, whose height counts") << "_dateCh"
+                                                      << "" << time;
     QTest::newRow("date separators") << "_dateChar" << D("2024") + D("03") + D("05") << time;
     QTest::newRow("time digits") << "_timeNumber" << date << "::";
     QTest::newRow("time labels, whose height counts") << "_timeCh" << date << "";

@@ -50,8 +50,15 @@ PlainDigitalClock::Shown PlainDigitalClock::Gregorian(const QDateTime &reading)
 {
     const QDate date = reading.date();
     const QTime time = reading.time();
-    return {date.year(), date.month(),  date.day(),       time.hour(), time.minute(),
-            time.second(), date.dayOfWeek(), 0, 0};
+    return {date.year(),
+            date.month(),
+            date.day(),
+            time.hour(),
+            time.minute(),
+            time.second(),
+            date.dayOfWeek(),
+            0,
+            0};
 }
 
 QPixmap PlainDigitalClock::File(const char *key)
@@ -71,14 +78,14 @@ QPixmap PlainDigitalClock::Date(const Shown &s)
     const QPixmap chars = File("_dateChar");
     const QPixmap space = File("_space");
     const QPixmap year =
-            Digits(digits, {s.year / 1000, s.year % 1000 / 100, s.year % 100 / 10, s.year % 10});
+        Digits(digits, {s.year / 1000, s.year % 1000 / 100, s.year % 100 / 10, s.year % 10});
     const QPixmap day = Digits(digits, {s.day / 10, s.day % 10});
     const int type = Number("DigitalDateType");
     QPixmap month = Digits(digits, {s.month / 10, s.month % 10});
     if (type == 3 || type == 4) {
         month = File(qPrintable(QStringLiteral("_dateEnMonth_%1").arg(s.month)));
         QPixmap canvas = Canvas(year.width() + month.width() + day.width() + chars.width() / 2
-                                        + 2 * space.width(),
+                                    + 2 * space.width(),
                                 labels.height());
         const QPixmap first = type == 3 ? month : day;
         DrawFrom(canvas, 0, {first});
@@ -88,9 +95,9 @@ QPixmap PlainDigitalClock::Date(const Shown &s)
     if (type == 5 || type == 6) {
         const int cell = labels.width() / 3;
         const bool withYear = type == 5;
-        QPixmap canvas = Canvas(month.width() + day.width() + 2 * cell
-                                        + (withYear ? year.width() + cell : 0),
-                                labels.height());
+        QPixmap canvas =
+            Canvas(month.width() + day.width() + 2 * cell + (withYear ? year.width() + cell : 0),
+                   labels.height());
         QList<QPixmap> parts;
         if (withYear)
             parts << year << Cell(labels, 3, 0);
@@ -100,7 +107,7 @@ QPixmap PlainDigitalClock::Date(const Shown &s)
     }
     const QPixmap separator = type == 8 ? File("_Minus") : Cell(chars, 2, 1);
     QPixmap canvas =
-            Canvas(year.width() + month.width() + day.width() + chars.width(), labels.height());
+        Canvas(year.width() + month.width() + day.width() + chars.width(), labels.height());
     switch (type) {
     case 0:
     case 7:
@@ -149,8 +156,7 @@ QPixmap PlainDigitalClock::Time(const Shown &s)
         break;
     case 2:
         width = 6 * w + labels.width();
-        parts << Cell(labels, 3, 0) << minute << Cell(labels, 3, 1) << second
-              << Cell(labels, 3, 2);
+        parts << Cell(labels, 3, 0) << minute << Cell(labels, 3, 1) << second << Cell(labels, 3, 2);
         break;
     case 3:
         width = 4 * w + 2 * label;
@@ -316,9 +322,13 @@ QImage PlainDigitalClock::Frame(const Shown &shown)
     default:
         break;
     }
-    for (const Part &part : qAsConst(parts)) {
-        if (part.flag == 1)
-            painter.drawPixmap(size.width() / 2 - part.pixmap.width() / 2, part.y, part.pixmap);
+    // Where rows lie over each other, the later of this order is on top.
+    for (const char name : {'t', 'd', 'w', 'h', 'l'}) {
+        const int index = indexOf(name);
+        if (index < 0 || parts.at(index).flag != 1)
+            continue;
+        const Part &part = parts.at(index);
+        painter.drawPixmap(size.width() / 2 - part.pixmap.width() / 2, part.y, part.pixmap);
     }
     return frame;
 }
