@@ -4,11 +4,14 @@
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
 #include "display/frame_painter.h"
+#include "display/frame_memory.h"
 #include "display/row_layout.h"
+#include "display/text_rows.h"
 
 #include <QPainter>
 
 #include <memory>
+#include <optional>
 
 namespace Lw::HNodeClock {
 
@@ -64,18 +67,21 @@ public:
     FrameContents digitalSpareContents; ///< of the spare
 
     // Analog clock.
-    QImage dialCache;
-    QDate dialDate;
+    QImage dialCache; ///< marks, numerals, badge and texts: what the hands are drawn over
+    QDate dialDate;   ///< the device's date when the dial was drawn
     QString dialTimeAP;
+    FrameMemory dialFrames; ///< the frames over the dial
+    TextRows dialTexts;     ///< the texts on the dial
 
     // Picture clock.
     QPixmap hourPicture;
     QPixmap minutePicture;
     QPixmap secondPicture;
     QPixmap centrePicture;
-    QImage pictureBackground;
-    int pictureTypeLoaded = 0;
-    bool pictureLoaded = false;
+    QImage pictureBackground; ///< the scaled dial: what the hands are drawn over
+    QSize pictureSize;        ///< the background's size, or the one it could not be made in
+    std::optional<int> pictureType; ///< of the background; none before the first frame
+    FrameMemory pictureFrames;      ///< the frames over the background
 };
 
 } // namespace Lw::HNodeClock

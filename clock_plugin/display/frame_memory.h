@@ -1,0 +1,59 @@
+// What stands in the frames of one kind of clock: which pixels differ from the picture behind its
+// hands. Two frames are drawn in turn, so two are remembered.
+//
+// A frame is recognised by its image's cache key, which changes whenever anyone else writes into
+// the image or replaces it: such a frame is unknown, and gets the whole picture.
+#pragma once
+
+#include "display/hand_trace.h"
+
+#include <QImage>
+#include <QRegion>
+
+#include <array>
+
+namespace Lw::HNodeClock {
+
+class FrameMemory
+{
+    struct Known;
+
+public:
+    /// Makes a frame equal to the background: by copying what differs when the frame is known, all
+    /// of it when not. Where the sizes differ, or one is null, nothing happens.
+    void Restore(QImage &frame, const QImage &background);
+
+    /// To be called around painting hands onto a frame: what stands in it before, and the outlines
+    /// that were painted. An unknown frame stays unknown.
+    class Painting
+    {
+    public:
+        Painting(FrameMemory &memory, QImage &frame);
+        ~Painting();
+        Q_DISABLE_COPY(Painting)
+        void Covers(const QVector<QPolygonF> &outlines); ///< in pixels of the frame
+
+    private:
+        QImage &m_frame;
+        Known *m_known;
+    };
+
+    /// The background was painted within an area, and nowhere else, since it had the key given.
+    /// With any other key than the one known all frames are forgotten.
+    void BackgroundChanged(qint64 keyBefore, const QImage &background, const QRegion &area);
+
+private:
+    struct Known
+    {
+        qint64 key = 0; // of the frame; 0 is no frame
+        QRegion stale;  // where the background changed since it was copied
+        HandTrace hands;
+    };
+    Known *Find(const QImage &frame);
+    void Forget();
+
+    std::array<Known, 2> m_known; // the one used last comes first
+    qint64 m_backgroundKey = 0;
+};
+
+} // namespace Lw::HNodeClock
