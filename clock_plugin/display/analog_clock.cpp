@@ -1,5 +1,15 @@
-// The analog clock: dial, hands and text rows.
+// The analog clock: a dial that is drawn rarely, the hands over it every second, and text rows that
+// are drawn onto the dial, so that a frame shows them from the next second on.
+#include "calendar/device_clock.h"
+#include "compose/glyph_file.h"
+#include "display/analog_geometry.h"
+#include "display/analog_painting.h"
 #include "display/draw_display_image_p.h"
+#include "glyph/glyph_set.h"
+
+#include "happconfig.h"
+
+#include <algorithm>
 
 namespace Lw::HNodeClock {
 
@@ -7,8 +17,171 @@ QPoint hourHand[3];
 QPoint minuteHand[3];
 QPoint secondHand[3];
 
-void DrawDisplayImage::GetAngDisplayArea() { }
+namespace {
 
-void DrawDisplayImage::DrawAnalogClock() { }
+struct HandRow
+{
+    Hand hand;
+    Attribute type;
+    Attribute colour;
+};
+
+// In the order of painting: the second hand lies above the others.
+constexpr HandRow kHands[] = {
+    {Hand::Hour, Attribute::HourRectType, Attribute::HourHandColor},
+    {Hand::Minute, Attribute::MinuteRectType, Attribute::MinuteHandColor},
+    {Hand::Second, Attribute::SecondRectType, Attribute::SecondHandColor},
+};
+
+// The host's image format that asks for smooth hands.
+bool Antialiasing()
+{
+    return HAppConfig::instance()->RenderImageFormat() == QImage::Format_ARGB32;
+}
+
+} // namespace
+
+void DrawDisplayImage::SetHandSize(int size)
+{
+    const HandTriangles triangles = TrianglesFor(size);
+    std::copy(triangles.hour.begin(), triangles.hour.end(), hourHand);
+    std::copy(triangles.minute.begin(), triangles.minute.end(), minuteHand);
+    std::copy(triangles.second.begin(), triangles.second.end(), secondHand);
+}
+
+void DrawDisplayImage::DrawAnalogClock()
+{
+    if (!d->node)
+        return;
+    const QSize size = d->node->Size();
+    d->PrepareFrame(size);
+    const bool dialIsOld = d->dialCache.isNull() || d->dialDate != LocalDate()
+        || d->dialCache.size() != size || d->composer.GetTimeAP() != d->dialTimeAP;
+    if (dialIsOld) {
+        d->dialCache = d->NewImage(size, GetColorKey());
+        DrawAnalogClockDial();
+        DrawAnalogClock_AMPM();
+        d->dialDate = LocalDate();
+    }
+    d->dialFrames.Restore(d->frame, d->dialCache);
+    DrawAnalogClockPoint();
+    DrawAnalogText();
+}
+
+void DrawDisplayImage::DrawAnalogClockDial()
+{
+    if (!d->node || d->dialCache.isNull())
+        return;
+    MarkStyle style;
+    style.hourScale = d->Number(Attribute::HourScaleType);
+    style.minuteScale = d->Number(Attribute::MinuteScaleType);
+    style.hourColour = ReturnQcolor(d->Number(Attribute::HourScaleColor));
+    style.minuteColour = ReturnQcolor(d->Number(Attribute::MinuteScaleColor));
+    const bool numerals = style.hourScale == TwelveNumerals || style.hourScale == FourNumerals;
+    const double radius = DialRadius(d->dialCache.size());
+
+    d->painter.begin(&d->dialCache);
+    d->painter.setRenderHint(QPainter::Antialiasing, false);
+    d->painter.translate(Centre(d->dialCache.size()));
+    PaintMarks(d->painter, radius, style);
+    if (numerals) {
+        const QString strip = d->node->GetFirstFile(GlyphKey(Glyph::HourhandNumber));
+        PaintNumerals(d->painter, style.hourScale, radius, ReadGlyphFile(strip), GetColorKey());
+    }
+    d->painter.end();
+}
+
+void DrawDisplayImage::DrawAnalogClock_AMPM()
+{
+    if (!d->node)
+        return;
+    d->dialTimeAP = d->composer.GetTimeAP();
+    if (d->Number(Attribute::Analog_AMPM_d) != 1 || d->dialCache.isNull())
+        return;
+    const Glyph glyph = d->dialTimeAP == QLatin1String("AM") ? Glyph::AnalogAM : Glyph::AnalogPM;
+    const QPixmap badge = ReadGlyphFile(d->node->GetFirstFile(GlyphKey(glyph)));
+    if (badge.isNull())
+        return;
+    d->painter.begin(&d->dialCache);
+    d->painter.drawPixmap(BadgePlace(d->node->Size(), badge.size()), badge);
+    d->painter.end();
+}
+
+void DrawDisplayImage::DrawAnalogClockPoint()
+{
+    if (!d->node)
+        return;
+    const QSize size = d->node->Size();
+    SetHandSize(std::min(size.width(), size.height()));
+    if (d->second == d->lastSecondDrawn)
+        ++d->repeatedSeconds;
+    d->lastSecondDrawn = d->second;
+    if (d->frame.isNull())
+        return;
+
+    const double radius = HandRadius(d->frame.size());
+    FrameMemory::Painting painting(d->dialFrames, d->frame);
+    d->painter.begin(&d->frame);
+    d->painter.setRenderHint(QPainter::Antialiasing, Antialiasing());
+    d->painter.translate(Centre(d->frame.size()));
+    bool anyArrow = false;
+    for (const HandRow &row : kHands) {
+        const int type = d->Number(row.type);
+        const double angle = HandAngle(row.hand, d->hour, d->minute, d->second);
+        painting.Covers(PaintHand(d->painter, ShapeOf(row.hand, type, radius), angle,
+                                  ReturnQcolor(d->Number(row.colour))));
+        anyArrow = anyArrow || type == ArrowHand;
+    }
+    painting.Covers(PaintCentreCap(d->painter, CentreCap(radius, anyArrow),
+                                   ReturnQcolor(d->Number(Attribute::SecondHandColor))));
+    d->painter.end();
+}
+
+void DrawDisplayImage::GetAngDisplayArea()
+{
+    if (!d->node)
+        return;
+    Rows flags;
+    flags.date = d->Number(Attribute::Analog_Date_d);
+    flags.week = d->Number(Attribute::Analog_Week_d);
+    flags.lunar = d->Number(Attribute::Analog_Lunar_d);
+    // The place of a row that does not count is never looked at, nor is its height.
+    Rows heights;
+    heights.topText = d->composer.GetTopTextPixmap().height();
+    heights.date = flags.date != 0 ? d->composer.GetDatePixmap().height() : 0;
+    heights.week = flags.week != 0 ? d->composer.GetWeeKPixmap().height() : 0;
+    heights.lunar = flags.lunar != 0 ? d->composer.GetLunarPixmap().height() : 0;
+    const QSize size = d->node->Size();
+    LayOutAnalogRows(size.width(), size.height(), d->Number(Attribute::AnalogSpace),
+                     d->Number(Attribute::AnalogSwapArea), flags, heights, d->rows);
+}
+
+void DrawDisplayImage::DrawAnalogText()
+{
+    if (!d->node || d->dialCache.isNull())
+        return;
+    const struct
+    {
+        Attribute flag;
+        QPixmap (DrawClockClassifyImage::*pixmap)();
+        int top;
+    } shown[] = {
+        {Attribute::Analog_TopTexy_d, &DrawClockClassifyImage::GetTopTextPixmap, d->rows.topText},
+        {Attribute::Analog_Date_d, &DrawClockClassifyImage::GetDatePixmap, d->rows.date},
+        {Attribute::Analog_Week_d, &DrawClockClassifyImage::GetWeeKPixmap, d->rows.week},
+        {Attribute::Analog_Lunar_d, &DrawClockClassifyImage::GetLunarPixmap, d->rows.lunar},
+    };
+    QVector<TextRow> rows;
+    for (const auto &row : shown) {
+        if (d->Number(row.flag) != 1)
+            continue;
+        const QPixmap pixmap = (d->composer.*row.pixmap)();
+        const int left = d->node->Size().width() / 2 - pixmap.width() / 2;
+        rows.append({pixmap, QPoint(left, row.top)});
+    }
+    const qint64 keyBefore = d->dialCache.cacheKey();
+    const QRegion changed = d->dialTexts.Paint(d->painter, d->dialCache, rows, Antialiasing());
+    d->dialFrames.BackgroundChanged(keyBefore, d->dialCache, changed);
+}
 
 } // namespace Lw::HNodeClock

@@ -1,10 +1,105 @@
-// The picture clock: a dial picture and hand pictures of a chosen style.
+// The picture clock: a dial picture of a chosen style, and hand pictures that all styles share.
+#include "compose/glyph_file.h"
 #include "display/draw_display_image_p.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
 
 namespace Lw::HNodeClock {
 
-void DrawDisplayImage::InitClockTypePixmap() { }
+namespace {
 
-void DrawDisplayImage::DrawPixmapClock() { }
+// The face that the hand pictures are laid out on, in units around its centre.
+constexpr int kFace = 300;
+constexpr QRect kHourPlace(-12, -65, 24, 70);
+constexpr QRect kMinutePlace(-10, -85, 20, 90);
+constexpr QRect kSecondPlace(-5, -110, 10, 110);
+constexpr QRect kCentrePlace(-10, -10, 20, 20);
+
+QString StyleFolder()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../image/ClockType/");
+}
+
+QString DialFile(int type)
+{
+    return QStringLiteral("picbutton%1.png").arg(type);
+}
+
+} // namespace
+
+void DrawDisplayImage::InitClockTypePixmap()
+{
+    if (!d->node)
+        return;
+    const QString folder = StyleFolder();
+    d->hourPicture = ReadGlyphFile(folder + QStringLiteral("hour.png"));
+    d->minutePicture = ReadGlyphFile(folder + QStringLiteral("minute.png"));
+    d->secondPicture = ReadGlyphFile(folder + QStringLiteral("second.png"));
+    d->centrePicture = ReadGlyphFile(folder + QStringLiteral("center.png"));
+    d->dialTimeAP.clear(); // an analog dial that is drawn later is drawn anew
+
+    const QSize size = d->node->Size();
+    d->pictureSize = QSize(d->frameWidth, size.height());
+    d->pictureBackground = d->NewImage(d->pictureSize, GetColorKey());
+    const int side = std::min(size.width(), size.height());
+    const QImage dial = ReadImageFile(folder + DialFile(d->Number(Attribute::PictrueClockType)));
+    if (d->pictureBackground.isNull() || dial.isNull() || side <= 0)
+        return;
+    d->painter.begin(&d->pictureBackground);
+    d->painter.drawImage((size.width() - side) / 2, (d->pictureSize.height() - side) / 2,
+                         dial.scaled(side, side, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+    d->painter.end();
+}
+
+void DrawDisplayImage::DrawPixmapClock()
+{
+    if (!d->node)
+        return;
+    const QSize size = d->node->Size();
+    const int type = d->Number(Attribute::PictrueClockType);
+    if (d->pictureType != type || d->pictureSize != QSize(d->frameWidth, size.height())) {
+        InitClockTypePixmap();
+        d->pictureType = type;
+    }
+    d->PrepareFrame(size);
+    if (d->frame.isNull())
+        return;
+    if (d->pictureBackground.size() == size)
+        d->pictureFrames.Restore(d->frame, d->pictureBackground);
+    else
+        d->frame.fill(GetColorKey());
+
+    const int minute = d->dateTime.time().minute();
+    const int second = d->dateTime.time().second();
+    const struct
+    {
+        const QPixmap &picture;
+        double degrees;
+        QRect place;
+    } parts[] = {
+        {d->hourPicture, (d->hour + minute / 60.0) * 30, kHourPlace},
+        {d->minutePicture, (minute + second / 60.0) * 6, kMinutePlace},
+        {d->secondPicture, second * 6.0, kSecondPlace},
+        {d->centrePicture, 0, kCentrePlace},
+    };
+    const double scale = std::min(size.height(), size.width()) / static_cast<double>(kFace);
+    FrameMemory::Painting painting(d->pictureFrames, d->frame);
+    d->painter.begin(&d->frame);
+    d->painter.translate(size.width() / 2, size.height() / 2);
+    d->painter.scale(scale, scale);
+    d->painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+    for (const auto &part : parts) {
+        if (part.picture.isNull())
+            continue;
+        d->painter.save();
+        d->painter.rotate(part.degrees);
+        d->painter.drawPixmap(part.place, part.picture);
+        painting.Covers({d->painter.transform().map(QPolygonF(QRectF(part.place)))});
+        d->painter.restore();
+    }
+    d->painter.end();
+}
 
 } // namespace Lw::HNodeClock
