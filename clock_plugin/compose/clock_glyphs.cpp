@@ -1,6 +1,6 @@
 #include "compose/clock_glyphs.h"
 
-#include "compose/glyph_file.h"
+#include "compose/glyph_reading.h"
 #include "glyph/glyph_set.h"
 
 #include <QDateTime>

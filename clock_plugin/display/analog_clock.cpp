@@ -1,7 +1,7 @@
 // The analog clock: a dial that is drawn rarely, the hands over it every second, and text rows that
 // are drawn onto the dial, so that a frame shows them from the next second on.
 #include "calendar/device_clock.h"
-#include "compose/glyph_file.h"
+#include "compose/glyph_reading.h"
 #include "display/analog_geometry.h"
 #include "display/analog_painting.h"
 #include "display/draw_display_image_p.h"

@@ -1,5 +1,5 @@
 // The picture clock: a dial picture of a chosen style, and hand pictures that all styles share.
-#include "compose/glyph_file.h"
+#include "compose/glyph_reading.h"
 #include "display/draw_display_image_p.h"
 
 #include <QCoreApplication>

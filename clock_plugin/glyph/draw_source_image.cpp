@@ -21,13 +21,9 @@ constexpr int kFileKind = 3; // what the host calls a glyph image
 constexpr int kDigits = 10;
 constexpr int kDefaultPoints = 12;
 
-// The raster engine paints nothing beyond this coordinate.
-constexpr int kMaxSide = 32767;
-constexpr qint64 kMaxImageBytes = 64 * 1024 * 1024;
-constexpr qint64 kPixelBytes = 4;
 // No font above this size has a line that fits an image. Qt draws boxes of a fixed size instead of
 // glyphs from about twice as much on, which must not pass for the text.
-constexpr int kMaxPoints = kMaxSide;
+constexpr int kMaxPoints = kImageSide;
 // Qt's text widths overflow at 2^25 pixels: so many characters stay below it at every size.
 constexpr int kMeasuredAtOnce = 256;
 
@@ -58,10 +54,10 @@ int TextWidth(const QFontMetrics &metrics, const QString &text)
 {
     if (text.size() > kMeasuredAtOnce) {
         qint64 estimate = 0;
-        for (int at = 0; at < text.size() && estimate <= 2 * kMaxSide; at += kMeasuredAtOnce)
+        for (int at = 0; at < text.size() && estimate <= 2 * kImageSide; at += kMeasuredAtOnce)
             estimate += AdvanceWidth(metrics, text.mid(at, kMeasuredAtOnce));
-        if (estimate > 2 * kMaxSide)
-            return kMaxSide + 1;
+        if (estimate > 2 * kImageSide)
+            return kImageSide + 1;
     }
     return AdvanceWidth(metrics, text);
 }
@@ -69,9 +65,7 @@ int TextWidth(const QFontMetrics &metrics, const QString &text)
 /// Null for a size that is empty or beyond the bounds.
 QPixmap TransparentPixmap(int width, int height)
 {
-    const bool fits =
-        width <= kMaxSide && height <= kMaxSide && width * kPixelBytes * height <= kMaxImageBytes;
-    if (!fits || width <= 0 || height <= 0)
+    if (!WithinBounds({width, height}, kGlyphBytes))
         return QPixmap();
     QPixmap pixmap(width, height);
     pixmap.fill(Qt::transparent);

@@ -1,7 +1,7 @@
 // Which images a composer loads, and what it makes of files that are none.
 #include "chosen_time.h"
 #include "compose/clock_glyphs.h"
-#include "compose/glyph_file.h"
+#include "compose/glyph_reading.h"
 #include "lettered_glyphs.h"
 
 #include <QFile>

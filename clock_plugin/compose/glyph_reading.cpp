@@ -1,4 +1,4 @@
-#include "compose/glyph_file.h"
+#include "compose/glyph_reading.h"
 
 #include "image_bounds.h"
 
