@@ -5,8 +5,9 @@ Run by hand (Debian: python3-ephem); neither the build nor the tests run it:
 
     /usr/bin/python3 scripts/make_lunar_table.py > tests/calendar/lunar_months.csv
 
-The months come from the sky, not from any table of month lengths. A month begins on the day, at
-UTC+8, of a new moon. Month 11 is the month that holds the winter solstice. Where thirteen months
+The months come from the sky, not from any table of month lengths. A month begins on the day of a
+new moon, counted in China: by the mean time of Beijing, 116 degrees 25 minutes east, up to 1928,
+and by UTC+8 from 1929 on, as the calendar was made. Month 11 is the month that holds the winter solstice. Where thirteen months
 begin from one month 11 to the next, the first of them without a major solar term (the sun's
 longitude a multiple of 30 degrees) is the leap month and repeats the number before it.
 
@@ -19,12 +20,14 @@ import math
 import ephem
 
 FIRST_YEAR, LAST_YEAR = 1900, 2050
+BEIJING = datetime.timedelta(hours=7, minutes=45, seconds=40)
 CHINA = datetime.timedelta(hours=8)
 
 
 def china_day(instant):
-    """The calendar day at UTC+8 of an instant that ephem gives in UTC."""
-    return (ephem.Date(instant).datetime() + CHINA).date()
+    """The calendar day in China of an instant that ephem gives in UTC."""
+    utc = ephem.Date(instant).datetime()
+    return (utc + (CHINA if utc.year >= 1929 else BEIJING)).date()
 
 
 def new_moon_days(first_year, last_year):
@@ -39,7 +42,9 @@ def new_moon_days(first_year, last_year):
 
 def sun_longitude(instant):
     """The sun's apparent longitude of date, in degrees."""
-    return math.degrees(ephem.Ecliptic(ephem.Sun(instant), epoch=instant).lon)
+    sun = ephem.Sun(instant)
+    apparent = ephem.Equatorial(sun.g_ra, sun.g_dec, epoch=instant)
+    return math.degrees(ephem.Ecliptic(apparent, epoch=instant).lon)
 
 
 def major_terms(first_year, last_year):

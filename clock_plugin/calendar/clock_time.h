@@ -89,7 +89,8 @@ private:
     QString m_endText;
     std::optional<DaylightRule> m_startRule;
     std::optional<DaylightRule> m_endRule;
-    // The year that the boundaries are of, from its first to past its last millisecond.
+    // The year that the boundaries are of, from its first to past its last millisecond; no year
+    // while both are equal.
     qint64 m_yearBegin = 0;
     qint64 m_yearEnd = 0;
     bool m_hasPeriod = false;

@@ -104,12 +104,13 @@ void DaylightSaving::SetRules(const QString &start, const QString &end)
     m_endText = end;
     m_startRule = ParseDaylightRule(start);
     m_endRule = ParseDaylightRule(end);
-    m_yearBegin = m_yearEnd = 0; // no year, so that the next reading asks for its boundaries
+    m_yearBegin = m_yearEnd = 0;
 }
 
 void DaylightSaving::MoveToYearOf(qint64 reading)
 {
     m_hasPeriod = false;
+    m_yearBegin = m_yearEnd = 0;
     const int year = SplitReading(reading).year;
     if (year < kFirstYear || year > kLastYear || !m_startRule || !m_endRule)
         return;

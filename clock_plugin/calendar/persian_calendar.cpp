@@ -1,5 +1,7 @@
 #include "calendar/persian_calendar.h"
 
+#include <limits>
+
 namespace Lw::HNodeClock {
 
 namespace {
@@ -10,6 +12,8 @@ constexpr qint64 kAnchorJulianDay = 2449068; // 21 March 1993
 // The rule repeats exactly: 128 years, 31 of them leap.
 constexpr int kCycleYears = 128;
 constexpr qint64 kCycleDays = 128 * 365 + 31;
+// Cycles whose years all have a number; QDate reaches a little further.
+constexpr qint64 kCycles = (std::numeric_limits<int>::max() - kAnchorYear) / kCycleYears;
 
 constexpr int kLongMonths = 6; // of 31 days; the others have 30, the last one 29 in common years
 constexpr int kLongMonthsDays = kLongMonths * 31;
@@ -62,6 +66,8 @@ PersianDate ToPersianDate(const QDate &date)
     if (!date.isValid() || date.toJulianDay() < kAnchorJulianDay)
         return {};
     const qint64 days = date.toJulianDay() - kAnchorJulianDay;
+    if (days >= kCycles * kCycleDays)
+        return {};
     int year = kAnchorYear + static_cast<int>(days / kCycleDays) * kCycleYears;
     int dayOfYear = static_cast<int>(days % kCycleDays) + 1;
     for (int length = YearLength(year); dayOfYear > length; length = YearLength(year)) {
