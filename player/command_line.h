@@ -1,0 +1,43 @@
+// What the person at the shell asked for.
+#pragma once
+
+#include "failure.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <variant>
+
+namespace ClockPlayer {
+
+constexpr int kDefaultFrames = 10;
+constexpr int kMaximumFrames = 1000000;
+
+struct Options
+{
+    QString programPath;
+    QString pluginDirectory; ///< empty: beside the program
+    QString filesDirectory;  ///< for the glyph files; empty: a temporary one
+    QString outputDirectory; ///< for the frames; empty: play on the display
+    QString language;        ///< empty: the locale's
+    QString platform;        ///< Qt platform plugin; empty: Qt's own choice
+    int frames = kDefaultFrames;
+    std::optional<qint64> startInstant; ///< UTC milliseconds; nothing: the system's time
+    bool checkDisplay = false;          ///< only find out whether the display can be reached
+
+    bool WritesFrames() const { return !outputDirectory.isEmpty(); }
+};
+
+/// A text that was asked for instead of playing.
+struct Information
+{
+    QString text;
+};
+
+using CommandLine = std::variant<Options, Information, Failure>;
+
+/// Reads the arguments, the program's own name first. Needs an application object.
+CommandLine ParseCommandLine(const QStringList &arguments);
+
+} // namespace ClockPlayer

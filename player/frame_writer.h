@@ -1,0 +1,27 @@
+// Writes what a stage shows to PNG files, second by second of the player's time.
+#pragma once
+
+#include "failure.h"
+
+#include <functional>
+
+namespace ClockPlayer {
+
+class Stage;
+
+struct FrameRun
+{
+    QString directory; ///< exists; files of the frames' names are replaced
+    int count = 0;
+    qint64 start = 0;              ///< UTC milliseconds; the first frame shows its whole second
+    std::function<bool()> isEnded; ///< asked after each frame; true ends the run early
+};
+
+/// Starts the stage and writes its frames. The plugins must take their time from PlayerTime, and
+/// the waits of the host's player must be off.
+MaybeFailure WriteFrames(Stage &stage, const FrameRun &run);
+
+/// The file name of a frame, counted from 1. Names of one run sort in the order of the frames.
+QString FrameName(int number, int count);
+
+} // namespace ClockPlayer

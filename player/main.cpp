@@ -1,0 +1,89 @@
+// clock_player: plays content programs as the display's host does.
+#include "player.h"
+
+#include <QGuiApplication>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+using namespace ClockPlayer;
+
+void Say(const QString &text)
+{
+    for (const QString &line : text.split(QLatin1Char('\n')))
+        std::fprintf(stderr, "clock_player: %s\n", qPrintable(line));
+}
+
+int Report(const Failure &failure)
+{
+    Say(failure.text);
+    return static_cast<int>(failure.code);
+}
+
+// Qt ends the process from within the application's constructor when it reaches no display. What
+// it complained of before is of interest only then.
+void FailWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    static QStringList complaints;
+    complaints.append(message.section(QLatin1Char('\n'), 0, 0));
+    if (type != QtFatalMsg)
+        return;
+    Say(complaints.join(QLatin1Char('\n')));
+    Say(QStringLiteral("no display can be reached: set DISPLAY, choose another -platform, or write "
+                       "frames with --output"));
+    std::_Exit(static_cast<int>(ExitCode::RuntimeFailure));
+}
+
+CommandLine ReadCommandLine(int argc, char **argv)
+{
+    // The application proper needs a display, which nobody needs for the help text.
+    const QCoreApplication application(argc, argv);
+    return ParseCommandLine(QCoreApplication::arguments());
+}
+
+void ChoosePlatform(const Options &options)
+{
+    if (!options.platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", options.platform.toLocal8Bit());
+    else if (options.WritesFrames() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+int RunOnDisplay(int argc, char **argv, const Options &options, const Program &program)
+{
+    ChoosePlatform(options);
+    const QtMessageHandler before = qInstallMessageHandler(FailWithoutDisplay);
+    const QGuiApplication application(argc, argv);
+    qInstallMessageHandler(before);
+    if (options.checkDisplay)
+        return static_cast<int>(ExitCode::Success);
+    const MaybeFailure failure = Play(options, program, Say);
+    return failure ? Report(*failure) : static_cast<int>(ExitCode::Success);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Text sizes are points: the same number of pixels on every display.
+    if (!qEnvironmentVariableIsSet("QT_FONT_DPI"))
+        qputenv("QT_FONT_DPI", "96");
+
+    const CommandLine commandLine = ReadCommandLine(argc, argv);
+    if (const auto *information = std::get_if<Information>(&commandLine)) {
+        std::fputs(qPrintable(information->text), stdout);
+        return static_cast<int>(ExitCode::Success);
+    }
+    if (const auto *failure = std::get_if<Failure>(&commandLine))
+        return Report(*failure);
+
+    const Options &options = std::get<Options>(commandLine);
+    if (options.checkDisplay)
+        return RunOnDisplay(argc, argv, options, Program());
+    const Result<Program> program = ReadProgram(options.programPath);
+    if (const auto *failure = std::get_if<Failure>(&program))
+        return Report(*failure);
+    return RunOnDisplay(argc, argv, options, std::get<Program>(program));
+}

@@ -1,0 +1,50 @@
+#include "plugins.h"
+
+#include "hpluginmanager.h"
+
+#include <QLibrary>
+
+namespace ClockPlayer {
+
+namespace {
+
+const char kTimeSourceSymbol[] = "clock_set_time_source";
+using SetTimeSourceFunction = void (*)(long long (*)());
+
+} // namespace
+
+MaybeFailure LoadPlugins(const QString &directory, QStringList &warnings)
+{
+    Lw::HPluginManager &manager = *Lw::HPluginManager::instance();
+    manager.LoadDirectory(directory);
+    const QStringList refusals = manager.Refusals();
+    if (manager.PluginCount() > 0) {
+        warnings += refusals;
+        return std::nullopt;
+    }
+    if (!refusals.isEmpty())
+        return Failure {ExitCode::RuntimeFailure, refusals.join(QLatin1Char('\n'))};
+    return Failure {ExitCode::RuntimeFailure,
+                    QStringLiteral("%1: no plugins in this directory").arg(directory)};
+}
+
+MaybeFailure SetTimeSource(long long (*utcMilliseconds)())
+{
+    Lw::HPluginManager &manager = *Lw::HPluginManager::instance();
+    bool given = false;
+    for (int i = 0; i < manager.PluginCount(); ++i) {
+        const auto setSource = reinterpret_cast<SetTimeSourceFunction>(
+            QLibrary::resolve(manager.PluginPath(i), kTimeSourceSymbol));
+        if (!setSource)
+            continue;
+        setSource(utcMilliseconds);
+        given = true;
+    }
+    if (given)
+        return std::nullopt;
+    return Failure {ExitCode::RuntimeFailure,
+                    QStringLiteral("the time cannot be chosen: no plugin has the function %1")
+                        .arg(QLatin1String(kTimeSourceSymbol))};
+}
+
+} // namespace ClockPlayer

@@ -1,0 +1,26 @@
+// Puts the pictures of the areas together to one screen.
+#pragma once
+
+#include <QImage>
+#include <QRect>
+#include <QVector>
+
+namespace ClockPlayer {
+
+/// The colour that plugins fill their frames with where nothing is drawn: it is see-through.
+constexpr QRgb kKeyColour = qRgb(1, 2, 1);
+
+struct Layer
+{
+    QRect geometry; ///< pixels on the screen; the picture is clipped to it
+    QImage image;   ///< from the geometry's top left; null shows nothing
+};
+
+/// A screen that shows nothing.
+QImage BlackScreen(QSize size);
+
+/// Draws the layers in their order, the last one on top, over black. Only the pixels of the region
+/// are touched. Every pixel but those of the key colour covers what lies below it.
+void ComposeScreen(QImage &screen, const QVector<Layer> &layers, const QRect &region);
+
+} // namespace ClockPlayer

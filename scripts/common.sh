@@ -1,0 +1,63 @@
+# shellcheck shell=bash
+# Shared by run, test and .ci/run: installs what is missing, configures, builds. Sourced with
+# "set -euo pipefail" and the working directory at the top of the tree. Everything that is said
+# goes to standard error: standard output is the command's own.
+
+note() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; }
+
+# packages NEED... - the packages of scripts/packages.txt listed for these needs
+packages() {
+    local need name
+    while read -r need name _; do
+        case " $* " in *" $need "*) echo "$name" ;; esac
+    done <scripts/packages.txt
+}
+
+is_installed() {
+    [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null || true) == installed ]]
+}
+
+as_root() {
+    if ((EUID == 0)); then "$@"; else sudo "$@"; fi
+}
+
+# install_packages NEED... - installs what is missing; needs the network only then
+install_packages() {
+    if ! command -v dpkg-query >/dev/null; then
+        note "not a Debian system; taking for granted: $(packages "$@" | xargs)"
+        return
+    fi
+    local name missing=()
+    for name in $(packages "$@"); do
+        is_installed "$name" || missing+=("$name")
+    done
+    ((${#missing[@]})) || return 0
+    note "installing ${missing[*]}"
+    as_root apt-get update -qq </dev/null >&2
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >&2
+}
+
+# build DIRECTORY CMAKE-ARGUMENT... -- BUILD-ARGUMENT... - says what failed, else nothing
+build() {
+    local directory=$1 configure=()
+    shift
+    while (($#)) && [[ $1 != -- ]]; do
+        configure+=("$1")
+        shift
+    done
+    (($#)) && shift
+    note "building in $directory"
+    quietly cmake -G Ninja -S . -B "$directory" "${configure[@]}"
+    quietly cmake --build "$directory" "$@"
+}
+
+# quietly COMMAND... - shows the command's output only if it fails
+quietly() {
+    local log status=0
+    log=$(mktemp)
+    "$@" </dev/null >"$log" 2>&1 || status=$?
+    ((status == 0)) || cat "$log" >&2
+    rm -f "$log"
+    return "$status"
+}

@@ -1,0 +1,61 @@
+#include "clock_ids.h"
+
+#include <QtTest>
+
+using ClockPlayer::ClockId;
+using ClockPlayer::DistinctIds;
+
+Q_DECLARE_METATYPE(QVector<ClockId>)
+
+class TestClockIds : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void Distinct_data();
+    void Distinct();
+    void MoreClocksThanDrawnNumbers();
+};
+
+void TestClockIds::Distinct_data()
+{
+    QTest::addColumn<QVector<ClockId>>("ids");
+    QTest::addColumn<QVector<int>>("numbers");
+    const auto drawn = [](int number) { return ClockId {number, false}; };
+    const auto given = [](int number) { return ClockId {number, true}; };
+
+    QTest::newRow("no clock") << QVector<ClockId> {} << QVector<int> {};
+    QTest::newRow("different already")
+        << QVector<ClockId> {drawn(1500), given(7), drawn(1501)} << QVector<int> {1500, 7, 1501};
+    QTest::newRow("drawn twice") << QVector<ClockId> {drawn(1500), drawn(1500), drawn(1500)}
+                                 << QVector<int> {1500, 1501, 1502};
+    QTest::newRow("moved onto a later one's number, which moves too")
+        << QVector<ClockId> {drawn(1500), drawn(1500), drawn(1501)}
+        << QVector<int> {1500, 1501, 1502};
+    QTest::newRow("given wins over an earlier drawn one")
+        << QVector<ClockId> {drawn(1500), given(1500)} << QVector<int> {1501, 1500};
+    QTest::newRow("free numbers go round")
+        << QVector<ClockId> {drawn(1999), drawn(1999)} << QVector<int> {1999, 1000};
+    QTest::newRow("given twice, the later moves")
+        << QVector<ClockId> {given(1500), given(1500)} << QVector<int> {1500, 1501};
+    QTest::newRow("given twice outside the drawn range")
+        << QVector<ClockId> {given(-3), given(-3), drawn(1000)} << QVector<int> {-3, 1000, 1001};
+}
+
+void TestClockIds::Distinct()
+{
+    QFETCH(QVector<ClockId>, ids);
+    QFETCH(QVector<int>, numbers);
+    QCOMPARE(DistinctIds(ids), numbers);
+}
+
+void TestClockIds::MoreClocksThanDrawnNumbers()
+{
+    const QVector<int> numbers = DistinctIds(QVector<ClockId>(1002, ClockId {1000, false}));
+    QCOMPARE(numbers[999], 1999);
+    QCOMPARE(numbers[1000], 2000);
+    QCOMPARE(numbers[1001], 2001);
+}
+
+QTEST_GUILESS_MAIN(TestClockIds)
+#include "test_clock_ids.moc"

@@ -1,0 +1,417 @@
+// The real player as a shell user meets it, with the panel plugin in place of the clock.
+#include "player_process.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+namespace {
+
+const QString kPanels = QStringLiteral(PANEL_PLUGINS "/good");
+const QString kForeign = QStringLiteral(PANEL_PLUGINS "/foreign");
+
+QString Area(int x, const QString &element)
+{
+    return QStringLiteral("<area x=\"%1\" y=\"0\" width=\"4\" height=\"2\">%2</area>\n")
+        .arg(x)
+        .arg(element);
+}
+
+} // namespace
+
+class TestClockPlayer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void FramesTellTheSeconds();
+    void RunsAreAlike();
+    void FramesWithoutInstantShowThePresent();
+    void NamesOfManyFrames();
+    void OldFramesAreReplaced();
+    void RedrawRequestsAreGathered();
+    void NodeDiesWhilePlaying();
+
+    void DrawnIdsAreSeparated();
+    void GivenIdsStay();
+    void EqualGivenIdsAreWarnedOf();
+
+    void UnclaimedElement();
+    void RefusedElement();
+    void RefusedElementOfAPictureClock();
+    void MissingProgram();
+    void UnparsableProgram();
+    void UsageErrors();
+
+    void NoPluginDirectory();
+    void NoPlugins();
+    void BrokenPlugin();
+    void PluginForAnotherHost();
+    void BrokenPluginBesideAGoodOne();
+
+    void UnwritableOutput();
+    void UnwritableFiles();
+    void FilesDirectoryIsKept();
+    void TemporaryFilesAreRemoved();
+
+    void NoDisplay();
+    void SignalEndsTheWindow_data();
+    void SignalEndsTheWindow();
+
+private:
+    QString Write(const QString &name, const QString &contents);
+    QString WriteProgram(const QString &areas);
+    PlayerRun Play(const QStringList &arguments);
+    QString Path(const QString &name) const { return m_directory->filePath(name); }
+
+    QScopedPointer<QTemporaryDir> m_directory;
+};
+
+void TestClockPlayer::init()
+{
+    m_directory.reset(new QTemporaryDir);
+    QVERIFY(m_directory->isValid());
+}
+
+QString TestClockPlayer::Write(const QString &name, const QString &contents)
+{
+    QFile file(Path(name));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(contents.toUtf8());
+    return file.fileName();
+}
+
+// Areas begin on line 2.
+QString TestClockPlayer::WriteProgram(const QString &areas)
+{
+    return Write(QStringLiteral("program.xml"),
+                 QStringLiteral("<program width=\"8\" height=\"2\">\n%1</program>\n").arg(areas));
+}
+
+/// With the panel plugin, into the directory "out".
+PlayerRun TestClockPlayer::Play(const QStringList &arguments)
+{
+    return RunPlayer(QStringList {"--plugin-dir", kPanels, "--output", Path("out")} + arguments);
+}
+
+void TestClockPlayer::FramesTellTheSeconds()
+{
+    const PlayerRun run = Play(
+        {WriteProgram(Area(2, "<panel/>")), "--frames", "4", "--at", "2024-02-29T23:59:58.900Z"});
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.output, Path("out") + '\n');
+    const QVector<QImage> frames = Frames(Path("out"));
+    QCOMPARE(frames.size(), 4);
+    for (int i = 0; i < 4; ++i) {
+        const QImage &frame = frames[i];
+        QCOMPARE(frame.size(), QSize(8, 2));
+        QCOMPARE(frame.pixel(1, 1), qRgb(0, 0, 0)); // no area
+        QCOMPARE(frame.pixel(2, 1), qRgb(0, 0, 0)); // the key colour
+        QCOMPARE(frame.pixel(5, 1), qRgb((58 + i) % 60, 1, 104));
+        QCOMPARE(frame.pixel(6, 1), qRgb(0, 0, 0));
+    }
+}
+
+void TestClockPlayer::RunsAreAlike()
+{
+    const QStringList arguments {WriteProgram(Area(0, "<panel/>")), "--at", "2024-05-06T07:08:09"};
+    QCOMPARE(Play(arguments).exitCode, 0);
+    const QVector<QImage> first = Frames(Path("out"));
+    QCOMPARE(first.size(), 10);
+    QVERIFY(QDir(Path("out")).removeRecursively());
+    QCOMPARE(Play(arguments).exitCode, 0);
+    QCOMPARE(Frames(Path("out")), first);
+}
+
+void TestClockPlayer::FramesWithoutInstantShowThePresent()
+{
+    const qint64 before = QDateTime::currentSecsSinceEpoch();
+    QCOMPARE(Play({WriteProgram(Area(0, "<panel/>")), "--frames", "1"}).exitCode, 0);
+    const qint64 after = QDateTime::currentSecsSinceEpoch();
+    const int shown = qRed(Frames(Path("out")).value(0).pixel(1, 0));
+    QVERIFY((shown - before % 60 + 60) % 60 <= after - before);
+}
+
+void TestClockPlayer::NamesOfManyFrames()
+{
+    QCOMPARE(Play({WriteProgram(Area(0, "<panel/>")), "--frames", "2"}).exitCode, 0);
+    QCOMPARE(QDir(Path("out")).entryList(QDir::Files),
+             QStringList({"frame_0001.png", "frame_0002.png"}));
+}
+
+void TestClockPlayer::OldFramesAreReplaced()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir("out"));
+    Write("out/frame_0001.png", "an old file, longer than it is now: " + QString(10000, 'x'));
+    Write("out/other.txt", "not ours");
+    QCOMPARE(Play({WriteProgram(Area(0, "<panel/>")), "--frames", "1"}).exitCode, 0);
+    QVERIFY(!QImage(Path("out/frame_0001.png")).isNull());
+    QVERIFY(QFile::exists(Path("out/other.txt")));
+    QCOMPARE(QDir(Path("out")).entryList(QDir::Files).size(), 2);
+}
+
+// The third picture asks seven times; from the fourth on there is a new renderer, once.
+void TestClockPlayer::RedrawRequestsAreGathered()
+{
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel redraws=\"7\"/>")), "--frames", "5",
+                                "--at", "2024-01-01T00:00:10"});
+    QCOMPARE(run.exitCode, 0);
+    const QVector<QImage> frames = Frames(Path("out"));
+    QCOMPARE(frames.size(), 5);
+    for (int i = 0; i < 5; ++i)
+        QCOMPARE(frames[i].pixel(1, 0), qRgb(10 + i, i < 3 ? 1 : 2, 104));
+}
+
+void TestClockPlayer::NodeDiesWhilePlaying()
+{
+    const PlayerRun run =
+        Play({WriteProgram(Area(0, "<panel dies=\"yes\"/>") + Area(4, "<panel/>")), "--frames", "5",
+              "--at", "2024-01-01T00:00:10"});
+    QCOMPARE(run.exitCode, 0);
+    const QImage last = Frames(Path("out")).value(4);
+    QCOMPARE(last.pixel(1, 0), qRgb(12, 1, 104)); // its last picture stays
+    QCOMPARE(last.pixel(5, 0), qRgb(14, 1, 105));
+}
+
+void TestClockPlayer::DrawnIdsAreSeparated()
+{
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel/>") + Area(4, "<panel/>")),
+                                "--files-dir", Path("files"), "--frames", "1"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(QDir(Path("files")).entryList(QDir::Files), QStringList({"panel_1234", "panel_1235"}));
+}
+
+void TestClockPlayer::GivenIdsStay()
+{
+    const QString given = "<panel><attribute key=\"Id\" value=\"1234\"/></panel>";
+    const PlayerRun run =
+        Play({WriteProgram(Area(0, "<panel/>") + Area(4, given)), "--frames", "1"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QString());
+    const QImage frame = Frames(Path("out")).value(0);
+    QCOMPARE(qBlue(frame.pixel(1, 0)), 105);
+    QCOMPARE(qBlue(frame.pixel(5, 0)), 104);
+}
+
+void TestClockPlayer::EqualGivenIdsAreWarnedOf()
+{
+    const QString given = "<panel><attribute key=\"Id\" value=\"77\"/></panel>";
+    const QString program = WriteProgram(Area(0, given) + Area(4, given));
+    const PlayerRun run = Play({program, "--frames", "1"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors,
+             QStringLiteral("clock_player: %1:3: the Id 77 is another clock's; this one "
+                            "plays as 1000\n")
+                 .arg(program));
+    const QImage frame = Frames(Path("out")).value(0);
+    QCOMPARE(qBlue(frame.pixel(1, 0)), 107);
+    QCOMPARE(qBlue(frame.pixel(5, 0)), 100);
+}
+
+void TestClockPlayer::UnclaimedElement()
+{
+    const QString program = WriteProgram(Area(0, "<panel/>") + Area(4, "<foo/>"));
+    const PlayerRun run = Play({program});
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(
+        run.errors,
+        QStringLiteral("clock_player: %1:3: no plugin claims the element <foo>\n").arg(program));
+    QVERIFY(Frames(Path("out")).isEmpty());
+}
+
+void TestClockPlayer::RefusedElement()
+{
+    const QString program = WriteProgram(Area(0, "<panel accept=\"no\"/>"));
+    const PlayerRun run = Play({program});
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.startsWith(QStringLiteral("clock_player: %1:2: ").arg(program)),
+             qPrintable(run.errors));
+    const QString analog = "<attribute key=\"ClockType\" value=\"0\"/>";
+    QCOMPARE(Play({WriteProgram(Area(0, "<panel accept=\"no\">" + analog + "</panel>"))}).exitCode,
+             3);
+}
+
+void TestClockPlayer::RefusedElementOfAPictureClock()
+{
+    const QString picture = "<attribute key=\"ClockType\" value=\"2\"/>";
+    const PlayerRun run =
+        Play({WriteProgram(Area(0, "<panel accept=\"no\">" + picture + "</panel>"))});
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.exitCode, 0);
+}
+
+void TestClockPlayer::MissingProgram()
+{
+    const PlayerRun run = Play({Path("missing.xml")});
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(
+        run.errors,
+        QStringLiteral("clock_player: %1: No such file or directory\n").arg(Path("missing.xml")));
+}
+
+void TestClockPlayer::UnparsableProgram()
+{
+    const QString program = WriteProgram("<area>\n<panel>\n</area>\n");
+    const PlayerRun run = Play({program});
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.startsWith(QStringLiteral("clock_player: %1:4:").arg(program)),
+             qPrintable(run.errors));
+}
+
+void TestClockPlayer::UsageErrors()
+{
+    for (const QStringList &arguments :
+         {QStringList {}, QStringList {"--frames", "0", "a.xml"},
+          QStringList {"--at", "x", "a.xml"}, QStringList {"--language", "xx", "a.xml"},
+          QStringList {"--nonsense", "a.xml"}}) {
+        const PlayerRun run = Play(arguments);
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.errors.startsWith("clock_player: "), qPrintable(run.errors));
+        QCOMPARE(run.errors.count('\n'), 1);
+    }
+    QCOMPARE(RunPlayer({"--help"}).exitCode, 0);
+    QCOMPARE(RunPlayer({"--version"}).exitCode, 0);
+}
+
+void TestClockPlayer::NoPluginDirectory()
+{
+    const PlayerRun run =
+        Play({WriteProgram(Area(0, "<panel/>")), "--plugin-dir", Path("nowhere")});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.errors,
+             QStringLiteral("clock_player: %1: no such directory\n").arg(Path("nowhere")));
+}
+
+void TestClockPlayer::NoPlugins()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir("empty"));
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel/>")), "--plugin-dir", Path("empty")});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(Path("empty") + ": no plugins"), qPrintable(run.errors));
+}
+
+void TestClockPlayer::BrokenPlugin()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir("broken"));
+    const QString file = Write("broken/libbroken.so", "no library at all");
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel/>")), "--plugin-dir", Path("broken")});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.startsWith(QStringLiteral("clock_player: %1: not a Qt plugin").arg(file)),
+             qPrintable(run.errors));
+}
+
+void TestClockPlayer::PluginForAnotherHost()
+{
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel/>")), "--plugin-dir", kForeign});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains("another.host/1.0"), qPrintable(run.errors));
+}
+
+void TestClockPlayer::BrokenPluginBesideAGoodOne()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir("mixed"));
+    const QString broken = Write("mixed/liba.so", "no library at all");
+    QVERIFY(QFile::link(kPanels + "/libpanel_plugin.so", Path("mixed/libb.so")));
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel/>")), "--plugin-dir", Path("mixed")});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.errors.contains(broken), qPrintable(run.errors));
+}
+
+void TestClockPlayer::UnwritableOutput()
+{
+    const QString file = Write("file", "in the way");
+    const QString program = WriteProgram(Area(0, "<panel/>"));
+    const PlayerRun blocked = Play({program, "--output", file + "/out"});
+    QCOMPARE(blocked.exitCode, 1);
+    QVERIFY2(blocked.errors.contains(file + "/out"), qPrintable(blocked.errors));
+    QCOMPARE(Play({program, "--output", file}).exitCode, 1);
+    QCOMPARE(QFileInfo(file).size(), 10);
+    // A directory stands where the second frame belongs: the first one is written.
+    QVERIFY(QDir(m_directory->path()).mkpath("out/frame_0002.png"));
+    const PlayerRun second = Play({program});
+    QCOMPARE(second.exitCode, 1);
+    QVERIFY2(second.errors.contains("frame_0002.png"), qPrintable(second.errors));
+    QVERIFY(QFile::exists(Path("out/frame_0001.png")));
+}
+
+void TestClockPlayer::UnwritableFiles()
+{
+    const QString file = Write("file", "in the way");
+    const PlayerRun run =
+        Play({WriteProgram(Area(0, "<panel/>")), "--files-dir", file + "/glyphs"});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(file + "/glyphs"), qPrintable(run.errors));
+}
+
+void TestClockPlayer::FilesDirectoryIsKept()
+{
+    QCOMPARE(Play({WriteProgram(Area(0, "<panel/>")), "--files-dir", Path("a/b")}).exitCode, 0);
+    QVERIFY(QFile::exists(Path("a/b/panel_1234")));
+}
+
+void TestClockPlayer::TemporaryFilesAreRemoved()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir("tmp"));
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("TMPDIR", Path("tmp"));
+    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
+    const PlayerRun run = RunPlayer(
+        {"--plugin-dir", kPanels, "--output", Path("out"), WriteProgram(Area(0, "<panel/>"))},
+        environment);
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(QDir(Path("tmp")).isEmpty());
+}
+
+void TestClockPlayer::NoDisplay()
+{
+    const PlayerRun run =
+        RunPlayer({"--plugin-dir", kPanels, "-platform", "xcb", WriteProgram(Area(0, "<panel/>"))});
+    QVERIFY(!run.crashed);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains("no display can be reached"), qPrintable(run.errors));
+}
+
+void TestClockPlayer::SignalEndsTheWindow_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("interrupt") << SIGINT;
+    QTest::newRow("terminate") << SIGTERM;
+}
+
+void TestClockPlayer::SignalEndsTheWindow()
+{
+    QFETCH(int, signal);
+    QVERIFY(QDir(m_directory->path()).mkdir("tmp"));
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("TMPDIR", Path("tmp"));
+    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(
+        QStringLiteral(PLAYER),
+        {"--plugin-dir", kPanels, "-platform", "offscreen", WriteProgram(Area(0, "<panel/>"))});
+    // It plays once the panel's file is there, and the redraws go on every millisecond.
+    const auto plays = [this] {
+        const QStringList directories =
+            QDir(Path("tmp")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        return directories.size() == 1
+            && QFile::exists(Path("tmp/" + directories.first() + "/panel_1234"));
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(plays(), 20000);
+    QTest::qWait(50);
+    QCOMPARE(process.state(), QProcess::Running);
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(QDir(Path("tmp")).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestClockPlayer)
+#include "test_clock_player.moc"

@@ -1,0 +1,154 @@
+#include "command_line.h"
+
+#include "catalogues.h"
+
+#include <QtTest>
+
+using namespace ClockPlayer;
+
+namespace {
+
+CommandLine Parsed(const QStringList &arguments)
+{
+    return ParseCommandLine(QStringList {QStringLiteral("clock_player")} + arguments);
+}
+
+} // namespace
+
+class TestCommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void Defaults();
+    void Everything();
+    void QtOptionsWithOneDash();
+    void DefaultsOfScripts();
+    void Languages();
+    void Help_data();
+    void Help();
+    void Refused_data();
+    void Refused();
+};
+
+void TestCommandLine::Defaults()
+{
+    const CommandLine line = Parsed({"a.xml"});
+    QVERIFY(std::holds_alternative<Options>(line));
+    const Options &options = std::get<Options>(line);
+    QCOMPARE(options.programPath, QStringLiteral("a.xml"));
+    QVERIFY(!options.WritesFrames());
+    QCOMPARE(options.frames, 10);
+    QVERIFY(!options.startInstant);
+    QVERIFY(options.pluginDirectory.isEmpty() && options.filesDirectory.isEmpty());
+    QVERIFY(options.language.isEmpty() && options.platform.isEmpty());
+}
+
+void TestCommandLine::Everything()
+{
+    const CommandLine line =
+        Parsed({"--output", "out", "--frames=1000000", "a.xml", "--at", "1970-01-01T00:00:01Z",
+                "--plugin-dir", "plugins", "--files-dir=files", "--platform", "minimal"});
+    QVERIFY(std::holds_alternative<Options>(line));
+    const Options &options = std::get<Options>(line);
+    QCOMPARE(options.outputDirectory, QStringLiteral("out"));
+    QCOMPARE(options.frames, 1000000);
+    QCOMPARE(options.startInstant.value_or(0), qint64(1000));
+    QCOMPARE(options.pluginDirectory, QStringLiteral("plugins"));
+    QCOMPARE(options.filesDirectory, QStringLiteral("files"));
+    QCOMPARE(options.platform, QStringLiteral("minimal"));
+}
+
+void TestCommandLine::QtOptionsWithOneDash()
+{
+    const CommandLine line = Parsed({"-platform", "linuxfb", "a.xml", "-o", "out"});
+    QVERIFY(std::holds_alternative<Options>(line));
+    QCOMPARE(std::get<Options>(line).platform, QStringLiteral("linuxfb"));
+    QCOMPARE(std::get<Options>(line).outputDirectory, QStringLiteral("out"));
+}
+
+void TestCommandLine::DefaultsOfScripts()
+{
+    const QStringList defaults {"--default-program", "sample.xml", "--default-output", "frames"};
+    const CommandLine nothingSaid = Parsed(defaults);
+    QCOMPARE(std::get<Options>(nothingSaid).programPath, QStringLiteral("sample.xml"));
+    QCOMPARE(std::get<Options>(nothingSaid).outputDirectory, QStringLiteral("frames"));
+    const CommandLine said = Parsed(defaults + QStringList {"a.xml", "-o", "out"});
+    QCOMPARE(std::get<Options>(said).programPath, QStringLiteral("a.xml"));
+    QCOMPARE(std::get<Options>(said).outputDirectory, QStringLiteral("out"));
+    const CommandLine platformSaid = Parsed(defaults + QStringList {"-platform", "linuxfb"});
+    QVERIFY(!std::get<Options>(platformSaid).WritesFrames());
+}
+
+void TestCommandLine::Languages()
+{
+    const QStringList languages = ClockCatalogues::Languages();
+    QVERIFY(!languages.isEmpty());
+    for (const QString &language : languages)
+        QCOMPARE(std::get<Options>(Parsed({"a.xml", "--language", language})).language, language);
+    const CommandLine unknown = Parsed({"a.xml", "--language", "xx"});
+    QVERIFY(std::holds_alternative<Failure>(unknown));
+    for (const QString &language : languages)
+        QVERIFY(std::get<Failure>(unknown).text.contains(language));
+}
+
+void TestCommandLine::Help_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("begins");
+    QTest::newRow("help") << "--help"
+                          << "Usage: ";
+    QTest::newRow("help, short") << "-h"
+                                 << "Usage: ";
+    QTest::newRow("version") << "--version"
+                             << "clock_player ";
+    QTest::newRow("version, short") << "-v"
+                                    << "clock_player ";
+}
+
+void TestCommandLine::Help()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, begins);
+    const CommandLine line = Parsed({option});
+    QVERIFY(std::holds_alternative<Information>(line));
+    const QString text = std::get<Information>(line).text;
+    QVERIFY(text.startsWith(begins));
+    QVERIFY(!text.contains(QStringLiteral("default-program")));
+}
+
+void TestCommandLine::Refused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("about");
+    const auto row = [](const char *name, const QStringList &arguments, const char *about) {
+        QTest::newRow(name) << arguments << QString::fromLatin1(about);
+    };
+    row("no program", {}, "no program");
+    row("empty program", {""}, "no program");
+    row("two programs", {"a.xml", "b.xml"}, "b.xml");
+    row("unknown option", {"a.xml", "--loud"}, "loud");
+    row("value missing", {"a.xml", "--output"}, "output");
+    row("empty output", {"a.xml", "--output", ""}, "--output");
+    row("empty plugin directory", {"a.xml", "--plugin-dir="}, "--plugin-dir");
+    row("frames without output", {"a.xml", "--frames", "3"}, "--output");
+    for (const char *frames : {"0", "-1", "1000001", "3.5", "", "ten", "4294967297"})
+        row(qPrintable(QStringLiteral("frames \"%1\"").arg(frames)),
+            {"a.xml", "-o", "out", "--frames", frames}, "--frames");
+    row("malformed instant", {"a.xml", "--at", "noon"}, "noon");
+    row("empty instant", {"a.xml", "--at", ""}, "--at");
+}
+
+void TestCommandLine::Refused()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, about);
+    const CommandLine line = Parsed(arguments);
+    QVERIFY(std::holds_alternative<Failure>(line));
+    const Failure &failure = std::get<Failure>(line);
+    QCOMPARE(int(failure.code), 2);
+    QVERIFY2(failure.text.contains(about), qPrintable(failure.text));
+}
+
+QTEST_GUILESS_MAIN(TestCommandLine)
+#include "test_command_line.moc"
