@@ -27,7 +27,7 @@ public:
     ~HClockRender() override;
 
     /// Shows the first frame at once. Refused (state 2) without a living node or with identifier 0.
-    /// A renderer that was removed must not be started again.
+    /// So is a renderer that was removed: the host must not start it again.
     void Start(unsigned int playIdentifier, long long position) override;
     void Pause() override; ///< nothing: a clock cannot pause
     void Stop() override;
@@ -39,11 +39,13 @@ public:
     void CleanResources(); ///< may be called twice
 
 private:
+    void CountTick();
+
     QPointer<HClockNode> m_node;
-    int m_state = 0;
+    int m_state;
     unsigned int m_playIdentifier = 0;
     int m_tickCounter = 0;
-    DrawDisplayImage *m_drawer = nullptr;
+    DrawDisplayImage *m_drawer = nullptr; // null once removed, as the player
     Lw::pictureplayer *m_player = nullptr;
 };
 

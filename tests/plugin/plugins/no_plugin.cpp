@@ -1,0 +1,9 @@
+// An ordinary library.
+#include <QtGlobal>
+
+extern "C" Q_DECL_EXPORT int Answer();
+
+int Answer()
+{
+    return 42;
+}
