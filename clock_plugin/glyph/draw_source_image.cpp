@@ -1,6 +1,7 @@
 #include "glyph/draw_source_image.h"
 
 #include "glyph/glyph_file.h"
+#include "image_bounds.h"
 #include "glyph/hmd5.h"
 
 #include "happconfig.h"
