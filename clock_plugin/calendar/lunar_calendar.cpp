@@ -1,10 +1,10 @@
 #include "calendar/lunar_calendar.h"
 
+#include <QDate>
+
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <cstdio>
-#include <limits>
 #include <tuple>
 
 // clang-format off
@@ -88,39 +88,6 @@ constexpr std::array<int, kYears + 1> kNewYears = [] {
     return days;
 }();
 
-constexpr bool IsLeapYear(int year)
-{
-    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-}
-
-constexpr int SolarMonthDays(int year, int month)
-{
-    constexpr int kDays[12] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    if (month < 1 || month > 12)
-        return 28;
-    return kDays[month - 1] + (month == 2 && IsLeapYear(year) ? 1 : 0);
-}
-
-constexpr std::int64_t FloorDivide(std::int64_t value, std::int64_t divisor)
-{
-    return value / divisor - (value % divisor < 0 ? 1 : 0);
-}
-
-// Days from 1 January of the year 1 to that of another.
-constexpr std::int64_t DaysBeforeYear(std::int64_t year)
-{
-    const std::int64_t past = year - 1;
-    return past * 365 + FloorDivide(past, 4) - FloorDivide(past, 100) + FloorDivide(past, 400);
-}
-
-constexpr std::int64_t SolarTotal(int year, int month)
-{
-    std::int64_t days = DaysBeforeYear(year) - DaysBeforeYear(kFirstYear);
-    for (int m = 1; m < std::clamp(month, 1, 12); ++m)
-        days += SolarMonthDays(year, m);
-    return days;
-}
-
 // The Gregorian months that hold a first day with an answer, February 1900 to February 2051.
 constexpr bool MonthInRange(int year, int month)
 {
@@ -128,9 +95,8 @@ constexpr bool MonthInRange(int year, int month)
         && std::tuple(year, month) <= std::tuple(2051, 2);
 }
 
-static_assert(SolarTotal(1900, 1) == 0 && SolarTotal(2000, 3) == 36524 + 60);
-static_assert(SolarTotal(2051, 2) + 10 == kLunarEpoch + kNewYears[kYears],
-              "the table ends on 10 February 2051");
+static_assert(kLunarEpoch + kNewYears[kYears] == 55193,
+              "the table ends on 10 February 2051, 55192 days after 1 January 1900");
 
 // Where the walk through the months of a lunar year stands.
 struct MonthWalk
@@ -258,30 +224,6 @@ void get_lunar_info(int year, int month, Lunar_info *info, Chinese_era *era)
     *era = {info->year - kFirstCycleYear, walk.cycle, total + kFirstDayCycle};
 }
 
-int leap(int year)
-{
-    return IsLeapYear(year) ? 366 : 365;
-}
-
-int day(int month)
-{
-    return SolarMonthDays(s_year, month);
-}
-
-int get_solar_total(int year, int month)
-{
-    constexpr std::int64_t kLowest = std::numeric_limits<int>::min();
-    constexpr std::int64_t kHighest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(SolarTotal(year, month), kLowest, kHighest));
-}
-
-int get_week(int year, int month)
-{
-    const std::int64_t total = SolarTotal(year, month);
-    const int week = (static_cast<int>(total - FloorDivide(total, 7) * 7) + 2) % 7;
-    return week == 0 ? 7 : week;
-}
-
 int get_leap_month(int year)
 {
     return LeapMonth(year);
@@ -306,7 +248,7 @@ namespace Lw::HNodeClock {
 
 bool InLunarRange(int year, int month, int day)
 {
-    return MonthInRange(year, month) && day >= 1 && day <= SolarMonthDays(year, month)
+    return MonthInRange(year, month) && QDate::isValid(year, month, day)
         && std::tuple(year, month, day) <= std::tuple(2051, 2, 10);
 }
 

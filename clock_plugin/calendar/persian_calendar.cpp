@@ -26,8 +26,9 @@ constexpr float FractionOfCycle(qint64 value)
     return static_cast<float>(cycles - static_cast<double>(static_cast<qint64>(cycles)));
 }
 
-// 31 leap years in 128: a year is leap where the running total of leap days has just passed a
-// whole number, that is where the fraction is below 0.31 here but not one year earlier.
+// With the leap days of all years added up in 128ths of a day, a year is leap where less than 31 of
+// them are left over. 0.31 lies a little above 31/128; the years before and after tell apart what
+// falls between the two.
 constexpr bool IsLeap(int year)
 {
     constexpr double kLeapFraction = 0.31;

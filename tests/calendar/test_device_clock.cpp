@@ -232,13 +232,9 @@ void TestDeviceClock::localDateThroughTheYear()
     SetDeviceZone(zone.constData());
     const QTimeZone reference(zone);
     QVERIFY2(reference.isValid(), "the system's time zone data (tzdata) is missing");
-    for (const int year : {2026, 2036}) {
-        const qint64 end =
-            QDateTime(QDate(year + 1, 1, 1), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
-        s_now = QDateTime(QDate(year, 1, 1), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
-        for (; s_now < end; s_now += 15 * 60 * 1000)
-            QCOMPARE(LocalDate(), QDateTime::fromMSecsSinceEpoch(s_now, reference).date());
-    }
+    const qint64 end = At("2027-01-01T00:00:00Z");
+    for (s_now = At("2026-01-01T00:00:00Z"); s_now < end; s_now += 15 * 60 * 1000)
+        QCOMPARE(LocalDate(), QDateTime::fromMSecsSinceEpoch(s_now, reference).date());
 }
 
 QTEST_GUILESS_MAIN(TestDeviceClock)
