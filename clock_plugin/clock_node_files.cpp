@@ -39,15 +39,21 @@ bool AreOneFile(const QString &path, const QString &other)
         && first.st_ino == second.st_ino;
 }
 
-/// The copy appears under its name only when it is complete and on the disk.
+/// The copy appears under its name only when it is complete and on the disk. The flush is asked
+/// for by hand: commit() does not look at the bytes that closing the file still has to write.
 bool CopyWhole(const QString &source, const QString &dest)
 {
     QFile in(source);
     QSaveFile out(dest);
     if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
         return false;
-    const QByteArray bytes = in.readAll();
-    return in.error() == QFile::NoError && out.write(bytes) == bytes.size() && out.commit();
+    constexpr qint64 kBlock = 64 * 1024;
+    while (!in.atEnd()) {
+        const QByteArray block = in.read(kBlock);
+        if (block.isEmpty() || out.write(block) != block.size())
+            return false;
+    }
+    return in.error() == QFile::NoError && out.flush() && out.commit();
 }
 
 /// A rename that also replaces what stands at dest. Between file systems it is a copy whose

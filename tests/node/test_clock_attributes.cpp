@@ -1,0 +1,493 @@
+// The attributes of a new clock, and the operations that write one of them.
+#include "node_test_support.h"
+
+#include <QMetaMethod>
+#include <QTranslator>
+
+#include <climits>
+#include <functional>
+
+using Lw::HNodeClock::HClockNode;
+
+Q_DECLARE_METATYPE(std::function<void(HClockNode &)>)
+
+namespace {
+
+struct ExpectedDefault
+{
+    const char *key;
+    const char *value; ///< null where it is drawn
+    bool redraw;
+};
+
+// The defaults as the host's editor knows them, in order. Colours: red is 255, green 65280, blue
+// 16711680, yellow 65535.
+// clang-format off
+constexpr ExpectedDefault kDefaults[] = {
+    {"Id", nullptr, true},
+    {"ClockType", "0", true},
+    {"AdjustType", "0", true},
+    {"TimeAdjust", "00A00B00", true},
+    {"TimeZone", "00:00", true},
+    {"UseDaylightSavingTime", "0", false},
+    {"DaylightSavingTimeStart", "", false},
+    {"DaylightSavingTimeEnd", "", false},
+    {"DaylightSavingTimeIndex", "", false},
+    {"TimeZoneIndex", "-1", false},
+    {"PictrueClockType", "1", false},
+    {"HourHandColor", "255", true},
+    {"MinuteHandColor", "65280", true},
+    {"SecondHandColor", "16711680", true},
+    {"HourScaleColor", "255", true},
+    {"MinuteScaleColor", "65280", true},
+    {"HourScaleType", "0", true},
+    {"MinuteScaleType", "0", true},
+    {"SecondRectType", "0", true},
+    {"MinuteRectType", "0", true},
+    {"HourRectType", "0", true},
+    {"HourScaleFName", "", true},
+    {"HourScaleFSize", "14", true},
+    {"Analog_TopTexy_d", "1", true},
+    {"Analog_Date_d", "1", true},
+    {"Analog_Week_d", "1", true},
+    {"Analog_AMPM_d", "1", true},
+    {"AnalogAMPMFName", "", true},
+    {"AnalogAMPMFSize", "12", true},
+    {"AnalogAMPMColor", "255", true},
+    {"AnalogTopText", "LED", true},
+    {"AnalogTopTextFName", "", true},
+    {"AnalogTopTextFSize", "12", true},
+    {"AnalogTopTextColor", "16711680", true},
+    {"AnalogDateType", "0", true},
+    {"AnalogDateFName", "", true},
+    {"AnalogDateFSize", "12", true},
+    {"AnalogDateColor", "16711680", true},
+    {"AnalogWeekType", "0", true},
+    {"AnalogWeekFName", "", true},
+    {"AnalogWeekFSize", "12", true},
+    {"AnalogWeekColor", "65280", true},
+    {"AnalogLunarFName", "", true},
+    {"AnalogLunarFSize", "12", true},
+    {"AnalogLunarColor", "255", true},
+    {"AnalogSpace", "0", false},
+    {"AnalogSwapArea", "0", false},
+    {"DigitalSwapArea", "0", false},
+    {"DigitalSpace", "0", false},
+    {"DigitalMode", "0", false},
+    {"DigitalDisplayMode", "0", false},
+    {"Digital_TopTexy_d", "1", false},
+    {"Digital_Date_d", "1", false},
+    {"Digital_Week_d", "1", false},
+    {"Digital_Time_d", "1", false},
+    {"DigitalTopText", "LED", true},
+    {"DigitalTopTextFName", "", true},
+    {"DigitalTopTextFSize", "12", true},
+    {"DigitalTopTextColor", "255", true},
+    {"DigitalDateType", "0", true},
+    {"DigitalDateFName", "", true},
+    {"DigitalDateFSize", "12", true},
+    {"DigitalDateColor", "16711680", true},
+    {"DigitalTimeType", "0", true},
+    {"DigitalTimeFName", "", true},
+    {"DigitalTimeFSize", "12", true},
+    {"DigitalTimeColor", "255", true},
+    {"DigitalWeekType", "0", true},
+    {"DigitalWeekFName", "", true},
+    {"DigitalWeekFSize", "12", true},
+    {"DigitalWeekColor", "65280", true},
+    {"DigitalLunarFName", "", true},
+    {"DigitalLunarFSize", "12", true},
+    {"DigitalLunarColor", "65535", true},
+};
+// clang-format on
+
+/// Answers every text with itself in brackets and its context.
+class EchoTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        return QLatin1String(context) + QLatin1Char('|') + QLatin1String(text);
+    }
+};
+
+} // namespace
+
+class TestClockAttributes : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { Lw::HAppConfig::SetTimeInfo(0, false); }
+
+    void ConstructorWritesNothing()
+    {
+        HClockNode node;
+        QVERIFY(node.AttributeKeys().isEmpty());
+        QCOMPARE(node.ClockType(), 0);
+        QCOMPARE(node.GetAttribute(QStringLiteral("TimeZone")), QString());
+    }
+
+    void InitDataWritesEveryDefaultInOrder()
+    {
+        HClockNode node;
+        node.InitData();
+        QStringList keys;
+        for (const ExpectedDefault &expected : kDefaults) {
+            const QString key = QLatin1String(expected.key);
+            keys.append(key);
+            if (expected.value)
+                QVERIFY2(node.GetAttribute(key) == QLatin1String(expected.value), expected.key);
+        }
+        QCOMPARE(node.AttributeKeys().size(), 74);
+        QCOMPARE(node.AttributeKeys(), keys);
+    }
+
+    void InitDataEmitsAfterEachStoreThatNeedsIt()
+    {
+        HClockNode node;
+        RedrawLog log(node);
+        node.InitData();
+        QStringList expected;
+        for (const ExpectedDefault &row : kDefaults) {
+            if (row.redraw)
+                expected.append(QLatin1String(row.key));
+        }
+        QCOMPARE(log.Count(), 58);
+        QCOMPARE(log.NewestKeys(), expected);
+    }
+
+    void SecondInitDataEmitsForEqualValuesToo()
+    {
+        HClockNode node;
+        node.InitData();
+        RedrawLog log(node);
+        node.InitData();
+        QCOMPARE(log.Count(), 58);
+    }
+
+    void KeysThatANewClockLacks_data()
+    {
+        QTest::addColumn<QString>("key");
+        for (const char *key : {"Analog_Lunar_d", "Digital_Lunar_d", "DigitalDispAMPM", "__GUID__"})
+            QTest::newRow(key) << QString::fromLatin1(key);
+    }
+    void KeysThatANewClockLacks()
+    {
+        QFETCH(QString, key);
+        HClockNode node;
+        node.InitData();
+        QVERIFY(!node.HaveAttribute(key));
+        QCOMPARE(node.GetAttributeToInt(key), 0);
+    }
+
+    void IdentityLiesInItsRangeAndVaries()
+    {
+        QSet<int> seen;
+        for (int i = 0; i < 300; ++i) {
+            HClockNode node;
+            node.InitData();
+            const int id = node.GetAttributeToInt(QStringLiteral("Id"));
+            QVERIFY(id >= 1000 && id <= 1999);
+            seen.insert(id);
+        }
+        // 300 draws that all fell on ten numbers would be no draws.
+        QVERIFY(seen.size() > 10);
+    }
+
+    void DefaultZone_data()
+    {
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<bool>("daylightSaving");
+        QTest::addColumn<QString>("zone");
+        QTest::newRow("UTC") << 0 << false << "00:00";
+        QTest::newRow("east") << 28800 << true << "08:00";
+        QTest::newRow("west wraps") << -18000 << false << "19:00";
+        QTest::newRow("half an hour") << 19800 << true << "05:30";
+        QTest::newRow("a second west") << -1 << false << "23:59";
+        QTest::newRow("more than a day") << 90000 << false << "01:00";
+        QTest::newRow("largest") << INT_MAX << false << "03:14";  // 2147483647 mod 86400 = 11647
+        QTest::newRow("smallest") << INT_MIN << false << "20:45"; // 86400 - 11648 = 74752
+    }
+    void DefaultZone()
+    {
+        QFETCH(int, offset);
+        QFETCH(bool, daylightSaving);
+        QFETCH(QString, zone);
+        Lw::HAppConfig::SetTimeInfo(offset, daylightSaving);
+        HClockNode node;
+        node.InitData();
+        QCOMPARE(node.GetAttribute(QStringLiteral("TimeZone")), zone);
+        QCOMPARE(node.GetAttribute(QStringLiteral("UseDaylightSavingTime")),
+                 QString::fromLatin1(daylightSaving ? "1" : "0"));
+    }
+
+    void TopTextsAreTranslatedInTheNodesContext()
+    {
+        EchoTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        HClockNode node;
+        node.InitData();
+        QCoreApplication::removeTranslator(&translator);
+        const QString expected = QStringLiteral("Lw::HNodeClock::HClockNode|LED");
+        QCOMPARE(node.GetAttribute(QStringLiteral("AnalogTopText")), expected);
+        QCOMPARE(node.GetAttribute(QStringLiteral("DigitalTopText")), expected);
+    }
+
+    void Setters_data()
+    {
+        QTest::addColumn<std::function<void(HClockNode &)>>("set");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<int>("emissions");
+#define CLOCK_SETTER_ROW(setter, argument, key, count) \
+    QTest::newRow(#setter) << std::function<void(HClockNode &)>( \
+        [](HClockNode &node) { node.setter(argument); }) \
+                           << QString::fromLatin1(key) << QVariant(argument).toString() << count
+        CLOCK_SETTER_ROW(SetTimeZone, QStringLiteral("x y"), "TimeZone", 1);
+        CLOCK_SETTER_ROW(SetDaylightSavingTimeStart, QStringLiteral("x y"),
+                         "DaylightSavingTimeStart", 0);
+        CLOCK_SETTER_ROW(SetDaylightSavingTimeEnd, QStringLiteral("x y"), "DaylightSavingTimeEnd",
+                         0);
+        CLOCK_SETTER_ROW(SetHourScaleFName, QStringLiteral("x y"), "HourScaleFName", 1);
+        CLOCK_SETTER_ROW(SetHourScaleFSize, 7, "HourScaleFSize", 1);
+        CLOCK_SETTER_ROW(SetAnalog_AMPM_d, 7, "Analog_AMPM_d", 1);
+        CLOCK_SETTER_ROW(SetAnalogAMPMFName, QStringLiteral("x y"), "AnalogAMPMFName", 1);
+        CLOCK_SETTER_ROW(SetAnalogAMPMFSize, 7, "AnalogAMPMFSize", 1);
+        CLOCK_SETTER_ROW(SetAnalogAMPMColor, 7, "AnalogAMPMColor", 1);
+        CLOCK_SETTER_ROW(SetAnalogTopText, QStringLiteral("x y"), "AnalogTopText", 1);
+        CLOCK_SETTER_ROW(SetAnalogTopTextFName, QStringLiteral("x y"), "AnalogTopTextFName", 1);
+        CLOCK_SETTER_ROW(SetAnalogTopTextFSize, 7, "AnalogTopTextFSize", 1);
+        CLOCK_SETTER_ROW(SetAnalogTopTextColor, 7, "AnalogTopTextColor", 1);
+        CLOCK_SETTER_ROW(SetAnalogDateType, 7, "AnalogDateType", 1);
+        CLOCK_SETTER_ROW(SetAnalogDateFName, QStringLiteral("x y"), "AnalogDateFName", 1);
+        CLOCK_SETTER_ROW(SetAnalogDateFSize, 7, "AnalogDateFSize", 1);
+        CLOCK_SETTER_ROW(SetAnalogDateColor, 7, "AnalogDateColor", 1);
+        CLOCK_SETTER_ROW(SetAnalogWeekType, 7, "AnalogWeekType", 1);
+        CLOCK_SETTER_ROW(SetAnalogWeekFName, QStringLiteral("x y"), "AnalogWeekFName", 1);
+        CLOCK_SETTER_ROW(SetAnalogWeekFSize, 7, "AnalogWeekFSize", 1);
+        CLOCK_SETTER_ROW(SetAnalogWeekColor, 7, "AnalogWeekColor", 1);
+        CLOCK_SETTER_ROW(SetAnalogLunarFName, QStringLiteral("x y"), "AnalogLunarFName", 1);
+        CLOCK_SETTER_ROW(SetAnalogLunarFSize, 7, "AnalogLunarFSize", 1);
+        CLOCK_SETTER_ROW(SetAnalogLunarColor, 7, "AnalogLunarColor", 1);
+        CLOCK_SETTER_ROW(SetDigitalDisplayMode, 7, "DigitalDisplayMode", 0);
+        CLOCK_SETTER_ROW(SetDigitalTopText, QStringLiteral("x y"), "DigitalTopText", 1);
+        CLOCK_SETTER_ROW(SetDigitalTopTextColor, 7, "DigitalTopTextColor", 1);
+        CLOCK_SETTER_ROW(SetDigitalDateType, 7, "DigitalDateType", 1);
+        CLOCK_SETTER_ROW(SetDigitalDateFName, QStringLiteral("x y"), "DigitalDateFName", 1);
+        CLOCK_SETTER_ROW(SetDigitalDateColor, 7, "DigitalDateColor", 1);
+        CLOCK_SETTER_ROW(SetDigitalTimeType, 7, "DigitalTimeType", 1);
+        CLOCK_SETTER_ROW(SetDigitalTimeFName, QStringLiteral("x y"), "DigitalTimeFName", 1);
+        CLOCK_SETTER_ROW(SetDigitalTimeColor, 7, "DigitalTimeColor", 1);
+        CLOCK_SETTER_ROW(SetDigitalWeekType, 7, "DigitalWeekType", 1);
+        CLOCK_SETTER_ROW(SetDigitalWeekFName, QStringLiteral("x y"), "DigitalWeekFName", 1);
+        CLOCK_SETTER_ROW(SetDigitalWeekColor, 7, "DigitalWeekColor", 1);
+        CLOCK_SETTER_ROW(SetDigitalLunarFName, QStringLiteral("x y"), "DigitalLunarFName", 1);
+        CLOCK_SETTER_ROW(SetDigitalLunarColor, 7, "DigitalLunarColor", 1);
+#undef CLOCK_SETTER_ROW
+    }
+    void Setters()
+    {
+        using Setter = std::function<void(HClockNode &)>;
+        QFETCH(Setter, set);
+        QFETCH(QString, key);
+        QFETCH(QString, value);
+        QFETCH(int, emissions);
+        HClockNode node;
+        RedrawLog log(node);
+        set(node);
+        QCOMPARE(node.AttributeKeys(), QStringList(key));
+        QCOMPARE(node.GetAttribute(key), value);
+        QCOMPARE(log.Count(), emissions);
+        set(node); // an equal value is no reason to keep silent
+        QCOMPARE(log.Count(), 2 * emissions);
+    }
+
+    void TimeAdjust_data()
+    {
+        QTest::addColumn<int>("seconds");
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("magnitude");
+        QTest::newRow("none") << 0 << 0 << "00A00B00";
+        QTest::newRow("back") << -90 << 1 << "00A01B30";
+        QTest::newRow("forward") << 3725 << 0 << "01A02B05";
+        QTest::newRow("last second of a day") << 86399 << 0 << "23A59B59";
+        QTest::newRow("a day") << 86400 << 0 << "00A00B00";
+        QTest::newRow("a day back") << -86400 << 1 << "00A00B00";
+        QTest::newRow("a day and a second back") << -86401 << 1 << "00A00B01";
+        QTest::newRow("largest") << INT_MAX << 0 << "03A14B07";
+        QTest::newRow("smallest") << INT_MIN << 1 << "03A14B08";
+    }
+    void TimeAdjust()
+    {
+        QFETCH(int, seconds);
+        QFETCH(int, type);
+        QFETCH(QString, magnitude);
+        HClockNode node;
+        RedrawLog log(node);
+        node.SetTimeAdjust(seconds);
+        QCOMPARE(node.GetAttributeToInt(QStringLiteral("AdjustType")), type);
+        QCOMPARE(node.GetAttribute(QStringLiteral("TimeAdjust")), magnitude);
+        // One emission a key, the type first.
+        QCOMPARE(log.NewestKeys(), QStringList({"AdjustType", "TimeAdjust"}));
+    }
+
+    void Getters()
+    {
+        HClockNode node;
+        node.SetAttribute(QStringLiteral("ClockType"), 1, false);
+        node.SetAttribute(QStringLiteral("DigitalSwapArea"), 2, false);
+        node.SetAttribute(QStringLiteral("Digital_TopTexy_d"), 3, false);
+        node.SetAttribute(QStringLiteral("Digital_TopText_d"), 99, false);
+        node.SetAttribute(QStringLiteral("Digital_Date_d"), 4, false);
+        node.SetAttribute(QStringLiteral("Digital_Week_d"), 5, false);
+        node.SetAttribute(QStringLiteral("Digital_Time_d"), 6, false);
+        node.SetAttribute(QStringLiteral("Digital_Lunar_d"), 7, false);
+        QCOMPARE(node.ClockType(), 1);
+        QCOMPARE(node.DigitalSwapArea(), 2);
+        QCOMPARE(node.Digital_TopText_d(), 3);
+        QCOMPARE(node.Digital_Date_d(), 4);
+        QCOMPARE(node.Digital_Week_d(), 5);
+        QCOMPARE(node.Digital_Time_d(), 6);
+        QCOMPARE(node.Digital_Lunar_d(), 7);
+    }
+
+    void IdentityOfTheNode()
+    {
+        HClockNode node;
+        QCOMPARE(node.Type(), QStringLiteral("LW_Clock_Plugin"));
+        QCOMPARE(node.Duration(), 6000);
+        QVERIFY(node.inherits("Lw::HNodeClock::HClockNode"));
+        QVERIFY(node.inherits("Lw::HContentNode"));
+        QVERIFY(!node.inherits("HClockNode"));
+        QVERIFY(QMetaType::type("HClockNode*") != QMetaType::UnknownType);
+    }
+
+    void SignalsStandInTheirOrder()
+    {
+        const QMetaObject &meta = HClockNode::staticMetaObject;
+        const int first = meta.methodOffset();
+        QCOMPARE(meta.method(first).methodSignature(), QByteArray("ReDrawSourceImage()"));
+        QCOMPARE(meta.method(first + 1).methodSignature(), QByteArray("SizeChanged(QSize)"));
+    }
+
+    void NodeMatch_data()
+    {
+        QTest::addColumn<QString>("xml");
+        QTest::addColumn<bool>("matches");
+        QTest::newRow("clock") << "<clock/>" << true;
+        QTest::newRow("upper case") << "<Clock/>" << false;
+        QTest::newRow("prefixed") << "<a:clock/>" << false;
+        QTest::newRow("longer") << "<clocks/>" << false;
+    }
+    void NodeMatch()
+    {
+        QFETCH(QString, xml);
+        QFETCH(bool, matches);
+        QDomDocument document;
+        QDomElement element = ParseXml(document, xml);
+        HClockNode node;
+        QCOMPARE(node.NodeMatch(element), matches);
+    }
+    void NodeMatchOfNull()
+    {
+        QDomElement element;
+        HClockNode node;
+        QVERIFY(!node.NodeMatch(element));
+    }
+
+    void CovertDisplay()
+    {
+        HClockNode node;
+        QCOMPARE(node.CovertDisplay(QStringLiteral("true")), 1);
+        QCOMPARE(node.CovertDisplay(QStringLiteral("false")), 0);
+    }
+
+    void LWColorToInt_data()
+    {
+        QTest::addColumn<quint32>("packed");
+        QTest::addColumn<int>("stored");
+        QTest::newRow("red is the low byte") << 0x000000ffu << 255;
+        QTest::newRow("blue is the third byte") << 0x00ff0000u << 0xff0000;
+        QTest::newRow("mixed") << 0x00123456u << 0x123456;
+        QTest::newRow("the top byte is ignored") << 0xff123456u << 0x123456;
+        QTest::newRow("top bit alone") << 0x80000000u << 0;
+    }
+    void LWColorToInt()
+    {
+        QFETCH(quint32, packed);
+        QFETCH(int, stored);
+        HClockNode node;
+        QCOMPARE(node.LWColorToInt(packed), stored);
+    }
+
+    void ListenerMayDeleteTheNode_data()
+    {
+        QTest::addColumn<std::function<void(HClockNode &)>>("operation");
+        QTest::addColumn<int>("lastEmission");
+        const auto row = [](const char *name, std::function<void(HClockNode &)> operation, int n) {
+            QTest::newRow(name) << operation << n;
+        };
+        row(
+            "setter", [](HClockNode &node) { node.SetTimeZone(QStringLiteral("+01:00")); }, 1);
+        row(
+            "adjustment, type", [](HClockNode &node) { node.SetTimeAdjust(5); }, 1);
+        row(
+            "adjustment, magnitude", [](HClockNode &node) { node.SetTimeAdjust(5); }, 2);
+        row(
+            "defaults, first", [](HClockNode &node) { node.InitData(); }, 1);
+        row(
+            "defaults, midway", [](HClockNode &node) { node.InitData(); }, 30);
+        row(
+            "defaults, last", [](HClockNode &node) { node.InitData(); }, 58);
+    }
+    void ListenerMayDeleteTheNode()
+    {
+        using Operation = std::function<void(HClockNode &)>;
+        QFETCH(Operation, operation);
+        QFETCH(int, lastEmission);
+        auto *node = new HClockNode;
+        int emissions = 0;
+        connect(node, &HClockNode::ReDrawSourceImage, this, [&emissions, node, lastEmission] {
+            if (++emissions == lastEmission)
+                delete node;
+        });
+        operation(*node);
+        QCOMPARE(emissions, lastEmission);
+    }
+
+    void ListenerMayCallBack()
+    {
+        HClockNode node;
+        int depth = 0;
+        connect(&node, &HClockNode::ReDrawSourceImage, this, [&node, &depth] {
+            if (depth++ == 0)
+                node.SetTimeAdjust(-1);
+        });
+        node.SetTimeAdjust(3600);
+        // The inner call is complete before the outer one writes its second key.
+        QCOMPARE(node.GetAttributeToInt(QStringLiteral("AdjustType")), 1);
+        QCOMPARE(node.GetAttribute(QStringLiteral("TimeAdjust")), QStringLiteral("01A00B00"));
+    }
+
+    void StoreKeepsOddTexts_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("character 0") << QString(QChar(0)) + QStringLiteral("x");
+        QTest::newRow("right to left") << QStringLiteral("\u202eabc\u200f");
+        QTest::newRow("long") << QString(70000, QLatin1Char('a'));
+        QTest::newRow("format directives") << QStringLiteral("%n%s%1");
+    }
+    void StoreKeepsOddTexts()
+    {
+        QFETCH(QString, text);
+        HClockNode node;
+        node.SetAnalogTopText(text);
+        QCOMPARE(node.GetAttribute(QStringLiteral("AnalogTopText")), text);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestClockAttributes)
+#include "test_clock_attributes.moc"
