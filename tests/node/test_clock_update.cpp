@@ -1,9 +1,7 @@
 // A node read back from an SDK clock element, and the files that the element lists.
 #include "node_test_support.h"
 
-#include <QElapsedTimer>
-
-#include <climits>
+#include <ctime>
 
 using Lw::HNodeClock::HClockNode;
 
@@ -390,11 +388,11 @@ private Q_SLOTS:
         QDomElement element = ParseXml(document, xml + QStringLiteral("</clock>"));
         HClockNode node;
         QList<Lw::FileInfo> files;
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t start = std::clock();
         QVERIFY(node.UpdateNode(element, files));
         QCOMPARE(files.size(), 100000);
-        QVERIFY2(timer.elapsed() < 10000, "a time that grows with the square is no walk");
+        QVERIFY2(std::clock() - start < 10 * CLOCKS_PER_SEC,
+                 "a time that grows with the square is no walk");
     }
 
     void HostileElements_data()
