@@ -26,31 +26,31 @@ QStringList WeekKeys(const QStringList &families)
     return keys;
 }
 
-const QStringList kAllWeeks{"_chWeek_", "_enWeek_", "_enWeekSim_", "_PersiaWeek_"};
-const QStringList kRequiredWeeks{"_chWeek_", "_enWeek_", "_enWeekSim_"};
+const QStringList kAllWeeks {"_chWeek_", "_enWeek_", "_enWeekSim_", "_PersiaWeek_"};
+const QStringList kRequiredWeeks {"_chWeek_", "_enWeek_", "_enWeekSim_"};
 
 QStringList CommonGenerated()
 {
-    return QStringList{"_toptext"} + WeekKeys(kAllWeeks) + QStringList{"_lunar"}
-           + Numbered("_dateEnMonth_", 12)
-           + QStringList{"_dateCh", "_dateChar", "_space", "_dateNumber", "_Minus"};
+    return QStringList {"_toptext"} + WeekKeys(kAllWeeks) + QStringList {"_lunar"}
+    + Numbered("_dateEnMonth_", 12)
+        + QStringList {"_dateCh", "_dateChar", "_space", "_dateNumber", "_Minus"};
 }
 
 QStringList CommonExported()
 {
-    return QStringList{"_toptext"} + WeekKeys(kAllWeeks)
-           + QStringList{"_lunar", "_dateNumber", "_dateCh", "_dateChar", "_space"}
-           + Numbered("_dateEnMonth_", 12);
+    return QStringList {"_toptext"} + WeekKeys(kAllWeeks)
+        + QStringList {"_lunar", "_dateNumber", "_dateCh", "_dateChar", "_space"}
+    + Numbered("_dateEnMonth_", 12);
 }
 
 QStringList CommonRequired()
 {
-    return WeekKeys(kRequiredWeeks) + QStringList{"_lunar", "_dateNumber", "_dateCh", "_dateChar"}
-           + Numbered("_dateEnMonth_", 12);
+    return WeekKeys(kRequiredWeeks) + QStringList {"_lunar", "_dateNumber", "_dateCh", "_dateChar"}
+    + Numbered("_dateEnMonth_", 12);
 }
 
-const QStringList kAnalogOnly{"_hourhandNumber", "_AnalogAM", "_AnalogPM"};
-const QStringList kDigitalOnly{"_timeCh", "_timeChar", "_timeNumber", "_timeAM", "_timePM"};
+const QStringList kAnalogOnly {"_hourhandNumber", "_AnalogAM", "_AnalogPM"};
+const QStringList kDigitalOnly {"_timeCh", "_timeChar", "_timeNumber", "_timeAM", "_timePM"};
 
 QStringList OnlyOf(int clockType)
 {
@@ -130,22 +130,38 @@ private Q_SLOTS:
         QTest::addColumn<int>("wording");
         const int verbatim = int(GlyphWording::Verbatim);
         const int translated = int(GlyphWording::Translated);
-        QTest::newRow("Chinese week") << "_chWeek_3" << "Wednesday" << translated;
-        QTest::newRow("English week") << "_enWeek_7" << "Sunday" << verbatim;
-        QTest::newRow("uneven Tuesday") << "_enWeekSim_2" << "Tues." << verbatim;
-        QTest::newRow("uneven Thursday") << "_enWeekSim_4" << "Thurs." << verbatim;
-        QTest::newRow("Persian week") << "_PersiaWeek_3" << "PersiaWednesday" << translated;
-        QTest::newRow("lunar") << "_lunar" << "lunarString" << translated;
-        QTest::newRow("May has no stop") << "_dateEnMonth_5" << "May" << verbatim;
-        QTest::newRow("December") << "_dateEnMonth_12" << "Dec." << verbatim;
-        QTest::newRow("date labels") << "_dateCh" << "DateString" << translated;
-        QTest::newRow("date separators") << "_dateChar" << ",/" << verbatim;
-        QTest::newRow("blank") << "_space" << " " << verbatim;
-        QTest::newRow("minus") << "_Minus" << "-" << verbatim;
-        QTest::newRow("time labels") << "_timeCh" << "TimeString" << translated;
-        QTest::newRow("time separator") << "_timeChar" << ":" << verbatim;
-        QTest::newRow("digital AM has a blank") << "_timeAM" << " AM" << verbatim;
-        QTest::newRow("digital PM has a blank") << "_timePM" << " PM" << verbatim;
+        QTest::newRow("Chinese week") << "_chWeek_3"
+                                      << "Wednesday" << translated;
+        QTest::newRow("English week") << "_enWeek_7"
+                                      << "Sunday" << verbatim;
+        QTest::newRow("uneven Tuesday") << "_enWeekSim_2"
+                                        << "Tues." << verbatim;
+        QTest::newRow("uneven Thursday") << "_enWeekSim_4"
+                                         << "Thurs." << verbatim;
+        QTest::newRow("Persian week") << "_PersiaWeek_3"
+                                      << "PersiaWednesday" << translated;
+        QTest::newRow("lunar") << "_lunar"
+                               << "lunarString" << translated;
+        QTest::newRow("May has no stop") << "_dateEnMonth_5"
+                                         << "May" << verbatim;
+        QTest::newRow("December") << "_dateEnMonth_12"
+                                  << "Dec." << verbatim;
+        QTest::newRow("date labels") << "_dateCh"
+                                     << "DateString" << translated;
+        QTest::newRow("date separators") << "_dateChar"
+                                         << ",/" << verbatim;
+        QTest::newRow("blank") << "_space"
+                               << " " << verbatim;
+        QTest::newRow("minus") << "_Minus"
+                               << "-" << verbatim;
+        QTest::newRow("time labels") << "_timeCh"
+                                     << "TimeString" << translated;
+        QTest::newRow("time separator") << "_timeChar"
+                                        << ":" << verbatim;
+        QTest::newRow("digital AM has a blank") << "_timeAM"
+                                                << " AM" << verbatim;
+        QTest::newRow("digital PM has a blank") << "_timePM"
+                                                << " PM" << verbatim;
     }
     void texts()
     {
@@ -176,7 +192,7 @@ private Q_SLOTS:
                 strips << row.key;
         }
         strips.sort();
-        QCOMPARE(strips, (QStringList{"_dateNumber", "_hourhandNumber", "_timeNumber"}));
+        QCOMPARE(strips, (QStringList {"_dateNumber", "_hourhandNumber", "_timeNumber"}));
     }
 
     void fonts_data()
@@ -205,13 +221,13 @@ private Q_SLOTS:
         const GlyphFont font = RowOf(static_cast<Glyph>(glyph)).font;
         const auto keysOf = [font](int clockType) {
             const GlyphFontAttributes attributes = FontAttributes(font, clockType);
-            return QStringList{Key(attributes.family), Key(attributes.size),
-                               Key(attributes.colour)};
+            return QStringList {Key(attributes.family), Key(attributes.size),
+                                Key(attributes.colour)};
         };
         QCOMPARE(keysOf(AnalogClock),
-                 (QStringList{analog + "FName", analog + "FSize", analog + "Color"}));
+                 (QStringList {analog + "FName", analog + "FSize", analog + "Color"}));
         QCOMPARE(keysOf(DigitalClock),
-                 (QStringList{digital + "FName", digital + "FSize", digital + "Color"}));
+                 (QStringList {digital + "FName", digital + "FSize", digital + "Color"}));
     }
 
 private:
