@@ -62,6 +62,7 @@ private Q_SLOTS:
     void NodeAndPluginAgreeOnTheType();
     void RendererOfANode();
     void RendererOfAForeignNodeRefusesToStart();
+    void TimeSourceIsFoundByName();
 };
 
 void TestLoader::initTestCase()
@@ -243,6 +244,12 @@ void TestLoader::RendererOfAForeignNodeRefusesToStart()
         render->Start(1, 0);
         QCOMPARE(render->renderState(), 2);
     }
+}
+
+void TestLoader::TimeSourceIsFoundByName()
+{
+    QLibrary library(QString::fromUtf8(kPluginFile));
+    QVERIFY(library.resolve("clock_set_time_source"));
 }
 
 QTEST_MAIN(TestLoader)

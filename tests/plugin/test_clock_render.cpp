@@ -1,0 +1,477 @@
+// The renderer: when it starts, what it hands to the player, and when it asks for the next frame.
+#include "calendar/device_clock.h"
+#include "clock_node.h"
+#include "clock_render.h"
+
+#include "hpluginmanager.h"
+#include "pictureplayer.h"
+
+#include <QtTest>
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+
+using Lw::HPluginManager;
+using Lw::HNodeClock::Attribute;
+using Lw::HNodeClock::HClockNode;
+using Lw::HNodeClock::HClockRender;
+using Lw::HNodeClock::Key;
+
+namespace {
+
+constexpr unsigned int kId = 21;
+constexpr int kDigital = 1;
+
+// 2024-03-05 12:00:00 UTC.
+constexpr long long kNoon = 1709640000000LL;
+
+long long g_now = kNoon;
+int g_readings = 0;
+
+long long Now()
+{
+    ++g_readings;
+    return g_now;
+}
+
+// A millisecond passes with each reading.
+long long RunningNow()
+{
+    ++g_readings;
+    return g_now++;
+}
+
+QStringList g_messages; // type, category and text of each message
+
+void Collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    g_messages << QStringLiteral("%1 %2 %3").arg(type).arg(context.category, text);
+}
+
+const char kRefusalLine[] = "0 default Enter:[clock_render.cpp::PlayNext::135]";
+
+/// Counts the calls that come through the table of virtual operations.
+class CountingRender : public HClockRender
+{
+public:
+    using HClockRender::HClockRender;
+    void Stop() override
+    {
+        calls << "Stop";
+        HClockRender::Stop();
+    }
+    void PlayNext() override
+    {
+        calls << "PlayNext";
+        HClockRender::PlayNext();
+    }
+    bool NotClear() const { return videoNotClear; }
+
+    QStringList calls;
+};
+
+} // namespace
+
+class TestClockRender : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void MetaObjectAddsNothing();
+    void StateIsZeroBeforeStart();
+    void StartShowsTheFirstFrameAtOnce();
+    void StartIsRefused_data();
+    void StartIsRefused();
+    void StartStopsFirst();
+    void RecordOfTheStart_data();
+    void RecordOfTheStart();
+    void RecordOfANodeBeforeLayout();
+    void DelayToTheNextSecond_data();
+    void DelayToTheNextSecond();
+    void FrameHasOneReading();
+    void TenthFrameEndsTheStart();
+    void StartBeginsTheCountAnew();
+    void PlayerDrivesTheTicks();
+    void StopEndsTheTicksAndMayBeStartedAgain();
+    void PauseHasNoEffect();
+    void OrdinaryFrameLogsNothing();
+    void DeadNodeLogsAndRequestsNothing();
+    void NodeDeletedWhilePlayingEndsTheTicks();
+    void RendererWithoutANode();
+    void RemovedRenderer();
+    void CleanResourcesTwice();
+    void DestructionTakesThePlayerAlong();
+    void VideoNotClearIsStored();
+    void OtherInterfaceDefaults();
+    void NodeDeletedByTheFramesReceiver();
+    void RendererRemovedByTheFramesReceiver();
+    void RendererDeletedByTheFramesReceiver();
+    void RendererDeletedWhenTheDelayIsTold();
+    void RendererDeletedWithinATick();
+
+private:
+    pictureplayer *Player() const { return pictureplayer::ForIdentifier(kId); }
+
+    std::unique_ptr<HClockNode> m_node;
+    std::unique_ptr<CountingRender> m_render;
+};
+
+void TestClockRender::init()
+{
+    g_now = kNoon;
+    clock_set_time_source(&Now);
+    pictureplayer::SetTimeScale(0);
+    HPluginManager::instance()->SetAlphaBlend(false);
+    m_node.reset(new HClockNode);
+    m_node->SetAttribute(Key(Attribute::ClockType), kDigital, false);
+    m_node->SetSize(QSize(64, 32));
+    m_node->SetPos(QPoint(5, 6));
+    m_render.reset(new CountingRender(m_node.get()));
+    pictureplayer::Register(kId, m_render.get());
+    g_messages.clear();
+    qInstallMessageHandler(&Collect);
+}
+
+void TestClockRender::cleanup()
+{
+    qInstallMessageHandler(nullptr);
+    m_render.reset();
+    m_node.reset();
+    pictureplayer::Register(kId, nullptr);
+    clock_set_time_source(nullptr);
+}
+
+void TestClockRender::MetaObjectAddsNothing()
+{
+    const QMetaObject &meta = HClockRender::staticMetaObject;
+    QCOMPARE(meta.className(), "Lw::HNodeClock::HClockRender");
+    QCOMPARE(meta.superClass(), &QObject::staticMetaObject);
+    QCOMPARE(meta.methodCount(), QObject::staticMetaObject.methodCount());
+    QCOMPARE(meta.propertyCount(), QObject::staticMetaObject.propertyCount());
+}
+
+void TestClockRender::StateIsZeroBeforeStart()
+{
+    QCOMPARE(m_render->renderState(), 0);
+    QVERIFY(!m_render->parent());
+}
+
+void TestClockRender::StartShowsTheFirstFrameAtOnce()
+{
+    m_render->Start(kId, 12345);
+    QCOMPARE(m_render->renderState(), 1);
+    QVERIFY(Player());
+    QCOMPARE(Player()->LastImage().size(), QSize(64, 32));
+}
+
+void TestClockRender::StartIsRefused_data()
+{
+    QTest::addColumn<bool>("nodeLives");
+    QTest::addColumn<unsigned int>("playIdentifier");
+    QTest::newRow("identifier 0") << true << 0u;
+    QTest::newRow("dead node") << false << kId;
+    QTest::newRow("both") << false << 0u;
+}
+
+void TestClockRender::StartIsRefused()
+{
+    QFETCH(bool, nodeLives);
+    QFETCH(unsigned int, playIdentifier);
+    if (!nodeLives)
+        m_node.reset();
+    m_render->Start(playIdentifier, 1);
+    QCOMPARE(m_render->renderState(), 2);
+    QVERIFY(!pictureplayer::ForIdentifier(playIdentifier));
+    QCOMPARE(m_render->calls, QStringList());
+    QCOMPARE(g_messages, QStringList());
+}
+
+void TestClockRender::StartStopsFirst()
+{
+    m_render->Start(kId, 0);
+    QCOMPARE(m_render->calls, QStringList({"Stop", "PlayNext"}));
+}
+
+void TestClockRender::RecordOfTheStart_data()
+{
+    QTest::addColumn<bool>("alphaBlend");
+    QTest::newRow("without blending") << false;
+    QTest::newRow("with blending") << true;
+}
+
+void TestClockRender::RecordOfTheStart()
+{
+    QFETCH(bool, alphaBlend);
+    HPluginManager::instance()->SetAlphaBlend(alphaBlend);
+    m_render->Start(kId, 0);
+    const SessionParameter record = Player()->Parameter();
+    const auto isZero = [](unsigned int value) { return value == 0; };
+    QCOMPARE(record.name, QString());
+    QCOMPARE(record.playIdentifier, kId);
+    QCOMPARE(record.position, QPoint(5, 6));
+    QCOMPARE(record.size, QSize(64, 32));
+    QVERIFY(std::all_of(std::begin(record.words), std::end(record.words), isZero));
+    QCOMPARE(int(record.timing), 1000);
+    QVERIFY(std::all_of(std::begin(record.reservedBytes), std::end(record.reservedBytes), isZero));
+    QVERIFY(std::all_of(std::begin(record.effectBytes), std::end(record.effectBytes), isZero));
+    QCOMPARE(record.alphaBlend, alphaBlend);
+    QCOMPARE(record.lastFlag, true);
+}
+
+void TestClockRender::RecordOfANodeBeforeLayout()
+{
+    HClockNode node;
+    HClockRender render(&node);
+    render.Start(kId + 1, 0);
+    pictureplayer *const player = pictureplayer::ForIdentifier(kId + 1);
+    QVERIFY(player);
+    QCOMPARE(player->Parameter().position, QPoint(0, 0));
+    QCOMPARE(player->Parameter().size, QSize(-1, -1));
+}
+
+void TestClockRender::DelayToTheNextSecond_data()
+{
+    QTest::addColumn<int>("millisecond");
+    QTest::addColumn<int>("delay");
+    QTest::newRow(".000") << 0 << 1000;
+    QTest::newRow(".001") << 1 << 999;
+    QTest::newRow(".500") << 500 << 500;
+    QTest::newRow(".900") << 900 << 100;
+    QTest::newRow(".999") << 999 << 1;
+}
+
+void TestClockRender::DelayToTheNextSecond()
+{
+    QFETCH(int, millisecond);
+    m_render->Start(kId, 0);
+    QSignalSpy delays(Player(), &pictureplayer::EffectUpdated);
+    g_now = kNoon + millisecond;
+    m_render->PlayNext();
+    QCOMPARE(delays.size(), 1);
+    QTEST(delays.at(0).at(0).toInt(), "delay");
+}
+
+void TestClockRender::FrameHasOneReading()
+{
+    m_render->Start(kId, 0);
+    QSignalSpy delays(Player(), &pictureplayer::EffectUpdated);
+    clock_set_time_source(&RunningNow);
+    g_now = kNoon + 999;
+    g_readings = 0;
+    qint64 whileShown = 0;
+    connect(Player(), &pictureplayer::ImageUpdated, this,
+            [&whileShown] { whileShown = Lw::HNodeClock::UtcMilliseconds(); });
+    m_render->PlayNext();
+    QCOMPARE(g_readings, 1);
+    QCOMPARE(whileShown, qint64(kNoon + 999));
+    QCOMPARE(delays.at(0).at(0).toInt(), 1);
+}
+
+void TestClockRender::TenthFrameEndsTheStart()
+{
+    m_render->Start(kId, 0); // shows the first
+    for (int frame = 2; frame <= 9; ++frame) {
+        m_render->PlayNext();
+        QCOMPARE(m_render->renderState(), 1);
+    }
+    m_render->PlayNext();
+    QCOMPARE(m_render->renderState(), 0);
+    for (int frame = 11; frame <= 40; ++frame) {
+        m_render->PlayNext();
+        QCOMPARE(m_render->renderState(), 0);
+    }
+}
+
+void TestClockRender::StartBeginsTheCountAnew()
+{
+    m_render->Start(kId, 0);
+    for (int frame = 2; frame <= 9; ++frame)
+        m_render->PlayNext();
+    m_render->Start(kId, 0);
+    for (int frame = 2; frame <= 9; ++frame)
+        m_render->PlayNext();
+    QCOMPARE(m_render->renderState(), 1);
+    m_render->PlayNext();
+    QCOMPARE(m_render->renderState(), 0);
+    m_render->Start(0, 0);
+    QCOMPARE(m_render->renderState(), 2);
+}
+
+void TestClockRender::PlayerDrivesTheTicks()
+{
+    pictureplayer::SetTimeScale(200); // a second takes five milliseconds
+    m_render->Start(kId, 0);
+    QCOMPARE(m_render->renderState(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(m_render->renderState(), 0, 5000);
+    QVERIFY(m_render->calls.count("PlayNext") >= 10);
+}
+
+void TestClockRender::StopEndsTheTicksAndMayBeStartedAgain()
+{
+    pictureplayer::SetTimeScale(200);
+    m_render->Start(kId, 0);
+    m_render->Stop();
+    m_render->calls.clear();
+    QTest::qWait(50);
+    QCOMPARE(m_render->calls, QStringList());
+    QCOMPARE(m_render->renderState(), 1);
+    m_render->Start(kId, 0);
+    QTRY_VERIFY_WITH_TIMEOUT(m_render->calls.count("PlayNext") >= 3, 5000);
+}
+
+void TestClockRender::PauseHasNoEffect()
+{
+    m_render->Start(kId, 0);
+    QSignalSpy images(Player(), &pictureplayer::ImageUpdated);
+    QSignalSpy delays(Player(), &pictureplayer::EffectUpdated);
+    const QImage shown = Player()->LastImage();
+    m_render->calls.clear();
+    m_render->Pause();
+    QCOMPARE(m_render->renderState(), 1);
+    QCOMPARE(m_render->calls, QStringList());
+    QCOMPARE(images.size() + delays.size(), 0);
+    QCOMPARE(Player()->LastImage(), shown);
+}
+
+void TestClockRender::OrdinaryFrameLogsNothing()
+{
+    m_render->Start(kId, 0);
+    m_render->PlayNext();
+    QVERIFY(g_messages.filter("Enter:").isEmpty());
+}
+
+void TestClockRender::DeadNodeLogsAndRequestsNothing()
+{
+    m_render->Start(kId, 0);
+    QSignalSpy images(Player(), &pictureplayer::ImageUpdated);
+    QSignalSpy delays(Player(), &pictureplayer::EffectUpdated);
+    m_node.reset();
+    g_messages.clear();
+    m_render->PlayNext();
+    QCOMPARE(g_messages, QStringList(kRefusalLine));
+    QCOMPARE(images.size() + delays.size(), 0);
+    QCOMPARE(m_render->renderState(), 1);
+}
+
+void TestClockRender::NodeDeletedWhilePlayingEndsTheTicks()
+{
+    pictureplayer::SetTimeScale(200);
+    m_render->Start(kId, 0);
+    QTRY_VERIFY_WITH_TIMEOUT(m_render->calls.count("PlayNext") >= 3, 5000);
+    m_node.reset();
+    QTRY_COMPARE_WITH_TIMEOUT(g_messages.count(kRefusalLine), 1, 5000);
+    QTest::qWait(50);
+    QCOMPARE(g_messages.count(kRefusalLine), 1);
+}
+
+void TestClockRender::RendererWithoutANode()
+{
+    HClockRender render(nullptr);
+    render.Start(kId, 0);
+    QCOMPARE(render.renderState(), 2);
+    render.PlayNext();
+    QCOMPARE(g_messages, QStringList(kRefusalLine));
+}
+
+void TestClockRender::RemovedRenderer()
+{
+    m_render->Start(kId, 0);
+    m_render->calls.clear();
+    m_render->Remove();
+    QCOMPARE(m_render->calls, QStringList("Stop"));
+    QVERIFY(!Player());
+    m_render->PlayNext();
+    QCOMPARE(g_messages.count(kRefusalLine), 1);
+    m_render->Stop();
+    m_render->Remove();
+    m_render->Start(kId, 0);
+    QCOMPARE(m_render->renderState(), 2);
+}
+
+void TestClockRender::CleanResourcesTwice()
+{
+    m_render->Start(kId, 0);
+    m_render->CleanResources();
+    QVERIFY(!Player());
+    m_render->CleanResources();
+    m_render->PlayNext();
+    QCOMPARE(g_messages.count(kRefusalLine), 1);
+}
+
+void TestClockRender::DestructionTakesThePlayerAlong()
+{
+    m_render->Start(kId, 0);
+    QVERIFY(Player());
+    m_render.reset();
+    QVERIFY(!Player());
+}
+
+void TestClockRender::VideoNotClearIsStored()
+{
+    QVERIFY(!m_render->NotClear());
+    m_render->SetVideoNotClear(true);
+    QVERIFY(m_render->NotClear());
+    m_render->SetVideoNotClear(false);
+    QVERIFY(!m_render->NotClear());
+}
+
+void TestClockRender::OtherInterfaceDefaults()
+{
+    m_render->PrepareData();
+    m_render->Seek(1);
+    QVERIFY(!m_render->AreaFinish());
+    QCOMPARE(m_render->renderState(), 0);
+    QCOMPARE(m_render->calls, QStringList());
+}
+
+void TestClockRender::NodeDeletedByTheFramesReceiver()
+{
+    m_render->Start(kId, 0);
+    connect(Player(), &pictureplayer::ImageUpdated, this, [this] { m_node.reset(); });
+    m_render->PlayNext();
+    m_render->PlayNext();
+    QCOMPARE(g_messages.count(kRefusalLine), 1);
+}
+
+void TestClockRender::RendererRemovedByTheFramesReceiver()
+{
+    m_render->Start(kId, 0);
+    QSignalSpy delays(Player(), &pictureplayer::EffectUpdated);
+    connect(Player(), &pictureplayer::ImageUpdated, this, [this] { m_render->Remove(); });
+    m_render->PlayNext();
+    QVERIFY(!Player());
+    QCOMPARE(delays.size(), 0);
+}
+
+void TestClockRender::RendererDeletedByTheFramesReceiver()
+{
+    m_render->Start(kId, 0);
+    connect(Player(), &pictureplayer::ImageUpdated, this, [this] { m_render.reset(); });
+    m_render->PlayNext();
+    QVERIFY(!m_render);
+    QVERIFY(!Player());
+}
+
+void TestClockRender::RendererDeletedWhenTheDelayIsTold()
+{
+    m_render->Start(kId, 0);
+    connect(Player(), &pictureplayer::EffectUpdated, this, [this] { m_render.reset(); });
+    m_render->PlayNext();
+    QVERIFY(!m_render);
+}
+
+void TestClockRender::RendererDeletedWithinATick()
+{
+    pictureplayer::SetTimeScale(200);
+    m_render->Start(kId, 0);
+    connect(Player(), &pictureplayer::ImageUpdated, this, [this] { m_render.reset(); });
+    QTRY_VERIFY_WITH_TIMEOUT(!m_render, 5000);
+    QTest::qWait(20);
+    QVERIFY(!Player());
+}
+
+QTEST_MAIN(TestClockRender)
+#include "test_clock_render.moc"
