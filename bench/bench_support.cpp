@@ -1,0 +1,87 @@
+#include "bench_support.h"
+
+#include "allocation_count.h"
+#include "calendar/device_clock.h"
+#include "glyph/draw_source_image.h"
+
+#include <algorithm>
+
+using Lw::HNodeClock::Attribute;
+using Lw::HNodeClock::HClockNode;
+using Lw::HNodeClock::Key;
+
+namespace bench {
+
+namespace {
+
+constexpr long long kStart = 1709632800000LL; // 2024-03-05 10:00:00 UTC
+constexpr long long kSecondsStepped = 3600;
+
+long long g_second = 0;
+
+long long Now()
+{
+    return kStart + g_second * 1000;
+}
+
+constexpr Attribute kFonts[] = {
+    Attribute::AnalogAMPMFName,  Attribute::AnalogTopTextFName, Attribute::AnalogDateFName,
+    Attribute::AnalogWeekFName,  Attribute::HourScaleFName,     Attribute::DigitalTopTextFName,
+    Attribute::DigitalDateFName, Attribute::DigitalTimeFName,   Attribute::DigitalWeekFName,
+};
+
+constexpr Attribute kSizes[] = {
+    Attribute::AnalogAMPMFSize,  Attribute::AnalogTopTextFSize, Attribute::AnalogDateFSize,
+    Attribute::AnalogWeekFSize,  Attribute::HourScaleFSize,     Attribute::DigitalTopTextFSize,
+    Attribute::DigitalDateFSize, Attribute::DigitalTimeFSize,   Attribute::DigitalWeekFSize,
+};
+
+} // namespace
+
+std::unique_ptr<HClockNode> NewNode(int clockType, QSize size)
+{
+    auto node = std::make_unique<HClockNode>();
+    node->InitData();
+    node->SetSize(size);
+    node->SetAttribute(Key(Attribute::ClockType), clockType, false);
+    for (const Attribute font : kFonts)
+        node->SetAttribute(Key(font), QStringLiteral("DejaVu Sans"), false);
+    // Four rows in the height; a point is a third larger than a pixel, a line a fifth higher.
+    const int points = std::max(6, std::min(size.height() / 8, size.width() / 12));
+    for (const Attribute fontSize : kSizes)
+        node->SetAttribute(Key(fontSize), points, false);
+    return node;
+}
+
+void MakeGlyphs(HClockNode *node)
+{
+    Lw::HNodeClock::DrwSourceIMage().DrawClockSourceImage(node);
+}
+
+SteppedTime::SteppedTime()
+{
+    g_second = 0;
+    clock_set_time_source(&Now);
+}
+
+SteppedTime::~SteppedTime()
+{
+    clock_set_time_source(nullptr);
+}
+
+void SteppedTime::Step()
+{
+    g_second = (g_second + 1) % kSecondsStepped;
+}
+
+AllocationsPerIteration::AllocationsPerIteration(benchmark::State &state)
+    : m_state(state), m_before(AllocationCount())
+{ }
+
+AllocationsPerIteration::~AllocationsPerIteration()
+{
+    const auto taken = static_cast<double>(AllocationCount() - m_before);
+    m_state.counters["allocations"] = benchmark::Counter(taken, benchmark::Counter::kAvgIterations);
+}
+
+} // namespace bench
