@@ -76,7 +76,7 @@ public:
     void DrawPixmapClock();
 
 private:
-    class Private;
+    class Q_DECL_HIDDEN Private;
     Private *d;
 };
 
