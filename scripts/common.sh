@@ -33,9 +33,9 @@ install_packages() {
     done
     ((${#missing[@]})) || return 0
     note "installing ${missing[*]}"
-    as_root apt-get update -qq </dev/null >&2
-    as_root env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >&2
+    quietly as_root apt-get update
+    quietly as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
 # build DIRECTORY CMAKE-ARGUMENT... -- BUILD-ARGUMENT... - says what failed, else nothing
