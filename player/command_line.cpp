@@ -1,7 +1,9 @@
 #include "command_line.h"
 
-#include "catalogues.h"
+#include "command_options.h"
 #include "instant.h"
+
+#include "catalogues.h"
 
 #include <QCommandLineParser>
 
@@ -9,89 +11,9 @@ namespace ClockPlayer {
 
 namespace {
 
-const char kDescription[] =
-    "Plays a content program: an XML file that places clocks on a screen.\n"
-    "\n"
-    "In a window, or with --output as PNG files, without a display and without waiting.\n"
-    "A clock that names no time zone shows UTC.\n"
-    "\n"
-    "Exit codes:\n"
-    "  0  played to its end, or closed\n"
-    "  1  a plugin, the display, the frames or the glyph files failed\n"
-    "  2  the command line is wrong\n"
-    "  3  the program file is missing or wrong; the message says where\n"
-    "\n"
-    "Examples:\n"
-    "  clock_player station.xml\n"
-    "  clock_player station.xml -platform linuxfb\n"
-    "  clock_player station.xml --output frames --frames 3 --at 2024-02-29T23:59:58+01:00";
-
-const QString kOutput = QStringLiteral("output");
-const QString kFrames = QStringLiteral("frames");
-const QString kAt = QStringLiteral("at");
-const QString kLanguage = QStringLiteral("language");
-const QString kPluginDir = QStringLiteral("plugin-dir");
-const QString kFilesDir = QStringLiteral("files-dir");
-const QString kPlatform = QStringLiteral("platform");
-// For scripts that start the player: what to play, and where to write, when nothing was said.
-const QString kDefaultProgram = QStringLiteral("default-program");
-const QString kDefaultOutput = QStringLiteral("default-output");
-const QString kCheckDisplay = QStringLiteral("check-display");
-
 Failure UsageFailure(const QString &text)
 {
     return {ExitCode::UsageError, text + QStringLiteral(" (see --help)")};
-}
-
-QCommandLineOption Hidden(QCommandLineOption option)
-{
-    option.setFlags(QCommandLineOption::HiddenFromHelp);
-    return option;
-}
-
-QString LanguageList()
-{
-    return ClockCatalogues::Languages().join(QStringLiteral(", "));
-}
-
-void AddOptions(QCommandLineParser &parser)
-{
-    parser.addOption({{QStringLiteral("o"), kOutput},
-                      QStringLiteral("Write PNG frames frame_0001.png and so on to <directory>, "
-                                     "one for each second of the clocks' time, and print the "
-                                     "directory's path."),
-                      QStringLiteral("directory")});
-    parser.addOption({kFrames,
-                      QStringLiteral("Number of frames to write, 1 to %1 (default %2).")
-                          .arg(kMaximumFrames)
-                          .arg(kDefaultFrames),
-                      QStringLiteral("number")});
-    parser.addOption({kAt,
-                      QStringLiteral("Begin at <instant> instead of now: ISO 8601, such as "
-                                     "2024-03-31T02:59:58+01:00; UTC without an offset. Frames "
-                                     "begin at its whole second."),
-                      QStringLiteral("instant")});
-    parser.addOption({kLanguage,
-                      QStringLiteral("Language of the clocks' wording: %1 (default: the "
-                                     "locale's).")
-                          .arg(LanguageList()),
-                      QStringLiteral("language")});
-    parser.addOption({kPluginDir,
-                      QStringLiteral("Load the plugins of <directory> (default: \"plugins\" "
-                                     "beside the directory that clock_player lies in)."),
-                      QStringLiteral("directory")});
-    parser.addOption({kFilesDir,
-                      QStringLiteral("Write the glyph images to <directory> and leave them there "
-                                     "(default: a temporary directory)."),
-                      QStringLiteral("directory")});
-    parser.addOption({kPlatform,
-                      QStringLiteral("Qt platform plugin to show the window with, such as xcb or "
-                                     "linuxfb."),
-                      QStringLiteral("name")});
-    const QString value = QStringLiteral("value");
-    parser.addOption(Hidden({kDefaultProgram, QString(), value}));
-    parser.addOption(Hidden({kDefaultOutput, QString(), value}));
-    parser.addOption(Hidden(QCommandLineOption(kCheckDisplay)));
 }
 
 /// Checks what the options say, one after the other; the first thing wrong is kept.
@@ -185,20 +107,12 @@ CommandLine ParseCommandLine(const QStringList &arguments)
     QCommandLineParser parser;
     // Qt's own options are written with one dash: -platform linuxfb.
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.setApplicationDescription(QString::fromLatin1(kDescription));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Show this text."));
-    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
-                                     QStringLiteral("Show the version."));
-    parser.addOptions({help, version});
-    parser.addPositionalArgument(QStringLiteral("program.xml"),
-                                 QStringLiteral("The content program to play."));
     AddOptions(parser);
     if (!parser.parse(arguments))
         return UsageFailure(parser.errorText());
-    if (parser.isSet(help))
+    if (parser.isSet(kHelp))
         return Information {parser.helpText()};
-    if (parser.isSet(version))
+    if (parser.isSet(kVersion))
         return Information {QStringLiteral("clock_player " CLOCK_PLAYER_VERSION "\n")};
     return OptionReader(parser).Read();
 }

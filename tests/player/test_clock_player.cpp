@@ -1,7 +1,6 @@
 // The real player as a shell user meets it, with the panel plugin in place of the clock.
 #include "player_process.h"
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -31,7 +30,7 @@ private slots:
     void FramesTellTheSeconds();
     void RunsAreAlike();
     void FramesWithoutInstantShowThePresent();
-    void NamesOfManyFrames();
+    void NamesOfFrames();
     void OldFramesAreReplaced();
     void RedrawRequestsAreGathered();
     void NodeDiesWhilePlaying();
@@ -61,6 +60,7 @@ private slots:
     void NoDisplay();
     void SignalEndsTheWindow_data();
     void SignalEndsTheWindow();
+    void SignalEndsTheFrames();
 
 private:
     QString Write(const QString &name, const QString &contents);
@@ -137,7 +137,7 @@ void TestClockPlayer::FramesWithoutInstantShowThePresent()
     QVERIFY((shown - before % 60 + 60) % 60 <= after - before);
 }
 
-void TestClockPlayer::NamesOfManyFrames()
+void TestClockPlayer::NamesOfFrames()
 {
     QCOMPARE(Play({WriteProgram(Area(0, "<panel/>")), "--frames", "2"}).exitCode, 0);
     QCOMPARE(QDir(Path("out")).entryList(QDir::Files),
@@ -411,6 +411,23 @@ void TestClockPlayer::SignalEndsTheWindow()
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
     QVERIFY(QDir(Path("tmp")).isEmpty());
+}
+
+void TestClockPlayer::SignalEndsTheFrames()
+{
+    QProcess process;
+    process.setProcessEnvironment(DisplaylessEnvironment());
+    process.start(QStringLiteral(PLAYER),
+                  {"--plugin-dir", kPanels, "--output", Path("out"), "--frames", "1000000",
+                   WriteProgram(Area(0, "<panel/>"))});
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Path("out/frame_0000002.png")), 20000);
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().endsWith("clock_player: interrupted\n"));
+    for (const QImage &frame : Frames(Path("out")))
+        QVERIFY(!frame.isNull());
 }
 
 QTEST_GUILESS_MAIN(TestClockPlayer)

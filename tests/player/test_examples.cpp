@@ -20,12 +20,14 @@ int Lit(const QImage &image)
 }
 
 /// The frames of an example from an instant on; none when the player failed or said anything.
-QVector<QImage> Played(const QString &example, const QString &instant, int frames)
+QVector<QImage> Played(const QString &example, const QString &instant, int frames,
+                       const QProcessEnvironment &environment = DisplaylessEnvironment())
 {
     const QTemporaryDir directory;
     const PlayerRun run =
         RunPlayer({kExamples.filePath(example), "--output", directory.path(), "--at", instant,
-                   "--frames", QString::number(frames), "--language", "en"});
+                   "--frames", QString::number(frames), "--language", "en"},
+                  environment);
     if (run.exitCode != 0 || !run.errors.isEmpty()) {
         qWarning("%s", qPrintable(run.errors));
         return {};
@@ -49,6 +51,7 @@ private slots:
     void Plays();
     void DaylightSaving_data();
     void DaylightSaving();
+    void TextIsAsLargeOnEveryPlatform();
 };
 
 void TestExamples::Plays_data()
@@ -123,6 +126,22 @@ void TestExamples::DaylightSaving()
     QVERIFY(Lit(picture) > 500);
     QCOMPARE(Picture(area, alike), picture);
     QVERIFY(Picture(area, different) != picture);
+}
+
+// The platform that draws without a display has 100 dots an inch of its own.
+void TestExamples::TextIsAsLargeOnEveryPlatform()
+{
+    const auto played = [](const QString &dotsPerInch) {
+        QProcessEnvironment environment = DisplaylessEnvironment();
+        environment.remove("QT_FONT_DPI");
+        if (!dotsPerInch.isEmpty())
+            environment.insert("QT_FONT_DPI", dotsPerInch);
+        return Played("station.xml", "2024-03-05T13:07:58Z", 1, environment);
+    };
+    const QVector<QImage> chosenByPlayer = played("");
+    QCOMPARE(chosenByPlayer.size(), 1);
+    QCOMPARE(played("96"), chosenByPlayer);
+    QVERIFY(played("100") != chosenByPlayer);
 }
 
 QTEST_GUILESS_MAIN(TestExamples)

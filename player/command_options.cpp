@@ -1,0 +1,88 @@
+#include "command_options.h"
+
+#include "command_line.h"
+
+#include "catalogues.h"
+
+#include <QCommandLineParser>
+
+namespace ClockPlayer {
+
+namespace {
+
+const char kDescription[] =
+    "Plays a content program: an XML file that places clocks on a screen.\n"
+    "\n"
+    "In a window, or with --output as PNG files, without a display and without waiting.\n"
+    "A clock that names no time zone shows UTC.\n"
+    "\n"
+    "Exit codes:\n"
+    "  0  played to its end, or closed\n"
+    "  1  a plugin, the display, the frames or the glyph files failed\n"
+    "  2  the command line is wrong\n"
+    "  3  the program file is missing or wrong; the message says where\n"
+    "\n"
+    "Examples:\n"
+    "  clock_player station.xml\n"
+    "  clock_player station.xml -platform linuxfb\n"
+    "  clock_player station.xml --output frames --frames 3 --at 2024-02-29T23:59:58+01:00";
+
+QCommandLineOption Hidden(QCommandLineOption option)
+{
+    option.setFlags(QCommandLineOption::HiddenFromHelp);
+    return option;
+}
+
+} // namespace
+
+QString LanguageList()
+{
+    return ClockCatalogues::Languages().join(QStringLiteral(", "));
+}
+
+void AddOptions(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(QString::fromLatin1(kDescription));
+    parser.addPositionalArgument(QStringLiteral("program.xml"),
+                                 QStringLiteral("The content program to play."));
+    parser.addOption({{QStringLiteral("h"), kHelp}, QStringLiteral("Show this text.")});
+    parser.addOption({{QStringLiteral("v"), kVersion}, QStringLiteral("Show the version.")});
+    parser.addOption({{QStringLiteral("o"), kOutput},
+                      QStringLiteral("Write PNG frames frame_0001.png and so on to <directory>, "
+                                     "one for each second of the clocks' time, and print the "
+                                     "directory's path."),
+                      QStringLiteral("directory")});
+    parser.addOption({kFrames,
+                      QStringLiteral("Number of frames to write, 1 to %1 (default %2).")
+                          .arg(kMaximumFrames)
+                          .arg(kDefaultFrames),
+                      QStringLiteral("number")});
+    parser.addOption({kAt,
+                      QStringLiteral("Begin at <instant> instead of now: ISO 8601, such as "
+                                     "2024-03-31T02:59:58+01:00; UTC without an offset. Frames "
+                                     "begin at its whole second."),
+                      QStringLiteral("instant")});
+    parser.addOption({kLanguage,
+                      QStringLiteral("Language of the clocks' wording: %1 (default: the "
+                                     "locale's).")
+                          .arg(LanguageList()),
+                      QStringLiteral("language")});
+    parser.addOption({kPluginDir,
+                      QStringLiteral("Load the plugins of <directory> (default: \"plugins\" "
+                                     "beside the directory that clock_player lies in)."),
+                      QStringLiteral("directory")});
+    parser.addOption({kFilesDir,
+                      QStringLiteral("Write the glyph images to <directory> and leave them there "
+                                     "(default: a temporary directory)."),
+                      QStringLiteral("directory")});
+    parser.addOption({kPlatform,
+                      QStringLiteral("Qt platform plugin to show the window with, such as xcb or "
+                                     "linuxfb."),
+                      QStringLiteral("name")});
+    const QString value = QStringLiteral("value");
+    parser.addOption(Hidden({kDefaultProgram, QString(), value}));
+    parser.addOption(Hidden({kDefaultOutput, QString(), value}));
+    parser.addOption(Hidden(QCommandLineOption(kCheckDisplay)));
+}
+
+} // namespace ClockPlayer
