@@ -59,12 +59,13 @@ private:
         int colour = 0;
     };
 
-    void ReadFont(HClockNode *node, GlyphFont font);
-    void DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id);
-    QString TextOf(const GlyphImage &image) const;
-    void BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour);
-    void Save(const QPixmap &pixmap, const QString &path);
-    void Record(HClockNode *node, const QString &key, const QString &path);
+    // The class is shown to programs; how it works inside is not.
+    Q_DECL_HIDDEN void ReadFont(HClockNode *node, GlyphFont font);
+    Q_DECL_HIDDEN void DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id);
+    Q_DECL_HIDDEN QString TextOf(const GlyphImage &image) const;
+    Q_DECL_HIDDEN void BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour);
+    Q_DECL_HIDDEN void Save(const QPixmap &pixmap, const QString &path);
+    Q_DECL_HIDDEN void Record(HClockNode *node, const QString &key, const QString &path);
 
     QPainter *m_painter;
     FontSettings m_fonts[kGlyphFontCount];
