@@ -1,0 +1,56 @@
+// Analog and picture clocks drawn the plain way: every frame from the whole background, every row
+// every second, nothing remembered but what the look of a clock depends on. The reference that the
+// drawer, which draws only what changed, is compared with.
+#pragma once
+
+#include "clock_node.h"
+#include "compose/draw_clock_classify_image.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QImage>
+#include <QPixmap>
+
+class PlainClock
+{
+public:
+    explicit PlainClock(Lw::HNodeClock::HClockNode *node);
+
+    QImage Frame(); ///< of this moment, by the node's clock type
+
+private:
+    int Number(const char *key) { return m_node->GetAttributeToInt(QLatin1String(key)); }
+    QColor Colour(const char *key);
+    QImage NewImage();
+
+    void DrawAnalog();
+    void DrawDial();
+    void DrawHourMark(QPainter &painter, double r, double a, double b);
+    void DrawMinuteMark(QPainter &painter, double r, double a, double b);
+    void DrawNumerals(QPainter &painter, double r, double a);
+    void DrawBadge();
+    void DrawHands();
+    void DrawTexts();
+    void PlaceTexts();
+    void DrawPicture();
+    void LoadPictures();
+
+    Lw::HNodeClock::HClockNode *m_node;
+    Lw::HNodeClock::DrawClockClassifyImage m_composer;
+    QDateTime m_reading;
+    QImage m_frame;
+    QImage m_dial;
+    QDate m_dialDate;
+    QString m_dialAP;
+    int m_topTextY = 0;
+    int m_dateY = 0;
+    int m_weekY = 0;
+    int m_lunarY = 0;
+    QPixmap m_hour;
+    QPixmap m_minute;
+    QPixmap m_second;
+    QPixmap m_centre;
+    QImage m_background;
+    bool m_loaded = false;
+    int m_type = 0;
+};

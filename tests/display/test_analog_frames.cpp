@@ -1,0 +1,456 @@
+// Frames of the analog clock: equal to the plain way in every pixel, second by second; and what
+// they show when.
+#include "plain_clocks.h"
+#include "plain_fixture.h"
+
+#include "display/draw_display_image.h"
+
+#include <QtTest>
+
+using namespace Lw::HNodeClock;
+using PlainFixture::AdvanceSecond;
+using PlainFixture::Clock;
+using PlainFixture::SetTime;
+
+namespace {
+
+// Any message is one too many: a clock draws once a second for years.
+int messages = 0;
+
+void CountMessage(QtMsgType, const QMessageLogContext &, const QString &)
+{
+    ++messages;
+}
+
+constexpr QRgb kKeyColour = 0xff010201;
+
+} // namespace
+
+class TestAnalogFrames : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void EqualsThePlainWay_data();
+    void EqualsThePlainWay();
+    void ChangingSettings_data();
+    void ChangingSettings();
+    void HeldFramesStay();
+    void TextsOneFrameLate();
+    void DialIsRedrawnAtNoonWithoutBadge();
+    void DialStyleWaits();
+    void HandTypesAtOnce();
+    void HandTables_data();
+    void HandTables();
+    void OddAreas_data();
+    void OddAreas();
+    void OddTypes();
+    void MissingAndOddGlyphs_data();
+    void MissingAndOddGlyphs();
+    void NodeGone();
+};
+
+void TestAnalogFrames::cleanup()
+{
+    qInstallMessageHandler(nullptr);
+    clock_set_time_source(nullptr);
+    Lw::HAppConfig::SetRenderImageFormat(5);
+}
+
+void TestAnalogFrames::EqualsThePlainWay_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<int>("scales"); // hour and minute scale
+    QTest::addColumn<int>("hands");  // 0 bars, 1 arrows
+    QTest::addColumn<int>("held");   // frames held by the consumer
+    const auto noon = QStringLiteral("2024-03-05T11:58:30");
+    const auto midnight = QStringLiteral("2024-02-28T23:58:30");
+    const auto hour = QStringLiteral("2024-07-01T15:57:40");
+    QTest::newRow("noon") << QSize(128, 128) << 5 << noon << 3 << 0 << 1;
+    QTest::newRow("noon, hard edges") << QSize(129, 129) << 4 << noon << 0 << 1 << 1;
+    QTest::newRow("midnight") << QSize(64, 64) << 5 << midnight << 1 << 1 << 1;
+    QTest::newRow("midnight, hard edges") << QSize(81, 81) << 0 << midnight << 2 << 0 << 1;
+    QTest::newRow("wide") << QSize(256, 96) << 5 << hour << 4 << 1 << 1;
+    QTest::newRow("high") << QSize(96, 203) << 5 << hour << 0 << 0 << 1;
+    QTest::newRow("large") << QSize(320, 310) << 5 << hour << 3 << 1 << 1;
+    QTest::newRow("no frame held") << QSize(64, 48) << 5 << noon << 1 << 0 << 0;
+    QTest::newRow("two frames held") << QSize(64, 48) << 5 << noon << 2 << 1 << 2;
+    QTest::newRow("one pixel") << QSize(1, 1) << 5 << noon << 0 << 0 << 1;
+    QTest::newRow("a line") << QSize(10000, 3) << 5 << noon << 3 << 1 << 1;
+}
+
+void TestAnalogFrames::EqualsThePlainWay()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, format);
+    QFETCH(QString, from);
+    QFETCH(int, scales);
+    QFETCH(int, hands);
+    QFETCH(int, held);
+    SetTime(from);
+    Clock clock(size);
+    clock.Set("HourScaleType", scales);
+    clock.Set("MinuteScaleType", scales % 3);
+    clock.Set("HourRectType", hands);
+    clock.Set("MinuteRectType", hands);
+    clock.Set("Analog_Lunar_d", 1);
+    clock.MakeGlyphs();
+    if (scales % 2 == 0)
+        clock.HardenGlyphs();
+    Lw::HAppConfig::SetRenderImageFormat(format);
+    DrawDisplayImage drawer(&clock.node);
+    PlainClock plain(&clock.node);
+    qInstallMessageHandler(CountMessage);
+    messages = 0;
+    QList<QImage> shown;
+    for (int i = 0; i < 240; ++i, AdvanceSecond()) {
+        QImage frame = drawer.DrawClockDisplayImage();
+        QVERIFY2(frame == plain.Frame(), qPrintable(QStringLiteral("second %1").arg(i)));
+        shown.append(frame);
+        frame = QImage();
+        while (shown.size() > held)
+            shown.removeFirst();
+    }
+    QCOMPARE(messages, 0);
+}
+
+void TestAnalogFrames::ChangingSettings_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::newRow("smooth") << 5;
+    QTest::newRow("hard edges") << 3;
+}
+
+// Everything that may change while a clock plays, in the middle of its seconds.
+void TestAnalogFrames::ChangingSettings()
+{
+    QFETCH(int, format);
+    SetTime(QStringLiteral("2024-12-31T23:57:00"));
+    Clock clock(QSize(120, 110));
+    clock.MakeGlyphs();
+    Lw::HAppConfig::SetRenderImageFormat(format);
+    DrawDisplayImage drawer(&clock.node);
+    PlainClock plain(&clock.node);
+    QImage held;
+    for (int i = 0; i < 300; ++i, AdvanceSecond()) {
+        switch (i) {
+        case 10:
+            clock.Set("AnalogSpace", 7);
+            break;
+        case 20:
+            clock.Set("AnalogSwapArea", 1);
+            break;
+        case 30:
+            clock.Set("Analog_Date_d", 0);
+            break;
+        case 40:
+            clock.Set("Analog_Date_d", 2);
+            break;
+        case 50:
+            clock.Set("Analog_Lunar_d", 1);
+            break;
+        case 60:
+            clock.Set("AnalogSpace", -5);
+            break;
+        case 70:
+            clock.Set("HourHandColor", 0x00ffff);
+            break;
+        case 80:
+            clock.Set("SecondRectType", 1);
+            break;
+        case 90:
+            clock.Set("HourScaleType", 1);
+            break;
+        case 100:
+            clock.node.SetSize(QSize(111, 130));
+            break;
+        case 110:
+            clock.node.SetSize(QSize(120, 110));
+            break;
+        case 120:
+            Lw::HAppConfig::SetRenderImageFormat(format == 5 ? 4 : 5);
+            break;
+        case 130:
+            clock.Set("ClockType", 2);
+            break;
+        case 135:
+            clock.Set("ClockType", 0);
+            break;
+        case 140:
+            clock.Set("ClockType", 3);
+            break;
+        case 145:
+            clock.Set("ClockType", 0);
+            break;
+        case 150:
+            clock.Set("AnalogSwapArea", 2);
+            break;
+        case 160:
+            clock.node.SetSize(QSize());
+            break;
+        case 165:
+            clock.node.SetSize(QSize(64, 64));
+            break;
+        case 250:
+            clock.Set("SecondRectType", 9);
+            break;
+        default:
+            break;
+        }
+        const QImage frame = drawer.DrawClockDisplayImage();
+        const QImage expected = plain.Frame();
+        if (!clock.node.Size().isEmpty())
+            QVERIFY2(frame == expected, qPrintable(QStringLiteral("second %1").arg(i)));
+        held = frame;
+    }
+}
+
+// A frame that was handed out never changes, however long it is kept.
+void TestAnalogFrames::HeldFramesStay()
+{
+    SetTime(QStringLiteral("2024-03-05T10:20:30"));
+    Clock clock(QSize(64, 64));
+    clock.MakeGlyphs();
+    DrawDisplayImage drawer(&clock.node);
+    QList<QImage> frames;
+    QList<QImage> copies;
+    for (int i = 0; i < 10; ++i, AdvanceSecond()) {
+        frames.append(drawer.DrawClockDisplayImage());
+        copies.append(frames.last().copy());
+    }
+    QCOMPARE(frames, copies);
+}
+
+void TestAnalogFrames::TextsOneFrameLate()
+{
+    SetTime(QStringLiteral("2024-03-05T11:59:55"));
+    Clock clock(QSize(200, 200));
+    clock.Set("AnalogTopTextColor", 0xf00ff0); // a colour that nothing else has
+    clock.Set("Analog_AMPM_d", 0);
+    clock.MakeGlyphs();
+    clock.HardenGlyphs();
+    DrawDisplayImage drawer(&clock.node);
+    const QRgb colour = QColor(0xf0, 0x0f, 0xf0).rgb();
+    QList<bool> shown;
+    for (int i = 0; i < 8; ++i, AdvanceSecond()) {
+        const QImage frame = drawer.DrawClockDisplayImage();
+        bool found = false;
+        for (int y = 0; y < frame.height(); ++y) {
+            for (int x = 0; x < frame.width(); ++x)
+                found = found || frame.pixel(x, y) == colour;
+        }
+        shown.append(found);
+    }
+    // 11:59:55 is the first frame, 12:00:00 the sixth.
+    QCOMPARE(shown, QList<bool>({false, true, true, true, true, false, true, true}));
+}
+
+// The text of the half of the day is kept also where the badge is hidden.
+void TestAnalogFrames::DialIsRedrawnAtNoonWithoutBadge()
+{
+    SetTime(QStringLiteral("2024-03-05T11:59:58"));
+    Clock clock(QSize(100, 100));
+    clock.Set("Analog_AMPM_d", 0);
+    for (const char *row : {"Analog_TopTexy_d", "Analog_Date_d", "Analog_Week_d"})
+        clock.Set(row, 0);
+    clock.Set("HourScaleColor", 0x0000ff); // red
+    clock.MakeGlyphs();
+    DrawDisplayImage drawer(&clock.node);
+    const QPoint twelve(50, 5); // within the mark at the top
+    QCOMPARE(drawer.DrawClockDisplayImage().pixelColor(twelve), QColor(Qt::red));
+    clock.Set("HourScaleColor", 0xffffff);
+    AdvanceSecond();
+    QCOMPARE(drawer.DrawClockDisplayImage().pixelColor(twelve), QColor(Qt::red));
+    AdvanceSecond(); // noon: the minute and second hands point up, below the mark
+    clock.Set("SecondRectType", 7);
+    clock.Set("MinuteRectType", 7);
+    QCOMPARE(drawer.DrawClockDisplayImage().pixelColor(twelve), QColor(Qt::white));
+}
+
+void TestAnalogFrames::DialStyleWaits()
+{
+    SetTime(QStringLiteral("2024-03-05T10:10:30"));
+    Clock clock(QSize(100, 100));
+    clock.MakeGlyphs();
+    DrawDisplayImage drawer(&clock.node);
+    drawer.DrawClockDisplayImage();
+    const QImage before = drawer.DrawClockDisplayImage();
+    clock.Set("HourScaleType", 1);
+    clock.Set("MinuteScaleColor", 0xffffff);
+    clock.Set("Analog_AMPM_d", 0);
+    QCOMPARE(drawer.DrawClockDisplayImage(), before);
+    PlainFixture::now += 24 * 3600 * 1000; // the next day
+    QVERIFY(drawer.DrawClockDisplayImage() != before);
+}
+
+void TestAnalogFrames::HandTypesAtOnce()
+{
+    SetTime(QStringLiteral("2024-03-05T10:10:30"));
+    Clock clock(QSize(100, 100));
+    clock.MakeGlyphs();
+    DrawDisplayImage drawer(&clock.node);
+    drawer.DrawClockDisplayImage();
+    const QImage before = drawer.DrawClockDisplayImage();
+    clock.Set("HourRectType", 1);
+    QVERIFY(drawer.DrawClockDisplayImage() != before);
+}
+
+void TestAnalogFrames::HandTables_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("hour");
+    QTest::addColumn<int>("minute");
+    QTest::addColumn<int>("second");
+    QTest::newRow("63, the smaller side") << QSize(63, 200) << 2 << -13 << -18 << -24;
+    QTest::newRow("64, the smaller side") << QSize(90, 64) << 2 << -16 << -22 << -28;
+    QTest::newRow("300") << QSize(300, 300) << 10 << -75 << -105 << -135;
+}
+
+void TestAnalogFrames::HandTables()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, width);
+    QFETCH(int, hour);
+    QFETCH(int, minute);
+    QFETCH(int, second);
+    SetTime(QStringLiteral("2024-03-05T10:10:30"));
+    Clock clock(size);
+    DrawDisplayImage drawer(&clock.node);
+    drawer.DrawClockDisplayImage();
+    const QPoint *const tables[] = {hourHand, minuteHand, secondHand};
+    const int tips[] = {hour, minute, second};
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE(tables[i][0], QPoint(width, width));
+        QCOMPARE(tables[i][1], QPoint(-width, width + 1));
+        QCOMPARE(tables[i][2], QPoint(0, tips[i]));
+    }
+}
+
+void TestAnalogFrames::OddAreas_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("drawn");
+    QTest::newRow("nothing") << QSize(0, 0) << false;
+    QTest::newRow("no layout yet") << QSize(-1, -1) << false;
+    QTest::newRow("no height") << QSize(100, 0) << false;
+    QTest::newRow("negative") << QSize(-100, -50) << false;
+    QTest::newRow("one pixel") << QSize(1, 1) << true;
+    QTest::newRow("two pixels") << QSize(2, 2) << true;
+    QTest::newRow("a line") << QSize(10000, 3) << true;
+    QTest::newRow("a column") << QSize(1, 9000) << true;
+    QTest::newRow("beyond painting") << QSize(40000, 10) << false;
+    QTest::newRow("beyond memory") << QSize(2000000000, 2000000000) << false;
+}
+
+void TestAnalogFrames::OddAreas()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, drawn);
+    SetTime(QStringLiteral("2024-03-05T10:10:30"));
+    Clock clock(size);
+    clock.Set("HourScaleType", 3);
+    clock.Set("SecondRectType", 1);
+    clock.MakeGlyphs();
+    DrawDisplayImage drawer(&clock.node);
+    qInstallMessageHandler(CountMessage);
+    messages = 0;
+    for (int i = 0; i < 3; ++i, AdvanceSecond()) {
+        const QImage frame = drawer.DrawClockDisplayImage();
+        QCOMPARE(frame.isNull(), !drawn);
+        if (drawn)
+            QCOMPARE(frame.size(), size);
+    }
+    QCOMPARE(messages, 0);
+}
+
+void TestAnalogFrames::OddTypes()
+{
+    SetTime(QStringLiteral("2024-03-05T10:10:30"));
+    Clock clock(QSize(90, 90));
+    for (const char *type :
+         {"HourScaleType", "MinuteScaleType", "HourRectType", "MinuteRectType", "SecondRectType"})
+        clock.Set(type, QStringLiteral("99"));
+    for (const char *row : {"Analog_TopTexy_d", "Analog_Date_d", "Analog_Week_d", "Analog_AMPM_d"})
+        clock.Set(row, 2); // counted, never shown
+    clock.MakeGlyphs();
+    DrawDisplayImage drawer(&clock.node);
+    drawer.DrawClockDisplayImage();
+    const QImage frame = drawer.DrawClockDisplayImage();
+    // Nothing but the disc in the middle, of radius trunc(2 * 45 / 27) = 3.
+    for (int y = 0; y < 90; ++y) {
+        for (int x = 0; x < 90; ++x) {
+            if (!QRect(41, 41, 8, 8).contains(x, y))
+                QCOMPARE(frame.pixel(x, y), kKeyColour);
+        }
+    }
+    QCOMPARE(frame.pixelColor(45, 45), QColor(Qt::blue));
+}
+
+void TestAnalogFrames::MissingAndOddGlyphs_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("missing") << QByteArray();
+    QTest::newRow("no picture") << QByteArray("this is no picture");
+    QTest::newRow("truncated") << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452000000"
+                                                      "40000000100806000000");
+    for (const QSize &size : {QSize(1, 1), QSize(9, 30), QSize(3000, 2)}) {
+        QImage image(size, QImage::Format_ARGB32);
+        image.fill(Qt::white);
+        QByteArray content;
+        QBuffer buffer(&content);
+        image.save(&buffer, "PNG");
+        QTest::addRow("%dx%d", size.width(), size.height()) << content;
+    }
+}
+
+void TestAnalogFrames::MissingAndOddGlyphs()
+{
+    QFETCH(QByteArray, content);
+    SetTime(QStringLiteral("2024-03-05T10:10:30"));
+    Clock clock(QSize(90, 90));
+    clock.Set("HourScaleType", 3);
+    clock.Set("Analog_Lunar_d", 1);
+    clock.MakeGlyphs();
+    for (const Lw::FileRecord &record : clock.node.FileRecords()) {
+        QFile file(record.path);
+        if (content.isEmpty()) {
+            QVERIFY(file.remove());
+        } else {
+            QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+            file.write(content);
+        }
+    }
+    DrawDisplayImage drawer(&clock.node);
+    qInstallMessageHandler(CountMessage);
+    drawer.DrawClockDisplayImage();
+    messages = 0;
+    QImage frame;
+    for (int i = 0; i < 5; ++i, AdvanceSecond())
+        frame = drawer.DrawClockDisplayImage();
+    QCOMPARE(frame.size(), QSize(90, 90));
+    QCOMPARE(messages, 0);
+}
+
+void TestAnalogFrames::NodeGone()
+{
+    SetTime(QStringLiteral("2024-03-05T10:10:30"));
+    QScopedPointer<Clock> clock(new Clock(QSize(90, 90)));
+    clock->MakeGlyphs();
+    DrawDisplayImage drawer(&clock->node);
+    const QImage frame = drawer.DrawClockDisplayImage();
+    clock.reset();
+    drawer.GetAngDisplayArea();
+    drawer.DrawAnalogClock();
+    drawer.DrawAnalogClockDial();
+    drawer.DrawAnalogClock_AMPM();
+    drawer.DrawAnalogClockPoint();
+    drawer.DrawAnalogText();
+    QCOMPARE(drawer.DrawClockDisplayImage(), frame);
+}
+
+QTEST_MAIN(TestAnalogFrames)
+#include "test_analog_frames.moc"
