@@ -118,7 +118,8 @@ private:
 Failure SyntaxFailure(const QString &path, qint64 line, qint64 column, const QString &reason)
 {
     return {ExitCode::ProgramError,
-            QStringLiteral("%1:%2:%3: %4").arg(path).arg(line).arg(column).arg(reason)};
+            QStringLiteral("%1:%2:%3: %4")
+                .arg(path, QString::number(line), QString::number(column), reason)};
 }
 
 /// A document is walked and freed by recursion, so its depth is checked before it is built.
@@ -170,7 +171,7 @@ Result<Program> ParseProgram(const QByteArray &contents, const QString &path)
 
 QString AtElement(const QString &path, const QDomElement &element, const QString &text)
 {
-    return QStringLiteral("%1:%2: %3").arg(path).arg(element.lineNumber()).arg(text);
+    return QStringLiteral("%1:%2: %3").arg(path, QString::number(element.lineNumber()), text);
 }
 
 } // namespace ClockPlayer

@@ -36,6 +36,7 @@ private slots:
     void Accepted();
     void Refused_data();
     void Refused();
+    void PathsAreNamedAsTheyAre();
     void Unreadable_data();
     void Unreadable();
 };
@@ -170,6 +171,17 @@ void TestProgramFile::Refused()
     const Failure &failure = std::get<Failure>(result);
     QCOMPARE(int(failure.code), 3);
     QVERIFY2(failure.text.startsWith(message), qPrintable(failure.text));
+}
+
+void TestProgramFile::PathsAreNamedAsTheyAre()
+{
+    const QString path = QStringLiteral("%3 at 100%2.xml");
+    for (const QByteArray &contents : {QByteArray("<clock/>"), QByteArray("<clock>")}) {
+        const Result<Program> result = ParseProgram(contents, path);
+        QVERIFY(std::holds_alternative<Failure>(result));
+        const QString text = std::get<Failure>(result).text;
+        QVERIFY2(text.startsWith(path + QStringLiteral(":1:")), qPrintable(text));
+    }
 }
 
 void TestProgramFile::Unreadable_data()
