@@ -61,15 +61,17 @@ public:
 
     void MakeGlyphs() { Lw::HNodeClock::DrwSourceIMage().DrawClockSourceImage(&node); }
 
-    /// Makes every pixel of the glyph images either opaque or clear.
-    void HardenGlyphs()
+    /// Makes every inked pixel of the glyph images translucent, in levels that differ from place
+    /// to place.
+    void SoftenGlyphs()
     {
         for (const Lw::FileRecord &record : node.FileRecords()) {
             QImage image = QImage(record.path).convertToFormat(QImage::Format_ARGB32);
             for (int y = 0; y < image.height(); ++y) {
                 for (int x = 0; x < image.width(); ++x) {
                     const QRgb pixel = image.pixel(x, y);
-                    image.setPixel(x, y, qAlpha(pixel) < 128 ? 0 : pixel | 0xff000000);
+                    const int alpha = qAlpha(pixel) * (1 + (x * 7 + y * 13) % 255) / 255;
+                    image.setPixel(x, y, (pixel & 0xffffff) | static_cast<QRgb>(alpha) << 24);
                 }
             }
             image.save(record.path, "PNG");
