@@ -27,6 +27,27 @@ QString DialFile(int type)
     return QStringLiteral("picbutton%1.png").arg(type);
 }
 
+// A picture stretched into its place on the face and turned clockwise about the centre.
+struct TurnedPicture
+{
+    const QPixmap &picture;
+    double degrees;
+    QRect place;
+};
+
+// Paints with the face's units around its centre; returns an outline around the touched pixels.
+QVector<QPolygonF> Paint(QPainter &painter, const TurnedPicture &part)
+{
+    if (part.picture.isNull())
+        return {};
+    painter.save();
+    painter.rotate(part.degrees);
+    painter.drawPixmap(part.place, part.picture);
+    const QPolygonF touched = painter.transform().map(QPolygonF(QRectF(part.place)));
+    painter.restore();
+    return {touched};
+}
+
 } // namespace
 
 void DrawDisplayImage::InitClockTypePixmap()
@@ -45,7 +66,7 @@ void DrawDisplayImage::InitClockTypePixmap()
     d->pictureBackground = d->NewImage(d->pictureSize, GetColorKey());
     const int side = std::min(size.width(), size.height());
     const QImage dial = ReadImageFile(folder + DialFile(d->Number(Attribute::PictrueClockType)));
-    if (d->pictureBackground.isNull() || dial.isNull() || side <= 0)
+    if (d->pictureBackground.isNull() || dial.isNull() || !Private::Drawable(QSize(side, side)))
         return;
     d->painter.begin(&d->pictureBackground);
     d->painter.drawImage((size.width() - side) / 2, (d->pictureSize.height() - side) / 2,
@@ -71,17 +92,11 @@ void DrawDisplayImage::DrawPixmapClock()
     else
         d->frame.fill(GetColorKey());
 
-    const int minute = d->dateTime.time().minute();
-    const int second = d->dateTime.time().second();
-    const struct
-    {
-        const QPixmap &picture;
-        double degrees;
-        QRect place;
-    } parts[] = {
-        {d->hourPicture, (d->hour + minute / 60.0) * 30, kHourPlace},
-        {d->minutePicture, (minute + second / 60.0) * 6, kMinutePlace},
-        {d->secondPicture, second * 6.0, kSecondPlace},
+    const QTime time = d->dateTime.time();
+    const TurnedPicture parts[] = {
+        {d->hourPicture, (d->hour + time.minute() / 60.0) * 30, kHourPlace},
+        {d->minutePicture, (time.minute() + time.second() / 60.0) * 6, kMinutePlace},
+        {d->secondPicture, time.second() * 6.0, kSecondPlace},
         {d->centrePicture, 0, kCentrePlace},
     };
     const double scale = std::min(size.height(), size.width()) / static_cast<double>(kFace);
@@ -90,15 +105,8 @@ void DrawDisplayImage::DrawPixmapClock()
     d->painter.translate(size.width() / 2, size.height() / 2);
     d->painter.scale(scale, scale);
     d->painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
-    for (const auto &part : parts) {
-        if (part.picture.isNull())
-            continue;
-        d->painter.save();
-        d->painter.rotate(part.degrees);
-        d->painter.drawPixmap(part.place, part.picture);
-        painting.Covers({d->painter.transform().map(QPolygonF(QRectF(part.place)))});
-        d->painter.restore();
-    }
+    for (const TurnedPicture &part : parts)
+        painting.Covers(Paint(d->painter, part));
     d->painter.end();
 }
 
