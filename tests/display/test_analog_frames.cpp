@@ -38,6 +38,7 @@ private Q_SLOTS:
     void ChangingSettings();
     void HeldFramesStay();
     void TextsOneFrameLate();
+    void DialIsRedrawnAtTheDevicesMidnight();
     void DialIsRedrawnAtNoonWithoutBadge();
     void DialStyleWaits();
     void HandTypesAtOnce();
@@ -225,6 +226,32 @@ void TestAnalogFrames::HeldFramesStay()
     QCOMPARE(frames, copies);
 }
 
+namespace {
+
+// Whether texts of one colour are seen, second by second; empty where a frame is not as the plain
+// way draws it.
+QList<bool> SecondsWithColour(Clock &clock, QRgb colour, int count)
+{
+    DrawDisplayImage drawer(&clock.node);
+    PlainClock plain(&clock.node);
+    QList<bool> seen;
+    for (int i = 0; i < count; ++i, AdvanceSecond()) {
+        const QImage frame = drawer.DrawClockDisplayImage();
+        const QImage expected = plain.Frame();
+        bool found = false;
+        for (int y = 0; y < frame.height(); ++y) {
+            for (int x = 0; x < frame.width(); ++x)
+                found = found || frame.pixel(x, y) == colour;
+        }
+        if (frame != expected)
+            return {}; // no list of seconds at all
+        seen.append(found);
+    }
+    return seen;
+}
+
+} // namespace
+
 void TestAnalogFrames::TextsOneFrameLate()
 {
     SetTime(QStringLiteral("2024-03-05T11:59:55"));
@@ -232,20 +259,25 @@ void TestAnalogFrames::TextsOneFrameLate()
     clock.Set("AnalogTopTextColor", 0xf00ff0); // a colour that nothing else has
     clock.Set("Analog_AMPM_d", 0);
     clock.MakeGlyphs();
-    DrawDisplayImage drawer(&clock.node);
-    const QRgb colour = QColor(0xf0, 0x0f, 0xf0).rgb();
-    QList<bool> shown;
-    for (int i = 0; i < 8; ++i, AdvanceSecond()) {
-        const QImage frame = drawer.DrawClockDisplayImage();
-        bool found = false;
-        for (int y = 0; y < frame.height(); ++y) {
-            for (int x = 0; x < frame.width(); ++x)
-                found = found || frame.pixel(x, y) == colour;
-        }
-        shown.append(found);
-    }
     // 11:59:55 is the first frame, 12:00:00 the sixth.
-    QCOMPARE(shown, QList<bool>({false, true, true, true, true, false, true, true}));
+    QCOMPARE(SecondsWithColour(clock, QColor(0xf0, 0x0f, 0xf0).rgb(), 8),
+             QList<bool>({false, true, true, true, true, false, true, true}));
+}
+
+// The device's date counts, not the clock's: in China that is at eight in the morning where the
+// device runs on UTC. The clock's own midnight redraws the dial by its AM.
+void TestAnalogFrames::DialIsRedrawnAtTheDevicesMidnight()
+{
+    SetTime(QStringLiteral("2024-03-05T23:59:57"));
+    Clock clock(QSize(200, 200));
+    clock.Set("TimeZone", QStringLiteral("+08:00"));
+    clock.Set("AnalogTopTextColor", 0xf00ff0);
+    clock.MakeGlyphs();
+    QCOMPARE(SecondsWithColour(clock, QColor(0xf0, 0x0f, 0xf0).rgb(), 6),
+             QList<bool>({false, true, true, false, true, true}));
+    SetTime(QStringLiteral("2024-03-05T15:59:57"));
+    QCOMPARE(SecondsWithColour(clock, QColor(0xf0, 0x0f, 0xf0).rgb(), 6),
+             QList<bool>({false, true, true, false, true, true}));
 }
 
 // The text of the half of the day is kept also where the badge is hidden.
