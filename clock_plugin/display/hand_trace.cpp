@@ -38,7 +38,7 @@ void WidenByEdge(QPointF a, QPointF b, double low, double high, double &left, do
 
 void HandTrace::Clear()
 {
-    m_patches.clear();
+    m_spans.resize(0); // keeps its memory for the next second
 }
 
 HandTrace::Span HandTrace::SpanOf(const QPolygonF &outline, int y, int width)
@@ -49,7 +49,8 @@ HandTrace::Span HandTrace::SpanOf(const QPolygonF &outline, int y, int width)
         WidenByEdge(outline[i], outline[(i + 1) % outline.size()], y - kMargin, y + 1 + kMargin,
                     left, right);
     }
-    return {Clamped(std::floor(left) - kMargin, width), Clamped(std::ceil(right) + kMargin, width)};
+    return {y, Clamped(std::floor(left) - kMargin, width),
+            Clamped(std::ceil(right) + kMargin, width)};
 }
 
 void HandTrace::Add(const QPolygonF &outline, const QSize &image)
@@ -59,37 +60,27 @@ void HandTrace::Add(const QPolygonF &outline, const QSize &image)
     const QRectF bounds = outline.boundingRect();
     const int top = Clamped(std::floor(bounds.top()) - kMargin, image.height());
     const int bottom = Clamped(std::ceil(bounds.bottom()) + kMargin, image.height());
-    Patch patch {top, {}};
-    patch.rows.reserve(bottom - top);
     for (int y = top; y < bottom; ++y)
-        patch.rows.append(SpanOf(outline, y, image.width()));
-    m_patches.append(patch);
+        m_spans.append(SpanOf(outline, y, image.width()));
 }
 
 void HandTrace::Copy(const QImage &source, uchar *target) const
 {
-    const int pixel = source.depth() / 8;
+    const qint64 pixel = source.depth() / 8;
     const qint64 line = source.bytesPerLine();
-    for (const Patch &patch : m_patches) {
-        qint64 offset = patch.top * line;
-        for (const Span &span : patch.rows) {
-            const qint64 first = offset + span.left * pixel;
-            if (span.right > span.left) {
-                std::memcpy(target + first, source.constBits() + first,
-                            static_cast<std::size_t>(span.right - span.left)
-                                * static_cast<std::size_t>(pixel));
-            }
-            offset += line;
-        }
+    for (const Span &span : m_spans) {
+        if (span.right <= span.left)
+            continue;
+        const qint64 first = span.y * line + span.left * pixel;
+        std::memcpy(target + first, source.constBits() + first,
+                    static_cast<std::size_t>((span.right - span.left) * pixel));
     }
 }
 
 bool HandTrace::Contains(const QPoint &pixel) const
 {
-    return std::any_of(m_patches.begin(), m_patches.end(), [&pixel](const Patch &patch) {
-        const int row = pixel.y() - patch.top;
-        return row >= 0 && row < patch.rows.size() && pixel.x() >= patch.rows[row].left
-            && pixel.x() < patch.rows[row].right;
+    return std::any_of(m_spans.begin(), m_spans.end(), [&pixel](const Span &span) {
+        return pixel.y() == span.y && pixel.x() >= span.left && pixel.x() < span.right;
     });
 }
 

@@ -24,17 +24,13 @@ public:
 private:
     struct Span
     {
+        int y;
         int left;
         int right; // the first pixel beyond
     };
-    struct Patch
-    {
-        int top;
-        QVector<Span> rows;
-    };
     static Span SpanOf(const QPolygonF &outline, int y, int width);
 
-    QVector<Patch> m_patches;
+    QVector<Span> m_spans;
 };
 
 } // namespace Lw::HNodeClock
