@@ -41,10 +41,15 @@ constexpr qint64 FloorDivide(qint64 value, qint64 divisor)
     return value / divisor - (value % divisor < 0 ? 1 : 0);
 }
 
+// A source may answer anything. Within these bounds, the years 285 million, zones and seconds are
+// added without overflow.
+constexpr qint64 kFurthest = Q_INT64_C(9000000000000000000);
+
 qint64 ReadSource()
 {
     const TimeSource source = s_source.load(std::memory_order_acquire);
-    return source ? source() : QDateTime::currentMSecsSinceEpoch();
+    return source ? qBound<qint64>(-kFurthest, source(), kFurthest)
+                  : QDateTime::currentMSecsSinceEpoch();
 }
 
 // Qt 5 applies the summer time of 2037 to every later year; the C library knows better where its

@@ -24,7 +24,8 @@ public:
     Q_DISABLE_COPY(HeldReading)
 };
 
-/// Milliseconds since 1970-01-01 UTC: the held reading, or the time now.
+/// Milliseconds since 1970-01-01 UTC: the held reading, or the time now. Far enough from the ends
+/// of the type that the offsets of clocks can be added.
 qint64 UtcMilliseconds();
 
 /// The millisecond within the second, 0 to 999, of the device's local time.

@@ -5,6 +5,7 @@
 #include <QTimeZone>
 
 #include <ctime>
+#include <limits>
 #include <memory>
 
 using namespace Lw::HNodeClock;
@@ -54,6 +55,8 @@ private slots:
     void holdIsOfItsThread();
     void millisecond_data();
     void millisecond();
+    void furthestTimes_data();
+    void furthestTimes();
     void localDate_data();
     void localDate();
     void localDateFollowsTheZone();
@@ -168,6 +171,29 @@ void TestDeviceClock::millisecond()
     QFETCH(qint64, now);
     s_now = now;
     QTEST(LocalMillisecond(), "millisecond");
+}
+
+void TestDeviceClock::furthestTimes_data()
+{
+    QTest::addColumn<qint64>("now");
+    QTest::newRow("latest") << std::numeric_limits<qint64>::max();
+    QTest::newRow("earliest") << std::numeric_limits<qint64>::min();
+}
+
+// Whatever a source answers, a year of seconds can be added to the reading or taken from it.
+void TestDeviceClock::furthestTimes()
+{
+    QFETCH(qint64, now);
+    constexpr qint64 kYear = Q_INT64_C(31622400000);
+    s_now = now;
+    const qint64 reading = UtcMilliseconds();
+    QVERIFY(reading <= std::numeric_limits<qint64>::max() - kYear);
+    QVERIFY(reading >= std::numeric_limits<qint64>::min() + kYear);
+    QCOMPARE(reading > 0, now > 0);
+    QVERIFY(LocalMillisecond() >= 0 && LocalMillisecond() <= 999);
+    const HeldReading held;
+    QCOMPARE(UtcMilliseconds(), reading);
+    QCOMPARE(LocalDate().isValid() && LocalDate().year() > 0, now > 0);
 }
 
 void TestDeviceClock::localDate_data()
