@@ -76,10 +76,10 @@ public:
     static constexpr int kShiftSeconds = 3600;
 
     /// Seconds to add to a standard-time reading (milliseconds, tagged UTC): kShiftSeconds in the
-    /// period from the start rule to the end rule of the reading's year, else 0. Always 0 when not
-    /// enabled, when a rule is empty, malformed or names a day that the year does not have, and
-    /// outside the years 1 to 9999.
-    int ShiftSeconds(bool enabled, const QString &start, const QString &end, qint64 reading);
+    /// period from the start rule to the end rule of the reading's year, else 0. Always 0 when a
+    /// rule is empty, malformed or names a day that the year does not have, and outside the years
+    /// 1 to 9999.
+    int ShiftSeconds(const QString &start, const QString &end, qint64 reading);
 
 private:
     void SetRules(const QString &start, const QString &end);

@@ -86,11 +86,8 @@ bool InDaylightPeriod(qint64 reading, qint64 start, qint64 end)
     return false;
 }
 
-int DaylightSaving::ShiftSeconds(bool enabled, const QString &start, const QString &end,
-                                 qint64 reading)
+int DaylightSaving::ShiftSeconds(const QString &start, const QString &end, qint64 reading)
 {
-    if (!enabled)
-        return 0;
     if (!IsSameText(start, m_startText) || !IsSameText(end, m_endText))
         SetRules(start, end);
     if (reading < m_yearBegin || reading >= m_yearEnd)

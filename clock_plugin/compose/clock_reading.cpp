@@ -1,7 +1,6 @@
 #include "compose/clock_reading.h"
 
 #include "calendar/device_clock.h"
-#include "calendar/persian_calendar.h"
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 
@@ -37,32 +36,27 @@ void ClockReading::Update(HClockNode *node)
     if (node && node->GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1) {
         m_milliseconds += 1000LL
             * m_daylightSaving.ShiftSeconds(
-                true, node->GetAttribute(Key(Attribute::DaylightSavingTimeStart)),
+                node->GetAttribute(Key(Attribute::DaylightSavingTimeStart)),
                 node->GetAttribute(Key(Attribute::DaylightSavingTimeEnd)), m_milliseconds);
     }
-    const QDateTime reading = DateTime();
-    TakeDate(reading.date(), node && ShowsPersianDate(*node));
-    const int secondOfDay = reading.time().msecsSinceStartOfDay() / 1000;
-    hour = secondOfDay / 3600;
-    minute = secondOfDay / 60 % 60;
-    second = secondOfDay % 60;
+    m_fields = SplitReading(m_milliseconds);
+    if (node && ShowsPersianDate(*node))
+        TakePersianDate();
 }
 
-void ClockReading::TakeDate(const QDate &date, bool persian)
+// A date without a Persian one stays Gregorian.
+void ClockReading::TakePersianDate()
 {
-    if (date == m_date && persian == m_persian)
-        return;
-    m_date = date;
-    m_persian = persian;
-    dayOfWeek = date.dayOfWeek();
-    const PersianDate converted = persian ? ToPersianDate(date) : PersianDate();
-    if (converted.day != -1) {
-        year = converted.year;
-        month = converted.month;
-        day = converted.day;
-    } else {
-        date.getDate(&year, &month, &day);
+    const QDate date(m_fields.year, m_fields.month, m_fields.day);
+    if (date != m_gregorianDate) {
+        m_gregorianDate = date;
+        m_persianDate = ToPersianDate(date);
     }
+    if (m_persianDate.day == -1)
+        return;
+    m_fields.year = m_persianDate.year;
+    m_fields.month = m_persianDate.month;
+    m_fields.day = m_persianDate.day;
 }
 
 qint64 ClockReading::StandardMilliseconds() const
@@ -70,9 +64,9 @@ qint64 ClockReading::StandardMilliseconds() const
     return UtcMilliseconds() + m_offset;
 }
 
-QDate ClockReading::StandardDate() const
+DisplayedFields ClockReading::StandardFields() const
 {
-    return QDateTime::fromMSecsSinceEpoch(StandardMilliseconds(), Qt::UTC).date();
+    return SplitReading(StandardMilliseconds());
 }
 
 QDateTime ClockReading::DateTime() const

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "calendar/clock_time.h"
+#include "calendar/persian_calendar.h"
 #include "clock_node.h"
 
 #include <QDate>
@@ -19,28 +20,24 @@ public:
     /// saving and no Persian date.
     void Update(HClockNode *node);
 
-    /// The Gregorian date in the clock's zone without daylight saving, now.
-    QDate StandardDate() const;
+    /// What the clock shows: the year, month and day are Persian for a clock that shows the Persian
+    /// date; the weekday is Gregorian all the same.
+    const DisplayedFields &Fields() const { return m_fields; }
+    QDateTime DateTime() const; ///< the same, Gregorian, tagged UTC
 
-    QDateTime DateTime() const; ///< tagged UTC
-
-    int year = 0; ///< Gregorian, or Persian for a clock that shows the Persian date
-    int month = 0;
-    int day = 0;
-    int hour = 0; ///< 0 to 23
-    int minute = 0;
-    int second = 0;
-    int dayOfWeek = 0; ///< 1 Monday to 7 Sunday, of the Gregorian calendar
+    /// The Gregorian fields in the clock's zone without daylight saving, now.
+    DisplayedFields StandardFields() const;
 
 private:
     qint64 StandardMilliseconds() const;
-    void TakeDate(const QDate &date, bool persian);
+    void TakePersianDate();
 
     qint64 m_offset = 0;       ///< milliseconds to add to UTC, daylight saving apart
     qint64 m_milliseconds = 0; ///< of the reading, as if it were UTC
     DaylightSaving m_daylightSaving;
-    QDate m_date; ///< whose year, month and day are kept
-    bool m_persian = false;
+    DisplayedFields m_fields;
+    QDate m_gregorianDate; ///< whose Persian date is kept
+    PersianDate m_persianDate;
 };
 
 } // namespace Lw::HNodeClock

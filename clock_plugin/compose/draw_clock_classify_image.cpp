@@ -21,7 +21,7 @@ int DrawClockClassifyImage::CalculateTimeZone(QDateTime &reading)
 {
     const ClockReading &now = m_elements->UpdateReading();
     reading = now.DateTime();
-    return now.dayOfWeek;
+    return now.Fields().dayOfWeek;
 }
 
 QDateTime DrawClockClassifyImage::AnalyzeDaylightSavingTime(QDate date, QString rule)

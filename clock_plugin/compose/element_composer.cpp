@@ -6,6 +6,7 @@
 
 #include <QPainter>
 
+#include <cstdlib>
 #include <cstring>
 
 namespace Lw::HNodeClock {
@@ -80,13 +81,13 @@ const ClockReading &ElementComposer::UpdateReading()
     if (!m_readInScope)
         m_reading.Update(m_node);
     m_readInScope = m_scopes > 0;
-    m_shownHour = m_reading.hour;
+    m_shownHour = m_reading.Fields().hour;
     return m_reading;
 }
 
 const Element &ElementComposer::Date()
 {
-    const ClockReading &now = UpdateReading();
+    const DisplayedFields &now = UpdateReading().Fields();
     if (m_dateShown.Becomes({m_dateType, now.year, now.month, now.day}))
         m_date = DateElement(m_glyphs, m_dateType, now.year, now.month, now.day);
     return m_date;
@@ -112,7 +113,7 @@ const QPixmap &ElementComposer::AmPmMark(bool twelveHours)
 
 const Element &ElementComposer::Time()
 {
-    const ClockReading &now = UpdateReading();
+    const DisplayedFields &now = UpdateReading().Fields();
     const int timeType = Number(Attribute::DigitalTimeType);
     const QPixmap &mark = AmPmMark(Number(Attribute::DigitalMode) == 1);
     if (m_timeShown.Becomes({timeType, m_shownHour, now.minute, now.second, mark.cacheKey()}))
@@ -122,7 +123,7 @@ const Element &ElementComposer::Time()
 
 const Element &ElementComposer::Week()
 {
-    const int index = UpdateReading().dayOfWeek - 1;
+    const int index = UpdateReading().Fields().dayOfWeek - 1;
     if (m_weekShown.Becomes({index})) {
         const bool known = index >= 0 && index < m_glyphs.weeks.size();
         m_week = known ? Element(m_glyphs.weeks.at(index)) : Element();
@@ -132,20 +133,19 @@ const Element &ElementComposer::Week()
 
 QPixmap ElementComposer::WeekPixmap()
 {
-    return m_glyphs.weeks.value(UpdateReading().dayOfWeek - 1);
+    return m_glyphs.weeks.value(UpdateReading().Fields().dayOfWeek - 1);
 }
 
 void ElementComposer::UpdateLunarDate()
 {
-    const QDate date = m_reading.StandardDate();
-    m_lunarKnown = InLunarRange(date.year(), date.month(), date.day());
-    const char *const answer = LunarCalendarSetup(date.year(), date.month(), date.day());
+    const DisplayedFields date = m_reading.StandardFields();
+    m_lunarKnown = InLunarRange(date.year, date.month, date.day);
+    const char *const answer = LunarCalendarSetup(date.year, date.month, date.day);
     const std::size_t length = std::strlen(answer);
     if (length != 4 && length != 5)
         return;
-    const QLatin1String text(answer, static_cast<int>(length));
-    m_lunarMonth = QString(text.left(text.size() - 3)).toInt();
-    m_lunarDay = QString(text.right(2)).toInt();
+    m_lunarMonth = std::atoi(answer); // ends at the "$"
+    m_lunarDay = std::atoi(answer + length - 2);
 }
 
 const Element &ElementComposer::Lunar()

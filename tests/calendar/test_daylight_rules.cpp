@@ -291,8 +291,7 @@ void TestDaylightRules::shift()
     QFETCH(QString, end);
     QFETCH(QString, reading);
     DaylightSaving saving;
-    QTEST(saving.ShiftSeconds(true, start, end, At(reading)), "seconds");
-    QCOMPARE(saving.ShiftSeconds(false, start, end, At(reading)), 0);
+    QTEST(saving.ShiftSeconds(start, end, At(reading)), "seconds");
 }
 
 void TestDaylightRules::noShift_data()
@@ -320,25 +319,25 @@ void TestDaylightRules::noShift()
     DaylightSaving saving;
     for (qint64 reading = At("2026-01-01T00:00:00"); reading < At("2027-01-01T00:00:00");
          reading += 3600 * 1000)
-        QCOMPARE(saving.ShiftSeconds(true, start, end, reading), 0);
+        QCOMPARE(saving.ShiftSeconds(start, end, reading), 0);
 }
 
 void TestDaylightRules::shiftFollowsTextsAndYears()
 {
     DaylightSaving saving;
     const qint64 june = At("2026-06-15T12:00:00");
-    QCOMPARE(saving.ShiftSeconds(true, kNorthStart, kNorthEnd, june), 3600);
-    QCOMPARE(saving.ShiftSeconds(true, kSouthStart, kSouthEnd, june), 0);
-    QCOMPARE(saving.ShiftSeconds(true, kNorthStart, QString(), june), 0);
-    QCOMPARE(saving.ShiftSeconds(true, kNorthStart, kNorthEnd, june), 3600);
+    QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, june), 3600);
+    QCOMPARE(saving.ShiftSeconds(kSouthStart, kSouthEnd, june), 0);
+    QCOMPARE(saving.ShiftSeconds(kNorthStart, QString(), june), 0);
+    QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, june), 3600);
     QString sameText = kNorthStart;
     sameText.detach();
-    QCOMPARE(saving.ShiftSeconds(true, sameText, kNorthEnd, june), 3600);
+    QCOMPARE(saving.ShiftSeconds(sameText, kNorthEnd, june), 3600);
     // The boundary lies on 29 March in 2026, on 28 March in 2027, on 30 March in 2025.
-    QCOMPARE(saving.ShiftSeconds(true, kNorthStart, kNorthEnd, At("2027-03-28T02:00:00")), 3600);
-    QCOMPARE(saving.ShiftSeconds(true, kNorthStart, kNorthEnd, At("2026-03-28T02:00:00")), 0);
-    QCOMPARE(saving.ShiftSeconds(true, kNorthStart, kNorthEnd, At("2025-03-29T02:00:00")), 0);
-    QCOMPARE(saving.ShiftSeconds(true, kNorthStart, kNorthEnd, At("2025-03-30T02:00:00")), 3600);
+    QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, At("2027-03-28T02:00:00")), 3600);
+    QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, At("2026-03-28T02:00:00")), 0);
+    QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, At("2025-03-29T02:00:00")), 0);
+    QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, At("2025-03-30T02:00:00")), 3600);
 }
 
 void TestDaylightRules::shiftOutsideTheYears()
@@ -348,14 +347,14 @@ void TestDaylightRules::shiftOutsideTheYears()
     const QString end = QStringLiteral("12.Last.5.00:00:00");
     const qint64 first = QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
     const qint64 last = QDateTime(QDate(9999, 12, 30), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
-    QCOMPARE(saving.ShiftSeconds(true, begin, end, first), 3600);
-    QCOMPARE(saving.ShiftSeconds(true, begin, end, first - 1), 0);
-    QCOMPARE(saving.ShiftSeconds(true, begin, end, last), 3600);
+    QCOMPARE(saving.ShiftSeconds(begin, end, first), 3600);
+    QCOMPARE(saving.ShiftSeconds(begin, end, first - 1), 0);
+    QCOMPARE(saving.ShiftSeconds(begin, end, last), 3600);
     for (const qint64 reading :
          {std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max(),
           last + 300 * Q_INT64_C(86400000)})
-        QCOMPARE(saving.ShiftSeconds(true, begin, end, reading), 0);
-    QCOMPARE(saving.ShiftSeconds(true, begin, end, last), 3600);
+        QCOMPARE(saving.ShiftSeconds(begin, end, reading), 0);
+    QCOMPARE(saving.ShiftSeconds(begin, end, last), 3600);
 }
 
 QTEST_GUILESS_MAIN(TestDaylightRules)

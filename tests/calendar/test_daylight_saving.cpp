@@ -31,7 +31,7 @@ struct Clock
     int OffsetAt(qint64 utc)
     {
         const int offset = ParseZoneOffset(zone);
-        return offset + daylight.ShiftSeconds(true, start, end, utc + offset * Q_INT64_C(1000));
+        return offset + daylight.ShiftSeconds(start, end, utc + offset * Q_INT64_C(1000));
     }
 };
 

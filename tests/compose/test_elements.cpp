@@ -46,6 +46,15 @@ private Q_SLOTS:
     void PersianDate();
     void MissingImages_data();
     void MissingImages();
+    void NarrowStrips_data();
+    void NarrowStrips();
+    void ForeignFormats_data();
+    void ForeignFormats();
+    void TranslucentImagesStayTranslucent();
+    void CodesAreTakenAtSetUp();
+    void SetUpReadsAllFilesAnew();
+    void SetUpForAnotherNode();
+    void OtherElementsRestoreTheHour();
     void NothingBeforeSetUp();
     void UnchangedElementIsTheSamePixmap();
 
@@ -354,6 +363,155 @@ void TestElements::MissingImages()
     m_node->SetFilePath(key, "/nowhere.png", QString(), -1, 3);
     QCOMPARE(LetteredGlyphs::Read(Date(0)), date);
     QCOMPARE(LetteredGlyphs::Read(Time(0)), time);
+}
+
+void TestElements::NarrowStrips_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QString>("date");
+    QTest::addColumn<QString>("labelledDate");
+    QTest::addColumn<QString>("time");
+    QTest::addColumn<QString>("labelledTime");
+    const QString date = D("2024") + "//" + D("03") + "//" + D("05") + "_";
+    const QString labelled = D("2024") + "YYYY" + D("03") + "MMMM" + D("05") + "DDDD";
+    const QString time = T("13") + ":" + T("07") + ":" + T("42");
+    const QString labelledTime = T("13") + "hhh" + T("07") + "mmm" + T("42") + "sss";
+    // A strip with fewer columns than cells has cells of no width.
+    QTest::newRow("date digits") << "_dateNumber" << 9 << "////_"
+                                 << "YYYYMMMMDDDD" << time << labelledTime;
+    QTest::newRow("date labels") << "_dateCh" << 2 << date << D("20240305") << time << labelledTime;
+    QTest::newRow("date separators")
+        << "_dateChar" << 1 << D("20240305") + "_" << labelled << time << labelledTime;
+    QTest::newRow("time digits") << "_timeNumber" << 9 << date << labelled << "::"
+                                 << "hhhmmmsss";
+    // The whole label image is reserved all the same.
+    QTest::newRow("time labels") << "_timeCh" << 2 << date << labelled << time
+                                 << T("130742") + "__";
+}
+
+void TestElements::NarrowStrips()
+{
+    QFETCH(QString, key);
+    QFETCH(int, width);
+    QFETCH(QString, date);
+    QFETCH(QString, labelledDate);
+    QFETCH(QString, time);
+    QFETCH(QString, labelledTime);
+    m_glyphs->Write(key, QString(width, 'X'), 7);
+    QCOMPARE(LetteredGlyphs::Read(Date(0)), date);
+    QCOMPARE(LetteredGlyphs::Read(Date(5)), labelledDate);
+    QCOMPARE(LetteredGlyphs::Read(Time(0)), time);
+    QCOMPARE(LetteredGlyphs::Read(Time(2)), labelledTime);
+    m_glyphs->Write("_lunar", QString(16, 'X'), 9);
+    m_composer->InitParameters(m_node.data());
+    QVERIFY(m_composer->GetLunarPixmap().isNull());
+}
+
+void TestElements::ForeignFormats_data()
+{
+    QTest::addColumn<int>("pixels");
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("PNG without alpha") << int(QImage::Format_RGB32) << QByteArray("png");
+    QTest::newRow("PNG with a palette") << int(QImage::Format_Indexed8) << QByteArray("png");
+    QTest::newRow("PNG of 16 bits") << int(QImage::Format_RGBA64) << QByteArray("png");
+    QTest::newRow("BMP") << int(QImage::Format_RGB32) << QByteArray("bmp");
+    QTest::newRow("PPM") << int(QImage::Format_RGB32) << QByteArray("ppm");
+}
+
+// The content tells the format, not the name.
+void TestElements::ForeignFormats()
+{
+    QFETCH(int, pixels);
+    QFETCH(QByteArray, file);
+    const QString path = m_node->GetFirstFile("_timeNumber");
+    const QImage image(path);
+    QVector<QRgb> palette;
+    for (int x = 0; x < image.width(); x += 2)
+        palette << image.pixel(x, 0);
+    const auto format = static_cast<QImage::Format>(pixels);
+    const QImage foreign = format == QImage::Format_Indexed8
+        ? image.convertToFormat(format, palette)
+        : image.convertToFormat(format);
+    QVERIFY(foreign.save(path, file.constData()));
+    QCOMPARE(LetteredGlyphs::Read(Time(1)), T("13") + ":" + T("07"));
+}
+
+void TestElements::TranslucentImagesStayTranslucent()
+{
+    QImage image(20, 6, QImage::Format_ARGB32);
+    image.fill(QColor(200, 100, 50, 128));
+    QVERIFY(image.save(m_node->GetFirstFile("_timeNumber"), "png"));
+    const QImage time = Time(1).toImage().convertToFormat(QImage::Format_ARGB32);
+    QCOMPARE(time.width(), 9);
+    for (const int x : {0, 3, 5, 8}) {
+        QCOMPARE(qAlpha(time.pixel(x, 0)), 128);
+        // Within what is lost where colours are kept multiplied with their alpha.
+        QVERIFY(qAbs(qRed(time.pixel(x, 0)) - 200) <= 1);
+    }
+    QCOMPARE(qAlpha(time.pixel(4, 0)), 255);
+}
+
+void TestElements::CodesAreTakenAtSetUp()
+{
+    Date(6);
+    m_node->SetAttribute("DigitalDateType", 5, false);
+    m_node->SetAttribute("ClockType", 0, false);
+    m_node->SetAttribute("AnalogDateType", 8, false);
+    const QString labelled = D("03") + "MMMM" + D("05") + "DDDD";
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetDatePixmap()), labelled);
+    // The time's are not.
+    Time(0);
+    m_node->SetAttribute("DigitalTimeType", 1, false);
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetTimePixmap()), T("13") + ":" + T("07"));
+    m_node->SetAttribute("DigitalMode", 1, false);
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetTimePixmap()), T("01") + ":" + T("07") + "_PPP");
+}
+
+void TestElements::SetUpReadsAllFilesAnew()
+{
+    Date(0);
+    m_glyphs->Write("_dateNumber", LetteredGlyphs::Cells("abcdefghij", 3), 8);
+    m_glyphs->Write("_toptext", "OTHER", 5);
+    m_glyphs->Write("_chWeek_2", "W", 5);
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetTopTextPixmap()), QStringLiteral("LED"));
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetDatePixmap()).left(12), D("2024"));
+    m_composer->InitParameters(m_node.data());
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetTopTextPixmap()), QStringLiteral("OTHER"));
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetDatePixmap()).left(12), D("cace"));
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetWeeKPixmap()), QStringLiteral("W"));
+}
+
+void TestElements::SetUpForAnotherNode()
+{
+    Date(0);
+    HClockNode other;
+    other.SetAttribute("ClockType", 1, false);
+    m_composer->InitParameters(&other);
+    QVERIFY(m_composer->GetDatePixmap().isNull());
+    QVERIFY(m_composer->GetTimePixmap().isNull());
+    QVERIFY(m_composer->GetWeeKPixmap().isNull());
+    QVERIFY(m_composer->GetLunarPixmap().isNull());
+    QVERIFY(m_composer->GetTopTextPixmap().isNull());
+    m_node->SetAttribute("DigitalTimeType", 1, false);
+    m_composer->InitParameters(m_node.data());
+    QCOMPARE(LetteredGlyphs::Read(m_composer->GetTimePixmap()), T("13") + ":" + T("07"));
+}
+
+void TestElements::OtherElementsRestoreTheHour()
+{
+    m_node->SetAttribute("DigitalMode", 1, false);
+    Time(0);
+    // Lunar date and top text leave the time as it is, date and week bring it up to date.
+    m_composer->GetLunarPixmap();
+    m_composer->GetTopTextPixmap();
+    QCOMPARE(m_composer->GetTimeAP(), QStringLiteral("AM"));
+    m_composer->GetDatePixmap();
+    QCOMPARE(m_composer->GetTimeAP(), QStringLiteral("PM"));
+    m_composer->GetTimePixmap();
+    QCOMPARE(m_composer->GetTimeAP(), QStringLiteral("AM"));
+    m_composer->GetWeeKPixmap();
+    QCOMPARE(m_composer->GetTimeAP(), QStringLiteral("PM"));
 }
 
 void TestElements::NothingBeforeSetUp()
