@@ -60,15 +60,21 @@ private:
         m_options.outputDirectory = Text(kOutput);
         if (!m_options.WritesFrames() && m_options.platform.isEmpty())
             m_options.outputDirectory = Text(kDefaultOutput);
-        if (!m_parser.isSet(kFrames))
+        ReadFrameNumber(kFrames, kMaximumFrames, m_options.frames);
+        ReadFrameNumber(kMagnify, kMaximumMagnification, m_options.magnification);
+    }
+
+    void ReadFrameNumber(const QString &option, int maximum, int &number)
+    {
+        if (!m_parser.isSet(option))
             return;
         bool isNumber = false;
-        m_options.frames = m_parser.value(kFrames).toInt(&isNumber);
-        if (!isNumber || m_options.frames < 1 || m_options.frames > kMaximumFrames)
-            Fail(QStringLiteral("--frames needs a whole number from 1 to %1, not \"%2\"")
-                     .arg(QString::number(kMaximumFrames), m_parser.value(kFrames)));
+        number = m_parser.value(option).toInt(&isNumber);
+        if (!isNumber || number < 1 || number > maximum)
+            Fail(QStringLiteral("--%1 needs a whole number from 1 to %2, not \"%3\"")
+                     .arg(option, QString::number(maximum), m_parser.value(option)));
         else if (!m_options.WritesFrames())
-            Fail(QStringLiteral("--frames needs --output"));
+            Fail(QStringLiteral("--%1 needs --output").arg(option));
     }
 
     void ReadInstant()

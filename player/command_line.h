@@ -13,6 +13,7 @@ namespace ClockPlayer {
 
 constexpr int kDefaultFrames = 10;
 constexpr int kMaximumFrames = 1000000;
+constexpr int kMaximumMagnification = 16;
 
 struct Options
 {
@@ -23,6 +24,7 @@ struct Options
     QString language;        ///< empty: the locale's
     QString platform;        ///< Qt platform plugin; empty: Qt's own choice
     int frames = kDefaultFrames;
+    int magnification = 1; ///< pixels of the frames' files a pixel of the screen, each way
     std::optional<qint64> startInstant; ///< UTC milliseconds; nothing: the system's time
     bool checkDisplay = false;          ///< only find out whether the display can be reached
 

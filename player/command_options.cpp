@@ -57,6 +57,11 @@ void AddOptions(QCommandLineParser &parser)
                           .arg(kMaximumFrames)
                           .arg(kDefaultFrames),
                       QStringLiteral("number")});
+    parser.addOption({kMagnify,
+                      QStringLiteral("Draw each pixel of the frames as a square of so many pixels "
+                                     "a side, 1 to %1 (default 1).")
+                          .arg(kMaximumMagnification),
+                      QStringLiteral("number")});
     parser.addOption({kAt,
                       QStringLiteral("Begin at <instant> instead of now: ISO 8601, such as "
                                      "2024-03-31T02:59:58+01:00; UTC without an offset. Frames "

@@ -13,6 +13,7 @@ const QString kHelp = QStringLiteral("help");
 const QString kVersion = QStringLiteral("version");
 const QString kOutput = QStringLiteral("output");
 const QString kFrames = QStringLiteral("frames");
+const QString kMagnify = QStringLiteral("magnify");
 const QString kAt = QStringLiteral("at");
 const QString kLanguage = QStringLiteral("language");
 const QString kPluginDir = QStringLiteral("plugin-dir");

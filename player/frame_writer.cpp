@@ -2,6 +2,7 @@
 
 #include "instant.h"
 #include "player_time.h"
+#include "screen_composer.h"
 #include "stage.h"
 
 #include <QDir>
@@ -23,6 +24,12 @@ MaybeFailure SaveFrame(const QImage &screen, const QString &path)
                     QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString())};
 }
 
+Failure TooLarge(int magnification)
+{
+    return {ExitCode::RuntimeFailure,
+            QStringLiteral("the screen is too large to be magnified %1 times").arg(magnification)};
+}
+
 } // namespace
 
 QString FrameName(int number, int count)
@@ -42,7 +49,10 @@ MaybeFailure WriteFrames(Stage &stage, const FrameRun &run)
             stage.PlayNext();
         }
         const QString path = directory.filePath(FrameName(number, run.count));
-        if (const MaybeFailure failure = SaveFrame(stage.Screen(), path))
+        const QImage frame = Magnified(stage.Screen(), run.magnification);
+        if (frame.isNull())
+            return TooLarge(run.magnification);
+        if (const MaybeFailure failure = SaveFrame(frame, path))
             return failure;
         if (run.isEnded())
             break;

@@ -13,6 +13,7 @@ struct FrameRun
 {
     QString directory; ///< exists; files of the frames' names are replaced
     int count = 0;
+    int magnification = 1;         ///< each pixel becomes a square of so many a side
     qint64 start = 0;              ///< UTC milliseconds; the first frame shows its whole second
     std::function<bool()> isEnded; ///< asked after each frame; true ends the run early
 };

@@ -78,6 +78,7 @@ MaybeFailure PlayToFiles(Stage &stage, const Options &options)
     FrameRun run;
     run.directory = options.outputDirectory;
     run.count = options.frames;
+    run.magnification = options.magnification;
     run.start = options.startInstant.value_or(PlayerTime::Now());
     run.isEnded = [] {
         QCoreApplication::processEvents();

@@ -60,4 +60,12 @@ void ComposeScreen(QImage &screen, const QVector<Layer> &layers, const QRect &re
         ComposeLayer(screen, layer, visible);
 }
 
+QImage Magnified(const QImage &screen, int times)
+{
+    const qint64 pixels = qint64(screen.width()) * screen.height() * times * times;
+    if (pixels > kMaximumMagnifiedPixels)
+        return QImage();
+    return screen.scaled(screen.size() * times, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+}
+
 } // namespace ClockPlayer

@@ -23,4 +23,11 @@ QImage BlackScreen(QSize size);
 /// are touched. Every pixel but those of the key colour covers what lies below it.
 void ComposeScreen(QImage &screen, const QVector<Layer> &layers, const QRect &region);
 
+/// Pixels that a magnified screen may have: 256 MiB.
+constexpr qint64 kMaximumMagnifiedPixels = 64LL << 20;
+
+/// The same picture with each pixel drawn as a square of so many pixels a side, at least 1. Null
+/// when it would have too many pixels.
+QImage Magnified(const QImage &screen, int times);
+
 } // namespace ClockPlayer

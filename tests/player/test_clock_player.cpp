@@ -31,6 +31,8 @@ private slots:
     void RunsAreAlike();
     void FramesWithoutInstantShowThePresent();
     void NamesOfFrames();
+    void MagnifiedFrames();
+    void ScreenTooLargeToMagnify();
     void OldFramesAreReplaced();
     void RedrawRequestsAreGathered();
     void NodeDiesWhilePlaying();
@@ -135,6 +137,36 @@ void TestClockPlayer::FramesWithoutInstantShowThePresent()
     const qint64 after = QDateTime::currentSecsSinceEpoch();
     const int shown = qRed(Frames(Path("out")).value(0).pixel(1, 0));
     QVERIFY((shown - before % 60 + 60) % 60 <= after - before);
+}
+
+void TestClockPlayer::MagnifiedFrames()
+{
+    const QStringList arguments {WriteProgram(Area(2, "<panel/>")), "--frames", "2", "--at",
+                                 "2024-05-06T07:08:09"};
+    QCOMPARE(Play(arguments).exitCode, 0);
+    const QVector<QImage> plain = Frames(Path("out"));
+    QCOMPARE(Play(arguments + QStringList {"--magnify", "3"}).exitCode, 0);
+    const QVector<QImage> magnified = Frames(Path("out"));
+    QCOMPARE(magnified.size(), 2);
+    for (int i = 0; i < 2; ++i) {
+        QCOMPARE(magnified[i].size(), QSize(24, 6));
+        for (int y = 0; y < 6; ++y) {
+            for (int x = 0; x < 24; ++x)
+                QCOMPARE(magnified[i].pixel(x, y), plain[i].pixel(x / 3, y / 3));
+        }
+    }
+}
+
+void TestClockPlayer::ScreenTooLargeToMagnify()
+{
+    const QString program =
+        Write("large.xml",
+              "<program width=\"1024\" height=\"1024\">" + Area(0, "<panel/>") + "</program>");
+    const PlayerRun run = Play({program, "--frames", "1", "--magnify", "16"});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.errors,
+             QStringLiteral("clock_player: the screen is too large to be magnified 16 times\n"));
+    QVERIFY(Frames(Path("out")).isEmpty());
 }
 
 void TestClockPlayer::NamesOfFrames()

@@ -39,6 +39,7 @@ void TestCommandLine::Defaults()
     QCOMPARE(options.programPath, QStringLiteral("a.xml"));
     QVERIFY(!options.WritesFrames());
     QCOMPARE(options.frames, 10);
+    QCOMPARE(options.magnification, 1);
     QVERIFY(!options.startInstant);
     QVERIFY(options.pluginDirectory.isEmpty() && options.filesDirectory.isEmpty());
     QVERIFY(options.language.isEmpty() && options.platform.isEmpty());
@@ -48,11 +49,13 @@ void TestCommandLine::Everything()
 {
     const CommandLine line =
         Parsed({"--output", "out", "--frames=1000000", "a.xml", "--at", "1970-01-01T00:00:01Z",
-                "--plugin-dir", "plugins", "--files-dir=files", "--platform", "minimal"});
+                "--plugin-dir", "plugins", "--files-dir=files", "--platform", "minimal",
+                "--magnify", "16"});
     QVERIFY(std::holds_alternative<Options>(line));
     const Options &options = std::get<Options>(line);
     QCOMPARE(options.outputDirectory, QStringLiteral("out"));
     QCOMPARE(options.frames, 1000000);
+    QCOMPARE(options.magnification, 16);
     QCOMPARE(options.startInstant.value_or(0), qint64(1000));
     QCOMPARE(options.pluginDirectory, QStringLiteral("plugins"));
     QCOMPARE(options.filesDirectory, QStringLiteral("files"));
@@ -135,6 +138,10 @@ void TestCommandLine::Refused_data()
     for (const char *frames : {"0", "-1", "1000001", "3.5", "", "ten", "4294967297"})
         row(qPrintable(QStringLiteral("frames \"%1\"").arg(frames)),
             {"a.xml", "-o", "out", "--frames", frames}, "--frames");
+    row("magnified without output", {"a.xml", "--magnify", "2"}, "--output");
+    for (const char *times : {"0", "-1", "17", "1.5", "", "two", "4294967297"})
+        row(qPrintable(QStringLiteral("magnified \"%1\"").arg(times)),
+            {"a.xml", "-o", "out", "--magnify", times}, "--magnify");
     row("malformed instant", {"a.xml", "--at", "noon"}, "noon");
     row("empty instant", {"a.xml", "--at", ""}, "--at");
 }

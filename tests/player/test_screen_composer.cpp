@@ -54,6 +54,9 @@ private slots:
     void OtherFormats();
     void OnlyTheRegionIsTouched();
     void OldPictureIsErased();
+    void Magnified_data();
+    void Magnified();
+    void TooLargeToMagnify();
 };
 
 void TestScreenComposer::NothingIsBlack()
@@ -167,6 +170,37 @@ void TestScreenComposer::OldPictureIsErased()
     ComposeScreen(screen, {{{0, 0, 3, 1}, picture}}, screen.rect());
     ComposeScreen(screen, {{{0, 0, 3, 1}, Plain(3, 1, kKeyColour)}}, screen.rect());
     QCOMPARE(Count(screen, kBlack), 3);
+}
+
+void TestScreenComposer::Magnified_data()
+{
+    QTest::addColumn<int>("times");
+    for (int times = 1; times <= 16; ++times)
+        QTest::addRow("%d times", times) << times;
+}
+
+void TestScreenComposer::Magnified()
+{
+    QFETCH(int, times);
+    QImage screen = BlackScreen({7, 3});
+    for (int y = 0; y < 3; ++y) {
+        for (int x = 0; x < 7; ++x)
+            screen.setPixel(x, y, qRgb(30 * x + 1, 80 * y + 1, 5));
+    }
+    const QImage magnified = ClockPlayer::Magnified(screen, times);
+    QCOMPARE(magnified.size(), QSize(7 * times, 3 * times));
+    for (int y = 0; y < magnified.height(); ++y) {
+        for (int x = 0; x < magnified.width(); ++x)
+            QCOMPARE(magnified.pixel(x, y), screen.pixel(x / times, y / times));
+    }
+}
+
+// 64 Mi pixels are 8192 by 8192: a sixteenth of it each way may be magnified 16 times.
+void TestScreenComposer::TooLargeToMagnify()
+{
+    QVERIFY(ClockPlayer::Magnified(BlackScreen({513, 512}), 16).isNull());
+    QVERIFY(ClockPlayer::Magnified(BlackScreen({32767, 1024}), 2).isNull());
+    QCOMPARE(ClockPlayer::Magnified(BlackScreen({32767, 1024}), 1).size(), QSize(32767, 1024));
 }
 
 QTEST_GUILESS_MAIN(TestScreenComposer)
