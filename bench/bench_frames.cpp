@@ -1,9 +1,11 @@
-// Frames: a steady second of a digital clock beside the least that a frame of its size can cost.
+// Frames: a steady second of each kind of clock beside the least that a frame of its size can cost.
 #include "bench_support.h"
 
 #include "calendar/device_clock.h"
 #include "display/draw_display_image.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QImage>
 
 #include <cstring>
@@ -55,6 +57,16 @@ void DigitalSecond(benchmark::State &state)
 void AnalogSecond(benchmark::State &state)
 {
     PlayFrames(state, bench::kAnalog);
+}
+
+void PictureSecond(benchmark::State &state)
+{
+    const QString dial =
+        QCoreApplication::applicationDirPath() + "/../image/ClockType/picbutton1.png";
+    if (!QFileInfo::exists(dial))
+        state.SkipWithError("no style pictures beside the program's directory");
+    else
+        PlayFrames(state, bench::kPicture);
 }
 
 void KeyColourFill(benchmark::State &state)
@@ -109,7 +121,8 @@ void Sizes(benchmark::internal::Benchmark *frames)
 } // namespace
 
 BENCHMARK(DigitalSecond)->Apply(Sizes);
+BENCHMARK(AnalogSecond)->Apply(Sizes);
+BENCHMARK(PictureSecond)->Apply(Sizes);
 BENCHMARK(KeyColourFill)->Apply(Sizes);
 BENCHMARK(FrameCopy)->Apply(Sizes);
-BENCHMARK(AnalogSecond)->Apply(Sizes);
 BENCHMARK(DigitalFromNothing)->Apply(Sizes);

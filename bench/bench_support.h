@@ -13,6 +13,7 @@ namespace bench {
 
 constexpr int kAnalog = 0;
 constexpr int kDigital = 1;
+constexpr int kPicture = 2;
 
 /// A clock with its defaults, a fixed font that suits the area, and no glyph images yet.
 std::unique_ptr<Lw::HNodeClock::HClockNode> NewNode(int clockType, QSize size);
