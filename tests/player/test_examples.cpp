@@ -49,6 +49,7 @@ class TestExamples : public QObject
 private slots:
     void Plays_data();
     void Plays();
+    void StylesDiffer();
     void DaylightSaving_data();
     void DaylightSaving();
     void TextIsAsLargeOnEveryPlatform();
@@ -73,6 +74,20 @@ void TestExamples::Plays()
     QVERIFY(frames[0] != frames[1]);
     QVERIFY(frames[1] != frames[2]);
     QCOMPARE(Played(example, instant, 3), frames);
+}
+
+// Clocks of one zone have the same hands, so what differs is the dial.
+void TestExamples::StylesDiffer()
+{
+    const QImage frame =
+        Played(QStringLiteral("pictures.xml"), QStringLiteral("2024-03-05T13:07:58Z"), 1).value(0);
+    QCOMPARE(frame.size(), QSize(1000, 400));
+    QVector<QImage> clocks;
+    for (int style = 0; style < 10; ++style) {
+        const QImage clock = frame.copy(style % 5 * 200, style / 5 * 200, 200, 200);
+        QVERIFY2(!clocks.contains(clock), qPrintable(QString::number(style + 1)));
+        clocks.append(clock);
+    }
 }
 
 // A reading looks the same in winter and in summer, so each row names two instants of one reading,
