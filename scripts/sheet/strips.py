@@ -1,0 +1,50 @@
+"""PNG pictures of one width put below one another, no pixel decoded.
+
+Each row of a PNG picture is stored as differences to the row above it, which is black above the
+first row. So the packed rows of pictures that end in a black row can follow one another.
+"""
+import struct
+import zlib
+
+SIGNATURE = b"\x89PNG\r\n\x1a\n"
+
+
+def chunks(data):
+    """(kind, content) of each chunk."""
+    at = len(SIGNATURE)
+    while at < len(data):
+        (length,) = struct.unpack(">I", data[at : at + 4])
+        yield data[at + 4 : at + 8], data[at + 8 : at + 8 + length]
+        at += length + 12
+
+
+def chunk(kind, content):
+    return struct.pack(">I", len(content)) + kind + content + struct.pack(
+        ">I", zlib.crc32(kind + content)
+    )
+
+
+def read(data):
+    """(width, height, everything else of the header, stored rows)"""
+    parts = list(chunks(data))
+    width, height = struct.unpack(">II", parts[0][1][:8])
+    packed = b"".join(content for kind, content in parts if kind == b"IDAT")
+    return width, height, parts[0][1][8:], zlib.decompress(packed)
+
+
+def joined(pictures):
+    """One PNG picture of several: same width and pixel format, last rows black."""
+    read_pictures = [read(picture) for picture in pictures]
+    width, _, pixel_format, _ = read_pictures[0]
+    if any((each[0], each[2]) != (width, pixel_format) for each in read_pictures):
+        raise ValueError("the pictures differ in width or format")
+    height = sum(each[1] for each in read_pictures)
+    rows = b"".join(each[3] for each in read_pictures)
+    return b"".join(
+        (
+            SIGNATURE,
+            chunk(b"IHDR", struct.pack(">II", width, height) + pixel_format),
+            chunk(b"IDAT", zlib.compress(rows, 9)),
+            chunk(b"IEND", b""),
+        )
+    )
