@@ -29,14 +29,37 @@ namespace {
 constexpr char kLogSource[] = "clock_node.cpp";
 constexpr int kImageFile = 3; // the host's kind of a recorded image
 
-/// By what the file system says, for one file has many spellings: links, "..", bind mounts.
-bool AreOneFile(const QString &path, const QString &other)
+bool ReadStatus(const QString &path, struct stat *status)
 {
-    struct stat first;
-    struct stat second;
-    return stat(QFile::encodeName(path).constData(), &first) == 0
-        && stat(QFile::encodeName(other).constData(), &second) == 0 && first.st_dev == second.st_dev
-        && first.st_ino == second.st_ino;
+    return stat(QFile::encodeName(path).constData(), status) == 0;
+}
+
+bool AreOneFile(const struct stat &file, const struct stat &other)
+{
+    return file.st_dev == other.st_dev && file.st_ino == other.st_ino;
+}
+
+/// Whether both paths lead to one entry of one directory, by what the file system says, for an
+/// entry has many spellings: links, "..", bind mounts. Hard links are entries of their own.
+bool AreOneEntry(const QString &path, const QString &other)
+{
+    struct stat status;
+    struct stat otherStatus;
+    if (!ReadStatus(path, &status) || !ReadStatus(other, &otherStatus)
+        || !AreOneFile(status, otherStatus))
+        return false;
+    if (status.st_nlink == 1)
+        return true;
+    const QFileInfo entry(QFileInfo(path).canonicalFilePath());
+    const QFileInfo otherEntry(QFileInfo(other).canonicalFilePath());
+    return entry.fileName() == otherEntry.fileName() && ReadStatus(entry.path(), &status)
+        && ReadStatus(otherEntry.path(), &otherStatus) && AreOneFile(status, otherStatus);
+}
+
+/// The system ends a path at its first character 0 and would take another file for it.
+bool IsWhole(const QString &path)
+{
+    return !path.contains(QChar::Null);
 }
 
 /// The copy appears under its name only when it is complete and on the disk. The flush is asked
@@ -75,7 +98,7 @@ void MoveOver(const QString &source, const QString &dest, const QString &digest)
 /// bytes certainly stand at dest; a dest that does not hold what its name says is replaced.
 void MoveToDigestName(const QString &source, const QString &dest, const QString &digest)
 {
-    if (digest.isEmpty() || AreOneFile(source, dest))
+    if (digest.isEmpty() || !IsWhole(source) || !IsWhole(dest) || AreOneEntry(source, dest))
         return;
     if (HMD5::FileDigest(dest) == digest)
         QFile::remove(source);
