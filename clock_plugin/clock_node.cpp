@@ -52,7 +52,7 @@ void HClockNode::Store(Attribute attribute, const QString &value)
 
 QString HClockNode::Type()
 {
-    return QStringLiteral("LW_Clock_Plugin");
+    return QLatin1String(kNodeType);
 }
 
 bool HClockNode::NodeMatch(QDomElement &element)

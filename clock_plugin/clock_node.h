@@ -27,6 +27,9 @@ struct ImportElement;
 extern CLOCK_EXPORT QStringList fileList;
 extern CLOCK_EXPORT QStringList fileMd5List;
 
+/// The type of the node and of the plugin that makes it.
+inline constexpr char kNodeType[] = "LW_Clock_Plugin";
+
 /// The constructor writes no attribute: InitData fills a new clock, UpdateNode one that is read.
 class CLOCK_EXPORT HClockNode : public Lw::HContentNode
 {
@@ -37,7 +40,7 @@ public:
     ~HClockNode() override;
 
     // The host's operations.
-    QString Type() override;                       ///< "LW_Clock_Plugin"
+    QString Type() override;                       ///< kNodeType
     bool NodeMatch(QDomElement &element) override; ///< whether the tag is "clock"
     /// Takes over what an SDK clock element says; what it does not mention stays. False for a null
     /// element and for a type that is neither analog nor digital: then only its font was taken.
@@ -140,15 +143,16 @@ Q_SIGNALS:
 private:
     // Write one attribute and emit ReDrawSourceImage() where its row of the table says so. A
     // listener may have deleted the node by the time they return.
-    void Store(Attribute attribute, int value);
-    void Store(Attribute attribute, const QString &value);
-    void StoreDefault(const AttributeRow &row);
-    void StoreComputedDefault(Attribute attribute);
+    Q_DECL_HIDDEN void Store(Attribute attribute, int value);
+    Q_DECL_HIDDEN void Store(Attribute attribute, const QString &value);
+    Q_DECL_HIDDEN void StoreDefault(const AttributeRow &row);
+    Q_DECL_HIDDEN void StoreComputedDefault(Attribute attribute);
 
-    void Import(const QDomElement &clock, const ImportElement *begin, const ImportElement *end);
-    void Apply(Attribute target, Conversion conversion, const QString &text);
-    QString SdkAdjust(); // the stored adjustment as the SDK writes it
-    void CoverChildToSDK(QDomElement &child, const ExportSource &source);
+    Q_DECL_HIDDEN void Import(const QDomElement &clock, const ImportElement *begin,
+                              const ImportElement *end);
+    Q_DECL_HIDDEN void Apply(Attribute target, Conversion conversion, const QString &text);
+    Q_DECL_HIDDEN QString SdkAdjust(); // the stored adjustment as the SDK writes it
+    Q_DECL_HIDDEN void CoverChildToSDK(QDomElement &child, const ExportSource &source);
 
     // True once the analog spacing or swap was written. Kept for the host; nothing here reads it.
     bool m_analogRowsWritten = false;

@@ -3,21 +3,18 @@
 
 #include "clock_sdk_tables.h"
 #include "glyph/draw_source_image.h"
+#include "glyph/glyph_move.h"
 #include "glyph/glyph_set.h"
 #include "glyph/hmd5.h"
 
 #include "happconfig.h"
 
-#include <QDir>
 #include <QDomElement>
 #include <QFile>
 #include <QFileInfo>
 #include <QPointer>
-#include <QSaveFile>
 
-#include <cerrno>
 #include <cstdio>
-#include <sys/stat.h>
 
 namespace Lw::HNodeClock {
 
@@ -27,84 +24,6 @@ QStringList fileMd5List;
 namespace {
 
 constexpr char kLogSource[] = "clock_node.cpp";
-constexpr int kImageFile = 3; // the host's kind of a recorded image
-
-bool ReadStatus(const QString &path, struct stat *status)
-{
-    return stat(QFile::encodeName(path).constData(), status) == 0;
-}
-
-bool AreOneFile(const struct stat &file, const struct stat &other)
-{
-    return file.st_dev == other.st_dev && file.st_ino == other.st_ino;
-}
-
-/// Whether both paths lead to one entry of one directory, by what the file system says, for an
-/// entry has many spellings: links, "..", bind mounts. Hard links are entries of their own.
-bool AreOneEntry(const QString &path, const QString &other)
-{
-    struct stat status;
-    struct stat otherStatus;
-    if (!ReadStatus(path, &status) || !ReadStatus(other, &otherStatus)
-        || !AreOneFile(status, otherStatus))
-        return false;
-    if (status.st_nlink == 1)
-        return true;
-    const QFileInfo entry(QFileInfo(path).canonicalFilePath());
-    const QFileInfo otherEntry(QFileInfo(other).canonicalFilePath());
-    return entry.fileName() == otherEntry.fileName() && ReadStatus(entry.path(), &status)
-        && ReadStatus(otherEntry.path(), &otherStatus) && AreOneFile(status, otherStatus);
-}
-
-/// The system ends a path at its first character 0 and would take another file for it.
-bool IsWhole(const QString &path)
-{
-    return !path.contains(QChar::Null);
-}
-
-/// The copy appears under its name only when it is complete and on the disk. The flush is asked
-/// for by hand: commit() does not look at the bytes that closing the file still has to write.
-bool CopyWhole(const QString &source, const QString &dest)
-{
-    QFile in(source);
-    QSaveFile out(dest);
-    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
-        return false;
-    constexpr qint64 kBlock = 64 * 1024;
-    while (!in.atEnd()) {
-        const QByteArray block = in.read(kBlock);
-        if (block.isEmpty() || out.write(block) != block.size())
-            return false;
-    }
-    return in.error() == QFile::NoError && out.flush() && out.commit();
-}
-
-/// A rename that also replaces what stands at dest. Between file systems it is a copy whose
-/// original goes only after the copy was read back; QFile::rename removes the original while the
-/// copy may still be in its buffer, and a full device then has neither.
-void MoveOver(const QString &source, const QString &dest, const QString &digest)
-{
-    QDir().rmdir(dest); // an empty directory holds nothing; any other entry refuses
-    if (std::rename(QFile::encodeName(source).constData(), QFile::encodeName(dest).constData()) == 0
-        || errno != EXDEV)
-        return;
-    if (QFileInfo(dest).isSymLink())
-        QFile::remove(dest); // the link, not what it leads to
-    if (CopyWhole(source, dest) && HMD5::FileDigest(dest) == digest)
-        QFile::remove(source);
-}
-
-/// Brings an image to its place under its digest's name. The image is removed only where the same
-/// bytes certainly stand at dest; a dest that does not hold what its name says is replaced.
-void MoveToDigestName(const QString &source, const QString &dest, const QString &digest)
-{
-    if (digest.isEmpty() || !IsWhole(source) || !IsWhole(dest) || AreOneEntry(source, dest))
-        return;
-    if (HMD5::FileDigest(dest) == digest)
-        QFile::remove(source);
-    else
-        MoveOver(source, dest, digest);
-}
 
 /// The clock type that an element names; nothing where its type is a word of no kind of clock.
 std::optional<int> ClockTypeIn(const QDomElement &element)
@@ -179,9 +98,9 @@ void HClockNode::ProcessFileName(QString destDir)
     const int clockType = ClockType();
     if (clockType == PictureClock)
         return;
-    const QString prefix =
-        clockType == DigitalClock ? QStringLiteral("digital_") : QStringLiteral("analog_");
-    const QString name = prefix + QString::number(GetAttributeToInt(Key(Attribute::Id)));
+    const char *const prefix = clockType == DigitalClock ? kDigitalPrefix : kAnalogPrefix;
+    const QString name =
+        QLatin1String(prefix) + QString::number(GetAttributeToInt(Key(Attribute::Id)));
     for (const GlyphImage &image : GlyphImages(GlyphOrder::Bookkeeping, clockType)) {
         if (image.row->exported)
             SetFileInfo(name, image.Key(), destDir);
@@ -190,7 +109,7 @@ void HClockNode::ProcessFileName(QString destDir)
 
 void HClockNode::SetFileInfo(QString name, QString key, QString destDir)
 {
-    const QString suffix = QStringLiteral(".png");
+    const QLatin1String suffix(kGlyphSuffix);
     const QString source = Lw::HAppConfig::ClockOutputPath() + name + key + suffix;
     const QString digest = HMD5::FileDigest(source);
     const QString dest = destDir + digest + suffix;
@@ -199,7 +118,7 @@ void HClockNode::SetFileInfo(QString name, QString key, QString destDir)
     MoveToDigestName(source, dest, digest);
     fileList.append(dest);
     fileMd5List.append(digest);
-    SetFilePath(key, dest, digest, -1, kImageFile);
+    SetFilePath(key, dest, digest, -1, kImageFileKind);
 }
 
 void HClockNode::GetSDKTempFile(QList<QFileInfo> &out)
@@ -247,7 +166,7 @@ void HClockNode::ProcFile(QDomElement &element, QList<Lw::FileInfo> &files)
         const quint64 size = file.attribute(QStringLiteral("size")).toULongLong();
         const QString path = file.attribute(QStringLiteral("path"));
         SetFilePath(file.attribute(QStringLiteral("key")), path, md5, static_cast<long long>(size),
-                    kImageFile);
+                    kImageFileKind);
         files.append({md5, size, path});
     }
 }

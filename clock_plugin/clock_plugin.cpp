@@ -2,6 +2,7 @@
 
 #include "clock_node.h"
 #include "clock_render.h"
+#include "clock_sdk_tables.h"
 
 #include <QDomElement>
 
@@ -13,7 +14,7 @@ HNodeClock::~HNodeClock() = default;
 
 bool HNodeClock::PluginMatch(QDomElement &element)
 {
-    return element.tagName() == QLatin1String("clock");
+    return element.tagName() == QLatin1String(Sdk::kClock);
 }
 
 int HNodeClock::level()
@@ -23,7 +24,7 @@ int HNodeClock::level()
 
 QString HNodeClock::type()
 {
-    return HClockNode().Type();
+    return QLatin1String(kNodeType);
 }
 
 Lw::HNode *HNodeClock::Create()

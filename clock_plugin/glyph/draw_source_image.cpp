@@ -1,8 +1,8 @@
 #include "glyph/draw_source_image.h"
 
 #include "glyph/glyph_file.h"
-#include "image_bounds.h"
 #include "glyph/hmd5.h"
+#include "image_bounds.h"
 
 #include "happconfig.h"
 
@@ -18,7 +18,6 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr int kFileKind = 3; // what the host calls a glyph image
 constexpr int kDigits = 10;
 constexpr int kDefaultPoints = 12;
 
@@ -93,12 +92,12 @@ void DrwSourceIMage::InitParameters(HClockNode *node)
         return;
     m_clockType = node->GetAttributeToInt(Key(Attribute::ClockType));
     if (m_clockType == AnalogClock) {
-        m_typePrefix = QStringLiteral("analog_");
+        m_typePrefix = QLatin1String(kAnalogPrefix);
         m_topText = node->GetAttribute(Key(Attribute::AnalogTopText));
         for (GlyphFont font : kAnalogFonts)
             ReadFont(node, font);
     } else if (m_clockType == DigitalClock) {
-        m_typePrefix = QStringLiteral("digital_");
+        m_typePrefix = QLatin1String(kDigitalPrefix);
         m_topText = node->GetAttribute(Key(Attribute::DigitalTopText));
         for (GlyphFont font : kDigitalFonts)
             ReadFont(node, font);
@@ -131,7 +130,7 @@ void DrwSourceIMage::DrawGlyph(HClockNode *node, const GlyphImage &image, const 
 {
     const FontSettings &font = m_fonts[static_cast<int>(image.row->font)];
     const QString &key = image.Key();
-    const QString fileSuffix = key + QLatin1String(".png");
+    const QString fileSuffix = key + QLatin1String(kGlyphSuffix);
     if (image.row->shape == GlyphShape::DigitStrip)
         DrawNumberImage(node, key, id, font.family, font.size, font.colour, fileSuffix);
     else
@@ -212,14 +211,14 @@ void DrwSourceIMage::Record(HClockNode *node, const QString &key, const QString 
     if (!node)
         return;
     if (!m_calcMd5) {
-        node->SetFilePath(key, path, QString(), -1, kFileKind);
+        node->SetFilePath(key, path, QString(), -1, kImageFileKind);
         return;
     }
     const QString digested = HMD5::GeneratorFile(path);
     const QFileInfo file(digested);
     const bool readable = !digested.isEmpty();
     node->SetFilePath(key, digested, readable ? file.baseName() : QString(),
-                      readable ? file.size() : 0, kFileKind);
+                      readable ? file.size() : 0, kImageFileKind);
 }
 
 int DrwSourceIMage::GetNumberMaxWidth(QFontMetrics metrics)

@@ -17,6 +17,13 @@ namespace Lw::HNodeClock {
 /// The values of the attribute ClockType.
 enum ClockTypeCode { AnalogClock = 0, DigitalClock = 1, PictureClock = 2 };
 
+// A glyph image's file is called by the clock's type, its identity, the image's key and the suffix.
+inline constexpr char kAnalogPrefix[] = "analog_";
+inline constexpr char kDigitalPrefix[] = "digital_";
+inline constexpr char kGlyphSuffix[] = ".png";
+/// What the host calls a recorded image.
+inline constexpr int kImageFileKind = 3;
+
 enum class Glyph : int {
     TopText,
     ChWeek,

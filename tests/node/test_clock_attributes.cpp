@@ -361,7 +361,9 @@ private Q_SLOTS:
         QVERIFY(node.inherits("Lw::HNodeClock::HClockNode"));
         QVERIFY(node.inherits("Lw::HContentNode"));
         QVERIFY(!node.inherits("HClockNode"));
-        QVERIFY(QMetaType::type("HClockNode*") != QMetaType::UnknownType);
+        const int pointer = qMetaTypeId<HClockNode *>();
+        QCOMPARE(QMetaType::type("HClockNode*"), pointer);
+        QCOMPARE(QMetaType::type("Lw::HNodeClock::HClockNode*"), pointer);
     }
 
     void SignalsStandInTheirOrder()
