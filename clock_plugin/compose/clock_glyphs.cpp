@@ -23,7 +23,7 @@ QPixmap LoadGlyph(HClockNode &node, Glyph glyph, int number = 0)
 
 QPixmap BlankMonth(const QPixmap &digits)
 {
-    QPixmap blank(digits.width() / 10 * 2, digits.height());
+    QPixmap blank(digits.width() / kDigitCells * 2, digits.height());
     blank.fill(Qt::transparent);
     return blank;
 }

@@ -18,7 +18,6 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr int kDigits = 10;
 constexpr int kDefaultPoints = 12;
 
 // No font above this size has a line that fits an image. Qt draws boxes of a fixed size instead of
@@ -180,10 +179,10 @@ void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, 
         const QFont font = GlyphTypeface(family, size);
         const QFontMetrics metrics(font);
         const int cell = GetNumberMaxWidth(metrics);
-        QPixmap pixmap = TransparentPixmap(kDigits * cell, metrics.height());
+        QPixmap pixmap = TransparentPixmap(kDigitCells * cell, metrics.height());
         if (!pixmap.isNull()) {
             BeginGlyphs(&pixmap, font, colour);
-            for (int digit = 0; digit < kDigits; ++digit)
+            for (int digit = 0; digit < kDigitCells; ++digit)
                 m_painter->drawText(QRect(digit * cell, 0, cell, pixmap.height()), Qt::AlignCenter,
                                     QString::number(digit));
             m_painter->end();
@@ -224,7 +223,7 @@ void DrwSourceIMage::Record(HClockNode *node, const QString &key, const QString 
 int DrwSourceIMage::GetNumberMaxWidth(QFontMetrics metrics)
 {
     int widest = 0;
-    for (int digit = 0; digit < kDigits; ++digit)
+    for (int digit = 0; digit < kDigitCells; ++digit)
         widest = std::max(widest, AdvanceWidth(metrics, QString::number(digit)));
     return widest;
 }

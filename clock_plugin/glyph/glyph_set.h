@@ -52,6 +52,13 @@ enum class GlyphShape {
     DigitStrip, ///< the digits 0 to 9 in ten equal cells
 };
 
+// What a strip holds in cells of equal width, which is the width of the strip divided by their
+// number, without remainder.
+inline constexpr int kDigitCells = 10;    ///< the digits 0 to 9
+inline constexpr int kLabelCells = 3;     ///< of year, month and day, or hour, minute and second
+inline constexpr int kSeparatorCells = 2; ///< comma and slash
+inline constexpr int kLunarCells = 17;
+
 enum class GlyphWording {
     Verbatim,   ///< drawn as it stands in the table
     Translated, ///< looked up in the context of DrwSourceIMage

@@ -1,4 +1,6 @@
+// Dates: which pieces, in which order, on a canvas of which width.
 #include "compose/element_layout.h"
+#include "glyph/glyph_set.h"
 
 namespace Lw::HNodeClock {
 
@@ -32,7 +34,8 @@ class DateWriter
 public:
     DateWriter(const ClockGlyphs &glyphs, int year, int month, int day)
         : m_glyphs(glyphs), m_year(year), m_month(month), m_day(day),
-          m_digit(glyphs.dateNumber.width() / 10), m_label(glyphs.dateCh.width() / 3)
+          m_digit(glyphs.dateNumber.width() / kDigitCells),
+          m_label(glyphs.dateCh.width() / kLabelCells)
     { }
 
     // Formats with separators reserve the whole comma-and-slash image for their two separators,
@@ -73,7 +76,7 @@ public:
             WriteTwoDigits(element, m_day);
             break;
         case Part::Separator:
-            element.AddCell(m_glyphs.dateChar, m_glyphs.dateChar.width() / 2, 1);
+            element.AddCell(m_glyphs.dateChar, m_glyphs.dateChar.width() / kSeparatorCells, 1);
             break;
         case Part::Minus:
             element.Add(m_glyphs.minus, 0, m_glyphs.minus.width());
@@ -126,121 +129,6 @@ Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month
     const DateFormat &format = kDateFormats[dateType];
     for (int i = 0; i < format.count; ++i)
         writer.Write(element, format.parts[static_cast<std::size_t>(i)]);
-    return element;
-}
-
-namespace {
-
-bool HasShortHour(int timeType, int hour)
-{
-    return timeType == TimeShortHour && hour > -10 && hour < 10;
-}
-
-// The hours and minutes format with labels leaves no room for the seconds that are drawn after it:
-// they are cut off.
-long long TimeWidth(const ClockGlyphs &glyphs, int timeType, int hour)
-{
-    const long long digit = glyphs.timeNumber.width() / 10;
-    const long long separator = glyphs.timeChar.width();
-    switch (timeType) {
-    case TimeToMinute:
-        return 4 * digit + separator;
-    case TimeLabelled:
-        return 6 * digit + glyphs.timeCh.width();
-    case TimeLabelledToMinute:
-        return 4 * digit + 2 * (glyphs.timeCh.width() / 3);
-    case TimeShortHour:
-        return (HasShortHour(timeType, hour) ? 3 : 4) * digit + separator;
-    default:
-        return 6 * digit + 2 * separator;
-    }
-}
-
-} // namespace
-
-Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minute, int second,
-                    const QPixmap &mark)
-{
-    const int digit = glyphs.timeNumber.width() / 10;
-    const int label = glyphs.timeCh.width() / 3;
-    const bool labelled = timeType == TimeLabelled || timeType == TimeLabelledToMinute;
-    const bool separated =
-        timeType == TimeToSecond || timeType == TimeToMinute || timeType == TimeShortHour;
-    const long long width = TimeWidth(glyphs, timeType, hour);
-    Element element(width + mark.width(), glyphs.timeCh.height());
-    const auto add = [&](int number) { element.AddCell(glyphs.timeNumber, digit, number); };
-    const auto addSeparator = [&] { element.Add(glyphs.timeChar, 0, glyphs.timeChar.width()); };
-
-    if (!HasShortHour(timeType, hour))
-        add(hour / 10);
-    add(hour % 10);
-    if (separated)
-        addSeparator();
-    else
-        element.AddCell(glyphs.timeCh, label, 0);
-    add(minute / 10);
-    add(minute % 10);
-    if (timeType != TimeToMinute && timeType != TimeShortHour) {
-        if (labelled)
-            element.AddCell(glyphs.timeCh, label, 1);
-        else if (timeType == TimeToSecond)
-            addSeparator();
-        if (timeType != TimeLabelledToMinute) {
-            add(second / 10);
-            add(second % 10);
-        }
-        if (timeType == TimeLabelled)
-            element.AddCell(glyphs.timeCh, label, 2);
-    }
-    element.StandAt(width);
-    element.Add(mark, 0, mark.width());
-    return element;
-}
-
-namespace {
-
-// Cells of the lunar strip. Numeral n is cell n - 1, for n from one to ten.
-constexpr int kLunarCells = 17;
-constexpr int kLeadWord = 10; ///< two cells
-constexpr int kMonthWord = 13;
-constexpr int kEarlyDay = 15; ///< before days 1 to 10
-constexpr int kFirstMonth = 16;
-
-constexpr int Numeral(int number)
-{
-    return number - 1;
-}
-
-} // namespace
-
-Element LunarElement(const QPixmap &strip, int month, int day)
-{
-    if (month < 1 || month > 12 || day < 1 || day > 30)
-        return Element();
-    const int cell = strip.width() / kLunarCells;
-    const int monthCells = month > 10 ? 5 : 4;
-    const int dayCells = day > 20 && day < 30 ? 3 : 2;
-    Element element(static_cast<long long>(cell) * (monthCells + dayCells), strip.height());
-    const auto add = [&](int index) { element.AddCell(strip, cell, index); };
-
-    element.Add(strip, kLeadWord * cell, 2 * cell);
-    if (month > 10)
-        add(Numeral(10));
-    add(month == 1 ? kFirstMonth : Numeral(month > 10 ? month % 10 : month));
-    add(kMonthWord);
-
-    if (day > 20) {
-        add(Numeral(day / 10));
-        add(Numeral(10));
-        if (day != 30)
-            add(Numeral(day % 10));
-    } else if (day == 20) {
-        add(Numeral(2));
-        add(Numeral(10));
-    } else {
-        add(day > 10 ? Numeral(10) : kEarlyDay);
-        add(Numeral(day > 10 ? day % 10 : day));
-    }
     return element;
 }
 
