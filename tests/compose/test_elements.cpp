@@ -29,6 +29,7 @@ private Q_SLOTS:
     void DateFormats();
     void DateFormatOfAnalogClock();
     void MinusKeepsTheSeparatorsWidth();
+    void YearsThatFourDigitsCannotShow();
     void TimeFormats_data();
     void TimeFormats();
     void TwelveHours_data();
@@ -122,6 +123,22 @@ void TestElements::MinusKeepsTheSeparatorsWidth()
     m_glyphs->Write("_Minus", "-", 7);
     QCOMPARE(LetteredGlyphs::Read(Date(8)),
              D("2024") + "-" + D("03") + "-" + D("05") + QString(3, '_'));
+}
+
+// What is no digit leaves its cell blank, also where the strip has columns past its ten cells.
+void TestElements::YearsThatFourDigitsCannotShow()
+{
+    const QString strip = LetteredGlyphs::Cells("0123456789", 3) + "RR";
+    m_glyphs->Write("_dateNumber", strip, 8);
+    const QString day = "//" + D("03") + "//" + D("05") + "_";
+    ChosenTime::Set(QDateTime(QDate(9999, 3, 5), QTime(0, 0), Qt::UTC));
+    QCOMPARE(LetteredGlyphs::Read(Date(0)), D("9999") + day);
+    ChosenTime::Set(QDateTime(QDate(10024, 3, 5), QTime(0, 0), Qt::UTC));
+    QCOMPARE(LetteredGlyphs::Read(Date(0)), "___" + D("024") + day);
+    ChosenTime::Set(QDateTime(QDate(7, 3, 5), QTime(0, 0), Qt::UTC));
+    QCOMPARE(LetteredGlyphs::Read(Date(0)), D("0007") + day);
+    ChosenTime::Set(QDateTime(QDate(-7, 3, 5), QTime(0, 0), Qt::UTC));
+    QCOMPARE(LetteredGlyphs::Read(Date(0)), D("000") + "___" + day);
 }
 
 void TestElements::TimeFormats_data()
