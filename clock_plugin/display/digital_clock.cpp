@@ -57,15 +57,23 @@ constexpr std::array<RowElement, 5> kDateFirst = {{{&Rows::topText, TopTextOf},
 constexpr std::array<RowElement, 5> kWeekFirst = {kDateFirst[0], kDateFirst[2], kDateFirst[1],
                                                   kDateFirst[3], kDateFirst[4]};
 
-Rows HeightsOf(ElementComposer &elements)
+using LayOut = void (*)(const DigitalArea &, Rows &);
+constexpr LayOut kLayOutByCount[] = {LayOutOneRow, LayOutTwoRows, LayOutThreeRows, LayOutFourRows,
+                                     LayOutFiveRows};
+
+// The layouts of one and of five rows place every row.
+constexpr Rows kEveryRow {1, 1, 1, 1, 1};
+
+// Elements that are not measured are not composed at all.
+Rows HeightsOf(ElementComposer &elements, const Rows &measured)
 {
     Rows heights;
-    for (const RowElement &row : kDateFirst)
-        heights.*row.row = row.element(elements).Height();
+    for (const RowElement &row : kDateFirst) {
+        if (measured.*row.row != 0)
+            heights.*row.row = row.element(elements).Height();
+    }
     return heights;
 }
-
-void LayOutNothing(const DigitalArea &, Rows &) { }
 
 // The elements side by side around the centre of the area.
 Placements OnOneLine(HClockNode &node, ElementComposer &elements, const QSize &area)
@@ -105,49 +113,47 @@ Placements InRows(HClockNode &node, ElementComposer &elements, const QSize &area
 
 } // namespace
 
-void DrawDisplayImage::Private::LayOutDigital(LayOut layOut, int space)
+void DrawDisplayImage::Private::LayOutDigital(int count, int space)
 {
-    if (!node)
+    if (!node || count == 0)
         return;
     const ElementComposer::ReadingScope oneReading(composer.Elements());
-    layOut({node->Size().height(), space, node->DigitalSwapArea(), DigitalFlags(*node),
-            HeightsOf(composer.Elements())},
-           rows);
+    const Rows flags = DigitalFlags(*node);
+    const Rows &measured = count == 1 || count == 5 ? kEveryRow : flags;
+    kLayOutByCount[count - 1]({node->Size().height(), space, node->DigitalSwapArea(), flags,
+                               HeightsOf(composer.Elements(), measured)},
+                              rows);
 }
 
 void DrawDisplayImage::GetDigitalDisplayArea()
 {
-    constexpr Private::LayOut kByCount[] = {LayOutNothing,   LayOutOneRow,   LayOutTwoRows,
-                                            LayOutThreeRows, LayOutFourRows, LayOutFiveRows};
-    if (d->node) {
-        d->LayOutDigital(kByCount[CountRows(DigitalFlags(*d->node))],
-                         d->Number(Attribute::DigitalSpace));
-    }
+    if (d->node)
+        d->LayOutDigital(CountRows(DigitalFlags(*d->node)), d->Number(Attribute::DigitalSpace));
 }
 
 void DrawDisplayImage::Computations1Count()
 {
-    d->LayOutDigital(LayOutOneRow, 0);
+    d->LayOutDigital(1, 0);
 }
 
 void DrawDisplayImage::Computations2Count(int space)
 {
-    d->LayOutDigital(LayOutTwoRows, space);
+    d->LayOutDigital(2, space);
 }
 
 void DrawDisplayImage::Computations3Count(int space)
 {
-    d->LayOutDigital(LayOutThreeRows, space);
+    d->LayOutDigital(3, space);
 }
 
 void DrawDisplayImage::Computations4Count(int space)
 {
-    d->LayOutDigital(LayOutFourRows, space);
+    d->LayOutDigital(4, space);
 }
 
 void DrawDisplayImage::Computations5Count(int space)
 {
-    d->LayOutDigital(LayOutFiveRows, space);
+    d->LayOutDigital(5, space);
 }
 
 void DrawDisplayImage::DrawDigitalClock()

@@ -3,8 +3,8 @@
 
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
-#include "display/frame_painter.h"
 #include "display/frame_memory.h"
+#include "display/frame_painter.h"
 #include "display/row_layout.h"
 #include "display/text_rows.h"
 
@@ -61,10 +61,9 @@ public:
     QImage::Format imageFormat = QImage::Format_ARGB32;
 
     // Digital clock.
-    using LayOut = void (*)(const DigitalArea &area, Rows &positions);
-    void LayOutDigital(LayOut layOut, int space);
-    FrameContents digitalContents;      ///< of the frame
-    FrameContents digitalSpareContents; ///< of the spare
+    void LayOutDigital(int count, int space); ///< as the layout of that many rows
+    FrameContents digitalContents;            ///< of the frame
+    FrameContents digitalSpareContents;       ///< of the spare
 
     // Analog clock.
     QImage dialCache; ///< marks, numerals, badge and texts: what the hands are drawn over
@@ -78,8 +77,8 @@ public:
     QPixmap minutePicture;
     QPixmap secondPicture;
     QPixmap centrePicture;
-    QImage pictureBackground; ///< the scaled dial: what the hands are drawn over
-    QSize pictureSize;        ///< the background's size, or the one it could not be made in
+    QImage pictureBackground;       ///< the scaled dial: what the hands are drawn over
+    QSize pictureSize;              ///< the background's size, or the one it could not be made in
     std::optional<int> pictureType; ///< of the background; none before the first frame
     FrameMemory pictureFrames;      ///< the frames over the background
 };
