@@ -3,6 +3,8 @@
 
 #include "compose/element_composer.h"
 
+#include <array>
+
 namespace Lw::HNodeClock {
 
 namespace {

@@ -5,8 +5,11 @@
 #include "compose/element_composer.h"
 #include "display/draw_display_image_p.h"
 #include "glyph/glyph_set.h"
+#include "image_bounds.h"
 
 #include "happconfig.h"
+
+#include <utility>
 
 namespace Lw::HNodeClock {
 
@@ -83,7 +86,7 @@ void DrawDisplayImage::GetTime(QTime &start, QTime &now)
 
 QColor DrawDisplayImage::GetColorKey()
 {
-    return Lw::HAppConfig::IntToColor(kKeyColour);
+    return Private::KeyColour();
 }
 
 QColor DrawDisplayImage::ReturnQcolor(int colour)
@@ -114,18 +117,25 @@ void DrawDisplayImage::Private::RecordStartTime()
         startTime = std::make_unique<QTime>(hour, minute, second, millisecond);
 }
 
-bool DrawDisplayImage::Private::Drawable(const QSize &size)
+QColor DrawDisplayImage::Private::KeyColour()
 {
-    return WithinBounds(size, kFrameBytes);
+    return Lw::HAppConfig::IntToColor(kKeyColour);
 }
 
 QImage DrawDisplayImage::Private::NewImage(const QSize &size, const QColor &keyColour) const
 {
-    if (!Drawable(size))
+    if (!WithinBounds(size, kFrameBytes))
         return QImage();
     QImage image(size, imageFormat);
     image.fill(keyColour);
     return image;
+}
+
+void DrawDisplayImage::Private::PrepareFrame(const QSize &size)
+{
+    std::swap(frame, spare);
+    if (frame.isNull() || frame.size() != size || !frame.isDetached())
+        frame = NewImage(size, KeyColour());
 }
 
 } // namespace Lw::HNodeClock

@@ -18,15 +18,14 @@ namespace Lw::HNodeClock {
 class DrawDisplayImage::Private
 {
 public:
-    /// Whether an image of that size can be drawn at all. Bounds: 32767 pixels a side, 256 MiB.
-    static bool Drawable(const QSize &size);
-    /// A new image of the drawer's format filled with the key colour; null where not drawable.
+    /// What nothing is drawn on.
+    static QColor KeyColour();
+    /// A new image of the drawer's format filled with the key colour; null beyond kFrameBytes.
     QImage NewImage(const QSize &size, const QColor &keyColour) const;
     /// Makes the other of the two frames the current one, so that a frame that is still held by
     /// the consumer is never copied. The frame is replaced by a new one filled with the key colour
-    /// when it is null, of another size, or still held; it stays null where it cannot be drawn.
-    /// Returns whether the frame kept what was drawn into it before.
-    bool PrepareFrame(const QSize &size);
+    /// when it is null, of another size, or still held; it stays null where it cannot be made.
+    void PrepareFrame(const QSize &size);
     /// Splits the reading into the fields below.
     void TakeFields();
     void RecordStartTime();

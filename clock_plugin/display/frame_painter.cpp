@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QVarLengthArray>
 
+#include <algorithm>
+
 namespace Lw::HNodeClock {
 
 namespace {
@@ -83,7 +85,7 @@ bool Placements::operator==(const Placements &other) const
 
 bool FrameContents::Knows(const QImage &image) const
 {
-    return m_imageKey != 0 && image.cacheKey() == m_imageKey && image.size() == m_size;
+    return m_imageKey != 0 && image.cacheKey() == m_imageKey;
 }
 
 bool FrameContents::Describes(const QImage &image, const Placements &placements) const
@@ -93,26 +95,25 @@ bool FrameContents::Describes(const QImage &image, const Placements &placements)
 
 void FrameContents::Draw(QImage &image, const Placements &placements, const QColor &background)
 {
+    const bool known = Knows(image);
     Rects rects;
-    if (Knows(image)) {
+    if (known) {
         rects = ChangedRects(m_shown, placements);
     } else {
         image.fill(background);
         rects.append(image.rect());
     }
-    const bool filled = !Knows(image);
     QPainter painter(&image);
     for (const QRect &rect : qAsConst(rects)) {
         const QRect clip = rect & image.rect();
         if (clip.isEmpty())
             continue;
-        if (!filled)
+        if (known)
             painter.fillRect(clip, background);
         DrawPieces(painter, placements, clip);
     }
     painter.end();
     m_imageKey = image.cacheKey();
-    m_size = image.size();
     m_shown = placements;
 }
 

@@ -51,7 +51,6 @@ private:
     bool Knows(const QImage &image) const;
 
     qint64 m_imageKey = 0;
-    QSize m_size;
     Placements m_shown;
 };
 
