@@ -6,6 +6,7 @@
 #include "hpluginmanager.h"
 #include "pictureplayer.h"
 
+#include <QImage>
 #include <QtDebug>
 
 #include <algorithm>
@@ -29,8 +30,8 @@ std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier, HCloc
 {
     std::unique_ptr<SessionParameter> record(new SessionParameter);
     record->playIdentifier = playIdentifier;
-    record->position = node->Pos();
     record->size = node->Size();
+    record->position = node->Pos();
     std::fill(std::begin(record->words), std::end(record->words), 0);
     record->timing = 1000;
     std::fill(std::begin(record->reservedBytes), std::end(record->reservedBytes), quint8(0));
@@ -89,10 +90,15 @@ void HClockRender::PlayNext()
         qDebug("Enter:[%s::%s::%d]", "clock_render.cpp", "PlayNext", 135);
         return;
     }
-    const HeldReading held;
-    const int millisecond = LocalMillisecond();
+    QImage frame;
+    int millisecond = 0;
+    {
+        const HeldReading oneInstant;
+        millisecond = LocalMillisecond();
+        frame = m_drawer->DrawClockDisplayImage();
+    }
     const QPointer<HClockRender> self(this);
-    m_player->UpdateImage(m_drawer->DrawClockDisplayImage());
+    m_player->UpdateImage(std::move(frame));
     // Whoever was shown the frame may have removed this renderer, or deleted it.
     if (!self || !m_player)
         return;

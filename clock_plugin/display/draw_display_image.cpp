@@ -122,9 +122,14 @@ QColor DrawDisplayImage::Private::KeyColour()
     return Lw::HAppConfig::IntToColor(kKeyColour);
 }
 
+bool DrawDisplayImage::Private::Drawable(const QSize &size)
+{
+    return WithinBounds(size, kFrameBytes);
+}
+
 QImage DrawDisplayImage::Private::NewImage(const QSize &size, const QColor &keyColour) const
 {
-    if (!WithinBounds(size, kFrameBytes))
+    if (!Drawable(size))
         return QImage();
     QImage image(size, imageFormat);
     image.fill(keyColour);

@@ -20,7 +20,9 @@ class DrawDisplayImage::Private
 public:
     /// What nothing is drawn on.
     static QColor KeyColour();
-    /// A new image of the drawer's format filled with the key colour; null beyond kFrameBytes.
+    /// Whether an image of that size can be drawn at all: within the bounds of frames.
+    static bool Drawable(const QSize &size);
+    /// A new image of the drawer's format filled with the key colour; null where not drawable.
     QImage NewImage(const QSize &size, const QColor &keyColour) const;
     /// Makes the other of the two frames the current one, so that a frame that is still held by
     /// the consumer is never copied. The frame is replaced by a new one filled with the key colour
