@@ -12,9 +12,10 @@ const char kRedrawSignal[] = "ReDrawSourceImage()";
 
 } // namespace
 
-Area::Area(unsigned int playIdentifier, Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node)
+Area::Area(unsigned int playIdentifier, Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node,
+           GlyphFiles glyphFiles)
     : m_playIdentifier(playIdentifier), m_plugin(plugin), m_geometry(node->Pos(), node->Size()),
-      m_node(node.release())
+      m_glyphFiles(glyphFiles), m_node(node.release())
 {
     m_redraw.setSingleShot(true);
     connect(&m_redraw, &QTimer::timeout, this, &Area::Restart);
@@ -53,7 +54,8 @@ void Area::Restart()
 {
     if (!m_node)
         return;
-    m_node->NodeAlready(0);
+    if (m_glyphFiles == GlyphFiles::Made)
+        m_node->NodeAlready(0);
     RemoveRenderer();
     StartRenderer();
 }

@@ -20,6 +20,12 @@ class pictureplayer;
 
 namespace ClockPlayer {
 
+/// Where the glyph images of the nodes come from.
+enum class GlyphFiles {
+    Made,    ///< the node has them made
+    Carried, ///< they came with the program; nothing is made
+};
+
 /// Owns node and renderer; either may be deleted by its plugin, after which the area keeps showing
 /// its last picture.
 class Area : public QObject
@@ -28,13 +34,14 @@ class Area : public QObject
 
 public:
     /// The play identifier is the area's own among all that play, and not 0.
-    Area(unsigned int playIdentifier, Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node);
+    Area(unsigned int playIdentifier, Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node,
+         GlyphFiles glyphFiles);
     ~Area() override;
 
     Lw::HNode *Node() const { return m_node; }
     QRect Geometry() const { return m_geometry; }
 
-    /// Has the glyph images made and shows the first picture.
+    /// Has the glyph images made, unless they were carried, and shows the first picture.
     void Start();
     /// Has the next picture drawn now. Otherwise the host's player does so at its time.
     void PlayNext();
@@ -53,6 +60,7 @@ private:
     const unsigned int m_playIdentifier;
     Lw::INodePlugin *const m_plugin;
     const QRect m_geometry;
+    const GlyphFiles m_glyphFiles;
     QPointer<Lw::HNode> m_node;
     QPointer<Lw::IContentRender> m_render;
     QImage m_image;

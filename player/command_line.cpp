@@ -29,6 +29,7 @@ public:
         m_options.pluginDirectory = Text(kPluginDir);
         m_options.filesDirectory = Text(kFilesDir);
         ReadProgramPath();
+        ReadUseFiles();
         ReadOutput();
         ReadInstant();
         ReadLanguage();
@@ -53,6 +54,13 @@ private:
             Fail(QStringLiteral("only one program can be played, not also \"%1\"").arg(paths[1]));
         else if (m_options.programPath.isEmpty() && !m_options.checkDisplay)
             Fail(QStringLiteral("no program to play"));
+    }
+
+    void ReadUseFiles()
+    {
+        m_options.usesFiles = m_parser.isSet(kUseFiles);
+        if (m_options.usesFiles && m_parser.isSet(kFilesDir))
+            Fail(QStringLiteral("--files-dir is where images are made; --use-files makes none"));
     }
 
     void ReadOutput()

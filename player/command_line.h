@@ -2,6 +2,7 @@
 #pragma once
 
 #include "failure.h"
+#include "program_names.h"
 
 #include <QString>
 #include <QStringList>
@@ -26,6 +27,7 @@ struct Options
     int frames = kDefaultFrames;
     int magnification = 1; ///< pixels of the frames' files a pixel of the screen, each way
     std::optional<qint64> startInstant; ///< UTC milliseconds; nothing: the system's time
+    bool usesFiles = false;             ///< the glyph files that came with the program
     bool checkDisplay = false;          ///< only find out whether the display can be reached
 
     bool WritesFrames() const { return !outputDirectory.isEmpty(); }

@@ -80,6 +80,9 @@ void AddOptions(QCommandLineParser &parser)
                       QStringLiteral("Write the glyph images to <directory> and leave them there "
                                      "(default: a temporary directory)."),
                       QStringLiteral("directory")});
+    parser.addOption({kUseFiles,
+                      QStringLiteral("Play with the glyph images that came with the program, named "
+                                     "by its <file> elements, and make none.")});
     parser.addOption({kPlatform,
                       QStringLiteral("Qt platform plugin to show the window with, such as xcb or "
                                      "linuxfb."),

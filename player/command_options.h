@@ -18,6 +18,7 @@ const QString kAt = QStringLiteral("at");
 const QString kLanguage = QStringLiteral("language");
 const QString kPluginDir = QStringLiteral("plugin-dir");
 const QString kFilesDir = QStringLiteral("files-dir");
+const QString kUseFiles = QStringLiteral("use-files");
 const QString kPlatform = QStringLiteral("platform");
 // For scripts that start the player: what to play, and where to write, when nothing was said.
 const QString kDefaultProgram = QStringLiteral("default-program");

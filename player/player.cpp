@@ -14,7 +14,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QLocale>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -26,14 +25,6 @@ namespace {
 Failure RuntimeFailure(const QString &text)
 {
     return {ExitCode::RuntimeFailure, text};
-}
-
-void InstallLanguage(const Options &options)
-{
-    const QString language = options.language.isEmpty()
-        ? ClockCatalogues::LanguageFor(QLocale::system())
-        : options.language;
-    ClockCatalogues::Install(language);
 }
 
 QString PluginDirectory(const Options &options)
@@ -96,7 +87,7 @@ MaybeFailure PlayToFiles(Stage &stage, const Options &options)
 
 MaybeFailure Play(const Options &options, const Program &program, const Warn &warn)
 {
-    InstallLanguage(options);
+    ClockCatalogues::InstallChosen(options.language);
     QStringList warnings;
     if (const MaybeFailure failure = LoadPlugins(PluginDirectory(options), warnings))
         return failure;
@@ -117,7 +108,8 @@ MaybeFailure Play(const Options &options, const Program &program, const Warn &wa
     Lw::HAppConfig::SetClockOutputPath(QFileInfo(files).absoluteFilePath());
 
     Stage stage;
-    const MaybeFailure failure = stage.Build(program);
+    const MaybeFailure failure =
+        stage.Build(program, options.usesFiles ? GlyphFiles::Carried : GlyphFiles::Made);
     warnings += stage.Warnings();
     for (const QString &warning : qAsConst(warnings))
         warn(warning);

@@ -3,6 +3,7 @@
 
 #include "command_line.h"
 #include "failure.h"
+#include "program_names.h"
 #include "program_file.h"
 
 #include <functional>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "failure.h"
+#include "program_names.h"
 
 #include <QStringList>
 

@@ -1,69 +1,36 @@
 #include "stage.h"
 
-#include "clock_ids.h"
-#include "node_keys.h"
+#include "carried_files.h"
 #include "node_maker.h"
 
-#include <algorithm>
+#include "hpluginmanager.h"
 
 namespace ClockPlayer {
 
-namespace {
-
-bool GivesId(const ProgramArea &area)
-{
-    return std::any_of(area.attributes.cbegin(), area.attributes.cend(),
-                       [](const AttributeSetting &setting) { return setting.key == kIdKey; });
-}
-
-} // namespace
-
-MaybeFailure Stage::Build(const Program &program)
+MaybeFailure Stage::Build(const Program &program, GlyphFiles glyphFiles)
 {
     m_size = program.size;
-    for (const ProgramArea &area : program.areas) {
-        Result<MadeNode> made = MakeNode(program, area);
-        if (const auto *failure = std::get_if<Failure>(&made))
-            return *failure;
-        auto &node = std::get<MadeNode>(made);
-        AddArea(node.plugin, std::move(node.node));
-    }
-    SeparateIds(program);
+    const auto findPlugin = [](QDomElement &element) {
+        return Lw::HPluginManager::instance()->PluginFor(element);
+    };
+    Result<MadeNodes> result = MakeNodes(program, findPlugin);
+    if (const auto *failure = std::get_if<Failure>(&result))
+        return *failure;
+    auto &made = std::get<MadeNodes>(result);
+    m_warnings = made.warnings;
+    if (glyphFiles == GlyphFiles::Carried)
+        m_warnings += ResolveCarriedFiles(program, made);
+    for (MadeNode &node : made.nodes)
+        AddArea(node.plugin, std::move(node.node), glyphFiles);
     return std::nullopt;
 }
 
-void Stage::AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node)
+void Stage::AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, GlyphFiles glyphFiles)
 {
     const auto identifier = static_cast<unsigned int>(m_areas.size() + 1);
-    m_areas.push_back(std::make_unique<Area>(identifier, plugin, std::move(node)));
+    m_areas.push_back(std::make_unique<Area>(identifier, plugin, std::move(node), glyphFiles));
     Area *const area = m_areas.back().get();
     connect(area, &Area::PictureChanged, this, [this, area] { emit Changed(area->Geometry()); });
-}
-
-void Stage::SeparateIds(const Program &program)
-{
-    QVector<int> places;
-    QVector<ClockId> ids;
-    for (int i = 0; i < program.areas.size(); ++i) {
-        Lw::HNode *const node = m_areas[static_cast<std::size_t>(i)]->Node();
-        if (!node->HaveAttribute(kIdKey))
-            continue;
-        places.append(i);
-        ids.append({node->GetAttributeToInt(kIdKey), GivesId(program.areas[i])});
-    }
-    const QVector<int> numbers = DistinctIds(ids);
-    for (int i = 0; i < ids.size(); ++i) {
-        if (numbers[i] == ids[i].number)
-            continue;
-        m_areas[static_cast<std::size_t>(places[i])]->Node()->SetAttribute(kIdKey, numbers[i],
-                                                                           false);
-        if (ids[i].given)
-            m_warnings.append(AtElement(program.path, program.areas[places[i]].element,
-                                        QStringLiteral("the Id %1 is another clock's; this one "
-                                                       "plays as %2")
-                                            .arg(ids[i].number)
-                                            .arg(numbers[i])));
-    }
 }
 
 void Stage::Start()

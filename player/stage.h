@@ -4,6 +4,7 @@
 #include "area.h"
 #include "failure.h"
 #include "program_file.h"
+#include "program_names.h"
 
 #include <QObject>
 #include <QStringList>
@@ -19,7 +20,7 @@ class Stage : public QObject
 
 public:
     /// Makes the nodes. A failure leaves a stage that must not be started.
-    MaybeFailure Build(const Program &program);
+    MaybeFailure Build(const Program &program, GlyphFiles glyphFiles);
     QStringList Warnings() const { return m_warnings; }
     QSize Size() const { return m_size; }
 
@@ -33,8 +34,7 @@ Q_SIGNALS:
     void Changed(QRect region); ///< pixels of the screen that must be composed anew
 
 private:
-    void AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node);
-    void SeparateIds(const Program &program);
+    void AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, GlyphFiles glyphFiles);
 
     QSize m_size;
     std::vector<std::unique_ptr<Area>> m_areas; ///< in the order of the program

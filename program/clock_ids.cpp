@@ -2,7 +2,7 @@
 
 #include <QSet>
 
-namespace ClockPlayer {
+namespace ClockProgram {
 
 namespace {
 
@@ -47,4 +47,4 @@ QVector<int> DistinctIds(const QVector<ClockId> &ids)
     return numbers;
 }
 
-} // namespace ClockPlayer
+} // namespace ClockProgram

@@ -4,7 +4,7 @@
 
 #include <QVector>
 
-namespace ClockPlayer {
+namespace ClockProgram {
 
 struct ClockId
 {
@@ -17,4 +17,4 @@ struct ClockId
 /// which is sought upwards from their own through the range that plugins draw from.
 QVector<int> DistinctIds(const QVector<ClockId> &ids);
 
-} // namespace ClockPlayer
+} // namespace ClockProgram

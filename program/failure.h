@@ -7,7 +7,7 @@
 #include <optional>
 #include <variant>
 
-namespace ClockPlayer {
+namespace ClockProgram {
 
 /// The numbers are what --help promises.
 enum class ExitCode : int {
@@ -28,4 +28,4 @@ using MaybeFailure = std::optional<Failure>;
 template<typename T>
 using Result = std::variant<T, Failure>;
 
-} // namespace ClockPlayer
+} // namespace ClockProgram

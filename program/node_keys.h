@@ -4,7 +4,7 @@
 
 #include <QString>
 
-namespace ClockPlayer {
+namespace ClockProgram {
 
 /// Identity in the names of glyph files.
 const QString kIdKey = QStringLiteral("Id");
@@ -13,4 +13,4 @@ const QString kClockTypeKey = QStringLiteral("ClockType");
 /// The kind that elements cannot say: its settings are all given as attributes.
 constexpr int kPictureClock = 2;
 
-} // namespace ClockPlayer
+} // namespace ClockProgram

@@ -1,14 +1,14 @@
 #include "node_maker.h"
 
+#include "clock_ids.h"
 #include "node_keys.h"
 
 #include "hnode.h"
-#include "hpluginmanager.h"
 #include "inodeplugin.h"
 
 #include <algorithm>
 
-namespace ClockPlayer {
+namespace ClockProgram {
 
 namespace {
 
@@ -24,12 +24,11 @@ Failure ElementFailure(const Program &program, const ProgramArea &area, const QS
             AtElement(program.path, area.element, text.arg(area.element.tagName()))};
 }
 
-} // namespace
-
-Result<MadeNode> MakeNode(const Program &program, const ProgramArea &area)
+Result<MadeNode> MakeNode(const Program &program, const ProgramArea &area,
+                          const PluginFinder &findPlugin)
 {
     QDomElement element = area.element;
-    Lw::INodePlugin *const plugin = Lw::HPluginManager::instance()->PluginFor(element);
+    Lw::INodePlugin *const plugin = findPlugin(element);
     if (!plugin)
         return ElementFailure(program, area, QStringLiteral("no plugin claims the element <%1>"));
     std::unique_ptr<Lw::HNode> node(plugin->Create());
@@ -51,4 +50,45 @@ Result<MadeNode> MakeNode(const Program &program, const ProgramArea &area)
     return MadeNode {plugin, std::move(node)};
 }
 
-} // namespace ClockPlayer
+void SeparateIds(const Program &program, MadeNodes &made)
+{
+    QVector<int> places;
+    QVector<ClockId> ids;
+    for (int i = 0; i < program.areas.size(); ++i) {
+        Lw::HNode &node = *made.nodes[static_cast<std::size_t>(i)].node;
+        if (!node.HaveAttribute(kIdKey))
+            continue;
+        places.append(i);
+        ids.append({node.GetAttributeToInt(kIdKey), SetsKey(program.areas[i], kIdKey)});
+    }
+    const QVector<int> numbers = DistinctIds(ids);
+    for (int i = 0; i < ids.size(); ++i) {
+        if (numbers[i] == ids[i].number)
+            continue;
+        made.nodes[static_cast<std::size_t>(places[i])].node->SetAttribute(kIdKey, numbers[i],
+                                                                           false);
+        if (ids[i].given)
+            made.warnings.append(AtElement(program.path, program.areas[places[i]].element,
+                                           QStringLiteral("the Id %1 is another clock's; this one "
+                                                          "plays as %2")
+                                               .arg(ids[i].number)
+                                               .arg(numbers[i])));
+    }
+}
+
+} // namespace
+
+Result<MadeNodes> MakeNodes(const Program &program, const PluginFinder &findPlugin)
+{
+    MadeNodes all;
+    for (const ProgramArea &area : program.areas) {
+        Result<MadeNode> made = MakeNode(program, area, findPlugin);
+        if (const auto *failure = std::get_if<Failure>(&made))
+            return *failure;
+        all.nodes.push_back(std::move(std::get<MadeNode>(made)));
+    }
+    SeparateIds(program, all);
+    return all;
+}
+
+} // namespace ClockProgram

@@ -1,16 +1,20 @@
-// Makes the node of an area through the plugin that claims its element.
+// Makes the nodes of a program through the plugins that claim its elements.
 #pragma once
 
 #include "program_file.h"
 
+#include <QStringList>
+
+#include <functional>
 #include <memory>
+#include <vector>
 
 namespace Lw {
 class HNode;
 class INodePlugin;
 } // namespace Lw
 
-namespace ClockPlayer {
+namespace ClockProgram {
 
 struct MadeNode
 {
@@ -18,8 +22,19 @@ struct MadeNode
     std::unique_ptr<Lw::HNode> node;
 };
 
-/// A node with its defaults, its place, what the element says and the attributes set by hand, in
-/// this order. Fails when no plugin claims the element, or its plugin cannot read it.
-Result<MadeNode> MakeNode(const Program &program, const ProgramArea &area);
+struct MadeNodes
+{
+    std::vector<MadeNode> nodes; ///< one an area, in the order of the program
+    QStringList warnings;
+};
 
-} // namespace ClockPlayer
+/// The plugin that claims an element, or null. It must outlive the nodes.
+using PluginFinder = std::function<Lw::INodePlugin *(QDomElement &)>;
+
+/// Nodes with their defaults, their place, what the element says and the attributes set by hand,
+/// in this order. No two have one identity: where a program gives one twice, the later node gets
+/// another and a warning tells so. Fails when no plugin claims an element, or its plugin cannot
+/// read it.
+Result<MadeNodes> MakeNodes(const Program &program, const PluginFinder &findPlugin);
+
+} // namespace ClockProgram

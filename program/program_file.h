@@ -11,6 +11,7 @@
 #pragma once
 
 #include "failure.h"
+#include "xml_document.h"
 
 #include <QDomDocument>
 #include <QRect>
@@ -18,14 +19,17 @@
 #include <QString>
 #include <QVector>
 
-namespace ClockPlayer {
+namespace ClockProgram {
 
 // Limits of a program. They keep a mistyped number from taking the device's memory.
-constexpr int kMaximumSide = 32767;             ///< pixels, also of positions, either side of zero
-constexpr qint64 kMaximumPixels = 32LL << 20;   ///< of the screen, and of all areas together
-constexpr qint64 kMaximumFileSize = 16LL << 20; ///< bytes
-constexpr int kMaximumDepth = 64;               ///< of elements in elements
+constexpr int kMaximumSide = 32767;           ///< pixels, also of positions, either side of zero
+constexpr qint64 kMaximumPixels = 32LL << 20; ///< of the screen, and of all areas together
 constexpr int kMaximumAreas = 1024;
+
+// What the file's own elements are called.
+const QLatin1String kProgramTag("program");
+const QLatin1String kAreaTag("area");
+const QLatin1String kAttributeTag("attribute");
 
 struct AttributeSetting
 {
@@ -54,7 +58,7 @@ Result<Program> ReadProgram(const QString &path);
 /// The same from a file's contents; the path is only named in failures.
 Result<Program> ParseProgram(const QByteArray &contents, const QString &path);
 
-/// "path:line: text", for failures and warnings about an element of a program.
-QString AtElement(const QString &path, const QDomElement &element, const QString &text);
+/// The same from a document that is read already.
+Result<Program> InterpretProgram(const QDomDocument &document, const QString &path);
 
-} // namespace ClockPlayer
+} // namespace ClockProgram

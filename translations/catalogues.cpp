@@ -44,4 +44,9 @@ bool Install(const QString &language)
     return true;
 }
 
+bool InstallChosen(const QString &language)
+{
+    return Install(language.isEmpty() ? LanguageFor(QLocale::system()) : language);
+}
+
 } // namespace ClockCatalogues

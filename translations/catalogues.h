@@ -20,4 +20,7 @@ QString LanguageFor(const QLocale &locale);
 /// an application.
 bool Install(const QString &language);
 
+/// The same for a choice that was left open where it is empty: the locale's language then.
+bool InstallChosen(const QString &language);
+
 } // namespace ClockCatalogues

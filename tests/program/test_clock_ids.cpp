@@ -2,8 +2,8 @@
 
 #include <QtTest>
 
-using ClockPlayer::ClockId;
-using ClockPlayer::DistinctIds;
+using ClockProgram::ClockId;
+using ClockProgram::DistinctIds;
 
 Q_DECLARE_METATYPE(QVector<ClockId>)
 

@@ -3,7 +3,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-using namespace ClockPlayer;
+using namespace ClockProgram;
 
 namespace {
 
@@ -191,7 +191,7 @@ void TestProgramFile::Unreadable_data()
     QTest::newRow("missing") << "missing.xml"
                              << "missing.xml: No such file or directory";
     QTest::newRow("directory") << "/"
-                               << "/: is a directory, not a program file";
+                               << "/: is a directory, not a file";
     QTest::newRow("empty name") << ""
                                 << ": ";
     QTest::newRow("endless") << "/dev/zero"

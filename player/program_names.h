@@ -1,0 +1,9 @@
+// The player speaks of programs, nodes and failures by their short names.
+#pragma once
+
+namespace ClockProgram {
+}
+
+namespace ClockPlayer {
+using namespace ClockProgram;
+}
