@@ -145,12 +145,13 @@ void DrawDisplayImage::GetAngDisplayArea()
     flags.date = d->Number(Attribute::Analog_Date_d);
     flags.week = d->Number(Attribute::Analog_Week_d);
     flags.lunar = d->Number(Attribute::Analog_Lunar_d);
-    // The place of a row that does not count is never looked at, nor is its height.
+    // A single row places all three; otherwise a row that does not take part is not measured.
+    const Rows measured = CountRows(flags) == 1 ? Rows{0, 1, 1, 0, 1} : flags;
     Rows heights;
     heights.topText = d->composer.GetTopTextPixmap().height();
-    heights.date = flags.date != 0 ? d->composer.GetDatePixmap().height() : 0;
-    heights.week = flags.week != 0 ? d->composer.GetWeeKPixmap().height() : 0;
-    heights.lunar = flags.lunar != 0 ? d->composer.GetLunarPixmap().height() : 0;
+    heights.date = measured.date != 0 ? d->composer.GetDatePixmap().height() : 0;
+    heights.week = measured.week != 0 ? d->composer.GetWeeKPixmap().height() : 0;
+    heights.lunar = measured.lunar != 0 ? d->composer.GetLunarPixmap().height() : 0;
     const QSize size = d->node->Size();
     LayOutAnalogRows(size.width(), size.height(), d->Number(Attribute::AnalogSpace),
                      d->Number(Attribute::AnalogSwapArea), flags, heights, d->rows);

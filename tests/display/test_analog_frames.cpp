@@ -38,6 +38,7 @@ private Q_SLOTS:
     void ChangingSettings();
     void HeldFramesStay();
     void TextsOneFrameLate();
+    void SingleRowPlacesAllThree();
     void DialIsRedrawnAtTheDevicesMidnight();
     void DialIsRedrawnAtNoonWithoutBadge();
     void DialStyleWaits();
@@ -266,6 +267,33 @@ void TestAnalogFrames::TextsOneFrameLate()
 
 // The device's date counts, not the clock's: in China that is at eight in the morning where the
 // device runs on UTC. The clock's own midnight redraws the dial by its AM.
+// With one row taking part, date, week and lunar date all get their places, so that another one
+// drawn before the next layout stands where it would stand alone.
+void TestAnalogFrames::SingleRowPlacesAllThree()
+{
+    SetTime("2024-03-05T13:07:42");
+    Clock clock({128, 128});
+    clock.Set("AnalogDateFSize", 20);
+    clock.MakeGlyphs();
+    const auto showOnly = [&clock](const char *shown, int flag) {
+        for (const char *const key : {"Analog_Date_d", "Analog_Week_d", "Analog_TopTexy_d"})
+            clock.Set(key, qstrcmp(key, shown) == 0 ? flag : 0);
+    };
+    showOnly("Analog_Date_d", 1);
+    DrawDisplayImage alone(&clock.node);
+    alone.DrawClockDisplayImage();
+    const QImage expected = alone.DrawClockDisplayImage();
+
+    showOnly("Analog_Week_d", 2); // takes part, and is not drawn
+    DrawDisplayImage drawer(&clock.node);
+    drawer.DrawClockDisplayImage();
+    showOnly("Analog_Date_d", 1);
+    drawer.DrawAnalogText();
+    drawer.DrawAnalogClock();
+    clock.Set("ClockType", 3); // gives the frame as it stands
+    QCOMPARE(drawer.DrawClockDisplayImage(), expected);
+}
+
 void TestAnalogFrames::DialIsRedrawnAtTheDevicesMidnight()
 {
     SetTime(QStringLiteral("2024-03-05T23:59:57"));

@@ -58,7 +58,7 @@ void TestStage::initTestCase()
 void TestStage::ScreenShowsTheAreas()
 {
     Stage stage;
-    QVERIFY(!stage.Build(ProgramOf(kPanel)));
+    QVERIFY(!stage.Build(ProgramOf(kPanel), GlyphFiles::Made));
     QCOMPARE(stage.Screen().pixel(5, 1), qRgb(0, 0, 0)); // not started
     stage.Start();
     const QImage screen = stage.Screen();
@@ -74,7 +74,7 @@ void TestStage::ChangesNameTheirRegion()
 {
     Stage stage;
     QVERIFY(
-        !stage.Build(ProgramOf(kPanel + "<area x='0' y='0' width='2' height='2'><panel/></area>")));
+        !stage.Build(ProgramOf(kPanel + "<area x='0' y='0' width='2' height='2'><panel/></area>"), GlyphFiles::Made));
     QSignalSpy changes(&stage, &Stage::Changed);
     stage.Start();
     QCOMPARE(changes.size(), 2);
@@ -87,7 +87,7 @@ void TestStage::ChangesNameTheirRegion()
 void TestStage::AreaOutsideTheScreen()
 {
     Stage stage;
-    QVERIFY(!stage.Build(ProgramOf("<area x='-9' y='9' width='3' height='2'><panel/></area>")));
+    QVERIFY(!stage.Build(ProgramOf("<area x='-9' y='9' width='3' height='2'><panel/></area>"), GlyphFiles::Made));
     stage.Start();
     QCOMPARE(stage.Screen(), BlackScreen({8, 4}));
 }
@@ -96,7 +96,8 @@ void TestStage::RedrawReplacesTheRendererOnce()
 {
     Stage stage;
     QVERIFY(!stage.Build(ProgramOf("<area x='4' y='1' width='3' height='2'>"
-                                   "<panel redraws='58'/></area>")));
+                                   "<panel redraws='58'/></area>"),
+                         GlyphFiles::Made));
     stage.Start();
     stage.PlayNext();
     stage.PlayNext();
@@ -109,7 +110,7 @@ void TestStage::RedrawReplacesTheRendererOnce()
 void TestStage::WindowShowsTheScreen()
 {
     Stage stage;
-    QVERIFY(!stage.Build(ProgramOf(kPanel)));
+    QVERIFY(!stage.Build(ProgramOf(kPanel), GlyphFiles::Made));
     PlayerWindow window(stage, QStringLiteral("p.xml"));
     QCOMPARE(window.size(), QSize(8, 4));
     QCOMPARE(window.title(), QStringLiteral("p.xml"));
