@@ -95,7 +95,7 @@ enum class Attribute : int {
 
 enum class ValueKind {
     Integer,
-    Flag,   ///< 1 shown, 0 hidden
+    Flag, ///< 1 shown, 0 hidden
     Text,
     Colour, ///< stored as the host's colour int; the table gives 0xRRGGBB
 };

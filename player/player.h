@@ -3,8 +3,8 @@
 
 #include "command_line.h"
 #include "failure.h"
-#include "program_names.h"
 #include "program_file.h"
+#include "program_names.h"
 
 #include <functional>
 

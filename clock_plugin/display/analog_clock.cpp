@@ -146,7 +146,7 @@ void DrawDisplayImage::GetAngDisplayArea()
     flags.week = d->Number(Attribute::Analog_Week_d);
     flags.lunar = d->Number(Attribute::Analog_Lunar_d);
     // A single row places all three; otherwise a row that does not take part is not measured.
-    const Rows measured = CountRows(flags) == 1 ? Rows{0, 1, 1, 0, 1} : flags;
+    const Rows measured = CountRows(flags) == 1 ? Rows {0, 1, 1, 0, 1} : flags;
     Rows heights;
     heights.topText = d->composer.GetTopTextPixmap().height();
     heights.date = measured.date != 0 ? d->composer.GetDatePixmap().height() : 0;

@@ -74,7 +74,8 @@ void TestStage::ChangesNameTheirRegion()
 {
     Stage stage;
     QVERIFY(
-        !stage.Build(ProgramOf(kPanel + "<area x='0' y='0' width='2' height='2'><panel/></area>"), GlyphFiles::Made));
+        !stage.Build(ProgramOf(kPanel + "<area x='0' y='0' width='2' height='2'><panel/></area>"),
+                     GlyphFiles::Made));
     QSignalSpy changes(&stage, &Stage::Changed);
     stage.Start();
     QCOMPARE(changes.size(), 2);
@@ -87,7 +88,8 @@ void TestStage::ChangesNameTheirRegion()
 void TestStage::AreaOutsideTheScreen()
 {
     Stage stage;
-    QVERIFY(!stage.Build(ProgramOf("<area x='-9' y='9' width='3' height='2'><panel/></area>"), GlyphFiles::Made));
+    QVERIFY(!stage.Build(ProgramOf("<area x='-9' y='9' width='3' height='2'><panel/></area>"),
+                         GlyphFiles::Made));
     stage.Start();
     QCOMPARE(stage.Screen(), BlackScreen({8, 4}));
 }
