@@ -1,0 +1,229 @@
+// What lint finds, in which line, and what it suggests.
+#include "tool_process.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+/// A digital clock with this content in the second line.
+QByteArray Digital(const QByteArray &content)
+{
+    return ProgramOf("<clock type='digital'>\n" + content + "\n</clock>");
+}
+
+QByteArray Analog(const QByteArray &content)
+{
+    return ProgramOf("<clock type='dial'>\n" + content + "\n</clock>");
+}
+
+QByteArray Setting(const QByteArray &key, const QByteArray &value)
+{
+    return Digital("<attribute key='" + key + "' value='" + value + "'/>");
+}
+
+QStringList Warnings(const QString &errors)
+{
+    return errors.split(QLatin1Char('\n')).filter(QStringLiteral(": warning: "));
+}
+
+} // namespace
+
+class TestToolLint : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void Clean_data();
+    void Clean();
+    void Finds_data();
+    void Finds();
+    void EveryFindingIsReported();
+    void NotesDoNotCount();
+
+private:
+    ProcessRun Lint(const QByteArray &text)
+    {
+        WriteText(m_directory.filePath("in.xml"), text);
+        return RunTool({"lint", m_directory.filePath("in.xml")});
+    }
+
+    QTemporaryDir m_directory;
+};
+
+void TestToolLint::Clean_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const QDir examples(InTree("examples"));
+    for (const QString &name : examples.entryList({"*.xml"}, QDir::Files))
+        QTest::newRow(qPrintable(name)) << ReadText(examples.filePath(name));
+    QTest::newRow("empty clock") << ProgramOf("<clock/>");
+    QTest::newRow("every analog element")
+        << Analog("<fixedText display='true' value='x' fontName='' fontSize='9' color='red'/>"
+                  "<date display='false' format='8'/><week format='3'/><lunar display='true'/>"
+                  "<clockTextsSyle swapArea='1' space='-3'/>"
+                  "<timeFormat isEnableAmPm='0' color='#123'/>"
+                  "<analog hourHandColor='light blue' hourScaleType='4' minuteScaleType='2'/>"
+                  "<time/><font name='DejaVu Sans' size='12' color='#ff000000'/>");
+    QTest::newRow("every digital element")
+        << Digital("<title text='x'/><date type='0'/><week type='0'/><time type='4'/>"
+                   "<lunarCalendar color='#010203' display='true'/>"
+                   "<digital displayMode='1' timeMode='1'/>"
+                   "<clockTextsSyle swapArea='1' space='2'/>");
+    QTest::newRow("older form") << ProgramOf(
+        "<clock><clockCom clockType='0' timeZone='+05:30' timeAdjust='-86399' "
+        "isDaylightSavingTime='1' Start='3.Last.7.02:00:00' "
+        "End='10.Last.7.03:00:00' timeZoneIndex='4'/></clock>");
+    QTest::newRow("picture clock")
+        << ProgramOf("<clock type='picture'><attribute key='ClockType' value='2'/></clock>");
+    QTest::newRow("adjustment") << ProgramOf("<clock adjust='-00:05:00' timezone='-9:30'/>");
+    QTest::newRow("stored adjustment") << Setting("TimeAdjust", "23A59B59");
+    QTest::newRow("stored colour") << Setting("DigitalTimeColor", "16777215");
+    QTest::newRow("carried file") << Digital(
+        "<file key='_timeNumber' md5='0123456789abcdef0123456789abcdef' size='1' "
+        "path='files/a.png'/>");
+}
+
+void TestToolLint::Clean()
+{
+    QFETCH(QByteArray, text);
+    const ProcessRun run = Lint(text);
+    QCOMPARE(Warnings(run.errors), QStringList());
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.output, QString());
+}
+
+void TestToolLint::Finds_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("line");
+    QTest::addColumn<QStringList>("words");
+    const auto row = [](const char *name, const QByteArray &text, int line,
+                        const QStringList &words) { QTest::newRow(name) << text << line << words; };
+    row("misspelt element", Digital("<weak/>"), 2, {"<weak>", "did you mean \"week\"?"});
+    row("unknown element", Digital("<xyzzyplugh/>"), 2, {"<xyzzyplugh>", "accepted: ", "week"});
+    row("element of the other kind", Digital("<analog/>"), 2, {"<analog>", "type \"dial\""});
+    row("second element", Digital("<date/><date/>"), 2, {"only the first <date>"});
+    row("shadowed element", Digital("<title/><fixedText/>"), 2,
+        {"<title> is not read beside <fixedText>"});
+    row("misspelt attribute", Digital("<time fontsize='3'/>"), 2,
+        {"\"fontsize\" of <time>", "did you mean \"fontSize\"?"});
+    row("code as value", Digital("<date value='3'/>"), 2, {"\"value\" of <date>", "format"});
+    row("attribute of the clock", ProgramOf("<clock timeZone='+01:00'/>"), 1,
+        {"\"timeZone\"", "did you mean \"timezone\"?"});
+    row("misspelt key", Setting("DigitalSpase", "1"), 2,
+        {"\"DigitalSpase\"", "did you mean \"DigitalSpace\"?"});
+    row("unknown key", Setting("xyzzyplugh", "1"), 2, {"\"xyzzyplugh\"", "clock_tool attributes"});
+    row("a key twice", Digital("<attribute key='Id' value='1'/>\n<attribute key='Id' value='2'/>"),
+        3, {"Id is set again"});
+    row("display as number", Digital("<date display='1'/>"), 2,
+        {"display=\"1\" counts as \"false\"", "\"true\""});
+    row("display in capitals", Digital("<date display='True'/>"), 2, {"display=\"True\""});
+    row("colour", Digital("<date color='#ff'/>"), 2, {"color=\"#ff\"", "black", "#rrggbb"});
+    row("misspelt colour", Digital("<date color='purpel'/>"), 2, {"did you mean \"purple\"?"});
+    row("colour of the font", Digital("<font color='redd'/>"), 2, {"did you mean \"red\"?"});
+    // Red is 255, green 128 and blue 0: 255 + 256 * 128.
+    row("stored colour as name", Setting("DigitalTimeColor", "#ff8000"), 2, {"33023"});
+    row("stored colour too large", Setting("DigitalTimeColor", "16777216"), 2, {"16777215"});
+    row("number with a unit", Digital("<time fontSize='12pt'/>"), 2,
+        {"fontSize=\"12pt\"", "counts as 0"});
+    row("number too large", Digital("<clockTextsSyle space='4294967297'/>"), 2, {"counts as 0"});
+    row("flag that is no number", Setting("Digital_Date_d", "true"), 2, {"counts as 0"});
+    row("date code", Digital("<date format='9'/>"), 2, {"format=\"9\"", "0 to 8"});
+    row("negative code", Digital("<week format='-1'/>"), 2, {"0 to 3"});
+    row("time code", Setting("DigitalTimeType", "5"), 2, {"0 to 4"});
+    row("hour marks", Analog("<analog hourScaleType='5'/>"), 2, {"0 to 4"});
+    row("minute marks", Analog("<analog minuteScaleType='3'/>"), 2, {"0 to 2"});
+    row("kind", Setting("ClockType", "3"), 2, {"0 to 2"});
+    row("font size", Digital("<time fontSize='0'/>"), 2, {"1 to 32767"});
+    row("zone without a sign", ProgramOf("<clock timezone='19:00'/>"), 1, {"+09:00", "a sign"});
+    row("zone that is a name", ProgramOf("<clock timezone='Europe/Berlin'/>"), 1, {"+00:00"});
+    row("zone of the older form", Digital("<clockCom clockType='1' timeZone='UTC'/>"), 2,
+        {"timeZone=\"UTC\""});
+    row("stored zone", Setting("TimeZone", "+1"), 2, {"TimeZone=\"+1\""});
+    row("adjustment", ProgramOf("<clock adjust='01:30:00'/>"), 1,
+        {"adjust=\"01:30:00\"", "changes nothing", "hh:mm:ss"});
+    row("adjustment of two days", Digital("<clockCom clockType='1' timeAdjust='172800'/>"), 2,
+        {"86399"});
+    row("stored adjustment", Setting("TimeAdjust", "01:30:00"), 2, {"hhAmmBss"});
+    row("rule", Setting("DaylightSavingTimeStart", "13.1.7.02:00:00"), 2,
+        {"never in force", "3.Last.7.02:00:00"});
+    row("rule of a fifth Sunday", Setting("DaylightSavingTimeEnd", "10.5.7.02:00:00"), 2,
+        {"fifth", "Last"});
+    row("rule missing", Setting("UseDaylightSavingTime", "1"), 1, {"without a rule"});
+    row("rules alike",
+        ProgramOf("<clock><clockCom clockType='1' isDaylightSavingTime='1' "
+                  "Start='3.1.7.02:00:00' End='3.1.7.02:00:00'/></clock>"),
+        1, {"at the same time"});
+    row("font", Digital("<time fontName='DejaVu Snas'/>"), 2,
+        {"not an installed font", "did you mean \"DejaVu Sans\"?"});
+    row("stored font", Setting("DigitalTimeFName", "Xyzzy Plugh"), 2, {"fc-list"});
+    row("type", ProgramOf("<clock type='round'/>"), 1, {"type=\"round\"", "\"digital\""});
+    row("picture without its setting", ProgramOf("<clock type='picture'/>"), 1,
+        {"<attribute key=\"ClockType\" value=\"2\"/>"});
+    row("older form without a type", Digital("<clockCom/>"), 1, {"clockType", "1 digital"});
+    row("image that the clock has not",
+        Digital("<file key='_AnalogAM' md5='0123456789abcdef0123456789abcdef' size='1' path='a'/>"),
+        2, {"\"_AnalogAM\""});
+    row("file without a digest", Digital("<file key='_timeNumber' path='a' size='1'/>"), 2,
+        {"<file> needs the attribute md5"});
+    row("file with a digest of another form",
+        Digital("<file key='_timeNumber' md5='x' path='a' size='1'/>"), 2,
+        {"<file>", "docs/program.rng"});
+    row("setting without a value", Digital("<date/>\n<attribute key='Id'/>"), 3,
+        {"needs a key and a value"});
+    row("text where none is read", Digital("<date/>12:00"), 1, {"docs/program.rng"});
+    row("tag of several lines", Digital("<date\n  format='9'\n/>"), 4, {"0 to 8"});
+    row("other element", ProgramOf("\n<clok/>"), 2, {"<clok>", "<clock>"});
+    row("area without a width",
+        "<program width='1' height='1'>\n<area x='0' y='0' height='1'><clock/></area></program>", 2,
+        {"width", "1 to 32767"});
+    row("program without areas", "<program width='1' height='1'/>", 1, {"no <area>"});
+    row("area misspelt",
+        "<program width='1' height='1'><area x='0' y='0' width='1' height='1'><clock/></area>\n"
+        "<aera/></program>",
+        2, {"aera"});
+    row("unknown attribute of the area",
+        "<program width='1' height='1'>\n<area x='0' y='0' z='1' width='1' height='1'><clock/>"
+        "</area></program>",
+        2, {"z"});
+    row("two clocks with one Id",
+        "<program width='1' height='1'>"
+        "<area x='0' y='0' width='1' height='1'><clock>\n<attribute key='Id' value='7'/></clock>"
+        "</area><area x='0' y='0' width='1' height='1'>\n<clock>"
+        "<attribute key='Id' value='7'/></clock></area></program>",
+        3, {"Id 7", "line 1"});
+}
+
+void TestToolLint::Finds()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, line);
+    QFETCH(QStringList, words);
+    const ProcessRun run = Lint(text);
+    QCOMPARE(run.exitCode, 1);
+    const QString place = QStringLiteral("in.xml:%1: warning: ").arg(line);
+    const QStringList warnings = Warnings(run.errors);
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY2(warnings[0].contains(place), qPrintable(run.errors));
+    for (const QString &word : words)
+        QVERIFY2(warnings[0].contains(word), qPrintable(run.errors));
+}
+
+void TestToolLint::EveryFindingIsReported()
+{
+    const ProcessRun run = Lint(Digital("<date format='9' color='x y z' fontname='DejaVu Sans'/>\n"
+                                        "<week display='yes'/>\n<tim/>"));
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(Warnings(run.errors).size(), 5);
+}
+
+void TestToolLint::NotesDoNotCount()
+{
+    const ProcessRun run = Lint(Digital("<date format='8'/>"));
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.errors.contains("in.xml:1: note: the minus"), qPrintable(run.errors));
+}
+
+QTEST_GUILESS_MAIN(TestToolLint)
+#include "test_tool_lint.moc"

@@ -1,0 +1,52 @@
+#include "clock_nodes.h"
+
+#include "clock_plugin.h"
+
+namespace ClockTool {
+
+namespace {
+
+using ClockProgram::MadeNodes;
+using ClockProgram::Program;
+
+Lw::INodePlugin *FindPlugin(QDomElement &element)
+{
+    static Lw::HNodeClock::HNodeClock plugin;
+    return plugin.PluginMatch(element) ? &plugin : nullptr;
+}
+
+Result<ProgramClocks> MakeClocks(const Result<Program> &program)
+{
+    if (const auto *failure = std::get_if<Failure>(&program))
+        return *failure;
+    ProgramClocks clocks;
+    clocks.program = std::get<Program>(program);
+    Result<MadeNodes> made = ClockProgram::MakeNodes(clocks.program, FindPlugin);
+    if (const auto *failure = std::get_if<Failure>(&made))
+        return *failure;
+    clocks.made = std::move(std::get<MadeNodes>(made));
+    for (const QString &warning : qAsConst(clocks.made.warnings))
+        Say(warning);
+    return clocks;
+}
+
+} // namespace
+
+Lw::HNodeClock::HClockNode &ProgramClocks::Clock(int area) const
+{
+    // Only the clock's own plugin made nodes.
+    return static_cast<Lw::HNodeClock::HClockNode &>(
+        *made.nodes[static_cast<std::size_t>(area)].node);
+}
+
+Result<ProgramClocks> ReadClocks(const QString &path)
+{
+    return MakeClocks(ClockProgram::ReadProgram(path));
+}
+
+Result<ProgramClocks> ParseClocks(const QByteArray &contents, const QString &path)
+{
+    return MakeClocks(ClockProgram::ParseProgram(contents, path));
+}
+
+} // namespace ClockTool

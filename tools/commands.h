@@ -1,0 +1,33 @@
+// The subcommands of clock_tool, one file each.
+#pragma once
+
+#include "failure.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace ClockTool {
+
+using ClockProgram::ExitCode;
+using ClockProgram::Failure;
+using ClockProgram::MaybeFailure;
+using ClockProgram::Result;
+
+/// How a subcommand ended; what there was to say is said.
+using CommandResult = ExitCode;
+
+/// The arguments begin with "clock_tool NAME".
+CommandResult RunLint(const QStringList &arguments);
+CommandResult RunSdk(const QStringList &arguments);
+CommandResult RunImport(const QStringList &arguments);
+CommandResult RunExport(const QStringList &arguments);
+CommandResult RunGlyphs(const QStringList &arguments);
+CommandResult RunAttributes(const QStringList &arguments);
+
+/// A line for the person at the shell, on standard error.
+void Say(const QString &text);
+
+/// Says why, and gives the code to end with.
+CommandResult Report(const Failure &failure);
+
+} // namespace ClockTool

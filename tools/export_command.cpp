@@ -1,0 +1,108 @@
+// clock_tool export: a program with its glyph files, ready to be carried away.
+#include "commands.h"
+#include "glyph_export.h"
+#include "tool_arguments.h"
+
+#include "compose/element_layout.h"
+#include "glyph/glyph_set.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+constexpr char kDescription[] =
+    "Writes a program with its glyph files to a directory that can be carried to a player:\n"
+    "\n"
+    "  program.xml  the program; every setting is an \"attribute\", every image a \"file\" of its\n"
+    "               clock, named relative to program.xml\n"
+    "  files/       the glyph images, named by their MD5 digests\n"
+    "  files.tsv    what to send: path, MD5 digest and size in bytes, separated by tabs, under a\n"
+    "               line with these names\n"
+    "\n"
+    "Play it with: clock_player --use-files DIR/program.xml\n"
+    "\n"
+    "The directory must be missing, empty, or hold an earlier export. The minus image does not\n"
+    "travel: a date of type 8 has no minus at the player. The pictures of picture clocks are the\n"
+    "player's own.";
+
+/// What stands in a directory is only replaced where it is an export.
+MaybeFailure PrepareDirectory(const QString &path, const QString &program)
+{
+    QDir directory(path);
+    if (!directory.mkpath(QStringLiteral(".")))
+        return Failure {ExitCode::RuntimeFailure,
+                        QStringLiteral("%1: cannot make this directory").arg(path)};
+    const QString there = QFileInfo(directory.filePath(kExportedProgram)).canonicalFilePath();
+    if (!there.isEmpty() && there == QFileInfo(program).canonicalFilePath())
+        return Failure {ExitCode::RuntimeFailure,
+                        QStringLiteral("%1: this is where the program itself stands; export to "
+                                       "another directory")
+                            .arg(path)};
+    if (!directory.isEmpty() && !directory.exists(kExportedList))
+        return Failure {
+            ExitCode::RuntimeFailure,
+            QStringLiteral("%1: the directory is neither empty nor an earlier export").arg(path)};
+    return std::nullopt;
+}
+
+int DateTypeOf(HClockNode &clock)
+{
+    const bool isDigital = clock.ClockType() == DigitalClock;
+    return clock.GetAttributeToInt(
+        Key(isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType));
+}
+
+void SayWhatStaysBehind(const ProgramClocks &clocks)
+{
+    for (int i = 0; i < clocks.Count(); ++i) {
+        HClockNode &clock = clocks.Clock(i);
+        if (clock.ClockType() != PictureClock && DateTypeOf(clock) == DateWithMinus)
+            Say(ClockProgram::AtElement(
+                clocks.program.path, clocks.program.areas[i].element,
+                QStringLiteral("note: the minus of date type 8 does not travel with the program")));
+    }
+}
+
+void ShowProgress(int clock, int count)
+{
+    if (!isatty(STDERR_FILENO))
+        return;
+    std::fprintf(stderr, "\rclock %d of %d", clock, count);
+    if (clock == count)
+        std::fputc('\n', stderr);
+}
+
+} // namespace
+
+CommandResult RunExport(const QStringList &arguments)
+{
+    ToolArguments tool(QStringLiteral("export"), QString::fromLatin1(kDescription));
+    tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to export."));
+    tool.AddPositional(QStringLiteral("DIR"), QStringLiteral("The directory to write to."));
+    tool.AddLanguage();
+    if (const auto ended = tool.Parse(arguments))
+        return *ended;
+    if (const MaybeFailure failure = tool.InstallLanguage())
+        return Report(*failure);
+    const Result<ProgramClocks> read = ReadClocks(tool.Positional(0));
+    if (const auto *failure = std::get_if<Failure>(&read))
+        return Report(*failure);
+    const auto &clocks = std::get<ProgramClocks>(read);
+    const QString directory = QFileInfo(tool.Positional(1)).absoluteFilePath();
+    if (const MaybeFailure failure = PrepareDirectory(directory, clocks.program.path))
+        return Report(*failure);
+    SayWhatStaysBehind(clocks);
+    const auto progress = [&clocks](int clock) { ShowProgress(clock, clocks.Count()); };
+    const MaybeFailure failure = ExportProgram(clocks, directory, progress);
+    return failure ? Report(*failure) : ExitCode::Success;
+}
+
+} // namespace ClockTool

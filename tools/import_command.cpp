@@ -1,0 +1,150 @@
+// clock_tool import: a program from SDK XML, one area a clock.
+#include "clock_nodes.h"
+#include "commands.h"
+#include "output.h"
+#include "tool_arguments.h"
+#include "xml_writing.h"
+
+#include "clock_sdk_tables.h"
+
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QSize>
+
+#include <optional>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace ClockProgram;
+
+constexpr char kDescription[] =
+    "Makes a program from SDK XML. Every clock element, wherever it stands in the document, gets\n"
+    "an area of its own. Areas are stacked; where the screen would get too high they go on in\n"
+    "further columns. What an element says is kept as it stands.";
+
+const QString kArea = QStringLiteral("area");
+const QString kDefaultArea = QStringLiteral("256x128");
+
+std::optional<QSize> ParseSize(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]{1,5})x([0-9]{1,5})$"));
+    const QRegularExpressionMatch match = form.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    if (size.isEmpty() || size.width() > kMaximumSide || size.height() > kMaximumSide)
+        return std::nullopt;
+    return size;
+}
+
+/// The next element in document order that is not within this one, up to the root's end.
+QDomElement NextBeside(QDomElement element)
+{
+    while (!element.isNull() && element.nextSiblingElement().isNull())
+        element = element.parentNode().toElement();
+    return element.nextSiblingElement();
+}
+
+QVector<QDomElement> ClocksIn(const QDomElement &root)
+{
+    QVector<QDomElement> clocks;
+    QDomElement element = root;
+    while (!element.isNull()) {
+        const bool isClock = element.tagName() == QLatin1String(Lw::HNodeClock::Sdk::kClock);
+        if (isClock)
+            clocks.append(element);
+        const QDomElement inner = element.firstChildElement();
+        element = isClock || inner.isNull() ? NextBeside(element) : inner;
+    }
+    return clocks;
+}
+
+void SetRectangle(QDomElement &area, const QRect &rectangle)
+{
+    area.setAttribute(QStringLiteral("x"), rectangle.x());
+    area.setAttribute(QStringLiteral("y"), rectangle.y());
+    area.setAttribute(QStringLiteral("width"), rectangle.width());
+    area.setAttribute(QStringLiteral("height"), rectangle.height());
+}
+
+QDomElement ProgramOf(QDomDocument &document, const QVector<QDomElement> &clocks, QSize size)
+{
+    const int rows = qMin(clocks.size(), kMaximumSide / size.height());
+    const int columns = (clocks.size() + rows - 1) / rows;
+    QDomElement program = document.createElement(kProgramTag);
+    program.setAttribute(QStringLiteral("width"), columns * size.width());
+    program.setAttribute(QStringLiteral("height"), rows * size.height());
+    for (int i = 0; i < clocks.size(); ++i) {
+        QDomElement area = document.createElement(kAreaTag);
+        const QPoint position(i / rows * size.width(), i % rows * size.height());
+        SetRectangle(area, QRect(position, size));
+        area.appendChild(document.importNode(clocks[i], true));
+        program.appendChild(area);
+    }
+    return program;
+}
+
+/// A clock that the plugin cannot read is better reported with its line in the SDK file than with
+/// that in the program made of it.
+MaybeFailure CheckClocks(const QVector<QDomElement> &clocks, const QString &path)
+{
+    if (clocks.isEmpty())
+        return Failure {ExitCode::ProgramError,
+                        QStringLiteral("%1: there is no <clock> in it").arg(path)};
+    if (clocks.size() > kMaximumAreas)
+        return Failure {ExitCode::ProgramError,
+                        QStringLiteral("%1: %2 clocks; a program has at most %3 areas")
+                            .arg(path)
+                            .arg(clocks.size())
+                            .arg(kMaximumAreas)};
+    for (const QDomElement &clock : clocks) {
+        QList<Lw::FileInfo> files;
+        Lw::HNodeClock::HClockNode node;
+        if (!node.UpdateNode(clock, files))
+            return Failure {ExitCode::ProgramError,
+                            AtElement(path, clock,
+                                      QStringLiteral("the type of this <clock> cannot be read; "
+                                                     "accepted: dial, digital"))};
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+CommandResult RunImport(const QStringList &arguments)
+{
+    ToolArguments tool(QStringLiteral("import"), QString::fromLatin1(kDescription));
+    tool.AddPositional(QStringLiteral("SDK.xml"), QStringLiteral("The SDK XML to read."));
+    tool.AddOption({kArea},
+                   QStringLiteral("Size of each area in pixels (default: %1).").arg(kDefaultArea),
+                   QStringLiteral("WxH"));
+    tool.AddOutput();
+    if (const auto ended = tool.Parse(arguments))
+        return *ended;
+    const QString wanted = tool.IsSet(kArea) ? tool.Value(kArea) : kDefaultArea;
+    const std::optional<QSize> size = ParseSize(wanted);
+    if (!size)
+        return Report({ExitCode::UsageError,
+                       QStringLiteral("--area needs a size such as 256x128, each side from 1 to "
+                                      "%1, not \"%2\"")
+                           .arg(QString::number(kMaximumSide), wanted)});
+
+    const QString path = tool.Positional(0);
+    const Result<QByteArray> contents = ReadContents(path);
+    if (const auto *failure = std::get_if<Failure>(&contents))
+        return Report(*failure);
+    Result<QDomDocument> sdk = ParseDocument(std::get<QByteArray>(contents), path);
+    if (const auto *failure = std::get_if<Failure>(&sdk))
+        return Report(*failure);
+    auto &document = std::get<QDomDocument>(sdk);
+    const QVector<QDomElement> clocks = ClocksIn(document.documentElement());
+    if (const MaybeFailure failure = CheckClocks(clocks, path))
+        return Report(*failure);
+    const QByteArray program = WriteXml(ProgramOf(document, clocks, *size));
+    const Result<Program> check = ParseProgram(program, QStringLiteral("the program made"));
+    if (const auto *failure = std::get_if<Failure>(&check))
+        return Report(*failure);
+    return Deliver(tool.Output(), program);
+}
+
+} // namespace ClockTool

@@ -1,0 +1,274 @@
+#include "clock_lint.h"
+
+#include "clock_words.h"
+#include "suggestion.h"
+#include "value_checks.h"
+
+#include "clock_node.h"
+#include "compose/element_layout.h"
+#include "glyph/glyph_set.h"
+#include "program_file.h"
+
+#include <QSet>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+const QString kKey = QStringLiteral("key");
+const QString kValue = QStringLiteral("value");
+
+const QStringList &AllKeys()
+{
+    static const QStringList all = [] {
+        QStringList keys;
+        for (const AttributeRow &row : kAttributeTable)
+            keys.append(QLatin1String(row.key));
+        return keys;
+    }();
+    return all;
+}
+
+const AttributeRow *RowNamed(const QString &key)
+{
+    for (const AttributeRow &row : kAttributeTable) {
+        if (key == QLatin1String(row.key))
+            return &row;
+    }
+    return nullptr;
+}
+
+QStringList ChildNames(const QDomElement &parent)
+{
+    QStringList names;
+    for (QDomElement child = parent.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement())
+        names.append(child.tagName());
+    return names;
+}
+
+class ClockLint
+{
+public:
+    ClockLint(const QDomElement &clock, Findings &findings) : m_clock(clock), m_findings(findings)
+    {
+        // The node itself tells what becomes of the element.
+        m_node.InitData();
+        QList<Lw::FileInfo> files;
+        m_understood = m_node.UpdateNode(clock, files);
+        m_type = m_understood ? m_node.ClockType() : static_cast<int>(AnalogClock);
+    }
+
+    void Run()
+    {
+        const QStringList names = ChildNames(m_clock);
+        m_present = QSet<QString>(names.cbegin(), names.cend());
+        CheckAttributes(m_clock, QString());
+        for (QDomElement child = m_clock.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement())
+            CheckChild(child);
+        CheckType();
+        CheckWhole();
+    }
+
+private:
+    void CheckChild(const QDomElement &child)
+    {
+        const QString name = child.tagName();
+        if (name == ClockProgram::kAttributeTag)
+            return CheckSetting(child);
+        if (name == QLatin1String(Sdk::kFile))
+            return CheckFile(child);
+        const QStringList known = ElementsRead(m_type);
+        if (!known.contains(name))
+            return CheckUnread(child, known);
+        const QString shadow = ShadowOf(m_type, name);
+        if (!shadow.isEmpty() && m_present.contains(shadow))
+            Warn(child, QStringLiteral("<%1> is not read beside <%2>").arg(name, shadow));
+        else if (m_seen.contains(name))
+            Warn(child, QStringLiteral("only the first <%1> of a clock is read").arg(name));
+        m_seen.insert(name);
+        CheckAttributes(child, name);
+    }
+
+    /// The exported form of a clock has elements that its type does not need; they are empty.
+    void CheckUnread(const QDomElement &child, const QStringList &known)
+    {
+        if (child.tagName() == QLatin1String("time") && child.attributes().isEmpty())
+            return;
+        const int other = m_type == DigitalClock ? AnalogClock : DigitalClock;
+        if (ElementsRead(other).contains(child.tagName()))
+            Warn(child,
+                 QStringLiteral("<%1> is not read of this kind of clock, only of type \"%2\"")
+                     .arg(child.tagName(), QLatin1String(Sdk::kTypeNames[other])));
+        else
+            Warn(child,
+                 QStringLiteral("<%1> is not read%2")
+                     .arg(child.tagName(), Suggestion(child.tagName(), known)));
+    }
+
+    void CheckAttributes(const QDomElement &element, const QString &name)
+    {
+        const QDomNamedNodeMap attributes = element.attributes();
+        for (int i = 0; i < attributes.count(); ++i) {
+            const QDomAttr attribute = attributes.item(i).toAttr();
+            if (!AttributesRead(m_type, name).contains(attribute.name()))
+                CheckUnreadAttribute(element, name, attribute.name());
+            for (const Reading &reading : ReadingsOf(m_type, name, attribute.name()))
+                if (CheckValue(element, attribute.name(), attribute.value(),
+                               ImportFault(reading.target, reading.conversion, attribute.value())))
+                    break;
+        }
+    }
+
+    void CheckUnreadAttribute(const QDomElement &element, const QString &name,
+                              const QString &attribute)
+    {
+        if (name.isEmpty() && attribute == QLatin1String(Sdk::kGuid))
+            return; // the exported form has it for the controller
+        Warn(element,
+             QStringLiteral("the attribute \"%1\" of <%2> is not read%3")
+                 .arg(attribute.left(60), element.tagName(),
+                      Suggestion(attribute, AttributesRead(m_type, name))));
+    }
+
+    void CheckSetting(const QDomElement &setting)
+    {
+        const QString key = setting.attribute(kKey);
+        if (key.isEmpty() || !setting.hasAttribute(kValue))
+            return; // the program's structure, which is checked elsewhere
+        const AttributeRow *row = RowNamed(key);
+        if (!row)
+            return Warn(
+                setting,
+                QStringLiteral("a clock has no attribute %1%2").arg(Quoted(key), NearestKey(key)));
+        if (m_settings.contains(key))
+            Warn(setting, QStringLiteral("%1 is set again; the last one counts").arg(key));
+        m_settings.insert(key);
+        const QString value = setting.attribute(kValue);
+        CheckValue(setting, key, value, StoredFault(row->attribute, value));
+    }
+
+    static QString NearestKey(const QString &key)
+    {
+        const QString nearest = Nearest(key, AllKeys());
+        return nearest.isEmpty()
+            ? QStringLiteral("; accepted: the keys that \"clock_tool attributes\" lists")
+            : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+    }
+
+    void CheckFile(const QDomElement &file)
+    {
+        for (const char *name : {"key", "md5", "size", "path"}) {
+            if (!file.hasAttribute(QLatin1String(name)))
+                Warn(file,
+                     QStringLiteral("a <file> needs the attribute %1").arg(QLatin1String(name)));
+        }
+        const QString key = file.attribute(kKey);
+        QStringList keys;
+        for (const GlyphImage &image : GlyphImages(GlyphOrder::Bookkeeping, m_type))
+            keys.append(image.Key());
+        if (!key.isEmpty() && !keys.contains(key))
+            Warn(
+                file,
+                QStringLiteral("this clock has no image %1%2").arg(Quoted(key), Nearby(key, keys)));
+    }
+
+    static QString Nearby(const QString &word, const QStringList &candidates)
+    {
+        const QString nearest = Nearest(word, candidates);
+        return nearest.isEmpty() ? QString()
+                                 : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+    }
+
+    bool CheckValue(const QDomElement &element, const QString &name, const QString &value,
+                    const QString &fault)
+    {
+        if (!fault.isEmpty())
+            Warn(element, QStringLiteral("%1=%2 %3").arg(name, Quoted(value), fault));
+        return !fault.isEmpty();
+    }
+
+    bool IsPicture() const
+    {
+        for (QDomElement setting = m_clock.firstChildElement(ClockProgram::kAttributeTag);
+             !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag)) {
+            if (setting.attribute(kKey) == Key(Attribute::ClockType)
+                && setting.attribute(kValue).toInt() == PictureClock)
+                return true;
+        }
+        return false;
+    }
+
+    void CheckType()
+    {
+        if (m_understood || IsPicture())
+            return;
+        const bool isOldForm = !m_clock.firstChildElement(QLatin1String(Sdk::kClockCom)).isNull();
+        Warn(m_clock,
+             isOldForm
+                 ? QStringLiteral("the clockType of <clockCom> cannot be read; accepted: 0 analog, "
+                                  "1 digital")
+                 : QStringLiteral("type=%1 cannot be read; accepted: \"dial\", \"digital\", or "
+                                  "\"picture\" with <attribute key=\"ClockType\" value=\"2\"/>")
+                       .arg(Quoted(m_clock.attribute(QLatin1String(Sdk::kType)))));
+    }
+
+    /// What several settings make together.
+    void CheckWhole()
+    {
+        for (QDomElement setting = m_clock.firstChildElement(ClockProgram::kAttributeTag);
+             !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag))
+            m_node.SetAttribute(setting.attribute(kKey), setting.attribute(kValue), false);
+        if (m_node.GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1) {
+            const QString fault =
+                RulePairFault(m_node.GetAttribute(Key(Attribute::DaylightSavingTimeStart)),
+                              m_node.GetAttribute(Key(Attribute::DaylightSavingTimeEnd)));
+            if (!fault.isEmpty())
+                Warn(m_clock, fault);
+        }
+        const bool isDigital = m_node.ClockType() == DigitalClock;
+        const Attribute date = isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType;
+        if (m_node.ClockType() != PictureClock
+            && m_node.GetAttributeToInt(Key(date)) == DateWithMinus)
+            m_findings.Note(m_clock.lineNumber(),
+                            QStringLiteral("the minus of date type 8 does not travel with an "
+                                           "exported program"));
+    }
+
+    void Warn(const QDomElement &element, const QString &text)
+    {
+        m_findings.Warn(element.lineNumber(), text);
+    }
+
+    const QDomElement m_clock;
+    Findings &m_findings;
+    HClockNode m_node;
+    bool m_understood = false;
+    int m_type = AnalogClock; // by which the element is read
+    QSet<QString> m_present;
+    QSet<QString> m_seen;
+    QSet<QString> m_settings;
+};
+
+} // namespace
+
+void LintClock(const QDomElement &clock, Findings &findings)
+{
+    ClockLint(clock, findings).Run();
+}
+
+std::optional<int> GivenId(const QDomElement &clock)
+{
+    std::optional<int> id;
+    for (QDomElement setting = clock.firstChildElement(ClockProgram::kAttributeTag);
+         !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag)) {
+        if (setting.attribute(kKey) == Key(Attribute::Id))
+            id = setting.attribute(kValue).toInt();
+    }
+    return id;
+}
+
+} // namespace ClockTool

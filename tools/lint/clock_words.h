@@ -1,0 +1,30 @@
+// The words of a clock element that the clock reads, from its import tables.
+#pragma once
+
+#include "clock_sdk_tables.h"
+
+#include <QStringList>
+#include <QVector>
+
+namespace ClockTool {
+
+/// One way in which an XML attribute is read.
+struct Reading
+{
+    Lw::HNodeClock::Attribute target;
+    Lw::HNodeClock::Conversion conversion;
+};
+
+/// The child elements that a clock of a type (0 analog, 1 digital) reads settings from.
+QStringList ElementsRead(int clockType);
+
+/// The attributes that are read of one of them; with an empty name, of the clock element itself.
+QStringList AttributesRead(int clockType, const QString &element);
+
+/// How an attribute is read; empty when it is not.
+QVector<Reading> ReadingsOf(int clockType, const QString &element, const QString &attribute);
+
+/// The element that is read in place of this one wherever it stands; empty for most.
+QString ShadowOf(int clockType, const QString &element);
+
+} // namespace ClockTool

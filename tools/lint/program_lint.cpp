@@ -1,0 +1,103 @@
+#include "program_lint.h"
+
+#include "clock_lint.h"
+#include "schema_check.h"
+#include "suggestion.h"
+
+#include "clock_sdk_tables.h"
+#include "program_file.h"
+
+#include <QHash>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace ClockProgram;
+
+/// What keeps the program from being played. The failure's text begins with path and line.
+void CheckStructure(const QDomDocument &document, const QString &path, Findings &findings)
+{
+    const Result<Program> program = InterpretProgram(document, path);
+    const auto *failure = std::get_if<Failure>(&program);
+    if (!failure)
+        return;
+    const QString located = failure->text.mid(path.size() + 1);
+    const int colon = located.indexOf(QLatin1Char(':'));
+    findings.Warn(located.left(colon).toInt(), located.mid(colon + 2));
+}
+
+class ClockWalk
+{
+public:
+    explicit ClockWalk(Findings &findings) : m_findings(findings) { }
+
+    void Check(const QDomElement &element)
+    {
+        const QString tag = QLatin1String(Lw::HNodeClock::Sdk::kClock);
+        if (element.tagName() != tag) {
+            m_findings.Warn(element.lineNumber(),
+                            QStringLiteral("no plugin claims <%1>; accepted: <%2>")
+                                .arg(element.tagName(), tag));
+            return;
+        }
+        LintClock(element, m_findings);
+        CheckId(element);
+    }
+
+private:
+    void CheckId(const QDomElement &clock)
+    {
+        const std::optional<int> id = GivenId(clock);
+        if (!id)
+            return;
+        const auto other = m_lines.constFind(*id);
+        if (other == m_lines.constEnd())
+            m_lines.insert(*id, clock.lineNumber());
+        else
+            m_findings.Warn(clock.lineNumber(),
+                            QStringLiteral("the Id %1 is that of the clock in line %2, whose glyph "
+                                           "files it would share; accepted: any other number")
+                                .arg(*id)
+                                .arg(*other));
+    }
+
+    Findings &m_findings;
+    QHash<int, int> m_lines; // of the first clock with an Id
+};
+
+void CheckClocks(const QDomDocument &document, Findings &findings)
+{
+    ClockWalk walk(findings);
+    for (QDomElement area = document.documentElement().firstChildElement(kAreaTag); !area.isNull();
+         area = area.nextSiblingElement(kAreaTag)) {
+        const QDomElement element = area.firstChildElement();
+        if (!element.isNull())
+            walk.Check(element);
+    }
+}
+
+/// The schema speaks where nothing better was said of a line.
+void CheckSchema(const QByteArray &contents, Findings &findings)
+{
+    const SchemaReport report = CheckAgainstSchema(contents);
+    if (report.isVague && findings.Warnings() > 0)
+        return;
+    for (const Finding &fault : report.faults) {
+        if (!findings.HasLine(fault.line))
+            findings.Warn(fault.line, fault.text);
+    }
+}
+
+} // namespace
+
+Findings LintProgram(const QDomDocument &document, const QByteArray &contents, const QString &path)
+{
+    Findings findings;
+    CheckStructure(document, path, findings);
+    CheckClocks(document, findings);
+    CheckSchema(contents, findings);
+    return findings;
+}
+
+} // namespace ClockTool

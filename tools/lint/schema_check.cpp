@@ -1,0 +1,161 @@
+#include "schema_check.h"
+
+#include <QFile>
+#include <QMap>
+
+#include <libxml/parser.h>
+#include <libxml/relaxng.h>
+#include <libxml/xmlversion.h>
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+
+namespace ClockTool {
+
+namespace {
+
+#if LIBXML_VERSION >= 21200
+using ErrorPointer = const xmlError *;
+#else
+using ErrorPointer = xmlErrorPtr;
+#endif
+
+template<auto function>
+struct Freer
+{
+    template<typename T>
+    void operator()(T *pointer) const
+    {
+        function(pointer);
+    }
+};
+using Document = std::unique_ptr<xmlDoc, Freer<xmlFreeDoc>>;
+using SchemaParser = std::unique_ptr<xmlRelaxNGParserCtxt, Freer<xmlRelaxNGFreeParserCtxt>>;
+using Schema = std::unique_ptr<xmlRelaxNG, Freer<xmlRelaxNGFree>>;
+using Validation = std::unique_ptr<xmlRelaxNGValidCtxt, Freer<xmlRelaxNGFreeValidCtxt>>;
+
+struct Faults
+{
+    QMap<int, QString> byLine;
+    QMap<int, QString> echoes;
+};
+
+/// The library's own words, which may hold texts of any length.
+QString MessageOf(ErrorPointer error)
+{
+    return QString::fromUtf8(error->message).trimmed().left(200);
+}
+
+QString ElementOf(ErrorPointer error)
+{
+    const auto *node = static_cast<const xmlNode *>(error->node);
+    return node ? QString::fromUtf8(reinterpret_cast<const char *>(node->name)).left(60)
+                : QString();
+}
+
+/// What an error says of the element that it stands at; empty where it only says that something
+/// within an element, or beside it, is wrong.
+QString Said(ErrorPointer error)
+{
+    switch (error->code) {
+    case XML_RELAXNG_ERR_ATTRVALID:
+        return QStringLiteral("the attributes of <%1> are not as the schema has them")
+            .arg(ElementOf(error));
+    case XML_RELAXNG_ERR_ELEMWRONG:
+        // After an error, the white space between elements is complained of as well.
+        if (std::strstr(error->message, "element text there"))
+            return {};
+        return MessageOf(error);
+    case XML_RELAXNG_ERR_INVALIDATTR:
+    case XML_RELAXNG_ERR_NOELEM:
+        return MessageOf(error);
+    default:
+        return {};
+    }
+}
+
+void Collect(void *context, ErrorPointer error)
+{
+    auto &faults = *static_cast<Faults *>(context);
+    const QString said = Said(error);
+    auto &kept = said.isEmpty() ? faults.echoes : faults.byLine;
+    if (!kept.contains(error->line))
+        kept.insert(error->line, said.isEmpty() ? MessageOf(error) : said);
+}
+
+void Ignore(void *, ErrorPointer) { }
+
+/// The time that the library needs grows with the square of the children that one element has.
+constexpr unsigned long kMostChildren = 1024;
+
+/// The line of an element with more than that; 0 for none.
+int CrowdedLine(xmlNodePtr root)
+{
+    xmlNodePtr node = root;
+    while (node) {
+        if (xmlChildElementCount(node) > kMostChildren)
+            return static_cast<int>(xmlGetLineNo(node));
+        xmlNodePtr next = xmlFirstElementChild(node);
+        while (!next && node && node != root) {
+            next = xmlNextElementSibling(node);
+            node = node->parent;
+        }
+        node = next;
+    }
+    return 0;
+}
+
+Schema LoadSchema()
+{
+    QFile file(QStringLiteral(":/program.rng"));
+    if (!file.open(QIODevice::ReadOnly))
+        return nullptr;
+    const QByteArray text = file.readAll();
+    const SchemaParser parser(xmlRelaxNGNewMemParserCtxt(text.constData(), text.size()));
+    return Schema(xmlRelaxNGParse(parser.get()));
+}
+
+SchemaReport AsReport(const Faults &faults)
+{
+    SchemaReport report;
+    report.isVague = faults.byLine.isEmpty();
+    const auto &shown = report.isVague ? faults.echoes : faults.byLine;
+    for (auto fault = shown.cbegin(); fault != shown.cend(); ++fault)
+        report.faults.append({fault.key(), Severity::Warning,
+                              QStringLiteral("%1; see docs/program.rng").arg(fault.value())});
+    if (report.isVague)
+        report.faults.resize(std::min(1, report.faults.size()));
+    return report;
+}
+
+SchemaReport LeftOut(int line, const QString &text)
+{
+    return {{{line, Severity::Warning, text}}, false};
+}
+
+} // namespace
+
+SchemaReport CheckAgainstSchema(const QByteArray &contents)
+{
+    xmlSetStructuredErrorFunc(nullptr, Ignore);
+    // Nothing is fetched, and entities are expanded within the library's bounds only.
+    const Document document(xmlReadMemory(contents.constData(), contents.size(), nullptr, nullptr,
+                                          XML_PARSE_NONET | XML_PARSE_BIG_LINES));
+    const Schema schema = LoadSchema();
+    if (!document || !schema)
+        return LeftOut(0, QStringLiteral("the schema's check cannot read this document"));
+    if (const int line = CrowdedLine(xmlDocGetRootElement(document.get())))
+        return LeftOut(line,
+                       QStringLiteral("this element has more than %1 elements in it, and the "
+                                      "schema's check was left out")
+                           .arg(kMostChildren));
+    const Validation validation(xmlRelaxNGNewValidCtxt(schema.get()));
+    Faults faults;
+    xmlRelaxNGSetValidStructuredErrors(validation.get(), Collect, &faults);
+    if (xmlRelaxNGValidateDoc(validation.get(), document.get()) == 0)
+        return {};
+    return AsReport(faults);
+}
+
+} // namespace ClockTool

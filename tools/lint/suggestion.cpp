@@ -1,0 +1,67 @@
+#include "suggestion.h"
+
+#include <QVector>
+
+#include <algorithm>
+#include <cstdlib>
+#include <numeric>
+
+namespace ClockTool {
+
+namespace {
+
+constexpr int kLongestShown = 60;
+constexpr int kLongestCompared = 64;
+
+} // namespace
+
+int EditDistance(const QString &one, const QString &other)
+{
+    QVector<int> row(other.size() + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (int i = 0; i < one.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i + 1;
+        for (int j = 0; j < other.size(); ++j) {
+            const int replaced = diagonal + (one[i] == other[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+        }
+    }
+    return row.last();
+}
+
+QString Nearest(const QString &word, const QStringList &candidates)
+{
+    const QString folded = word.left(kLongestCompared).toCaseFolded();
+    int least = std::min(3, static_cast<int>(folded.size()) / 2) + 1;
+    QString nearest;
+    for (const QString &candidate : candidates) {
+        // The lengths alone ask for as many changes.
+        if (std::abs(candidate.size() - folded.size()) >= least)
+            continue;
+        const int distance = EditDistance(folded, candidate.left(kLongestCompared).toCaseFolded());
+        if (distance >= least)
+            continue;
+        least = distance;
+        nearest = candidate;
+    }
+    return nearest;
+}
+
+QString Suggestion(const QString &word, const QStringList &candidates)
+{
+    const QString nearest = Nearest(word, candidates);
+    if (!nearest.isEmpty())
+        return QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+    return QStringLiteral("; accepted: ") + candidates.join(QStringLiteral(", "));
+}
+
+QString Quoted(const QString &text)
+{
+    const bool isLong = text.size() > kLongestShown;
+    return QLatin1Char('"') + text.left(kLongestShown).simplified()
+        + QLatin1String(isLong ? "...\"" : "\"");
+}
+
+} // namespace ClockTool

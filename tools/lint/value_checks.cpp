@@ -1,0 +1,253 @@
+#include "value_checks.h"
+
+#include "suggestion.h"
+
+#include "calendar/clock_time.h"
+#include "clock_sdk_tables.h"
+#include "happconfig.h"
+
+#include <QColor>
+#include <QFontDatabase>
+#include <QRegularExpression>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+/// The codes that mean something; where a switch takes any number, the two that are documented.
+struct CodeRange
+{
+    Attribute attribute;
+    int first;
+    int last;
+};
+
+// clang-format off
+constexpr CodeRange kCodes[] = {
+    {Attribute::ClockType, 0, 2},
+    {Attribute::AdjustType, 0, 1},
+    {Attribute::UseDaylightSavingTime, 0, 1},
+    {Attribute::HourScaleType, 0, 4},
+    {Attribute::MinuteScaleType, 0, 2},
+    {Attribute::SecondRectType, 0, 1},
+    {Attribute::MinuteRectType, 0, 1},
+    {Attribute::HourRectType, 0, 1},
+    {Attribute::AnalogDateType, 0, 8},
+    {Attribute::DigitalDateType, 0, 8},
+    {Attribute::AnalogWeekType, 0, 3},
+    {Attribute::DigitalWeekType, 0, 3},
+    {Attribute::DigitalTimeType, 0, 4},
+    {Attribute::AnalogSwapArea, 0, 1},
+    {Attribute::DigitalSwapArea, 0, 1},
+    {Attribute::DigitalMode, 0, 1},
+    {Attribute::DigitalDisplayMode, 0, 1},
+    {Attribute::PictrueClockType, 1, 10},
+};
+// clang-format on
+
+constexpr int kLargestFont = 32767; // points; nothing is drawn beyond
+
+bool KeyEndsWith(Attribute attribute, const char *end)
+{
+    return QLatin1String(RowOf(attribute).key).endsWith(QLatin1String(end));
+}
+
+QString RangeFault(int number, int first, int last, const QString &meaning)
+{
+    if (number >= first && number <= last)
+        return {};
+    return QStringLiteral("is not known; accepted: %1 to %2 (%3)")
+        .arg(first)
+        .arg(last)
+        .arg(meaning);
+}
+
+QString NumberFault(Attribute attribute, const QString &text)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (!isNumber)
+        return QStringLiteral("is not a whole number and counts as 0; accepted: a decimal such as "
+                              "12");
+    const QString meaning = QString::fromUtf8(RowOf(attribute).meaning);
+    if (RowOf(attribute).kind == ValueKind::Flag)
+        return RangeFault(number, 0, 1, meaning);
+    if (KeyEndsWith(attribute, "FSize"))
+        return RangeFault(number, 1, kLargestFont, meaning);
+    for (const CodeRange &code : kCodes) {
+        if (code.attribute == attribute)
+            return RangeFault(number, code.first, code.last, meaning);
+    }
+    return {};
+}
+
+QString ColourFault(const QString &text)
+{
+    if (QColor::isValidColor(text))
+        return {};
+    const QString nearest = Nearest(text, QColor::colorNames());
+    return QStringLiteral("is not a colour and counts as black; accepted: \"#rrggbb\" or a name%1")
+        .arg(nearest.isEmpty() ? QStringLiteral(" such as \"red\"")
+                               : QStringLiteral(": did you mean \"%1\"?").arg(nearest));
+}
+
+/// A stored colour is a number, where one would like to write a name.
+QString StoredColourFault(const QString &text)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    if (isNumber && number >= 0 && number <= 0xffffff)
+        return {};
+    const QString form = QStringLiteral("red + 256 * green + 65536 * blue");
+    if (!isNumber && QColor::isValidColor(text))
+        return QStringLiteral("is not a number and counts as black; accepted: %1, here %2")
+            .arg(form)
+            .arg(Lw::HAppConfig::NameToIntColor(text));
+    return QStringLiteral("is not a stored colour; accepted: %1, from 0 to 16777215").arg(form);
+}
+
+QString OffsetText(int seconds)
+{
+    const int minutes = qAbs(seconds) / 60;
+    return QStringLiteral("%1%2:%3")
+        .arg(QLatin1Char(seconds < 0 ? '-' : '+'))
+        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
+        .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString ZoneFault(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^[+-]([01]?[0-9]|2[0-3]):[0-5][0-9]$"));
+    if (form.match(text).hasMatch())
+        return {};
+    return QStringLiteral("is read as the offset %1; accepted: a sign and \"hh:mm\", such as "
+                          "\"+01:00\"")
+        .arg(OffsetText(ParseZoneOffset(text)));
+}
+
+QString RuleFault(const QString &text)
+{
+    if (text.isEmpty())
+        return {};
+    const std::optional<DaylightRule> rule = ParseDaylightRule(text);
+    if (!rule)
+        return QStringLiteral("is not a rule, so daylight saving is never in force; accepted: "
+                              "month.occurrence.weekday.hh:mm:ss, such as \"3.Last.7.02:00:00\" "
+                              "for the last Sunday of March");
+    if (rule->occurrence == 5)
+        return QStringLiteral("names a fifth weekday, and in years without it daylight saving is "
+                              "not in force; accepted: \"Last\" for the last one");
+    return {};
+}
+
+QString AdjustmentFault(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^([01][0-9]|2[0-3])A[0-5][0-9]B[0-5][0-9]$"));
+    if (form.match(text).hasMatch())
+        return {};
+    return QStringLiteral("is read as %1 seconds; accepted: \"hhAmmBss\", such as \"01A30B00\"")
+        .arg(ParseAdjustment(text));
+}
+
+QString FamilyFault(const QString &text)
+{
+    static const QStringList families = QFontDatabase().families();
+    if (text.isEmpty() || families.contains(text, Qt::CaseInsensitive))
+        return {};
+    const QString nearest = Nearest(text, families);
+    return QStringLiteral("is not an installed font; another will be drawn%1")
+        .arg(nearest.isEmpty()
+                 ? QStringLiteral("; accepted: a family that \"fc-list : family\" lists")
+                 : QStringLiteral("; did you mean \"%1\"?").arg(nearest));
+}
+
+QString TextFault(Attribute attribute, const QString &text)
+{
+    switch (attribute) {
+    case Attribute::TimeZone:
+        return ZoneFault(text);
+    case Attribute::TimeAdjust:
+        return AdjustmentFault(text);
+    case Attribute::DaylightSavingTimeStart:
+    case Attribute::DaylightSavingTimeEnd:
+        return RuleFault(text);
+    default:
+        return KeyEndsWith(attribute, "FName") ? FamilyFault(text) : QString();
+    }
+}
+
+QString SignedTimeFault(const QString &text)
+{
+    const bool hasSign = text.startsWith(QLatin1Char('+')) || text.startsWith(QLatin1Char('-'));
+    if (hasSign && ParseTimeOfDay(text.mid(1)).isValid())
+        return {};
+    return QStringLiteral("is not an adjustment and changes nothing; accepted: a sign and "
+                          "\"hh:mm:ss\", such as \"-00:05:00\"");
+}
+
+QString AdjustSecondsFault(const QString &text)
+{
+    constexpr int day = 86400;
+    bool isNumber = false;
+    const int seconds = text.toInt(&isNumber);
+    if (isNumber && qAbs(qint64(seconds)) < day)
+        return {};
+    return QStringLiteral("is not an adjustment within a day; accepted: seconds from -86399 to "
+                          "86399");
+}
+
+} // namespace
+
+QString ImportFault(Attribute target, Conversion conversion, const QString &text)
+{
+    switch (conversion) {
+    case Conversion::Text:
+        return TextFault(target, text);
+    case Conversion::Number:
+    case Conversion::InvertedNumber:
+        return NumberFault(target, text);
+    case Conversion::Flag:
+        if (text == QLatin1String("true") || text == QLatin1String("false"))
+            return {};
+        return QStringLiteral("counts as \"false\"; accepted: \"true\", \"false\"");
+    case Conversion::Colour:
+    case Conversion::ParsedColour:
+        return ColourFault(text);
+    case Conversion::AdjustSeconds:
+        return AdjustSecondsFault(text);
+    case Conversion::AdjustTime:
+        return SignedTimeFault(text);
+    }
+    return {};
+}
+
+QString StoredFault(Attribute attribute, const QString &text)
+{
+    switch (RowOf(attribute).kind) {
+    case ValueKind::Integer:
+    case ValueKind::Flag:
+        return NumberFault(attribute, text);
+    case ValueKind::Colour:
+        return StoredColourFault(text);
+    case ValueKind::Text:
+        return TextFault(attribute, text);
+    }
+    return {};
+}
+
+QString RulePairFault(const QString &start, const QString &end)
+{
+    if (start.isEmpty() || end.isEmpty())
+        return QStringLiteral("daylight saving is asked for without a rule for its start and its "
+                              "end, so it is never in force; accepted: "
+                              "month.occurrence.weekday.hh:mm:ss for both");
+    if (start == end)
+        return QStringLiteral("daylight saving starts and ends at the same time, so it is never "
+                              "in force");
+    return {};
+}
+
+} // namespace ClockTool

@@ -1,0 +1,60 @@
+// clock_tool lint: checks a program.
+#include "commands.h"
+#include "lint/program_lint.h"
+#include "tool_arguments.h"
+#include "xml_document.h"
+
+#include <cstdio>
+
+namespace ClockTool {
+
+namespace {
+
+constexpr char kDescription[] =
+    "Checks a program against the schema in docs/program.rng, and against what a clock really\n"
+    "reads: unknown words, numbers, colours, time zones and daylight-saving rules that are not\n"
+    "understood, codes outside their tables, fonts that are not installed, clocks with one Id.\n"
+    "\n"
+    "Each finding is a line on standard error: file:line: warning: what, and what is accepted.\n"
+    "Notes tell what is worth knowing and count for nothing.\n"
+    "\n"
+    "Exit codes: 0 no warning, 1 warnings, 2 wrong command line, 3 the file cannot be read or is\n"
+    "no XML.";
+
+constexpr int kMostShown = 1000;
+
+void Show(const Findings &findings, const QString &path)
+{
+    const QVector<Finding> sorted = findings.ByLine();
+    for (const Finding &finding : sorted.mid(0, kMostShown)) {
+        const char *kind = finding.severity == Severity::Note ? "note" : "warning";
+        const QString place =
+            finding.line > 0 ? QStringLiteral("%1:%2").arg(path).arg(finding.line) : path;
+        std::fprintf(stderr, "%s: %s: %s\n", qPrintable(place), kind, qPrintable(finding.text));
+    }
+    if (sorted.size() > kMostShown)
+        Say(QStringLiteral("and %1 more").arg(sorted.size() - kMostShown));
+}
+
+} // namespace
+
+CommandResult RunLint(const QStringList &arguments)
+{
+    ToolArguments tool(QStringLiteral("lint"), QString::fromLatin1(kDescription));
+    tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to check."));
+    if (const auto ended = tool.Parse(arguments))
+        return *ended;
+    const QString path = tool.Positional(0);
+    const Result<QByteArray> contents = ClockProgram::ReadContents(path);
+    if (const auto *failure = std::get_if<Failure>(&contents))
+        return Report(*failure);
+    const auto &bytes = std::get<QByteArray>(contents);
+    const Result<QDomDocument> document = ClockProgram::ParseDocument(bytes, path);
+    if (const auto *failure = std::get_if<Failure>(&document))
+        return Report(*failure);
+    const Findings findings = LintProgram(std::get<QDomDocument>(document), bytes, path);
+    Show(findings, path);
+    return findings.Warnings() == 0 ? ExitCode::Success : ExitCode::RuntimeFailure;
+}
+
+} // namespace ClockTool

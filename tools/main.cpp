@@ -1,0 +1,103 @@
+// clock_tool: checks programs, converts them, and carries their glyph files.
+#include "commands.h"
+
+#include <QGuiApplication>
+
+#include <cstdio>
+
+namespace {
+
+using namespace ClockTool;
+
+struct Command
+{
+    const char *name;
+    CommandResult (*run)(const QStringList &arguments);
+    const char *summary;
+};
+
+constexpr Command kCommands[] = {
+    {"lint", RunLint, "check a program, and say what its clocks would not read"},
+    {"sdk", RunSdk, "write the SDK XML of a program's clocks"},
+    {"import", RunImport, "make a program from SDK XML"},
+    {"export", RunExport, "write a program with its glyph files, ready to be carried away"},
+    {"glyphs", RunGlyphs, "list the glyph images of a program, and which clocks share them"},
+    {"attributes", RunAttributes, "write the reference table of the clock's attributes"},
+};
+
+QString HelpText()
+{
+    QString text = QStringLiteral("Usage: clock_tool COMMAND [arguments]\n\nCommands:\n");
+    for (const Command &command : kCommands)
+        text += QStringLiteral("  %1 %2\n")
+                    .arg(QLatin1String(command.name), -11)
+                    .arg(QLatin1String(command.summary));
+    return text
+        + QStringLiteral(
+               "\n\"clock_tool COMMAND --help\" tells more. Messages go to standard error.\n"
+               "\n"
+               "Exit codes:\n"
+               "  0  done; for lint: nothing found\n"
+               "  1  something failed, such as writing; for lint: something was found\n"
+               "  2  the command line is wrong\n"
+               "  3  the input is missing or wrong; the message says where\n");
+}
+
+/// Qt remarks on the environment of a desktop, which matters to nobody here.
+void KeepFatalMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtFatalMsg)
+        Say(message);
+}
+
+int Run(const QStringList &arguments)
+{
+    const QString first = arguments.value(1);
+    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
+        std::fputs(qPrintable(HelpText()), stdout);
+        return static_cast<int>(ExitCode::Success);
+    }
+    if (first == QLatin1String("--version") || first == QLatin1String("-v")) {
+        std::puts("clock_tool " CLOCK_TOOL_VERSION);
+        return static_cast<int>(ExitCode::Success);
+    }
+    for (const Command &command : kCommands) {
+        if (first == QLatin1String(command.name))
+            return static_cast<int>(command.run(arguments));
+    }
+    return static_cast<int>(Report(
+        {ExitCode::UsageError,
+         first.isEmpty() ? QStringLiteral("no command given (see --help)")
+                         : QStringLiteral("there is no command \"%1\" (see --help)").arg(first)}));
+}
+
+} // namespace
+
+namespace ClockTool {
+
+void Say(const QString &text)
+{
+    for (const QString &line : text.split(QLatin1Char('\n')))
+        std::fprintf(stderr, "clock_tool: %s\n", qPrintable(line));
+}
+
+CommandResult Report(const Failure &failure)
+{
+    Say(failure.text);
+    return failure.code;
+}
+
+} // namespace ClockTool
+
+int main(int argc, char **argv)
+{
+    // Text sizes are points: the same number of pixels on every machine. Images and fonts need an
+    // application with a platform, but nothing is shown.
+    if (!qEnvironmentVariableIsSet("QT_FONT_DPI"))
+        qputenv("QT_FONT_DPI", "96");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QtMessageHandler before = qInstallMessageHandler(KeepFatalMessages);
+    const QGuiApplication application(argc, argv);
+    qInstallMessageHandler(before);
+    return Run(QCoreApplication::arguments());
+}

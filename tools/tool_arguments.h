@@ -1,0 +1,46 @@
+// The command line of one subcommand.
+#pragma once
+
+#include "commands.h"
+
+#include <QCommandLineParser>
+
+#include <optional>
+
+namespace ClockTool {
+
+/// What a subcommand takes: a description, named arguments in their order, and options.
+class ToolArguments
+{
+public:
+    /// The name is the subcommand's.
+    ToolArguments(const QString &name, const QString &description);
+
+    void AddPositional(const QString &name, const QString &description);
+    /// An option with a value.
+    void AddOption(const QStringList &names, const QString &description, const QString &value);
+    void AddOutput();   ///< -o FILE
+    void AddLanguage(); ///< --language, for commands that make glyph images
+
+    /// Reads the arguments, which begin with "clock_tool NAME". The code to end with when there is
+    /// nothing left to do: after --help and --version, and after a fault.
+    std::optional<CommandResult> Parse(const QStringList &arguments);
+
+    QString Positional(int index) const { return m_parser.positionalArguments().value(index); }
+    QString Value(const QString &option) const { return m_parser.value(option); }
+    bool IsSet(const QString &option) const { return m_parser.isSet(option); }
+    QString Output() const; ///< empty: standard output
+
+    /// Installs the language's catalogue; a failure where there is none.
+    MaybeFailure InstallLanguage() const;
+
+private:
+    QString HelpText() const;
+
+    QString m_name;
+    QStringList m_positionals;
+    bool m_writesOutput = false;
+    QCommandLineParser m_parser;
+};
+
+} // namespace ClockTool
