@@ -46,7 +46,11 @@ MaybeFailure PrepareDirectory(const QString &path, const QString &program)
                         QStringLiteral("%1: this is where the program itself stands; export to "
                                        "another directory")
                             .arg(path)};
-    if (!directory.isEmpty() && !directory.exists(kExportedList))
+    const QStringList entries =
+        directory.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    // An export that failed leaves its images only.
+    const bool isFree = entries.isEmpty() || entries == QStringList {kExportedFiles};
+    if (!isFree && !directory.exists(kExportedList))
         return Failure {
             ExitCode::RuntimeFailure,
             QStringLiteral("%1: the directory is neither empty nor an earlier export").arg(path)};

@@ -8,6 +8,7 @@
 #include "glyph/hmd5.h"
 #include "happconfig.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
@@ -47,8 +48,6 @@ public:
         if (!work.isValid() || !m_directory.mkpath(kExportedFiles))
             return ExportFailure(
                 QStringLiteral("%1: cannot write to this directory").arg(m_directory.path()));
-        // A list says that the directory is whole, which it is not until the end.
-        m_directory.remove(kExportedList);
         Lw::HAppConfig::SetClockOutputPath(work.path());
         BeginProgram();
         for (int i = 0; i < m_clocks.Count() && !m_failure; ++i) {
@@ -126,11 +125,26 @@ private:
     {
         if (clock.GetAttribute(TopTextKey(clock)).isEmpty())
             missing.removeAll(GlyphKey(Glyph::TopText));
-        if (!missing.isEmpty())
+        if (missing.isEmpty())
+            return;
+        if (!HasRoom())
+            m_failure =
+                ExportFailure(QStringLiteral("%1: no room for the images").arg(m_directory.path()));
+        else
             Say(QStringLiteral("%1: clock %2: no image could be made for %3")
                     .arg(m_clocks.program.path)
                     .arg(clock.GetAttributeToInt(Key(Attribute::Id)))
                     .arg(missing.join(QStringLiteral(", "))));
+    }
+
+    /// The clock does not tell an image that cannot be made from one that could not be written.
+    bool HasRoom() const
+    {
+        constexpr int kProbe = 1 << 20; // bytes
+        const QString path = m_directory.filePath(QStringLiteral(".room"));
+        const bool isWritten = !WriteFile(path, QByteArray(kProbe, ' '));
+        QFile::remove(path);
+        return isWritten;
     }
 
     static QString TopTextKey(HClockNode &clock)
@@ -161,14 +175,15 @@ private:
 
     void WriteProgramAndList()
     {
-        const QString path = m_directory.filePath(kExportedProgram);
-        m_failure = WriteFile(path, WriteXml(m_program));
-        m_files.insert(kExportedProgram, {HMD5::FileDigest(path), QFileInfo(path).size()});
+        const QByteArray program = WriteXml(m_program);
+        const QByteArray digest = QCryptographicHash::hash(program, QCryptographicHash::Md5);
+        m_files.insert(kExportedProgram, {QString::fromLatin1(digest.toHex()), program.size()});
         QString list = QStringLiteral("path\tmd5\tsize\n");
         for (auto file = m_files.cbegin(); file != m_files.cend(); ++file)
             list += QStringLiteral("%1\t%2\t%3\n").arg(file.key(), file->digest).arg(file->size);
+        m_failure = WriteFile(m_directory.filePath(kExportedList), list.toUtf8());
         if (!m_failure)
-            m_failure = WriteFile(m_directory.filePath(kExportedList), list.toUtf8());
+            m_failure = WriteFile(m_directory.filePath(kExportedProgram), program);
     }
 
     const ProgramClocks &m_clocks;

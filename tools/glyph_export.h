@@ -16,8 +16,8 @@ const QString kExportedFiles = QStringLiteral("files");
 using ExportProgress = std::function<void(int clock)>;
 
 /// Makes the glyph images of the clocks, moves them under their digests' names into the directory,
-/// and writes the program and the list of files. The program comes last but one and the list last,
-/// so a directory with a list is whole.
+/// and writes the list of files and, last, the program. What an earlier export left there is
+/// replaced only then, so after a failure it is still whole.
 MaybeFailure ExportProgram(const ProgramClocks &clocks, const QString &directory,
                            const ExportProgress &progress);
 

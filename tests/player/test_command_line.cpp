@@ -134,6 +134,7 @@ void TestCommandLine::Refused_data()
     row("value missing", {"a.xml", "--output"}, "output");
     row("empty output", {"a.xml", "--output", ""}, "--output");
     row("empty plugin directory", {"a.xml", "--plugin-dir="}, "--plugin-dir");
+    row("images made and not made", {"a.xml", "--use-files", "--files-dir", "x"}, "--use-files");
     row("frames without output", {"a.xml", "--frames", "3"}, "--output");
     for (const char *frames : {"0", "-1", "1000001", "3.5", "", "ten", "4294967297"})
         row(qPrintable(QStringLiteral("frames \"%1\"").arg(frames)),

@@ -69,6 +69,7 @@ private slots:
     void Refuses_data();
     void Refuses();
     void RefusesToReplaceTheProgram();
+    void FailureLeavesEarlierExport();
 
 private:
     QString Path(const QString &name) const { return m_directory->filePath(name); }
@@ -260,6 +261,20 @@ void TestToolExport::RefusesToReplaceTheProgram()
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains("the program itself"), qPrintable(run.errors));
     QCOMPARE(ReadText(Path("out/program.xml")), program);
+}
+
+// A directory stands where the list would be written: the images are there, the rest fails.
+void TestToolExport::FailureLeavesEarlierExport()
+{
+    QCOMPARE(Export(ProgramOf("<clock/>")).exitCode, 0);
+    const QByteArray program = ReadText(Path("out/program.xml"));
+    QVERIFY(QFile::remove(Path("out/files.tsv")));
+    QVERIFY(QDir(Path("out")).mkdir("files.tsv"));
+    const ProcessRun run = Export(ProgramOf("<clock type='digital'/>"));
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains("/out/files.tsv: "), qPrintable(run.errors));
+    QCOMPARE(ReadText(Path("out/program.xml")), program);
+    QCOMPARE(Play(Path("out/program.xml"), Path("frames"), {"--use-files"}).errors, QString());
 }
 
 QTEST_GUILESS_MAIN(TestToolExport)
