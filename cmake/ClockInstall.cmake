@@ -1,0 +1,63 @@
+# What is installed where. Programs look for plugins and style pictures beside their own folder, so
+# they stand together in one tree of the same shape as the build's, with links to them in bin.
+#
+# Two components: "runtime" is what plays, "development" is what another project needs to build a
+# host. Every path is relative: the tree runs wherever it is put.
+set(CLOCK_INSTALL_ROOT lib/clock-player)
+set(CLOCK_INSTALL_DOC share/doc/clock-player)
+
+# clock_install_link(LINK TO COMPONENT)
+# A symbolic link, both paths relative: LINK to the prefix, TO to the link's own folder.
+function(clock_install_link link to component)
+    get_filename_component(folder ${link} DIRECTORY)
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/links/${folder})
+    file(CREATE_LINK ${to} ${PROJECT_BINARY_DIR}/links/${link} SYMBOLIC)
+    install(FILES ${PROJECT_BINARY_DIR}/links/${link} DESTINATION ${folder} COMPONENT ${component})
+endfunction()
+
+# clock_install_program(TARGET)
+# The program, and a link to it in bin.
+function(clock_install_program target)
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+    install(TARGETS ${target} RUNTIME DESTINATION ${CLOCK_INSTALL_ROOT}/bin COMPONENT runtime)
+    clock_install_link(bin/${target} ../${CLOCK_INSTALL_ROOT}/bin/${target} runtime)
+endfunction()
+
+# clock_install()
+# All but the style pictures, which image/ installs. Called when every target is known.
+function(clock_install)
+    foreach(program clock_player clock_tool)
+        if(TARGET ${program})
+            clock_install_program(${program})
+        endif()
+    endforeach()
+    install(TARGETS clock_plugin
+        LIBRARY DESTINATION ${CLOCK_INSTALL_ROOT}/plugins COMPONENT runtime NAMELINK_SKIP)
+    install(DIRECTORY examples DESTINATION ${CLOCK_INSTALL_DOC} COMPONENT runtime
+        FILES_MATCHING PATTERN "*.xml")
+    clock_install_host()
+endfunction()
+
+# The stand-in host's library is the programs' own, so it stays within their tree; its link for the
+# linker, the headers and the files for find_package(clock-player) are for development.
+function(clock_install_host)
+    install(TARGETS lw_host EXPORT clock-player-targets
+        LIBRARY DESTINATION ${CLOCK_INSTALL_ROOT}/lib
+        COMPONENT runtime NAMELINK_COMPONENT development)
+    install(DIRECTORY host/ DESTINATION include/clock-player COMPONENT development
+        FILES_MATCHING PATTERN "*.h")
+
+    include(CMakePackageConfigHelpers)
+    set(config_folder lib/cmake/clock-player)
+    set(plugin_folder ${CLOCK_INSTALL_ROOT}/plugins)
+    set(config ${PROJECT_BINARY_DIR}/clock-playerConfig.cmake)
+    configure_package_config_file(cmake/clock-playerConfig.cmake.in ${config}
+        INSTALL_DESTINATION ${config_folder}
+        PATH_VARS plugin_folder)
+    write_basic_package_version_file(${PROJECT_BINARY_DIR}/clock-playerConfigVersion.cmake
+        COMPATIBILITY SameMinorVersion)
+    install(FILES ${config} ${PROJECT_BINARY_DIR}/clock-playerConfigVersion.cmake
+        DESTINATION ${config_folder} COMPONENT development)
+    install(EXPORT clock-player-targets NAMESPACE ClockPlayer::
+        DESTINATION ${config_folder} COMPONENT development)
+endfunction()
