@@ -48,6 +48,7 @@ check_search_paths() {
         fail "the installed player does not use the installed liblw_host"
     for file in "$prefix"/lib/clock-player/bin/* "$prefix"/lib/clock-player/plugins/* \
         "$prefix"/lib/clock-player/lib/*; do
+        # shellcheck disable=SC2016
         if readelf -d "$file" | grep -E 'R(UN)?PATH' | grep -qv '\[\$ORIGIN/\.\./lib\]'; then
             fail "$file looks for libraries outside its tree"
         fi
@@ -57,7 +58,7 @@ check_search_paths() {
 compare_frames() {
     play "$build/bin/clock_player" "$work/built"
     play "$prefix/bin/clock_player" "$work/installed"
-    [ "$(ls "$work/built" | grep -c '\.png$')" = 3 ] || fail "not three frames"
+    [ "$(find "$work/built" -name '*.png' | wc -l)" = 3 ] || fail "not three frames"
     diff -r "$work/built" "$work/installed" || fail "the installed player draws other frames"
 }
 

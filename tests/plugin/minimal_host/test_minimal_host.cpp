@@ -203,7 +203,7 @@ void TestMinimalHost::PictureClockRecordsNoFiles()
     QVERIFY(!node->HaveSourcFile());
 }
 
-// From the element through this host's functions into the node, the glyphs and the frame.
+// From the element through this host's functions into the node, the glyphs and the frame, and back.
 void TestMinimalHost::ColoursKeepTheirBytes()
 {
     const std::unique_ptr<Lw::HNode> node = MakeNode(kDigital);
@@ -211,6 +211,13 @@ void TestMinimalHost::ColoursKeepTheirBytes()
     node->NodeAlready(0);
     const QImage frame = Play(*node, 78).frames.constFirst();
     QVERIFY(Count(frame, qRgb(0x0a, 0xc8, 0x32)) > 100);
+
+    QDomDocument document;
+    QDomElement parent = document.createElement(QStringLiteral("area"));
+    node->CoverToSDKFormate(parent, Lw::ProgramForController);
+    const QDomElement time = parent.elementsByTagName(QStringLiteral("time")).at(0).toElement();
+    QCOMPARE(time.attribute(QStringLiteral("color")),
+             QStringLiteral("#ff0ac832")); // opaque, as all are written
 }
 
 QTEST_MAIN(TestMinimalHost)
