@@ -2,6 +2,7 @@
 
 #include "command_options.h"
 #include "instant.h"
+#include "led_screen.h"
 
 #include "catalogues.h"
 
@@ -30,8 +31,11 @@ public:
         m_options.filesDirectory = Text(kFilesDir);
         ReadProgramPath();
         ReadUseFiles();
+        m_options.printsStats = m_parser.isSet(kStats);
         ReadOutput();
+        ReadLedPitch();
         ReadInstant();
+        ReadSpeed();
         ReadLanguage();
         if (m_failure)
             return *m_failure;
@@ -74,15 +78,41 @@ private:
 
     void ReadFrameNumber(const QString &option, int maximum, int &number)
     {
+        ReadNumber(option, 1, maximum, number);
+        if (m_parser.isSet(option) && !m_options.WritesFrames())
+            Fail(QStringLiteral("--%1 needs --output").arg(option));
+    }
+
+    void ReadNumber(const QString &option, int minimum, int maximum, int &number)
+    {
         if (!m_parser.isSet(option))
             return;
         bool isNumber = false;
         number = m_parser.value(option).toInt(&isNumber);
-        if (!isNumber || number < 1 || number > maximum)
-            Fail(QStringLiteral("--%1 needs a whole number from 1 to %2, not \"%3\"")
-                     .arg(option, QString::number(maximum), m_parser.value(option)));
-        else if (!m_options.WritesFrames())
-            Fail(QStringLiteral("--%1 needs --output").arg(option));
+        if (!isNumber || number < minimum || number > maximum)
+            Fail(QStringLiteral("--%1 needs a whole number from %2 to %3, not \"%4\"")
+                     .arg(option, QString::number(minimum), QString::number(maximum),
+                          m_parser.value(option)));
+    }
+
+    void ReadLedPitch()
+    {
+        ReadNumber(kLed, kMinimumLedPitch, kMaximumLedPitch, m_options.ledPitch);
+        if (m_parser.isSet(kLed) && m_parser.isSet(kMagnify))
+            Fail(QStringLiteral("--%1 and --%2 exclude each other").arg(kLed, kMagnify));
+    }
+
+    void ReadSpeed()
+    {
+        if (!m_parser.isSet(kSpeed))
+            return;
+        bool isNumber = false;
+        m_options.speed = m_parser.value(kSpeed).toDouble(&isNumber);
+        // What is not a number is not within the bounds either.
+        if (!isNumber || !(m_options.speed >= kMinimumSpeed && m_options.speed <= kMaximumSpeed))
+            Fail(QStringLiteral("--%1 needs a number from %2 to %3, not \"%4\"")
+                     .arg(kSpeed, QString::number(kMinimumSpeed), QString::number(kMaximumSpeed),
+                          m_parser.value(kSpeed)));
     }
 
     void ReadInstant()

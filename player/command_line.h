@@ -15,6 +15,8 @@ namespace ClockPlayer {
 constexpr int kDefaultFrames = 10;
 constexpr int kMaximumFrames = 1000000;
 constexpr int kMaximumMagnification = 16;
+constexpr double kMinimumSpeed = 0.01;
+constexpr int kMaximumSpeed = 100000;
 
 struct Options
 {
@@ -26,8 +28,11 @@ struct Options
     QString platform;        ///< Qt platform plugin; empty: Qt's own choice
     int frames = kDefaultFrames;
     int magnification = 1; ///< pixels of the frames' files a pixel of the screen, each way
+    int ledPitch = 0;      ///< pixels from diode to diode; 0: no preview of diodes
+    double speed = 1;      ///< seconds of the clocks for each real one
     std::optional<qint64> startInstant; ///< UTC milliseconds; nothing: the system's time
     bool usesFiles = false;             ///< the glyph files that came with the program
+    bool printsStats = false;           ///< of the deadline meter, at the end
     bool checkDisplay = false;          ///< only find out whether the display can be reached
 
     bool WritesFrames() const { return !outputDirectory.isEmpty(); }

@@ -1,6 +1,8 @@
 #include "command_options.h"
 
 #include "command_line.h"
+#include "controls.h"
+#include "led_screen.h"
 
 #include "catalogues.h"
 
@@ -25,7 +27,15 @@ const char kDescription[] =
     "Examples:\n"
     "  clock_player station.xml\n"
     "  clock_player station.xml -platform linuxfb\n"
-    "  clock_player station.xml --output frames --frames 3 --at 2024-02-29T23:59:58+01:00";
+    "  clock_player station.xml --output frames --frames 3 --at 2024-02-29T23:59:58+01:00\n"
+    "  clock_player station.xml --led 6 --at 2024-03-31T00:59:00Z --speed 10\n"
+    "\n"
+    "Keys in the window, whose title tells the instant, the time of a clock and its next change:\n";
+
+QString Indented(QString text)
+{
+    return QStringLiteral("  ") + text.replace(QLatin1Char('\n'), QStringLiteral("\n  "));
+}
 
 QCommandLineOption Hidden(QCommandLineOption option)
 {
@@ -42,7 +52,7 @@ QString LanguageList()
 
 void AddOptions(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(QString::fromLatin1(kDescription));
+    parser.setApplicationDescription(QString::fromLatin1(kDescription) + Indented(KeysText()));
     parser.addPositionalArgument(QStringLiteral("program.xml"),
                                  QStringLiteral("The content program to play."));
     parser.addOption({{QStringLiteral("h"), kHelp}, QStringLiteral("Show this text.")});
@@ -62,11 +72,30 @@ void AddOptions(QCommandLineParser &parser)
                                      "a side, 1 to %1 (default 1).")
                           .arg(kMaximumMagnification),
                       QStringLiteral("number")});
+    parser.addOption(
+        {kLed,
+         QStringLiteral("Preview the wall: draw each pixel as a round diode in a black "
+                        "mask, <pixels> from one to the next, %1 to %2. In the window "
+                        "and in frames; not with --magnify.")
+             .arg(kMinimumLedPitch)
+             .arg(kMaximumLedPitch),
+         QStringLiteral("pixels")});
     parser.addOption({kAt,
                       QStringLiteral("Begin at <instant> instead of now: ISO 8601, such as "
                                      "2024-03-31T02:59:58+01:00; UTC without an offset. Frames "
                                      "begin at its whole second."),
                       QStringLiteral("instant")});
+    parser.addOption(
+        {kSpeed,
+         QStringLiteral("Let the clocks' time run <factor> times as fast as real time, "
+                        "%1 to %2. Frames then lie so many seconds apart.")
+             .arg(kMinimumSpeed)
+             .arg(kMaximumSpeed),
+         QStringLiteral("factor")});
+    parser.addOption({kStats,
+                      QStringLiteral("Print at the end to standard error how long frames took to "
+                                     "draw and how long after the whole second they were seen, in "
+                                     "milliseconds. SIGUSR1 prints it meanwhile.")});
     parser.addOption({kLanguage,
                       QStringLiteral("Language of the clocks' wording: %1 (default: the "
                                      "locale's).")

@@ -1,6 +1,8 @@
 #include "frame_writer.h"
 
+#include "deadline_meter.h"
 #include "instant.h"
+#include "led_screen.h"
 #include "player_time.h"
 #include "screen_composer.h"
 #include "stage.h"
@@ -24,10 +26,37 @@ MaybeFailure SaveFrame(const QImage &screen, const QString &path)
                     QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString())};
 }
 
-Failure TooLarge(int magnification)
+Failure TooLarge(const FrameRun &run)
 {
+    const int times = run.ledPitch ? run.ledPitch : run.magnification;
     return {ExitCode::RuntimeFailure,
-            QStringLiteral("the screen is too large to be magnified %1 times").arg(magnification)};
+            QStringLiteral("the screen is too large to be magnified %1 times").arg(times)};
+}
+
+QImage Enlarged(const QImage &screen, const FrameRun &run)
+{
+    return run.ledPitch ? LedScreen(run.ledPitch).Diodes(screen)
+                        : Magnified(screen, run.magnification);
+}
+
+qint64 InstantOfFrame(int number, const FrameRun &run)
+{
+    return WholeSecond(run.start) + WholeSecond(qRound64(1000.0 * (number - 1) * run.speed));
+}
+
+/// The picture of a frame, drawn now.
+QImage DrawFrame(Stage &stage, int number, const FrameRun &run)
+{
+    const double begun = PlayerTime::Steady();
+    PlayerTime::HoldAt(InstantOfFrame(number, run));
+    if (number == 1)
+        stage.Start();
+    else
+        stage.PlayNext();
+    const QImage frame = Enlarged(stage.Screen(), run);
+    if (run.meter)
+        run.meter->Drew(PlayerTime::Steady() - begun);
+    return frame;
 }
 
 } // namespace
@@ -41,17 +70,11 @@ QString FrameName(int number, int count)
 MaybeFailure WriteFrames(Stage &stage, const FrameRun &run)
 {
     const QDir directory(run.directory);
-    PlayerTime::HoldAt(WholeSecond(run.start));
-    stage.Start();
     for (int number = 1; number <= run.count; ++number) {
-        if (number > 1) {
-            PlayerTime::StepToNextSecond();
-            stage.PlayNext();
-        }
         const QString path = directory.filePath(FrameName(number, run.count));
-        const QImage frame = Magnified(stage.Screen(), run.magnification);
+        const QImage frame = DrawFrame(stage, number, run);
         if (frame.isNull())
-            return TooLarge(run.magnification);
+            return TooLarge(run);
         if (const MaybeFailure failure = SaveFrame(frame, path))
             return failure;
         if (run.isEnded())

@@ -8,15 +8,19 @@
 
 namespace ClockPlayer {
 
+class DeadlineMeter;
 class Stage;
 
 struct FrameRun
 {
     QString directory; ///< exists; files of the frames' names are replaced
     int count = 0;
-    int magnification = 1;         ///< each pixel becomes a square of so many a side
-    qint64 start = 0;              ///< UTC milliseconds; the first frame shows its whole second
-    std::function<bool()> isEnded; ///< asked after each frame; true ends the run early
+    int magnification = 1;          ///< each pixel becomes a square of so many a side,
+    int ledPitch = 0;               ///< or, unless 0, a diode this far from the next
+    double speed = 1;               ///< seconds of the clocks from frame to frame
+    qint64 start = 0;               ///< UTC milliseconds; the first frame shows its whole second
+    DeadlineMeter *meter = nullptr; ///< told how long the frames took to draw, if any
+    std::function<bool()> isEnded;  ///< asked after each frame; true ends the run early
 };
 
 /// Starts the stage and writes its frames. The plugins must take their time from PlayerTime, and

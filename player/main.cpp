@@ -71,6 +71,10 @@ int main(int argc, char **argv)
     if (!qEnvironmentVariableIsSet("QT_FONT_DPI"))
         qputenv("QT_FONT_DPI", "96");
 
+    // What has changed is shown at once, not gathered for five milliseconds.
+    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
+        qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+
     const CommandLine commandLine = ReadCommandLine(argc, argv);
     if (const auto *information = std::get_if<Information>(&commandLine)) {
         std::fputs(qPrintable(information->text), stdout);

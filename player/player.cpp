@@ -1,6 +1,9 @@
 #include "player.h"
 
+#include "deadline_meter.h"
 #include "frame_writer.h"
+#include "led_screen.h"
+#include "playback.h"
 #include "player_time.h"
 #include "player_window.h"
 #include "plugins.h"
@@ -16,6 +19,7 @@
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
+#include <csignal>
 #include <cstdio>
 
 namespace ClockPlayer {
@@ -41,41 +45,83 @@ MaybeFailure PrepareDirectory(const QString &path)
     return RuntimeFailure(QStringLiteral("%1: cannot write to this directory").arg(path));
 }
 
-MaybeFailure UseTime(const Options &options)
+// Without a time source in any plugin the clocks can still show the present.
+MaybeFailure UseTime(const Options &options, Playback::Travelling &travelling)
 {
-    if (!options.startInstant && !options.WritesFrames())
-        return std::nullopt;
-    return SetTimeSource(&PlayerTime::Now);
+    const MaybeFailure failure = SetTimeSource(&PlayerTime::Now);
+    travelling = failure ? Playback::Travelling::Impossible : Playback::Travelling::Possible;
+    const bool isNeeded = options.startInstant || options.speed != 1 || options.WritesFrames();
+    return isNeeded ? failure : std::nullopt;
 }
 
-MaybeFailure PlayInWindow(Stage &stage, const Options &options)
+void SetOut(const Options &options)
 {
-    QuitSignals quitSignals;
-    QObject::connect(&quitSignals, &QuitSignals::Requested, qApp, &QCoreApplication::quit);
-    PlayerWindow window(stage, QFileInfo(options.programPath).fileName());
-    window.show();
     if (options.startInstant)
         PlayerTime::RunFrom(*options.startInstant);
-    stage.Start();
+    if (options.speed != 1)
+        PlayerTime::Travel().SetSpeed(options.speed, PlayerTime::Real());
+}
+
+void PrintStats(const DeadlineMeter &meter, const Warn &warn)
+{
+    for (const QString &line : meter.Report())
+        warn(line);
+}
+
+std::optional<LedScreen> Leds(const Options &options)
+{
+    return options.ledPitch ? std::optional(LedScreen(options.ledPitch)) : std::nullopt;
+}
+
+MaybeFailure PlayInWindow(Stage &stage, const Options &options, Playback::Travelling travelling,
+                          const Warn &warn)
+{
+    const int scale = qMax(1, options.ledPitch);
+    if (qMax(stage.Size().width(), stage.Size().height()) * scale > kMaximumSide)
+        return RuntimeFailure(
+            QStringLiteral("the screen is too large to be magnified %1 times").arg(scale));
+    QuitSignals quitSignals;
+    QObject::connect(&quitSignals, &QuitSignals::Requested, qApp, &QCoreApplication::quit);
+    const SignalPipe reportSignal({SIGUSR1}, SignalPipe::Times::Always);
+    PlayerWindow window(stage, QFileInfo(options.programPath).fileName(), Leds(options));
+    Playback playback(stage, window, travelling);
+    const auto print = [&playback, &warn] { PrintStats(playback.Meter(), warn); };
+    QObject::connect(&playback, &Playback::StatsWanted, print);
+    QObject::connect(&reportSignal, &SignalPipe::Received, print);
+    window.show();
+    SetOut(options);
+    playback.Start();
     QGuiApplication::exec();
+    if (options.printsStats)
+        print();
     return std::nullopt;
 }
 
-MaybeFailure PlayToFiles(Stage &stage, const Options &options)
+MaybeFailure PlayToFiles(Stage &stage, const Options &options, const Warn &warn)
 {
     const QuitSignals quitSignals;
+    const SignalPipe reportSignal({SIGUSR1}, SignalPipe::Times::Always);
+    DeadlineMeter meter;
+    const auto print = [&meter, &warn] { PrintStats(meter, warn); };
+    QObject::connect(&reportSignal, &SignalPipe::Received, print);
     // Nobody waits for the seconds: the frame writer has each picture drawn itself.
     Lw::pictureplayer::SetTimeScale(0);
     FrameRun run;
     run.directory = options.outputDirectory;
     run.count = options.frames;
     run.magnification = options.magnification;
-    run.start = options.startInstant.value_or(PlayerTime::Now());
+    run.ledPitch = options.ledPitch;
+    run.speed = options.speed;
+    run.meter = &meter;
+    run.start = options.startInstant.value_or(PlayerTime::Instant());
     run.isEnded = [] {
         QCoreApplication::processEvents();
         return QuitSignals::IsRequested();
     };
-    if (const MaybeFailure failure = WriteFrames(stage, run))
+    const MaybeFailure failure = WriteFrames(stage, run);
+    if (options.printsStats)
+        print();
+    if (failure)
         return failure;
     if (QuitSignals::IsRequested())
         return RuntimeFailure(QStringLiteral("interrupted"));
@@ -91,7 +137,8 @@ MaybeFailure Play(const Options &options, const Program &program, const Warn &wa
     QStringList warnings;
     if (const MaybeFailure failure = LoadPlugins(PluginDirectory(options), warnings))
         return failure;
-    if (const MaybeFailure failure = UseTime(options))
+    auto travelling = Playback::Travelling::Impossible;
+    if (const MaybeFailure failure = UseTime(options, travelling))
         return failure;
 
     const QTemporaryDir temporary;
@@ -115,7 +162,8 @@ MaybeFailure Play(const Options &options, const Program &program, const Warn &wa
         warn(warning);
     if (failure)
         return failure;
-    return options.WritesFrames() ? PlayToFiles(stage, options) : PlayInWindow(stage, options);
+    return options.WritesFrames() ? PlayToFiles(stage, options, warn)
+                                  : PlayInWindow(stage, options, travelling, warn);
 }
 
 } // namespace ClockPlayer

@@ -1,63 +1,71 @@
 #include "player_time.h"
 
-#include "instant.h"
-
 #include <QDateTime>
 #include <QElapsedTimer>
+
+#include <utility>
 
 namespace ClockPlayer::PlayerTime {
 
 namespace {
 
-enum class Mode { System, Running, Held };
-
-struct State
+std::optional<Reading> &NotedReading()
 {
-    Mode mode = Mode::System;
-    qint64 instant = 0;
-    QElapsedTimer since;
-};
-
-State &Current()
-{
-    static State state;
-    return state;
+    static std::optional<Reading> reading;
+    return reading;
 }
 
 } // namespace
 
 long long Now()
 {
-    const State &state = Current();
-    switch (state.mode) {
-    case Mode::Running:
-        return state.instant + state.since.elapsed();
-    case Mode::Held:
-        return state.instant;
-    case Mode::System:
-        break;
-    }
-    return QDateTime::currentMSecsSinceEpoch();
+    const qint64 instant = Instant();
+    NotedReading() = Reading {instant, Steady()};
+    return instant;
+}
+
+std::optional<Reading> TakeReading()
+{
+    return std::exchange(NotedReading(), std::nullopt);
+}
+
+qint64 Instant()
+{
+    return Travel().Shown(Real());
+}
+
+TimeTravel &Travel()
+{
+    static TimeTravel travel;
+    return travel;
+}
+
+RealTime Real()
+{
+    return {QDateTime::currentMSecsSinceEpoch(), static_cast<qint64>(Steady())};
+}
+
+double Steady()
+{
+    static const QElapsedTimer timer = [] {
+        QElapsedTimer started;
+        started.start();
+        return started;
+    }();
+    return double(timer.nsecsElapsed()) / 1e6;
 }
 
 void RunFrom(qint64 utcMilliseconds)
 {
-    State &state = Current();
-    state.mode = Mode::Running;
-    state.instant = utcMilliseconds;
-    state.since.start();
+    Travel().ReturnToPresent();
+    Travel().GoTo(utcMilliseconds, Real());
 }
 
 void HoldAt(qint64 utcMilliseconds)
 {
-    State &state = Current();
-    state.mode = Mode::Held;
-    state.instant = utcMilliseconds;
-}
-
-void StepToNextSecond()
-{
-    HoldAt(WholeSecond(Current().instant) + 1000);
+    RunFrom(utcMilliseconds);
+    Travel().SetPaused(true, Real());
+    Travel().GoTo(utcMilliseconds, Real());
 }
 
 } // namespace ClockPlayer::PlayerTime

@@ -1,30 +1,74 @@
 #include "player_window.h"
 
+#include "overlay.h"
+#include "player_time.h"
 #include "screen_composer.h"
 #include "stage.h"
 
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
 namespace ClockPlayer {
 
-PlayerWindow::PlayerWindow(const Stage &stage, const QString &title)
-    : m_stage(stage), m_screen(BlackScreen(stage.Size()))
+PlayerWindow::PlayerWindow(const Stage &stage, const QString &title,
+                           const std::optional<LedScreen> &leds)
+    : m_stage(stage), m_leds(leds), m_screen(BlackScreen(stage.Size()))
 {
+    const QSize size = m_leds ? stage.Size() * m_leds->Pitch() : stage.Size();
     setTitle(title);
-    resize(stage.Size());
-    setMinimumSize(stage.Size());
-    connect(&stage, &Stage::Changed, this, [this](const QRect &region) { update(region); });
+    resize(size);
+    setMinimumSize(size);
+    connect(&stage, &Stage::Changed, this,
+            [this](const QRect &region) { update(m_leds ? m_leds->Magnified(region) : region); });
+}
+
+void PlayerWindow::SetOverlay(const QString &text)
+{
+    if (text == m_overlay)
+        return;
+    m_overlay = text;
+    update();
+}
+
+// The base class paints and brings the picture to the display within this event.
+bool PlayerWindow::event(QEvent *event)
+{
+    const double begun = PlayerTime::Steady();
+    const bool isPaint = event->type() == QEvent::UpdateRequest;
+    const bool accepted = QRasterWindow::event(event);
+    if (isPaint)
+        emit Painted(begun);
+    return accepted;
+}
+
+void PlayerWindow::keyPressEvent(QKeyEvent *event)
+{
+    const std::optional<Command> command = CommandOf(event->key(), event->modifiers());
+    // A key that is held down steps on and on, and does nothing else twice.
+    if (command && (!event->isAutoRepeat() || command->control == Control::Step))
+        emit Commanded(*command);
 }
 
 void PlayerWindow::paintEvent(QPaintEvent *event)
 {
     const QRect region = event->region().boundingRect();
-    ComposeScreen(m_screen, m_stage.Layers(), region);
     QPainter painter(this);
+    painter.setClipRect(region);
     // Some platforms make the window larger than the screen that plays.
     painter.fillRect(region, Qt::black);
-    painter.drawImage(region, m_screen, region);
+    PaintScreen(painter, region);
+    PaintOverlay(painter, size(), m_overlay);
+}
+
+void PlayerWindow::PaintScreen(QPainter &painter, const QRect &region)
+{
+    const QRect pixels = (m_leds ? m_leds->Reduced(region) : region) & m_screen.rect();
+    ComposeScreen(m_screen, m_stage.Layers(), pixels);
+    if (m_leds)
+        painter.drawImage(m_leds->Magnified(pixels).topLeft(), m_leds->Diodes(m_screen, pixels));
+    else
+        painter.drawImage(pixels, m_screen, pixels);
 }
 
 } // namespace ClockPlayer

@@ -1,7 +1,7 @@
 // Lets the player end in good order when the system or the keyboard asks it to.
 #pragma once
 
-#include <QObject>
+#include "signal_pipe.h"
 
 namespace ClockPlayer {
 
@@ -13,7 +13,6 @@ class QuitSignals : public QObject
 
 public:
     explicit QuitSignals(QObject *parent = nullptr);
-    ~QuitSignals() override;
 
     static bool IsRequested();
 
@@ -21,7 +20,7 @@ Q_SIGNALS:
     void Requested(); ///< from the event loop
 
 private:
-    int m_ends[2] = {-1, -1};
+    SignalPipe m_pipe;
 };
 
 } // namespace ClockPlayer

@@ -45,6 +45,16 @@ void Stage::PlayNext()
         area->PlayNext();
 }
 
+QVector<Lw::HNode *> Stage::Nodes() const
+{
+    QVector<Lw::HNode *> nodes;
+    for (const auto &area : m_areas) {
+        if (area->Node())
+            nodes.append(area->Node());
+    }
+    return nodes;
+}
+
 QVector<Layer> Stage::Layers() const
 {
     QVector<Layer> layers;

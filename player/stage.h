@@ -27,6 +27,7 @@ public:
     void Start();    ///< every area shows its first picture
     void PlayNext(); ///< every area shows its next picture now
 
+    QVector<Lw::HNode *> Nodes() const; ///< those that still live
     QVector<Layer> Layers() const;
     QImage Screen() const; ///< the composed screen
 

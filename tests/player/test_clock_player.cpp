@@ -33,6 +33,10 @@ private slots:
     void NamesOfFrames();
     void MagnifiedFrames();
     void ScreenTooLargeToMagnify();
+    void FramesOfDiodes();
+    void FramesFurtherApart_data();
+    void FramesFurtherApart();
+    void StatsOfFrames();
     void OldFramesAreReplaced();
     void RedrawRequestsAreGathered();
     void NodeDiesWhilePlaying();
@@ -167,6 +171,66 @@ void TestClockPlayer::ScreenTooLargeToMagnify()
     QCOMPARE(run.errors,
              QStringLiteral("clock_player: the screen is too large to be magnified 16 times\n"));
     QVERIFY(Frames(Path("out")).isEmpty());
+}
+
+// The panel shows the key colour in its left column, and blue, brighter than a dark lens, beside.
+void TestClockPlayer::FramesOfDiodes()
+{
+    const PlayerRun run = Play({WriteProgram(Area(2, "<panel/>")), "--frames", "1", "--at",
+                                "2024-05-06T07:08:09", "--led", "5"});
+    QCOMPARE(run.errors, QString());
+    const QImage frame = Frames(Path("out")).value(0);
+    QCOMPARE(frame.size(), QSize(40, 10));
+    for (int x = 0; x < 8; ++x) {
+        const bool shines = x >= 3 && x <= 5;
+        QCOMPARE(frame.pixel(5 * x + 2, 7), shines ? qRgb(9, 1, 104) : qRgb(18, 18, 20));
+        QCOMPARE(frame.pixel(5 * x, 5), qRgb(0, 0, 0));
+        QCOMPARE(frame.pixel(5 * x + 4, 9), qRgb(0, 0, 0));
+    }
+    const QString large =
+        Write("large.xml",
+              "<program width=\"4096\" height=\"256\">" + Area(0, "<panel/>") + "</program>");
+    const PlayerRun tooLarge = Play({large, "--frames", "1", "--led", "9"});
+    QCOMPARE(tooLarge.exitCode, 1);
+    QCOMPARE(tooLarge.errors,
+             QStringLiteral("clock_player: the screen is too large to be magnified 9 times\n"));
+    QCOMPARE(RunPlayer({"--plugin-dir", kPanels, "-platform", "offscreen", large, "--led", "9"})
+                 .exitCode,
+             1);
+}
+
+void TestClockPlayer::FramesFurtherApart_data()
+{
+    QTest::addColumn<QString>("speed");
+    QTest::addColumn<QVector<int>>("seconds");
+    QTest::newRow("seven seconds") << "7" << QVector<int> {58, 5, 12, 19};
+    QTest::newRow("an hour and a second") << "3601" << QVector<int> {58, 59, 0, 1};
+    QTest::newRow("half a second") << "0.5" << QVector<int> {58, 58, 59, 59};
+}
+
+void TestClockPlayer::FramesFurtherApart()
+{
+    QFETCH(QString, speed);
+    QFETCH(QVector<int>, seconds);
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel/>")), "--frames", "4", "--at",
+                                "2024-02-29T23:59:58.900Z", "--speed", speed});
+    QCOMPARE(run.exitCode, 0);
+    QVector<int> shown;
+    for (const QImage &frame : Frames(Path("out")))
+        shown.append(qRed(frame.pixel(1, 0)));
+    QCOMPARE(shown, seconds);
+}
+
+void TestClockPlayer::StatsOfFrames()
+{
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel/>")), "--frames", "3", "--stats"});
+    QCOMPARE(run.exitCode, 0);
+    const QStringList lines = run.errors.split('\n');
+    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines[0], QString("clock_player: frames: 3, missed seconds: 0, clock steps: 0"));
+    const QRegularExpression drawing("^clock_player: drawing ms: minimum \\d+\\.\\d\\d, ");
+    QVERIFY2(drawing.match(lines[1]).hasMatch(), qPrintable(lines[1]));
+    QCOMPARE(lines[2], QString("clock_player: lateness ms: none"));
 }
 
 void TestClockPlayer::NamesOfFrames()

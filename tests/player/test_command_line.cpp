@@ -22,6 +22,7 @@ class TestCommandLine : public QObject
 private slots:
     void Defaults();
     void Everything();
+    void PreviewAndTravel();
     void QtOptionsWithOneDash();
     void DefaultsOfScripts();
     void Languages();
@@ -40,6 +41,9 @@ void TestCommandLine::Defaults()
     QVERIFY(!options.WritesFrames());
     QCOMPARE(options.frames, 10);
     QCOMPARE(options.magnification, 1);
+    QCOMPARE(options.ledPitch, 0);
+    QCOMPARE(options.speed, 1.0);
+    QVERIFY(!options.printsStats);
     QVERIFY(!options.startInstant);
     QVERIFY(options.pluginDirectory.isEmpty() && options.filesDirectory.isEmpty());
     QVERIFY(options.language.isEmpty() && options.platform.isEmpty());
@@ -60,6 +64,21 @@ void TestCommandLine::Everything()
     QCOMPARE(options.pluginDirectory, QStringLiteral("plugins"));
     QCOMPARE(options.filesDirectory, QStringLiteral("files"));
     QCOMPARE(options.platform, QStringLiteral("minimal"));
+}
+
+void TestCommandLine::PreviewAndTravel()
+{
+    const CommandLine line =
+        Parsed({"a.xml", "--led", "64", "--speed", "0.01", "--stats", "--at", "2024-01-01"});
+    QVERIFY(std::holds_alternative<Options>(line));
+    const Options &options = std::get<Options>(line);
+    QVERIFY(!options.WritesFrames());
+    QCOMPARE(options.ledPitch, 64);
+    QCOMPARE(options.speed, 0.01);
+    QVERIFY(options.printsStats);
+    const CommandLine fast = Parsed({"a.xml", "-o", "out", "--led=3", "--speed=1e5"});
+    QCOMPARE(std::get<Options>(fast).ledPitch, 3);
+    QCOMPARE(std::get<Options>(fast).speed, 100000.0);
 }
 
 void TestCommandLine::QtOptionsWithOneDash()
@@ -143,6 +162,13 @@ void TestCommandLine::Refused_data()
     for (const char *times : {"0", "-1", "17", "1.5", "", "two", "4294967297"})
         row(qPrintable(QStringLiteral("magnified \"%1\"").arg(times)),
             {"a.xml", "-o", "out", "--magnify", times}, "--magnify");
+    for (const char *pitch : {"0", "-4", "2", "65", "4.5", "", "many", "4294967300"})
+        row(qPrintable(QStringLiteral("diodes \"%1\"").arg(pitch)), {"a.xml", "--led", pitch},
+            "--led");
+    row("diodes and squares", {"a.xml", "-o", "out", "--led", "4", "--magnify", "4"}, "exclude");
+    for (const char *speed : {"0", "-1", "0.009", "100001", "1e6", "inf", "nan", "", "fast", "2x"})
+        row(qPrintable(QStringLiteral("speed \"%1\"").arg(speed)), {"a.xml", "--speed", speed},
+            "--speed");
     row("malformed instant", {"a.xml", "--at", "noon"}, "noon");
     row("empty instant", {"a.xml", "--at", ""}, "--at");
 }

@@ -19,6 +19,7 @@ private slots:
     void WholeSeconds();
     void SystemTime();
     void HeldTime();
+    void ReadingsOfPlugins();
     void RunningTime();
 };
 
@@ -105,7 +106,7 @@ void TestInstant::WholeSeconds()
     QCOMPARE(WholeSecond(instant), second);
 }
 
-// Runs first of the three: the player's time is one for the process.
+// Runs first of the four: the player's time is one for the process.
 void TestInstant::SystemTime()
 {
     const qint64 before = QDateTime::currentMSecsSinceEpoch();
@@ -118,10 +119,23 @@ void TestInstant::HeldTime()
     PlayerTime::HoldAt(1700);
     QTest::qWait(5);
     QCOMPARE(PlayerTime::Now(), 1700LL);
-    PlayerTime::StepToNextSecond();
-    QCOMPARE(PlayerTime::Now(), 2000LL);
-    PlayerTime::StepToNextSecond();
+    PlayerTime::HoldAt(3000);
     QCOMPARE(PlayerTime::Now(), 3000LL);
+}
+
+void TestInstant::ReadingsOfPlugins()
+{
+    PlayerTime::HoldAt(1700);
+    PlayerTime::TakeReading();
+    QCOMPARE(PlayerTime::Instant(), qint64(1700));
+    QVERIFY(!PlayerTime::TakeReading()); // the player's own readings are not noted
+    const double before = PlayerTime::Steady();
+    PlayerTime::Now();
+    const std::optional<PlayerTime::Reading> reading = PlayerTime::TakeReading();
+    QVERIFY(reading.has_value());
+    QCOMPARE(reading->instant, qint64(1700));
+    QVERIFY(reading->steady >= before && reading->steady <= PlayerTime::Steady());
+    QVERIFY(!PlayerTime::TakeReading());
 }
 
 void TestInstant::RunningTime()

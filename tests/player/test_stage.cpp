@@ -123,7 +123,7 @@ void TestStage::WindowShowsTheScreen()
         return window.screen()->grabWindow(window.winId()).toImage().pixel(5, 1);
     };
     QTRY_COMPARE(shown(), qRgb(7, 1, 104));
-    PlayerTime::StepToNextSecond();
+    PlayerTime::HoldAt(8000);
     stage.PlayNext();
     QTRY_COMPARE(shown(), qRgb(8, 1, 104));
 }

@@ -1,0 +1,170 @@
+#include "playback.h"
+
+#include "player_time.h"
+#include "player_window.h"
+#include "stage.h"
+#include "status_text.h"
+
+#include "pictureplayer.h"
+
+namespace ClockPlayer {
+
+namespace {
+
+constexpr int kStatusDelay = 20; // milliseconds; also bounds how often titles change
+
+} // namespace
+
+Playback::Playback(Stage &stage, PlayerWindow &window, Travelling travelling)
+    : m_stage(stage), m_window(window), m_canTravel(travelling == Travelling::Possible),
+      m_name(window.title())
+{
+    m_status.setSingleShot(true);
+    m_status.setInterval(kStatusDelay);
+    connect(&m_status, &QTimer::timeout, this, &Playback::ShowStatus);
+    connect(&window, &PlayerWindow::Commanded, this, &Playback::Obey);
+    connect(&window, &PlayerWindow::Painted, this, &Playback::NotePaint);
+    connect(&stage, &Stage::Changed, this, &Playback::NotePicture);
+    connect(&m_clockSteps, &ClockSteps::Stepped, this, &Playback::FollowSteppedClock);
+}
+
+void Playback::Start()
+{
+    const TimeTravel &travel = PlayerTime::Travel();
+    Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
+    m_stage.Start();
+    ShowStatus();
+}
+
+void Playback::Obey(const Command &command)
+{
+    switch (command.control) {
+    case Control::Pause:
+    case Control::Step:
+    case Control::Now:
+        if (m_canTravel)
+            Travel(command);
+        break;
+    case Control::NextClock:
+        ++m_clock;
+        break;
+    case Control::Stats:
+        emit StatsWanted();
+        break;
+    case Control::Status:
+        m_showsStatus = !m_showsStatus;
+        break;
+    case Control::Help:
+        m_showsHelp = !m_showsHelp;
+        break;
+    case Control::Quit:
+        m_window.close();
+        return;
+    }
+    ShowStatus();
+}
+
+void Playback::Travel(const Command &command)
+{
+    TimeTravel &travel = PlayerTime::Travel();
+    const RealTime real = PlayerTime::Real();
+    if (command.control == Control::Pause)
+        travel.SetPaused(!travel.IsPaused(), real);
+    else if (command.control == Control::Step)
+        travel.Step(command.step, real);
+    else
+        travel.ReturnToPresent();
+    ShowTravelledTime();
+}
+
+// Each area draws now, and thereby waits anew: for its next second at the speed there is now, or
+// for nothing.
+void Playback::ShowTravelledTime()
+{
+    const TimeTravel &travel = PlayerTime::Travel();
+    m_meter.Jumped();
+    m_drawn.reset();
+    Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
+    m_stage.PlayNext();
+}
+
+// What waits for the end of a second would show the old time until then.
+void Playback::FollowSteppedClock()
+{
+    if (PlayerTime::Travel().IsPresent())
+        m_stage.PlayNext();
+}
+
+// A plugin that does not take its time from the player is not measured.
+void Playback::NotePicture()
+{
+    if (!m_status.isActive())
+        m_status.start();
+    const std::optional<PlayerTime::Reading> reading = PlayerTime::TakeReading();
+    if (!m_window.isExposed()) {
+        m_meter.Jumped();
+        m_drawn.reset();
+        return;
+    }
+    if (!reading)
+        return;
+    if (!m_drawn) {
+        m_drawn = SeenFrame();
+        m_drawn->instant = reading->instant;
+        m_drawn->begun = reading->steady;
+        m_drawn->speed = PlayerTime::Travel().Speed();
+    }
+    m_drawn->drawing += PlayerTime::Steady() - reading->steady;
+}
+
+void Playback::NotePaint(double begun)
+{
+    if (!m_drawn)
+        return;
+    m_drawn->seen = PlayerTime::Steady();
+    m_drawn->drawing += m_drawn->seen - begun;
+    m_meter.Saw(*m_drawn);
+    m_drawn.reset();
+}
+
+void Playback::ShowStatus()
+{
+    const QString status = Status();
+    const QString title = m_name + QStringLiteral(" | ") + status;
+    if (title != m_window.title())
+        m_window.setTitle(title);
+    QStringList overlay;
+    if (m_showsHelp)
+        overlay.append(KeysText());
+    if (m_showsStatus)
+        overlay.append(status);
+    m_window.SetOverlay(overlay.join(QStringLiteral("\n\n")));
+}
+
+QString Playback::Status() const
+{
+    const TimeTravel &travel = PlayerTime::Travel();
+    const QVector<ClockSettings> clocks = Clocks();
+    ClockPlayer::Status status;
+    status.instant = PlayerTime::Instant();
+    status.paused = travel.IsPaused();
+    status.speed = travel.Speed();
+    if (!clocks.isEmpty()) {
+        status.clockCount = clocks.size();
+        status.clockNumber = m_clock % clocks.size() + 1;
+        status.clock = clocks[status.clockNumber - 1];
+    }
+    return StatusText(status);
+}
+
+QVector<ClockSettings> Playback::Clocks() const
+{
+    QVector<ClockSettings> clocks;
+    for (Lw::HNode *const node : m_stage.Nodes()) {
+        if (const std::optional<ClockSettings> settings = SettingsOf(node))
+            clocks.append(*settings);
+    }
+    return clocks;
+}
+
+} // namespace ClockPlayer

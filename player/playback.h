@@ -1,0 +1,61 @@
+// What happens in the window while a program plays: keys travel in time, the title tells where,
+// and every frame is measured.
+#pragma once
+
+#include "clock_settings.h"
+#include "clock_steps.h"
+#include "controls.h"
+#include "deadline_meter.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <optional>
+
+namespace ClockPlayer {
+
+class PlayerWindow;
+class Stage;
+
+/// Stage and window must outlive it.
+class Playback : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Travelling { Possible, Impossible }; ///< the plugins take the time from the player
+
+    Playback(Stage &stage, PlayerWindow &window, Travelling travelling);
+
+    /// Shows the first pictures; the player's time is as it should begin.
+    void Start();
+    const DeadlineMeter &Meter() const { return m_meter; }
+
+Q_SIGNALS:
+    void StatsWanted();
+
+private:
+    void Obey(const Command &command);
+    void Travel(const Command &command);
+    void ShowTravelledTime();
+    void FollowSteppedClock();
+    void NotePicture();
+    void NotePaint(double begun);
+    void ShowStatus();
+    QString Status() const;
+    QVector<ClockSettings> Clocks() const;
+
+    Stage &m_stage;
+    PlayerWindow &m_window;
+    const bool m_canTravel;
+    const QString m_name; ///< the window's first title
+    DeadlineMeter m_meter;
+    std::optional<SeenFrame> m_drawn; ///< on its way to the display
+    ClockSteps m_clockSteps;
+    QTimer m_status; ///< gathers the pictures of all areas
+    int m_clock = 0; ///< that the status tells of
+    bool m_showsStatus = false;
+    bool m_showsHelp = false;
+};
+
+} // namespace ClockPlayer
