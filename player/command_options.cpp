@@ -69,7 +69,7 @@ void AddOptions(QCommandLineParser &parser)
                       QStringLiteral("number")});
     parser.addOption({kMagnify,
                       QStringLiteral("Draw each pixel of the frames as a square of so many pixels "
-                                     "a side, 1 to %1 (default 1).")
+                                     "a side, 1 to %1 (default 1). For diodes see --led.")
                           .arg(kMaximumMagnification),
                       QStringLiteral("number")});
     parser.addOption(
