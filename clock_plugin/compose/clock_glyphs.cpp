@@ -1,12 +1,12 @@
 #include "compose/clock_glyphs.h"
 
-#include "compose/glyph_reading.h"
 #include "glyph/glyph_set.h"
 
-#include <QDateTime>
-#include <QFileInfo>
+#include <QFile>
 
 #include <iterator>
+
+#include <sys/stat.h>
 
 namespace Lw::HNodeClock {
 
@@ -16,16 +16,14 @@ namespace {
 constexpr Glyph kWeekFamilies[] = {Glyph::ChWeek, Glyph::EnWeek, Glyph::EnWeekSim,
                                    Glyph::PersiaWeek};
 
-QPixmap LoadGlyph(HClockNode &node, Glyph glyph, int number = 0)
+GlyphStrip LoadGlyph(HClockNode &node, Glyph glyph, int number = 0)
 {
-    return ReadGlyphFile(node.GetFirstFile(GlyphKey(glyph, number)));
+    return GlyphStrip::OfFile(node.GetFirstFile(GlyphKey(glyph, number)));
 }
 
-QPixmap BlankMonth(const QPixmap &digits)
+GlyphStrip BlankMonth(const GlyphStrip &digits)
 {
-    QPixmap blank(digits.width() / kDigitCells * 2, digits.height());
-    blank.fill(Qt::transparent);
-    return blank;
+    return GlyphStrip::Blank({digits.Width() / kDigitCells * 2, digits.Height()});
 }
 
 } // namespace
@@ -55,17 +53,19 @@ void ClockGlyphs::Load(HClockNode &node, int clockType, int weekType)
         months.append(LoadGlyph(node, Glyph::EnMonth, month));
 }
 
-const QPixmap &LiveGlyph::Load(const QString &path)
+const GlyphStrip &LiveGlyph::Load(const QString &path)
 {
-    const QFileInfo file(path);
-    const bool exists = !path.isEmpty() && file.exists();
-    const qint64 bytes = exists ? file.size() : -1;
-    const qint64 changed = exists ? file.lastModified().toMSecsSinceEpoch() : 0;
+    struct stat file
+    { };
+    const bool exists = !path.isEmpty() && stat(QFile::encodeName(path).constData(), &file) == 0;
+    const qint64 bytes = exists ? qint64(file.st_size) : -1;
+    const qint64 changed =
+        exists ? file.st_mtim.tv_sec * Q_INT64_C(1000000000) + file.st_mtim.tv_nsec : 0;
     if (path != m_path || bytes != m_bytes || changed != m_changed) {
         m_path = path;
         m_bytes = bytes;
         m_changed = changed;
-        m_image = ReadGlyphFile(path);
+        m_image = GlyphStrip::OfFile(path);
     }
     return m_image;
 }

@@ -2,27 +2,27 @@
 #pragma once
 
 #include "clock_node.h"
+#include "compose/glyph_strip.h"
 
-#include <QPixmap>
 #include <QVector>
 
 namespace Lw::HNodeClock {
 
-/// Null pixmaps stand for files that are not recorded, missing or broken.
+/// Null strips stand for files that are not recorded, missing or broken.
 struct ClockGlyphs
 {
-    QPixmap lunar;
-    QVector<QPixmap> weeks; ///< seven, Monday first; empty until a known week code was loaded
-    QPixmap topText;
-    QPixmap timeNumber;
-    QPixmap timeCh;
-    QPixmap timeChar;
-    QVector<QPixmap> months; ///< thirteen: index 0 a transparent spacer of two digit cells
-    QPixmap space;
-    QPixmap dateNumber;
-    QPixmap dateCh;
-    QPixmap dateChar;
-    QPixmap minus;
+    GlyphStrip lunar;
+    QVector<GlyphStrip> weeks; ///< seven, Monday first; empty until a known week code was loaded
+    GlyphStrip topText;
+    GlyphStrip timeNumber;
+    GlyphStrip timeCh;
+    GlyphStrip timeChar;
+    QVector<GlyphStrip> months; ///< thirteen: index 0 a transparent spacer of two digit cells
+    GlyphStrip space;
+    GlyphStrip dateNumber;
+    GlyphStrip dateCh;
+    GlyphStrip dateChar;
+    GlyphStrip minus;
 
     /// Loads what a clock of that type shows; the rest stays. A week code outside 0 to 3 leaves
     /// the week images as they were.
@@ -34,13 +34,13 @@ struct ClockGlyphs
 class LiveGlyph
 {
 public:
-    const QPixmap &Load(const QString &path);
+    const GlyphStrip &Load(const QString &path);
 
 private:
     QString m_path;
     qint64 m_bytes = -1;
-    qint64 m_changed = 0; ///< milliseconds since 1970
-    QPixmap m_image;
+    qint64 m_changed = 0; ///< nanoseconds since 1970
+    GlyphStrip m_image;
 };
 
 } // namespace Lw::HNodeClock

@@ -34,8 +34,8 @@ class DateWriter
 public:
     DateWriter(const ClockGlyphs &glyphs, int year, int month, int day)
         : m_glyphs(glyphs), m_year(year), m_month(month), m_day(day),
-          m_digit(glyphs.dateNumber.width() / kDigitCells),
-          m_label(glyphs.dateCh.width() / kLabelCells)
+          m_digit(glyphs.dateNumber.Width() / kDigitCells),
+          m_label(glyphs.dateCh.Width() / kLabelCells)
     { }
 
     // Formats with separators reserve the whole comma-and-slash image for their two separators,
@@ -47,14 +47,14 @@ public:
         switch (dateType) {
         case DateNamedMonthDayYear:
         case DateDayNamedMonthYear:
-            return digits + MonthName().width() + m_glyphs.dateChar.width() / 2
-                + 2LL * m_glyphs.space.width();
+            return digits + MonthName().Width() + m_glyphs.dateChar.Width() / 2
+                + 2LL * m_glyphs.space.Width();
         case DateLabelled:
             return digits + 2LL * m_digit + 3LL * m_label;
         case DateLabelledMonthDay:
             return 4LL * m_digit + 2LL * m_label;
         default:
-            return digits + 2LL * m_digit + m_glyphs.dateChar.width();
+            return digits + 2LL * m_digit + m_glyphs.dateChar.Width();
         }
     }
 
@@ -70,19 +70,19 @@ public:
             WriteTwoDigits(element, m_month);
             break;
         case Part::MonthName:
-            element.Add(MonthName(), 0, MonthName().width());
+            element.Add(MonthName(), 0, MonthName().Width());
             break;
         case Part::Day:
             WriteTwoDigits(element, m_day);
             break;
         case Part::Separator:
-            element.AddCell(m_glyphs.dateChar, m_glyphs.dateChar.width() / kSeparatorCells, 1);
+            element.AddCell(m_glyphs.dateChar, m_glyphs.dateChar.Width() / kSeparatorCells, 1);
             break;
         case Part::Minus:
-            element.Add(m_glyphs.minus, 0, m_glyphs.minus.width());
+            element.Add(m_glyphs.minus, 0, m_glyphs.minus.Width());
             break;
         case Part::Space:
-            element.Skip(m_glyphs.space.width());
+            element.Skip(m_glyphs.space.Width());
             break;
         case Part::Label0:
         case Part::Label1:
@@ -94,9 +94,9 @@ public:
     }
 
 private:
-    const QPixmap &MonthName() const
+    const GlyphStrip &MonthName() const
     {
-        static const QPixmap none;
+        static const GlyphStrip none;
         const bool known = m_month >= 0 && m_month < m_glyphs.months.size();
         return known ? m_glyphs.months.at(m_month) : none;
     }
@@ -125,7 +125,7 @@ Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month
     if (dateType < DateYearMonthDay || dateType > DateWithMinus)
         return Element();
     const DateWriter writer(glyphs, year, month, day);
-    Element element(writer.CanvasWidth(dateType), glyphs.dateCh.height());
+    Element element(writer.CanvasWidth(dateType), glyphs.dateCh.Height());
     const DateFormat &format = kDateFormats[dateType];
     for (int i = 0; i < format.count; ++i)
         writer.Write(element, format.parts[static_cast<std::size_t>(i)]);

@@ -1,9 +1,9 @@
 // An element of a clock: a canvas put together from pieces of glyph strips.
 #pragma once
 
+#include "compose/glyph_strip.h"
 #include "image_bounds.h"
 
-#include <QPixmap>
 #include <QRect>
 #include <QSize>
 
@@ -15,8 +15,8 @@ namespace Lw::HNodeClock {
 /// A part of a strip, full height, and where its left edge stands in the element.
 struct Piece
 {
-    const QPixmap *strip = nullptr; ///< valid while the composer that gave it is not set up anew
-    qint64 stripKey = 0;            ///< tells two strips' contents apart, also after a set-up
+    const GlyphStrip *strip = nullptr; ///< valid while the composer that gave it is not set up anew
+    qint64 stripKey = 0;               ///< tells two strips' contents apart, also after a set-up
     int sourceX = 0;
     int width = 0;
     int x = 0;
@@ -42,9 +42,9 @@ public:
             m_size = QSize(static_cast<int>(width), height);
     }
     /// A whole image as an element of its own.
-    explicit Element(const QPixmap &image) : Element(image.width(), image.height())
+    explicit Element(const GlyphStrip &image) : Element(image.Width(), image.Height())
     {
-        Add(image, 0, image.width());
+        Add(image, 0, image.Width());
     }
 
     int Width() const { return m_size.width(); }
@@ -54,21 +54,21 @@ public:
     const Piece &At(int index) const { return m_pieces[static_cast<std::size_t>(index)]; }
 
     /// Adds columns of a strip after what was added before. Columns outside the strip are blank.
-    void Add(const QPixmap &strip, int sourceX, int width)
+    void Add(const GlyphStrip &strip, int sourceX, int width)
     {
         if (width <= 0)
             return;
-        const bool visible = !m_size.isEmpty() && sourceX >= 0 && sourceX < strip.width()
+        const bool visible = !m_size.isEmpty() && sourceX >= 0 && sourceX < strip.Width()
             && m_end < m_size.width() && m_count < static_cast<int>(m_pieces.size());
         if (visible) {
-            const int present = qMin(width, strip.width() - sourceX);
-            m_pieces[static_cast<std::size_t>(m_count++)] = {&strip, strip.cacheKey(), sourceX,
-                                                             present, static_cast<int>(m_end)};
+            const int present = qMin(width, strip.Width() - sourceX);
+            m_pieces[static_cast<std::size_t>(m_count++)] = {&strip, strip.Key(), sourceX, present,
+                                                             static_cast<int>(m_end)};
         }
         m_end += width;
     }
     /// Adds one cell of a strip of equal cells.
-    void AddCell(const QPixmap &strip, int cellWidth, int cell)
+    void AddCell(const GlyphStrip &strip, int cellWidth, int cell)
     {
         Add(strip, cell < 0 ? -1 : cell * cellWidth, cellWidth);
     }

@@ -2,9 +2,10 @@
 
 #include "calendar/lunar_calendar.h"
 #include "compose/element_layout.h"
+#include "compose/piece_canvas.h"
 #include "glyph/glyph_set.h"
 
-#include <QPainter>
+#include <QImage>
 
 #include <cstdlib>
 #include <cstring>
@@ -17,18 +18,10 @@ QPixmap Drawn(const Element &element)
 {
     if (element.Size().isEmpty())
         return QPixmap();
-    QPixmap pixmap(element.Size());
-    pixmap.fill(Qt::transparent);
-    // A pixmap that is handed on while it is painted on would be copied: the painter ends first.
-    {
-        QPainter painter(&pixmap);
-        for (int i = 0; i < element.Count(); ++i) {
-            const Piece &piece = element.At(i);
-            painter.drawPixmap(piece.x, 0, *piece.strip, piece.sourceX, 0, piece.width,
-                               piece.strip->height());
-        }
-    }
-    return pixmap;
+    QImage image(element.Size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    PieceCanvas(image).Draw(element, QPoint(0, 0), image.rect());
+    return QPixmap::fromImage(image, Qt::NoOpaqueDetection);
 }
 
 } // namespace
@@ -41,7 +34,7 @@ ElementComposer::ReadingScope::ReadingScope(ElementComposer &composer) : m_compo
 ElementComposer::ReadingScope::~ReadingScope()
 {
     if (--m_composer.m_scopes == 0)
-        m_composer.m_readInScope = false;
+        m_composer.m_done = Done();
 }
 
 bool ElementComposer::Shown::Becomes(const Shown &wanted)
@@ -59,7 +52,7 @@ void ElementComposer::SetUp(HClockNode &node)
 {
     m_node = &node;
     m_reading.SetUp(node);
-    m_readInScope = false;
+    m_done = Done();
     const int clockType = node.ClockType();
     if (clockType == PictureClock)
         return;
@@ -67,8 +60,8 @@ void ElementComposer::SetUp(HClockNode &node)
     const int weekType = Number(analog ? Attribute::AnalogWeekType : Attribute::DigitalWeekType);
     m_dateType = Number(analog ? Attribute::AnalogDateType : Attribute::DigitalDateType);
     m_glyphs.Load(node, clockType, weekType);
-    m_topText = Element(m_glyphs.topText);
-    m_dateShown.made = m_timeShown.made = m_weekShown.made = m_lunarShown.made = false;
+    m_topTextMade = m_dateShown.made = m_timeShown.made = m_weekShown.made = m_lunarShown.made =
+        false;
 }
 
 int ElementComposer::Number(Attribute attribute) const
@@ -78,11 +71,19 @@ int ElementComposer::Number(Attribute attribute) const
 
 const ClockReading &ElementComposer::UpdateReading()
 {
-    if (!m_readInScope)
+    if (!m_done.reading)
         m_reading.Update(m_node);
-    m_readInScope = m_scopes > 0;
+    m_done.reading = m_scopes > 0;
     m_shownHour = m_reading.Fields().hour;
     return m_reading;
+}
+
+const Element &ElementComposer::TopText()
+{
+    if (!m_topTextMade)
+        m_topText = Element(m_glyphs.topText);
+    m_topTextMade = true;
+    return m_topText;
 }
 
 const Element &ElementComposer::Date()
@@ -95,9 +96,9 @@ const Element &ElementComposer::Date()
 
 // The mark of the twelve-hour display is looked up at each call, unlike all other images. Midnight
 // and noon keep their hour.
-const QPixmap &ElementComposer::AmPmMark(bool twelveHours)
+const GlyphStrip &ElementComposer::AmPmMark(bool twelveHours)
 {
-    static const QPixmap none;
+    static const GlyphStrip none;
     if (!twelveHours)
         return none;
     const bool morning = m_shownHour < 12;
@@ -114,10 +115,16 @@ const QPixmap &ElementComposer::AmPmMark(bool twelveHours)
 const Element &ElementComposer::Time()
 {
     const DisplayedFields &now = UpdateReading().Fields();
+    if (m_done.time) {
+        m_shownHour = m_timeHour;
+        return m_time;
+    }
+    m_done.time = m_scopes > 0;
     const int timeType = Number(Attribute::DigitalTimeType);
-    const QPixmap &mark = AmPmMark(Number(Attribute::DigitalMode) == 1);
-    if (m_timeShown.Becomes({timeType, m_shownHour, now.minute, now.second, mark.cacheKey()}))
+    const GlyphStrip &mark = AmPmMark(Number(Attribute::DigitalMode) == 1);
+    if (m_timeShown.Becomes({timeType, m_shownHour, now.minute, now.second, mark.Key()}))
         m_time = TimeElement(m_glyphs, timeType, m_shownHour, now.minute, now.second, mark);
+    m_timeHour = m_shownHour;
     return m_time;
 }
 
@@ -133,7 +140,9 @@ const Element &ElementComposer::Week()
 
 QPixmap ElementComposer::WeekPixmap()
 {
-    return m_glyphs.weeks.value(UpdateReading().Fields().dayOfWeek - 1);
+    const int index = UpdateReading().Fields().dayOfWeek - 1;
+    const bool known = index >= 0 && index < m_glyphs.weeks.size();
+    return known ? m_glyphs.weeks.at(index).Pixmap() : QPixmap();
 }
 
 void ElementComposer::UpdateLunarDate()
@@ -150,6 +159,9 @@ void ElementComposer::UpdateLunarDate()
 
 const Element &ElementComposer::Lunar()
 {
+    if (m_done.lunar)
+        return m_lunar;
+    m_done.lunar = m_scopes > 0;
     UpdateLunarDate();
     if (m_lunarShown.Becomes({m_lunarKnown ? 1 : 0, m_lunarMonth, m_lunarDay})) {
         m_lunar = m_lunarKnown ? LunarElement(m_glyphs.lunar, m_lunarMonth, m_lunarDay) : Element();

@@ -28,7 +28,7 @@ public:
     const Element &Time();
     const Element &Week();
     const Element &Lunar();
-    const Element &TopText() const { return m_topText; }
+    const Element &TopText();
 
     // The same as pixmaps; null where the element is empty. An unchanged element gives the same
     // pixmap again.
@@ -36,7 +36,7 @@ public:
     QPixmap TimePixmap() { return m_timePixmap.Of(Time()); }
     QPixmap WeekPixmap();
     QPixmap LunarPixmap() { return m_lunarPixmap.Of(Lunar()); }
-    QPixmap TopTextPixmap() const { return m_glyphs.topText; }
+    QPixmap TopTextPixmap() { return m_glyphs.topText.Pixmap(); }
 
     /// While one lives, the elements show one reading: the time, and the settings it depends on,
     /// are read only once.
@@ -77,7 +77,7 @@ private:
     };
 
     int Number(Attribute attribute) const;
-    const QPixmap &AmPmMark(bool twelveHours);
+    const GlyphStrip &AmPmMark(bool twelveHours);
 
     QPointer<HClockNode> m_node;
     ClockGlyphs m_glyphs;
@@ -86,10 +86,12 @@ private:
     LiveGlyph m_afternoonMark;
     int m_dateType = 0;
     int m_shownHour = 0;
+    int m_timeHour = 0; ///< of the time element
     int m_lunarMonth = 0;
     int m_lunarDay = 0;
     bool m_lunarKnown = false; ///< whether the day of the last lunar update is in the calendar
 
+    bool m_topTextMade = false;
     Element m_topText;
     Element m_date;
     Element m_time;
@@ -103,8 +105,15 @@ private:
     DrawnElement m_timePixmap;
     DrawnElement m_lunarPixmap;
 
+    // What was brought up to date within the scope that lives.
+    struct Done
+    {
+        bool reading = false;
+        bool time = false;
+        bool lunar = false;
+    };
     int m_scopes = 0;
-    bool m_readInScope = false;
+    Done m_done;
 };
 
 } // namespace Lw::HNodeClock

@@ -35,9 +35,9 @@ Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month
 
 /// The digits of the time, with the AM/PM mark after them (null for none).
 Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minute, int second,
-                    const QPixmap &mark);
+                    const GlyphStrip &mark);
 
 /// The lunar date in Chinese numerals; empty for a month outside 1 to 12.
-Element LunarElement(const QPixmap &strip, int month, int day);
+Element LunarElement(const GlyphStrip &strip, int month, int day);
 
 } // namespace Lw::HNodeClock

@@ -2,25 +2,63 @@
 
 #include "image_bounds.h"
 
+#include <QBuffer>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 
 namespace Lw::HNodeClock {
 
+namespace {
+
+constexpr char kPngSignature[] = "\x89PNG\r\n\x1a\n";
+constexpr qint64 kSmall = 64 << 10;
+
+QImage ReadWithinBounds(QImageReader &reader)
+{
+    return WithinBounds(reader.size(), kGlyphBytes) ? reader.read() : QImage();
+}
+
+bool IsOrdinaryFile(const QString &path)
+{
+    return !path.isEmpty() && QFileInfo(path).isFile();
+}
+
+} // namespace
+
 QImage ReadImageFile(const QString &path)
 {
-    if (path.isEmpty() || !QFileInfo(path).isFile())
+    if (!IsOrdinaryFile(path))
         return QImage();
     QImageReader reader(path);
-    if (!WithinBounds(reader.size(), kGlyphBytes))
-        return QImage();
-    return reader.read();
+    return ReadWithinBounds(reader);
 }
 
 QPixmap ReadGlyphFile(const QString &path)
 {
     const QImage image = ReadImageFile(path);
     return image.isNull() ? QPixmap() : QPixmap::fromImage(image);
+}
+
+QByteArray ReadSmallPng(const QString &path)
+{
+    if (!IsOrdinaryFile(path))
+        return QByteArray();
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly | QFile::Unbuffered) || file.size() > kSmall)
+        return QByteArray();
+    const QByteArray content = file.read(kSmall);
+    return content.startsWith(kPngSignature) ? content : QByteArray();
+}
+
+QImage DecodePng(const QByteArray &png)
+{
+    QBuffer buffer;
+    buffer.setData(png);
+    buffer.open(QBuffer::ReadOnly);
+    QImageReader reader(&buffer, "png");
+    reader.setAutoDetectImageFormat(false);
+    return ReadWithinBounds(reader);
 }
 
 } // namespace Lw::HNodeClock

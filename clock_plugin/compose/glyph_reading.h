@@ -1,6 +1,7 @@
 // Reads picture files made by others: bounded, and never anything but an ordinary file.
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QPixmap>
 #include <QString>
@@ -12,5 +13,10 @@ namespace Lw::HNodeClock {
 /// and for a picture of more than 32767 pixels a side or 64 MiB, which is asked before decoding.
 QImage ReadImageFile(const QString &path);
 QPixmap ReadGlyphFile(const QString &path);
+
+/// The content of an ordinary file of at most 64 KiB that begins as a PNG does; null for any other.
+QByteArray ReadSmallPng(const QString &path);
+/// The picture in such a content; null as for the file.
+QImage DecodePng(const QByteArray &png);
 
 } // namespace Lw::HNodeClock

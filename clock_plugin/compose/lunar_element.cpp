@@ -19,14 +19,14 @@ constexpr int Numeral(int number)
 
 } // namespace
 
-Element LunarElement(const QPixmap &strip, int month, int day)
+Element LunarElement(const GlyphStrip &strip, int month, int day)
 {
     if (month < 1 || month > 12 || day < 1 || day > 30)
         return Element();
-    const int cell = strip.width() / kLunarCells;
+    const int cell = strip.Width() / kLunarCells;
     const int monthCells = month > 10 ? 5 : 4;
     const int dayCells = day > 20 && day < 30 ? 3 : 2;
-    Element element(static_cast<long long>(cell) * (monthCells + dayCells), strip.height());
+    Element element(static_cast<long long>(cell) * (monthCells + dayCells), strip.Height());
     const auto add = [&](int index) { element.AddCell(strip, cell, index); };
 
     element.Add(strip, kLeadWord * cell, 2 * cell);

@@ -36,8 +36,8 @@ class TimeWriter
 public:
     TimeWriter(const ClockGlyphs &glyphs, int timeType, int hour, int minute, int second)
         : m_glyphs(glyphs), m_timeType(timeType), m_hour(hour), m_minute(minute), m_second(second),
-          m_digit(glyphs.timeNumber.width() / kDigitCells),
-          m_label(glyphs.timeCh.width() / kLabelCells)
+          m_digit(glyphs.timeNumber.Width() / kDigitCells),
+          m_label(glyphs.timeCh.Width() / kLabelCells)
     { }
 
     // Formats outside the list have the room of separators, of which their label takes what it
@@ -45,12 +45,12 @@ public:
     long long Width() const
     {
         const long long digit = m_digit;
-        const long long separator = m_glyphs.timeChar.width();
+        const long long separator = m_glyphs.timeChar.Width();
         switch (m_timeType) {
         case TimeToMinute:
             return 4 * digit + separator;
         case TimeLabelled:
-            return 6 * digit + m_glyphs.timeCh.width();
+            return 6 * digit + m_glyphs.timeCh.Width();
         case TimeLabelledToMinute:
             return 4 * digit + 2LL * m_label;
         case TimeShortHour:
@@ -75,7 +75,7 @@ public:
             WriteTwoDigits(element, m_second);
             break;
         case Part::Separator:
-            element.Add(m_glyphs.timeChar, 0, m_glyphs.timeChar.width());
+            element.Add(m_glyphs.timeChar, 0, m_glyphs.timeChar.Width());
             break;
         case Part::Label0:
         case Part::Label1:
@@ -110,16 +110,16 @@ private:
 } // namespace
 
 Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minute, int second,
-                    const QPixmap &mark)
+                    const GlyphStrip &mark)
 {
     const TimeWriter writer(glyphs, timeType, hour, minute, second);
     const long long width = writer.Width();
-    Element element(width + mark.width(), glyphs.timeCh.height());
+    Element element(width + mark.Width(), glyphs.timeCh.Height());
     const TimeFormat &format = FormatOf(timeType);
     for (int i = 0; i < format.count; ++i)
         writer.Write(element, format.parts[static_cast<std::size_t>(i)]);
     element.StandAt(width);
-    element.Add(mark, 0, mark.width());
+    element.Add(mark, 0, mark.Width());
     return element;
 }
 

@@ -9,18 +9,6 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// An element counts in the layout when its flag is not 0, and is drawn when it is 1.
-Rows DigitalFlags(HClockNode &node)
-{
-    Rows flags;
-    flags.topText = node.Digital_TopText_d();
-    flags.date = node.Digital_Date_d();
-    flags.week = node.Digital_Week_d();
-    flags.time = node.Digital_Time_d();
-    flags.lunar = node.Digital_Lunar_d();
-    return flags;
-}
-
 using ElementOf = const Element &(*)(ElementComposer &);
 
 // The elements by row, in the order in which they are drawn with the date before the week.
@@ -78,102 +66,130 @@ Rows HeightsOf(ElementComposer &elements, const Rows &measured)
 }
 
 // The elements side by side around the centre of the area.
-Placements OnOneLine(HClockNode &node, ElementComposer &elements, const QSize &area)
+Placements OnOneLine(const DigitalSettings &settings, ElementComposer &elements)
 {
-    const Rows flags = DigitalFlags(node);
-    const int space = node.GetAttributeToInt(Key(Attribute::DigitalSpace));
+    const Rows &flags = settings.flags;
+    const int space = settings.space;
     long long widths = 0;
     for (const RowElement &row : kDateFirst) {
         if (flags.*row.row != 0)
             widths += row.element(elements).Width();
     }
-    long long x = LineStart(area.width(), space, widths, CountRows(flags));
+    long long x = LineStart(settings.area.width(), space, widths, CountRows(flags));
     Placements placements;
-    for (const RowElement &row : node.DigitalSwapArea() == 0 ? kWeekFirst : kDateFirst) {
+    for (const RowElement &row : settings.swap == 0 ? kWeekFirst : kDateFirst) {
         if (flags.*row.row != 1)
             continue;
         const Element &element = row.element(elements);
-        placements.Add(element, {ClampPosition(x), area.height() / 2 - element.Height() / 2});
+        placements.Add(element,
+                       {ClampPosition(x), settings.area.height() / 2 - element.Height() / 2});
         x += static_cast<long long>(element.Width()) + space;
     }
     return placements;
 }
 
 // The elements one above the other, each centred, at the tops worked out before.
-Placements InRows(HClockNode &node, ElementComposer &elements, const QSize &area, const Rows &tops)
+Placements InRows(const DigitalSettings &settings, ElementComposer &elements, const Rows &tops)
 {
-    const Rows flags = DigitalFlags(node);
     Placements placements;
     for (const RowElement &row : kDateFirst) {
-        if (flags.*row.row != 1)
+        if (settings.flags.*row.row != 1)
             continue;
         const Element &element = row.element(elements);
-        placements.Add(element, {area.width() / 2 - element.Width() / 2, tops.*row.row});
+        placements.Add(element, {settings.area.width() / 2 - element.Width() / 2, tops.*row.row});
     }
     return placements;
 }
 
 } // namespace
 
-void DrawDisplayImage::Private::LayOutDigital(int count, int space)
+DigitalSettings::DigitalSettings(HClockNode &node)
+    : area(node.Size()), space(node.GetAttributeToInt(Key(Attribute::DigitalSpace))),
+      swap(node.DigitalSwapArea()),
+      onOneLine(node.GetAttributeToInt(Key(Attribute::DigitalDisplayMode)) != 0)
 {
-    if (!node || count == 0)
+    flags.topText = node.Digital_TopText_d();
+    flags.date = node.Digital_Date_d();
+    flags.week = node.Digital_Week_d();
+    flags.time = node.Digital_Time_d();
+    flags.lunar = node.Digital_Lunar_d();
+}
+
+void DrawDisplayImage::Private::LayOutDigital(const DigitalSettings &settings, int count, int space)
+{
+    if (count == 0)
         return;
     const ElementComposer::ReadingScope oneReading(composer.Elements());
-    const Rows flags = DigitalFlags(*node);
-    const Rows &measured = count == 1 || count == 5 ? kEveryRow : flags;
-    kLayOutByCount[count - 1]({node->Size().height(), space, node->DigitalSwapArea(), flags,
+    const Rows &measured = count == 1 || count == 5 ? kEveryRow : settings.flags;
+    kLayOutByCount[count - 1]({settings.area.height(), space, settings.swap, settings.flags,
                                HeightsOf(composer.Elements(), measured)},
                               rows);
 }
 
+void DrawDisplayImage::Private::DrawDigital(const DigitalSettings &settings)
+{
+    ElementComposer &elements = composer.Elements();
+    const ElementComposer::ReadingScope oneReading(elements);
+    const QSize size(frameWidth, settings.area.height());
+    const Placements wanted =
+        settings.onOneLine ? OnOneLine(settings, elements) : InRows(settings, elements, rows);
+    if (frame.size() == size && digitalContents->Describes(frame, wanted))
+        return;
+    std::swap(digitalContents, digitalSpareContents);
+    PrepareFrame(size);
+    if (!frame.isNull())
+        digitalContents->Draw(frame, wanted, KeyColour());
+}
+
+void DrawDisplayImage::Private::DrawDigitalFrame()
+{
+    const DigitalSettings settings(*node);
+    LayOutDigital(settings, CountRows(settings.flags), settings.space);
+    DrawDigital(settings);
+}
+
 void DrawDisplayImage::GetDigitalDisplayArea()
 {
-    if (d->node)
-        d->LayOutDigital(CountRows(DigitalFlags(*d->node)), d->Number(Attribute::DigitalSpace));
+    if (!d->node)
+        return;
+    const DigitalSettings settings(*d->node);
+    d->LayOutDigital(settings, CountRows(settings.flags), settings.space);
 }
 
 void DrawDisplayImage::Computations1Count()
 {
-    d->LayOutDigital(1, 0);
+    if (d->node)
+        d->LayOutDigital(DigitalSettings(*d->node), 1, 0);
 }
 
 void DrawDisplayImage::Computations2Count(int space)
 {
-    d->LayOutDigital(2, space);
+    if (d->node)
+        d->LayOutDigital(DigitalSettings(*d->node), 2, space);
 }
 
 void DrawDisplayImage::Computations3Count(int space)
 {
-    d->LayOutDigital(3, space);
+    if (d->node)
+        d->LayOutDigital(DigitalSettings(*d->node), 3, space);
 }
 
 void DrawDisplayImage::Computations4Count(int space)
 {
-    d->LayOutDigital(4, space);
+    if (d->node)
+        d->LayOutDigital(DigitalSettings(*d->node), 4, space);
 }
 
 void DrawDisplayImage::Computations5Count(int space)
 {
-    d->LayOutDigital(5, space);
+    if (d->node)
+        d->LayOutDigital(DigitalSettings(*d->node), 5, space);
 }
 
 void DrawDisplayImage::DrawDigitalClock()
 {
-    if (!d->node)
-        return;
-    ElementComposer &elements = d->composer.Elements();
-    const ElementComposer::ReadingScope oneReading(elements);
-    const QSize size(d->frameWidth, d->node->Size().height());
-    const Placements wanted = d->Number(Attribute::DigitalDisplayMode) != 0
-        ? OnOneLine(*d->node, elements, d->node->Size())
-        : InRows(*d->node, elements, d->node->Size(), d->rows);
-    if (d->frame.size() == size && d->digitalContents.Describes(d->frame, wanted))
-        return;
-    std::swap(d->digitalContents, d->digitalSpareContents);
-    d->PrepareFrame(size);
-    if (!d->frame.isNull())
-        d->digitalContents.Draw(d->frame, wanted, GetColorKey());
+    if (d->node)
+        d->DrawDigital(DigitalSettings(*d->node));
 }
 
 } // namespace Lw::HNodeClock

@@ -53,8 +53,7 @@ QImage DrawDisplayImage::DrawClockDisplayImage()
         DrawAnalogClock();
         break;
     case DigitalClock:
-        GetDigitalDisplayArea();
-        DrawDigitalClock();
+        d->DrawDigitalFrame();
         break;
     case PictureClock:
         DrawPixmapClock();

@@ -10,10 +10,24 @@
 
 #include <QPainter>
 
+#include <array>
 #include <memory>
 #include <optional>
 
 namespace Lw::HNodeClock {
+
+/// What a digital clock is drawn by, read from its node once for all uses in a frame.
+struct DigitalSettings
+{
+    explicit DigitalSettings(HClockNode &node);
+
+    QSize area;
+    Rows
+        flags; ///< an element counts in the layout when its flag is not 0; it is drawn when it is 1
+    int space;
+    int swap;
+    bool onOneLine;
+};
 
 class DrawDisplayImage::Private
 {
@@ -62,9 +76,13 @@ public:
     QImage::Format imageFormat = QImage::Format_ARGB32;
 
     // Digital clock.
-    void LayOutDigital(int count, int space); ///< as the layout of that many rows
-    FrameContents digitalContents;            ///< of the frame
-    FrameContents digitalSpareContents;       ///< of the spare
+    void DrawDigitalFrame();
+    /// As the layout of that many rows.
+    void LayOutDigital(const DigitalSettings &settings, int count, int space);
+    void DrawDigital(const DigitalSettings &settings);
+    std::array<FrameContents, 2> digitalFrames;         ///< what the frame and the spare hold
+    FrameContents *digitalContents = &digitalFrames[0]; ///< of the frame
+    FrameContents *digitalSpareContents = &digitalFrames[1];
 
     // Analog clock.
     QImage dialCache; ///< marks, numerals, badge and texts: what the hands are drawn over

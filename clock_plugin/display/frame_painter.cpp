@@ -1,7 +1,6 @@
 #include "display/frame_painter.h"
 
-#include <QPainter>
-#include <QVarLengthArray>
+#include "compose/piece_canvas.h"
 
 #include <algorithm>
 
@@ -9,79 +8,13 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-using Rects = QVarLengthArray<QRect, 32>;
-
-QRect PieceRect(const Placements::Placed &placed, const Piece &piece)
+QRect PieceRect(const Element &element, const QPoint &position, const Piece &piece)
 {
-    const QRect rect(placed.position.x() + piece.x, placed.position.y(), piece.width,
-                     placed.element.Height());
-    return rect & placed.Rect();
-}
-
-// The pieces of one element that are not where they were; the element has not moved.
-void AddChangedPieces(const Placements::Placed &before, const Placements::Placed &after,
-                      Rects &changed)
-{
-    const int count = qMax(before.element.Count(), after.element.Count());
-    for (int i = 0; i < count; ++i) {
-        const bool was = i < before.element.Count();
-        const bool is = i < after.element.Count();
-        if (was && is && before.element.At(i) == after.element.At(i))
-            continue;
-        if (was)
-            changed.append(PieceRect(before, before.element.At(i)));
-        if (is && !(was && changed.last() == PieceRect(after, after.element.At(i))))
-            changed.append(PieceRect(after, after.element.At(i)));
-    }
-}
-
-Rects ChangedRects(const Placements &before, const Placements &after)
-{
-    Rects changed;
-    const int count = qMax(before.Count(), after.Count());
-    for (int i = 0; i < count; ++i) {
-        const bool both = i < before.Count() && i < after.Count();
-        if (both && before.At(i).Rect() == after.At(i).Rect()) {
-            AddChangedPieces(before.At(i), after.At(i), changed);
-            continue;
-        }
-        if (i < before.Count())
-            changed.append(before.At(i).Rect());
-        if (i < after.Count())
-            changed.append(after.At(i).Rect());
-    }
-    return changed;
-}
-
-void DrawPieces(QPainter &painter, const Placements &placements, const QRect &clip)
-{
-    for (int i = 0; i < placements.Count(); ++i) {
-        const Placements::Placed &placed = placements.At(i);
-        if (!placed.Rect().intersects(clip))
-            continue;
-        for (int k = 0; k < placed.element.Count(); ++k) {
-            const Piece &piece = placed.element.At(k);
-            const QRect whole = PieceRect(placed, piece);
-            const QRect visible =
-                whole & clip & QRect(whole.topLeft(), QSize(whole.width(), piece.strip->height()));
-            if (!visible.isEmpty()) {
-                painter.drawPixmap(visible.topLeft(), *piece.strip,
-                                   visible.translated(piece.sourceX - whole.x(), -whole.y()));
-            }
-        }
-    }
+    const QRect rect(position.x() + piece.x, position.y(), piece.width, element.Height());
+    return rect & QRect(position, element.Size());
 }
 
 } // namespace
-
-bool Placements::operator==(const Placements &other) const
-{
-    const auto same = [](const Placed &one, const Placed &two) {
-        return one.position == two.position && one.element == two.element;
-    };
-    return m_count == other.m_count
-        && std::equal(m_placed.begin(), m_placed.begin() + m_count, other.m_placed.begin(), same);
-}
 
 bool FrameContents::Knows(const QImage &image) const
 {
@@ -90,31 +23,78 @@ bool FrameContents::Knows(const QImage &image) const
 
 bool FrameContents::Describes(const QImage &image, const Placements &placements) const
 {
-    return Knows(image) && m_shown == placements;
+    return Knows(image) && m_count == placements.Count()
+        && std::equal(placements.begin(), placements.end(), m_shown.begin(),
+                      [](const auto &placed, const Shown &shown) { return shown.Is(placed); });
+}
+
+// An element that has moved, or another one, changes as a whole; else only those of its pieces that
+// are not where they were.
+void FrameContents::AddChanged(const Shown &before, const Placements::Placed &after, Rects &changed)
+{
+    const QPoint position = after.position;
+    if (before.Rect() != QRect(position, after.element->Size())) {
+        changed.append(before.Rect());
+        changed.append(QRect(position, after.element->Size()));
+        return;
+    }
+    const int count = qMax(before.element.Count(), after.element->Count());
+    for (int i = 0; i < count; ++i) {
+        const bool was = i < before.element.Count();
+        const bool is = i < after.element->Count();
+        if (was && is && before.element.At(i) == after.element->At(i))
+            continue;
+        if (was)
+            changed.append(PieceRect(before.element, position, before.element.At(i)));
+        if (is)
+            changed.append(PieceRect(*after.element, position, after.element->At(i)));
+        if (was && is && changed.last() == changed.at(changed.size() - 2))
+            changed.removeLast();
+    }
+}
+
+// Remembers the placements, and returns where they differ from what was shown.
+FrameContents::Rects FrameContents::Take(const Placements &placements)
+{
+    Rects changed;
+    Shown *shown = m_shown.data();
+    Shown *const end = shown + m_count;
+    for (const Placements::Placed &placed : placements) {
+        if (shown >= end)
+            *shown = Shown();
+        if (!shown->Is(placed)) {
+            AddChanged(*shown, placed, changed);
+            *shown = {*placed.element, placed.position};
+        }
+        ++shown;
+    }
+    for (; shown < end; ++shown)
+        changed.append(shown->Rect());
+    m_count = placements.Count();
+    return changed;
 }
 
 void FrameContents::Draw(QImage &image, const Placements &placements, const QColor &background)
 {
     const bool known = Knows(image);
-    Rects rects;
-    if (known) {
-        rects = ChangedRects(m_shown, placements);
-    } else {
+    Rects rects = Take(placements);
+    if (!known) {
         image.fill(background);
-        rects.append(image.rect());
+        rects = {image.rect()};
     }
-    QPainter painter(&image);
-    for (const QRect &rect : qAsConst(rects)) {
-        const QRect clip = rect & image.rect();
-        if (clip.isEmpty())
-            continue;
-        if (known)
-            painter.fillRect(clip, background);
-        DrawPieces(painter, placements, clip);
+    {
+        PieceCanvas canvas(image);
+        for (const QRect &rect : qAsConst(rects)) {
+            const QRect clip = rect & image.rect();
+            if (clip.isEmpty())
+                continue;
+            if (known)
+                canvas.Fill(clip, background.rgba());
+            for (const Placements::Placed &placed : placements)
+                canvas.Draw(*placed.element, placed.position, clip);
+        }
     }
-    painter.end();
     m_imageKey = image.cacheKey();
-    m_shown = placements;
 }
 
 } // namespace Lw::HNodeClock

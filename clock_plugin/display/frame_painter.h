@@ -7,33 +7,34 @@
 #include <QImage>
 #include <QPoint>
 #include <QRect>
+#include <QVarLengthArray>
 
 #include <array>
 
 namespace Lw::HNodeClock {
 
-/// Elements where they stand in a frame, in the order of drawing.
+constexpr int kMostElements = 5; ///< of a clock
+
+/// Elements where they stand in a frame, in the order of drawing. They belong to someone else.
 class Placements
 {
 public:
     struct Placed
     {
-        Element element;
+        const Element *element = nullptr;
         QPoint position;
-
-        QRect Rect() const { return QRect(position, element.Size()); }
     };
 
     void Add(const Element &element, const QPoint &position)
     {
-        m_placed[static_cast<std::size_t>(m_count++)] = {element, position};
+        m_placed[static_cast<std::size_t>(m_count++)] = {&element, position};
     }
     int Count() const { return m_count; }
-    const Placed &At(int index) const { return m_placed[static_cast<std::size_t>(index)]; }
-    bool operator==(const Placements &other) const;
+    const Placed *begin() const { return m_placed.data(); }
+    const Placed *end() const { return m_placed.data() + m_count; }
 
 private:
-    std::array<Placed, 5> m_placed; ///< a clock has five elements at the most
+    std::array<Placed, kMostElements> m_placed;
     int m_count = 0;
 };
 
@@ -48,10 +49,26 @@ public:
     void Draw(QImage &image, const Placements &placements, const QColor &background);
 
 private:
+    struct Shown
+    {
+        Element element; // a copy: its strips may be gone
+        QPoint position;
+
+        QRect Rect() const { return QRect(position, element.Size()); }
+        bool Is(const Placements::Placed &placed) const
+        {
+            return position == placed.position && element == *placed.element;
+        }
+    };
+    using Rects = QVarLengthArray<QRect, 32>;
+
     bool Knows(const QImage &image) const;
+    Rects Take(const Placements &placements);
+    static void AddChanged(const Shown &before, const Placements::Placed &after, Rects &changed);
 
     qint64 m_imageKey = 0;
-    Placements m_shown;
+    int m_count = 0;
+    std::array<Shown, kMostElements> m_shown;
 };
 
 } // namespace Lw::HNodeClock

@@ -18,11 +18,11 @@ QString Pieces(const Element &element)
     return pieces.join(' ');
 }
 
-QPixmap Strip(int width)
+GlyphStrip Strip(int width)
 {
-    QPixmap strip(width, 4);
+    QImage strip(width, 4, QImage::Format_ARGB32);
     strip.fill(Qt::red);
-    return strip;
+    return GlyphStrip(strip);
 }
 
 } // namespace
@@ -66,7 +66,7 @@ void TestElement::Sizes()
 
 void TestElement::PiecesFollowEachOther()
 {
-    const QPixmap strip = Strip(30);
+    const GlyphStrip strip = Strip(30);
     Element element(40, 4);
     element.AddCell(strip, 3, 9);
     element.Skip(5);
@@ -76,28 +76,28 @@ void TestElement::PiecesFollowEachOther()
 
 void TestElement::ColumnsOutsideTheStripAreBlank()
 {
-    const QPixmap strip = Strip(30);
+    const GlyphStrip strip = Strip(30);
     Element element(40, 4);
     element.AddCell(strip, 3, 10);
     element.AddCell(strip, 3, -1);
     element.Add(strip, 28, 6);
-    element.AddCell(QPixmap(), 3, 0);
+    element.AddCell(GlyphStrip(), 3, 0);
     element.AddCell(strip, 3, 0);
     QCOMPARE(Pieces(element), QStringLiteral("28+2@6 0+3@15"));
 }
 
 void TestElement::CellOfNoWidthIsNothing()
 {
-    const QPixmap narrow = Strip(9);
+    const GlyphStrip narrow = Strip(9);
     Element element(40, 4);
     for (int cell = 0; cell < 10; ++cell)
-        element.AddCell(narrow, narrow.width() / 10, cell);
+        element.AddCell(narrow, narrow.Width() / 10, cell);
     QCOMPARE(element.Count(), 0);
 }
 
 void TestElement::NothingBeginsPastTheCanvas()
 {
-    const QPixmap strip = Strip(30);
+    const GlyphStrip strip = Strip(30);
     Element element(10, 4);
     element.Add(strip, 0, 8);
     element.Add(strip, 8, 8);
@@ -110,7 +110,7 @@ void TestElement::NothingBeginsPastTheCanvas()
 
 void TestElement::StandAtCutsOff()
 {
-    const QPixmap strip = Strip(30);
+    const GlyphStrip strip = Strip(30);
     Element element(30, 4);
     element.Add(strip, 0, 8);
     element.Add(strip, 8, 8);
@@ -122,9 +122,9 @@ void TestElement::StandAtCutsOff()
 
 void TestElement::ComparesImagesNotAddresses()
 {
-    const QPixmap strip = Strip(30);
-    const QPixmap same = strip;
-    const QPixmap other = Strip(30);
+    const GlyphStrip strip = Strip(30);
+    const GlyphStrip same = strip;
+    const GlyphStrip other = Strip(30);
     Element element(30, 4);
     Element ofCopy(30, 4);
     Element ofOther(30, 4);
@@ -139,6 +139,6 @@ void TestElement::ComparesImagesNotAddresses()
     QVERIFY(element != ofCopy);
 }
 
-QTEST_MAIN(TestElement)
+QTEST_GUILESS_MAIN(TestElement)
 
 #include "test_element.moc"

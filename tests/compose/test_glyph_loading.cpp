@@ -39,17 +39,17 @@ void TestGlyphLoading::DigitalClockLoadsAll()
     written.WriteAll();
     ClockGlyphs glyphs;
     glyphs.Load(node, 1, 2);
-    QCOMPARE(LetteredGlyphs::Read(glyphs.timeCh), LetteredGlyphs::Cells("hms", 3));
-    QCOMPARE(glyphs.timeNumber.width(), 20);
-    QCOMPARE(LetteredGlyphs::Read(glyphs.timeChar), QStringLiteral(":"));
+    QCOMPARE(LetteredGlyphs::Read(glyphs.timeCh.Pixmap()), LetteredGlyphs::Cells("hms", 3));
+    QCOMPARE(glyphs.timeNumber.Width(), 20);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.timeChar.Pixmap()), QStringLiteral(":"));
     QCOMPARE(glyphs.weeks.size(), 7);
-    QCOMPARE(LetteredGlyphs::Read(glyphs.weeks.at(6)), QStringLiteral("yyyyyyy"));
+    QCOMPARE(LetteredGlyphs::Read(glyphs.weeks.at(6).Pixmap()), QStringLiteral("yyyyyyy"));
     QCOMPARE(glyphs.months.size(), 13);
-    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(0)), QStringLiteral("______"));
-    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(12)), QStringLiteral("CCCCCC"));
-    QCOMPARE(glyphs.lunar.width(), 34);
-    QCOMPARE(LetteredGlyphs::Read(glyphs.minus), QStringLiteral("----"));
-    QCOMPARE(glyphs.space.width(), 2);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(0).Pixmap()), QStringLiteral("______"));
+    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(12).Pixmap()), QStringLiteral("CCCCCC"));
+    QCOMPARE(glyphs.lunar.Width(), 34);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.minus.Pixmap()), QStringLiteral("----"));
+    QCOMPARE(glyphs.space.Width(), 2);
 }
 
 void TestGlyphLoading::AnalogClockLeavesTheTimeImages()
@@ -59,11 +59,11 @@ void TestGlyphLoading::AnalogClockLeavesTheTimeImages()
     written.WriteAll();
     ClockGlyphs glyphs;
     glyphs.Load(node, 0, 0);
-    QVERIFY(glyphs.timeNumber.isNull());
-    QVERIFY(glyphs.timeCh.isNull());
-    QVERIFY(glyphs.timeChar.isNull());
-    QCOMPARE(glyphs.dateNumber.width(), 30);
-    QCOMPARE(LetteredGlyphs::Read(glyphs.topText), QStringLiteral("LED"));
+    QVERIFY(glyphs.timeNumber.IsNull());
+    QVERIFY(glyphs.timeCh.IsNull());
+    QVERIFY(glyphs.timeChar.IsNull());
+    QCOMPARE(glyphs.dateNumber.Width(), 30);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.topText.Pixmap()), QStringLiteral("LED"));
 }
 
 void TestGlyphLoading::WeekCodeOutsideTheListChangesNothing()
@@ -75,10 +75,10 @@ void TestGlyphLoading::WeekCodeOutsideTheListChangesNothing()
     glyphs.Load(node, 1, 4);
     QVERIFY(glyphs.weeks.isEmpty());
     glyphs.Load(node, 1, 1);
-    const qint64 monday = glyphs.weeks.at(0).cacheKey();
+    const qint64 monday = glyphs.weeks.at(0).Key();
     glyphs.Load(node, 1, -1);
     QCOMPARE(glyphs.weeks.size(), 7);
-    QCOMPARE(glyphs.weeks.at(0).cacheKey(), monday);
+    QCOMPARE(glyphs.weeks.at(0).Key(), monday);
 }
 
 void TestGlyphLoading::MonthSpacer_data()
@@ -102,8 +102,8 @@ void TestGlyphLoading::MonthSpacer()
     ClockGlyphs glyphs;
     glyphs.Load(node, 1, 0);
     QCOMPARE(glyphs.months.size(), 13);
-    QCOMPARE(glyphs.months.at(0).width(), spacer);
-    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(0)), QString(spacer, '_'));
+    QCOMPARE(glyphs.months.at(0).Width(), spacer);
+    QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(0).Pixmap()), QString(spacer, '_'));
 }
 
 void TestGlyphLoading::OddFiles_data()
@@ -170,14 +170,14 @@ void TestGlyphLoading::LiveImageFollowsTheFile()
     LetteredGlyphs written(node);
     LiveGlyph live;
     const QString path = written.Write("_timeAM", "AA", 3);
-    const qint64 first = live.Load(path).cacheKey();
-    QCOMPARE(LetteredGlyphs::Read(live.Load(path)), QStringLiteral("AA"));
-    QCOMPARE(live.Load(path).cacheKey(), first);
+    const qint64 first = live.Load(path).Key();
+    QCOMPARE(LetteredGlyphs::Read(live.Load(path).Pixmap()), QStringLiteral("AA"));
+    QCOMPARE(live.Load(path).Key(), first);
     written.Write("_timeAM", "AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAB", 3);
-    QCOMPARE(live.Load(path).width(), 33);
+    QCOMPARE(live.Load(path).Width(), 33);
     QVERIFY(QFile::remove(path));
-    QVERIFY(live.Load(path).isNull());
-    QVERIFY(live.Load(QString()).isNull());
+    QVERIFY(live.Load(path).IsNull());
+    QVERIFY(live.Load(QString()).IsNull());
 }
 
 QTEST_MAIN(TestGlyphLoading)
