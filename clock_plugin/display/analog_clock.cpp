@@ -1,6 +1,7 @@
 // The analog clock: a dial that is drawn rarely, the hands over it every second, and text rows that
 // are drawn onto the dial, so that a frame shows them from the next second on.
 #include "calendar/device_clock.h"
+#include "compose/element_composer.h"
 #include "compose/glyph_reading.h"
 #include "display/analog_geometry.h"
 #include "display/analog_painting.h"
@@ -121,7 +122,7 @@ void DrawDisplayImage::DrawAnalogClockPoint()
 
     const double radius = HandRadius(d->frame.size());
     FrameMemory::Painting painting(d->dialFrames, d->frame);
-    d->painter.begin(&d->frame);
+    d->painter.begin(&d->frameView.Of(d->frame));
     d->painter.setRenderHint(QPainter::Antialiasing, Antialiasing());
     d->painter.translate(Centre(d->frame.size()));
     bool anyArrow = false;
@@ -147,11 +148,12 @@ void DrawDisplayImage::GetAngDisplayArea()
     flags.lunar = d->Number(Attribute::Analog_Lunar_d);
     // A single row places all three; otherwise a row that does not take part is not measured.
     const Rows measured = CountRows(flags) == 1 ? Rows {0, 1, 1, 0, 1} : flags;
+    ElementComposer &elements = d->composer.Elements();
     Rows heights;
-    heights.topText = d->composer.GetTopTextPixmap().height();
-    heights.date = measured.date != 0 ? d->composer.GetDatePixmap().height() : 0;
-    heights.week = measured.week != 0 ? d->composer.GetWeeKPixmap().height() : 0;
-    heights.lunar = measured.lunar != 0 ? d->composer.GetLunarPixmap().height() : 0;
+    heights.topText = elements.TopText().Height();
+    heights.date = measured.date != 0 ? elements.Date().Height() : 0;
+    heights.week = measured.week != 0 ? elements.Week().Height() : 0;
+    heights.lunar = measured.lunar != 0 ? elements.Lunar().Height() : 0;
     const QSize size = d->node->Size();
     LayOutAnalogRows(size.width(), size.height(), d->Number(Attribute::AnalogSpace),
                      d->Number(Attribute::AnalogSwapArea), flags, heights, d->rows);

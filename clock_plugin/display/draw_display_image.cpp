@@ -138,6 +138,7 @@ QImage DrawDisplayImage::Private::NewImage(const QSize &size, const QColor &keyC
 void DrawDisplayImage::Private::PrepareFrame(const QSize &size)
 {
     std::swap(frame, spare);
+    std::swap(frameView, spareView);
     if (frame.isNull() || frame.size() != size || !frame.isDetached())
         frame = NewImage(size, KeyColour());
 }

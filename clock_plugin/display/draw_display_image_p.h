@@ -5,6 +5,7 @@
 #include "display/draw_display_image.h"
 #include "display/frame_memory.h"
 #include "display/frame_painter.h"
+#include "display/opaque_view.h"
 #include "display/row_layout.h"
 #include "display/text_rows.h"
 
@@ -72,7 +73,9 @@ public:
     Rows rows; ///< top edges of the text rows
 
     QImage frame; ///< the frame of this moment
+    OpaqueView frameView;
     QImage spare; ///< the frame before: the next one is drawn over it once nobody holds it
+    OpaqueView spareView;
     QImage::Format imageFormat = QImage::Format_ARGB32;
 
     // Digital clock.

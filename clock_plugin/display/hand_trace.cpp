@@ -9,6 +9,8 @@ namespace Lw::HNodeClock {
 namespace {
 
 constexpr int kMargin = 2;
+// Rows that share their left and right: working out more bands costs more than copying wider ones.
+constexpr int kBandRows = 4;
 
 // A real coordinate as a whole one between 0 and a limit.
 int Clamped(double value, int limit)
@@ -38,18 +40,19 @@ void WidenByEdge(QPointF a, QPointF b, double low, double high, double &left, do
 
 void HandTrace::Clear()
 {
-    m_spans.resize(0); // keeps its memory for the next second
+    m_bands.resize(0); // keeps its memory for the next second
 }
 
-HandTrace::Span HandTrace::SpanOf(const QPolygonF &outline, int y, int width)
+HandTrace::Band HandTrace::BandOf(const QPolygonF &outline, int top, int bottom, int width)
 {
     double left = width;
     double right = 0;
-    for (int i = 0; i < outline.size(); ++i) {
-        WidenByEdge(outline[i], outline[(i + 1) % outline.size()], y - kMargin, y + 1 + kMargin,
-                    left, right);
+    QPointF previous = outline.constLast();
+    for (const QPointF &point : outline) {
+        WidenByEdge(previous, point, top - kMargin, bottom + kMargin, left, right);
+        previous = point;
     }
-    return {y, Clamped(std::floor(left) - kMargin, width),
+    return {top, bottom, Clamped(std::floor(left) - kMargin, width),
             Clamped(std::ceil(right) + kMargin, width)};
 }
 
@@ -60,27 +63,30 @@ void HandTrace::Add(const QPolygonF &outline, const QSize &image)
     const QRectF bounds = outline.boundingRect();
     const int top = Clamped(std::floor(bounds.top()) - kMargin, image.height());
     const int bottom = Clamped(std::ceil(bounds.bottom()) + kMargin, image.height());
-    for (int y = top; y < bottom; ++y)
-        m_spans.append(SpanOf(outline, y, image.width()));
+    for (int y = top; y < bottom; y += kBandRows)
+        m_bands.append(BandOf(outline, y, std::min(y + kBandRows, bottom), image.width()));
 }
 
 void HandTrace::Copy(const QImage &source, uchar *target) const
 {
     const qint64 pixel = source.depth() / 8;
     const qint64 line = source.bytesPerLine();
-    for (const Span &span : m_spans) {
-        if (span.right <= span.left)
+    const uchar *const from = source.constBits();
+    for (const Band &band : m_bands) {
+        if (band.right <= band.left)
             continue;
-        const qint64 first = span.y * line + span.left * pixel;
-        std::memcpy(target + first, source.constBits() + first,
-                    static_cast<std::size_t>((span.right - span.left) * pixel));
+        const auto bytes = static_cast<std::size_t>((band.right - band.left) * pixel);
+        qint64 first = band.top * line + band.left * pixel;
+        for (int y = band.top; y < band.bottom; ++y, first += line)
+            std::memcpy(target + first, from + first, bytes);
     }
 }
 
 bool HandTrace::Contains(const QPoint &pixel) const
 {
-    return std::any_of(m_spans.begin(), m_spans.end(), [&pixel](const Span &span) {
-        return pixel.y() == span.y && pixel.x() >= span.left && pixel.x() < span.right;
+    return std::any_of(m_bands.begin(), m_bands.end(), [&pixel](const Band &band) {
+        return pixel.y() >= band.top && pixel.y() < band.bottom && pixel.x() >= band.left
+            && pixel.x() < band.right;
     });
 }
 

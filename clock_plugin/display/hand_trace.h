@@ -1,5 +1,5 @@
-// Which pixels of an image the hands may have touched, row by row, so that a second later exactly
-// these are taken from the picture without hands.
+// Which pixels of an image the hands may have touched, a few rows at a time, so that a second later
+// these and few others are taken from the picture without hands.
 #pragma once
 
 #include <QImage>
@@ -22,15 +22,16 @@ public:
     bool Contains(const QPoint &pixel) const;
 
 private:
-    struct Span
+    struct Band
     {
-        int y;
+        int top;
+        int bottom; // the first row below
         int left;
         int right; // the first pixel beyond
     };
-    static Span SpanOf(const QPolygonF &outline, int y, int width);
+    static Band BandOf(const QPolygonF &outline, int top, int bottom, int width);
 
-    QVector<Span> m_spans;
+    QVector<Band> m_bands;
 };
 
 } // namespace Lw::HNodeClock
