@@ -23,6 +23,7 @@ constexpr Command kCommands[] = {
     {"export", RunExport, "write a program with its glyph files, ready to be carried away"},
     {"glyphs", RunGlyphs, "list the glyph images of a program, and which clocks share them"},
     {"attributes", RunAttributes, "write the reference table of the clock's attributes"},
+    {"zone", RunZone, "say what to set for a zone's time, and whether a clock can have it"},
 };
 
 QString HelpText()
@@ -37,8 +38,9 @@ QString HelpText()
                "\n\"clock_tool COMMAND --help\" tells more. Messages go to standard error.\n"
                "\n"
                "Exit codes:\n"
-               "  0  done; for lint: nothing found\n"
-               "  1  something failed, such as writing; for lint: something was found\n"
+               "  0  done; for lint: nothing found; for zone: exact\n"
+               "  1  something failed, such as writing; for lint: something was found;\n"
+               "     for zone: not exact\n"
                "  2  the command line is wrong\n"
                "  3  the input is missing or wrong; the message says where\n");
 }

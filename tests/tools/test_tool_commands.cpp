@@ -40,7 +40,8 @@ void TestToolCommands::Help_data()
     QTest::newRow("of the tool") << QStringList {"--help"} << "Usage: clock_tool COMMAND";
     QTest::newRow("of the tool, short") << QStringList {"-h"} << "Usage: clock_tool COMMAND";
     QTest::newRow("version") << QStringList {"--version"} << "clock_tool ";
-    for (const char *command : {"lint", "sdk", "import", "export", "glyphs", "attributes"}) {
+    for (const char *command :
+         {"lint", "sdk", "import", "export", "glyphs", "attributes", "zone"}) {
         QTest::addRow("of %s", command)
             << QStringList {command, "--help"} << "Usage: clock_tool " + QString(command);
         QTest::addRow("version from %s", command)
@@ -69,8 +70,12 @@ void TestToolCommands::Usage_data()
     QTest::newRow("no directory") << QStringList {"export", example} << "needs DIR";
     QTest::newRow("too much") << QStringList {"lint", example, "b.xml"} << "\"b.xml\"";
     QTest::newRow("unknown option") << QStringList {"sdk", example, "--frames"} << "frames";
+    QTest::newRow("no zone") << QStringList {"zone"} << "needs ZONE";
     QTest::newRow("empty output") << QStringList {"sdk", example, "-o", ""} << "-o needs a file";
     QTest::newRow("language") << QStringList {"glyphs", example, "--language", "xx"} << "\"xx\"";
+    for (const char *year : {"", "x", "1969", "2028", "-2026", "2026.5", "99999999999"})
+        QTest::addRow("year \"%s\"", year)
+            << QStringList {"zone", "Europe/Berlin", "--year", year} << "--year needs a year";
     for (const char *size : {"", "64", "64x", "0x64", "64x0", "-1x5", "64x32x2", "64X32", "40000x4",
                              " 6x6", "999999x1"})
         QTest::addRow("area \"%s\"", size)

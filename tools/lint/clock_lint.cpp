@@ -1,14 +1,17 @@
 #include "clock_lint.h"
 
 #include "clock_words.h"
+#include "rule_note.h"
 #include "suggestion.h"
 #include "value_checks.h"
 
+#include "calendar/clock_time.h"
 #include "clock_node.h"
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 #include "program_file.h"
 
+#include <QDateTime>
 #include <QSet>
 
 namespace ClockTool {
@@ -222,13 +225,8 @@ private:
         for (QDomElement setting = m_clock.firstChildElement(ClockProgram::kAttributeTag);
              !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag))
             m_node.SetAttribute(setting.attribute(kKey), setting.attribute(kValue), false);
-        if (m_node.GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1) {
-            const QString fault =
-                RulePairFault(m_node.GetAttribute(Key(Attribute::DaylightSavingTimeStart)),
-                              m_node.GetAttribute(Key(Attribute::DaylightSavingTimeEnd)));
-            if (!fault.isEmpty())
-                Warn(m_clock, fault);
-        }
+        if (m_node.GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1)
+            CheckRules();
         const bool isDigital = m_node.ClockType() == DigitalClock;
         const Attribute date = isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType;
         if (m_node.ClockType() != PictureClock
@@ -236,6 +234,19 @@ private:
             m_findings.Note(m_clock.lineNumber(),
                             QStringLiteral("the minus of date type 8 does not travel with an "
                                            "exported program"));
+    }
+
+    void CheckRules()
+    {
+        const ZoneSettings settings {ParseZoneOffset(m_node.GetAttribute(Key(Attribute::TimeZone))),
+                                     m_node.GetAttribute(Key(Attribute::DaylightSavingTimeStart)),
+                                     m_node.GetAttribute(Key(Attribute::DaylightSavingTimeEnd))};
+        const QString fault = RulePairFault(settings.start, settings.end);
+        if (!fault.isEmpty())
+            return Warn(m_clock, fault);
+        const QString note = RuleNote(settings, QDateTime::currentDateTimeUtc().date());
+        if (!note.isEmpty())
+            m_findings.Note(m_clock.lineNumber(), note);
     }
 
     void Warn(const QDomElement &element, const QString &text)

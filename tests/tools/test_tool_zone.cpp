@@ -1,0 +1,155 @@
+// clock_tool zone: what it writes is what a program takes.
+#include "tool_process.h"
+
+#include <QDomDocument>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QMap<QString, QString> Settings(const QString &output)
+{
+    QDomDocument document;
+    document.setContent(QStringLiteral("<clock>") + output + QStringLiteral("</clock>"));
+    QMap<QString, QString> settings;
+    for (QDomElement child = document.documentElement().firstChildElement("attribute");
+         !child.isNull(); child = child.nextSiblingElement("attribute"))
+        settings.insert(child.attribute("key"), child.attribute("value"));
+    return settings;
+}
+
+} // namespace
+
+class TestToolZone : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void exact_data();
+    void exact();
+    void notExact();
+    void unknown_data();
+    void unknown();
+    void today();
+    void lintKnowsTheZone();
+    void toFile();
+};
+
+void TestToolZone::exact_data()
+{
+    QTest::addColumn<QStringList>("values");
+    QTest::newRow("Europe/Berlin")
+        << QStringList {"+01:00", "1", "3.Last.7.02:00:00", "10.Last.7.02:00:00"};
+    QTest::newRow("Australia/Sydney")
+        << QStringList {"+10:00", "1", "10.1.7.02:00:00", "4.1.7.02:00:00"};
+    QTest::newRow("Africa/Cairo") << QStringList {"+02:00", "1", "4.Last.5.00:00:00",
+                                                  "10.Last.4.23:00:00"};
+    QTest::newRow("Asia/Tokyo") << QStringList {"+09:00", "0", "", ""};
+}
+
+void TestToolZone::exact()
+{
+    QFETCH(QStringList, values);
+    const ProcessRun run = RunTool({"zone", QTest::currentDataTag(), "--year", "2026"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors, QString());
+    const QMap<QString, QString> settings = Settings(run.output);
+    QCOMPARE(QStringList({settings["TimeZone"], settings["UseDaylightSavingTime"],
+                          settings["DaylightSavingTimeStart"], settings["DaylightSavingTimeEnd"]}),
+             values);
+    QVERIFY2(run.output.contains("exact from 2026-01-01 to 2036-01-01"), qPrintable(run.output));
+}
+
+// The last Sunday of March 2030 is the 31st, and the Friday before it the fifth.
+void TestToolZone::notExact()
+{
+    const ProcessRun run = RunTool({"zone", "Asia/Jerusalem", "--year", "2026"});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.errors, QString());
+    QVERIFY2(run.output.contains("Asia/Jerusalem: not exact from 2026-01-01 to 2036-01-01"),
+             qPrintable(run.output));
+    QVERIFY2(run.output.contains("from 2030-03-22T00:00:00Z to 2030-03-29T00:00:00Z: 1:00:00 fast"),
+             qPrintable(run.output));
+    QCOMPARE(run.output.count("fast") + run.output.count("slow"), 1);
+    QCOMPARE(Settings(run.output)["DaylightSavingTimeStart"], QString("3.4.5.02:00:00"));
+}
+
+void TestToolZone::unknown_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("slip") << "Europe/Berln"
+                          << "no zone \"Europe/Berln\"; did you mean Europe/Berlin?";
+    QTest::newRow("city") << "new york"
+                          << "did you mean America/New_York?";
+    QTest::newRow("nothing like it") << "Xyzzyplugh"
+                                     << "zones are named as in Europe/Berlin";
+    QTest::newRow("empty") << ""
+                           << "no zone \"\"";
+    QTest::newRow("long") << QString(5000, 'x') << "xxx...\"";
+    QTest::newRow("path") << "../../../etc/passwd"
+                          << "no zone";
+}
+
+void TestToolZone::unknown()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, message);
+    const ProcessRun run = RunTool({"zone", name});
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.output, QString());
+    QVERIFY2(run.errors.contains(message), qPrintable(run.errors));
+}
+
+void TestToolZone::today()
+{
+    const QString before = QDateTime::currentDateTimeUtc().date().toString(Qt::ISODate);
+    const ProcessRun run = RunTool({"zone", "Asia/Tokyo"});
+    const QString after = QDateTime::currentDateTimeUtc().date().toString(Qt::ISODate);
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.output.contains("from " + before) || run.output.contains("from " + after),
+             qPrintable(run.output));
+}
+
+// The settings as they were written, put into a program: nothing is wrong with them.
+void TestToolZone::lintKnowsTheZone()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("in.xml");
+    const QString settings = RunTool({"zone", "Europe/London"}).output;
+    QVERIFY(
+        WriteText(path, ProgramOf("<clock type=\"digital\">" + settings.toUtf8() + "</clock>")));
+    const ProcessRun sound = RunTool({"lint", path});
+    QCOMPARE(sound.exitCode, 0);
+    QVERIFY2(sound.errors.contains("note: this rule gives the time of Europe/London until 20"),
+             qPrintable(sound.errors));
+
+    QString published = settings;
+    published.replace("10.Last.7.01:00:00", "10.Last.7.02:00:00");
+    QVERIFY(
+        WriteText(path, ProgramOf("<clock type=\"digital\">" + published.toUtf8() + "</clock>")));
+    const ProcessRun late = RunTool({"lint", path});
+    QCOMPARE(late.exitCode, 0);
+    QVERIFY2(late.errors.contains("note: no zone known has this rule; with the end "
+                                  "10.Last.7.01:00:00 it gives the time of Europe/London"),
+             qPrintable(late.errors));
+
+    QString off = settings;
+    off.replace("key=\"UseDaylightSavingTime\" value=\"1\"",
+                "key=\"UseDaylightSavingTime\" value=\"0\"");
+    QVERIFY(WriteText(path, ProgramOf("<clock type=\"digital\">" + off.toUtf8() + "</clock>")));
+    QVERIFY(!RunTool({"lint", path}).errors.contains("rule"));
+}
+
+void TestToolZone::toFile()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("zone.xml");
+    const ProcessRun run = RunTool({"zone", "Asia/Tokyo", "--year", "2026", "-o", path});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.output, QString());
+    QCOMPARE(Settings(QString::fromUtf8(ReadText(path)))["TimeZone"], QString("+09:00"));
+}
+
+QTEST_GUILESS_MAIN(TestToolZone)
+#include "test_tool_zone.moc"

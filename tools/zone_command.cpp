@@ -1,0 +1,142 @@
+// clock_tool zone: the settings with which a clock shows a zone's civil time.
+#include "commands.h"
+#include "lint/suggestion.h"
+#include "output.h"
+#include "tool_arguments.h"
+#include "zones/system_zones.h"
+
+#include "clock_attributes.h"
+
+#include <QDateTime>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+constexpr char kDescription[] =
+    "Writes the settings with which a clock shows a zone's civil time, ready to be put into the\n"
+    "<clock> of a program, and what was found when they were held against every change of the\n"
+    "zone in ten years. The zone is named as the system names it: Europe/Berlin.\n"
+    "\n"
+    "The end of daylight saving is in the zone's standard time, as the clock reads it: an hour\n"
+    "before the published one.\n"
+    "\n"
+    "Where a zone's time cannot be expressed, the settings are those that are wrong for the\n"
+    "shortest time, and every wrong time is listed.\n"
+    "\n"
+    "Exit codes: 0 exact, 1 not exact, 2 wrong command line, 3 no such zone.";
+
+constexpr int kFirstYear = 1970;
+constexpr int kLastYear = 2027;
+
+const QString kYear = QStringLiteral("year");
+
+QString TextOf(qint64 utc)
+{
+    return QDateTime::fromMSecsSinceEpoch(utc, Qt::UTC).toString(Qt::ISODate);
+}
+
+QString SettingLine(Attribute attribute, const QString &value)
+{
+    return QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>\n").arg(Key(attribute), value);
+}
+
+QString SettingLines(const ZoneSettings &settings)
+{
+    return SettingLine(Attribute::TimeZone, settings.ZoneText())
+        + SettingLine(Attribute::UseDaylightSavingTime,
+                      QString::number(settings.HasDaylightSaving() ? 1 : 0))
+        + SettingLine(Attribute::DaylightSavingTimeStart, settings.start)
+        + SettingLine(Attribute::DaylightSavingTimeEnd, settings.end);
+}
+
+QString Comment(const QString &text)
+{
+    return QStringLiteral("<!-- %1 -->\n").arg(text);
+}
+
+QString ErrorText(int seconds)
+{
+    const int size = qAbs(seconds);
+    return QStringLiteral("%1:%2:%3 %4")
+        .arg(size / 3600)
+        .arg(size / 60 % 60, 2, 10, QLatin1Char('0'))
+        .arg(size % 60, 2, 10, QLatin1Char('0'))
+        .arg(QLatin1String(seconds > 0 ? "fast" : "slow"));
+}
+
+QString Verdict(const QString &zone, const CivilTime &civil, const QVector<WrongTime> &wrong)
+{
+    const QString span =
+        QStringLiteral("from %1 to %2").arg(DateOf(civil.begin), DateOf(civil.end));
+    if (wrong.isEmpty())
+        return Comment(QStringLiteral("%1: exact %2; changes of the offset in that time: %3")
+                           .arg(zone, span)
+                           .arg(civil.changes.size()));
+    QString text = Comment(QStringLiteral("%1: not exact %2; a clock cannot be set to its time. "
+                                          "With these settings it is wrong:")
+                               .arg(zone, span));
+    for (const WrongTime &time : wrong)
+        text += Comment(QStringLiteral("from %1 to %2: %3")
+                            .arg(TextOf(time.begin), TextOf(time.end), ErrorText(time.error)));
+    return text;
+}
+
+Failure NoSuchZone(const QString &name)
+{
+    if (ZoneNames().isEmpty())
+        return {ExitCode::ProgramError,
+                QStringLiteral("the system has no zone data (Debian package: tzdata)")};
+    const QString nearest = NearestZone(name);
+    return {ExitCode::ProgramError,
+            QStringLiteral("the system has no zone %1%2")
+                .arg(Quoted(name),
+                     nearest.isEmpty() ? QStringLiteral("; zones are named as in Europe/Berlin")
+                                       : QStringLiteral("; did you mean %1?").arg(nearest))};
+}
+
+/// The first day of what is looked at; invalid for a text that is no year of the range.
+QDate FirstDay(const ToolArguments &tool)
+{
+    if (!tool.IsSet(kYear))
+        return QDateTime::currentDateTimeUtc().date();
+    const int year = tool.Value(kYear).toInt();
+    return year >= kFirstYear && year <= kLastYear ? QDate(year, 1, 1) : QDate();
+}
+
+} // namespace
+
+CommandResult RunZone(const QStringList &arguments)
+{
+    ToolArguments tool(QStringLiteral("zone"), QString::fromLatin1(kDescription));
+    tool.AddPositional(QStringLiteral("ZONE"), QStringLiteral("The zone, such as Europe/Berlin."));
+    tool.AddOption({kYear},
+                   QStringLiteral("The ten years begin with <year>, %1 to %2 (default: today).")
+                       .arg(kFirstYear)
+                       .arg(kLastYear),
+                   kYear);
+    tool.AddOutput();
+    if (const auto ended = tool.Parse(arguments))
+        return *ended;
+    const QDate first = FirstDay(tool);
+    if (!first.isValid())
+        return Report({ExitCode::UsageError,
+                       QStringLiteral("--year needs a year from %1 to %2 (see --help)")
+                           .arg(kFirstYear)
+                           .arg(kLastYear)});
+    const QString name = tool.Positional(0);
+    const auto civil = CivilTimeOf(name.toUtf8(), TenYearsFrom(first));
+    if (!civil)
+        return Report(NoSuchZone(name));
+    const ZoneSettings settings = BestSettings(*civil);
+    const QVector<WrongTime> wrong = WrongTimes(settings, *civil);
+    const CommandResult delivered =
+        Deliver(tool.Output(), (SettingLines(settings) + Verdict(name, *civil, wrong)).toUtf8());
+    if (delivered != ExitCode::Success)
+        return delivered;
+    return wrong.isEmpty() ? ExitCode::Success : ExitCode::RuntimeFailure;
+}
+
+} // namespace ClockTool

@@ -1,0 +1,137 @@
+#include "system_zones.h"
+
+#include "lint/suggestion.h"
+
+#include <QDateTime>
+#include <QRegularExpression>
+#include <QTimeZone>
+
+#include <algorithm>
+
+namespace ClockTool {
+
+namespace {
+
+constexpr int kYears = 10;
+// The system's data list every change up to 2037. What goes on as a rule after it, Qt 5 misreads
+// where a rule names an hour before the day's begin or after its end.
+constexpr int kListedUpTo = 2038;
+
+/// Named first where several zones have one time.
+constexpr const char *kMuchUsed[] = {
+    "Europe/Berlin",     "Europe/London",      "Europe/Athens",    "Atlantic/Azores",
+    "America/New_York",  "America/Chicago",    "America/Denver",   "America/Los_Angeles",
+    "America/Anchorage", "America/Halifax",    "America/St_Johns", "America/Havana",
+    "Australia/Sydney",  "Australia/Adelaide", "Pacific/Auckland", "Pacific/Chatham",
+    "Africa/Cairo",
+};
+
+QDateTime Utc(qint64 milliseconds)
+{
+    return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+}
+
+/// Nothing that reaches outside the folder of zones.
+bool IsZoneName(const QByteArray &name)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^[A-Za-z0-9_:+-]{1,64}(/[A-Za-z0-9_+-]{1,64}){0,3}$"));
+    return form.match(QString::fromLatin1(name.constData(), name.size())).hasMatch();
+}
+
+CivilTime CivilTimeOf(const QTimeZone &zone, const Span &span)
+{
+    const auto [begin, end] = span;
+    CivilTime civil {begin, end, zone.offsetFromUtc(Utc(begin)), {}};
+    int offset = civil.offset;
+    for (const QTimeZone::OffsetData &data : zone.transitions(Utc(begin), Utc(end))) {
+        const qint64 at = data.atUtc.toMSecsSinceEpoch();
+        if (at <= begin || at >= end || data.offsetFromUtc == offset)
+            continue; // only the abbreviation changed
+        offset = data.offsetFromUtc;
+        civil.changes.append({at, offset});
+    }
+    return civil;
+}
+
+/// Whether a zone can have a clock's time at all; much quicker than to compare the two.
+bool MayHave(const QTimeZone &zone, const ZoneSettings &settings, qint64 begin)
+{
+    constexpr qint64 kHalfYear = Q_INT64_C(182) * 86400 * 1000;
+    for (const qint64 at : {begin, begin + kHalfYear}) {
+        const int offset = zone.offsetFromUtc(Utc(at));
+        const CivilTime moment {at, at + 1, offset, {}};
+        if (!WrongTimes(settings, moment).isEmpty())
+            return false;
+    }
+    return true;
+}
+
+QString CityOf(const QString &zone)
+{
+    return zone.section(QLatin1Char('/'), -1);
+}
+
+} // namespace
+
+Span TenYearsFrom(const QDate &first)
+{
+    const auto begin = [](const QDate &date) {
+        return QDateTime(date, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
+    };
+    return {begin(first), begin(qMin(first.addYears(kYears), QDate(kListedUpTo, 1, 1)))};
+}
+
+QString DateOf(qint64 utc)
+{
+    return Utc(utc).toString(QStringLiteral("yyyy-MM-dd"));
+}
+
+QList<QByteArray> ZoneNames()
+{
+    return QTimeZone::availableTimeZoneIds();
+}
+
+std::optional<CivilTime> CivilTimeOf(const QByteArray &name, const Span &span)
+{
+    if (!IsZoneName(name))
+        return std::nullopt;
+    const QTimeZone zone(name);
+    return zone.isValid() ? std::optional(CivilTimeOf(zone, span)) : std::nullopt;
+}
+
+QString NearestZone(const QString &name)
+{
+    const QString word = name.simplified().replace(QLatin1Char(' '), QLatin1Char('_'));
+    QStringList zones;
+    QStringList cities;
+    for (const QByteArray &zone : ZoneNames()) {
+        zones.append(QString::fromLatin1(zone));
+        cities.append(CityOf(zones.last()));
+    }
+    const QString city = CityOf(word);
+    const auto isCity = [&](const QString &other) {
+        return other.compare(city, Qt::CaseInsensitive) == 0;
+    };
+    const auto found = std::find_if(cities.cbegin(), cities.cend(), isCity);
+    if (found != cities.cend())
+        return zones[static_cast<int>(found - cities.cbegin())];
+    const QString nearest = Nearest(word, zones);
+    return nearest.isEmpty() ? zones.value(cities.indexOf(Nearest(city, cities))) : nearest;
+}
+
+QByteArray ZoneWith(const ZoneSettings &settings, const Span &span)
+{
+    QList<QByteArray> names;
+    for (const char *name : kMuchUsed)
+        names.append(name);
+    for (const QByteArray &name : names + ZoneNames()) {
+        const QTimeZone zone(name);
+        if (zone.isValid() && MayHave(zone, settings, span.begin)
+            && WrongTimes(settings, CivilTimeOf(zone, span)).isEmpty())
+            return name;
+    }
+    return {};
+}
+
+} // namespace ClockTool

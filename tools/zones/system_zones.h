@@ -1,0 +1,43 @@
+// The system's zones, as lists of changes.
+#pragma once
+
+#include "zone_rule.h"
+
+#include <QByteArray>
+#include <QDate>
+#include <QList>
+
+#include <optional>
+
+namespace ClockTool {
+
+/// A while in milliseconds since 1970-01-01 UTC, without its end.
+struct Span
+{
+    qint64 begin;
+    qint64 end;
+};
+
+/// The ten years from a day, as far as the system's data list the changes of zones: to the end of
+/// 2037. It ends before it begins for a later day.
+Span TenYearsFrom(const QDate &first);
+
+/// "2026-03-29", in UTC.
+QString DateOf(qint64 utc);
+
+/// The names of the system's zones; empty where it has no zone data. Names that are only other
+/// names of these are understood besides.
+QList<QByteArray> ZoneNames();
+
+/// A zone's civil time over a while; nothing for a name that the system does not know.
+std::optional<CivilTime> CivilTimeOf(const QByteArray &zone, const Span &span);
+
+/// The zone that somebody may have meant by an unknown name: a city without its continent, or a
+/// slip of the pen. Empty when there is none.
+QString NearestZone(const QString &name);
+
+/// A zone of which settings give the civil time over the whole while, a much used one where there
+/// are several; empty when there is none.
+QByteArray ZoneWith(const ZoneSettings &settings, const Span &span);
+
+} // namespace ClockTool

@@ -1,0 +1,237 @@
+#include "zone_rule.h"
+
+#include "calendar/clock_time.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+constexpr int kMinute = 60;
+constexpr int kDay = 86400;
+/// Zones have one or two; one that moves its days every year has more than can all be tried.
+constexpr int kMostRules = 40;
+
+qint64 Milliseconds(int seconds)
+{
+    return seconds * Q_INT64_C(1000);
+}
+
+QDateTime Utc(qint64 milliseconds)
+{
+    return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+}
+
+/// A clock as the plugin computes it.
+class SimulatedClock
+{
+public:
+    explicit SimulatedClock(const ZoneSettings &settings)
+        : m_settings(settings), m_start(ParseDaylightRule(settings.start)),
+          m_end(ParseDaylightRule(settings.end))
+    { }
+
+    int OffsetAt(qint64 utc)
+    {
+        const qint64 reading = utc + Milliseconds(m_settings.offset);
+        return m_settings.offset
+            + m_daylight.ShiftSeconds(m_settings.start, m_settings.end, reading);
+    }
+
+    /// Appends the instants at which the shown offset may change: the boundaries of every year,
+    /// and the new year, from which the next year's boundaries count.
+    void AppendInstants(int year, QVector<qint64> &instants) const
+    {
+        const auto append = [&](const QDateTime &reading) {
+            if (reading.isValid())
+                instants.append(reading.toMSecsSinceEpoch() - Milliseconds(m_settings.offset));
+        };
+        append(QDateTime(QDate(year, 1, 1), QTime(0, 0), Qt::UTC));
+        if (!m_start || !m_end)
+            return;
+        append(BoundaryInYear(*m_start, year));
+        append(BoundaryInYear(*m_end, year));
+    }
+
+private:
+    const ZoneSettings &m_settings;
+    const std::optional<DaylightRule> m_start;
+    const std::optional<DaylightRule> m_end;
+    DaylightSaving m_daylight;
+};
+
+/// Every instant of the while at which clock or zone may change, its begin among them.
+QVector<qint64> Instants(const SimulatedClock &clock, const CivilTime &civil)
+{
+    QVector<qint64> instants {civil.begin};
+    for (const OffsetChange &change : civil.changes)
+        instants.append(change.at);
+    // Readings lie up to a day from UTC.
+    const int last = Utc(civil.end).date().year() + 1;
+    for (int year = Utc(civil.begin).date().year() - 1; year <= last; ++year)
+        clock.AppendInstants(year, instants);
+    std::sort(instants.begin(), instants.end());
+    instants.erase(std::unique(instants.begin(), instants.end()), instants.end());
+    const auto outside = [&](qint64 at) { return at < civil.begin || at >= civil.end; };
+    instants.erase(std::remove_if(instants.begin(), instants.end(), outside), instants.end());
+    return instants;
+}
+
+qint64 TotalOf(const QVector<WrongTime> &times)
+{
+    qint64 total = 0;
+    for (const WrongTime &time : times)
+        total += time.end - time.begin;
+    return total;
+}
+
+/// Offsets that a clock can have, from those of the zone, the most frequent reason for a zone's
+/// offset first: the one at the begin.
+QVector<int> PossibleOffsets(const CivilTime &civil)
+{
+    QVector<int> offsets;
+    const auto add = [&](int seconds) {
+        const int minutes = qRound(seconds / static_cast<double>(kMinute)) * kMinute;
+        if (qAbs(minutes) < kDay && !offsets.contains(minutes))
+            offsets.append(minutes);
+    };
+    add(civil.offset);
+    for (const OffsetChange &change : civil.changes)
+        add(change.offset);
+    return offsets;
+}
+
+/// The reading itself, and the nearest midnight where it lies within two hours of one: a change at
+/// midnight by one reading falls on the other day by the other, where no rule may name it.
+QVector<qint64> ReadingsNear(qint64 reading)
+{
+    const QDateTime exact = Utc(reading);
+    const QDateTime midnight(exact.date(), QTime(0, 0), Qt::UTC);
+    QVector<qint64> readings {reading};
+    if (exact == midnight)
+        readings.append(reading - 1000);
+    else if (exact.time().hour() >= 22)
+        readings.append(midnight.addDays(1).toMSecsSinceEpoch());
+    return readings;
+}
+
+/// The rules that may name the begin of daylight saving over a standard offset, or its end.
+QStringList PossibleRules(const CivilTime &civil, int standard, bool isStart)
+{
+    const int daylight = standard + DaylightSaving::kShiftSeconds;
+    QStringList rules;
+    int before = civil.offset;
+    for (const OffsetChange &change : civil.changes) {
+        const int met = isStart ? change.offset : before;
+        const int left = isStart ? before : change.offset;
+        before = change.offset;
+        if (met != daylight || left == daylight)
+            continue;
+        for (const qint64 reading : ReadingsNear(change.at + Milliseconds(standard)))
+            rules += RulesNaming(reading);
+    }
+    rules.removeDuplicates();
+    return rules.mid(0, kMostRules);
+}
+
+/// Keeps the best settings of those it is shown; of equal ones the first.
+class Choice
+{
+public:
+    explicit Choice(const CivilTime &civil) : m_civil(civil) { }
+
+    void Try(const ZoneSettings &settings)
+    {
+        if (IsExact())
+            return;
+        const qint64 wrong = TotalOf(WrongTimes(settings, m_civil));
+        if (m_wrong >= 0 && wrong >= m_wrong)
+            return;
+        m_wrong = wrong;
+        m_best = settings;
+    }
+
+    bool IsExact() const { return m_wrong == 0; }
+    const ZoneSettings &Best() const { return m_best; }
+
+private:
+    const CivilTime &m_civil;
+    ZoneSettings m_best;
+    qint64 m_wrong = -1;
+};
+
+} // namespace
+
+QString ZoneSettings::ZoneText() const
+{
+    const int minutes = qAbs(offset) / kMinute;
+    return QStringLiteral("%1%2:%3")
+        .arg(QLatin1Char(offset < 0 ? '-' : '+'))
+        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
+        .arg(minutes % 60, 2, 10, QLatin1Char('0'));
+}
+
+QVector<WrongTime> WrongTimes(const ZoneSettings &settings, const CivilTime &civil)
+{
+    SimulatedClock clock(settings);
+    const QVector<qint64> instants = Instants(clock, civil);
+    QVector<WrongTime> times;
+    int next = 0;
+    int offset = civil.offset;
+    for (int i = 0; i < instants.size(); ++i) {
+        for (; next < civil.changes.size() && civil.changes[next].at <= instants[i]; ++next)
+            offset = civil.changes[next].offset;
+        const int error = clock.OffsetAt(instants[i]) - offset;
+        const qint64 end = i + 1 < instants.size() ? instants[i + 1] : civil.end;
+        if (error == 0)
+            continue;
+        if (!times.isEmpty() && times.last().end == instants[i] && times.last().error == error)
+            times.last().end = end;
+        else
+            times.append({instants[i], end, error});
+    }
+    return times;
+}
+
+QStringList RulesNaming(qint64 reading)
+{
+    const QDateTime time = Utc(reading);
+    const QDate date = time.date();
+    const auto rule = [&](const QString &occurrence) {
+        return QStringLiteral("%1.%2.%3.%4")
+            .arg(date.month())
+            .arg(occurrence)
+            .arg(date.dayOfWeek())
+            .arg(time.time().toString(QStringLiteral("hh:mm:ss")));
+    };
+    QStringList rules;
+    if (date.day() + 7 > date.daysInMonth())
+        rules.append(rule(QStringLiteral("Last")));
+    const int count = (date.day() - 1) / 7 + 1;
+    if (count <= 4) // a fifth is the last, and not there every year
+        rules.append(rule(QString::number(count)));
+    return rules;
+}
+
+ZoneSettings BestSettings(const CivilTime &civil)
+{
+    Choice choice(civil);
+    const QVector<int> offsets = PossibleOffsets(civil);
+    for (const int offset : offsets)
+        choice.Try({offset, QString(), QString()});
+    for (const int offset : offsets) {
+        const QStringList ends = PossibleRules(civil, offset, false);
+        for (const QString &start : PossibleRules(civil, offset, true)) {
+            for (const QString &end : ends)
+                choice.Try({offset, start, end});
+        }
+    }
+    return choice.Best();
+}
+
+} // namespace ClockTool
