@@ -24,6 +24,7 @@ CommandResult RunExport(const QStringList &arguments);
 CommandResult RunGlyphs(const QStringList &arguments);
 CommandResult RunAttributes(const QStringList &arguments);
 CommandResult RunZone(const QStringList &arguments);
+CommandResult RunSelfTest(const QStringList &arguments);
 
 /// A line for the person at the shell, on standard error.
 void Say(const QString &text);

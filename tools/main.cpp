@@ -24,6 +24,7 @@ constexpr Command kCommands[] = {
     {"glyphs", RunGlyphs, "list the glyph images of a program, and which clocks share them"},
     {"attributes", RunAttributes, "write the reference table of the clock's attributes"},
     {"zone", RunZone, "say what to set for a zone's time, and whether a clock can have it"},
+    {"self-test", RunSelfTest, "try calendars, daylight saving and drawing on this device"},
 };
 
 QString HelpText()
@@ -40,7 +41,7 @@ QString HelpText()
                "Exit codes:\n"
                "  0  done; for lint: nothing found; for zone: exact\n"
                "  1  something failed, such as writing; for lint: something was found;\n"
-               "     for zone: not exact\n"
+               "     for zone: not exact; for self-test: something is wrong here\n"
                "  2  the command line is wrong\n"
                "  3  the input is missing or wrong; the message says where\n");
 }

@@ -41,7 +41,7 @@ void TestToolCommands::Help_data()
     QTest::newRow("of the tool, short") << QStringList {"-h"} << "Usage: clock_tool COMMAND";
     QTest::newRow("version") << QStringList {"--version"} << "clock_tool ";
     for (const char *command :
-         {"lint", "sdk", "import", "export", "glyphs", "attributes", "zone"}) {
+         {"lint", "sdk", "import", "export", "glyphs", "attributes", "zone", "self-test"}) {
         QTest::addRow("of %s", command)
             << QStringList {command, "--help"} << "Usage: clock_tool " + QString(command);
         QTest::addRow("version from %s", command)

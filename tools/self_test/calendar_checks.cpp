@@ -1,0 +1,125 @@
+#include "calendar_digests.h"
+#include "checks.h"
+
+#include "calendar/clock_time.h"
+#include "calendar/lunar_calendar.h"
+#include "calendar/persian_calendar.h"
+
+#include <QCryptographicHash>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+constexpr int kPersianBegin = 1372;
+
+CheckResult Compare(const QString &what, const QCryptographicHash &texts, const char *expected)
+{
+    if (texts.result().toHex() == expected)
+        return {what, Outcome::Ok, QString()};
+    return {what, Outcome::Failed, QStringLiteral("the dates are not those that they should be")};
+}
+
+CheckResult CheckLunar()
+{
+    const QDate first(1900, 2, 1);
+    const QDate last(2051, 2, 10);
+    QCryptographicHash texts(QCryptographicHash::Sha256);
+    for (QDate date = first; date <= last; date = date.addDays(1)) {
+        const QByteArray lunar = LunarCalendarSetup(date.year(), date.month(), date.day());
+        texts.addData(date.toString(Qt::ISODate).toLatin1() + ' ' + lunar + '\n');
+    }
+    return Compare(QStringLiteral("lunar calendar, %1 days").arg(first.daysTo(last) + 1), texts,
+                   kLunarDigest);
+}
+
+CheckResult CheckPersian()
+{
+    const QDate first(1993, 3, 21);
+    QCryptographicHash texts(QCryptographicHash::Sha256);
+    QDate date = first;
+    for (PersianDate persian = ToPersianDate(date); persian.year < kPersianEnd && persian.day > 0;
+         persian = ToPersianDate(date)) {
+        texts.addData(QStringLiteral("%1 %2-%3-%4\n")
+                          .arg(date.toString(Qt::ISODate))
+                          .arg(persian.year)
+                          .arg(persian.month)
+                          .arg(persian.day)
+                          .toLatin1());
+        date = date.addDays(1);
+    }
+    return Compare(QStringLiteral("Persian calendar, %1 days").arg(first.daysTo(date)), texts,
+                   kPersianDigest);
+}
+
+CheckResult CheckPersianLeapYears()
+{
+    QCryptographicHash texts(QCryptographicHash::Sha256);
+    for (int year = kPersianBegin; year < kPersianEnd; ++year) {
+        if (IsPersianLeapYear(year))
+            texts.addData(QByteArray::number(year) + '\n');
+    }
+    return Compare(
+        QStringLiteral("Persian leap years, %1 to %2").arg(kPersianBegin).arg(kPersianEnd - 1),
+        texts, kPersianLeapDigest);
+}
+
+/// A change of offset that has happened, as it was announced.
+struct KnownChange
+{
+    const char *name;
+    const char *zone;
+    const char *start;
+    const char *end;
+    const char *at; // UTC
+    int before;     // hours to add to UTC
+    int after;
+};
+
+// clang-format off
+constexpr KnownChange kChanges[] = {
+    {"Berlin, spring", "+01:00", "3.Last.7.02:00:00", "10.Last.7.02:00:00", "2024-03-31T01:00:00Z", 1, 2},
+    {"Berlin, autumn", "+01:00", "3.Last.7.02:00:00", "10.Last.7.02:00:00", "2024-10-27T01:00:00Z", 2, 1},
+    {"New York, spring", "-05:00", "3.2.7.02:00:00", "11.1.7.01:00:00", "2024-03-10T07:00:00Z", -5, -4},
+    {"New York, autumn", "-05:00", "3.2.7.02:00:00", "11.1.7.01:00:00", "2024-11-03T06:00:00Z", -4, -5},
+    {"Sydney, autumn", "+10:00", "10.1.7.02:00:00", "4.1.7.02:00:00", "2024-04-06T16:00:00Z", 11, 10},
+    {"Sydney, spring", "+10:00", "10.1.7.02:00:00", "4.1.7.02:00:00", "2024-10-05T16:00:00Z", 10, 11},
+    {"Cairo, autumn", "+02:00", "4.Last.5.00:00:00", "10.Last.4.23:00:00", "2024-10-31T21:00:00Z", 3, 2},
+};
+// clang-format on
+
+int OffsetAt(const KnownChange &change, qint64 utc)
+{
+    const int offset = ParseZoneOffset(QLatin1String(change.zone));
+    return offset
+        + DaylightSaving().ShiftSeconds(QLatin1String(change.start), QLatin1String(change.end),
+                                        utc + offset * Q_INT64_C(1000));
+}
+
+} // namespace
+
+QVector<CheckResult> CheckCalendars()
+{
+    return {CheckLunar(), CheckPersian(), CheckPersianLeapYears()};
+}
+
+QVector<CheckResult> CheckDaylightSaving()
+{
+    CheckResult result {QStringLiteral("daylight saving, %1 known changes")
+                            .arg(static_cast<int>(std::size(kChanges))),
+                        Outcome::Ok, QString()};
+    for (const KnownChange &change : kChanges) {
+        const qint64 at =
+            QDateTime::fromString(QLatin1String(change.at), Qt::ISODate).toMSecsSinceEpoch();
+        if (OffsetAt(change, at - 1000) == change.before * 3600
+            && OffsetAt(change, at) == change.after * 3600)
+            continue;
+        result.outcome = Outcome::Failed;
+        result.why = QStringLiteral("wrong at the change of %1").arg(QLatin1String(change.name));
+    }
+    return {result};
+}
+
+} // namespace ClockTool

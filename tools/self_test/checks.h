@@ -1,0 +1,34 @@
+// What clock_tool self-test looks at.
+#pragma once
+
+#include <QImage>
+#include <QString>
+#include <QVector>
+
+namespace ClockTool {
+
+enum class Outcome { Ok, Failed, NotChecked };
+
+struct CheckResult
+{
+    QString what;
+    Outcome outcome = Outcome::Failed;
+    QString why; ///< empty where all is well
+};
+
+/// The lunar calendar on every day that it has, the Persian one on every day up to 2060, and its
+/// leap years.
+QVector<CheckResult> CheckCalendars();
+
+/// Daylight saving a second before and at changes that have happened.
+QVector<CheckResult> CheckDaylightSaving();
+
+/// A frame of each kind of clock. The glyph images are made here and not from fonts, and nothing
+/// is smoothed, so that the frames are the same on every machine. They are written to the
+/// directory and read by the clocks from there; without a directory the frames fail.
+QVector<CheckResult> CheckFrames(const QString &directory);
+
+/// SHA-256 of a picture's size and of the red, green and blue of its pixels, row by row.
+QByteArray PictureDigest(const QImage &picture);
+
+} // namespace ClockTool

@@ -1,0 +1,125 @@
+#include "blot_glyphs.h"
+#include "checks.h"
+#include "frame_digests.h"
+
+#include "calendar/device_clock.h"
+#include "display/draw_display_image.h"
+#include "glyph/glyph_set.h"
+#include "happconfig.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QtEndian>
+
+namespace ClockTool {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+// A player's format without alpha: the clock smooths nothing in it.
+constexpr int kPlainFormat = QImage::Format_RGB32;
+constexpr int kStyles = 10;
+
+/// While it lives, clocks show one instant, unsmoothed.
+class StillTime
+{
+public:
+    StillTime() : m_format(Lw::HAppConfig::instance()->RenderImageFormat())
+    {
+        Lw::HAppConfig::SetRenderImageFormat(kPlainFormat);
+        clock_set_time_source(&BlotInstant);
+    }
+    ~StillTime()
+    {
+        clock_set_time_source(nullptr);
+        Lw::HAppConfig::SetRenderImageFormat(m_format);
+    }
+    Q_DISABLE_COPY(StillTime)
+
+private:
+    const int m_format;
+};
+
+CheckResult CheckFrame(const QString &what, int type, const QString &directory,
+                       const char *expected)
+{
+    HClockNode clock;
+    if (directory.isEmpty() || !SetUpBlotClock(clock, type, directory))
+        return {what, Outcome::Failed, QStringLiteral("temporary files cannot be written")};
+    DrawDisplayImage drawer(&clock);
+    drawer.DrawClockDisplayImage(); // an analog clock's texts show from the second frame on
+    if (PictureDigest(drawer.DrawClockDisplayImage()) == expected)
+        return {what, Outcome::Ok, QString()};
+    return {what, Outcome::Failed, QStringLiteral("the frame is not what it should be")};
+}
+
+/// The folder that picture clocks read; it lies beside the program's and cannot be chosen.
+QString StyleFolder()
+{
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/../image/ClockType/");
+}
+
+QStringList StylePictures()
+{
+    QStringList names {QStringLiteral("hour.png"), QStringLiteral("minute.png"),
+                       QStringLiteral("second.png"), QStringLiteral("center.png")};
+    for (int style = 1; style <= kStyles; ++style)
+        names.append(QStringLiteral("picbutton%1.png").arg(style));
+    return names;
+}
+
+/// Pictures are the installation's own, so that no digest can be given: all can be read, and the
+/// clock draws something of each.
+CheckResult CheckPictureClock()
+{
+    const QString what = QStringLiteral("picture clock, %1 styles").arg(kStyles);
+    if (!QFileInfo(StyleFolder()).isDir())
+        return {
+            what, Outcome::NotChecked,
+            QStringLiteral("no pictures in %1").arg(QFileInfo(StyleFolder()).absoluteFilePath())};
+    for (const QString &name : StylePictures()) {
+        if (QImageReader(StyleFolder() + name).read().isNull())
+            return {what, Outcome::Failed, QStringLiteral("%1 cannot be read").arg(name)};
+    }
+    HClockNode clock;
+    SetUpBlotClock(clock, PictureClock, QString());
+    DrawDisplayImage drawer(&clock);
+    for (int style = 1; style <= kStyles; ++style) {
+        clock.SetAttribute(Key(Attribute::PictrueClockType), style, false);
+        const QImage frame = drawer.DrawClockDisplayImage();
+        QImage nothing = frame;
+        nothing.fill(drawer.GetColorKey());
+        if (frame.isNull() || frame == nothing)
+            return {what, Outcome::Failed, QStringLiteral("style %1 draws nothing").arg(style)};
+    }
+    return {what, Outcome::Ok, QString()};
+}
+
+} // namespace
+
+QByteArray PictureDigest(const QImage &picture)
+{
+    const QImage plain = picture.convertToFormat(QImage::Format_RGB888);
+    QCryptographicHash digest(QCryptographicHash::Sha256);
+    digest.addData(QByteArray::number(plain.width()) + 'x' + QByteArray::number(plain.height()));
+    for (int y = 0; y < plain.height(); ++y)
+        digest.addData(reinterpret_cast<const char *>(plain.constScanLine(y)), 3 * plain.width());
+    return digest.result().toHex();
+}
+
+QVector<CheckResult> CheckFrames(const QString &directory)
+{
+    const StillTime still;
+    return {
+        CheckFrame(QStringLiteral("digital clock, a frame"), DigitalClock, directory,
+                   kDigitalFrameDigest),
+        CheckFrame(QStringLiteral("analog clock, a frame"), AnalogClock, directory,
+                   kAnalogFrameDigest),
+        CheckPictureClock(),
+    };
+}
+
+} // namespace ClockTool
