@@ -1,19 +1,29 @@
-// Frames: a steady second of each kind of clock beside the least that a frame of its size can cost.
+// Frames: a second of each kind of clock beside the least that a frame of its size can cost, beside
+// the plain way of drawing the same pixels, and beside what a careful program would do with Qt's
+// own drawing.
 #include "bench_support.h"
+#include "plain_clocks.h"
+#include "plain_digital.h"
 
 #include "calendar/device_clock.h"
+#include "compose/draw_clock_classify_image.h"
+#include "compose/element_composer.h"
 #include "display/draw_display_image.h"
+#include "display/frame_painter.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
+#include <QPainter>
 
 #include <cstring>
 #include <utility>
 #include <vector>
 
+using Lw::HNodeClock::Attribute;
 using Lw::HNodeClock::DrawDisplayImage;
 using Lw::HNodeClock::HeldReading;
+using Lw::HNodeClock::Key;
 
 namespace {
 
@@ -22,51 +32,202 @@ QSize Area(const benchmark::State &state)
     return QSize(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
 }
 
-void SetFrameBytes(benchmark::State &state)
+QDateTime Shown()
 {
-    state.SetBytesProcessed(state.iterations() * state.range(0) * state.range(1) * 4);
+    return QDateTime::fromMSecsSinceEpoch(Lw::HNodeClock::UtcMilliseconds(), Qt::UTC);
 }
 
 // The player keeps the frame that it shows until it is given the next one.
-void PlayFrames(benchmark::State &state, int clockType)
+template<typename Frame>
+void PlayFrames(benchmark::State &state, bench::SteppedTime &time, Frame frame)
+{
+    QImage shown;
+    for (int i = 0; i < 3; ++i) {
+        shown = frame();
+        time.Step();
+    }
+    const bench::CountsPerIteration counts(state, Area(state));
+    for (auto _ : state) {
+        time.Step();
+        const HeldReading held;
+        shown = frame();
+        benchmark::DoNotOptimize(shown.constBits());
+    }
+}
+
+void PlayClock(benchmark::State &state, int clockType)
 {
     const auto node = bench::NewNode(clockType, Area(state));
     bench::MakeGlyphs(node.get());
     bench::SteppedTime time;
     DrawDisplayImage drawer(node.get());
-    QImage shown;
-    for (int i = 0; i < 3; ++i) {
-        shown = drawer.DrawClockDisplayImage();
-        time.Step();
-    }
-    const bench::AllocationsPerIteration allocations(state);
-    for (auto _ : state) {
-        time.Step();
-        const HeldReading held;
-        shown = drawer.DrawClockDisplayImage();
-        benchmark::DoNotOptimize(shown.constBits());
-    }
-    SetFrameBytes(state);
+    PlayFrames(state, time, [&drawer] { return drawer.DrawClockDisplayImage(); });
+}
+
+bool HasStylePictures(benchmark::State &state)
+{
+    const QString dial =
+        QCoreApplication::applicationDirPath() + "/../image/ClockType/picbutton1.png";
+    const bool exists = QFileInfo::exists(dial);
+    if (!exists)
+        state.SkipWithError("no style pictures beside the program's directory");
+    return exists;
 }
 
 void DigitalSecond(benchmark::State &state)
 {
-    PlayFrames(state, bench::kDigital);
+    PlayClock(state, bench::kDigital);
 }
 
 void AnalogSecond(benchmark::State &state)
 {
-    PlayFrames(state, bench::kAnalog);
+    PlayClock(state, bench::kAnalog);
 }
 
 void PictureSecond(benchmark::State &state)
 {
-    const QString dial =
-        QCoreApplication::applicationDirPath() + "/../image/ClockType/picbutton1.png";
-    if (!QFileInfo::exists(dial))
-        state.SkipWithError("no style pictures beside the program's directory");
-    else
-        PlayFrames(state, bench::kPicture);
+    if (HasStylePictures(state))
+        PlayClock(state, bench::kPicture);
+}
+
+// The time to the minute, within one minute.
+void DigitalUnchanged(benchmark::State &state)
+{
+    const auto node = bench::NewNode(bench::kDigital, Area(state));
+    node->SetAttribute(Key(Attribute::DigitalTimeType), 1, false);
+    bench::MakeGlyphs(node.get());
+    const bench::SteppedTime time;
+    DrawDisplayImage drawer(node.get());
+    QImage shown = drawer.DrawClockDisplayImage();
+    const bench::CountsPerIteration counts(state, Area(state));
+    for (auto _ : state) {
+        const HeldReading held;
+        shown = drawer.DrawClockDisplayImage();
+        benchmark::DoNotOptimize(shown.constBits());
+    }
+}
+
+// A frame of which nothing is known: filled, and every element drawn.
+void DigitalFull(benchmark::State &state)
+{
+    const auto node = bench::NewNode(bench::kDigital, Area(state));
+    bench::MakeGlyphs(node.get());
+    const bench::SteppedTime time;
+    Lw::HNodeClock::DrawClockClassifyImage composer;
+    composer.InitParameters(node.get());
+    Lw::HNodeClock::ElementComposer &elements = composer.Elements();
+    const Lw::HNodeClock::ElementComposer::ReadingScope oneReading(elements);
+    Lw::HNodeClock::Placements rows;
+    int top = 0;
+    for (const auto *element :
+         {&elements.TopText(), &elements.Date(), &elements.Week(), &elements.Time()}) {
+        rows.Add(*element, {Area(state).width() / 2 - element->Width() / 2, top});
+        top += element->Height();
+    }
+    QImage image(Area(state), QImage::Format_ARGB32);
+    const bench::CountsPerIteration counts(state, Area(state));
+    for (auto _ : state) {
+        Lw::HNodeClock::FrameContents unknown;
+        unknown.Draw(image, rows, QColor(1, 2, 1));
+        benchmark::DoNotOptimize(image.constBits());
+    }
+}
+
+void PlainDigitalSecond(benchmark::State &state)
+{
+    const auto node = bench::NewNode(bench::kDigital, Area(state));
+    bench::MakeGlyphs(node.get());
+    bench::SteppedTime time;
+    PlainDigitalClock plain(*node);
+    PlayFrames(state, time,
+               [&plain] { return plain.Frame(PlainDigitalClock::Gregorian(Shown())); });
+}
+
+void PlayPlain(benchmark::State &state, int clockType)
+{
+    const auto node = bench::NewNode(clockType, Area(state));
+    bench::MakeGlyphs(node.get());
+    bench::SteppedTime time;
+    PlainClock plain(node.get());
+    PlayFrames(state, time, [&plain] { return plain.Frame(); });
+}
+
+void PlainAnalogSecond(benchmark::State &state)
+{
+    PlayPlain(state, bench::kAnalog);
+}
+
+void PlainPictureSecond(benchmark::State &state)
+{
+    if (HasStylePictures(state))
+        PlayPlain(state, bench::kPicture);
+}
+
+// Date, weekday and time as lines of text on a premultiplied image, the font made once.
+void QtTextSecond(benchmark::State &state)
+{
+    const QSize area = Area(state);
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPixelSize(qMax(8, area.height() / 6));
+    font.setStyleStrategy(QFont::NoAntialias);
+    QImage frames[2] = {QImage(area, QImage::Format_ARGB32_Premultiplied),
+                        QImage(area, QImage::Format_ARGB32_Premultiplied)};
+    int next = 0;
+    bench::SteppedTime time;
+    PlayFrames(state, time, [&] {
+        QImage &frame = frames[next ^= 1];
+        const QDateTime now = Shown();
+        frame.fill(QColor(1, 2, 1));
+        QPainter painter(&frame);
+        painter.setFont(font);
+        painter.setPen(Qt::white);
+        const int line = area.height() / 4;
+        const QString texts[] = {now.toString(QStringLiteral("yyyy/MM/dd")),
+                                 now.toString(QStringLiteral("dddd")),
+                                 now.toString(QStringLiteral("hh:mm:ss"))};
+        for (int i = 0; i < 3; ++i)
+            painter.drawText(QRect(0, i * line, area.width(), line), Qt::AlignCenter, texts[i]);
+        painter.end();
+        return std::as_const(frame);
+    });
+}
+
+// Sixty marks and three hands on a premultiplied image, antialiased.
+void QtDialSecond(benchmark::State &state)
+{
+    const QSize area = Area(state);
+    const double radius = qMin(area.width(), area.height()) / 2.0;
+    QImage frames[2] = {QImage(area, QImage::Format_ARGB32_Premultiplied),
+                        QImage(area, QImage::Format_ARGB32_Premultiplied)};
+    int next = 0;
+    bench::SteppedTime time;
+    PlayFrames(state, time, [&] {
+        QImage &frame = frames[next ^= 1];
+        const QTime now = Shown().time();
+        frame.fill(QColor(1, 2, 1));
+        QPainter painter(&frame);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(area.width() / 2.0, area.height() / 2.0);
+        painter.setPen(Qt::white);
+        for (int i = 0; i < 60; ++i) {
+            painter.drawLine(QPointF(0, -radius), QPointF(0, -radius * (i % 5 ? 0.96 : 0.9)));
+            painter.rotate(6);
+        }
+        painter.setPen(Qt::NoPen);
+        const double angles[] = {(now.hour() + now.minute() / 60.0) * 30, now.minute() * 6.0,
+                                 now.second() * 6.0};
+        const double lengths[] = {0.45, 0.65, 0.85};
+        for (int i = 0; i < 3; ++i) {
+            painter.save();
+            painter.rotate(angles[i]);
+            painter.setBrush(i == 2 ? Qt::red : Qt::white);
+            painter.drawRect(
+                QRectF(-radius / 27, -radius * lengths[i], radius / 13.5, radius * lengths[i]));
+            painter.restore();
+        }
+        painter.end();
+        return std::as_const(frame);
+    });
 }
 
 void KeyColourFill(benchmark::State &state)
@@ -77,7 +238,6 @@ void KeyColourFill(benchmark::State &state)
         benchmark::DoNotOptimize(image.constBits());
         benchmark::ClobberMemory();
     }
-    SetFrameBytes(state);
 }
 
 void FrameCopy(benchmark::State &state)
@@ -90,22 +250,6 @@ void FrameCopy(benchmark::State &state)
         benchmark::DoNotOptimize(to.data());
         benchmark::ClobberMemory();
     }
-    SetFrameBytes(state);
-}
-
-// A new drawer: glyph images are loaded, every element is composed, a whole frame is drawn.
-void DigitalFromNothing(benchmark::State &state)
-{
-    const auto node = bench::NewNode(bench::kDigital, Area(state));
-    bench::MakeGlyphs(node.get());
-    const bench::SteppedTime time;
-    const bench::AllocationsPerIteration allocations(state);
-    for (auto _ : state) {
-        DrawDisplayImage drawer(node.get());
-        const QImage frame = drawer.DrawClockDisplayImage();
-        benchmark::DoNotOptimize(frame.constBits());
-    }
-    SetFrameBytes(state);
 }
 
 void Sizes(benchmark::internal::Benchmark *frames)
@@ -120,9 +264,15 @@ void Sizes(benchmark::internal::Benchmark *frames)
 
 } // namespace
 
-BENCHMARK(DigitalSecond)->Apply(Sizes);
-BENCHMARK(AnalogSecond)->Apply(Sizes);
-BENCHMARK(PictureSecond)->Apply(Sizes);
 BENCHMARK(KeyColourFill)->Apply(Sizes);
 BENCHMARK(FrameCopy)->Apply(Sizes);
-BENCHMARK(DigitalFromNothing)->Apply(Sizes);
+BENCHMARK(DigitalSecond)->Apply(Sizes);
+BENCHMARK(DigitalUnchanged)->Apply(Sizes);
+BENCHMARK(DigitalFull)->Apply(Sizes);
+BENCHMARK(PlainDigitalSecond)->Apply(Sizes);
+BENCHMARK(QtTextSecond)->Apply(Sizes);
+BENCHMARK(AnalogSecond)->Apply(Sizes);
+BENCHMARK(PlainAnalogSecond)->Apply(Sizes);
+BENCHMARK(QtDialSecond)->Apply(Sizes);
+BENCHMARK(PictureSecond)->Apply(Sizes);
+BENCHMARK(PlainPictureSecond)->Apply(Sizes);

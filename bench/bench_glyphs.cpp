@@ -2,28 +2,35 @@
 #include "bench_support.h"
 
 #include "compose/draw_clock_classify_image.h"
+#include "display/draw_display_image.h"
 #include "glyph/draw_source_image.h"
 
 using Lw::HNodeClock::Attribute;
 using Lw::HNodeClock::DrawClockClassifyImage;
+using Lw::HNodeClock::DrawDisplayImage;
 using Lw::HNodeClock::DrwSourceIMage;
 using Lw::HNodeClock::Key;
 
 namespace {
 
 constexpr QSize kArea(256, 128);
+constexpr int kPointsOf16Pixels = 12; // at 96 pixels an inch
+constexpr int kPointsOf48Pixels = 36;
 
-int ClockType(const benchmark::State &state)
+std::unique_ptr<Lw::HNodeClock::HClockNode> NodeOf(const benchmark::State &state)
 {
-    return static_cast<int>(state.range(0));
+    return bench::NewNode(static_cast<int>(state.range(0)), kArea,
+                          static_cast<int>(state.range(1)));
 }
 
 // The colour of dates and weeks changes with each run or stays: files
 // that would come out as they stand may be left alone.
 void Generate(benchmark::State &state, bool changing)
 {
-    const auto node = bench::NewNode(ClockType(state), kArea);
+    const auto node = NodeOf(state);
+    bench::MakeGlyphs(node.get());
     int colour = 0;
+    const bench::CountsPerIteration counts(state);
     for (auto _ : state) {
         colour = changing ? (colour + 1) % 0x1000000 : colour;
         for (const Attribute key : {Attribute::DigitalDateColor, Attribute::AnalogDateColor,
@@ -45,22 +52,41 @@ void GlyphGenerationUnchanged(benchmark::State &state)
 
 void GlyphLoading(benchmark::State &state)
 {
-    const auto node = bench::NewNode(ClockType(state), kArea);
+    const auto node = NodeOf(state);
     bench::MakeGlyphs(node.get());
     DrawClockClassifyImage composer;
-    const bench::AllocationsPerIteration allocations(state);
+    const bench::CountsPerIteration counts(state);
     for (auto _ : state)
         composer.InitParameters(node.get());
 }
 
-void Types(benchmark::internal::Benchmark *types)
+// Loading, and whatever the first frame needs besides.
+void FirstFrame(benchmark::State &state)
 {
-    types->ArgName("type")->Arg(bench::kAnalog)->Arg(bench::kDigital);
-    types->Unit(benchmark::kMillisecond);
+    const auto node = NodeOf(state);
+    bench::MakeGlyphs(node.get());
+    const bench::SteppedTime time;
+    const bench::CountsPerIteration counts(state);
+    for (auto _ : state) {
+        DrawDisplayImage drawer(node.get());
+        const QImage frame = drawer.DrawClockDisplayImage();
+        benchmark::DoNotOptimize(frame.constBits());
+    }
+}
+
+void Sets(benchmark::internal::Benchmark *sets)
+{
+    sets->ArgNames({"type", "points"});
+    for (const int type : {bench::kAnalog, bench::kDigital}) {
+        for (const int points : {kPointsOf16Pixels, kPointsOf48Pixels})
+            sets->Args({type, points});
+    }
+    sets->Unit(benchmark::kMillisecond);
 }
 
 } // namespace
 
-BENCHMARK(GlyphGeneration)->Apply(Types);
-BENCHMARK(GlyphGenerationUnchanged)->Apply(Types);
-BENCHMARK(GlyphLoading)->Apply(Types);
+BENCHMARK(GlyphGeneration)->Apply(Sets);
+BENCHMARK(GlyphGenerationUnchanged)->Apply(Sets);
+BENCHMARK(GlyphLoading)->Apply(Sets);
+BENCHMARK(FirstFrame)->Apply(Sets);

@@ -1,6 +1,5 @@
 #include "bench_support.h"
 
-#include "allocation_count.h"
 #include "calendar/device_clock.h"
 #include "glyph/draw_source_image.h"
 
@@ -38,7 +37,7 @@ constexpr Attribute kSizes[] = {
 
 } // namespace
 
-std::unique_ptr<HClockNode> NewNode(int clockType, QSize size)
+std::unique_ptr<HClockNode> NewNode(int clockType, QSize size, int points)
 {
     auto node = std::make_unique<HClockNode>();
     node->InitData();
@@ -47,7 +46,8 @@ std::unique_ptr<HClockNode> NewNode(int clockType, QSize size)
     for (const Attribute font : kFonts)
         node->SetAttribute(Key(font), QStringLiteral("DejaVu Sans"), false);
     // Four rows in the height; a point is a third larger than a pixel, a line a fifth higher.
-    const int points = std::max(6, std::min(size.height() / 8, size.width() / 12));
+    if (points == 0)
+        points = std::max(6, std::min(size.height() / 8, size.width() / 12));
     for (const Attribute fontSize : kSizes)
         node->SetAttribute(Key(fontSize), points, false);
     return node;
@@ -74,14 +74,24 @@ void SteppedTime::Step()
     g_second = (g_second + 1) % kSecondsStepped;
 }
 
-AllocationsPerIteration::AllocationsPerIteration(benchmark::State &state)
-    : m_state(state), m_before(AllocationCount())
-{ }
-
-AllocationsPerIteration::~AllocationsPerIteration()
+CountsPerIteration::CountsPerIteration(benchmark::State &state, QSize frame)
+    : m_state(state), m_before(CountsNow())
 {
-    const auto taken = static_cast<double>(AllocationCount() - m_before);
-    m_state.counters["allocations"] = benchmark::Counter(taken, benchmark::Counter::kAvgIterations);
+    if (!frame.isEmpty())
+        SetFrameBytes(4LL * frame.width() * frame.height());
+}
+
+CountsPerIteration::~CountsPerIteration()
+{
+    const ProcessCounts now = CountsNow();
+    const auto put = [this](const char *name, long long count) {
+        m_state.counters[name] =
+            benchmark::Counter(static_cast<double>(count), benchmark::Counter::kAvgIterations);
+    };
+    put("allocations", now.allocations - m_before.allocations);
+    put("allocated_bytes", now.bytes - m_before.bytes);
+    put("frame_sized", now.frameSized - m_before.frameSized);
+    put("files_opened", now.filesOpened - m_before.filesOpened);
 }
 
 } // namespace bench

@@ -1,6 +1,8 @@
 // What the benchmarks share: nodes that are ready to be drawn, and a time that they step.
 #pragma once
 
+#include "process_counts.h"
+
 #include "clock_node.h"
 
 #include <QSize>
@@ -15,8 +17,9 @@ constexpr int kAnalog = 0;
 constexpr int kDigital = 1;
 constexpr int kPicture = 2;
 
-/// A clock with its defaults, a fixed font that suits the area, and no glyph images yet.
-std::unique_ptr<Lw::HNodeClock::HClockNode> NewNode(int clockType, QSize size);
+/// A clock with its defaults, a fixed font, and no glyph images yet. Without a size in points the
+/// font suits the area.
+std::unique_ptr<Lw::HNodeClock::HClockNode> NewNode(int clockType, QSize size, int points = 0);
 
 /// Writes the node's glyph images and records them on it.
 void MakeGlyphs(Lw::HNodeClock::HClockNode *node);
@@ -33,18 +36,19 @@ public:
     void Step();
 };
 
-/// Puts the allocations an iteration took beside its time.
-class AllocationsPerIteration
+/// Puts what an iteration took of the process beside its time: allocations, their bytes, how many
+/// were as large as a frame, and files opened.
+class CountsPerIteration
 {
 public:
-    explicit AllocationsPerIteration(benchmark::State &state);
-    ~AllocationsPerIteration();
-    AllocationsPerIteration(const AllocationsPerIteration &) = delete;
-    AllocationsPerIteration &operator=(const AllocationsPerIteration &) = delete;
+    explicit CountsPerIteration(benchmark::State &state, QSize frame = QSize());
+    ~CountsPerIteration();
+    CountsPerIteration(const CountsPerIteration &) = delete;
+    CountsPerIteration &operator=(const CountsPerIteration &) = delete;
 
 private:
     benchmark::State &m_state;
-    long long m_before;
+    ProcessCounts m_before;
 };
 
 } // namespace bench

@@ -47,7 +47,7 @@ QByteArray ReadSmallPng(const QString &path)
     QFile file(path);
     if (!file.open(QFile::ReadOnly | QFile::Unbuffered) || file.size() > kSmall)
         return QByteArray();
-    const QByteArray content = file.read(kSmall);
+    const QByteArray content = file.read(file.size());
     return content.startsWith(kPngSignature) ? content : QByteArray();
 }
 

@@ -1,0 +1,92 @@
+// Many clocks at once, and what one keeps in memory.
+#include "bench_support.h"
+
+#include "calendar/device_clock.h"
+#include "display/draw_display_image.h"
+
+#include <QImage>
+
+#include <vector>
+
+using Lw::HNodeClock::DrawDisplayImage;
+using Lw::HNodeClock::HClockNode;
+using Lw::HNodeClock::HeldReading;
+
+namespace {
+
+constexpr QSize kArea(256, 128);
+constexpr int kPoints = 12;
+
+// One clock as its player keeps it: the frame shown is held.
+struct PlayedClock
+{
+    explicit PlayedClock(HClockNode *node) : drawer(new DrawDisplayImage(node)) { }
+    void Play() { shown = drawer->DrawClockDisplayImage(); }
+
+    std::unique_ptr<DrawDisplayImage> drawer;
+    QImage shown;
+};
+
+// Time is per clock: items are the clocks drawn.
+void Wall(benchmark::State &state)
+{
+    const auto node = bench::NewNode(static_cast<int>(state.range(0)), kArea, kPoints);
+    bench::MakeGlyphs(node.get());
+    bench::SteppedTime time;
+    std::vector<PlayedClock> clocks;
+    for (int i = 0; i < state.range(1); ++i)
+        clocks.emplace_back(node.get());
+    for (int second = 0; second < 3; ++second) {
+        for (PlayedClock &clock : clocks)
+            clock.Play();
+        time.Step();
+    }
+    for (auto _ : state) {
+        time.Step();
+        for (PlayedClock &clock : clocks) {
+            const HeldReading held;
+            clock.Play();
+        }
+    }
+    state.counters["per_clock"] = benchmark::Counter(static_cast<double>(state.range(1)),
+                                                     benchmark::Counter::kIsIterationInvariantRate
+                                                         | benchmark::Counter::kInvert);
+}
+
+// The heap that a played clock takes, its node apart, after two minutes.
+void Memory(benchmark::State &state)
+{
+    constexpr int kClocks = 16;
+    const auto node = bench::NewNode(static_cast<int>(state.range(0)), kArea, kPoints);
+    bench::MakeGlyphs(node.get());
+    bench::SteppedTime time;
+    for (auto _ : state) {
+        PlayedClock first(node.get()); // whatever is kept once for the process
+        first.Play();
+        const long long before = HeapInUse();
+        std::vector<PlayedClock> clocks;
+        for (int i = 0; i < kClocks; ++i)
+            clocks.emplace_back(node.get());
+        for (int second = 0; second < 120; ++second) {
+            time.Step();
+            for (PlayedClock &clock : clocks)
+                clock.Play();
+        }
+        state.counters["KiB"] = static_cast<double>(HeapInUse() - before) / 1024 / kClocks;
+    }
+}
+
+} // namespace
+
+BENCHMARK(Wall)
+    ->ArgNames({"type", "clocks"})
+    ->Args({bench::kDigital, 1})
+    ->Args({bench::kDigital, 64})
+    ->Args({bench::kAnalog, 1})
+    ->Args({bench::kAnalog, 64});
+BENCHMARK(Memory)
+    ->ArgName("type")
+    ->Arg(bench::kDigital)
+    ->Arg(bench::kAnalog)
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);

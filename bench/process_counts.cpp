@@ -1,0 +1,105 @@
+#include "process_counts.h"
+
+#include <atomic>
+#include <climits>
+#include <cstdarg>
+#include <cstddef>
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <malloc.h>
+
+namespace {
+
+std::atomic<long long> s_allocations {0};
+std::atomic<long long> s_bytes {0};
+std::atomic<long long> s_frameSized {0};
+std::atomic<long long> s_filesOpened {0};
+std::atomic<long long> s_frameBytes {LLONG_MAX};
+
+void Count(std::size_t size)
+{
+    const auto bytes = static_cast<long long>(size);
+    s_allocations.fetch_add(1, std::memory_order_relaxed);
+    s_bytes.fetch_add(bytes, std::memory_order_relaxed);
+    if (bytes >= s_frameBytes.load(std::memory_order_relaxed))
+        s_frameSized.fetch_add(1, std::memory_order_relaxed);
+}
+
+} // namespace
+
+// The C library calls whatever allocator the program brings, and offers its own by these names.
+extern "C" {
+void *__libc_malloc(std::size_t size);
+void *__libc_calloc(std::size_t count, std::size_t size);
+void *__libc_realloc(void *block, std::size_t size);
+
+void *malloc(std::size_t size)
+{
+    Count(size);
+    return __libc_malloc(size);
+}
+
+void *calloc(std::size_t count, std::size_t size)
+{
+    Count(count * size);
+    return __libc_calloc(count, size);
+}
+
+void *realloc(void *block, std::size_t size)
+{
+    Count(size);
+    return __libc_realloc(block, size);
+}
+
+// Qt opens its files by this one.
+int open64(const char *path, int flags, ...)
+{
+    using Open = int (*)(const char *, int, ...);
+    static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "open64"));
+    s_filesOpened.fetch_add(1, std::memory_order_relaxed);
+    va_list arguments;
+    va_start(arguments, flags);
+    const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    va_end(arguments);
+    return next(path, flags, mode);
+}
+}
+
+ProcessCounts CountsNow()
+{
+    return {s_allocations.load(), s_bytes.load(), s_frameSized.load(), s_filesOpened.load()};
+}
+
+void SetFrameBytes(long long bytes)
+{
+    s_frameBytes.store(bytes);
+}
+
+long long HeapInUse()
+{
+#if __GLIBC__ > 2 || __GLIBC_MINOR__ >= 33
+    const struct mallinfo2 info = mallinfo2();
+#else
+    const struct mallinfo info = mallinfo();
+#endif
+    return static_cast<long long>(info.uordblks) + static_cast<long long>(info.hblkhd);
+}
+
+#else
+
+ProcessCounts CountsNow()
+{
+    return {};
+}
+
+void SetFrameBytes(long long) { }
+
+long long HeapInUse()
+{
+    return 0;
+}
+
+#endif
