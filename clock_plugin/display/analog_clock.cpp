@@ -166,24 +166,24 @@ void DrawDisplayImage::DrawAnalogText()
     const struct
     {
         Attribute flag;
-        QPixmap (DrawClockClassifyImage::*pixmap)();
+        const Element &(ElementComposer::*element)();
         int top;
     } shown[] = {
-        {Attribute::Analog_TopTexy_d, &DrawClockClassifyImage::GetTopTextPixmap, d->rows.topText},
-        {Attribute::Analog_Date_d, &DrawClockClassifyImage::GetDatePixmap, d->rows.date},
-        {Attribute::Analog_Week_d, &DrawClockClassifyImage::GetWeeKPixmap, d->rows.week},
-        {Attribute::Analog_Lunar_d, &DrawClockClassifyImage::GetLunarPixmap, d->rows.lunar},
+        {Attribute::Analog_TopTexy_d, &ElementComposer::TopText, d->rows.topText},
+        {Attribute::Analog_Date_d, &ElementComposer::Date, d->rows.date},
+        {Attribute::Analog_Week_d, &ElementComposer::Week, d->rows.week},
+        {Attribute::Analog_Lunar_d, &ElementComposer::Lunar, d->rows.lunar},
     };
-    QVector<TextRow> rows;
+    const int middle = d->node->Size().width() / 2;
+    Placements rows;
     for (const auto &row : shown) {
         if (d->Number(row.flag) != 1)
             continue;
-        const QPixmap pixmap = (d->composer.*row.pixmap)();
-        const int left = d->node->Size().width() / 2 - pixmap.width() / 2;
-        rows.append({pixmap, QPoint(left, row.top)});
+        const Element &element = (d->composer.Elements().*row.element)();
+        rows.Add(element, QPoint(middle - element.Width() / 2, row.top));
     }
     const qint64 keyBefore = d->dialCache.cacheKey();
-    const QRegion changed = d->dialTexts.Paint(d->painter, d->dialCache, rows, Antialiasing());
+    const QRegion changed = d->dialTexts.Paint(d->dialCache, rows);
     d->dialFrames.BackgroundChanged(keyBefore, d->dialCache, changed);
 }
 

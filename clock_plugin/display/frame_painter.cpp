@@ -2,19 +2,7 @@
 
 #include "compose/piece_canvas.h"
 
-#include <algorithm>
-
 namespace Lw::HNodeClock {
-
-namespace {
-
-QRect PieceRect(const Element &element, const QPoint &position, const Piece &piece)
-{
-    const QRect rect(position.x() + piece.x, position.y(), piece.width, element.Height());
-    return rect & QRect(position, element.Size());
-}
-
-} // namespace
 
 bool FrameContents::Knows(const QImage &image) const
 {
@@ -23,61 +11,13 @@ bool FrameContents::Knows(const QImage &image) const
 
 bool FrameContents::Describes(const QImage &image, const Placements &placements) const
 {
-    return Knows(image) && m_count == placements.Count()
-        && std::equal(placements.begin(), placements.end(), m_shown.begin(),
-                      [](const auto &placed, const Shown &shown) { return shown.Is(placed); });
-}
-
-// An element that has moved, or another one, changes as a whole; else only those of its pieces that
-// are not where they were.
-void FrameContents::AddChanged(const Shown &before, const Placements::Placed &after, Rects &changed)
-{
-    const QPoint position = after.position;
-    if (before.Rect() != QRect(position, after.element->Size())) {
-        changed.append(before.Rect());
-        changed.append(QRect(position, after.element->Size()));
-        return;
-    }
-    const int count = qMax(before.element.Count(), after.element->Count());
-    for (int i = 0; i < count; ++i) {
-        const bool was = i < before.element.Count();
-        const bool is = i < after.element->Count();
-        if (was && is && before.element.At(i) == after.element->At(i))
-            continue;
-        if (was)
-            changed.append(PieceRect(before.element, position, before.element.At(i)));
-        if (is)
-            changed.append(PieceRect(*after.element, position, after.element->At(i)));
-        if (was && is && changed.last() == changed.at(changed.size() - 2))
-            changed.removeLast();
-    }
-}
-
-// Remembers the placements, and returns where they differ from what was shown.
-FrameContents::Rects FrameContents::Take(const Placements &placements)
-{
-    Rects changed;
-    Shown *shown = m_shown.data();
-    Shown *const end = shown + m_count;
-    for (const Placements::Placed &placed : placements) {
-        if (shown >= end)
-            *shown = Shown();
-        if (!shown->Is(placed)) {
-            AddChanged(*shown, placed, changed);
-            *shown = {*placed.element, placed.position};
-        }
-        ++shown;
-    }
-    for (; shown < end; ++shown)
-        changed.append(shown->Rect());
-    m_count = placements.Count();
-    return changed;
+    return Knows(image) && m_shown.Are(placements);
 }
 
 void FrameContents::Draw(QImage &image, const Placements &placements, const QColor &background)
 {
     const bool known = Knows(image);
-    Rects rects = Take(placements);
+    ShownPlacements::Rects rects = m_shown.Take(placements);
     if (!known) {
         image.fill(background);
         rects = {image.rect()};

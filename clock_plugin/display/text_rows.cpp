@@ -1,6 +1,8 @@
 #include "display/text_rows.h"
 
-#include <QPainter>
+#include "compose/piece_canvas.h"
+
+#include <QVector>
 
 namespace Lw::HNodeClock {
 
@@ -14,43 +16,35 @@ QVector<QImage> CopiesOf(const QImage &picture, const QVector<QRect> &boxes)
     return copies;
 }
 
-QVector<QRect> BoxesWithin(const QRect &bounds, const QVector<TextRow> &rows)
+QVector<QRect> BoxesWithin(const QRect &bounds, const Placements &rows)
 {
     QVector<QRect> boxes;
-    for (const TextRow &row : rows) {
-        const QRect box = row.Box() & bounds;
+    for (const Placements::Placed &row : rows) {
+        const QRect box = row.Rect() & bounds;
         if (!box.isEmpty())
             boxes.append(box);
     }
     return boxes;
 }
 
-void PaintAll(QPainter &painter, QImage &picture, const QVector<TextRow> &rows, bool antialiasing)
+void PaintAll(QImage &picture, const Placements &rows)
 {
-    painter.begin(&picture);
-    painter.setRenderHint(QPainter::Antialiasing, antialiasing);
-    for (const TextRow &row : rows) {
-        if (!row.pixmap.isNull())
-            painter.drawPixmap(row.topLeft, row.pixmap);
-    }
-    painter.end();
+    PieceCanvas canvas(picture);
+    for (const Placements::Placed &row : rows)
+        canvas.Draw(*row.element, row.position, picture.rect());
 }
 
 } // namespace
 
-QRegion TextRows::Paint(QPainter &painter, QImage &picture, const QVector<TextRow> &rows,
-                        bool antialiasing)
+QRegion TextRows::Paint(QImage &picture, const Placements &rows)
 {
-    Painted painted;
-    for (const TextRow &row : rows)
-        painted.append({row.pixmap.cacheKey(), row.topLeft});
-    if (painted == m_painted && picture.cacheKey() == m_settledKey)
+    if (picture.isNull() || (m_painted.Are(rows) && picture.cacheKey() == m_settledKey))
         return QRegion();
 
     const QVector<QRect> boxes = BoxesWithin(picture.rect(), rows);
     const QVector<QImage> before = CopiesOf(picture, boxes);
     if (!boxes.isEmpty())
-        PaintAll(painter, picture, rows, antialiasing);
+        PaintAll(picture, rows);
     const QVector<QImage> after = CopiesOf(picture, boxes);
 
     QRegion changed;
@@ -58,7 +52,7 @@ QRegion TextRows::Paint(QPainter &painter, QImage &picture, const QVector<TextRo
         if (before[i] != after[i])
             changed += boxes[i];
     }
-    m_painted = painted;
+    m_painted.Take(rows);
     m_settledKey = changed.isEmpty() ? picture.cacheKey() : 0;
     return changed;
 }

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QtTest>
 
+#include <memory>
+
 using namespace Lw::HNodeClock;
 
 namespace {
@@ -239,11 +241,31 @@ void TestAnalogMemory::OtherSizeIsLeftAlone()
 
 namespace {
 
-QPixmap Row(const QSize &size, const QColor &colour)
+// A row of one colour, as an element and as a pixmap.
+struct TextRow
 {
-    QPixmap row(size);
-    row.fill(colour);
-    return row;
+    TextRow() = default;
+    TextRow(const QSize &size, const QColor &colour, const QPoint &place) : topLeft(place)
+    {
+        QImage image(size, QImage::Format_ARGB32);
+        image.fill(colour);
+        pixmap = QPixmap::fromImage(image);
+        strip = std::make_shared<GlyphStrip>(image);
+        element = Element(*strip);
+    }
+
+    std::shared_ptr<GlyphStrip> strip;
+    Element element;
+    QPixmap pixmap;
+    QPoint topLeft;
+};
+
+Placements Placed(const QVector<TextRow> &rows)
+{
+    Placements placed;
+    for (const TextRow &row : rows)
+        placed.Add(row.element, row.topLeft);
+    return placed;
 }
 
 void PaintPlainly(QImage &picture, const QVector<TextRow> &rows)
@@ -258,12 +280,11 @@ void PaintPlainly(QImage &picture, const QVector<TextRow> &rows)
 int CountPaintings(const QVector<TextRow> &rows)
 {
     TextRows memory;
-    QPainter painter;
     QImage picture = Filled(QSize(30, 20), 0xff010201);
     QImage plain = picture;
     int changes = 0;
     for (int i = 0; i < 600; ++i) {
-        changes += memory.Paint(painter, picture, rows, true).isEmpty() ? 0 : 1;
+        changes += memory.Paint(picture, Placed(rows)).isEmpty() ? 0 : 1;
         PaintPlainly(plain, rows);
         if (picture != plain)
             return -1;
@@ -275,14 +296,14 @@ int CountPaintings(const QVector<TextRow> &rows)
 
 void TestAnalogMemory::OpaqueRowsSettleAtOnce()
 {
-    QCOMPARE(CountPaintings({{Row(QSize(10, 5), Qt::red), QPoint(3, 3)}}), 1);
+    QCOMPARE(CountPaintings({{QSize(10, 5), Qt::red, QPoint(3, 3)}}), 1);
 }
 
 void TestAnalogMemory::TranslucentRowsAccumulate()
 {
     for (const int alpha : {1, 2, 30, 127, 128, 200, 254}) {
         const int paintings =
-            CountPaintings({{Row(QSize(10, 5), QColor(250, 120, 3, alpha)), QPoint(3, 3)}});
+            CountPaintings({{QSize(10, 5), QColor(250, 120, 3, alpha), QPoint(3, 3)}});
         QVERIFY(paintings >= 1 && paintings < 600);
         if (alpha == 127)
             QVERIFY(paintings > 3);
@@ -292,10 +313,10 @@ void TestAnalogMemory::TranslucentRowsAccumulate()
 void TestAnalogMemory::OverlappingRowsAccumulate()
 {
     const QVector<TextRow> rows = {
-        {Row(QSize(10, 5), QColor(255, 0, 0, 100)), QPoint(3, 3)},
-        {Row(QSize(10, 5), QColor(0, 0, 255, 60)), QPoint(8, 5)},
-        {Row(QSize(10, 5), QColor(0, 255, 0)), QPoint(15, 6)},
-        {Row(QSize(40, 3), QColor(0, 255, 0, 9)), QPoint(-5, 18)},
+        {QSize(10, 5), QColor(255, 0, 0, 100), QPoint(3, 3)},
+        {QSize(10, 5), QColor(0, 0, 255, 60), QPoint(8, 5)},
+        {QSize(10, 5), QColor(0, 255, 0), QPoint(15, 6)},
+        {QSize(40, 3), QColor(0, 255, 0, 9), QPoint(-5, 18)},
     };
     const int paintings = CountPaintings(rows);
     QVERIFY(paintings > 3 && paintings < 600);
@@ -304,42 +325,38 @@ void TestAnalogMemory::OverlappingRowsAccumulate()
 void TestAnalogMemory::MovedRowIsPainted()
 {
     TextRows memory;
-    QPainter painter;
     QImage picture = Filled(QSize(30, 20), kBlack);
-    QVector<TextRow> rows = {{Row(QSize(4, 4), Qt::red), QPoint(0, 0)}};
-    QCOMPARE(memory.Paint(painter, picture, rows, false), QRegion(0, 0, 4, 4));
-    QVERIFY(memory.Paint(painter, picture, rows, false).isEmpty());
+    QVector<TextRow> rows = {{QSize(4, 4), Qt::red, QPoint(0, 0)}};
+    QCOMPARE(memory.Paint(picture, Placed(rows)), QRegion(0, 0, 4, 4));
+    QVERIFY(memory.Paint(picture, Placed(rows)).isEmpty());
     rows[0].topLeft = QPoint(10, 18);
-    QCOMPARE(memory.Paint(painter, picture, rows, false), QRegion(10, 18, 4, 2));
+    QCOMPARE(memory.Paint(picture, Placed(rows)), QRegion(10, 18, 4, 2));
     QCOMPARE(picture.pixel(0, 0), kRed); // old texts stay
-    rows[0].pixmap = Row(QSize(4, 4), Qt::blue);
-    QCOMPARE(memory.Paint(painter, picture, rows, false), QRegion(10, 18, 4, 2));
+    rows[0] = {QSize(4, 4), Qt::blue, QPoint(10, 18)};
+    QCOMPARE(memory.Paint(picture, Placed(rows)), QRegion(10, 18, 4, 2));
     QCOMPARE(picture.pixel(10, 18), kBlue);
 }
 
 void TestAnalogMemory::PictureWrittenByOthersIsPainted()
 {
     TextRows memory;
-    QPainter painter;
     QImage picture = Filled(QSize(30, 20), kBlack);
-    const QVector<TextRow> rows = {{Row(QSize(4, 4), Qt::red), QPoint(0, 0)}};
-    memory.Paint(painter, picture, rows, false);
-    memory.Paint(painter, picture, rows, false);
+    const QVector<TextRow> rows = {{QSize(4, 4), Qt::red, QPoint(0, 0)}};
+    memory.Paint(picture, Placed(rows));
+    memory.Paint(picture, Placed(rows));
     picture.fill(kBlack);
-    QCOMPARE(memory.Paint(painter, picture, rows, false), QRegion(0, 0, 4, 4));
+    QCOMPARE(memory.Paint(picture, Placed(rows)), QRegion(0, 0, 4, 4));
     QCOMPARE(picture.pixel(0, 0), kRed);
 }
 
 void TestAnalogMemory::NullRowsAreLeftOut()
 {
     TextRows memory;
-    QPainter painter;
     QImage picture = Filled(QSize(30, 20), kBlack);
-    const QVector<TextRow> rows = {{QPixmap(), QPoint(5, 5)},
-                                   {Row(QSize(4, 4), Qt::red), QPoint(100, 100)}};
-    QVERIFY(memory.Paint(painter, picture, rows, false).isEmpty());
+    const QVector<TextRow> rows = {TextRow(), {QSize(4, 4), Qt::red, QPoint(100, 100)}};
+    QVERIFY(memory.Paint(picture, Placed(rows)).isEmpty());
     QImage none;
-    QVERIFY(memory.Paint(painter, none, rows, false).isEmpty());
+    QVERIFY(memory.Paint(none, Placed(rows)).isEmpty());
     QCOMPARE(picture, Filled(QSize(30, 20), kBlack));
 }
 

@@ -1,0 +1,69 @@
+// Elements where they stand in a frame.
+#pragma once
+
+#include "compose/element.h"
+
+#include <QPoint>
+#include <QRect>
+#include <QVarLengthArray>
+
+#include <array>
+
+namespace Lw::HNodeClock {
+
+constexpr int kMostElements = 5; ///< of a clock
+
+/// In the order of drawing. The elements belong to someone else.
+class Placements
+{
+public:
+    struct Placed
+    {
+        const Element *element = nullptr;
+        QPoint position;
+
+        QRect Rect() const { return QRect(position, element->Size()); }
+    };
+
+    void Add(const Element &element, const QPoint &position)
+    {
+        m_placed[static_cast<std::size_t>(m_count++)] = {&element, position};
+    }
+    int Count() const { return m_count; }
+    const Placed *begin() const { return m_placed.data(); }
+    const Placed *end() const { return m_placed.data() + m_count; }
+
+private:
+    std::array<Placed, kMostElements> m_placed;
+    int m_count = 0;
+};
+
+/// Remembers placements beyond the life of their elements and images.
+class ShownPlacements
+{
+public:
+    using Rects = QVarLengthArray<QRect, 32>;
+
+    bool Are(const Placements &placements) const;
+    /// Remembers these from now on, and returns all rectangles in which they look different.
+    Rects Take(const Placements &placements);
+
+private:
+    struct Shown
+    {
+        Element element; // a copy: its strips may be gone
+        QPoint position;
+
+        QRect Rect() const { return QRect(position, element.Size()); }
+        bool Is(const Placements::Placed &placed) const
+        {
+            return position == placed.position && element == *placed.element;
+        }
+    };
+    static void AddChanged(const Shown &before, const Placements::Placed &after, Rects &changed);
+
+    int m_count = 0;
+    std::array<Shown, kMostElements> m_shown;
+};
+
+} // namespace Lw::HNodeClock
