@@ -257,7 +257,7 @@ QImage PlainDigitalClock::Frame(const Shown &shown)
         const int date = indexOf('d');
         const int week = indexOf('w');
         if (date >= 0 && week >= 0)
-            parts.swapItemsAt(date, week);
+            std::swap(parts[date], parts[week]);
     };
     const auto h = [&parts](int index) { return parts.at(index).pixmap.height(); };
 
