@@ -1,0 +1,273 @@
+// What the documents say is so: programs and the example work, tables and texts are up to date.
+#include "tool_process.h"
+#include "zones/system_zones.h"
+
+#include "calendar/clock_time.h"
+
+#include <QDir>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <algorithm>
+
+using namespace ClockTool;
+
+namespace {
+
+QString Document(const QString &path)
+{
+    return QString::fromUtf8(ReadText(InTree(path)));
+}
+
+// The contents of the fenced blocks of a language.
+QStringList Blocks(const QString &document, const QString &language)
+{
+    const QRegularExpression form(QStringLiteral("```%1\n(.*?)```").arg(language),
+                                  QRegularExpression::DotMatchesEverythingOption);
+    QStringList blocks;
+    for (auto match = form.globalMatch(document); match.hasNext();)
+        blocks.append(match.next().captured(1));
+    return blocks;
+}
+
+// The rows of tables, by their cells, that have a zone of the system in the second.
+QVector<QStringList> ZoneRows()
+{
+    QVector<QStringList> rows;
+    for (const QString &line : Document("docs/calendars.md").split('\n')) {
+        QStringList cells;
+        for (const QString &cell : line.split('|').mid(1))
+            cells.append(cell.trimmed() == "none" ? QString() : cell.trimmed());
+        if (cells.size() > 4 && cells[1].contains('/') && !cells[1].contains(' '))
+            rows.append(cells);
+    }
+    return rows;
+}
+
+// The text of a manual page without its requests and escapes.
+QString PlainManual(const QString &program)
+{
+    QString page = QString::fromUtf8(ReadText(QStringLiteral(MANUAL_DIR "/%1.1").arg(program)));
+    return page.replace("\\-", "-").replace("\\&", "").replace("\\e", "\\");
+}
+
+QStringList Lines(const QString &text)
+{
+    QStringList lines = text.split('\n');
+    lines.removeAll(QString());
+    return lines;
+}
+
+QStringList Without(QStringList lines, const QString &part)
+{
+    const auto has = [&](const QString &line) { return line.contains(part); };
+    lines.erase(std::remove_if(lines.begin(), lines.end(), has), lines.end());
+    return lines;
+}
+
+} // namespace
+
+class TestDocuments : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void exampleIsInTheDocument();
+    void exampleRuns();
+    void exampleSaysWhatIsWrong();
+    void programsAreSound_data();
+    void programsAreSound();
+    void zoneTables_data();
+    void zoneTables();
+    void linksLeadSomewhere_data();
+    void linksLeadSomewhere();
+    void quotedLinesExist();
+#ifdef HAVE_MANUALS
+    void manualsHoldTheHelp_data();
+    void manualsHoldTheHelp();
+    void failedManualLeavesThePage();
+#endif
+};
+
+void TestDocuments::exampleIsInTheDocument()
+{
+    QCOMPARE(Blocks(Document("docs/integrating.md"), "cpp"),
+             QStringList {Document("docs/examples/small_host.cpp")});
+}
+
+void TestDocuments::exampleRuns()
+{
+    const QTemporaryDir glyphs;
+    const QTemporaryDir frames;
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    const ProcessRun run =
+        RunProcess(EXAMPLE, {CLOCK_PLUGIN_FILE, glyphs.path(), frames.path()}, environment);
+    QVERIFY2(run.exitCode == 0 && !run.crashed, qPrintable(run.errors));
+    QVERIFY(QDir(glyphs.path()).entryList({"digital_*.png"}).size() > 30);
+    const QVector<QImage> shown = Frames(frames.path());
+    QCOMPARE(shown.size(), 3);
+    for (const QImage &frame : shown)
+        QCOMPARE(frame.size(), QSize(256, 96));
+    QVERIFY(shown[0] != shown[1] && shown[1] != shown[2]);
+}
+
+void TestDocuments::exampleSaysWhatIsWrong()
+{
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir folder;
+    const ProcessRun run =
+        RunProcess(EXAMPLE, {"/nonexistent.so", folder.path(), folder.path()}, environment);
+    QVERIFY(run.exitCode != 0);
+    QVERIFY2(run.errors.contains("no such file"), qPrintable(run.errors));
+}
+
+void TestDocuments::programsAreSound_data()
+{
+    QTest::addColumn<QString>("program");
+    for (const char *document : {"README.md", "docs/programs.md", "docs/sdk.md"}) {
+        int number = 0;
+        for (const QString &block : Blocks(Document(document), "xml"))
+            QTest::addRow("%s, block %d", document, ++number) << block;
+    }
+}
+
+// A clock is put into a program, settings into a clock.
+void TestDocuments::programsAreSound()
+{
+    QFETCH(QString, program);
+    QByteArray text = program.toUtf8();
+    if (text.startsWith("<attribute"))
+        text = "<clock>" + text + "</clock>";
+    if (text.startsWith("<clock"))
+        text = ProgramOf(text);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("in.xml");
+    QVERIFY(WriteText(path, text));
+    QStringList warnings = Lines(RunTool({"lint", path}).errors).filter(": warning: ");
+    // The controller's form writes it, and sdk.md says that it is not read.
+    for (const char *row : {"date", "week", "time"})
+        warnings = Without(warnings, QStringLiteral("\"value\" of <%1> is not read").arg(row));
+    QCOMPARE(warnings, QStringList());
+}
+
+void TestDocuments::zoneTables_data()
+{
+    QTest::addColumn<QStringList>("cells");
+    for (const QStringList &cells : ZoneRows())
+        QTest::addRow("%s", qPrintable(cells[1])) << cells;
+}
+
+// A row with a sixth column says when the settings are wrong; the others are exact.
+void TestDocuments::zoneTables()
+{
+    QFETCH(QStringList, cells);
+    const auto civil = CivilTimeOf(cells[1].toLatin1(), TenYearsFrom(QDate(2026, 1, 1)));
+    QVERIFY(civil);
+    const ZoneSettings settings {Lw::HNodeClock::ParseZoneOffset(cells[2]), cells[3], cells[4]};
+    QCOMPARE(settings.ZoneText(), cells[2]);
+    const bool isExact = cells.size() == 6; // with the empty one behind the last bar
+    QCOMPARE(WrongTimes(settings, *civil).isEmpty(), isExact);
+    const ZoneSettings best = BestSettings(*civil);
+    QCOMPARE(QStringList({best.ZoneText(), best.start, best.end}), cells.mid(2, 3));
+}
+
+void TestDocuments::linksLeadSomewhere_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("README.md") << "README.md";
+    for (const QString &name : QDir(InTree("docs")).entryList({"*.md"}))
+        QTest::newRow(qPrintable(name)) << "docs/" + name;
+}
+
+void TestDocuments::linksLeadSomewhere()
+{
+    QFETCH(QString, path);
+    const QDir folder = QFileInfo(InTree(path)).dir();
+    const QRegularExpression form("\\]\\(([^)#:\\s]+)\\)");
+    for (auto match = form.globalMatch(Document(path)); match.hasNext();) {
+        const QString target = match.next().captured(1);
+        QVERIFY2(folder.exists(target), qPrintable(target));
+    }
+}
+
+// The messages that troubleshooting quotes are said by some source.
+void TestDocuments::quotedLinesExist()
+{
+    QString sources;
+    for (const char *folder : {"player", "program", "host", "clock_plugin", "tools/lint"}) {
+        QDirIterator files(InTree(folder), {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext())
+            sources += QString::fromUtf8(ReadText(files.next()));
+    }
+    sources.remove(QRegularExpression("\"\\s*\n\\s*\"")); // texts that go on in the next line
+    for (const char *line :
+         {"the plugin cannot read this <%1>; is its type known?", "no plugins in this directory",
+          "not a Qt plugin", "a plugin for another host", "no display can be reached",
+          "no plugin claims the element", "\"File [%s] key[%s]not exists",
+          "soucepath[%s], dest[%s]", "not in temp file[%s]",
+          "with the end %1 it gives the time of"}) {
+        QVERIFY2(sources.contains(line), line);
+        const QString quoted = QString(line).replace("<%1>", "<clock>").section('%', 0, 0);
+        QVERIFY2(Document("docs/troubleshooting.md").contains(quoted.section('[', 0, 0)), line);
+    }
+}
+
+#ifdef HAVE_MANUALS
+void TestDocuments::manualsHoldTheHelp_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("player") << PLAYER << QStringList();
+    QTest::newRow("tool") << TOOL << QStringList();
+    const QString help = RunTool({"--help"}).output;
+    const QRegularExpression form("^  ([a-z][a-z-]*) ", QRegularExpression::MultilineOption);
+    for (auto match = form.globalMatch(help.section("Commands:", 1).section("\n\n", 0, 0));
+         match.hasNext();) {
+        const QString command = match.next().captured(1);
+        QTest::addRow("tool, %s", qPrintable(command)) << TOOL << QStringList {command};
+    }
+}
+
+// Every line of the help stands in the page, in its order.
+void TestDocuments::manualsHoldTheHelp()
+{
+    QFETCH(QString, program);
+    QFETCH(QStringList, arguments);
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    const ProcessRun run = RunProcess(program, arguments + QStringList {"--help"}, environment);
+    QCOMPARE(run.exitCode, 0);
+    const QString page = PlainManual(QFileInfo(program).fileName());
+    int place = 0;
+    int count = 0;
+    for (QString line : Lines(run.output)) {
+        if (line.startsWith("Usage: "))
+            line = line.section(' ', 2); // the program's path stands before
+        if (line.endsWith(':') && !line.startsWith(' ') && line.count(' ') < 2)
+            line.chop(1); // a heading
+        place = page.indexOf(
+            line,
+            arguments.isEmpty() || count > 0
+                ? place
+                : page.indexOf(QStringLiteral("COMMAND %1").arg(arguments.first().toUpper())));
+        QVERIFY2(place >= 0, qPrintable(line));
+        ++count;
+    }
+    QVERIFY(count > 5);
+}
+
+void TestDocuments::failedManualLeavesThePage()
+{
+    const QTemporaryDir folder;
+    const QString page = folder.filePath("x.1");
+    QVERIFY(WriteText(page, "old"));
+    QVERIFY(RunProcess(InTree("scripts/make-man"), {"/bin/false", "x", page}).exitCode != 0);
+    QCOMPARE(ReadText(page), QByteArray("old"));
+}
+#endif
+
+QTEST_GUILESS_MAIN(TestDocuments)
+#include "test_documents.moc"
