@@ -62,6 +62,8 @@ void DrawDisplayImage::DrawAnalogClock()
         d->dialCache = d->NewImage(size, GetColorKey());
         DrawAnalogClockDial();
         DrawAnalogClock_AMPM();
+        d->dialCache =
+            d->dialCache.copy(); // leaves the paint engine, which takes its memory, behind
         d->dialDate = LocalDate();
     }
     d->dialFrames.Restore(d->frame, d->dialCache);
@@ -129,11 +131,15 @@ void DrawDisplayImage::DrawAnalogClockPoint()
     for (const HandRow &row : kHands) {
         const int type = d->Number(row.type);
         const double angle = HandAngle(row.hand, d->hour, d->minute, d->second);
-        painting.Covers(PaintHand(d->painter, ShapeOf(row.hand, type, radius), angle,
-                                  ReturnQcolor(d->Number(row.colour))));
+        const HandShape shape = ShapeOf(row.hand, type, radius);
+        const QColor colour = ReturnQcolor(d->Number(row.colour));
+        // The minute hand stays for a minute; the others move every second.
+        painting.Covers(row.hand == Hand::Minute
+                            ? StampHand(d->painter, d->minuteStamp, shape, angle, colour)
+                            : PaintHand(d->painter, shape, angle, colour));
         anyArrow = anyArrow || type == ArrowHand;
     }
-    painting.Covers(PaintCentreCap(d->painter, CentreCap(radius, anyArrow),
+    painting.Covers(StampCentreCap(d->painter, d->capStamp, CentreCap(radius, anyArrow),
                                    ReturnQcolor(d->Number(Attribute::SecondHandColor))));
     d->painter.end();
 }

@@ -144,4 +144,33 @@ QVector<QPolygonF> PaintCentreCap(QPainter &painter, const QRect &cap, const QCo
     return {painter.transform().map(QPolygonF(QRectF(cap)))};
 }
 
+// A ring is no polygon: a hand that has one is painted.
+QVector<QPolygonF> StampHand(QPainter &painter, Stamp &stamp, const HandShape &shape,
+                             double degrees, const QColor &colour)
+{
+    if (shape.outline.isEmpty() || shape.ring.radius > 0)
+        return PaintHand(painter, shape, degrees, colour);
+    QTransform turned = painter.transform();
+    turned.rotate(degrees);
+    const QPolygonF outline = turned.map(shape.outline);
+    stamp.Draw(painter, {outline, colour}, [&outline](QPainter &own, const QPoint &shift) {
+        own.drawConvexPolygon(outline.translated(-shift));
+    });
+    return {outline};
+}
+
+QVector<QPolygonF> StampCentreCap(QPainter &painter, Stamp &stamp, const QRect &cap,
+                                  const QColor &colour)
+{
+    if (cap.isEmpty())
+        return {};
+    const QTransform &centred = painter.transform();
+    const QPolygonF outline = centred.map(QPolygonF(QRectF(cap)));
+    stamp.Draw(painter, {outline, colour}, [&](QPainter &own, const QPoint &shift) {
+        own.translate(centred.dx() - shift.x(), centred.dy() - shift.y());
+        own.drawEllipse(cap);
+    });
+    return {outline};
+}
+
 } // namespace Lw::HNodeClock

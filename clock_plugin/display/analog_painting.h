@@ -3,6 +3,7 @@
 #pragma once
 
 #include "display/analog_geometry.h"
+#include "display/stamp.h"
 
 #include <QColor>
 #include <QPixmap>
@@ -35,5 +36,12 @@ void PaintNumerals(QPainter &painter, int hourScale, double radius, const QPixma
 QVector<QPolygonF> PaintHand(QPainter &painter, const HandShape &shape, double degrees,
                              const QColor &colour);
 QVector<QPolygonF> PaintCentreCap(QPainter &painter, const QRect &cap, const QColor &colour);
+
+/// The same, for hands that stay where they are and for the disc: with a stamp, which is kept for
+/// the next frame. Only onto premultiplied images.
+QVector<QPolygonF> StampHand(QPainter &painter, Stamp &stamp, const HandShape &shape,
+                             double degrees, const QColor &colour);
+QVector<QPolygonF> StampCentreCap(QPainter &painter, Stamp &stamp, const QRect &cap,
+                                  const QColor &colour);
 
 } // namespace Lw::HNodeClock

@@ -7,6 +7,7 @@
 #include "display/frame_painter.h"
 #include "display/opaque_view.h"
 #include "display/row_layout.h"
+#include "display/stamp.h"
 #include "display/text_rows.h"
 
 #include <QPainter>
@@ -93,6 +94,8 @@ public:
     QString dialTimeAP;
     FrameMemory dialFrames; ///< the frames over the dial
     TextRows dialTexts;     ///< the texts on the dial
+    Stamp minuteStamp;
+    Stamp capStamp;
 
     // Picture clock.
     QPixmap hourPicture;

@@ -2,6 +2,8 @@
 #include "display/analog_painting.h"
 #include "display/frame_memory.h"
 #include "display/hand_trace.h"
+#include "display/opaque_view.h"
+#include "display/stamp.h"
 #include "display/text_rows.h"
 
 #include <QPainter>
@@ -56,6 +58,9 @@ private Q_SLOTS:
     void MovedRowIsPainted();
     void PictureWrittenByOthersIsPainted();
     void NullRowsAreLeftOut();
+    void StampIsTheShape_data();
+    void StampIsTheShape();
+    void OpaqueViewShowsTheSame();
 };
 
 void TestAnalogMemory::TraceHoldsEveryTouchedPixel_data()
@@ -358,6 +363,72 @@ void TestAnalogMemory::NullRowsAreLeftOut()
     QImage none;
     QVERIFY(memory.Paint(none, Placed(rows)).isEmpty());
     QCOMPARE(picture, Filled(QSize(30, 20), kBlack));
+}
+
+void TestAnalogMemory::StampIsTheShape_data()
+{
+    QTest::addColumn<QSize>("size");
+    for (const QSize &size : {QSize(3, 3), QSize(21, 21), QSize(64, 32), QSize(81, 160),
+                              QSize(108, 108), QSize(203, 203)})
+        QTest::addRow("%dx%d", size.width(), size.height()) << size;
+}
+
+// Every minute and the disc, on a colourful ground, each stamped twice and painted twice.
+void TestAnalogMemory::StampIsTheShape()
+{
+    QFETCH(QSize, size);
+    QImage ground(size, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            ground.setPixel(x, y, qRgb(x * 37 & 255, y * 91 & 255, (x + y) * 53 & 255));
+    }
+    Stamp handStamp;
+    Stamp capStamp;
+    const HandShape shape = ShapeOf(Hand::Minute, BarHand, HandRadius(size));
+    const QRect cap = CentreCap(HandRadius(size), false);
+    for (int step = 0; step < 4 * 60; ++step) {
+        const bool smooth = step / 2 % 2 != 0;
+        const QColor colour(250, step, 90);
+        const double degrees = step / 4 * 6;
+        QImage stamped = ground;
+        QImage painted = ground;
+        QPainter stamping(&stamped);
+        QPainter painting(&painted);
+        for (QPainter *const painter : {&stamping, &painting}) {
+            painter->setRenderHint(QPainter::Antialiasing, smooth);
+            painter->translate(Centre(size));
+        }
+        QCOMPARE(StampHand(stamping, handStamp, shape, degrees, colour),
+                 PaintHand(painting, shape, degrees, colour));
+        QCOMPARE(StampCentreCap(stamping, capStamp, cap, colour),
+                 PaintCentreCap(painting, cap, colour));
+        stamping.end();
+        painting.end();
+        QVERIFY2(stamped == painted, qPrintable(QString::number(step)));
+    }
+}
+
+// Frames are ARGB32 and painted as premultiplied: the same, for plain colours over opaque pixels.
+void TestAnalogMemory::OpaqueViewShowsTheSame()
+{
+    OpaqueView view;
+    for (const QSize &size : {QSize(64, 64), QSize(101, 80)}) {
+        QImage viewed = Filled(size, 0xff4080c0);
+        QImage plain = viewed;
+        const qint64 key = viewed.cacheKey();
+        for (int i = 0; i < 24; ++i) {
+            QPainter one(&view.Of(viewed));
+            QPainter other(&plain);
+            for (QPainter *const painter : {&one, &other}) {
+                painter->setRenderHint(QPainter::Antialiasing);
+                painter->translate(Centre(size));
+                PaintHand(*painter, ShapeOf(Hand::Second, ArrowHand, HandRadius(size)), i * 15,
+                          QColor(i * 10, 255 - i, 3));
+            }
+        }
+        QCOMPARE(viewed, plain);
+        QVERIFY(viewed.cacheKey() != key);
+    }
 }
 
 QTEST_MAIN(TestAnalogMemory)
