@@ -16,7 +16,7 @@ namespace Lw::HNodeClock {
 struct Piece
 {
     const GlyphStrip *strip = nullptr; ///< valid while the composer that gave it is not set up anew
-    qint64 stripKey = 0;               ///< tells two strips' contents apart, also after a set-up
+    quint32 stripKey = 0;              ///< tells two strips' contents apart, also after a set-up
     int sourceX = 0;
     int width = 0;
     int x = 0;

@@ -11,9 +11,9 @@ namespace {
 
 constexpr int kBits = 32; // of a word
 
-qint64 NewKey()
+quint32 NewKey()
 {
-    static std::atomic<qint64> s_last {0};
+    static std::atomic<quint32> s_last {0};
     return ++s_last;
 }
 

@@ -32,7 +32,7 @@ public:
         return m_size;
     }
     /// Tells the contents of two strips apart; copies have the same.
-    qint64 Key() const { return m_key; }
+    quint32 Key() const { return m_key; }
 
     /// Whether the image is kept as ink. Then one pixel a bit: of row y, that of column x is bit
     /// x % 32 of word x / 32; a word follows the last one.
@@ -57,7 +57,7 @@ private:
     void Take(const QImage &image) const;
     bool TakeInk(const QImage &image) const;
 
-    qint64 m_key = 0;
+    quint32 m_key = 0;
     // Filled by the first question.
     mutable bool m_isEncoded = false;
     mutable QByteArray m_encoded;

@@ -156,7 +156,7 @@ void DrwSourceIMage::DrawImage(HClockNode *node, QString key, QString text, QStr
         m_isTempUpdate ? HAppConfig::TempProgramImagePath() : HAppConfig::ClockOutputPath();
     const QString path = directory + m_typePrefix + id + fileSuffix;
     if (size <= kMaxPoints) {
-        const QFont font = GlyphTypeface(family, size);
+        const QFont &font = Typeface(family, size);
         const QFontMetrics metrics(font);
         QPixmap pixmap = TransparentPixmap(TextWidth(metrics, text), metrics.height());
         if (!pixmap.isNull()) {
@@ -176,7 +176,7 @@ void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, 
     // Always the regular directory: strips are shared by a program and its temporary updates.
     const QString path = HAppConfig::ClockOutputPath() + m_typePrefix + id + fileSuffix;
     if (size <= kMaxPoints) {
-        const QFont font = GlyphTypeface(family, size);
+        const QFont &font = Typeface(family, size);
         const QFontMetrics metrics(font);
         const int cell = GetNumberMaxWidth(metrics);
         QPixmap pixmap = TransparentPixmap(kDigitCells * cell, metrics.height());
@@ -190,6 +190,17 @@ void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, 
         }
     }
     Record(node, key, path);
+}
+
+// Looking a font up costs as much as drawing with it, and up to twelve images in turn use one.
+const QFont &DrwSourceIMage::Typeface(const QString &family, int size)
+{
+    if (!m_typeface || m_typefaceFamily != family || m_typefaceSize != size) {
+        m_typeface.reset(new QFont(GlyphTypeface(family, size)));
+        m_typefaceFamily = family;
+        m_typefaceSize = size;
+    }
+    return *m_typeface;
 }
 
 void DrwSourceIMage::BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour)

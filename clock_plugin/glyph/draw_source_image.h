@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QFontMetrics>
 #include <QObject>
+#include <QScopedPointer>
 #include <QString>
 
 QT_BEGIN_NAMESPACE
@@ -63,11 +64,15 @@ private:
     Q_DECL_HIDDEN void ReadFont(HClockNode *node, GlyphFont font);
     Q_DECL_HIDDEN void DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id);
     Q_DECL_HIDDEN QString TextOf(const GlyphImage &image) const;
+    Q_DECL_HIDDEN const QFont &Typeface(const QString &family, int size);
     Q_DECL_HIDDEN void BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour);
     Q_DECL_HIDDEN void Save(const QPixmap &pixmap, const QString &path);
     Q_DECL_HIDDEN void Record(HClockNode *node, const QString &key, const QString &path);
 
     QPainter *m_painter;
+    QScopedPointer<QFont> m_typeface; ///< used last
+    QString m_typefaceFamily;
+    int m_typefaceSize = 0;
     FontSettings m_fonts[kGlyphFontCount];
     QString m_topText;
     QString m_typePrefix;

@@ -75,7 +75,7 @@ void TestGlyphLoading::WeekCodeOutsideTheListChangesNothing()
     glyphs.Load(node, 1, 4);
     QVERIFY(glyphs.weeks.isEmpty());
     glyphs.Load(node, 1, 1);
-    const qint64 monday = glyphs.weeks.at(0).Key();
+    const quint32 monday = glyphs.weeks.at(0).Key();
     glyphs.Load(node, 1, -1);
     QCOMPARE(glyphs.weeks.size(), 7);
     QCOMPARE(glyphs.weeks.at(0).Key(), monday);
@@ -170,7 +170,7 @@ void TestGlyphLoading::LiveImageFollowsTheFile()
     LetteredGlyphs written(node);
     LiveGlyph live;
     const QString path = written.Write("_timeAM", "AA", 3);
-    const qint64 first = live.Load(path).Key();
+    const quint32 first = live.Load(path).Key();
     QCOMPARE(LetteredGlyphs::Read(live.Load(path).Pixmap()), QStringLiteral("AA"));
     QCOMPARE(live.Load(path).Key(), first);
     written.Write("_timeAM", "AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAB", 3);
