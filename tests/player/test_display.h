@@ -20,10 +20,11 @@ public:
     /// Whether the display is there now. It goes with this object.
     bool Start()
     {
-        // The server finds a free number itself, and names it once it can be reached.
+        // The server finds a free number itself, and names it once it can be reached. It must not
+        // begin anew, out of reach meanwhile, whenever its last client has gone.
         m_server.start("Xvfb",
-                       {"-displayfd", "1", "-screen", "0", "1280x800x24", "-nolisten", "tcp",
-                        "-fbdir", m_directory.path()});
+                       {"-displayfd", "1", "-noreset", "-screen", "0", "1280x800x24", "-nolisten",
+                        "tcp", "-fbdir", m_directory.path()});
         while (m_server.waitForReadyRead(30000) && !m_server.canReadLine()) { }
         m_name = ':' + QString::fromLatin1(m_server.readLine()).trimmed();
         return m_name.size() > 1;

@@ -51,7 +51,10 @@ public:
         const QString pid = QString::number(m_process.processId());
         while (m_window.isEmpty() && timer.elapsed() < 30000 && !m_process.waitForFinished(20))
             m_window = m_display.Do({"search", "--onlyvisible", "--pid", pid});
-        m_display.Do({"windowfocus", "--sync", m_window});
+        // A window that is only just coming up cannot take the focus yet.
+        while (IsOpen() && m_display.Do({"getwindowfocus", "-f"}) != m_window
+               && timer.elapsed() < 30000)
+            m_display.Do({"windowfocus", m_window});
     }
 
     ~Player()
