@@ -5,6 +5,10 @@
 #include "display/draw_display_image.h"
 #include "glyph/draw_source_image.h"
 
+#include <QBuffer>
+#include <QPixmap>
+#include <QVector>
+
 using Lw::HNodeClock::Attribute;
 using Lw::HNodeClock::DrawClockClassifyImage;
 using Lw::HNodeClock::DrawDisplayImage;
@@ -50,6 +54,23 @@ void GlyphGenerationUnchanged(benchmark::State &state)
     Generate(state, false);
 }
 
+// The least that making a set can cost: its images encoded as they are saved, into memory.
+void GlyphSetEncoded(benchmark::State &state)
+{
+    const auto node = NodeOf(state);
+    bench::MakeGlyphs(node.get());
+    QVector<QPixmap> images;
+    for (const Lw::FileRecord &record : node->FileRecords())
+        images.append(QPixmap(record.path));
+    for (auto _ : state) {
+        for (const QPixmap &image : qAsConst(images)) {
+            QBuffer buffer;
+            buffer.open(QBuffer::WriteOnly);
+            image.save(&buffer, "png");
+        }
+    }
+}
+
 void GlyphLoading(benchmark::State &state)
 {
     const auto node = NodeOf(state);
@@ -88,5 +109,6 @@ void Sets(benchmark::internal::Benchmark *sets)
 
 BENCHMARK(GlyphGeneration)->Apply(Sets);
 BENCHMARK(GlyphGenerationUnchanged)->Apply(Sets);
+BENCHMARK(GlyphSetEncoded)->Apply(Sets);
 BENCHMARK(GlyphLoading)->Apply(Sets);
 BENCHMARK(FirstFrame)->Apply(Sets);

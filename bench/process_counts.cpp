@@ -28,6 +28,15 @@ void Count(std::size_t size)
         s_frameSized.fetch_add(1, std::memory_order_relaxed);
 }
 
+using Open = int (*)(const char *, int, ...);
+
+int CountedOpen(Open next, const char *path, int flags, va_list arguments)
+{
+    s_filesOpened.fetch_add(1, std::memory_order_relaxed);
+    const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    return next(path, flags, mode);
+}
+
 } // namespace
 
 // The C library calls whatever allocator the program brings, and offers its own by these names.
@@ -54,17 +63,24 @@ void *realloc(void *block, std::size_t size)
     return __libc_realloc(block, size);
 }
 
-// Qt opens its files by this one.
-int open64(const char *path, int flags, ...)
+int open(const char *path, int flags, ...)
 {
-    using Open = int (*)(const char *, int, ...);
-    static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "open64"));
-    s_filesOpened.fetch_add(1, std::memory_order_relaxed);
+    static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "open"));
     va_list arguments;
     va_start(arguments, flags);
-    const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    const int file = CountedOpen(next, path, flags, arguments);
     va_end(arguments);
-    return next(path, flags, mode);
+    return file;
+}
+
+int open64(const char *path, int flags, ...)
+{
+    static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "open64"));
+    va_list arguments;
+    va_start(arguments, flags);
+    const int file = CountedOpen(next, path, flags, arguments);
+    va_end(arguments);
+    return file;
 }
 }
 

@@ -81,13 +81,15 @@ bool GlyphStrip::TakeInk(const QImage &image) const
     if (image.format() != QImage::Format_ARGB32
         && image.format() != QImage::Format_ARGB32_Premultiplied)
         return false;
-    const int words = WordsFor(image.width());
+    const int width = image.width();
+    const int height = image.height();
+    const int words = WordsFor(width);
     QVector<quint32> ink = NoInk(image.size());
     quint32 *row = ink.data();
     QRgb colour = 0;
-    for (int y = 0; y < image.height(); ++y, row += words) {
+    for (int y = 0; y < height; ++y, row += words) {
         const auto *const pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             if (qAlpha(pixels[x]) == 0)
                 continue;
             if (colour == 0)

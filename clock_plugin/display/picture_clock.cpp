@@ -40,11 +40,11 @@ QVector<QPolygonF> Paint(QPainter &painter, const TurnedPicture &part)
 {
     if (part.picture.isNull())
         return {};
-    painter.save();
+    const QTransform upright = painter.worldTransform();
     painter.rotate(part.degrees);
     painter.drawPixmap(part.place, part.picture);
     const QPolygonF touched = painter.transform().map(QPolygonF(QRectF(part.place)));
-    painter.restore();
+    painter.setWorldTransform(upright);
     return {touched};
 }
 
