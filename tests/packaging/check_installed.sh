@@ -63,7 +63,7 @@ compare_frames() {
 }
 
 build_host() {
-    quietly "$cmake" -S "$here/host_project" -B "$work/host" -DCMAKE_PREFIX_PATH="$prefix"
+    quietly "$cmake" -G Ninja -S "$here/host_project" -B "$work/host" -DCMAKE_PREFIX_PATH="$prefix"
     quietly "$cmake" --build "$work/host"
     grep -q "$prefix/lib/cmake" "$work/host/CMakeCache.txt" ||
         fail "another clock-player was found"
