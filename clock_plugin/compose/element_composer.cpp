@@ -94,8 +94,8 @@ const Element &ElementComposer::Date()
     return m_date;
 }
 
-// The mark of the twelve-hour display is looked up at each call, unlike all other images. Midnight
-// and noon keep their hour.
+// Unlike all other images, the mark of the twelve-hour display is looked up while playing: once in
+// a scope, and at each call outside one. Midnight and noon keep their hour.
 const GlyphStrip &ElementComposer::AmPmMark(bool twelveHours)
 {
     static const GlyphStrip none;
