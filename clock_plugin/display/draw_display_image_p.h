@@ -6,6 +6,7 @@
 #include "display/frame_memory.h"
 #include "display/frame_painter.h"
 #include "display/opaque_view.h"
+#include "display/resting_hand.h"
 #include "display/row_layout.h"
 #include "display/stamp.h"
 #include "display/text_rows.h"
@@ -102,7 +103,8 @@ public:
     QPixmap minutePicture;
     QPixmap secondPicture;
     QPixmap centrePicture;
-    QImage pictureBackground;       ///< the scaled dial: what the hands are drawn over
+    QImage pictureBackground; ///< the scaled dial and the hour hand: what the others lie over
+    RestingHand pictureHour;
     QSize pictureSize;              ///< the background's size, or the one it could not be made in
     std::optional<int> pictureType; ///< of the background; none before the first frame
     FrameMemory pictureFrames;      ///< the frames over the background

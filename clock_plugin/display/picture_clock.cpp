@@ -35,6 +35,23 @@ struct TurnedPicture
     QRect place;
 };
 
+// The face's units around its centre, in pixels of an image.
+QTransform FaceOn(const QSize &size)
+{
+    const double scale = std::min(size.height(), size.width()) / static_cast<double>(kFace);
+    QTransform face;
+    face.translate(size.width() / 2, size.height() / 2);
+    face.scale(scale, scale);
+    return face;
+}
+
+void Begin(QPainter &painter, QImage &image)
+{
+    painter.begin(&image);
+    painter.setWorldTransform(FaceOn(image.size()));
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+}
+
 // Paints with the face's units around its centre; returns an outline around the touched pixels.
 QVector<QPolygonF> Paint(QPainter &painter, const TurnedPicture &part)
 {
@@ -46,6 +63,16 @@ QVector<QPolygonF> Paint(QPainter &painter, const TurnedPicture &part)
     const QPolygonF touched = painter.transform().map(QPolygonF(QRectF(part.place)));
     painter.setWorldTransform(upright);
     return {touched};
+}
+
+QRect BoxAround(const TurnedPicture &part, const QSize &size)
+{
+    constexpr int kMargin = 2;
+    QTransform turned = FaceOn(size);
+    turned.rotate(part.degrees);
+    return turned.mapRect(QRectF(part.place))
+        .toAlignedRect()
+        .adjusted(-kMargin, -kMargin, kMargin, kMargin);
 }
 
 } // namespace
@@ -87,25 +114,36 @@ void DrawDisplayImage::DrawPixmapClock()
     d->PrepareFrame(size);
     if (d->frame.isNull())
         return;
-    if (d->pictureBackground.size() == size)
-        d->pictureFrames.Restore(d->frame, d->pictureBackground);
-    else
-        d->frame.fill(GetColorKey());
 
     const QTime time = d->dateTime.time();
-    const TurnedPicture parts[] = {
-        {d->hourPicture, (d->hour + time.minute() / 60.0) * 30, kHourPlace},
+    const TurnedPicture hour = {d->hourPicture, (d->hour + time.minute() / 60.0) * 30, kHourPlace};
+    const TurnedPicture others[] = {
         {d->minutePicture, (time.minute() + time.second() / 60.0) * 6, kMinutePlace},
         {d->secondPicture, time.second() * 6.0, kSecondPlace},
         {d->centrePicture, 0, kCentrePlace},
     };
-    const double scale = std::min(size.height(), size.width()) / static_cast<double>(kFace);
+    QImage &background = d->pictureBackground;
+    const bool hasBackground = background.size() == size;
+    if (hasBackground && !d->pictureHour.Lies(background, hour.degrees)) {
+        const qint64 keyBefore = background.cacheKey();
+        const QRegion changed = d->pictureHour.Lay(background, hour.degrees, BoxAround(hour, size),
+                                                   [this, &hour](QImage &image) {
+                                                       Begin(d->painter, image);
+                                                       Paint(d->painter, hour);
+                                                       d->painter.end();
+                                                   });
+        d->pictureFrames.BackgroundChanged(keyBefore, background, changed);
+    }
+    if (hasBackground)
+        d->pictureFrames.Restore(d->frame, background);
+    else
+        d->frame.fill(GetColorKey());
+
     FrameMemory::Painting painting(d->pictureFrames, d->frame);
-    d->painter.begin(&d->frame);
-    d->painter.translate(size.width() / 2, size.height() / 2);
-    d->painter.scale(scale, scale);
-    d->painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
-    for (const TurnedPicture &part : parts)
+    Begin(d->painter, d->frame);
+    if (!hasBackground)
+        Paint(d->painter, hour);
+    for (const TurnedPicture &part : others)
         painting.Covers(Paint(d->painter, part));
     d->painter.end();
 }
