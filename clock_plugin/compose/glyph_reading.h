@@ -14,7 +14,7 @@ namespace Lw::HNodeClock {
 QImage ReadImageFile(const QString &path);
 QPixmap ReadGlyphFile(const QString &path);
 
-/// The content of an ordinary file of at most 64 KiB that begins as a PNG does; null for any other.
+/// The content of a small ordinary file that begins as a PNG does; null for any other.
 QByteArray ReadSmallPng(const QString &path);
 /// The picture in such a content; null as for the file.
 QImage DecodePng(const QByteArray &png);

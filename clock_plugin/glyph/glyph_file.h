@@ -1,6 +1,7 @@
-// Writing the file of a glyph image.
+// The files of glyph images: read whole where they are small, as nearly all are, and written.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 QT_BEGIN_NAMESPACE
@@ -8,6 +9,9 @@ class QPixmap;
 QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
+
+/// The content of an ordinary file of at most 64 KiB; null for any other.
+QByteArray ReadSmallFile(const QString &path);
 
 /// How a file that is written bears a power failure just after.
 enum class Durability {
