@@ -22,7 +22,6 @@
 
 using Lw::HNodeClock::Attribute;
 using Lw::HNodeClock::DrawDisplayImage;
-using Lw::HNodeClock::HeldReading;
 using Lw::HNodeClock::Key;
 
 namespace {
@@ -49,7 +48,6 @@ void PlayFrames(benchmark::State &state, bench::SteppedTime &time, Frame frame)
     const bench::CountsPerIteration counts(state, Area(state));
     for (auto _ : state) {
         time.Step();
-        const HeldReading held;
         shown = frame();
         benchmark::DoNotOptimize(shown.constBits());
     }
@@ -101,7 +99,6 @@ void DigitalUnchanged(benchmark::State &state)
     QImage shown = drawer.DrawClockDisplayImage();
     const bench::CountsPerIteration counts(state, Area(state));
     for (auto _ : state) {
-        const HeldReading held;
         shown = drawer.DrawClockDisplayImage();
         benchmark::DoNotOptimize(shown.constBits());
     }
@@ -137,7 +134,7 @@ void PlainDigitalSecond(benchmark::State &state)
 {
     const auto node = bench::NewNode(bench::kDigital, Area(state));
     bench::MakeGlyphs(node.get());
-    bench::SteppedTime time;
+    bench::SteppedTime time(bench::Asking::Plain);
     PlainDigitalClock plain(*node);
     PlayFrames(state, time,
                [&plain] { return plain.Frame(PlainDigitalClock::Gregorian(Shown())); });
@@ -147,7 +144,7 @@ void PlayPlain(benchmark::State &state, int clockType)
 {
     const auto node = bench::NewNode(clockType, Area(state));
     bench::MakeGlyphs(node.get());
-    bench::SteppedTime time;
+    bench::SteppedTime time(bench::Asking::Plain);
     PlainClock plain(node.get());
     PlayFrames(state, time, [&plain] { return plain.Frame(); });
 }

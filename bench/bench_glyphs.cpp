@@ -62,6 +62,7 @@ void GlyphSetEncoded(benchmark::State &state)
     QVector<QPixmap> images;
     for (const Lw::FileRecord &record : node->FileRecords())
         images.append(QPixmap(record.path));
+    const bench::CountsPerIteration counts(state);
     for (auto _ : state) {
         for (const QPixmap &image : qAsConst(images)) {
             QBuffer buffer;

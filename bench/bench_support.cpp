@@ -3,6 +3,8 @@
 #include "calendar/device_clock.h"
 #include "glyph/draw_source_image.h"
 
+#include <QDateTime>
+
 #include <algorithm>
 
 using Lw::HNodeClock::Attribute;
@@ -18,9 +20,21 @@ constexpr long long kSecondsStepped = 3600;
 
 long long g_second = 0;
 
-long long Now()
+long long SteppedNow()
 {
     return kStart + g_second * 1000;
+}
+
+long long LeanNow()
+{
+    benchmark::DoNotOptimize(QDateTime::currentMSecsSinceEpoch());
+    return SteppedNow();
+}
+
+long long PlainNow()
+{
+    benchmark::DoNotOptimize(QDateTime::currentDateTime().toUTC());
+    return SteppedNow();
 }
 
 constexpr Attribute kFonts[] = {
@@ -58,10 +72,10 @@ void MakeGlyphs(HClockNode *node)
     Lw::HNodeClock::DrwSourceIMage().DrawClockSourceImage(node);
 }
 
-SteppedTime::SteppedTime()
+SteppedTime::SteppedTime(Asking asking)
 {
     g_second = 0;
-    clock_set_time_source(&Now);
+    clock_set_time_source(asking == Asking::Lean ? &LeanNow : &PlainNow);
 }
 
 SteppedTime::~SteppedTime()
@@ -84,7 +98,7 @@ CountsPerIteration::CountsPerIteration(benchmark::State &state, QSize frame)
 CountsPerIteration::~CountsPerIteration()
 {
     const ProcessCounts now = CountsNow();
-    const auto put = [this](const char *name, long long count) {
+    const auto put = [this](const char *name, auto count) {
         m_state.counters[name] =
             benchmark::Counter(static_cast<double>(count), benchmark::Counter::kAvgIterations);
     };
@@ -92,6 +106,7 @@ CountsPerIteration::~CountsPerIteration()
     put("allocated_bytes", now.bytes - m_before.bytes);
     put("frame_sized", now.frameSized - m_before.frameSized);
     put("files_opened", now.filesOpened - m_before.filesOpened);
+    put("user_us", now.userMicroseconds - m_before.userMicroseconds);
 }
 
 } // namespace bench

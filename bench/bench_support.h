@@ -24,12 +24,18 @@ std::unique_ptr<Lw::HNodeClock::HClockNode> NewNode(int clockType, QSize size, i
 /// Writes the node's glyph images and records them on it.
 void MakeGlyphs(Lw::HNodeClock::HClockNode *node);
 
+/// How the device's clock is asked for each reading, before the stepped time is answered instead.
+enum class Asking {
+    Lean,  ///< the milliseconds since 1970, as the plugin asks
+    Plain, ///< the local date and time, converted to UTC
+};
+
 /// The plugin's time stands at 2024-03-05 10:00:00 UTC while one lives, and Step moves it on by a
 /// second within that hour, so that no date changes.
 class SteppedTime
 {
 public:
-    SteppedTime();
+    explicit SteppedTime(Asking asking = Asking::Lean);
     ~SteppedTime();
     SteppedTime(const SteppedTime &) = delete;
     SteppedTime &operator=(const SteppedTime &) = delete;
@@ -37,7 +43,7 @@ public:
 };
 
 /// Puts what an iteration took of the process beside its time: allocations, their bytes, how many
-/// were as large as a frame, and files opened.
+/// were as large as a frame, files opened, and processor time outside the kernel.
 class CountsPerIteration
 {
 public:

@@ -5,6 +5,20 @@
 #include <cstdarg>
 #include <cstddef>
 
+#include <sys/resource.h>
+
+namespace {
+
+double UserMicroseconds()
+{
+    rusage used {};
+    getrusage(RUSAGE_SELF, &used);
+    return 1e6 * static_cast<double>(used.ru_utime.tv_sec)
+        + static_cast<double>(used.ru_utime.tv_usec);
+}
+
+} // namespace
+
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
 
 #include <dlfcn.h>
@@ -86,7 +100,8 @@ int open64(const char *path, int flags, ...)
 
 ProcessCounts CountsNow()
 {
-    return {s_allocations.load(), s_bytes.load(), s_frameSized.load(), s_filesOpened.load()};
+    return {s_allocations.load(), s_bytes.load(), s_frameSized.load(), s_filesOpened.load(),
+            UserMicroseconds()};
 }
 
 void SetFrameBytes(long long bytes)
@@ -108,7 +123,9 @@ long long HeapInUse()
 
 ProcessCounts CountsNow()
 {
-    return {};
+    ProcessCounts counts;
+    counts.userMicroseconds = UserMicroseconds();
+    return counts;
 }
 
 void SetFrameBytes(long long) { }

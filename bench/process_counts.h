@@ -8,6 +8,7 @@ struct ProcessCounts
     long long bytes = 0;      ///< allocated, whether or not given back since
     long long frameSized = 0; ///< allocations of at least the size set
     long long filesOpened = 0;
+    double userMicroseconds = 0; ///< processor time outside the kernel: without file access
 };
 
 /// Since the process began.

@@ -57,8 +57,7 @@ QImage PlainClock::NewImage()
 
 QImage PlainClock::Frame()
 {
-    const HeldReading oneInstant;
-    m_composer.CalculateTimeZone(m_reading);
+    ReadTime();
     m_frame = m_frame.copy(); // the frame before stays with whoever has it
     if (Number("ClockType") == 0) {
         PlaceTexts();
@@ -67,6 +66,19 @@ QImage PlainClock::Frame()
         DrawPicture();
     }
     return m_frame;
+}
+
+void PlainClock::ReadTime()
+{
+    m_composer.CalculateTimeZone(m_reading);
+    m_dateText = m_reading.toString(QStringLiteral("yyyy/MM/dd"));
+    m_year = m_reading.toString(QStringLiteral("yyyy")).toInt();
+    m_month = m_reading.toString(QStringLiteral("MM")).toInt();
+    m_day = m_reading.toString(QStringLiteral("dd")).toInt();
+    m_hourShown = m_reading.toString(QStringLiteral("hh")).toInt();
+    m_minuteShown = m_reading.toString(QStringLiteral("mm")).toInt();
+    m_secondShown = m_reading.time().second();
+    m_millisecond = LocalMillisecond();
 }
 
 void PlainClock::DrawAnalog()
@@ -209,9 +221,9 @@ void PlainClock::DrawHands()
 {
     const double r = qMin(m_frame.width(), m_frame.height()) / 2;
     const double a = r / 27;
-    const int hour = m_reading.time().hour();
-    const int minute = m_reading.time().minute();
-    const int second = m_reading.time().second();
+    const int hour = m_hourShown;
+    const int minute = m_minuteShown;
+    const int second = m_secondShown;
     struct
     {
         const char *type;
@@ -368,7 +380,7 @@ void PlainClock::DrawPicture()
     painter.scale(qMin(m_frame.height(), width) / 300.0, qMin(m_frame.height(), width) / 300.0);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.save();
-    painter.rotate((time.hour() + time.minute() / 60.0) * 30.0);
+    painter.rotate((m_hourShown + time.minute() / 60.0) * 30.0);
     painter.drawPixmap(QRect(-12, -65, 24, 70), m_hour);
     painter.restore();
     painter.save();

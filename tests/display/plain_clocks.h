@@ -1,6 +1,6 @@
 // Analog and picture clocks drawn the plain way: every frame from the whole background, every row
-// every second, nothing remembered but what the look of a clock depends on. The reference that the
-// drawer, which draws only what changed, is compared with.
+// every second, the time asked for wherever it is needed, nothing remembered but what the look of a
+// clock depends on. The reference that the drawer, which draws only what changed, is compared with.
 #pragma once
 
 #include "clock_node.h"
@@ -23,6 +23,7 @@ private:
     QColor Colour(const char *key);
     QImage NewImage();
 
+    void ReadTime();
     void DrawAnalog();
     void DrawDial();
     void DrawHourMark(QPainter &painter, double r, double a, double b);
@@ -38,6 +39,14 @@ private:
     Lw::HNodeClock::HClockNode *m_node;
     Lw::HNodeClock::DrawClockClassifyImage m_composer;
     QDateTime m_reading;
+    QString m_dateText;
+    int m_year = 0;
+    int m_month = 0;
+    int m_day = 0;
+    int m_hourShown = 0;
+    int m_minuteShown = 0;
+    int m_secondShown = 0;
+    int m_millisecond = 0;
     QImage m_frame;
     QImage m_dial;
     QDate m_dialDate;
