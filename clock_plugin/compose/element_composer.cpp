@@ -19,6 +19,8 @@ QPixmap Drawn(const Element &element)
     if (element.Size().isEmpty())
         return QPixmap();
     QImage image(element.Size(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull()) // there is no memory
+        return QPixmap();
     image.fill(Qt::transparent);
     PieceCanvas(image).Draw(element, QPoint(0, 0), image.rect());
     return QPixmap::fromImage(image, Qt::NoOpaqueDetection);
@@ -171,7 +173,8 @@ const Element &ElementComposer::Lunar()
 
 QPixmap ElementComposer::DrawnElement::Of(const Element &element)
 {
-    if (element != m_element) {
+    const bool missing = m_pixmap.isNull() && !element.Size().isEmpty();
+    if (missing || element != m_element) {
         m_element = element;
         m_pixmap = Drawn(element);
     }

@@ -109,6 +109,8 @@ const QPixmap &GlyphStrip::Pixmap() const
 {
     if (IsInk() && m_pixmap.isNull()) {
         QImage image(m_size, QImage::Format_ARGB32_Premultiplied);
+        if (image.isNull()) // there is no memory
+            return m_pixmap;
         image.fill(Qt::transparent);
         PieceCanvas(image).Draw(*this, QRect(QPoint(0, 0), m_size), QPoint(0, 0));
         m_pixmap = QPixmap::fromImage(image);

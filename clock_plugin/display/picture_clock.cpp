@@ -95,9 +95,13 @@ void DrawDisplayImage::InitClockTypePixmap()
     const QImage dial = ReadImageFile(folder + DialFile(d->Number(Attribute::PictrueClockType)));
     if (d->pictureBackground.isNull() || dial.isNull() || !Private::Drawable(QSize(side, side)))
         return;
+    const QImage scaled = dial.scaled(side, side, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    if (scaled.isNull()) {
+        d->pictureBackground = QImage(); // there is no memory: another time
+        return;
+    }
     d->painter.begin(&d->pictureBackground);
-    d->painter.drawImage((size.width() - side) / 2, (d->pictureSize.height() - side) / 2,
-                         dial.scaled(side, side, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+    d->painter.drawImage((size.width() - side) / 2, (d->pictureSize.height() - side) / 2, scaled);
     d->painter.end();
 }
 
@@ -107,7 +111,9 @@ void DrawDisplayImage::DrawPixmapClock()
         return;
     const QSize size = d->node->Size();
     const int type = d->Number(Attribute::PictrueClockType);
-    if (d->pictureType != type || d->pictureSize != QSize(d->frameWidth, size.height())) {
+    const QSize wanted(d->frameWidth, size.height());
+    const bool lacksMemory = d->pictureBackground.isNull() && Private::Drawable(wanted);
+    if (d->pictureType != type || d->pictureSize != wanted || lacksMemory) {
         InitClockTypePixmap();
         d->pictureType = type;
     }

@@ -21,8 +21,7 @@ constexpr struct
     {"AnalogDateType", 7},        {"HourScaleType", 3},    {"SecondRectType", 1},
     {"Digital_TopTexy_d", 1},     {"Digital_Date_d", 1},   {"Digital_Week_d", 1},
     {"Digital_Time_d", 1},        {"Digital_Lunar_d", 1},  {"DigitalDateType", 7},
-    {"DigitalMode", 1},           {"PictrueClockType", 3},
-};
+    {"DigitalMode", 1},       };
 
 constexpr struct
 {
@@ -74,6 +73,8 @@ std::unique_ptr<Lw::HNode> NewNode(Lw::INodePlugin *plugin, Kind kind)
     for (const auto &setting : kTexts)
         node->SetAttribute(QLatin1String(setting.key), QLatin1String(setting.value), false);
     node->SetAttribute(QStringLiteral("ClockType"), kind, false);
+    // Every renderer reads the dial picture; the style 0, which has none, saves most of the time.
+    node->SetAttribute(QStringLiteral("PictrueClockType"), kind == Picture ? 3 : 0, false);
     node->SetSize(kind == Digital ? QSize(128, 64) : QSize(80, 80));
     node->NodeAlready(0);
     return node;

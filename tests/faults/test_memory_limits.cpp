@@ -1,0 +1,280 @@
+// Memory that runs out while clocks play. A picture that cannot be made is left out; a frame that
+// cannot be made is a null image; once there is memory again the clock shows what it would have
+// shown. Nothing crashes, and nothing larger than the bounds is ever asked for.
+#include "clock_render.h"
+#include "compose/draw_clock_classify_image.h"
+#include "compose/glyph_strip.h"
+#include "failing_memory.h"
+#include "fault_support.h"
+
+#include "pictureplayer.h"
+
+#include <QProcess>
+
+#include <sys/resource.h>
+
+using namespace FaultSupport;
+using namespace Lw::HNodeClock;
+
+namespace {
+
+constexpr qint64 kNoon = 1795262399000; // 2026-11-21 11:59:59 UTC
+constexpr unsigned int kId = 41;
+
+// What is as large as the area below: frames, dials, backgrounds, the dial picture when it is
+// scaled. The pictures of the files are smaller: one that fails to be read is taken for broken.
+constexpr QSize kArea(400, 320);
+constexpr std::size_t kLarge = 400000;
+
+/// The program's address space grows no further than so many bytes while it lives.
+class AddressLimit
+{
+public:
+    explicit AddressLimit(rlim_t more)
+    {
+        getrlimit(RLIMIT_AS, &m_old);
+        rlimit limited = m_old;
+        limited.rlim_cur = Used() + more;
+        setrlimit(RLIMIT_AS, &limited);
+    }
+    ~AddressLimit() { setrlimit(RLIMIT_AS, &m_old); }
+    Q_DISABLE_COPY(AddressLimit)
+
+private:
+    static rlim_t Used()
+    {
+        QFile file(QStringLiteral("/proc/self/statm"));
+        return file.open(QFile::ReadOnly) ? file.readAll().split(' ').first().toULongLong() * 4096
+                                          : 0;
+    }
+    rlimit m_old;
+};
+
+} // namespace
+
+class TestMemoryLimits : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init() { ChosenTime::Set("2026-11-21T11:59:59"); }
+    void cleanup() { clock_set_time_source(nullptr); }
+
+    void EveryRequestFailsOnce_data() { AddKinds(); }
+    void EveryRequestFailsOnce();
+    void AllRequestsFailFromOneOn_data() { AddKinds(); }
+    void AllRequestsFailFromOneOn();
+    void PixmapsOfElements();
+    void GlyphsMadeWithoutMemory();
+    void AreasUnderALimit_data();
+    void AreasUnderALimit();
+    void PlayerUnderALimit_data();
+    void PlayerUnderALimit();
+};
+
+void TestMemoryLimits::initTestCase()
+{
+    if (!FailingMemory::Available())
+        QSKIP("the allocator cannot be limited under a sanitizer");
+    // Painters on null images warn at each call.
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+        if (type == QtFatalMsg)
+            std::fprintf(stderr, "%s\n", qPrintable(text));
+    });
+    pictureplayer::SetTimeScale(0);
+}
+
+// Over noon, when an analog dial is drawn anew.
+void TestMemoryLimits::EveryRequestFailsOnce()
+{
+    QFETCH(int, kind);
+    const auto clock = FullClock(kind, kArea);
+    const QImage expected = SettledFrame(clock->node, kNoon + 5000);
+    int requests = 1;
+    for (int nth = 0; nth < requests; ++nth) {
+        FailingMemory::Fail(kLarge, nth, false);
+        {
+            DrawDisplayImage drawer(&clock->node);
+            drawer.InitClockTypePixmap();
+            QList<QImage> held;
+            for (int second = 0; second < 4; ++second)
+                held.append(FrameAt(drawer, kNoon + 1000 * second));
+            requests = FailingMemory::Stop();
+            held.clear();
+            // With memory, two frames later at the latest, all is as if nothing had been.
+            FrameAt(drawer, kNoon + 5000);
+            FrameAt(drawer, kNoon + 5000);
+            QCOMPARE(FrameAt(drawer, kNoon + 5000), expected);
+        }
+        QVERIFY(requests >= 4);
+    }
+}
+
+void TestMemoryLimits::AllRequestsFailFromOneOn()
+{
+    QFETCH(int, kind);
+    const auto clock = FullClock(kind, kArea);
+    const QImage expected = SettledFrame(clock->node, kNoon + 5000);
+    for (int nth = 0; nth < 12; ++nth) {
+        ChosenTime::Milliseconds() = kNoon;
+        HClockRender render(&clock->node);
+        FailingMemory::Fail(kLarge, nth, true);
+        render.Start(kId, 0);
+        pictureplayer *const player = pictureplayer::ForIdentifier(kId);
+        QList<QImage> held = {player->LastImage()};
+        for (int second = 1; second < 6; ++second) {
+            ChosenTime::Milliseconds() = kNoon + 1000 * second;
+            render.PlayNext();
+            held.append(player->LastImage());
+        }
+        if (nth == 0) {
+            for (const QImage &frame : held)
+                QVERIFY(frame.isNull());
+        }
+        FailingMemory::Stop();
+        held.clear();
+        for (int i = 0; i < 3; ++i)
+            render.PlayNext();
+        QCOMPARE(player->LastImage(), expected);
+    }
+}
+
+void TestMemoryLimits::PixmapsOfElements()
+{
+    QImage image(400, 320, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    image.setPixel(3, 4, 0xffff0000);
+    const GlyphStrip strip(image);
+    QVERIFY(strip.IsInk());
+    FailingMemory::Fail(kLarge, 0, true);
+    const bool none = strip.Pixmap().isNull();
+    FailingMemory::Stop();
+    QVERIFY(none);
+    QCOMPARE(strip.Pixmap().toImage().pixel(3, 4), 0xffff0000);
+
+    const auto clock = FullClock(DigitalClock);
+    for (const char *const key : {"DigitalTimeFSize", "DigitalDateFSize"})
+        clock->Set(key, 150);
+    clock->MakeGlyphs();
+    DrawClockClassifyImage composer;
+    composer.InitParameters(&clock->node);
+    QDateTime reading;
+    composer.CalculateTimeZone(reading);
+    const QSize date = composer.GetDatePixmap().size();
+    QVERIFY(date.width() * date.height() * 4 > int(kLarge));
+    DrawClockClassifyImage other;
+    other.InitParameters(&clock->node);
+    FailingMemory::Fail(kLarge, 0, true);
+    const bool noDate = other.GetDatePixmap().isNull();
+    const bool noTime = other.GetTimePixmap().isNull();
+    FailingMemory::Stop();
+    QVERIFY(noDate);
+    QVERIFY(noTime);
+}
+
+// What cannot be drawn is not written; a file that stands there stays.
+void TestMemoryLimits::GlyphsMadeWithoutMemory()
+{
+    const auto clock = FullClock(DigitalClock);
+    const QString path = clock->node.GetFirstFile(QStringLiteral("_dateNumber"));
+    const auto content = [&path] {
+        QFile file(path);
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray before = content();
+    QVERIFY(!before.isEmpty());
+    clock->Set("DigitalDateFSize", 150);
+    FailingMemory::Fail(kLarge, 0, true);
+    clock->MakeGlyphs();
+    QVERIFY(FailingMemory::Stop() > 0);
+    QCOMPARE(content(), before);
+    clock->MakeGlyphs();
+    QVERIFY(content() != before);
+    QVERIFY(!QImage(path).isNull());
+}
+
+void TestMemoryLimits::AreasUnderALimit_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("fits");
+    for (const int kind : kKinds) {
+        const struct
+        {
+            QSize size;
+            bool fits;
+        } areas[] = {{{64, 32}, true},       {{1920, 1080}, true},    {{8000, 8000}, false},
+                     {{32767, 2048}, false}, {{32767, 32767}, false}, {{40000, 1}, false}};
+        for (const auto &area : areas)
+            QTest::addRow("%s, %dx%d", KindName(kind), area.size.width(), area.size.height())
+                << kind << area.size << area.fits;
+    }
+}
+
+// 200 MiB more than the program has: a frame of 244 or 256 MiB, within the bounds, does not fit.
+void TestMemoryLimits::AreasUnderALimit()
+{
+    QFETCH(int, kind);
+    QFETCH(QSize, size);
+    QFETCH(bool, fits);
+    const auto clock = FullClock(kind, {64, 32});
+    const QImage small = SettledFrame(clock->node, kNoon);
+    clock->node.SetSize(size);
+    ChosenTime::Milliseconds() = kNoon;
+    HClockRender render(&clock->node);
+    {
+        const AddressLimit limit(200 << 20);
+        render.Start(kId, 0);
+        render.PlayNext();
+    }
+    const QSize drawn = pictureplayer::ForIdentifier(kId)->LastImage().size();
+    QCOMPARE(drawn, fits ? size : QSize(0, 0));
+    // Another size, and the clock is there again.
+    clock->node.SetSize({64, 32});
+    render.PlayNext();
+    render.PlayNext();
+    QCOMPARE(pictureplayer::ForIdentifier(kId)->LastImage(), small);
+}
+
+void TestMemoryLimits::PlayerUnderALimit_data()
+{
+    QTest::addColumn<QString>("element");
+    QTest::newRow("digital") << "<clock type=\"digital\"/>";
+    QTest::newRow("analog") << "<clock type=\"dial\"/>";
+    QTest::newRow("picture") << "<clock><attribute key=\"ClockType\" value=\"2\"/></clock>";
+    QTest::newRow("letters as large as they come")
+        << "<clock type=\"digital\"><time fontSize=\"30000\"/><date fontSize=\"2000000000\"/>"
+           "</clock>";
+}
+
+// The real player in 300 MiB of addresses: beside an area that fits stands one that does not.
+void TestMemoryLimits::PlayerUnderALimit()
+{
+    QFETCH(QString, element);
+    const QTemporaryDir directory;
+    QFile program(directory.filePath(QStringLiteral("program.xml")));
+    QVERIFY(program.open(QFile::WriteOnly));
+    program.write(QStringLiteral("<program width=\"128\" height=\"64\">"
+                                 "<area x=\"0\" y=\"0\" width=\"5700\" height=\"5800\">%1</area>"
+                                 "<area x=\"64\" y=\"0\" width=\"64\" height=\"64\">"
+                                 "<clock type=\"dial\"/></area></program>")
+                      .arg(element)
+                      .toUtf8());
+    program.close();
+    QProcess player;
+    player.start(QStringLiteral("/bin/sh"),
+                 {QStringLiteral("-c"), QStringLiteral("ulimit -v 307200; exec \"$0\" \"$@\""),
+                  QStringLiteral(PLAYER), program.fileName(), QStringLiteral("--output"),
+                  directory.path(), QStringLiteral("--frames"), QStringLiteral("3")});
+    QVERIFY(player.waitForFinished(60000));
+    QCOMPARE(player.exitStatus(), QProcess::NormalExit);
+    QVERIFY2(player.exitCode() == 0, player.readAllStandardError().constData());
+    const QImage frame(directory.filePath(QStringLiteral("frame_0003.png")));
+    QCOMPARE(frame.size(), QSize(128, 64));
+    QVERIFY(PixelsShown(frame.copy(64, 0, 64, 64)) > 0);
+}
+
+QTEST_MAIN(TestMemoryLimits)
+
+#include "test_memory_limits.moc"
