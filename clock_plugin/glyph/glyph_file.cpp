@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QPixmap>
 
+#include <cerrno>
 #include <cstdio>
 
 #include <fcntl.h>
@@ -36,6 +37,20 @@ bool Holds(const QString &path, const QByteArray &bytes)
         && file.readAll() == bytes;
 }
 
+/// What a power failure left under the name gives way, and so does a pipe, which opening would wait
+/// for, or a link, behind which stands the file of somebody else. A filled directory refuses.
+bool OpenNew(QFile &file, const QByteArray &name)
+{
+    const auto open = [&name] {
+        return ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    };
+    int handle = open();
+    if (handle < 0 && errno == EEXIST && std::remove(name.constData()) == 0)
+        handle = open();
+    return handle >= 0
+        && file.open(handle, QFile::WriteOnly | QFile::Unbuffered, QFile::AutoCloseHandle);
+}
+
 bool Write(QFile &file, const QByteArray &bytes, Durability durability)
 {
     const bool written = file.write(bytes) == bytes.size()
@@ -47,13 +62,13 @@ bool Write(QFile &file, const QByteArray &bytes, Durability durability)
 /// Within one directory a rename replaces the older file in one step.
 void WriteAsideAndRename(const QString &path, const QByteArray &bytes, Durability durability)
 {
-    QFile aside(path + QLatin1String(".part"));
-    if (!aside.open(QFile::WriteOnly | QFile::Unbuffered))
-        return;
-    const QByteArray from = QFile::encodeName(aside.fileName());
     const QByteArray to = QFile::encodeName(path);
+    const QByteArray from = to + ".part";
+    QFile aside;
+    if (to.contains('\0') || !OpenNew(aside, from))
+        return;
     if (!Write(aside, bytes, durability) || std::rename(from.constData(), to.constData()) != 0)
-        aside.remove();
+        std::remove(from.constData());
 }
 
 } // namespace
@@ -64,8 +79,9 @@ QByteArray ReadSmallFile(const QString &path)
     const QByteArray name = QFile::encodeName(path);
     struct stat status
     { };
-    if (name.isEmpty() || stat(name.constData(), &status) != 0 || !S_ISREG(status.st_mode)
-        || status.st_size > kSmall)
+    // The system ends a path at its first character 0 and would take another file for it.
+    if (name.isEmpty() || name.contains('\0') || stat(name.constData(), &status) != 0
+        || !S_ISREG(status.st_mode) || status.st_size > kSmall)
         return QByteArray();
     const int file = open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (file < 0)
