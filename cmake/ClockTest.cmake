@@ -1,3 +1,15 @@
+# Builds for another machine: how their programs are run, and so what tests start in their turn (see
+# tests/support/start_program.h). Empty where nothing is emulated.
+set(clock_emulator)
+if(CMAKE_CROSSCOMPILING_EMULATOR)
+    add_library(emulated_processes SHARED
+        ${PROJECT_SOURCE_DIR}/tests/support/emulation/emulated_processes.cpp)
+    target_link_libraries(emulated_processes PRIVATE clock_warnings ${CMAKE_DL_LIBS})
+    list(APPEND CMAKE_CROSSCOMPILING_EMULATOR
+        -E LD_PRELOAD=${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/libemulated_processes.so)
+    list(JOIN CMAKE_CROSSCOMPILING_EMULATOR ":" clock_emulator)
+endif()
+
 # clock_add_test(NAME sources... [LIBRARIES libraries...] [LABELS labels...])
 # One Qt Test executable, run by CTest without a display, at 96 dpi, in UTC and the C locale. Its
 # reference pictures stand beside it in the source tree.
@@ -11,9 +23,12 @@ function(clock_add_test name)
         CLOCK_DIFFERENCE_DIR="${CMAKE_CURRENT_BINARY_DIR}/difference")
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    if(TARGET emulated_processes)
+        add_dependencies(${name} emulated_processes)
+    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;TZ=UTC"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;TZ=UTC;CLOCK_EMULATOR=${clock_emulator}"
         TIMEOUT 300
         LABELS "${arg_LABELS}")
 endfunction()

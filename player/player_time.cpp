@@ -1,6 +1,7 @@
 #include "player_time.h"
 
-#include <QDateTime>
+#include "calendar/system_time.h"
+
 #include <QElapsedTimer>
 
 #include <utility>
@@ -42,7 +43,7 @@ TimeTravel &Travel()
 
 RealTime Real()
 {
-    return {QDateTime::currentMSecsSinceEpoch(), static_cast<qint64>(Steady())};
+    return {Lw::HNodeClock::SystemMilliseconds(), static_cast<qint64>(Steady())};
 }
 
 double Steady()

@@ -5,6 +5,7 @@
 #include "tool_arguments.h"
 #include "zones/system_zones.h"
 
+#include "calendar/system_time.h"
 #include "clock_attributes.h"
 
 #include <QDateTime>
@@ -101,7 +102,7 @@ Failure NoSuchZone(const QString &name)
 QDate FirstDay(const ToolArguments &tool)
 {
     if (!tool.IsSet(kYear))
-        return QDateTime::currentDateTimeUtc().date();
+        return Lw::HNodeClock::SystemDate();
     const int year = tool.Value(kYear).toInt();
     return year >= kFirstYear && year <= kLastYear ? QDate(year, 1, 1) : QDate();
 }

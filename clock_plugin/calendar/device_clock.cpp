@@ -1,5 +1,7 @@
 #include "calendar/device_clock.h"
 
+#include "calendar/system_time.h"
+
 #include <QByteArray>
 #include <QHash>
 
@@ -49,11 +51,11 @@ qint64 ReadSource()
 {
     const TimeSource source = s_source.load(std::memory_order_acquire);
     return source ? qBound<qint64>(-kFurthest, source(), kFurthest)
-                  : QDateTime::currentMSecsSinceEpoch();
+                  : SystemMilliseconds();
 }
 
 // Qt 5 applies the summer time of 2037 to every later year; the C library knows better where its
-// time_t reaches that far.
+// time_t reaches that far, as it does on 32-bit machines too unless it is an old one.
 QDate FindLocalDate(qint64 utc)
 {
     if constexpr (sizeof(std::time_t) >= sizeof(qint64)) {

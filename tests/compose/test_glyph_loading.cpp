@@ -5,7 +5,9 @@
 #include "lettered_glyphs.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QImageWriter>
+#include <QProcess>
 #include <QTest>
 
 #include <sys/stat.h>
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void PipeDoesNotBlock();
     void TooLargeIsNotDecoded();
     void LiveImageFollowsTheFile();
+    void FilesOfLaterTimesAreRead();
 
 private:
     QTemporaryDir m_directory;
@@ -178,6 +181,19 @@ void TestGlyphLoading::LiveImageFollowsTheFile()
     QVERIFY(QFile::remove(path));
     QVERIFY(live.Load(path).IsNull());
     QVERIFY(live.Load(QString()).IsNull());
+}
+
+void TestGlyphLoading::FilesOfLaterTimesAreRead()
+{
+    HClockNode node;
+    LetteredGlyphs written(node);
+    const QString path = written.Write("_timeAM", "AA", 3);
+    QCOMPARE(QProcess::execute("touch", {"--date", "2040-01-01 00:00:00", path}), 0);
+    QCOMPARE(QFileInfo(path).lastModified().toSecsSinceEpoch(), Q_INT64_C(2208988800));
+    QVERIFY(!ReadSmallPng(path).isEmpty());
+    QVERIFY(!ReadGlyphFile(path).isNull());
+    LiveGlyph live;
+    QCOMPARE(LetteredGlyphs::Read(live.Load(path).Pixmap()), QStringLiteral("AA"));
 }
 
 QTEST_MAIN(TestGlyphLoading)

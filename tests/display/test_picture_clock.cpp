@@ -2,12 +2,12 @@
 // of itself in a folder of its own, and that copy makes the pictures it needs.
 #include "plain_clocks.h"
 #include "plain_fixture.h"
+#include "start_program.h"
 
 #include "display/draw_display_image.h"
 
 #include <QGuiApplication>
 #include <QPainter>
-#include <QProcess>
 #include <QtTest>
 
 using namespace Lw::HNodeClock;
@@ -445,7 +445,7 @@ int RunCopy(const QStringList &arguments)
     qputenv(kChildMark, "1");
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.start(copy, arguments.mid(1));
+    StartProgram(process, copy, arguments.mid(1));
     if (!process.waitForFinished(240000))
         qFatal("the copy of the test program did not finish");
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : 1;

@@ -489,8 +489,8 @@ void TestClockPlayer::SignalEndsTheWindow()
     environment.insert("XDG_RUNTIME_DIR", m_directory->path());
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(
-        QStringLiteral(PLAYER),
+    StartProgram(
+        process, QStringLiteral(PLAYER),
         {"--plugin-dir", kPanels, "-platform", "offscreen", WriteProgram(Area(0, "<panel/>"))});
     // It plays once the panel's file is there, and the redraws go on every millisecond.
     const auto plays = [this] {
@@ -513,7 +513,7 @@ void TestClockPlayer::SignalEndsTheFrames()
 {
     QProcess process;
     process.setProcessEnvironment(DisplaylessEnvironment());
-    process.start(QStringLiteral(PLAYER),
+    StartProgram(process, QStringLiteral(PLAYER),
                   {"--plugin-dir", kPanels, "--output", Path("out"), "--frames", "1000000",
                    WriteProgram(Area(0, "<panel/>"))});
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Path("out/frame_0000002.png")), 20000);

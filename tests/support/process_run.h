@@ -1,9 +1,10 @@
 // Runs a real program and keeps what it said.
 #pragma once
 
+#include "start_program.h"
+
 #include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QProcessEnvironment>
 #include <QStringList>
 #include <QVector>
@@ -30,7 +31,7 @@ inline ProcessRun RunProcess(const QString &program, const QStringList &argument
 {
     QProcess process;
     process.setProcessEnvironment(environment);
-    process.start(program, arguments);
+    StartProgram(process, program, arguments);
     ProcessRun run;
     if (!process.waitForFinished(120000)) {
         process.kill();

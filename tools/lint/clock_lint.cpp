@@ -6,12 +6,12 @@
 #include "value_checks.h"
 
 #include "calendar/clock_time.h"
+#include "calendar/system_time.h"
 #include "clock_node.h"
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 #include "program_file.h"
 
-#include <QDateTime>
 #include <QSet>
 
 namespace ClockTool {
@@ -244,7 +244,7 @@ private:
         const QString fault = RulePairFault(settings.start, settings.end);
         if (!fault.isEmpty())
             return Warn(m_clock, fault);
-        const QString note = RuleNote(settings, QDateTime::currentDateTimeUtc().date());
+        const QString note = RuleNote(settings, SystemDate());
         if (!note.isEmpty())
             m_findings.Note(m_clock.lineNumber(), note);
     }

@@ -1,0 +1,15 @@
+// The system's clock, for what reads it: device_clock for the clocks, and programs around them.
+#pragma once
+
+#include <QDate>
+
+namespace Lw::HNodeClock {
+
+/// Milliseconds since 1970-01-01 UTC by the system's clock. Read from the kernel in 64 bits: Qt 5
+/// asks for a time_t, which ends in January 2038 on 32-bit machines.
+qint64 SystemMilliseconds();
+
+/// The date by the system's clock, in UTC.
+QDate SystemDate();
+
+} // namespace Lw::HNodeClock

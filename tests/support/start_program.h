@@ -1,0 +1,29 @@
+// Starts a program as a test's child. Where the tests are emulated, so are the programs that were
+// built with them: the kernel of the build machine cannot run those by itself.
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QProcess>
+#include <QStringList>
+
+/// The first bytes of an ELF file: its class, byte order and machine. Empty without such a file.
+inline QByteArray MachineOf(const QString &program)
+{
+    QFile file(program);
+    return file.open(QFile::ReadOnly) ? file.read(20) : QByteArray();
+}
+
+/// CLOCK_EMULATOR is the emulator and its arguments, with colons between them; unset or empty
+/// where nothing is emulated.
+inline void StartProgram(QProcess &process, const QString &program, const QStringList &arguments)
+{
+    const QString emulator = qEnvironmentVariable("CLOCK_EMULATOR");
+    const bool isOwn = MachineOf(program) == MachineOf(QStringLiteral("/proc/self/exe"));
+    QStringList words = {program};
+    if (isOwn && !emulator.isEmpty())
+        words = emulator.split(':') + words;
+    words += arguments;
+    const QString first = words.takeFirst();
+    process.start(first, words);
+}
