@@ -28,7 +28,7 @@ function(clock_add_test name)
     endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;TZ=UTC;CLOCK_EMULATOR=${clock_emulator}"
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;TZ=UTC;CLOCK_EMULATOR=${clock_emulator};${CLOCK_RUN_ENVIRONMENT}"
         TIMEOUT 300
         LABELS "${arg_LABELS}")
 endfunction()

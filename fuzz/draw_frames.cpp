@@ -1,0 +1,238 @@
+// A clock that plays while everything about it is changed: attributes of any key and value, its
+// size, the time, its glyph images, who holds its frames; and every operation of its drawer.
+#include "fuzz_input.h"
+#include "fuzz_scene.h"
+#include "fuzz_target.h"
+
+#include "chosen_time.h"
+
+#include "clock_attributes.h"
+#include "compose/draw_clock_classify_image.h"
+#include "display/draw_display_image.h"
+#include "glyph/draw_source_image.h"
+#include "glyph/glyph_set.h"
+
+#include "happconfig.h"
+
+#include <QImage>
+#include <QScopedPointer>
+
+#include <array>
+
+using namespace Lw::HNodeClock;
+
+namespace {
+
+constexpr int kMostSteps = 64;
+constexpr int kMostSets = 1; // of glyph images: they take longer than all else together
+
+class Player
+{
+public:
+    explicit Player(Fuzz::Input input) : m_input(input), m_node(new HClockNode)
+    {
+        Lw::HAppConfig::SetRenderImageFormat(QImage::Format_RGB32);
+        Fuzz::SetTime(1709644062000); // 2024-03-05T13:07:42Z
+        Fuzz::MakeScene(*m_node, m_input.Choice(4) - 1);
+        m_drawer.reset(new DrawDisplayImage(m_node.data()));
+    }
+
+    void Play()
+    {
+        for (int step = 0; step < kMostSteps && !m_input.AtEnd(); ++step)
+            Step();
+        Draw();
+        CompareWithFreshDrawer();
+    }
+
+private:
+    void Step()
+    {
+        using Action = void (Player::*)();
+        static constexpr std::array<Action, 16> kActions = {
+            &Player::SetNumber, &Player::SetNumber,   &Player::SetText,    &Player::SetSize,
+            &Player::SetTime,   &Player::AdvanceTime, &Player::Draw,       &Player::Draw,
+            &Player::SetUp,     &Player::MakeGlyphs,  &Player::SwapGlyphs, &Player::LoseGlyph,
+            &Player::HoldFrame, &Player::SetFormat,   &Player::CallDrawer, &Player::DeleteNode,
+        };
+        (this->*kActions[static_cast<std::size_t>(m_input.Choice(kActions.size()))])();
+    }
+
+    Attribute AnyAttribute() { return static_cast<Attribute>(m_input.Choice(kAttributeCount)); }
+
+    void SetNumber()
+    {
+        const Attribute attribute = AnyAttribute();
+        const int value = m_input.Number();
+        if (m_node)
+            m_node->SetAttribute(Key(attribute), value, false);
+    }
+
+    void SetText()
+    {
+        const Attribute attribute = AnyAttribute();
+        const QString value = m_input.Text();
+        if (m_node)
+            m_node->SetAttribute(Key(attribute), value, false);
+    }
+
+    void SetSize()
+    {
+        const int width = m_input.Number();
+        const int height = m_input.Number();
+        if (m_node)
+            m_node->SetSize(QSize(width, height));
+    }
+
+    void SetTime() { Fuzz::SetTime(m_input.LongNumber()); }
+    void AdvanceTime() { ChosenTime::Advance(m_input.Byte() * 100); }
+
+    void Draw()
+    {
+        const QImage frame = m_drawer->DrawClockDisplayImage();
+        if (!m_node || frame.isNull())
+            return;
+        const int type = m_node->ClockType();
+        if (type == AnalogClock || type == DigitalClock || type == PictureClock)
+            Fuzz::Expect(frame.size() == m_node->Size(), "a frame has the node's size");
+    }
+
+    void SetUp() { m_drawer->ReLoadSourceFile(m_node.data()); }
+
+    void MakeGlyphs()
+    {
+        if (m_input.Choice(8) != 1 || !m_node || m_sets++ == kMostSets)
+            return;
+        m_node->NodeAlready(0);
+        SetUp();
+    }
+
+    void SwapGlyphs()
+    {
+        const QString key = AnyGlyph();
+        const QString other = AnyGlyph();
+        if (m_node)
+            m_node->SetFilePath(key, m_node->GetFirstFile(other), QString(), -1, kImageFileKind);
+    }
+
+    void LoseGlyph()
+    {
+        const QString key = AnyGlyph();
+        if (m_node)
+            m_node->SetFilePath(key, Fuzz::Directory(), QString(), -1, kImageFileKind);
+    }
+
+    QString AnyGlyph()
+    {
+        static const QVector<GlyphImage> glyphs = GlyphImages(GlyphOrder::Generation, DigitalClock);
+        return glyphs[m_input.Choice(glyphs.size())].Key();
+    }
+
+    void HoldFrame()
+    {
+        m_held = m_input.Choice(2) ? m_drawer->DrawClockDisplayImage() : QImage();
+        if (m_input.Choice(4) == 1 && !m_held.isNull())
+            m_held.fill(Qt::red); // the holder's own copy from here on
+    }
+
+    void SetFormat()
+    {
+        Lw::HAppConfig::SetRenderImageFormat(m_input.Choice(QImage::NImageFormats));
+    }
+
+    void CallDrawer()
+    {
+        DrawDisplayImage &drawer = *m_drawer;
+        const int space = m_input.Number();
+        switch (m_input.Choice(14)) {
+        case 0:
+            drawer.GetAngDisplayArea();
+            break;
+        case 1:
+            drawer.DrawAnalogClock();
+            break;
+        case 2:
+            drawer.DrawAnalogClockDial();
+            break;
+        case 3:
+            drawer.SetHandSize(space);
+            break;
+        case 4:
+            drawer.GetDigitalDisplayArea();
+            break;
+        case 5:
+            drawer.Computations1Count();
+            break;
+        case 6:
+            drawer.Computations2Count(space);
+            break;
+        case 7:
+            drawer.Computations3Count(space);
+            break;
+        case 8:
+            drawer.Computations4Count(space);
+            break;
+        case 9:
+            drawer.Computations5Count(space);
+            break;
+        case 10:
+            drawer.DrawDigitalClock();
+            break;
+        case 11:
+            drawer.InitClockTypePixmap();
+            break;
+        case 12:
+            drawer.DrawPixmapClock();
+            break;
+        default:
+            ComposeElements();
+            break;
+        }
+    }
+
+    void ComposeElements()
+    {
+        DrawClockClassifyImage composer;
+        composer.InitParameters(m_node.data());
+        QDateTime reading;
+        composer.CalculateTimeZone(reading);
+        composer.GetDatePixmap();
+        composer.GetTimePixmap();
+        composer.GetTimeAP();
+        composer.GetWeeKPixmap();
+        composer.GetLunarPixmap();
+        composer.GetTopTextPixmap();
+    }
+
+    void DeleteNode() { m_node.reset(); }
+
+    // A digital frame shows the settings and nothing else; what the drawer kept must not be seen.
+    // A week code that is none keeps the images of the code before, in the one that has any.
+    void CompareWithFreshDrawer()
+    {
+        if (!m_node || m_node->ClockType() != DigitalClock)
+            return;
+        const int week = m_node->GetAttributeToInt(Key(Attribute::DigitalWeekType));
+        if (week < 0 || week > 3)
+            return;
+        SetUp();
+        const QImage kept = m_drawer->DrawClockDisplayImage();
+        DrawDisplayImage fresh(m_node.data());
+        Fuzz::Expect(kept == fresh.DrawClockDisplayImage(), "a kept frame is a fresh frame");
+    }
+
+    Fuzz::Input m_input;
+    QScopedPointer<HClockNode> m_node;
+    QScopedPointer<DrawDisplayImage> m_drawer;
+    QImage m_held;
+    int m_sets = 0;
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    Player(Fuzz::Input(data, size)).Play();
+    Fuzz::EmptyDirectory();
+    return 0;
+}

@@ -1,0 +1,46 @@
+// Replays inputs: every file named, and every file in every directory named.
+#include "fuzz_target.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace {
+
+QStringList FilesAt(const QString &path)
+{
+    if (!QFileInfo(path).isDir())
+        return {path};
+    QStringList files;
+    for (const QFileInfo &file : QDir(path).entryInfoList(QDir::Files, QDir::Name))
+        files.append(file.filePath());
+    return files;
+}
+
+bool Replay(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly))
+        return false;
+    const QByteArray input = file.readAll();
+    std::fprintf(stderr, "%s\n", qPrintable(path));
+    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.constData()),
+                           static_cast<std::size_t>(input.size()));
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    LLVMFuzzerInitialize(&argc, &argv);
+    int replayed = 0;
+    for (int i = 1; i < argc; ++i) {
+        for (const QString &path : FilesAt(QFile::decodeName(argv[i])))
+            replayed += Replay(path) ? 1 : 0;
+    }
+    std::fprintf(stderr, "%d inputs replayed\n", replayed);
+    return replayed > 0 ? 0 : 1;
+}
