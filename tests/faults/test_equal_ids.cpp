@@ -80,6 +80,7 @@ private Q_SLOTS:
     void EachPlaysWithItsOwnImages();
     void EachReloadsItsOwnDigests();
     void EachIsExportedWithItsOwnImages();
+    void EachIsImportedWithItsOwnImages();
     void ExportAfterAllWereMade();
     void PlayerGivesEachItsOwn();
 
@@ -158,6 +159,43 @@ void TestEqualIds::EachIsExportedWithItsOwnImages()
         }
         QCOMPARE(Colours(SettledFrame(node, kMorning)), QSet<QRgb> {ColourOf(i)});
     }
+}
+
+// A program on another device: elements that name the exported images, and nothing of the Ids.
+void TestEqualIds::EachIsImportedWithItsOwnImages()
+{
+    QDomDocument program;
+    QDomElement root = program.createElement(QStringLiteral("program"));
+    for (int i = 0; i < kClocks; ++i) {
+        const auto node = NewClock(i);
+        node->NodeAlready(0);
+        CapturedOutput captured;
+        node->ProcessFileName(m_directories->Dest());
+        QDomElement clock = program.createElement(QStringLiteral("clock"));
+        clock.setAttribute(QStringLiteral("type"), QStringLiteral("digital"));
+        for (const Lw::FileRecord &record : node->FileRecords()) {
+            QDomElement file = program.createElement(QStringLiteral("file"));
+            file.setAttribute(QStringLiteral("key"), record.key);
+            file.setAttribute(QStringLiteral("path"), record.path);
+            file.setAttribute(QStringLiteral("md5"), record.name);
+            clock.appendChild(file);
+        }
+        root.appendChild(clock);
+    }
+    int seen = 0;
+    for (QDomElement clock = root.firstChildElement(); !clock.isNull();
+         clock = clock.nextSiblingElement()) {
+        HClockNode node;
+        node.InitData();
+        QList<Lw::FileInfo> files;
+        QVERIFY(node.UpdateNode(clock, files));
+        QCOMPARE(files.size(), 52);
+        node.SetSize({80, 40});
+        QVERIFY(node.AllFileExists());
+        QCOMPARE(Colours(SettledFrame(node, kMorning)), QSet<QRgb> {ColourOf(seen)});
+        ++seen;
+    }
+    QCOMPARE(seen, kClocks);
 }
 
 // The files are those of the clock made last. The first to be exported takes them; the others are

@@ -397,6 +397,12 @@ void TestWindow::SteppedSystemClock_data()
     QTest::newRow("forwards") << QVector<qint64> {7200500};
     QTest::newRow("backwards") << QVector<qint64> {-86400300};
     QTest::newRow("there and back") << QVector<qint64> {5000, -5000, 0};
+    const auto to = [](int year) {
+        return QDateTime::currentDateTimeUtc().msecsTo(
+            QDateTime(QDate(year, 1, 1), QTime(0, 0), Qt::UTC));
+    };
+    QTest::newRow("to 1970 and back") << QVector<qint64> {to(1970), 0};
+    QTest::newRow("to 2051 and beyond 2100") << QVector<qint64> {to(2051), to(2101)};
 }
 
 // The window must tell the stepped time long before the second that ran at the step has ended.

@@ -75,7 +75,7 @@ std::unique_ptr<Lw::HNode> NewNode(Lw::INodePlugin *plugin, Kind kind)
     node->SetAttribute(QStringLiteral("ClockType"), kind, false);
     // Every renderer reads the dial picture; the style 0, which has none, saves most of the time.
     node->SetAttribute(QStringLiteral("PictrueClockType"), kind == Picture ? 3 : 0, false);
-    node->SetSize(kind == Digital ? QSize(128, 64) : QSize(80, 80));
+    node->SetSize(kind == Digital ? QSize(128, 64) : QSize(64, 64));
     node->NodeAlready(0);
     return node;
 }
