@@ -3,6 +3,7 @@
 // every image is its own.
 #include "fault_support.h"
 #include "node/node_test_support.h"
+#include "process_run.h"
 
 #include "clock_render.h"
 
@@ -10,7 +11,6 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QProcess>
 #include <QSet>
 
 using namespace FaultSupport;
@@ -243,14 +243,11 @@ void TestEqualIds::PlayerGivesEachItsOwn()
     WriteFile(
         program,
         QStringLiteral("<program width=\"800\" height=\"400\">%1</program>").arg(areas).toUtf8());
-    QProcess player;
-    player.start(QStringLiteral(PLAYER),
-                 {program, QStringLiteral("--output"), m_directories->Dest(),
-                  QStringLiteral("--frames"), QStringLiteral("2")});
-    QVERIFY(player.waitForFinished(60000));
-    QCOMPARE(player.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(player.exitCode(), 0);
-    QCOMPARE(player.readAllStandardError().count("the Id 1234 is another clock's"), kClocks - 1);
+    const ProcessRun run = RunProcess(QStringLiteral(PLAYER),
+                                      {program, QStringLiteral("--output"), m_directories->Dest(),
+                                       QStringLiteral("--frames"), QStringLiteral("2")});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors.count(QStringLiteral("the Id 1234 is another clock's")), kClocks - 1);
     const QImage frame(m_directories->Dest() + QStringLiteral("frame_0002.png"));
     QCOMPARE(frame.size(), QSize(800, 400));
     for (int i = 0; i < kClocks; ++i) {

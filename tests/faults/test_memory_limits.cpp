@@ -6,10 +6,9 @@
 #include "compose/glyph_strip.h"
 #include "failing_memory.h"
 #include "fault_support.h"
+#include "process_run.h"
 
 #include "pictureplayer.h"
-
-#include <QProcess>
 
 #include <sys/resource.h>
 
@@ -262,14 +261,13 @@ void TestMemoryLimits::PlayerUnderALimit()
                       .arg(element)
                       .toUtf8());
     program.close();
-    QProcess player;
-    player.start(QStringLiteral("/bin/sh"),
-                 {QStringLiteral("-c"), QStringLiteral("ulimit -v 307200; exec \"$0\" \"$@\""),
-                  QStringLiteral(PLAYER), program.fileName(), QStringLiteral("--output"),
-                  directory.path(), QStringLiteral("--frames"), QStringLiteral("3")});
-    QVERIFY(player.waitForFinished(60000));
-    QCOMPARE(player.exitStatus(), QProcess::NormalExit);
-    QVERIFY2(player.exitCode() == 0, player.readAllStandardError().constData());
+    const ProcessRun run =
+        RunProcess(QStringLiteral("/bin/sh"),
+                   {QStringLiteral("-c"), QStringLiteral("ulimit -v 307200; exec \"$0\" \"$@\""),
+                    QStringLiteral(PLAYER), program.fileName(), QStringLiteral("--output"),
+                    directory.path(), QStringLiteral("--frames"), QStringLiteral("3")});
+    QVERIFY(!run.crashed);
+    QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     const QImage frame(directory.filePath(QStringLiteral("frame_0003.png")));
     QCOMPARE(frame.size(), QSize(128, 64));
     QVERIFY(PixelsShown(frame.copy(64, 0, 64, 64)) > 0);

@@ -11,6 +11,7 @@
 #include <csignal>
 #include <optional>
 
+#include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -46,14 +47,18 @@ private:
     void (*m_handler)(int);
 };
 
-/// A file system of its own with room for so many pages, on a directory, where that is allowed.
+/// A file system of its own with room for so many pages, on a directory, where that is allowed. No
+/// other process sees it, and it goes with this one.
 class SmallDisk
 {
 public:
     SmallDisk(const QString &directory, int pages) : m_directory(QFile::encodeName(directory))
     {
+        static const bool ownMounts = unshare(CLONE_NEWNS) == 0
+            && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
         const QByteArray size = "mode=0777,size=" + QByteArray::number(pages * 4096);
-        m_mounted = mount("none", m_directory.constData(), "tmpfs", 0, size.constData()) == 0;
+        m_mounted =
+            ownMounts && mount("none", m_directory.constData(), "tmpfs", 0, size.constData()) == 0;
     }
     ~SmallDisk()
     {

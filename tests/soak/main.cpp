@@ -21,6 +21,7 @@ namespace {
 
 constexpr int kCompared = 100; // every so many frames
 constexpr int kGrowthKiB = 1024;
+constexpr int kEnoughDifferent = 10; // the rest of the year would say no more
 constexpr unsigned int kLongId = 1;
 constexpr unsigned int kNewId = 2;
 const char *const kNames[] = {"analog", "digital", "picture"};
@@ -119,7 +120,8 @@ void YearOfAClock::LookAtProcess(qint64 instant)
 Result YearOfAClock::Run()
 {
     Soak::Play play(m_plugin, m_node.get(), kLongId);
-    for (qint64 instant = m_year.First(); instant >= 0; instant = m_year.Next(instant)) {
+    for (qint64 instant = m_year.First(); instant >= 0 && m_result.different < kEnoughDifferent;
+         instant = m_year.Next(instant)) {
         const QImage frame = play.Frame(instant);
         m_history.Add(instant);
         if (++m_result.frames % kCompared == 0)

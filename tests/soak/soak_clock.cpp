@@ -16,12 +16,13 @@ constexpr struct
     const char *key;
     int value;
 } kNumbers[] = {
-    {"UseDaylightSavingTime", 1}, {"Analog_AMPM_d", 1},    {"Analog_TopTexy_d", 1},
-    {"Analog_Date_d", 1},         {"Analog_Week_d", 1},    {"Analog_Lunar_d", 1},
-    {"AnalogDateType", 7},        {"HourScaleType", 3},    {"SecondRectType", 1},
-    {"Digital_TopTexy_d", 1},     {"Digital_Date_d", 1},   {"Digital_Week_d", 1},
-    {"Digital_Time_d", 1},        {"Digital_Lunar_d", 1},  {"DigitalDateType", 7},
-    {"DigitalMode", 1},       };
+    {"UseDaylightSavingTime", 1}, {"Analog_AMPM_d", 1},   {"Analog_TopTexy_d", 1},
+    {"Analog_Date_d", 1},         {"Analog_Week_d", 1},   {"Analog_Lunar_d", 1},
+    {"AnalogDateType", 7},        {"HourScaleType", 3},   {"SecondRectType", 1},
+    {"Digital_TopTexy_d", 1},     {"Digital_Date_d", 1},  {"Digital_Week_d", 1},
+    {"Digital_Time_d", 1},        {"Digital_Lunar_d", 1}, {"DigitalDateType", 7},
+    {"DigitalMode", 1},
+};
 
 constexpr struct
 {

@@ -1,5 +1,7 @@
 #include "soak_year.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr qint64 kSecond = 1000;
@@ -32,7 +34,7 @@ qint64 SoakYear::Next(qint64 instant)
         m_dayEnd = QDateTime(day.addDays(1), QTime(0, 0), m_zone).toMSecsSinceEpoch();
         m_step = IsEventful(day) ? kSecond : kCoarse * kSecond;
     }
-    const qint64 next = instant + m_step;
+    const qint64 next = std::min(instant + m_step, m_dayEnd); // every midnight is among them
     return next < m_end ? next : -1;
 }
 
