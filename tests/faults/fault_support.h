@@ -5,6 +5,7 @@
 #include "clock_under_test.h"
 #include "display/draw_display_image.h"
 
+#include <QCryptographicHash>
 #include <QTest>
 
 #include <memory>
@@ -25,6 +26,21 @@ inline void AddKinds()
     QTest::addColumn<int>("kind");
     for (const int kind : kKinds)
         QTest::newRow(KindName(kind)) << kind;
+}
+
+/// Those that are made of glyph images.
+inline void AddKindsWithGlyphs()
+{
+    QTest::addColumn<int>("kind");
+    for (const int kind : {Lw::HNodeClock::AnalogClock, Lw::HNodeClock::DigitalClock})
+        QTest::newRow(KindName(kind)) << kind;
+}
+
+constexpr qint64 kMorning = 1795262390000; ///< 2026-11-21 11:59:50 UTC, a Saturday
+
+inline QString Md5(const QByteArray &bytes)
+{
+    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
 }
 
 /// With every row and mark, in UTC; twelve-hour display in a digital clock.

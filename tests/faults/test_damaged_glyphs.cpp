@@ -18,7 +18,6 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr qint64 kMorning = 1795262390000; // 2026-11-21 11:59:50 UTC, a Saturday
 constexpr qint64 kHalfDay = 12 * 3600000;
 
 QByteArray BigEndian(quint32 number)
@@ -173,13 +172,6 @@ std::unique_ptr<ClockUnderTest> ClockWith(int kind, bool live)
     clock->Set("HourScaleType", live ? 3 : 0);
     clock->Set("DigitalMode", live ? 1 : 0);
     return clock;
-}
-
-void AddKindsWithGlyphs()
-{
-    QTest::addColumn<int>("kind");
-    for (const int kind : {AnalogClock, DigitalClock})
-        QTest::newRow(KindName(kind)) << kind;
 }
 
 } // namespace

@@ -9,7 +9,6 @@
 
 #include "pictureplayer.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QSet>
 
@@ -20,7 +19,6 @@ namespace {
 
 constexpr int kClocks = 100;
 constexpr int kId = 1234;
-constexpr qint64 kMorning = 1795262390000; // 2026-11-21 11:59:50 UTC
 
 /// A colour of its own for each, none the key colour: the blue 100 is in all.
 QRgb ColourOf(int clock)
@@ -60,11 +58,6 @@ QSet<QRgb> Colours(const QImage &image)
     }
     colours.remove(qRgb(1, 2, 1));
     return colours;
-}
-
-QString Md5(const QByteArray &bytes)
-{
-    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
 }
 
 } // namespace

@@ -2,50 +2,22 @@
 // after all is whole, what was there before is not lost, nothing half-written is left, and with
 // room again everything is made.
 #include "fault_support.h"
+#include "file_size_limit.h"
 #include "node/node_test_support.h"
 #include "without_privileges.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 
-#include <csignal>
 #include <optional>
 
 #include <sched.h>
 #include <sys/mount.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace FaultSupport;
 using namespace Lw::HNodeClock;
 
 namespace {
-
-constexpr qint64 kMorning = 1795262390000; // 2026-11-21 11:59:50 UTC
-
-/// Files grow no further than so many bytes while it lives, as on a full device.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_old);
-        rlimit limited = m_old;
-        limited.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY(FileSizeLimit)
-
-private:
-    rlimit m_old;
-    void (*m_handler)(int);
-};
 
 /// A file system of its own with room for so many pages, on a directory, where that is allowed. No
 /// other process sees it, and it goes with this one.
@@ -90,11 +62,6 @@ Files FilesIn(const QString &directory)
     return files;
 }
 
-QString Md5(const QByteArray &bytes)
-{
-    return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
-}
-
 /// A clock whose images are larger than those of FullClock, under the same names.
 void Enlarge(ClockUnderTest &clock)
 {
@@ -111,13 +78,6 @@ Files EnlargedFiles(int kind)
     Enlarge(*clock);
     clock->MakeGlyphs();
     return FilesIn(clock->Directory());
-}
-
-void AddKindsWithGlyphs()
-{
-    QTest::addColumn<int>("kind");
-    for (const int kind : {AnalogClock, DigitalClock})
-        QTest::newRow(KindName(kind)) << kind;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // The export of one glyph image: whatever stands at its source and its destination, no image that
 // exists is lost, and record and lists are made all the same.
+#include "file_size_limit.h"
 #include "node_test_support.h"
 #include "without_privileges.h"
 
@@ -7,9 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <csignal>
 #include <optional>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace Lw::HNodeClock;
@@ -22,30 +21,6 @@ QString Md5(const QByteArray &bytes)
 {
     return QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
 }
-
-/// Files grow no further than so many bytes while it lives, as on a full device.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_old);
-        rlimit limited = m_old;
-        limited.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    Q_DISABLE_COPY(FileSizeLimit)
-
-private:
-    rlimit m_old;
-    void (*m_handler)(int);
-};
 
 bool OnOneFileSystem(const QString &a, const QString &b)
 {
