@@ -87,6 +87,8 @@ int open(const char *path, int flags, ...)
     return file;
 }
 
+// Where files are of 64 bits on a 32-bit machine, this is open() already.
+#if !defined(_FILE_OFFSET_BITS)
 int open64(const char *path, int flags, ...)
 {
     static const auto next = reinterpret_cast<Open>(dlsym(RTLD_NEXT, "open64"));
@@ -96,6 +98,7 @@ int open64(const char *path, int flags, ...)
     va_end(arguments);
     return file;
 }
+#endif
 }
 
 ProcessCounts CountsNow()

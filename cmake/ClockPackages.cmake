@@ -18,6 +18,11 @@ set(full_version ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})
 # Otherwise the architecture is the build machine's.
 if(CMAKE_CROSSCOMPILING AND CMAKE_LIBRARY_ARCHITECTURE STREQUAL arm-linux-gnueabihf)
     set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE armhf)
+    # What the packages depend on is told by the sysroot's packages, not by the build machine's.
+    set(CPACK_CLOCK_SHLIBDEPS ${PROJECT_BINARY_DIR}/packaging/dpkg-shlibdeps)
+    set(CPACK_PROJECT_CONFIG_FILE ${PROJECT_SOURCE_DIR}/cmake/ClockCrossPackages.cmake)
+    configure_file(cmake/dpkg-shlibdeps.in ${CPACK_CLOCK_SHLIBDEPS} @ONLY
+        FILE_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 endif()
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME clock-player)

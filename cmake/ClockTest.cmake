@@ -11,6 +11,7 @@ if(CMAKE_CROSSCOMPILING_EMULATOR)
 endif()
 
 # clock_add_test(NAME sources... [LIBRARIES libraries...] [LABELS labels...])
+# The label "native" leaves a test out where another machine is emulated; say why beside it.
 # One Qt Test executable, run by CTest without a display, at 96 dpi, in UTC and the C locale. Its
 # reference pictures stand beside it in the source tree.
 function(clock_add_test name)

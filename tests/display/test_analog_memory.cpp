@@ -337,7 +337,7 @@ void TestAnalogMemory::MovedRowIsPainted()
     rows[0].topLeft = QPoint(10, 18);
     QCOMPARE(memory.Paint(picture, Placed(rows)), QRegion(10, 18, 4, 2));
     QCOMPARE(picture.pixel(0, 0), kRed); // old texts stay
-    rows[0] = {QSize(4, 4), Qt::blue, QPoint(10, 18)};
+    rows = {{QSize(4, 4), Qt::blue, QPoint(10, 18)}};
     QCOMPARE(memory.Paint(picture, Placed(rows)), QRegion(10, 18, 4, 2));
     QCOMPARE(picture.pixel(10, 18), kBlue);
 }

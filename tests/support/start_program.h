@@ -7,11 +7,12 @@
 #include <QProcess>
 #include <QStringList>
 
-/// The first bytes of an ELF file: its class, byte order and machine. Empty without such a file.
+/// What an ELF file says of its class, byte order and machine. Empty without such a file.
 inline QByteArray MachineOf(const QString &program)
 {
     QFile file(program);
-    return file.open(QFile::ReadOnly) ? file.read(20) : QByteArray();
+    const QByteArray header = file.open(QFile::ReadOnly) ? file.read(20) : QByteArray();
+    return header.startsWith("\177ELF") ? header.left(6) + header.mid(18) : QByteArray();
 }
 
 /// CLOCK_EMULATOR is the emulator and its arguments, with colons between them; unset or empty

@@ -13,6 +13,13 @@
 
 namespace {
 
+// Seconds have 64 bits here; see the top of the build.
+#ifdef SYS_clock_gettime64
+constexpr long kClockCall = SYS_clock_gettime64;
+#else
+constexpr long kClockCall = SYS_clock_gettime;
+#endif
+
 const volatile std::int64_t *MapOffset()
 {
     const char *const path = std::getenv("STEPPING_CLOCK");
@@ -34,12 +41,12 @@ std::int64_t OffsetMilliseconds()
 
 extern "C" int clock_gettime(clockid_t clock, timespec *time) noexcept
 {
-    const long result = ::syscall(SYS_clock_gettime, clock, time);
+    const long result = ::syscall(kClockCall, clock, time);
     if (result == 0 && clock == CLOCK_REALTIME) {
         const std::int64_t shifted =
             time->tv_sec * 1000000000LL + time->tv_nsec + OffsetMilliseconds() * 1000000LL;
-        time->tv_sec = shifted / 1000000000LL;
-        time->tv_nsec = shifted % 1000000000LL;
+        time->tv_sec = static_cast<std::time_t>(shifted / 1000000000LL);
+        time->tv_nsec = static_cast<long>(shifted % 1000000000LL);
     }
     return static_cast<int>(result);
 }
