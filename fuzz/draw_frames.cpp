@@ -76,10 +76,12 @@ private:
             m_node->SetAttribute(Key(attribute), value, false);
     }
 
+    // Most sizes are small: a large frame takes as long as a hundred others.
     void SetSize()
     {
-        const int width = m_input.Number();
-        const int height = m_input.Number();
+        const bool isAny = m_input.Choice(16) == 1;
+        const int width = isAny ? m_input.Number() : m_input.Byte();
+        const int height = isAny ? m_input.Number() : m_input.Byte();
         if (m_node)
             m_node->SetSize(QSize(width, height));
     }

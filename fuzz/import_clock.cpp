@@ -1,9 +1,12 @@
-// The import of a clock element: every "clock" of a document, or its root. Whatever was taken over
-// must be exported and come back as the same.
+// The import of a clock element: every "clock" of a document where the input begins as one, else an
+// element put together of the words that clocks are written with. Whatever was taken over must be
+// exported and come back as the same.
 #include "clock_node.h"
 #include "clock_plugin.h"
 #include "clock_sdk_tables.h"
+#include "fuzz_input.h"
 #include "fuzz_target.h"
+#include "sdk_words.h"
 #include "xml_document.h"
 
 #include <QDomDocument>
@@ -14,6 +17,26 @@ using namespace Lw::HNodeClock;
 namespace {
 
 constexpr int kMostClocks = 8;
+constexpr int kDeepest = 8; // of elements in elements
+
+const QStringList kValues = {
+    QStringLiteral("true"),
+    QStringLiteral("false"),
+    QStringLiteral("0"),
+    QStringLiteral("1"),
+    QStringLiteral("2"),
+    QStringLiteral("-1"),
+    QStringLiteral("2147483647"),
+    QStringLiteral("-2147483648"),
+    QStringLiteral("#ff8000"),
+    QStringLiteral("light blue"),
+    QStringLiteral("+08:00"),
+    QStringLiteral("-23:59:59"),
+    QStringLiteral("digital"),
+    QStringLiteral("dial"),
+    QStringLiteral("3.Last.7.02:00:00"),
+    QString(),
+};
 
 using Texts = QMap<QString, QString>;
 
@@ -68,15 +91,43 @@ void ImportAndExport(QDomElement clock, bool withDefaults)
     node.GetSDKTempFile(temporary);
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+template<typename List>
+auto AnyOf(const List &list, Fuzz::Input &input)
 {
-    const QByteArray contents(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    return list[input.Choice(list.size())];
+}
+
+QDomElement MakeClock(QDomDocument &document, Fuzz::Input &input)
+{
+    QDomElement clock = document.createElement(QLatin1String(Sdk::kClock));
+    document.appendChild(clock);
+    QDomElement at = clock;
+    int depth = 0;
+    while (!input.AtEnd()) {
+        const int step = input.Choice(5);
+        if (step == 0 && depth < kDeepest) {
+            at = at.appendChild(document.createElement(AnyOf(Fuzz::SdkWords(), input))).toElement();
+            ++depth;
+        } else if (step == 1 && depth > 0) {
+            at = at.parentNode().toElement();
+            --depth;
+        } else if (step < 4) {
+            const QString name = AnyOf(Fuzz::SdkWords(), input);
+            at.setAttribute(name, AnyOf(kValues, input));
+        } else {
+            const QString name = AnyOf(Fuzz::SdkWords(), input);
+            at.setAttribute(name, input.Text());
+        }
+    }
+    return clock;
+}
+
+void ImportDocument(const QByteArray &contents)
+{
     const auto read = ClockProgram::ParseDocument(contents, QStringLiteral("fuzz"));
     const auto *const document = std::get_if<QDomDocument>(&read);
     if (!document)
-        return 0;
+        return;
     const QDomNodeList clocks = document->elementsByTagName(QLatin1String(Sdk::kClock));
     for (int i = 0; i < clocks.count() && i < kMostClocks; ++i) {
         for (const bool withDefaults : {false, true})
@@ -84,5 +135,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     if (clocks.isEmpty())
         ImportAndExport(document->documentElement(), true);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    if (size > 0 && data[0] == '<') {
+        ImportDocument({reinterpret_cast<const char *>(data), static_cast<int>(size)});
+        return 0;
+    }
+    Fuzz::Input input(data, size);
+    const bool withDefaults = input.Choice(2) == 1;
+    QDomDocument document;
+    ImportAndExport(MakeClock(document, input), withDefaults);
     return 0;
 }
