@@ -24,12 +24,15 @@ function(clock_add_test name)
         CLOCK_DIFFERENCE_DIR="${CMAKE_CURRENT_BINARY_DIR}/difference")
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-    if(TARGET emulated_processes)
-        add_dependencies(${name} emulated_processes)
-    endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;TZ=UTC;CLOCK_EMULATOR=${clock_emulator};${CLOCK_RUN_ENVIRONMENT}"
         TIMEOUT 300
         LABELS "${arg_LABELS}")
+    if(TARGET emulated_processes)
+        add_dependencies(${name} emulated_processes)
+        set_tests_properties(${name} PROPERTIES
+            REQUIRED_FILES $<TARGET_FILE:emulated_processes>
+            TIMEOUT 900)
+    endif()
 endfunction()
