@@ -4,8 +4,6 @@
 #include "fuzz_scene.h"
 #include "fuzz_target.h"
 
-#include "chosen_time.h"
-
 #include "clock_attributes.h"
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
@@ -87,7 +85,7 @@ private:
     }
 
     void SetTime() { Fuzz::SetTime(m_input.LongNumber()); }
-    void AdvanceTime() { ChosenTime::Advance(m_input.Byte() * 100); }
+    void AdvanceTime() { Fuzz::AdvanceTime(m_input.Byte() * 100); }
 
     void Draw()
     {

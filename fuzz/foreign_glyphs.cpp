@@ -4,8 +4,6 @@
 #include "fuzz_scene.h"
 #include "fuzz_target.h"
 
-#include "chosen_time.h"
-
 #include "clock_attributes.h"
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
@@ -87,7 +85,7 @@ void DrawFrames(HClockNode &node)
     for (int i = 0; i < kFrames; ++i) {
         const QImage frame = drawer.DrawClockDisplayImage();
         Fuzz::Expect(frame.size() == node.Size(), "a frame has the node's size");
-        ChosenTime::Advance(i == 0 ? 1000 : 86400000 / 2);
+        Fuzz::AdvanceTime(i == 0 ? 1000 : 86400000 / 2);
     }
 }
 

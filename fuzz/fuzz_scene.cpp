@@ -13,6 +13,9 @@
 
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <limits>
+
 using namespace Lw::HNodeClock;
 
 namespace Fuzz {
@@ -75,6 +78,12 @@ void SetTime(long long utcMilliseconds)
 {
     ChosenTime::Milliseconds() = utcMilliseconds;
     clock_set_time_source([] { return ChosenTime::Milliseconds(); });
+}
+
+void AdvanceTime(int milliseconds)
+{
+    long long &now = ChosenTime::Milliseconds();
+    now = std::min(now, std::numeric_limits<long long>::max() - milliseconds) + milliseconds;
 }
 
 } // namespace Fuzz

@@ -20,5 +20,6 @@ void MakeScene(Lw::HNodeClock::HClockNode &node, int clockType);
 
 /// The milliseconds of the device's clock from now on.
 void SetTime(long long utcMilliseconds);
+void AdvanceTime(int milliseconds); ///< not past the last instant
 
 } // namespace Fuzz

@@ -11,6 +11,7 @@ namespace Lw::HNodeClock {
 /// The picture in a file, its format told by its content. Null for a path that is empty or names
 /// no ordinary file (a device or a pipe could block for ever), for a file that cannot be decoded,
 /// and for a picture of more than 32767 pixels a side or 64 MiB, which is asked before decoding.
+/// Only formats are read that answer this truly: PNG, BMP, GIF, JPEG, the PBM family, XBM and XPM.
 QImage ReadImageFile(const QString &path);
 QPixmap ReadGlyphFile(const QString &path);
 

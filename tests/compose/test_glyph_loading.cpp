@@ -4,6 +4,7 @@
 #include "compose/glyph_reading.h"
 #include "lettered_glyphs.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageWriter>
@@ -28,6 +29,11 @@ private Q_SLOTS:
     void OddFiles();
     void PipeDoesNotBlock();
     void TooLargeIsNotDecoded();
+    void TextsInPicturesAreLeftOut();
+    void PicturesLargerThanTheySay_data();
+    void PicturesLargerThanTheySay();
+    void PhotographsOfManyScans_data();
+    void PhotographsOfManyScans();
     void LiveImageFollowsTheFile();
     void FilesOfLaterTimesAreRead();
 
@@ -165,6 +171,104 @@ void TestGlyphLoading::TooLargeIsNotDecoded()
     QVERIFY(ReadImageFile(write("high.png", {1, 32768})).isNull());
     QVERIFY(!ReadImageFile(write("largest.png", {4096, 4096})).isNull());
     QVERIFY(ReadImageFile(write("large.png", {4096, 4097})).isNull());
+}
+
+// A text is unpacked whatever its length, and kept twice: a small file could take gigabytes.
+void TestGlyphLoading::TextsInPicturesAreLeftOut()
+{
+    QImage image(20, 2, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    image.setPixel(3, 1, 0xffff0000);
+    QVERIFY(image.textKeys().isEmpty());
+    image.setText("packed", QString(5000, 'a'));
+    image.setText("plain", "b");
+    const QString path = m_directory.filePath("texts.png");
+    QVERIFY(image.save(path));
+    QCOMPARE(QImage(path).textKeys(), QStringList({"packed", "plain"}));
+
+    const QImage read = ReadImageFile(path);
+    QVERIFY(read.textKeys().isEmpty());
+    QCOMPARE(read.convertToFormat(QImage::Format_ARGB32).pixel(3, 1), 0xffff0000);
+    const QImage small = DecodePng(ReadSmallPng(path));
+    QVERIFY(small.textKeys().isEmpty());
+    QCOMPARE(small.size(), QSize(20, 2));
+}
+
+void TestGlyphLoading::PicturesLargerThanTheySay_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QBuffer::WriteOnly);
+    QImage image(300, 200, QImage::Format_Mono);
+    image.fill(0);
+    QVERIFY(image.save(&buffer, "png"));
+    // One entry: 16 by 16 pixels, 32 bits, the length of the picture and where it begins.
+    QByteArray icon = QByteArray::fromHex("000001000100"
+                                          "10100000"
+                                          "01002000");
+    const int length = png.size();
+    for (int shift = 0; shift < 32; shift += 8)
+        icon.append(static_cast<char>(length >> shift));
+    icon.append(QByteArray::fromHex("16000000")).append(png);
+    QTest::newRow("an icon of a picture") << icon;
+    // 5000 by 5000 pixels in two colours, of which the first and only picture covers one.
+    QTest::newRow("an animation's first frame") << QByteArray::fromHex("474946383961"
+                                                                       "88138813"
+                                                                       "800000"
+                                                                       "ff0000"
+                                                                       "0000ff"
+                                                                       "2c00000000"
+                                                                       "01000100"
+                                                                       "00"
+                                                                       "02"
+                                                                       "024401"
+                                                                       "00"
+                                                                       "3b");
+}
+
+void TestGlyphLoading::PicturesLargerThanTheySay()
+{
+    QFETCH(QByteArray, content);
+    const QString path = m_directory.filePath("larger.png");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(content);
+    file.close();
+    const QImage read = ReadImageFile(path);
+    QVERIFY2(read.isNull(), qPrintable(QString("%1 x %2").arg(read.width()).arg(read.height())));
+}
+
+void TestGlyphLoading::PhotographsOfManyScans_data()
+{
+    QTest::addColumn<int>("repetitions");
+    QTest::addColumn<bool>("isRead");
+    QTest::newRow("as they are made") << 1 << true;
+    QTest::newRow("any number of times") << 300 << false;
+}
+
+// The last scan of a picture is repeated: it refines what is there, so that nothing else changes.
+void TestGlyphLoading::PhotographsOfManyScans()
+{
+    QFETCH(int, repetitions);
+    QImage image(64, 48, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    buffer.open(QBuffer::WriteOnly);
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setProgressiveScanWrite(true);
+    QVERIFY(writer.write(image));
+    const int begin = jpeg.lastIndexOf("\xff\xda");
+    const int end = jpeg.lastIndexOf("\xff\xd9");
+    QVERIFY(begin > 0 && end > begin);
+    const QByteArray scan = jpeg.mid(begin, end - begin);
+    const QString path = m_directory.filePath("scans.png");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(jpeg.left(begin) + scan.repeated(repetitions) + jpeg.mid(end));
+    file.close();
+    QTEST(!ReadImageFile(path).isNull(), "isRead");
 }
 
 void TestGlyphLoading::LiveImageFollowsTheFile()
