@@ -17,6 +17,9 @@ namespace Lw::HNodeClock {
 
 namespace {
 
+// Of a picture within the bounds: 64 bits a pixel, uncompressed, and room for what stands between.
+constexpr qint64 kLongest = 2 * kGlyphBytes + kGlyphBytes / 8;
+
 // These tell the size of what they decode, the GIF of its first picture only. Others do not: an
 // icon names sizes of its own for the pictures in it, and a drawing can be told any.
 constexpr const char *kHonestFormats[] = {"bmp", "gif",    "jpeg", "jpg",    "pbm", "pbmraw",
@@ -83,7 +86,7 @@ QImage ReadImageFile(const QString &path)
     if (!IsOrdinaryFile(path))
         return QImage();
     QFile file(path);
-    if (!file.open(QFile::ReadOnly))
+    if (!file.open(QFile::ReadOnly) || file.size() > kLongest)
         return QImage();
     if (file.peek(sizeof kPngSignature - 1) == kPngSignature)
         return ReadPng(file);

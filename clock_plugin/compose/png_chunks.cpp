@@ -1,7 +1,5 @@
 #include "compose/png_chunks.h"
 
-#include "image_bounds.h"
-
 #include <QIODevice>
 #include <QtEndian>
 
@@ -18,8 +16,8 @@ constexpr int kHeadLength = 8;
 constexpr int kChecksumLength = 4;
 constexpr int kSignatureLength = sizeof kPngSignature - 1;
 
-// 64 bits a pixel, uncompressed, with room to spare for what stands between the pixels.
-constexpr qint64 kLongest = 2 * kGlyphBytes + kGlyphBytes / 8;
+// A PNG ends with this chunk, which is always the same.
+constexpr char kLastChunk[] = "IEND\xae\x42\x60\x82";
 
 constexpr const char *kKept[] = {"IHDR", "PLTE", "IDAT", "IEND", "tRNS",
                                  "bKGD", "sBIT", "gAMA", "cHRM", "sRGB"};
@@ -45,10 +43,10 @@ QByteArray PixelChunks(QIODevice &png)
                 return chunks;
             continue;
         }
-        if (chunks.size() + rest > kLongest)
-            return chunks;
         chunks += head;
         chunks += png.read(std::min(rest, png.bytesAvailable()));
+        if (chunks.endsWith(kLastChunk))
+            return chunks;
     }
 }
 

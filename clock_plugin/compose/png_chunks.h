@@ -13,8 +13,7 @@ inline constexpr char kPngSignature[] = "\x89PNG\r\n\x1a\n";
 
 /// A PNG without its texts, profiles and whatever else does not bear on its pixels: unpacked, these
 /// could be any number of times as long as the file. Read from where the device stands, its
-/// signature first. A file that ends early, or is longer than a picture within the bounds of
-/// glyphs can be, is cut off there, and so cannot be decoded.
+/// signature first, to the last chunk or the end.
 QByteArray PixelChunks(QIODevice &png);
 
 } // namespace Lw::HNodeClock

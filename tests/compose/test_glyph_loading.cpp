@@ -32,6 +32,8 @@ private Q_SLOTS:
     void TextsInPicturesAreLeftOut();
     void PicturesLargerThanTheySay_data();
     void PicturesLargerThanTheySay();
+    void FilesLongerThanAnyPicture_data();
+    void FilesLongerThanAnyPicture();
     void PhotographsOfManyScans_data();
     void PhotographsOfManyScans();
     void LiveImageFollowsTheFile();
@@ -237,6 +239,30 @@ void TestGlyphLoading::PicturesLargerThanTheySay()
     file.close();
     const QImage read = ReadImageFile(path);
     QVERIFY2(read.isNull(), qPrintable(QString("%1 x %2").arg(read.width()).arg(read.height())));
+}
+
+void TestGlyphLoading::FilesLongerThanAnyPicture_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<bool>("isRead");
+    for (const QByteArray format : {"png", "bmp", "jpeg"}) {
+        QTest::addRow("%s, padded", format.constData()) << format << (qint64(1) << 20) << true;
+        QTest::addRow("%s, too long", format.constData()) << format << (qint64(137) << 20) << false;
+    }
+}
+
+// What follows a picture is a hole in the file, which takes no place.
+void TestGlyphLoading::FilesLongerThanAnyPicture()
+{
+    QFETCH(QByteArray, format);
+    QFETCH(qint64, bytes);
+    QImage image(20, 10, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    const QString path = m_directory.filePath("long.png");
+    QVERIFY(image.save(path, format.constData()));
+    QVERIFY(QFile::resize(path, bytes));
+    QTEST(!ReadImageFile(path).isNull(), "isRead");
 }
 
 void TestGlyphLoading::PhotographsOfManyScans_data()
