@@ -11,6 +11,7 @@
 #include "pictureplayer.h"
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 using namespace FaultSupport;
 using namespace Lw::HNodeClock;
@@ -43,7 +44,8 @@ private:
     static rlim_t Used()
     {
         QFile file(QStringLiteral("/proc/self/statm"));
-        return file.open(QFile::ReadOnly) ? file.readAll().split(' ').first().toULongLong() * 4096
+        return file.open(QFile::ReadOnly) ? file.readAll().split(' ').first().toULongLong()
+                * static_cast<rlim_t>(sysconf(_SC_PAGESIZE))
                                           : 0;
     }
     rlimit m_old;
