@@ -49,7 +49,8 @@ QRegion TextRows::Paint(QImage &picture, const Placements &rows)
 
     QRegion changed;
     for (int i = 0; i < boxes.size(); ++i) {
-        if (before[i] != after[i])
+        // Without memory for its copy nothing is known of a box.
+        if (before[i].isNull() || before[i] != after[i])
             changed += boxes[i];
     }
     m_painted.Take(rows);

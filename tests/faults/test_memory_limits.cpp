@@ -64,6 +64,8 @@ private Q_SLOTS:
 
     void EveryRequestFailsOnce_data() { AddKinds(); }
     void EveryRequestFailsOnce();
+    void RowsOfANewDial_data();
+    void RowsOfANewDial();
     void AllRequestsFailFromOneOn_data() { AddKinds(); }
     void AllRequestsFailFromOneOn();
     void PixmapsOfElements();
@@ -109,6 +111,38 @@ void TestMemoryLimits::EveryRequestFailsOnce()
             QCOMPARE(FrameAt(drawer, kNoon + 5000), expected);
         }
         QVERIFY(requests >= 4);
+    }
+}
+
+void TestMemoryLimits::RowsOfANewDial_data()
+{
+    QTest::addColumn<bool>("allLater");
+    QTest::newRow("one fails") << false;
+    QTest::newRow("all fail from one on") << true;
+}
+
+// A row of letters as large as a frame, when noon asks for a new dial: its images are decoded
+// already.
+void TestMemoryLimits::RowsOfANewDial()
+{
+    QFETCH(bool, allLater);
+    const auto clock = FullClock(AnalogClock, {900, 400});
+    clock->Set("AnalogDateFSize", 100);
+    clock->MakeGlyphs();
+    const QImage expected = SettledFrame(clock->node, kNoon + 5000);
+    int requests = 1;
+    for (int nth = 0; nth < requests; ++nth) {
+        DrawDisplayImage drawer(&clock->node);
+        FrameAt(drawer, kNoon);
+        FrameAt(drawer, kNoon);
+        FailingMemory::Fail(kLarge, nth, allLater);
+        FrameAt(drawer, kNoon + 1000);
+        FrameAt(drawer, kNoon + 2000);
+        requests = FailingMemory::Stop();
+        QVERIFY(requests > 0);
+        FrameAt(drawer, kNoon + 5000);
+        FrameAt(drawer, kNoon + 5000);
+        QVERIFY2(FrameAt(drawer, kNoon + 5000) == expected, qPrintable(QString::number(nth)));
     }
 }
 
