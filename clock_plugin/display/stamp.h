@@ -49,6 +49,8 @@ public:
                 paint(own, m_place);
             }
             m_picture = m_picture.copy(); // without the paint engine
+            if (m_picture.isNull())
+                m_image = QSize(); // for want of memory, it may be: another time
         }
         const QTransform &moved = painter.transform();
         painter.drawImage(m_place - QPoint(qRound(moved.dx()), qRound(moved.dy())), m_picture);

@@ -66,6 +66,7 @@ private Q_SLOTS:
     void EveryRequestFailsOnce();
     void RowsOfANewDial_data();
     void RowsOfANewDial();
+    void MinuteHandOfALargeClock();
     void AllRequestsFailFromOneOn_data() { AddKinds(); }
     void AllRequestsFailFromOneOn();
     void PixmapsOfElements();
@@ -143,6 +144,26 @@ void TestMemoryLimits::RowsOfANewDial()
         FrameAt(drawer, kNoon + 5000);
         FrameAt(drawer, kNoon + 5000);
         QVERIFY2(FrameAt(drawer, kNoon + 5000) == expected, qPrintable(QString::number(nth)));
+    }
+}
+
+// The minute hand is kept as a picture for its minute; it is missed no longer than memory is.
+void TestMemoryLimits::MinuteHandOfALargeClock()
+{
+    const auto clock = FullClock(AnalogClock, {2000, 2000});
+    const qint64 minute = kNoon + 1000 + 8 * 60000; // 12:08:00
+    const QImage expected = SettledFrame(clock->node, minute + 5000);
+    int requests = 1;
+    for (int nth = 0; nth < requests; ++nth) {
+        DrawDisplayImage drawer(&clock->node);
+        FrameAt(drawer, minute - 2000);
+        FrameAt(drawer, minute - 1000);
+        FailingMemory::Fail(kLarge, nth, true);
+        FrameAt(drawer, minute);
+        requests = FailingMemory::Stop();
+        QVERIFY(requests > 0);
+        FrameAt(drawer, minute + 5000);
+        QVERIFY2(FrameAt(drawer, minute + 5000) == expected, qPrintable(QString::number(nth)));
     }
 }
 
