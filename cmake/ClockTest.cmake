@@ -11,9 +11,9 @@ if(CMAKE_CROSSCOMPILING_EMULATOR)
 endif()
 
 # clock_add_test(NAME sources... [LIBRARIES libraries...] [LABELS labels...])
-# The label "native" leaves a test out where another machine is emulated; say why beside it.
 # One Qt Test executable, run by CTest without a display, at 96 dpi, in UTC and the C locale. Its
-# reference pictures stand beside it in the source tree.
+# reference pictures stand beside it in the source tree. The label "native" leaves it out where
+# another machine is emulated; say why beside it.
 function(clock_add_test name)
     cmake_parse_arguments(arg "" "" "LIBRARIES;LABELS" ${ARGN})
     add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
@@ -25,10 +25,15 @@ function(clock_add_test name)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
+    set(environment QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 LC_ALL=C.UTF-8 TZ=UTC ${CLOCK_RUN_ENVIRONMENT})
+    if(clock_emulator)
+        list(APPEND environment CLOCK_EMULATOR=${clock_emulator})
+    endif()
     set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_FONT_DPI=96;LC_ALL=C.UTF-8;TZ=UTC;CLOCK_EMULATOR=${clock_emulator};${CLOCK_RUN_ENVIRONMENT}"
+        ENVIRONMENT "${environment}"
         TIMEOUT 300
         LABELS "${arg_LABELS}")
+    # Emulation is slow, and processes are not started without their help.
     if(TARGET emulated_processes)
         add_dependencies(${name} emulated_processes)
         set_tests_properties(${name} PROPERTIES

@@ -15,6 +15,12 @@ inline QByteArray MachineOf(const QString &program)
     return header.startsWith("\177ELF") ? header.left(6) + header.mid(18) : QByteArray();
 }
 
+/// Times that are measured in an emulator are not the program's.
+inline bool IsEmulated()
+{
+    return !qEnvironmentVariableIsEmpty("CLOCK_EMULATOR");
+}
+
 /// CLOCK_EMULATOR is the emulator and its arguments, with colons between them; unset or empty
 /// where nothing is emulated.
 inline void StartProgram(QProcess &process, const QString &program, const QStringList &arguments)
