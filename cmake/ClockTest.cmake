@@ -25,7 +25,8 @@ function(clock_add_test name)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
-    set(environment QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 LC_ALL=C.UTF-8 TZ=UTC ${CLOCK_RUN_ENVIRONMENT})
+    set(environment QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 LC_ALL=C.UTF-8 TZ=UTC
+        ${CLOCK_RUN_ENVIRONMENT})
     if(clock_emulator)
         list(APPEND environment CLOCK_EMULATOR=${clock_emulator})
     endif()
