@@ -17,7 +17,8 @@ namespace Fuzz {
 /// Ends the process, as any other fault does, where the condition does not hold.
 void Expect(bool condition, const char *what);
 
-/// A directory in memory, the process's own, removed when it ends; with a trailing separator.
+/// A directory of the process's own, with a trailing separator: in memory, or where
+/// CLOCK_FUZZ_SCRATCH says.
 QString Directory();
 
 /// Removes the files in it.
