@@ -50,8 +50,7 @@ constexpr qint64 kFurthest = Q_INT64_C(9000000000000000000);
 qint64 ReadSource()
 {
     const TimeSource source = s_source.load(std::memory_order_acquire);
-    return source ? qBound<qint64>(-kFurthest, source(), kFurthest)
-                  : SystemMilliseconds();
+    return source ? qBound<qint64>(-kFurthest, source(), kFurthest) : SystemMilliseconds();
 }
 
 // Qt 5 applies the summer time of 2037 to every later year; the C library knows better where its

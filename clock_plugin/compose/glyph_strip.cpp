@@ -2,6 +2,7 @@
 
 #include "compose/glyph_reading.h"
 #include "compose/piece_canvas.h"
+#include "compose/png_chunks.h"
 
 #include <atomic>
 
@@ -44,6 +45,7 @@ GlyphStrip GlyphStrip::OfFile(const QString &path)
     strip.m_key = NewKey();
     strip.m_encoded = png;
     strip.m_isEncoded = true;
+    strip.m_size = QSize();
     return strip;
 }
 
@@ -65,6 +67,13 @@ void GlyphStrip::DecodeNow() const
     m_encoded = QByteArray();
     m_isEncoded = false;
     Take(image);
+}
+
+void GlyphStrip::FindSize() const
+{
+    m_size = SizeOfIntactPng(m_encoded);
+    if (!m_size.isValid())
+        DecodeNow();
 }
 
 void GlyphStrip::Take(const QImage &image) const

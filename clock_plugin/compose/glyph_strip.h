@@ -2,7 +2,8 @@
 //
 // Glyph images are drawn in one colour without antialiasing: such an image is kept as its ink, one
 // bit a pixel. Any other, made by another program, is kept as a pixmap. The bytes of a file are
-// taken at once, but decoded only when they are needed: a clock shows few of its images.
+// taken at once, but decoded only when they are needed: a clock shows few of its images, and of
+// some needs no more than the size.
 #pragma once
 
 #include <QByteArray>
@@ -28,7 +29,8 @@ public:
     int Height() const { return Size().height(); }
     const QSize &Size() const
     {
-        Decode();
+        if (m_isEncoded && !m_size.isValid())
+            FindSize();
         return m_size;
     }
     /// Tells the contents of two strips apart; copies have the same.
@@ -54,6 +56,7 @@ private:
             DecodeNow();
     }
     void DecodeNow() const;
+    void FindSize() const;
     void Take(const QImage &image) const;
     bool TakeInk(const QImage &image) const;
 
@@ -61,7 +64,7 @@ private:
     // Filled by the first question.
     mutable bool m_isEncoded = false;
     mutable QByteArray m_encoded;
-    mutable QSize m_size {0, 0};
+    mutable QSize m_size {0, 0};   // invalid where nobody asked for it yet
     mutable int m_wordsPerRow = 0; // of the ink; 0 where the image is no ink
     mutable QRgb m_colour = 0;
     mutable QVector<quint32> m_ink;

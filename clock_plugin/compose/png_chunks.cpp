@@ -1,10 +1,14 @@
 #include "compose/png_chunks.h"
 
+#include "image_bounds.h"
+
 #include <QIODevice>
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
+#include <utility>
 
 namespace Lw::HNodeClock {
 
@@ -12,6 +16,7 @@ namespace {
 
 // A chunk: the length of its content, its name, the content, a checksum.
 constexpr int kNameAt = 4;
+constexpr int kNameLength = 4;
 constexpr int kHeadLength = 8;
 constexpr int kChecksumLength = 4;
 constexpr int kSignatureLength = sizeof kPngSignature - 1;
@@ -24,11 +29,80 @@ constexpr const char *kKept[] = {"IHDR", "PLTE", "IDAT", "IEND", "tRNS",
 
 bool IsKept(const char *name)
 {
-    return std::any_of(std::begin(kKept), std::end(kKept),
-                       [name](const char *kept) { return std::equal(kept, kept + kNameAt, name); });
+    return std::any_of(std::begin(kKept), std::end(kKept), [name](const char *kept) {
+        return std::equal(kept, kept + kNameLength, name);
+    });
 }
 
+// The cyclic redundancy check of ISO 3309, which PNG takes over the name and content of a chunk:
+// four bits at a time.
+constexpr quint32 RemainderOf(quint32 bits)
+{
+    for (int bit = 0; bit < 4; ++bit)
+        bits = bits >> 1 ^ ((bits & 1) != 0 ? 0xedb88320u : 0u);
+    return bits;
+}
+
+template<quint32... Bits>
+constexpr std::array<quint32, sizeof...(Bits)> Remainders(std::integer_sequence<quint32, Bits...>)
+{
+    return {RemainderOf(Bits)...};
+}
+
+constexpr std::array<quint32, 16> kRemainders =
+    Remainders(std::make_integer_sequence<quint32, 16>());
+
+quint32 Checksum(const char *bytes, qint64 count)
+{
+    quint32 sum = 0xffffffff;
+    for (qint64 i = 0; i < count; ++i) {
+        sum ^= static_cast<uchar>(bytes[i]);
+        sum = sum >> 4 ^ kRemainders[sum & 15];
+        sum = sum >> 4 ^ kRemainders[sum & 15];
+    }
+    return ~sum;
+}
+
+bool IsNamed(const char *chunk, const char *name)
+{
+    return std::equal(name, name + kNameLength, chunk + kNameAt);
+}
+
+// The content of a header of 8-bit colours with transparency: width and height, and this.
+constexpr char kAsGlyphsAre[] = {8, 6, 0, 0, 0};
+constexpr qint64 kHeaderLength = 8 + sizeof kAsGlyphsAre;
+
 } // namespace
+
+QSize SizeOfIntactPng(const QByteArray &png)
+{
+    if (!png.startsWith(kPngSignature))
+        return QSize();
+    QSize size;
+    bool hasPixels = false;
+    for (qint64 at = kSignatureLength; png.size() - at >= kHeadLength + kChecksumLength;) {
+        const char *const chunk = png.constData() + at;
+        const qint64 length = qFromBigEndian<quint32>(chunk);
+        const qint64 end = at + kHeadLength + length + kChecksumLength;
+        const bool isHeader = IsNamed(chunk, "IHDR");
+        if (end > png.size() || isHeader != (at == kSignatureLength)
+            || Checksum(chunk + kNameAt, kNameLength + length)
+                != qFromBigEndian<quint32>(chunk + kHeadLength + length))
+            return QSize();
+        if (isHeader) {
+            const char *const content = chunk + kHeadLength;
+            if (length != kHeaderLength
+                || !std::equal(std::begin(kAsGlyphsAre), std::end(kAsGlyphsAre), content + 8))
+                return QSize();
+            size = QSize(qFromBigEndian<qint32>(content), qFromBigEndian<qint32>(content + 4));
+        }
+        if (IsNamed(chunk, "IEND"))
+            return hasPixels && WithinBounds(size, kGlyphBytes) ? size : QSize();
+        hasPixels = hasPixels || IsNamed(chunk, "IDAT");
+        at = end;
+    }
+    return QSize();
+}
 
 QByteArray PixelChunks(QIODevice &png)
 {

@@ -1,7 +1,8 @@
-// The part of a PNG that its pixels are made from.
+// What a PNG is made of: the part that its pixels are made from, and its size.
 #pragma once
 
 #include <QByteArray>
+#include <QSize>
 
 QT_BEGIN_NAMESPACE
 class QIODevice;
@@ -15,5 +16,10 @@ inline constexpr char kPngSignature[] = "\x89PNG\r\n\x1a\n";
 /// could be any number of times as long as the file. Read from where the device stands, its
 /// signature first, to the last chunk or the end.
 QByteArray PixelChunks(QIODevice &png);
+
+/// The size of the picture in a PNG of 8-bit colours with transparency, told without decoding it.
+/// An invalid size for any other picture, and where a checksum is wrong or a chunk is missing:
+/// whether such a file is a picture at all only shows when it is decoded.
+QSize SizeOfIntactPng(const QByteArray &png);
 
 } // namespace Lw::HNodeClock

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void PixmapIsTheImage();
     void FileIsTakenAsItIs();
     void LargeFileIsTakenToo();
+    void PixelsThatAreNotThere();
     void KeysTellContentsApart();
 };
 
@@ -209,6 +210,36 @@ void TestGlyphStrip::LargeFileIsTakenToo()
     const GlyphStrip strip = GlyphStrip::OfFile(path);
     QVERIFY(QFile::remove(path));
     QCOMPARE(strip.Pixmap().toImage().convertToFormat(QImage::Format_ARGB32), noise);
+}
+
+// The header and the checksums promise more than the pixels hold: the size counts until the pixels
+// are asked for, and nothing is drawn.
+void TestGlyphStrip::PixelsThatAreNotThere()
+{
+    const QTemporaryDir directory;
+    const auto saved = [&directory](const QSize &size) {
+        QFile file(directory.filePath("saved.png"));
+        return Inked(size, 0xff112233, 14).save(file.fileName()) && file.open(QFile::ReadOnly)
+            ? file.readAll()
+            : QByteArray();
+    };
+    const QByteArray wide = saved({50, 9});
+    const QByteArray narrow = saved({20, 9});
+    constexpr int kHead = 33; // signature and header
+    QFile spliced(directory.filePath("spliced.png"));
+    QVERIFY(spliced.open(QFile::WriteOnly));
+    spliced.write(wide.left(kHead) + narrow.mid(kHead));
+    spliced.close();
+
+    const GlyphStrip strip = GlyphStrip::OfFile(spliced.fileName());
+    QCOMPARE(strip.Size(), QSize(50, 9));
+    Element element(50, 9);
+    element.Add(strip, 0, 50);
+    QImage frame = Frame();
+    PieceCanvas(frame).Draw(element, QPoint(3, 3), frame.rect());
+    QCOMPARE(frame, Frame());
+    QVERIFY(strip.IsNull());
+    QVERIFY(strip.Pixmap().isNull());
 }
 
 void TestGlyphStrip::KeysTellContentsApart()

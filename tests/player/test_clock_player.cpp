@@ -514,8 +514,8 @@ void TestClockPlayer::SignalEndsTheFrames()
     QProcess process;
     process.setProcessEnvironment(DisplaylessEnvironment());
     StartProgram(process, QStringLiteral(PLAYER),
-                  {"--plugin-dir", kPanels, "--output", Path("out"), "--frames", "1000000",
-                   WriteProgram(Area(0, "<panel/>"))});
+                 {"--plugin-dir", kPanels, "--output", Path("out"), "--frames", "1000000",
+                  WriteProgram(Area(0, "<panel/>"))});
     QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Path("out/frame_0000002.png")), 20000);
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGINT), 0);
     QVERIFY(process.waitForFinished(20000));
