@@ -147,8 +147,8 @@ void DrawDisplayImage::DrawPixmapClock()
 
     FrameMemory::Painting painting(d->pictureFrames, d->frame);
     Begin(d->painter, d->frame);
-    if (!hasBackground)
-        Paint(d->painter, hour);
+    if (!hasBackground || !d->pictureHour.Lies(background, hour.degrees))
+        painting.Covers(Paint(d->painter, hour));
     for (const TurnedPicture &part : others)
         painting.Covers(Paint(d->painter, part));
     d->painter.end();

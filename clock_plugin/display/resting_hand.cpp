@@ -11,7 +11,7 @@ bool RestingHand::Lies(const QImage &background, double degrees) const
 
 QRegion RestingHand::TakeUp(QImage &background) const
 {
-    if (m_backgroundKey == 0 || background.cacheKey() != m_backgroundKey || m_under.isNull())
+    if (m_backgroundKey == 0 || background.cacheKey() != m_backgroundKey)
         return QRegion();
     const int pixel = background.depth() / 8;
     const auto bytes = static_cast<std::size_t>(m_place.width() * pixel);

@@ -14,13 +14,17 @@ public:
     bool Lies(const QImage &background, double degrees) const;
 
     /// Takes up the hand where it lies on this background and has paint(QImage &) paint it anew,
-    /// turned this far, within a box. Returns where the background changed.
+    /// turned this far, within a box. Returns where the background changed. Where there is no memory
+    /// for what lies under the hand it lies nowhere.
     template<typename Paint>
     QRegion Lay(QImage &background, double degrees, const QRect &box, Paint paint)
     {
         QRegion changed = TakeUp(background);
+        m_backgroundKey = 0;
         m_place = box & background.rect();
-        m_under = background.copy(m_place);
+        m_under = m_place.isEmpty() ? QImage() : background.copy(m_place);
+        if (m_under.isNull() && !m_place.isEmpty())
+            return changed;
         paint(background);
         m_degrees = degrees;
         m_backgroundKey = background.cacheKey();

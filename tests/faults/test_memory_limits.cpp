@@ -67,6 +67,7 @@ private Q_SLOTS:
     void RowsOfANewDial_data();
     void RowsOfANewDial();
     void MinuteHandOfALargeClock();
+    void HourHandOfALargePictureClock();
     void AllRequestsFailFromOneOn_data() { AddKinds(); }
     void AllRequestsFailFromOneOn();
     void PixmapsOfElements();
@@ -164,6 +165,30 @@ void TestMemoryLimits::MinuteHandOfALargeClock()
         QVERIFY(requests > 0);
         FrameAt(drawer, minute + 5000);
         QVERIFY2(FrameAt(drawer, minute + 5000) == expected, qPrintable(QString::number(nth)));
+    }
+}
+
+// The hour hand lies on the background for its minute; where there was no memory for what lies under
+// it, nothing of it stays behind when it moves.
+void TestMemoryLimits::HourHandOfALargePictureClock()
+{
+    const auto clock = FullClock(PictureClock, {2000, 2000});
+    const qint64 minute = kNoon + 1000 + 90 * 60000; // 13:30:00
+    const QImage then = SettledFrame(clock->node, minute);
+    const QImage later = SettledFrame(clock->node, minute + 20 * 60000);
+    int requests = 1;
+    for (int nth = 0; nth < requests; ++nth) {
+        DrawDisplayImage drawer(&clock->node);
+        FrameAt(drawer, minute - 2000);
+        FrameAt(drawer, minute - 1000);
+        FailingMemory::Fail(kLarge, nth, true);
+        FrameAt(drawer, minute);
+        requests = FailingMemory::Stop();
+        QVERIFY(requests > 0);
+        FrameAt(drawer, minute);
+        QVERIFY2(FrameAt(drawer, minute) == then, qPrintable(QString::number(nth)));
+        FrameAt(drawer, minute + 20 * 60000);
+        QVERIFY2(FrameAt(drawer, minute + 20 * 60000) == later, qPrintable(QString::number(nth)));
     }
 }
 
