@@ -168,8 +168,8 @@ void TestMemoryLimits::MinuteHandOfALargeClock()
     }
 }
 
-// The hour hand lies on the background for its minute; where there was no memory for what lies under
-// it, nothing of it stays behind when it moves.
+// The hour hand lies on the background for its minute; where there was no memory for what lies
+// under it, nothing of it stays behind when it moves.
 void TestMemoryLimits::HourHandOfALargePictureClock()
 {
     const auto clock = FullClock(PictureClock, {2000, 2000});
