@@ -6,6 +6,21 @@
 set(CLOCK_INSTALL_ROOT lib/clock-player)
 set(CLOCK_INSTALL_DOC share/doc/clock-player)
 
+# clock_install_compressed(FILE FOLDER NAME)
+# NAME.gz in the folder, as Debian wants changelogs and manual pages: compressed most, without a time
+# stamp.
+function(clock_install_compressed file folder name)
+    find_program(CLOCK_GZIP gzip REQUIRED)
+    set(compressed ${PROJECT_BINARY_DIR}/packaging/${name}.gz)
+    add_custom_command(OUTPUT ${compressed}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/packaging
+        COMMAND ${CLOCK_GZIP} -9nc ${file} > ${compressed}
+        DEPENDS ${file}
+        VERBATIM)
+    add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
+    install(FILES ${compressed} DESTINATION ${folder} COMPONENT runtime)
+endfunction()
+
 # clock_install_link(LINK TO COMPONENT)
 # A symbolic link, both paths relative: LINK to the prefix, TO to the link's own folder.
 function(clock_install_link link to component)

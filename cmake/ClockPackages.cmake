@@ -49,20 +49,6 @@ them.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "clock-player (= ${full_version}), qtbase5-dev (>= 5.10)")
 
-# clock_install_compressed(FILE FOLDER NAME)
-# NAME.gz in the folder, as Debian wants its changelogs: compressed most, without a time stamp.
-function(clock_install_compressed file folder name)
-    find_program(CLOCK_GZIP gzip REQUIRED)
-    set(compressed ${PROJECT_BINARY_DIR}/packaging/${name}.gz)
-    add_custom_command(OUTPUT ${compressed}
-        COMMAND ${CMAKE_COMMAND} -E make_directory ${PROJECT_BINARY_DIR}/packaging
-        COMMAND ${CLOCK_GZIP} -9nc ${file} > ${compressed}
-        DEPENDS ${file}
-        VERBATIM)
-    add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
-    install(FILES ${compressed} DESTINATION ${folder} COMPONENT runtime)
-endfunction()
-
 clock_install_compressed(
     ${PROJECT_SOURCE_DIR}/packaging/debian/changelog ${CLOCK_INSTALL_DOC} changelog.Debian)
 clock_install_compressed(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${CLOCK_INSTALL_DOC} changelog)

@@ -35,7 +35,7 @@ install_tree() {
     mv "$work/first" "$prefix"
     for path in bin/clock_player lib/clock-player/image/ClockType/picbutton1.png \
         lib/clock-player/plugins/libclock_plugin.so.1 include/clock-player/hnode.h \
-        share/doc/clock-player/examples/station.xml share/man/man1/clock_player.1; do
+        share/doc/clock-player/examples/station.xml share/man/man1/clock_player.1.gz; do
         [ -f "$prefix/$path" ] || fail "not installed: $path"
     done
     [ "$(readlink "$prefix/bin/clock_player")" = ../lib/clock-player/bin/clock_player ] ||
