@@ -55,6 +55,7 @@ private slots:
     void expressibleZones_data();
     void expressibleZones();
     void publishedEndIsAnHourLate();
+    void rulesThatChange();
 };
 
 void TestDaylightSaving::expressibleZones_data()
@@ -132,6 +133,24 @@ void TestDaylightSaving::publishedEndIsAnHourLate()
             && time.date().day() > 24 && time.time().hour() == 1;
         QCOMPARE(clock.OffsetAt(utc) - TrueOffsetAt(reference, utc), late ? 3600 : 0);
     }
+}
+
+// Texts of one length, one after the other, by the same object.
+void TestDaylightSaving::rulesThatChange()
+{
+    const QString march = QStringLiteral("3.Last.7.02:00:00");
+    const QString august = QStringLiteral("8.Last.7.02:00:00");
+    const QString november = QStringLiteral("11.Last.7.02:00:00");
+    const QString october = QStringLiteral("10.Last.7.02:00:00");
+    const qint64 july = QDateTime(QDate(2024, 7, 1), QTime(12, 0), Qt::UTC).toMSecsSinceEpoch();
+    const qint64 early = QDateTime(QDate(2024, 11, 1), QTime(12, 0), Qt::UTC).toMSecsSinceEpoch();
+    DaylightSaving saving;
+    QCOMPARE(saving.ShiftSeconds(march, october, july), 3600);
+    QCOMPARE(saving.ShiftSeconds(august, october, july), 0);
+    QCOMPARE(saving.ShiftSeconds(march, october, july), 3600);
+    QCOMPARE(saving.ShiftSeconds(march, october, early), 0);
+    QCOMPARE(saving.ShiftSeconds(march, november, early), 3600);
+    QCOMPARE(saving.ShiftSeconds(march, october, early), 0);
 }
 
 QTEST_GUILESS_MAIN(TestDaylightSaving)

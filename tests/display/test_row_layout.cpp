@@ -170,6 +170,8 @@ void TestRowLayout::Analog_data()
     // Upright: half the height, a quarter of the width up and down. Wide: quarters of the height.
     row("d", QSize(102, 203), 0, 0, "t71 d120 w119 l118");
     row("d", QSize(300, 103), 0, 0, "t20 d69 w68 l67");
+    // A square is wide: quarters of 6 are 1, half less a quarter would be 2.
+    row("d", QSize(6, 6), 0, 0, "t-4 d-3 w-4 l-5");
 }
 
 void TestRowLayout::Analog()
