@@ -56,6 +56,7 @@ private slots:
     void expressibleZones();
     void publishedEndIsAnHourLate();
     void rulesThatChange();
+    void periodThatEndsAtNewYear();
 };
 
 void TestDaylightSaving::expressibleZones_data()
@@ -151,6 +152,27 @@ void TestDaylightSaving::rulesThatChange()
     QCOMPARE(saving.ShiftSeconds(march, october, early), 0);
     QCOMPARE(saving.ShiftSeconds(march, november, early), 3600);
     QCOMPARE(saving.ShiftSeconds(march, october, early), 0);
+}
+
+// The end of each year counts from that year's first millisecond, whatever was asked before. The
+// first Sunday of January was the 1st in 2023, the 7th in 2024; that of October the 2nd in 2022.
+void TestDaylightSaving::periodThatEndsAtNewYear()
+{
+    const QString october = QStringLiteral("10.1.7.00:00:00");
+    const QString january = QStringLiteral("1.1.7.00:00:00");
+    const auto at = [](int year, int month, int day) {
+        return QDateTime(QDate(year, month, day), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
+    };
+    DaylightSaving saving;
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2022, 10, 2) - 1), 0);
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2022, 10, 2)), 3600);
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2023, 1, 1) - 1), 3600);
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2023, 1, 1)), 0);
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2024, 1, 1)), 3600);
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2024, 1, 7) - 1), 3600);
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2024, 1, 7)), 0);
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2023, 1, 1) - 1), 3600);
+    QCOMPARE(saving.ShiftSeconds(october, january, at(2023, 1, 1)), 0);
 }
 
 QTEST_GUILESS_MAIN(TestDaylightSaving)
