@@ -303,7 +303,7 @@ void TestWindow::QuitKeys()
     const auto player = Play(kPanel, {"--plugin-dir", kPanels});
     QVERIFY(player->IsOpen());
     player->Press(key);
-    QCOMPARE(player->Finish(), 0);
+    QVERIFY2(player->Finish() == 0, qPrintable(player->Errors()));
     QCOMPARE(player->Errors(), QString());
 }
 
@@ -366,7 +366,7 @@ void TestWindow::StatsOnDemandAndAtTheEnd()
     player->Signal(SIGUSR1);
     QTRY_COMPARE(player->Errors().count("lateness ms: "), 2);
     player->Press("q");
-    QCOMPARE(player->Finish(), 0);
+    QVERIFY2(player->Finish() == 0, qPrintable(player->Errors()));
     const QString errors = player->Errors();
     const QRegularExpression report(
         "clock_player: frames: (\\d+), missed seconds: (\\d+), clock steps: (\\d+)\n"
@@ -436,7 +436,7 @@ void TestWindow::SteppedSystemClock()
         QVERIFY(isStepped());
     }
     player.Press("q");
-    QCOMPARE(player.Finish(), 0);
+    QVERIFY2(player.Finish() == 0, qPrintable(player.Errors()));
     const QString errors = player.Errors();
     QVERIFY2(errors.contains(QStringLiteral("clock steps: %1\n").arg(steps.size())),
              qPrintable(errors));

@@ -42,6 +42,9 @@ inline ProcessRun RunProcess(const QString &program, const QStringList &argument
     run.crashed = process.exitStatus() == QProcess::CrashExit;
     run.output = QString::fromLocal8Bit(process.readAllStandardOutput());
     run.errors = QString::fromLocal8Bit(process.readAllStandardError());
+    // No program of the tree means to end so: the log of the test has to tell why.
+    if (run.crashed || run.exitCode > 3)
+        qWarning("%s ended with %d: %s", qPrintable(program), run.exitCode, qPrintable(run.errors));
     return run;
 }
 
