@@ -44,6 +44,8 @@ bool Antialiasing()
 
 void DrawDisplayImage::SetHandSize(int size)
 {
+    if (!d->node)
+        return;
     const HandTriangles triangles = TrianglesFor(size);
     std::copy(triangles.hour.begin(), triangles.hour.end(), hourHand);
     std::copy(triangles.minute.begin(), triangles.minute.end(), minuteHand);
@@ -62,11 +64,16 @@ void DrawDisplayImage::DrawAnalogClock()
         d->dialCache = d->NewImage(size, GetColorKey());
         DrawAnalogClockDial();
         DrawAnalogClock_AMPM();
-        d->dialCache =
-            d->dialCache.copy(); // leaves the paint engine, which takes its memory, behind
+        // A copy leaves the paint engine, which takes its memory, behind.
+        const QImage lean = d->dialCache.copy();
+        if (!lean.isNull())
+            d->dialCache = lean;
         d->dialDate = LocalDate();
     }
-    d->dialFrames.Restore(d->frame, d->dialCache);
+    if (!d->dialCache.isNull())
+        d->dialFrames.Restore(d->frame, d->dialCache);
+    else if (!d->frame.isNull())
+        d->frame.fill(GetColorKey());
     DrawAnalogClockPoint();
     DrawAnalogText();
 }

@@ -51,8 +51,8 @@ public:
     int Number(Attribute attribute) { return node->GetAttributeToInt(Key(attribute)); }
 
     QPointer<HClockNode> node;
-    QPainter painter;
     DrawClockClassifyImage composer;
+    QPainter painter; // goes before the composer
 
     QDateTime dateTime; ///< the displayed reading
     int year = 0;

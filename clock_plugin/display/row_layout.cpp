@@ -175,10 +175,10 @@ void LayOutAnalogRows(int areaWidth, int areaHeight, int space, int swap, const 
     }
 }
 
-int LineStart(int areaWidth, int space, long long widths, int count)
+long long LineStart(int areaWidth, int space, long long widths, int count)
 {
     const long long total = widths + static_cast<long long>(space) * (count - 1);
-    return ClampPosition(areaWidth / 2 - total / 2);
+    return areaWidth / 2 - total / 2;
 }
 
 } // namespace Lw::HNodeClock

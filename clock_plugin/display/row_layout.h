@@ -46,8 +46,9 @@ void LayOutAnalogRows(int areaWidth, int areaHeight, int space, int swap, const 
                       const Rows &heights, Rows &positions);
 
 /// The left edge of the first element on one line, given the sum of the widths of the elements
-/// that count and their number.
-int LineStart(int areaWidth, int space, long long widths, int count);
+/// that count and their number. However far outside it lies, an element in the middle of others may
+/// lie within the area: positions are clamped one by one.
+long long LineStart(int areaWidth, int space, long long widths, int count);
 
 /// A position plus distances, clamped to where nothing is drawn any more.
 int ClampPosition(long long position);

@@ -5,6 +5,8 @@
 
 #include "display/draw_display_image.h"
 
+#include <array>
+
 #include <QtTest>
 
 using namespace Lw::HNodeClock;
@@ -502,7 +504,10 @@ void TestAnalogFrames::NodeGone()
     clock->MakeGlyphs();
     DrawDisplayImage drawer(&clock->node);
     const QImage frame = drawer.DrawClockDisplayImage();
+    const std::array<QPoint, 3> tips = {hourHand[2], minuteHand[2], secondHand[2]};
     clock.reset();
+    drawer.SetHandSize(600);
+    QCOMPARE((std::array<QPoint, 3> {hourHand[2], minuteHand[2], secondHand[2]}), tips);
     drawer.GetAngDisplayArea();
     drawer.DrawAnalogClock();
     drawer.DrawAnalogClockDial();

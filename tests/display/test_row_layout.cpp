@@ -209,14 +209,14 @@ void TestRowLayout::Line_data()
     QTest::addColumn<int>("space");
     QTest::addColumn<qlonglong>("widths");
     QTest::addColumn<int>("count");
-    QTest::addColumn<int>("start");
-    QTest::newRow("three with gaps") << 200 << 5 << 100LL << 3 << 45;
-    QTest::newRow("odd total") << 200 << 5 << 101LL << 3 << 45;
-    QTest::newRow("one") << 201 << 5 << 30LL << 1 << 85;
-    QTest::newRow("none") << 200 << 5 << 0LL << 0 << 102;
-    QTest::newRow("wider than the area") << 100 << 0 << 151LL << 1 << -25;
-    QTest::newRow("negative total") << 100 << -60 << 31LL << 2 << 64;
-    QTest::newRow("huge") << 100 << INT_MAX << 0LL << 5 << -(1 << 24);
+    QTest::addColumn<qlonglong>("start");
+    QTest::newRow("three with gaps") << 200 << 5 << 100LL << 3 << 45LL;
+    QTest::newRow("odd total") << 200 << 5 << 101LL << 3 << 45LL;
+    QTest::newRow("one") << 201 << 5 << 30LL << 1 << 85LL;
+    QTest::newRow("none") << 200 << 5 << 0LL << 0 << 102LL;
+    QTest::newRow("wider than the area") << 100 << 0 << 151LL << 1 << -25LL;
+    QTest::newRow("negative total") << 100 << -60 << 31LL << 2 << 64LL;
+    QTest::newRow("huge") << 100 << INT_MAX << 0LL << 5 << -4294967244LL;
 }
 
 void TestRowLayout::Line()
@@ -225,7 +225,7 @@ void TestRowLayout::Line()
     QFETCH(int, space);
     QFETCH(qlonglong, widths);
     QFETCH(int, count);
-    QFETCH(int, start);
+    QFETCH(qlonglong, start);
     QCOMPARE(LineStart(area, space, widths, count), start);
 }
 

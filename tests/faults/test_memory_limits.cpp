@@ -68,6 +68,7 @@ private Q_SLOTS:
     void RowsOfANewDial();
     void MinuteHandOfALargeClock();
     void HourHandOfALargePictureClock();
+    void HandsWithoutADial();
     void AllRequestsFailFromOneOn_data() { AddKinds(); }
     void AllRequestsFailFromOneOn();
     void PixmapsOfElements();
@@ -190,6 +191,44 @@ void TestMemoryLimits::HourHandOfALargePictureClock()
         FrameAt(drawer, minute + 20 * 60000);
         QVERIFY2(FrameAt(drawer, minute + 20 * 60000) == later, qPrintable(QString::number(nth)));
     }
+}
+
+// At noon there is no memory for a new dial, while the frames are there: each second has its own
+// hands and nobody else's.
+void TestMemoryLimits::HandsWithoutADial()
+{
+    const auto clock = FullClock(AnalogClock, kArea);
+    clock->Set("SecondHandColor", 0x12fe12);
+    const auto secondHandPixels = [](const QImage &frame) {
+        int count = 0;
+        for (int y = 0; y < frame.height(); ++y) {
+            for (int x = 0; x < frame.width(); ++x)
+                count += frame.pixel(x, y) == qRgb(0x12, 0xfe, 0x12) ? 1 : 0;
+        }
+        return count;
+    };
+    const qint64 noon = kNoon + 1000;
+    QList<int> most;
+    for (int second = 0; second < 20; ++second)
+        most.append(secondHandPixels(SettledFrame(clock->node, noon + 1000 * second)));
+    QVERIFY2(most.first() > 50, qPrintable(QString::number(most.first())));
+
+    DrawDisplayImage drawer(&clock->node);
+    for (int second = 1; second <= 3; ++second)
+        FrameAt(drawer, noon - 1000 * second);
+    FailingMemory::Fail(kLarge, 0, true);
+    QList<int> shown;
+    for (int second = 0; second < 20; ++second)
+        shown.append(secondHandPixels(FrameAt(drawer, noon + 1000 * second)));
+    const int requests = FailingMemory::Stop();
+    QVERIFY(requests > 0);
+    for (int second = 0; second < 20; ++second) {
+        QVERIFY2(shown.at(second) > 0 && shown.at(second) <= most.at(second),
+                 qPrintable(QString::number(second)));
+    }
+    FrameAt(drawer, noon + 5000);
+    FrameAt(drawer, noon + 5000);
+    QCOMPARE(FrameAt(drawer, noon + 5000), SettledFrame(clock->node, noon + 5000));
 }
 
 void TestMemoryLimits::AllRequestsFailFromOneOn()

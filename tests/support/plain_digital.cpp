@@ -267,14 +267,14 @@ QImage PlainDigitalClock::Frame(const Shown &shown)
     if (Number("DigitalDisplayMode") != 0) {
         if (swap == 0)
             exchangeDateAndWeek();
-        int total = space * (parts.size() - 1);
+        qint64 total = qint64(space) * (parts.size() - 1);
         for (const Part &part : qAsConst(parts))
             total += part.pixmap.width();
-        int x = size.width() / 2 - total / 2;
+        qint64 x = size.width() / 2 - total / 2;
         for (const Part &part : qAsConst(parts)) {
             if (part.flag != 1)
                 continue;
-            painter.drawPixmap(x, middle - part.pixmap.height() / 2, part.pixmap);
+            painter.drawPixmap(int(x), middle - part.pixmap.height() / 2, part.pixmap);
             x += part.pixmap.width() + space;
         }
         return frame;
