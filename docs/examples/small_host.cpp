@@ -8,28 +8,38 @@
 #include <QDomDocument>
 #include <QGuiApplication>
 
+#include <cstdio>
 #include <memory>
+
+int Fail(const char *reason)
+{
+    std::fprintf(stderr, "small_host: %s\n", reason);
+    return 1;
+}
 
 int main(int argc, char **argv)
 {
-    QGuiApplication application(argc, argv); // fonts and images need it
     if (argc != 4)
-        qFatal("usage: small_host PLUGIN.so GLYPH-DIRECTORY FRAME-DIRECTORY");
-    Lw::HAppConfig::SetClockOutputPath(argv[2]);
+        return Fail("usage: small_host PLUGIN.so GLYPH-DIRECTORY FRAME-DIRECTORY");
+    qputenv("QT_FONT_DPI", "96");            // a point is as many pixels on every display
+    QGuiApplication application(argc, argv); // fonts and images need it
+    Lw::HAppConfig::SetClockOutputPath(QString::fromLocal8Bit(argv[2]));
     Lw::HAppConfig::SetRenderImageFormat(QImage::Format_ARGB32);
 
-    if (!Lw::HPluginManager::instance()->LoadFile(argv[1]))
-        qFatal("%s", qPrintable(Lw::HPluginManager::instance()->Refusals().join("\n")));
+    auto *const plugins = Lw::HPluginManager::instance();
+    if (!plugins->LoadFile(QString::fromLocal8Bit(argv[1])))
+        return Fail(qPrintable(plugins->Refusals().join("\n")));
     QDomDocument document;
     document.setContent(QStringLiteral("<clock type=\"digital\" timezone=\"+01:00\"/>"));
     QDomElement element = document.documentElement();
-    Lw::INodePlugin *const plugin = Lw::HPluginManager::instance()->PluginFor(element);
-
-    const std::unique_ptr<Lw::HNode> node(plugin->Create());
-    QList<Lw::FileInfo> files;
+    Lw::INodePlugin *const plugin = plugins->PluginFor(element);
+    const std::unique_ptr<Lw::HNode> node(plugin ? plugin->Create() : nullptr);
+    if (!node)
+        return Fail("no plugin claims the element");
     node->InitData(); // the defaults of what the element does not mention
+    QList<Lw::FileInfo> files;
     if (!node->UpdateNode(element, files))
-        qFatal("the plugin cannot read the element");
+        return Fail("the plugin cannot read the element");
     node->SetSize({256, 96});
     node->NodeAlready(0); // makes the glyph images
 
@@ -40,8 +50,10 @@ int main(int argc, char **argv)
 
     Lw::pictureplayer *const player = Lw::pictureplayer::ForIdentifier(kPlayIdentifier);
     int count = 0;
+    bool saved = true;
     const auto show = [&](const QImage &frame) {
-        frame.save(QStringLiteral("%1/frame_%2.png").arg(argv[3]).arg(++count));
+        const QString name = QStringLiteral("/frame_%1.png").arg(++count);
+        saved = frame.save(QString::fromLocal8Bit(argv[3]) + name) && saved;
         if (count == 3)
             application.quit();
     };
@@ -49,5 +61,5 @@ int main(int argc, char **argv)
     QObject::connect(player, &Lw::pictureplayer::ImageUpdated, show);
     application.exec();
     render->Remove(); // before it is deleted
-    return 0;
+    return saved ? 0 : Fail("a frame could not be written");
 }
