@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -29,6 +30,22 @@ QStringList Blocks(const QString &document, const QString &language)
     for (auto match = form.globalMatch(document); match.hasNext();)
         blocks.append(match.next().captured(1));
     return blocks;
+}
+
+// The words that stand as code in documents: in fenced blocks and between backquotes.
+QSet<QString> CodeWords(const QStringList &documents)
+{
+    const QRegularExpression code("```.*?```|`[^`]+`",
+                                  QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpression word("[A-Za-z]+");
+    QSet<QString> words;
+    for (const QString &document : documents) {
+        for (auto part = code.globalMatch(document); part.hasNext();) {
+            for (auto match = word.globalMatch(part.next().captured()); match.hasNext();)
+                words.insert(match.next().captured());
+        }
+    }
+    return words;
 }
 
 // The rows of tables, by their cells, that have a zone of the system in the second.
@@ -75,9 +92,13 @@ class TestDocuments : public QObject
 private slots:
     void exampleIsInTheDocument();
     void exampleRuns();
+    void exampleDrawsTheSameEverywhere();
+    void exampleSaysWhatIsWrong_data();
     void exampleSaysWhatIsWrong();
     void programsAreSound_data();
     void programsAreSound();
+    void importedNamesAreDescribed_data();
+    void importedNamesAreDescribed();
     void zoneTables_data();
     void zoneTables();
     void linksLeadSomewhere_data();
@@ -113,15 +134,50 @@ void TestDocuments::exampleRuns()
     QVERIFY(shown[0] != shown[1] && shown[1] != shown[2]);
 }
 
+// Neither what the platform takes for a point nor the environment's language changes its texts.
+void TestDocuments::exampleDrawsTheSameEverywhere()
+{
+    const auto images = [](const QString &dotsPerInch, const QString &locale) {
+        const QTemporaryDir glyphs;
+        const QTemporaryDir frames;
+        QProcessEnvironment environment = DisplaylessEnvironment();
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        environment.insert("QT_FONT_DPI", dotsPerInch);
+        environment.insert("LC_ALL", locale);
+        RunProcess(EXAMPLE, {CLOCK_PLUGIN_FILE, glyphs.path(), frames.path()}, environment);
+        QVector<QByteArray> contents;
+        for (const QFileInfo &file : QDir(glyphs.path()).entryInfoList({"digital_*.png"}))
+            contents.append(ReadText(file.filePath()));
+        std::sort(contents.begin(), contents.end()); // clocks name their files differently
+        return contents;
+    };
+    const QVector<QByteArray> expected = images("96", "C.UTF-8");
+    QVERIFY(expected.size() > 30);
+    QVERIFY(images("120", "fa_IR.UTF-8") == expected);
+}
+
+void TestDocuments::exampleSaysWhatIsWrong_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("no arguments") << QStringList() << "usage: small_host PLUGIN.so";
+    QTest::newRow("no plugin") << QStringList {"/nonexistent.so", ".", "."} << "no such file";
+    QTest::newRow("no such directory")
+        << QStringList {CLOCK_PLUGIN_FILE, ".", "/nonexistent"} << "a frame could not be written";
+}
+
 void TestDocuments::exampleSaysWhatIsWrong()
 {
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, reason);
     QProcessEnvironment environment = DisplaylessEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir folder;
-    const ProcessRun run =
-        RunProcess(EXAMPLE, {"/nonexistent.so", folder.path(), folder.path()}, environment);
-    QVERIFY(run.exitCode != 0);
-    QVERIFY2(run.errors.contains("no such file"), qPrintable(run.errors));
+    arguments.replaceInStrings(QRegularExpression("^\\.$"), folder.path());
+    const ProcessRun run = RunProcess(EXAMPLE, arguments, environment);
+    QVERIFY(!run.crashed);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains(reason), qPrintable(run.errors));
 }
 
 void TestDocuments::programsAreSound_data()
@@ -151,6 +207,30 @@ void TestDocuments::programsAreSound()
     for (const char *row : {"date", "week", "time"})
         warnings = Without(warnings, QStringLiteral("\"value\" of <%1> is not read").arg(row));
     QCOMPARE(warnings, QStringList());
+}
+
+void TestDocuments::importedNamesAreDescribed_data()
+{
+    QTest::addColumn<QString>("name");
+    const QString tables =
+        Document("clock_plugin/clock_sdk_tables.h")
+            .remove(QRegularExpression("//.*$", QRegularExpression::MultilineOption));
+    QStringList names;
+    const QRegularExpression literal("\"([A-Za-z]+)\"");
+    for (auto match = literal.globalMatch(tables); match.hasNext();)
+        names.append(match.next().captured(1));
+    names.removeDuplicates();
+    QVERIFY(names.size() > 40);
+    QVERIFY(names.contains("clockCom") && names.contains("timeMode"));
+    for (const QString &name : qAsConst(names))
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+// Every element and attribute that a clock reads or writes.
+void TestDocuments::importedNamesAreDescribed()
+{
+    QFETCH(QString, name);
+    QVERIFY(CodeWords({Document("docs/programs.md"), Document("docs/sdk.md")}).contains(name));
 }
 
 void TestDocuments::zoneTables_data()
