@@ -19,7 +19,7 @@ int Fail(const char *reason)
 
 int main(int argc, char **argv)
 {
-    if (argc != 4)
+    if (argc < 4)
         return Fail("usage: small_host PLUGIN.so GLYPH-DIRECTORY FRAME-DIRECTORY");
     qputenv("QT_FONT_DPI", "96");            // a point is as many pixels on every display
     QGuiApplication application(argc, argv); // fonts and images need it
