@@ -125,9 +125,10 @@ QString HMD5::GeneratorFile(QString path)
     const QFileInfo old(path);
     const QString renamed =
         old.absolutePath() + QLatin1Char('/') + digest + QLatin1Char('.') + old.suffix();
-    // A file of that name is never replaced, so that one reached by another spelling of its own
-    // path is not lost.
-    if (renamed != path)
+    // What stands under that name is never replaced, so that a file reached by another spelling of
+    // its own path is not lost. Qt takes a link that leads nowhere for no file, and then writes
+    // where it leads.
+    if (renamed != path && !QFileInfo(renamed).isSymLink())
         file.rename(renamed);
     return renamed;
 }

@@ -305,6 +305,18 @@ private Q_SLOTS:
         QCOMPARE(Content(target), there);
     }
 
+    // What the link names is outside, and would come to be by writing through it.
+    void targetIsADanglingLink()
+    {
+        const QTemporaryDir outside;
+        QVERIFY(QFile::link(outside.filePath("new"), In(kAbcDigest + ".png")));
+        const QString source = Make("a.png", "abc");
+        QCOMPARE(HMD5::GeneratorFile(source), In(kAbcDigest + ".png"));
+        QCOMPARE(Content(source), QByteArray("abc"));
+        QVERIFY(QFileInfo(In(kAbcDigest + ".png")).isSymLink());
+        QVERIFY(!QFile::exists(outside.filePath("new")));
+    }
+
     void targetIsADirectory()
     {
         QVERIFY(QDir(m_directory->path()).mkdir(kAbcDigest + ".png"));
