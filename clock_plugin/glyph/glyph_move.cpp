@@ -66,19 +66,29 @@ bool CopyWhole(const QString &source, const QString &dest)
     return in.error() == QFile::NoError && out.flush() && out.commit();
 }
 
-/// A rename that also replaces what stands at dest. Between file systems it is a copy whose
-/// original goes only after the copy was read back; QFile::rename removes the original while the
-/// copy may still be in its buffer, and a full device then has neither.
+/// Whether the rename was made, or failed for good: only a copy leads to another file system, and
+/// to what a link names, for a relative link names nothing in another directory.
+bool IsSettledByRename(const QString &source, const QString &dest)
+{
+    if (QFileInfo(source).isSymLink())
+        return false;
+    return std::rename(QFile::encodeName(source).constData(), QFile::encodeName(dest).constData())
+        == 0
+        || errno != EXDEV;
+}
+
+/// A rename that also replaces what stands at dest, or a copy whose original goes only after the
+/// copy was read back; QFile::rename removes the original while the copy may still be in its
+/// buffer, and a full device then has neither.
 void MoveOver(const QString &source, const QString &dest, const QString &digest)
 {
     QDir().rmdir(dest); // an empty directory holds nothing; any other entry refuses
-    if (std::rename(QFile::encodeName(source).constData(), QFile::encodeName(dest).constData()) == 0
-        || errno != EXDEV)
+    if (IsSettledByRename(source, dest))
         return;
     if (QFileInfo(dest).isSymLink())
         QFile::remove(dest); // the link, not what it leads to
     if (CopyWhole(source, dest) && HMD5::FileDigest(dest) == digest)
-        QFile::remove(source);
+        QFile::remove(source); // of a link the link, too
 }
 
 } // namespace

@@ -70,6 +70,14 @@ class TestClockFileSafety : public QObject
         QCOMPARE(record.kind, 3);
     }
 
+    /// The source becomes a link to the image beside it.
+    void LinkTheSource(bool relative)
+    {
+        const QString name = QStringLiteral("named.png");
+        QVERIFY(QFile::rename(Source(), m_dirs->Out() + name));
+        QVERIFY(QFile::link(relative ? name : m_dirs->Out() + name, Source()));
+    }
+
     /// A directory on another file system than the output directory; invalid where there is none.
     QSharedPointer<QTemporaryDir> ElsewhereDirectory()
     {
@@ -400,6 +408,56 @@ private Q_SLOTS:
         QVERIFY(QFile::link(QStringLiteral("/dev/zero"), Dest()));
         Export(m_dirs->Dest(), Md5(kImage));
         QCOMPARE(ReadFile(Dest()), kImage);
+    }
+
+    void LinkAtSource_data()
+    {
+        QTest::addColumn<bool>("relative");
+        QTest::addColumn<bool>("elsewhere");
+        QTest::newRow("relative") << true << false;
+        QTest::newRow("absolute") << false << false;
+        QTest::newRow("relative, another file system") << true << true;
+        QTest::newRow("absolute, another file system") << false << true;
+    }
+    void LinkAtSource()
+    {
+        QFETCH(bool, relative);
+        QFETCH(bool, elsewhere);
+        QSharedPointer<QTemporaryDir> other;
+        if (elsewhere)
+            other = ElsewhereDirectory();
+        QVERIFY2(!elsewhere || other, "needs a second file system at /dev/shm");
+        const QString destDir = other ? other->path() + QLatin1Char('/') : m_dirs->Dest();
+        LinkTheSource(relative);
+        Export(destDir, Md5(kImage));
+        QCOMPARE(ReadFile(NameIn(destDir)), kImage);
+        QVERIFY(!QFileInfo(NameIn(destDir)).isSymLink());
+        QVERIFY(!QFileInfo(Source()).isSymLink());
+        QCOMPARE(ReadFile(m_dirs->Out() + QStringLiteral("named.png")), kImage);
+    }
+
+    void LinkAtSourceAndAFullFileSystem()
+    {
+        LinkTheSource(true);
+        {
+            CapturedOutput captured;
+            const FileSizeLimit limit(100);
+            m_node->SetFileInfo(QStringLiteral("analog_7"), QStringLiteral("_space"),
+                                m_dirs->Dest());
+        }
+        QVERIFY(QFileInfo(Source()).isSymLink());
+        QCOMPARE(ReadFile(Source()), kImage);
+        QVERIFY(!QFile::exists(Dest()));
+    }
+
+    void LinkAtSourceNamesDest()
+    {
+        WriteFile(Dest(), kImage);
+        QFile::remove(Source());
+        QVERIFY(QFile::link(Dest(), Source()));
+        Export(m_dirs->Dest(), Md5(kImage));
+        QCOMPARE(ReadFile(Dest()), kImage);
+        QVERIFY(!QFileInfo(Dest()).isSymLink());
     }
 
     void DestinationWithoutSeparatorIsAPrefix()
