@@ -96,18 +96,27 @@ void HClockNode::StoreDefault(const AttributeRow &row)
     Store(row.attribute, row.number);
 }
 
-// The zone carries no sign, unlike those that editors store, and one west of Greenwich appears as
-// the time of day that it is there at midnight UTC: -5 hours as "19:00".
 void HClockNode::StoreComputedDefault(Attribute attribute)
 {
     if (attribute == Attribute::Id)
         return Store(attribute, DrawIdentity());
+    if (attribute == Attribute::TimeZone)
+        StoreHostTime();
+    // UseDaylightSavingTime is stored along with the zone.
+}
+
+// Both are of one answer, for a listener of the zone may change what the host answers next. The
+// zone carries no sign, unlike those that editors store, and one west of Greenwich appears as the
+// time of day that it is there at midnight UTC: -5 hours as "19:00".
+void HClockNode::StoreHostTime()
+{
     int offsetSeconds = 0;
     bool daylightSaving = false;
     Lw::HAppConfig::instance()->GetTimeInfo(offsetSeconds, daylightSaving);
-    if (attribute == Attribute::TimeZone)
-        return SetTimeZone(QTime(0, 0).addSecs(offsetSeconds).toString(QStringLiteral("hh:mm")));
-    Store(attribute, daylightSaving ? 1 : 0);
+    const QPointer<HClockNode> self(this);
+    SetTimeZone(QTime(0, 0).addSecs(offsetSeconds).toString(QStringLiteral("hh:mm")));
+    if (self)
+        Store(Attribute::UseDaylightSavingTime, daylightSaving ? 1 : 0);
 }
 
 int HClockNode::ClockType()

@@ -147,6 +147,7 @@ private:
     Q_DECL_HIDDEN void Store(Attribute attribute, const QString &value);
     Q_DECL_HIDDEN void StoreDefault(const AttributeRow &row);
     Q_DECL_HIDDEN void StoreComputedDefault(Attribute attribute);
+    Q_DECL_HIDDEN void StoreHostTime(); // zone and daylight-saving flag
 
     Q_DECL_HIDDEN void Import(const QDomElement &clock, const ImportElement *begin,
                               const ImportElement *end);

@@ -2,6 +2,7 @@
 #include "node_test_support.h"
 
 #include <QMetaMethod>
+#include <QPointer>
 #include <QTranslator>
 
 #include <climits>
@@ -221,6 +222,33 @@ private Q_SLOTS:
         QCOMPARE(node.GetAttribute(QStringLiteral("TimeZone")), zone);
         QCOMPARE(node.GetAttribute(QStringLiteral("UseDaylightSavingTime")),
                  QString::fromLatin1(daylightSaving ? "1" : "0"));
+    }
+
+    // Zone and flag belong together: they come from one answer of the host, also where its
+    // settings change while the clock is being made.
+    void DefaultZoneAndFlagAreOfOneAnswer()
+    {
+        Lw::HAppConfig::SetTimeInfo(28800, true);
+        HClockNode node;
+        connect(&node, &HClockNode::ReDrawSourceImage, &node, [&node] {
+            if (node.AttributeKeys().last() == QLatin1String("TimeZone"))
+                Lw::HAppConfig::SetTimeInfo(-18000, false);
+        });
+        node.InitData();
+        QCOMPARE(node.GetAttribute(QStringLiteral("TimeZone")), QStringLiteral("08:00"));
+        QCOMPARE(node.GetAttribute(QStringLiteral("UseDaylightSavingTime")), QStringLiteral("1"));
+    }
+
+    void DeletedOverItsDefaultZone()
+    {
+        auto *node = new HClockNode;
+        connect(node, &HClockNode::ReDrawSourceImage, [node] {
+            if (node->AttributeKeys().last() == QLatin1String("TimeZone"))
+                delete node;
+        });
+        const QPointer<HClockNode> guard(node);
+        node->InitData();
+        QVERIFY(!guard);
     }
 
     void TopTextsAreTranslatedInTheNodesContext()
