@@ -5,6 +5,7 @@
 #include "plain_clocks.h"
 #include "plain_digital.h"
 
+#include "calendar/clock_time.h"
 #include "calendar/device_clock.h"
 #include "compose/draw_clock_classify_image.h"
 #include "compose/element_composer.h"
@@ -23,6 +24,7 @@
 using Lw::HNodeClock::Attribute;
 using Lw::HNodeClock::DrawDisplayImage;
 using Lw::HNodeClock::Key;
+using Lw::HNodeClock::PlainText;
 
 namespace {
 
@@ -179,9 +181,8 @@ void QtTextSecond(benchmark::State &state)
         painter.setFont(font);
         painter.setPen(Qt::white);
         const int line = area.height() / 4;
-        const QString texts[] = {now.toString(QStringLiteral("yyyy/MM/dd")),
-                                 now.toString(QStringLiteral("dddd")),
-                                 now.toString(QStringLiteral("hh:mm:ss"))};
+        const QString texts[] = {PlainText(now, "yyyy/MM/dd"), PlainText(now, "dddd"),
+                                 PlainText(now, "hh:mm:ss")};
         for (int i = 0; i < 3; ++i)
             painter.drawText(QRect(0, i * line, area.width(), line), Qt::AlignCenter, texts[i]);
         painter.end();

@@ -1,5 +1,6 @@
 #include "clock_node.h"
 
+#include "calendar/clock_time.h"
 #include "clock_sdk_tables.h"
 
 #include "happconfig.h"
@@ -8,7 +9,6 @@
 #include <QDomElement>
 #include <QPointer>
 #include <QRandomGenerator>
-#include <QTime>
 
 namespace Lw::HNodeClock {
 
@@ -114,7 +114,7 @@ void HClockNode::StoreHostTime()
     bool daylightSaving = false;
     Lw::HAppConfig::instance()->GetTimeInfo(offsetSeconds, daylightSaving);
     const QPointer<HClockNode> self(this);
-    SetTimeZone(QTime(0, 0).addSecs(offsetSeconds).toString(QStringLiteral("hh:mm")));
+    SetTimeZone(PlainText(QTime(0, 0).addSecs(offsetSeconds), "hh:mm"));
     if (self)
         Store(Attribute::UseDaylightSavingTime, daylightSaving ? 1 : 0);
 }
@@ -162,8 +162,7 @@ void HClockNode::SetTimeAdjust(int seconds)
     const QPointer<HClockNode> self(this);
     Store(Attribute::AdjustType, seconds < 0 ? 1 : 0);
     if (self)
-        Store(Attribute::TimeAdjust,
-              QTime(0, 0).addSecs(magnitude).toString(QStringLiteral("hh'A'mm'B'ss")));
+        Store(Attribute::TimeAdjust, PlainText(QTime(0, 0).addSecs(magnitude), "hh'A'mm'B'ss"));
 }
 
 void HClockNode::SetTimeZone(QString zone)

@@ -22,12 +22,17 @@ function(clock_precompile_test_headers)
     set_target_properties(clock_test_headers PROPERTIES AUTOMOC OFF)
 endfunction()
 
-# clock_add_test(NAME sources... [LIBRARIES libraries...] [LABELS labels...])
-# One Qt Test executable, run by CTest without a display, at 96 dpi, in UTC and the C locale. Its
-# reference pictures stand beside it in the source tree. The label "native" leaves it out where
-# another machine is emulated; say why beside it.
+# Locales whose digits are not ASCII's, for LOCALES of the tests that write or read texts of times.
+# Qt goes by the name; the system need not have them.
+set(clock_other_digits fa_IR.UTF-8 ar_EG.UTF-8)
+
+# clock_add_test(NAME sources... [LIBRARIES libraries...] [LABELS labels...] [LOCALES locales...])
+# One Qt Test executable, run by CTest without a display, at 96 dpi, in UTC and the C locale; then
+# once more in each of the locales, as NAME.fa_IR and so on. Its reference pictures stand beside it
+# in the source tree. The label "native" leaves it out where another machine is emulated; say why
+# beside it.
 function(clock_add_test name)
-    cmake_parse_arguments(arg "" "" "LIBRARIES;LABELS" ${ARGN})
+    cmake_parse_arguments(arg "" "" "LIBRARIES;LABELS;LOCALES" ${ARGN})
     if(NOT TARGET clock_test_headers)
         clock_precompile_test_headers()
     endif()
@@ -41,20 +46,31 @@ function(clock_add_test name)
         CLOCK_DIFFERENCE_DIR="${CMAKE_CURRENT_BINARY_DIR}/difference")
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-    add_test(NAME ${name} COMMAND ${name})
-    set(environment QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 LC_ALL=C.UTF-8 TZ=UTC
+    # Emulated processes are not started without their help.
+    if(TARGET emulated_processes)
+        add_dependencies(${name} emulated_processes)
+    endif()
+    clock_run_test(${name} ${name} C.UTF-8 "${arg_LABELS}")
+    foreach(locale IN LISTS arg_LOCALES)
+        string(REGEX REPLACE "[.].*" "" language ${locale})
+        clock_run_test(${name}.${language} ${name} ${locale} "${arg_LABELS}")
+    endforeach()
+endfunction()
+
+function(clock_run_test test program locale labels)
+    add_test(NAME ${test} COMMAND ${program})
+    set(environment QT_QPA_PLATFORM=offscreen QT_FONT_DPI=96 LC_ALL=${locale} TZ=UTC
         ${CLOCK_RUN_ENVIRONMENT})
     if(clock_emulator)
         list(APPEND environment CLOCK_EMULATOR=${clock_emulator})
     endif()
-    set_tests_properties(${name} PROPERTIES
+    set_tests_properties(${test} PROPERTIES
         ENVIRONMENT "${environment}"
         TIMEOUT 300
-        LABELS "${arg_LABELS}")
-    # Emulation is slow, and processes are not started without their help.
+        LABELS "${labels}")
+    # Emulation is slow.
     if(TARGET emulated_processes)
-        add_dependencies(${name} emulated_processes)
-        set_tests_properties(${name} PROPERTIES
+        set_tests_properties(${test} PROPERTIES
             REQUIRED_FILES $<TARGET_FILE:emulated_processes>
             TIMEOUT 900)
     endif()

@@ -1,11 +1,15 @@
 #include "status_text.h"
 
+#include "calendar/clock_time.h"
+
 #include <QDateTime>
 #include <QStringList>
 
 namespace ClockPlayer {
 
 namespace {
+
+using Lw::HNodeClock::PlainText;
 
 constexpr qint64 kSecond = 1000;
 
@@ -16,7 +20,7 @@ QDateTime Utc(qint64 milliseconds)
 
 QString InstantText(qint64 instant)
 {
-    return Utc(instant).toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss'Z'"));
+    return PlainText(Utc(instant), "yyyy-MM-dd'T'HH:mm:ss'Z'");
 }
 
 // Whole minutes as "+01:00"; an adjusted clock may also have seconds.
@@ -44,7 +48,7 @@ QString ClockText(const Status &status)
 {
     const int offset = OffsetAt(*status.clock, status.instant);
     const QString reading =
-        Utc(status.instant + offset * kSecond).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss "))
+        PlainText(Utc(status.instant + offset * kSecond), "yyyy-MM-dd HH:mm:ss ")
         + OffsetText(offset);
     if (status.clockCount == 1)
         return reading;
@@ -60,7 +64,7 @@ QString ChangeText(const Status &status)
     if (!change)
         return QStringLiteral("no daylight saving");
     const auto timeOfDay = [&change](int offset) {
-        return Utc(change->instant + offset * kSecond).toString(QStringLiteral("HH:mm:ss"));
+        return PlainText(Utc(change->instant + offset * kSecond), "HH:mm:ss");
     };
     return QStringLiteral("daylight saving %1 %2: %3 becomes %4")
         .arg(change->after > change->before ? QStringLiteral("begins") : QStringLiteral("ends"),

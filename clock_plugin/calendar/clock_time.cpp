@@ -1,6 +1,9 @@
 #include "calendar/clock_time.h"
 
+#include <QLocale>
 #include <QStringRef>
+
+#include <algorithm>
 
 namespace Lw::HNodeClock {
 
@@ -22,11 +25,17 @@ constexpr DayAndTime SplitDay(qint64 reading)
     return {kEpochJulianDay + days, static_cast<int>(rest < 0 ? rest + kMillisecondsOfDay : rest)};
 }
 
+bool IsAscii(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 128; });
+}
+
 // No text longer than its pattern is a time; the length is asked first because texts of any size
-// come in from outside.
+// come in from outside. Beside ASCII's, Qt takes the digits of the program's locale, QLocale::c()
+// or not; a text must not be a time on one device and none on another.
 QTime TimeFromText(const QString &text, const QString &pattern, int longest)
 {
-    return text.size() <= longest ? QTime::fromString(text, pattern) : QTime();
+    return text.size() <= longest && IsAscii(text) ? QTime::fromString(text, pattern) : QTime();
 }
 
 int FieldAt(const QString &text, int position)
@@ -48,6 +57,21 @@ DisplayedFields SplitReading(qint64 reading)
     fields.second = second % 60;
     fields.dayOfWeek = date.dayOfWeek();
     return fields;
+}
+
+QString PlainText(const QDate &date, const char *format)
+{
+    return QLocale::c().toString(date, QLatin1String(format));
+}
+
+QString PlainText(const QTime &time, const char *format)
+{
+    return QLocale::c().toString(time, QLatin1String(format));
+}
+
+QString PlainText(const QDateTime &dateTime, const char *format)
+{
+    return QLocale::c().toString(dateTime, QLatin1String(format));
 }
 
 QTime ParseTimeOfDay(const QString &text)

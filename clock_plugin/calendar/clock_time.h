@@ -26,12 +26,19 @@ struct DisplayedFields
 /// tagged UTC would answer, without making one.
 DisplayedFields SplitReading(qint64 reading);
 
-/// A time of day written with two digits each as "hh:mm:ss"; invalid for every other text.
+/// A date, a time of day or both by one of Qt's formats, in ASCII digits: for every text that is
+/// stored, exported or read by a program. The toString() of these writes the digits of the system's
+/// locale. Empty for one that is invalid.
+QString PlainText(const QDate &date, const char *format);
+QString PlainText(const QTime &time, const char *format);
+QString PlainText(const QDateTime &dateTime, const char *format);
+
+/// A time of day written with two ASCII digits each as "hh:mm:ss"; invalid for every other text.
 QTime ParseTimeOfDay(const QString &text);
 
-/// Seconds to add to UTC for a zone text: "hh:mm" or "h:mm" after its first character. The first
-/// character makes the offset negative when it is "-" and positive whatever else it is. A text
-/// that holds no time gives 0.
+/// Seconds to add to UTC for a zone text: "hh:mm" or "h:mm" in ASCII after its first character. The
+/// first character makes the offset negative when it is "-" and positive whatever else it is. A
+/// text that holds no time gives 0.
 int ParseZoneOffset(const QString &zone);
 
 /// Magnitude in seconds of an adjustment text: hours, minutes and seconds at the positions 0-1,

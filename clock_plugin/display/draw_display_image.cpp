@@ -1,6 +1,7 @@
 // The drawer's state, the choice of the kind of clock, and the time step.
 #include "display/draw_display_image.h"
 
+#include "calendar/clock_time.h"
 #include "calendar/device_clock.h"
 #include "compose/element_composer.h"
 #include "display/draw_display_image_p.h"
@@ -98,7 +99,7 @@ void DrawDisplayImage::Private::TakeFields()
     const QDate date = dateTime.date();
     if (date != dateTextDate) {
         dateTextDate = date;
-        dateText = date.toString(QStringLiteral("yyyy/MM/dd"));
+        dateText = PlainText(date, "yyyy/MM/dd");
         date.getDate(&year, &month, &day);
         dayOfWeek = date.dayOfWeek();
     }

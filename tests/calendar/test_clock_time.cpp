@@ -1,5 +1,6 @@
 #include "calendar/clock_time.h"
 
+#include <QLocale>
 #include <QTest>
 
 #include <limits>
@@ -20,6 +21,18 @@ qint64 At(const char *iso)
     return At(QString::fromLatin1(iso));
 }
 
+/// The program's locale, until it goes.
+class LocaleForAWhile
+{
+public:
+    explicit LocaleForAWhile(const QLocale &locale) { QLocale::setDefault(locale); }
+    ~LocaleForAWhile() { QLocale::setDefault(m_before); }
+    Q_DISABLE_COPY(LocaleForAWhile)
+
+private:
+    const QLocale m_before;
+};
+
 } // namespace
 
 class TestClockTime : public QObject
@@ -35,6 +48,9 @@ private slots:
     void adjustment();
     void clockOffset_data();
     void clockOffset();
+    void otherDigits_data();
+    void otherDigits();
+    void textsOfTimes();
     void hugeTexts();
     void fieldsOfKnownReadings_data();
     void fieldsOfKnownReadings();
@@ -174,6 +190,44 @@ void TestClockTime::clockOffset()
     QFETCH(QString, adjustment);
     QFETCH(int, type);
     QTEST(ClockOffset(zone, adjustment, type), "seconds");
+}
+
+void TestClockTime::otherDigits_data()
+{
+    QTest::addColumn<QString>("locale");
+    for (const char *locale : {"C", "fa_IR", "ar_EG", "bn_BD", "my_MM"})
+        QTest::newRow(locale) << QString::fromLatin1(locale);
+}
+
+// Texts of times travel: what a program of one language wrote, the device of another reads.
+void TestClockTime::otherDigits()
+{
+    QFETCH(QString, locale);
+    const LocaleForAWhile chosen {QLocale(locale)};
+    QCOMPARE(ParseTimeOfDay(QStringLiteral("13:05:09")), QTime(13, 5, 9));
+    QCOMPARE(ParseZoneOffset(QStringLiteral("-5:30")), -19800);
+    QCOMPARE(ParseAdjustment(QStringLiteral("01A30B15")), 5415);
+    for (const char16_t *zero : {u"\u0660", u"\u06f0", u"\u09e6", u"\u1040", u"\uff10"}) {
+        const QChar one(QString::fromUtf16(zero).at(0).unicode() + 1);
+        const QString text = one + QStringLiteral("1:00:00");
+        QVERIFY2(!ParseTimeOfDay(text).isValid(), qPrintable(text));
+        QVERIFY(!ParseTimeOfDay(QStringLiteral("01:00:0") + one).isValid());
+        QVERIFY(!ParseDaylightRule(QStringLiteral("3.Last.7.") + text));
+        QVERIFY(!ParseDaylightRule(one + QStringLiteral(".Last.7.01:00:00")));
+        QCOMPARE(ParseZoneOffset(QLatin1Char('+') + text.left(5)), 0);
+        QCOMPARE(ParseZoneOffset(QLatin1Char('+') + one + QStringLiteral(":30")), 0);
+        QCOMPARE(ParseAdjustment(QString(2, one) + QStringLiteral("A30B00")), 1800);
+    }
+}
+
+void TestClockTime::textsOfTimes()
+{
+    const QDateTime instant(QDate(2024, 3, 5), QTime(7, 8, 9), Qt::UTC);
+    QCOMPARE(PlainText(instant.time(), "hh:mm"), QString("07:08"));
+    QCOMPARE(PlainText(instant.time(), "hh'A'mm'B'ss"), QString("07A08B09"));
+    QCOMPARE(PlainText(instant.date(), "yyyy/MM/dd"), QString("2024/03/05"));
+    QCOMPARE(PlainText(instant, "yyyy-MM-dd'T'HH:mm:ss'Z'"), QString("2024-03-05T07:08:09Z"));
+    QCOMPARE(PlainText(QTime(), "hh:mm"), QString());
 }
 
 void TestClockTime::hugeTexts()

@@ -5,6 +5,7 @@
 #include "compose/draw_clock_classify_image.h"
 #include "lettered_glyphs.h"
 
+#include <QLocale>
 #include <QTest>
 
 #include <ctime>
@@ -332,7 +333,7 @@ void TestDisplayedTime::Boundaries()
     QFETCH(QString, boundary);
     const QDateTime found = m_composer->AnalyzeDaylightSavingTime(date, rule);
     QCOMPARE(found.isValid(), !boundary.isEmpty());
-    QCOMPARE(found.toString(QStringLiteral("yyyy-MM-ddThh:mm:ss")), boundary);
+    QCOMPARE(QLocale::c().toString(found, QStringLiteral("yyyy-MM-ddThh:mm:ss")), boundary);
 }
 
 void TestDisplayedTime::HalvesOfTheDay_data()

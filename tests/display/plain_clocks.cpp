@@ -5,6 +5,7 @@
 #include "happconfig.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QPainter>
 
 #include <cstring>
@@ -71,12 +72,15 @@ QImage PlainClock::Frame()
 void PlainClock::ReadTime()
 {
     m_composer.CalculateTimeZone(m_reading);
-    m_dateText = m_reading.toString(QStringLiteral("yyyy/MM/dd"));
-    m_year = m_reading.toString(QStringLiteral("yyyy")).toInt();
-    m_month = m_reading.toString(QStringLiteral("MM")).toInt();
-    m_day = m_reading.toString(QStringLiteral("dd")).toInt();
-    m_hourShown = m_reading.toString(QStringLiteral("hh")).toInt();
-    m_minuteShown = m_reading.toString(QStringLiteral("mm")).toInt();
+    const auto text = [this](const char *format) {
+        return QLocale::c().toString(m_reading, QLatin1String(format));
+    };
+    m_dateText = text("yyyy/MM/dd");
+    m_year = text("yyyy").toInt();
+    m_month = text("MM").toInt();
+    m_day = text("dd").toInt();
+    m_hourShown = text("hh").toInt();
+    m_minuteShown = text("mm").toInt();
     m_secondShown = m_reading.time().second();
     m_millisecond = LocalMillisecond();
 }

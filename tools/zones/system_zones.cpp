@@ -2,6 +2,8 @@
 
 #include "lint/suggestion.h"
 
+#include "calendar/clock_time.h"
+
 #include <QDateTime>
 #include <QRegularExpression>
 #include <QTimeZone>
@@ -84,7 +86,7 @@ Span TenYearsFrom(const QDate &first)
 
 QString DateOf(qint64 utc)
 {
-    return Utc(utc).toString(QStringLiteral("yyyy-MM-dd"));
+    return Lw::HNodeClock::PlainText(Utc(utc), "yyyy-MM-dd");
 }
 
 QList<QByteArray> ZoneNames()

@@ -207,7 +207,7 @@ QStringList RulesNaming(qint64 reading)
             .arg(date.month())
             .arg(occurrence)
             .arg(date.dayOfWeek())
-            .arg(time.time().toString(QStringLiteral("hh:mm:ss")));
+            .arg(PlainText(time.time(), "hh:mm:ss"));
     };
     QStringList rules;
     if (date.day() + 7 > date.daysInMonth())
