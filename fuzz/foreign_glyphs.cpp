@@ -7,6 +7,7 @@
 #include "clock_attributes.h"
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
+#include "display/style_pictures.h"
 #include "glyph/glyph_set.h"
 
 #include <QCoreApplication>
@@ -25,18 +26,12 @@ constexpr int kFrames = 3;
 class OwnDial
 {
 public:
-    OwnDial() { QDir().mkpath(Folder()); }
+    OwnDial() { QDir().mkpath(StyleFolder()); }
     ~OwnDial() { QFile::remove(Path()); }
     Q_DISABLE_COPY(OwnDial)
 
     static int Style() { return static_cast<int>(QCoreApplication::applicationPid()); }
-    static QString Path() { return Folder() + QStringLiteral("picbutton%1.png").arg(Style()); }
-
-private:
-    static QString Folder()
-    {
-        return QCoreApplication::applicationDirPath() + QStringLiteral("/../image/ClockType/");
-    }
+    static QString Path() { return StyleFolder() + DialPicture(Style()); }
 };
 
 // Small files are kept as they are until they are shown; long ones are decoded at once.

@@ -1,8 +1,7 @@
 // The picture clock: a dial picture of a chosen style, and hand pictures that all styles share.
 #include "compose/glyph_reading.h"
 #include "display/draw_display_image_p.h"
-
-#include <QCoreApplication>
+#include "display/style_pictures.h"
 
 #include <algorithm>
 
@@ -16,16 +15,6 @@ constexpr QRect kHourPlace(-12, -65, 24, 70);
 constexpr QRect kMinutePlace(-10, -85, 20, 90);
 constexpr QRect kSecondPlace(-5, -110, 10, 110);
 constexpr QRect kCentrePlace(-10, -10, 20, 20);
-
-QString StyleFolder()
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/../image/ClockType/");
-}
-
-QString DialFile(int type)
-{
-    return QStringLiteral("picbutton%1.png").arg(type);
-}
 
 // A picture stretched into its place on the face and turned clockwise about the centre.
 struct TurnedPicture
@@ -82,17 +71,17 @@ void DrawDisplayImage::InitClockTypePixmap()
     if (!d->node)
         return;
     const QString folder = StyleFolder();
-    d->hourPicture = ReadGlyphFile(folder + QStringLiteral("hour.png"));
-    d->minutePicture = ReadGlyphFile(folder + QStringLiteral("minute.png"));
-    d->secondPicture = ReadGlyphFile(folder + QStringLiteral("second.png"));
-    d->centrePicture = ReadGlyphFile(folder + QStringLiteral("center.png"));
+    d->hourPicture = ReadGlyphFile(folder + QLatin1String(kHourPicture));
+    d->minutePicture = ReadGlyphFile(folder + QLatin1String(kMinutePicture));
+    d->secondPicture = ReadGlyphFile(folder + QLatin1String(kSecondPicture));
+    d->centrePicture = ReadGlyphFile(folder + QLatin1String(kCentrePicture));
     d->dialTimeAP.clear(); // an analog dial that is drawn later is drawn anew
 
     const QSize size = d->node->Size();
     d->pictureSize = QSize(d->frameWidth, size.height());
     d->pictureBackground = d->NewImage(d->pictureSize, GetColorKey());
     const int side = std::min(size.width(), size.height());
-    const QImage dial = ReadImageFile(folder + DialFile(d->Number(Attribute::PictrueClockType)));
+    const QImage dial = ReadImageFile(folder + DialPicture(d->Number(Attribute::PictrueClockType)));
     if (d->pictureBackground.isNull() || dial.isNull() || !Private::Drawable(QSize(side, side)))
         return;
     const QImage scaled = dial.scaled(side, side, Qt::IgnoreAspectRatio, Qt::FastTransformation);

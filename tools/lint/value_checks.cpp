@@ -4,6 +4,7 @@
 
 #include "calendar/clock_time.h"
 #include "clock_sdk_tables.h"
+#include "display/style_pictures.h"
 #include "happconfig.h"
 
 #include <QColor>
@@ -43,7 +44,7 @@ constexpr CodeRange kCodes[] = {
     {Attribute::DigitalSwapArea, 0, 1},
     {Attribute::DigitalMode, 0, 1},
     {Attribute::DigitalDisplayMode, 0, 1},
-    {Attribute::PictrueClockType, 1, 10},
+    {Attribute::PictrueClockType, 1, kStyleCount},
 };
 // clang-format on
 

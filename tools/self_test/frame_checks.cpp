@@ -4,10 +4,10 @@
 
 #include "calendar/device_clock.h"
 #include "display/draw_display_image.h"
+#include "display/style_pictures.h"
 #include "glyph/glyph_set.h"
 #include "happconfig.h"
 
-#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QFileInfo>
 #include <QImageReader>
@@ -21,7 +21,6 @@ using namespace Lw::HNodeClock;
 
 // A player's format without alpha: the clock smooths nothing in it.
 constexpr int kPlainFormat = QImage::Format_RGB32;
-constexpr int kStyles = 10;
 
 /// While it lives, clocks show one instant, unsmoothed.
 class StillTime
@@ -56,18 +55,11 @@ CheckResult CheckFrame(const QString &what, int type, const QString &directory,
     return {what, Outcome::Failed, QStringLiteral("the frame is not what it should be")};
 }
 
-/// The folder that picture clocks read; it lies beside the program's and cannot be chosen.
-QString StyleFolder()
-{
-    return QCoreApplication::applicationDirPath() + QStringLiteral("/../image/ClockType/");
-}
-
 QStringList StylePictures()
 {
-    QStringList names {QStringLiteral("hour.png"), QStringLiteral("minute.png"),
-                       QStringLiteral("second.png"), QStringLiteral("center.png")};
-    for (int style = 1; style <= kStyles; ++style)
-        names.append(QStringLiteral("picbutton%1.png").arg(style));
+    QStringList names {kHourPicture, kMinutePicture, kSecondPicture, kCentrePicture};
+    for (int style = 1; style <= kStyleCount; ++style)
+        names.append(DialPicture(style));
     return names;
 }
 
@@ -75,7 +67,7 @@ QStringList StylePictures()
 /// clock draws something of each.
 CheckResult CheckPictureClock()
 {
-    const QString what = QStringLiteral("picture clock, %1 styles").arg(kStyles);
+    const QString what = QStringLiteral("picture clock, %1 styles").arg(kStyleCount);
     if (!QFileInfo(StyleFolder()).isDir())
         return {
             what, Outcome::NotChecked,
@@ -87,7 +79,7 @@ CheckResult CheckPictureClock()
     HClockNode clock;
     SetUpBlotClock(clock, PictureClock, QString());
     DrawDisplayImage drawer(&clock);
-    for (int style = 1; style <= kStyles; ++style) {
+    for (int style = 1; style <= kStyleCount; ++style) {
         clock.SetAttribute(Key(Attribute::PictrueClockType), style, false);
         const QImage frame = drawer.DrawClockDisplayImage();
         QImage nothing = frame;
