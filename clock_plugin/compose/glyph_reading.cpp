@@ -99,7 +99,7 @@ QImage ReadImageFile(const QString &path)
     return ReadWithinBounds(reader);
 }
 
-QPixmap ReadGlyphFile(const QString &path)
+QPixmap ReadPixmapFile(const QString &path)
 {
     const QImage image = ReadImageFile(path);
     return image.isNull() ? QPixmap() : QPixmap::fromImage(image);

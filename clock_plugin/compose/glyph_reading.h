@@ -13,7 +13,7 @@ namespace Lw::HNodeClock {
 /// and for a picture of more than 32767 pixels a side or 64 MiB, which is asked before decoding.
 /// Only formats are read that answer this truly: PNG, BMP, GIF, JPEG, the PBM family, XBM and XPM.
 QImage ReadImageFile(const QString &path);
-QPixmap ReadGlyphFile(const QString &path);
+QPixmap ReadPixmapFile(const QString &path);
 
 /// The content of a small ordinary file that begins as a PNG does; null for any other.
 QByteArray ReadSmallPng(const QString &path);

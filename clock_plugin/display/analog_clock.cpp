@@ -6,6 +6,7 @@
 #include "display/analog_geometry.h"
 #include "display/analog_painting.h"
 #include "display/draw_display_image_p.h"
+#include "display/row_elements.h"
 #include "glyph/glyph_set.h"
 
 #include "happconfig.h"
@@ -32,6 +33,20 @@ constexpr HandRow kHands[] = {
     {Hand::Hour, Attribute::HourRectType, Attribute::HourHandColor},
     {Hand::Minute, Attribute::MinuteRectType, Attribute::MinuteHandColor},
     {Hand::Second, Attribute::SecondRectType, Attribute::SecondHandColor},
+};
+
+struct TextRow
+{
+    Attribute flag;
+    RowElement text;
+};
+
+// In the order of painting.
+constexpr TextRow kTexts[] = {
+    {Attribute::Analog_TopTexy_d, ElementOf(&Rows::topText)},
+    {Attribute::Analog_Date_d, ElementOf(&Rows::date)},
+    {Attribute::Analog_Week_d, ElementOf(&Rows::week)},
+    {Attribute::Analog_Lunar_d, ElementOf(&Rows::lunar)},
 };
 
 // The host's image format that asks for smooth hands.
@@ -96,7 +111,7 @@ void DrawDisplayImage::DrawAnalogClockDial()
     PaintMarks(d->painter, radius, style);
     if (numerals) {
         const QString strip = d->node->GetFirstFile(GlyphKey(Glyph::HourhandNumber));
-        PaintNumerals(d->painter, style.hourScale, radius, ReadGlyphFile(strip), GetColorKey());
+        PaintNumerals(d->painter, style.hourScale, radius, ReadPixmapFile(strip), GetColorKey());
     }
     d->painter.end();
 }
@@ -109,7 +124,7 @@ void DrawDisplayImage::DrawAnalogClock_AMPM()
     if (d->Number(Attribute::Analog_AMPM_d) != 1 || d->dialCache.isNull())
         return;
     const Glyph glyph = d->dialTimeAP == QLatin1String("AM") ? Glyph::AnalogAM : Glyph::AnalogPM;
-    const QPixmap badge = ReadGlyphFile(d->node->GetFirstFile(GlyphKey(glyph)));
+    const QPixmap badge = ReadPixmapFile(d->node->GetFirstFile(GlyphKey(glyph)));
     if (badge.isNull())
         return;
     d->painter.begin(&d->dialCache);
@@ -160,40 +175,29 @@ void DrawDisplayImage::GetAngDisplayArea()
     flags.week = d->Number(Attribute::Analog_Week_d);
     flags.lunar = d->Number(Attribute::Analog_Lunar_d);
     // A single row places all three; otherwise a row that does not take part is not measured.
-    const Rows measured = CountRows(flags) == 1 ? Rows {0, 1, 1, 0, 1} : flags;
-    ElementComposer &elements = d->composer.Elements();
-    Rows heights;
-    heights.topText = elements.TopText().Height();
-    heights.date = measured.date != 0 ? elements.Date().Height() : 0;
-    heights.week = measured.week != 0 ? elements.Week().Height() : 0;
-    heights.lunar = measured.lunar != 0 ? elements.Lunar().Height() : 0;
-    const QSize size = d->node->Size();
-    LayOutAnalogRows(size.width(), size.height(), d->Number(Attribute::AnalogSpace),
-                     d->Number(Attribute::AnalogSwapArea), flags, heights, d->rows);
+    Rows measured = CountRows(flags) == 1 ? LowerRows(kEveryRow) : flags;
+    measured.topText = 1;
+    AnalogArea area;
+    area.width = d->node->Size().width();
+    area.height = d->node->Size().height();
+    area.space = d->Number(Attribute::AnalogSpace);
+    area.swap = d->Number(Attribute::AnalogSwapArea);
+    area.flags = flags;
+    area.heights = HeightsOf(d->composer.Elements(), measured);
+    LayOutAnalogRows(area, d->rows);
 }
 
 void DrawDisplayImage::DrawAnalogText()
 {
     if (!d->node || d->dialCache.isNull())
         return;
-    const struct
-    {
-        Attribute flag;
-        const Element &(ElementComposer::*element)();
-        int top;
-    } shown[] = {
-        {Attribute::Analog_TopTexy_d, &ElementComposer::TopText, d->rows.topText},
-        {Attribute::Analog_Date_d, &ElementComposer::Date, d->rows.date},
-        {Attribute::Analog_Week_d, &ElementComposer::Week, d->rows.week},
-        {Attribute::Analog_Lunar_d, &ElementComposer::Lunar, d->rows.lunar},
-    };
     const int middle = d->node->Size().width() / 2;
     Placements rows;
-    for (const auto &row : shown) {
+    for (const TextRow &row : kTexts) {
         if (d->Number(row.flag) != 1)
             continue;
-        const Element &element = (d->composer.Elements().*row.element)();
-        rows.Add(element, QPoint(middle - element.Width() / 2, row.top));
+        const Element &element = row.text.Of(d->composer.Elements());
+        rows.Add(element, QPoint(middle - element.Width() / 2, d->rows.*row.text.row));
     }
     const qint64 keyBefore = d->dialCache.cacheKey();
     const QRegion changed = d->dialTexts.Paint(d->dialCache, rows);

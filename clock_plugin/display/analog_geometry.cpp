@@ -175,7 +175,7 @@ QVector<Numeral> Numerals(int hourScale, double radius, const DigitCells &cells)
 namespace {
 
 // The factors of one hand; the unit of length is a.
-struct HandRow
+struct HandFactors
 {
     double bar;       // length of the bar, of 23
     double shaft;     // of the arrow's shaft, tail and point
@@ -187,14 +187,14 @@ struct HandRow
 };
 
 // clang-format off
-constexpr HandRow kHandTable[] = {
+constexpr HandFactors kHandTable[] = {
     {0.5,  0.5,  0.25, 1.5, 1.0,  3.0,  true},
     {0.75, 0.75, 0.5,  1.5, 0.75, 3.75, true},
     {1.0,  1.0,  1.0,  1.0, 0.5,  4.5,  false},
 };
 // clang-format on
 
-QPolygonF BarOutline(const HandRow &row, double a)
+QPolygonF BarOutline(const HandFactors &row, double a)
 {
     const double tip = -row.bar * 23 * a;
     return QPolygonF({{-a, 0}, {a, 0}, {a, tip}, {-a, tip}});
@@ -202,7 +202,7 @@ QPolygonF BarOutline(const HandRow &row, double a)
 
 // From the left of the widening down the shaft, round the tail, up the right side and over the
 // head.
-QPolygonF ArrowOutline(const HandRow &row, double a)
+QPolygonF ArrowOutline(const HandFactors &row, double a)
 {
     const double k = row.shaft;
     const double wide = row.halfWidth * a;
@@ -220,7 +220,7 @@ QPolygonF ArrowOutline(const HandRow &row, double a)
                       {-a / 4, head}});
 }
 
-Ring RingOf(const HandRow &row, double a)
+Ring RingOf(const HandFactors &row, double a)
 {
     const double y = row.ringCentre * a;
     Ring ring;
@@ -234,7 +234,7 @@ Ring RingOf(const HandRow &row, double a)
 
 HandShape ShapeOf(Hand hand, int type, double radius)
 {
-    const HandRow &row = kHandTable[static_cast<int>(hand)];
+    const HandFactors &row = kHandTable[static_cast<int>(hand)];
     const double a = UnitA(radius);
     HandShape shape;
     if (type == BarHand) {

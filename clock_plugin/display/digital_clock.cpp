@@ -2,6 +2,7 @@
 #include "display/draw_display_image_p.h"
 
 #include "compose/element_composer.h"
+#include "display/row_elements.h"
 
 #include <array>
 
@@ -9,61 +10,13 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-using ElementOf = const Element &(*)(ElementComposer &);
-
-// The elements by row, in the order in which they are drawn with the date before the week.
-struct RowElement
-{
-    int Rows::*row;
-    ElementOf element;
-};
-
-const Element &TopTextOf(ElementComposer &elements)
-{
-    return elements.TopText();
-}
-const Element &DateOf(ElementComposer &elements)
-{
-    return elements.Date();
-}
-const Element &WeekOf(ElementComposer &elements)
-{
-    return elements.Week();
-}
-const Element &TimeOf(ElementComposer &elements)
-{
-    return elements.Time();
-}
-const Element &LunarOf(ElementComposer &elements)
-{
-    return elements.Lunar();
-}
-
-constexpr std::array<RowElement, 5> kDateFirst = {{{&Rows::topText, TopTextOf},
-                                                   {&Rows::date, DateOf},
-                                                   {&Rows::week, WeekOf},
-                                                   {&Rows::time, TimeOf},
-                                                   {&Rows::lunar, LunarOf}}};
-constexpr std::array<RowElement, 5> kWeekFirst = {kDateFirst[0], kDateFirst[2], kDateFirst[1],
-                                                  kDateFirst[3], kDateFirst[4]};
+// In the order in which they are drawn.
+constexpr std::array<RowElement, 5> kDateFirstElements = ElementsIn(kDateFirst);
+constexpr std::array<RowElement, 5> kWeekFirstElements = ElementsIn(kWeekFirst);
 
 using LayOut = void (*)(const DigitalArea &, Rows &);
 constexpr LayOut kLayOutByCount[] = {LayOutOneRow, LayOutTwoRows, LayOutThreeRows, LayOutFourRows,
                                      LayOutFiveRows};
-
-// The layouts of one and of five rows place every row.
-constexpr Rows kEveryRow {1, 1, 1, 1, 1};
-
-// Elements that are not measured are not composed at all.
-Rows HeightsOf(ElementComposer &elements, const Rows &measured)
-{
-    Rows heights;
-    for (const RowElement &row : kDateFirst) {
-        if (measured.*row.row != 0)
-            heights.*row.row = row.element(elements).Height();
-    }
-    return heights;
-}
 
 // The elements side by side around the centre of the area.
 Placements OnOneLine(const DigitalSettings &settings, ElementComposer &elements)
@@ -71,16 +24,16 @@ Placements OnOneLine(const DigitalSettings &settings, ElementComposer &elements)
     const Rows &flags = settings.flags;
     const int space = settings.space;
     long long widths = 0;
-    for (const RowElement &row : kDateFirst) {
+    for (const RowElement &row : kDateFirstElements) {
         if (flags.*row.row != 0)
-            widths += row.element(elements).Width();
+            widths += row.Of(elements).Width();
     }
     long long x = LineStart(settings.area.width(), space, widths, CountRows(flags));
     Placements placements;
-    for (const RowElement &row : settings.swap == 0 ? kWeekFirst : kDateFirst) {
+    for (const RowElement &row : settings.swap == 0 ? kWeekFirstElements : kDateFirstElements) {
         if (flags.*row.row != 1)
             continue;
-        const Element &element = row.element(elements);
+        const Element &element = row.Of(elements);
         placements.Add(element,
                        {ClampPosition(x), settings.area.height() / 2 - element.Height() / 2});
         x += static_cast<long long>(element.Width()) + space;
@@ -92,10 +45,10 @@ Placements OnOneLine(const DigitalSettings &settings, ElementComposer &elements)
 Placements InRows(const DigitalSettings &settings, ElementComposer &elements, const Rows &tops)
 {
     Placements placements;
-    for (const RowElement &row : kDateFirst) {
+    for (const RowElement &row : kDateFirstElements) {
         if (settings.flags.*row.row != 1)
             continue;
-        const Element &element = row.element(elements);
+        const Element &element = row.Of(elements);
         placements.Add(element, {settings.area.width() / 2 - element.Width() / 2, tops.*row.row});
     }
     return placements;
@@ -120,6 +73,7 @@ void DrawDisplayImage::Private::LayOutDigital(const DigitalSettings &settings, i
     if (count == 0)
         return;
     const ElementComposer::ReadingScope oneReading(composer.Elements());
+    // One row and five rows place every row.
     const Rows &measured = count == 1 || count == 5 ? kEveryRow : settings.flags;
     kLayOutByCount[count - 1]({settings.area.height(), space, settings.swap, settings.flags,
                                HeightsOf(composer.Elements(), measured)},

@@ -25,8 +25,8 @@ struct DigitalSettings
     explicit DigitalSettings(HClockNode &node);
 
     QSize area;
-    Rows
-        flags; ///< an element counts in the layout when its flag is not 0; it is drawn when it is 1
+    /// An element counts in the layout when its flag is not 0; it is drawn when it is 1.
+    Rows flags;
     int space;
     int swap;
     bool onOneLine;
@@ -99,6 +99,10 @@ public:
     Stamp capStamp;
 
     // Picture clock.
+    void LayHourHand(double degrees); ///< onto the background
+    /// Makes the frame the background with the hour hand turned that far, or the key colour where
+    /// there is no background of its size. Returns whether the hour hand is in the frame now.
+    bool RestoreBackground(double hourDegrees);
     QPixmap hourPicture;
     QPixmap minutePicture;
     QPixmap secondPicture;

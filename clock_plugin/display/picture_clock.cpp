@@ -71,10 +71,10 @@ void DrawDisplayImage::InitClockTypePixmap()
     if (!d->node)
         return;
     const QString folder = StyleFolder();
-    d->hourPicture = ReadGlyphFile(folder + QLatin1String(kHourPicture));
-    d->minutePicture = ReadGlyphFile(folder + QLatin1String(kMinutePicture));
-    d->secondPicture = ReadGlyphFile(folder + QLatin1String(kSecondPicture));
-    d->centrePicture = ReadGlyphFile(folder + QLatin1String(kCentrePicture));
+    d->hourPicture = ReadPixmapFile(folder + QLatin1String(kHourPicture));
+    d->minutePicture = ReadPixmapFile(folder + QLatin1String(kMinutePicture));
+    d->secondPicture = ReadPixmapFile(folder + QLatin1String(kSecondPicture));
+    d->centrePicture = ReadPixmapFile(folder + QLatin1String(kCentrePicture));
     d->dialTimeAP.clear(); // an analog dial that is drawn later is drawn anew
 
     const QSize size = d->node->Size();
@@ -86,12 +86,40 @@ void DrawDisplayImage::InitClockTypePixmap()
         return;
     const QImage scaled = dial.scaled(side, side, Qt::IgnoreAspectRatio, Qt::FastTransformation);
     if (scaled.isNull()) {
-        d->pictureBackground = QImage(); // there is no memory: another time
+        d->pictureBackground = QImage(); // out of memory: tried again with the next frame
         return;
     }
     d->painter.begin(&d->pictureBackground);
     d->painter.drawImage((size.width() - side) / 2, (d->pictureSize.height() - side) / 2, scaled);
     d->painter.end();
+}
+
+// The hour hand moves once a minute, so it lies on the background.
+void DrawDisplayImage::Private::LayHourHand(double degrees)
+{
+    if (pictureHour.Lies(pictureBackground, degrees))
+        return;
+    const TurnedPicture hand = {hourPicture, degrees, kHourPlace};
+    const qint64 keyBefore = pictureBackground.cacheKey();
+    const QRect box = BoxAround(hand, pictureBackground.size());
+    const QRegion changed =
+        pictureHour.Lay(pictureBackground, degrees, box, [this, &hand](QImage &image) {
+            Begin(painter, image);
+            Paint(painter, hand);
+            painter.end();
+        });
+    pictureFrames.BackgroundChanged(keyBefore, pictureBackground, changed);
+}
+
+bool DrawDisplayImage::Private::RestoreBackground(double hourDegrees)
+{
+    if (pictureBackground.size() != frame.size()) {
+        frame.fill(KeyColour());
+        return false;
+    }
+    LayHourHand(hourDegrees);
+    pictureFrames.Restore(frame, pictureBackground);
+    return pictureHour.Lies(pictureBackground, hourDegrees);
 }
 
 void DrawDisplayImage::DrawPixmapClock()
@@ -117,26 +145,10 @@ void DrawDisplayImage::DrawPixmapClock()
         {d->secondPicture, time.second() * 6.0, kSecondPlace},
         {d->centrePicture, 0, kCentrePlace},
     };
-    QImage &background = d->pictureBackground;
-    const bool hasBackground = background.size() == size;
-    if (hasBackground && !d->pictureHour.Lies(background, hour.degrees)) {
-        const qint64 keyBefore = background.cacheKey();
-        const QRegion changed = d->pictureHour.Lay(background, hour.degrees, BoxAround(hour, size),
-                                                   [this, &hour](QImage &image) {
-                                                       Begin(d->painter, image);
-                                                       Paint(d->painter, hour);
-                                                       d->painter.end();
-                                                   });
-        d->pictureFrames.BackgroundChanged(keyBefore, background, changed);
-    }
-    if (hasBackground)
-        d->pictureFrames.Restore(d->frame, background);
-    else
-        d->frame.fill(GetColorKey());
-
+    const bool hourLies = d->RestoreBackground(hour.degrees);
     FrameMemory::Painting painting(d->pictureFrames, d->frame);
     Begin(d->painter, d->frame);
-    if (!hasBackground || !d->pictureHour.Lies(background, hour.degrees))
+    if (!hourLies)
         painting.Covers(Paint(d->painter, hour));
     for (const TurnedPicture &part : others)
         painting.Covers(Paint(d->painter, part));

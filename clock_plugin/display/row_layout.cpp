@@ -1,27 +1,19 @@
 #include "display/row_layout.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Lw::HNodeClock {
 
 namespace {
 
-using Row = int Rows::*;
-
-constexpr std::array<Row, 5> kDateAboveWeek = {&Rows::topText, &Rows::date, &Rows::week,
-                                               &Rows::time, &Rows::lunar};
-constexpr std::array<Row, 5> kWeekAboveDate = {&Rows::topText, &Rows::week, &Rows::date,
-                                               &Rows::time, &Rows::lunar};
-
 // The shown rows of an order from top to bottom; places beyond their number stay null.
 struct Shown
 {
-    std::array<Row, 5> rows = {};
+    RowOrder rows = {};
     int count = 0;
 };
 
-Shown ShownRows(const std::array<Row, 5> &order, const Rows &flags)
+Shown ShownRows(const RowOrder &order, const Rows &flags)
 {
     Shown shown;
     for (const Row row : order) {
@@ -31,9 +23,9 @@ Shown ShownRows(const std::array<Row, 5> &order, const Rows &flags)
     return shown;
 }
 
-const std::array<Row, 5> &OrderOfMany(int swap)
+const RowOrder &OrderOfMany(int swap)
 {
-    return swap == 1 ? kDateAboveWeek : kWeekAboveDate;
+    return swap == 1 ? kDateFirst : kWeekFirst;
 }
 
 int OddPixel(int space)
@@ -59,18 +51,18 @@ int ClampPosition(long long position)
 
 int CountRows(const Rows &flags)
 {
-    return ShownRows(kDateAboveWeek, flags).count;
+    return ShownRows(kDateFirst, flags).count;
 }
 
 void LayOutOneRow(const DigitalArea &area, Rows &positions)
 {
-    for (const Row row : kDateAboveWeek)
+    for (const Row row : kDateFirst)
         positions.*row = area.height / 2 - area.heights.*row / 2;
 }
 
 void LayOutTwoRows(const DigitalArea &area, Rows &positions)
 {
-    Shown shown = ShownRows(kDateAboveWeek, area.flags);
+    Shown shown = ShownRows(kDateFirst, area.flags);
     if (shown.count != 2)
         return;
     const bool swapped =
@@ -148,15 +140,15 @@ void StackThree(long long anchor, int space, Row middle, Row lower, const Rows &
 
 } // namespace
 
-void LayOutAnalogRows(int areaWidth, int areaHeight, int space, int swap, const Rows &flags,
-                      const Rows &heights, Rows &positions)
+void LayOutAnalogRows(const AnalogArea &area, Rows &positions)
 {
-    const bool upright = areaWidth < areaHeight;
-    const int upperAnchor = upright ? areaHeight / 2 - areaWidth / 4 : areaHeight / 4;
-    const int lowerAnchor = upright ? areaHeight / 2 + areaWidth / 4 : 3 * (areaHeight / 4);
+    const auto &[width, height, space, swap, flags, heights] = area;
+    const bool upright = width < height;
+    const int upperAnchor = upright ? height / 2 - width / 4 : height / 4;
+    const int lowerAnchor = upright ? height / 2 + width / 4 : 3 * (height / 4);
     positions.topText = upperAnchor - heights.topText / 2;
 
-    const int count = CountRows({0, flags.date, flags.week, 0, flags.lunar});
+    const int count = CountRows(LowerRows(flags));
     if (count == 1) {
         positions.date = lowerAnchor - heights.date / 2;
         positions.week = lowerAnchor - heights.week / 2;

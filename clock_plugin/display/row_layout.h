@@ -3,6 +3,8 @@
 // rounded toward zero. Sums are taken in 64 bits and clamped, so that no spacing overflows.
 #pragma once
 
+#include <array>
+
 namespace Lw::HNodeClock {
 
 /// One number a row: a height, a position or a flag.
@@ -15,13 +17,36 @@ struct Rows
     int lunar = 0;
 };
 
+inline constexpr Rows kEveryRow {1, 1, 1, 1, 1};
+
+/// One of the rows.
+using Row = int Rows::*;
+
+/// The two orders of the rows, from top to bottom or from left to right.
+using RowOrder = std::array<Row, 5>;
+inline constexpr RowOrder kDateFirst = {&Rows::topText, &Rows::date, &Rows::week, &Rows::time,
+                                        &Rows::lunar};
+inline constexpr RowOrder kWeekFirst = {&Rows::topText, &Rows::week, &Rows::date, &Rows::time,
+                                        &Rows::lunar};
+
 /// What the rows of a digital clock are laid out from.
 struct DigitalArea
 {
     int height = 0; ///< of the area
     int space = 0;  ///< gap between neighbouring rows; may be negative
-    int swap = 0;
-    Rows flags; ///< which rows take part: the non-zero ones
+    int swap = 0;   ///< 1 exchanges date and week
+    Rows flags;     ///< which rows take part: the non-zero ones
+    Rows heights;
+};
+
+/// What the rows of an analog clock are laid out from.
+struct AnalogArea
+{
+    int width = 0;
+    int height = 0;
+    int space = 0; ///< gap between neighbouring rows; may be negative
+    int swap = 0;  ///< exchanges date and week, as LayOutAnalogRows says
+    Rows flags;    ///< which of the lower rows take part: the non-zero ones
     Rows heights;
 };
 
@@ -39,11 +64,18 @@ void LayOutThreeRows(const DigitalArea &area, Rows &positions);
 void LayOutFourRows(const DigitalArea &area, Rows &positions);
 void LayOutFiveRows(const DigitalArea &area, Rows &positions);
 
+/// The rows that an analog clock has around its lower anchor; the others become 0.
+constexpr Rows LowerRows(Rows rows)
+{
+    rows.topText = 0;
+    rows.time = 0;
+    return rows;
+}
+
 /// The rows of an analog clock: the top text around the upper anchor always; date, week and lunar
 /// date around the lower anchor, by their number. Swap exchanges date and week: with two rows when
 /// it is exactly 1, with three when it is not 0. The time row stays as it is.
-void LayOutAnalogRows(int areaWidth, int areaHeight, int space, int swap, const Rows &flags,
-                      const Rows &heights, Rows &positions);
+void LayOutAnalogRows(const AnalogArea &area, Rows &positions);
 
 /// The left edge of the first element on one line, given the sum of the widths of the elements
 /// that count and their number. However far outside it lies, an element in the middle of others may

@@ -50,15 +50,15 @@ public:
             }
             m_picture = m_picture.copy(); // without the paint engine
             if (m_picture.isNull())
-                m_image = QSize(); // for want of memory, it may be: another time
+                m_image = QSize(); // outside, or out of memory: tried again with the next frame
         }
         const QTransform &moved = painter.transform();
         painter.drawImage(m_place - QPoint(qRound(moved.dx()), qRound(moved.dy())), m_picture);
     }
 
 private:
-    // A transparent picture of what of the shape lies within the image. The fraction of no
-    // coordinate changes with the shift, nor does its sign.
+    // A transparent picture of what of the shape lies within the image. The shift is whole pixels
+    // and changes no coordinate's sign, so rasterising is unchanged.
     void NewPicture()
     {
         constexpr int kMargin = 2;

@@ -147,7 +147,7 @@ void TestGlyphLoading::OddFiles()
     file.write(content);
     file.close();
     QVERIFY(ReadImageFile(path).isNull());
-    QVERIFY(ReadGlyphFile(path).isNull());
+    QVERIFY(ReadPixmapFile(path).isNull());
 }
 
 void TestGlyphLoading::PipeDoesNotBlock()
@@ -321,7 +321,7 @@ void TestGlyphLoading::FilesOfLaterTimesAreRead()
     QCOMPARE(QProcess::execute("touch", {"--date", "2040-01-01 00:00:00", path}), 0);
     QCOMPARE(QFileInfo(path).lastModified().toSecsSinceEpoch(), Q_INT64_C(2208988800));
     QVERIFY(!ReadSmallPng(path).isEmpty());
-    QVERIFY(!ReadGlyphFile(path).isNull());
+    QVERIFY(!ReadPixmapFile(path).isNull());
     LiveGlyph live;
     QCOMPARE(LetteredGlyphs::Read(live.Load(path).Pixmap()), QStringLiteral("AA"));
 }

@@ -182,7 +182,7 @@ void TestRowLayout::Analog()
     QFETCH(int, swap);
     QFETCH(QString, tops);
     Rows positions = kNothing;
-    LayOutAnalogRows(area.width(), area.height(), space, swap, Flags(shown), kHeights, positions);
+    LayOutAnalogRows({area.width(), area.height(), space, swap, Flags(shown), kHeights}, positions);
     QCOMPARE(Text(positions), tops);
 }
 
@@ -198,7 +198,7 @@ void TestRowLayout::ExtremesStayInRange()
                 QVERIFY(qAbs(static_cast<long long>(y)) <= 1 << 24);
         }
         Rows positions;
-        LayOutAnalogRows(32767, 32767, space, 1, Flags("dwl"), kHeights, positions);
+        LayOutAnalogRows({32767, 32767, space, 1, Flags("dwl"), kHeights}, positions);
         QVERIFY(qAbs(static_cast<long long>(positions.lunar)) <= 1 << 24);
     }
 }
