@@ -93,6 +93,9 @@ enum class Attribute : int {
     Guid,
 };
 
+/// The values of Attribute::ClockType.
+enum ClockTypeCode { AnalogClock = 0, DigitalClock = 1, PictureClock = 2 };
+
 enum class ValueKind {
     Integer,
     Flag, ///< 1 shown, 0 hidden

@@ -1,7 +1,6 @@
 #include "clock_node.h"
 
 #include "calendar/clock_time.h"
-#include "clock_sdk_tables.h"
 
 #include "happconfig.h"
 

@@ -29,6 +29,10 @@ extern CLOCK_EXPORT QStringList fileMd5List;
 
 /// The type of the node and of the plugin that makes it.
 inline constexpr char kNodeType[] = "LW_Clock_Plugin";
+namespace Sdk {
+/// The tag of a clock's element.
+inline constexpr char kClock[] = "clock";
+} // namespace Sdk
 
 /// The constructor writes no attribute: InitData fills a new clock, UpdateNode one that is read.
 class CLOCK_EXPORT HClockNode : public Lw::HContentNode
@@ -41,7 +45,7 @@ public:
 
     // The host's operations.
     QString Type() override;                       ///< kNodeType
-    bool NodeMatch(QDomElement &element) override; ///< whether the tag is "clock"
+    bool NodeMatch(QDomElement &element) override; ///< whether the tag is Sdk::kClock
     /// Takes over what an SDK clock element says; what it does not mention stays. False for a null
     /// element and for a type that is neither analog nor digital: then only its font was taken.
     bool UpdateNode(QDomElement element, QList<Lw::FileInfo> &files) override;
@@ -110,8 +114,8 @@ public:
     void SetDigitalLunarColor(int colour);
 
     int CovertDisplay(QString text); ///< the SDK's "true" and "false" as 1 and 0
-    int
-    LWColorToInt(LWColor colour); ///< the stored int of a packed colour; its top byte is ignored
+    /// The stored int of a packed colour; its top byte is ignored.
+    int LWColorToInt(LWColor colour);
 
     // SDK XML. The keys are of attributes; what the node does not have is not written.
     void ClockSubnodeCoverToSDK(QDomElement &element, QString valueKey, QString colorKey,

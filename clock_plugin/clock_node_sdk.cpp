@@ -3,7 +3,6 @@
 
 #include "calendar/clock_time.h"
 #include "clock_sdk_tables.h"
-#include "glyph/glyph_set.h"
 
 #include "happconfig.h"
 

@@ -2,7 +2,6 @@
 
 #include "clock_node.h"
 #include "clock_render.h"
-#include "clock_sdk_tables.h"
 
 #include <QDomElement>
 

@@ -3,13 +3,13 @@
 #pragma once
 
 #include "clock_attributes.h"
+#include "clock_node.h"
 
 #include <optional>
 
 namespace Lw::HNodeClock {
 
 namespace Sdk {
-inline constexpr char kClock[] = "clock";
 inline constexpr char kClockCom[] = "clockCom"; ///< its presence marks the older form
 inline constexpr char kClockType[] = "clockType";
 inline constexpr char kFile[] = "file";

@@ -14,9 +14,6 @@
 
 namespace Lw::HNodeClock {
 
-/// The values of the attribute ClockType.
-enum ClockTypeCode { AnalogClock = 0, DigitalClock = 1, PictureClock = 2 };
-
 // A glyph image's file is called by the clock's type, its identity, the image's key and the suffix.
 inline constexpr char kAnalogPrefix[] = "analog_";
 inline constexpr char kDigitalPrefix[] = "digital_";
