@@ -33,10 +33,7 @@ public:
 
 HAppConfig::HAppConfig() : d(new Private) { }
 
-HAppConfig::~HAppConfig()
-{
-    delete d;
-}
+HAppConfig::~HAppConfig() = default;
 
 HAppConfig *HAppConfig::instance()
 {
@@ -46,7 +43,7 @@ HAppConfig *HAppConfig::instance()
 
 QString HAppConfig::ClockOutputPath()
 {
-    Private *const d = instance()->d;
+    Private *const d = instance()->d.data();
     if (d->clockOutputPath.isEmpty())
         SetClockOutputPath(QDir::tempPath() + QLatin1String("/lw_clock"));
     return d->clockOutputPath;
@@ -54,7 +51,7 @@ QString HAppConfig::ClockOutputPath()
 
 QString HAppConfig::TempProgramImagePath()
 {
-    Private *const d = instance()->d;
+    Private *const d = instance()->d.data();
     if (d->tempProgramImagePath.isEmpty())
         SetTempProgramImagePath(QDir::tempPath() + QLatin1String("/lw_clock_temp"));
     return d->tempProgramImagePath;

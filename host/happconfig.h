@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QScopedPointer>
 #include <QString>
 
 namespace Lw {
@@ -37,7 +38,7 @@ private:
     ~HAppConfig();
     Q_DISABLE_COPY(HAppConfig)
     class Private;
-    Private *d;
+    QScopedPointer<Private> d;
 };
 
 } // namespace Lw

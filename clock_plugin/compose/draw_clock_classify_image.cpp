@@ -6,10 +6,7 @@ namespace Lw::HNodeClock {
 
 DrawClockClassifyImage::DrawClockClassifyImage() : m_elements(new ElementComposer) { }
 
-DrawClockClassifyImage::~DrawClockClassifyImage()
-{
-    delete m_elements;
-}
+DrawClockClassifyImage::~DrawClockClassifyImage() = default;
 
 void DrawClockClassifyImage::InitParameters(HClockNode *node)
 {

@@ -10,6 +10,7 @@
 #include <QDateTime>
 #include <QObject>
 #include <QPixmap>
+#include <QScopedPointer>
 #include <QString>
 
 namespace Lw::HNodeClock {
@@ -52,7 +53,7 @@ public:
     ElementComposer &Elements();
 
 private:
-    ElementComposer *m_elements;
+    QScopedPointer<ElementComposer> m_elements;
 };
 
 } // namespace Lw::HNodeClock

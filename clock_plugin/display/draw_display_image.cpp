@@ -30,10 +30,7 @@ DrawDisplayImage::DrawDisplayImage(HClockNode *node) : d(new Private)
     ReLoadSourceFile(node);
 }
 
-DrawDisplayImage::~DrawDisplayImage()
-{
-    delete d;
-}
+DrawDisplayImage::~DrawDisplayImage() = default;
 
 void DrawDisplayImage::ReLoadSourceFile(HClockNode *node)
 {

@@ -16,6 +16,7 @@
 #include <QPixmap>
 #include <QPoint>
 #include <QPointer>
+#include <QScopedPointer>
 #include <QString>
 #include <QTime>
 
@@ -77,7 +78,7 @@ public:
 
 private:
     class Q_DECL_HIDDEN Private;
-    Private *d;
+    QScopedPointer<Private> d;
 };
 
 } // namespace Lw::HNodeClock

@@ -80,10 +80,7 @@ constexpr GlyphFont kDigitalFonts[] = {GlyphFont::TopText, GlyphFont::Date, Glyp
 
 DrwSourceIMage::DrwSourceIMage() : m_painter(new QPainter) { }
 
-DrwSourceIMage::~DrwSourceIMage()
-{
-    delete m_painter;
-}
+DrwSourceIMage::~DrwSourceIMage() = default;
 
 void DrwSourceIMage::InitParameters(HClockNode *node)
 {

@@ -69,7 +69,7 @@ private:
     Q_DECL_HIDDEN void Save(const QPixmap &pixmap, const QString &path);
     Q_DECL_HIDDEN void Record(HClockNode *node, const QString &key, const QString &path);
 
-    QPainter *m_painter;
+    QScopedPointer<QPainter> m_painter;
     QScopedPointer<QFont> m_typeface; ///< used last
     QString m_typefaceFamily;
     int m_typefaceSize = 0;
