@@ -23,7 +23,15 @@ QStringList fileMd5List;
 
 namespace {
 
+// The host's logs are searched for these lines, so their source and numbers do not follow ours.
 constexpr char kLogSource[] = "clock_node.cpp";
+constexpr int kMissingFileLine = 790;
+constexpr int kMovedFileLine = 839;
+constexpr int kNotTemporaryLine = 827;
+
+// Where programs lie that are only tried out, on the controller and on the editor's machine.
+constexpr char kControllerTempFolder[] = "/root/Box/project/temp/project/";
+constexpr char kEditorTempFolder[] = "/tmp/lwTempProgram/";
 
 /// The clock type that an element names; nothing where its type is a word of no kind of clock.
 std::optional<int> ClockTypeIn(const QDomElement &element)
@@ -42,8 +50,8 @@ std::optional<int> ClockTypeIn(const QDomElement &element)
 
 bool IsTemporaryProgramFile(const QString &path)
 {
-    return path.contains(QLatin1String("/root/Box/project/temp/project/"))
-        || path.contains(QLatin1String("/tmp/lwTempProgram/"));
+    return path.contains(QLatin1String(kControllerTempFolder))
+        || path.contains(QLatin1String(kEditorTempFolder));
 }
 
 } // namespace
@@ -87,7 +95,7 @@ bool HClockNode::CheckFileExists(QStringList keys)
         if (QFile::exists(path))
             continue;
         std::printf("[%s::%s::%d]\"File [%s] key[%s]not exists\"\n", kLogSource, "CheckFileExists",
-                    790, qUtf8Printable(path), qUtf8Printable(key));
+                    kMissingFileLine, qUtf8Printable(path), qUtf8Printable(key));
         return false;
     }
     return true;
@@ -113,8 +121,8 @@ void HClockNode::SetFileInfo(QString name, QString key, QString destDir)
     const QString source = Lw::HAppConfig::ClockOutputPath() + name + key + suffix;
     const QString digest = HMD5::FileDigest(source);
     const QString dest = destDir + digest + suffix;
-    std::printf("[%s::%s::%d]\"soucepath[%s], dest[%s]\"\n", kLogSource, "SetFileInfo", 839,
-                qUtf8Printable(source), qUtf8Printable(dest));
+    std::printf("[%s::%s::%d]\"soucepath[%s], dest[%s]\"\n", kLogSource, "SetFileInfo",
+                kMovedFileLine, qUtf8Printable(source), qUtf8Printable(dest));
     MoveToDigestName(source, dest, digest);
     fileList.append(dest);
     fileMd5List.append(digest);
@@ -131,8 +139,8 @@ void HClockNode::GetSDKTempFile(QList<QFileInfo> &out)
             continue;
         }
         std::printf("[%s::%s::%d]\"not in temp file[%s],md5[%s],exists:%d\"\n", kLogSource,
-                    "GetSDKTempFile", 827, qUtf8Printable(file.path), qUtf8Printable(file.md5),
-                    QFile::exists(file.path) ? 1 : 0);
+                    "GetSDKTempFile", kNotTemporaryLine, qUtf8Printable(file.path),
+                    qUtf8Printable(file.md5), QFile::exists(file.path) ? 1 : 0);
     }
 }
 
