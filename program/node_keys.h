@@ -2,15 +2,13 @@
 // the plugin.
 #pragma once
 
-#include <QString>
-
 namespace ClockProgram {
 
 /// Identity in the names of glyph files.
-const QString kIdKey = QStringLiteral("Id");
+inline constexpr char kIdKey[] = "Id";
 /// Kind of clock.
-const QString kClockTypeKey = QStringLiteral("ClockType");
+inline constexpr char kClockTypeKey[] = "ClockType";
 /// The kind that elements cannot say: its settings are all given as attributes.
-constexpr int kPictureClock = 2;
+inline constexpr int kPictureClock = 2;
 
 } // namespace ClockProgram

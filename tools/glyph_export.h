@@ -8,9 +8,9 @@
 namespace ClockTool {
 
 // What stands in the directory.
-const QString kExportedProgram = QStringLiteral("program.xml");
-const QString kExportedList = QStringLiteral("files.tsv");
-const QString kExportedFiles = QStringLiteral("files");
+inline constexpr char kExportedProgram[] = "program.xml";
+inline constexpr char kExportedList[] = "files.tsv";
+inline constexpr char kExportedFiles[] = "files";
 
 /// Told before each clock, which counts from 1.
 using ExportProgress = std::function<void(int clock)>;
