@@ -43,8 +43,8 @@ constexpr qint64 FloorDivide(qint64 value, qint64 divisor)
     return value / divisor - (value % divisor < 0 ? 1 : 0);
 }
 
-// A source may answer anything. Within these bounds, the years 285 million, zones and seconds are
-// added without overflow.
+// A source may answer anything. Within these bounds, some 285 million years either way, zones
+// and seconds are added without overflow.
 constexpr qint64 kFurthest = Q_INT64_C(9000000000000000000);
 
 qint64 ReadSource()

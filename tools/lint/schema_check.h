@@ -10,8 +10,8 @@ namespace ClockTool {
 struct SchemaReport
 {
     QVector<Finding> faults; ///< at most one a line
-    bool isVague =
-        false; ///< it is known only that something within or near these elements is wrong
+    /// It is known only that something within or near these elements is wrong.
+    bool isVague = false;
 };
 
 /// What the schema does not allow.
