@@ -26,6 +26,7 @@ public:
 
     QString GetAttribute(QString key);  ///< the value as text; empty when absent
     int GetAttributeToInt(QString key); ///< the value as int; 0 when absent or not a number
+    /// Creates or replaces. A host may tell others of it where asked to; this one never does.
     void SetAttribute(QString key, int value, bool notify);
     void SetAttribute(QString key, QString value, bool notify);
     bool HaveAttribute(QString key);
@@ -34,7 +35,7 @@ public:
     /// Records a file. A record of the same key is replaced in its place.
     void SetFilePath(QString key, QString path, QString name, long long size, int kind);
 
-    QString GetGuid();
+    QString GetGuid(); ///< the node's identifier; empty until it is set
     void SetGuid(QString guid);
     bool HaveSourcFile(); ///< whether any file is recorded
 

@@ -23,10 +23,10 @@ class INodePlugin
 {
 public:
     virtual ~INodePlugin() = default;
-    virtual QString name() { return QString(); }
+    virtual QString name() { return QString(); }        ///< for people; empty where there is none
     virtual bool PluginMatch(QDomElement &element) = 0; ///< whether the element is this plugin's
-    virtual int level() = 0;
-    virtual QString type() = 0;
+    virtual int level() = 0;    ///< plugins of lower levels are asked first; a clock's is 4
+    virtual QString type() = 0; ///< what HNode::Type says of its nodes
     virtual QIcon icon()
     {
         static QIcon none;

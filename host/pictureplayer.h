@@ -21,20 +21,21 @@ enum EffectType {
     EffectNone = 0,
 };
 
-/// The start record. Its fields lie without holes on the 32-bit device; fill it by name.
+/// The start record. Its fields lie without holes on the 32-bit device; fill it by name. This
+/// player keeps it whole and reads only the identifier.
 struct SessionParameter
 {
-    QString name;
-    quint32 playIdentifier;
-    QPoint position;
-    QSize size;
-    quint32 reservedWord;
-    quint32 words[5];
-    quint16 timing;
-    quint8 reservedBytes[2];
-    quint8 effectBytes[4];
-    bool alphaBlend;
-    bool lastFlag;
+    QString name;            ///< a clock has none
+    quint32 playIdentifier;  ///< as given to IContentRender::Start
+    QPoint position;         ///< of the area, pixels from the screen's top left
+    QSize size;              ///< of the area, pixels
+    quint32 reservedWord;    ///< the host's own: a clock leaves it unwritten
+    quint32 words[5];        ///< 0 for a clock
+    quint16 timing;          ///< 1000 for a clock, which has a frame every thousand milliseconds
+    quint8 reservedBytes[2]; ///< 0 for a clock
+    quint8 effectBytes[4];   ///< 0 for a clock: no effects
+    bool alphaBlend;         ///< whether the output can blend this node; HPluginManager says it
+    bool lastFlag;           ///< true for a clock
 };
 
 #if defined(__arm__) && QT_POINTER_SIZE == 4
@@ -46,19 +47,21 @@ class pictureplayer : public QObject
     Q_OBJECT
 
 public:
-    explicit pictureplayer(QObject *parent);
+    explicit pictureplayer(QObject *parent); ///< idle, without an image
     ~pictureplayer() override;
 
-    /// Prepares output. The record is copied; the caller keeps its own.
+    /// Prepares output and ends the wait for PlayNext. The record is copied; the caller keeps its
+    /// own. Null only ends the wait.
     void Init(const SessionParameter *parameter);
-    void UpdateImage(QImage image);
-    /// The next call of the renderer's PlayNext comes after that many milliseconds.
+    void UpdateImage(QImage image); ///< shows it until the next one; a null one too
+    /// The next call of the renderer's PlayNext comes after that many milliseconds; with 0 or less
+    /// when control returns to the event loop. The effect is not shown.
     void UpdateEffect(int milliseconds, EffectType effect);
-    void Stop();
+    void Stop(); ///< ends the wait; the last image stays
 
     // Beyond what plugins call, for players and tests.
-    SessionParameter Parameter();
-    QImage LastImage();
+    SessionParameter Parameter(); ///< a copy of the last record; all 0 before Init
+    QImage LastImage();           ///< the one given last to UpdateImage; null before
     /// Whose PlayNext the player of this identifier calls. Null unregisters. The renderer is held
     /// guarded: one that is deleted is simply no longer called.
     static void Register(unsigned int playIdentifier, Lw::IContentRender *render);
@@ -68,8 +71,8 @@ public:
     static void SetTimeScale(double scale);
 
 Q_SIGNALS:
-    void ImageUpdated(QImage image);
-    void EffectUpdated(int milliseconds);
+    void ImageUpdated(QImage image);      ///< within UpdateImage, once the image is kept
+    void EffectUpdated(int milliseconds); ///< within UpdateEffect, at its end
 
 private:
     class Private;

@@ -34,46 +34,67 @@ extern CLOCK_EXPORT QPoint hourHand[3];
 extern CLOCK_EXPORT QPoint minuteHand[3];
 extern CLOCK_EXPORT QPoint secondHand[3];
 
-/// Every operation does nothing when the node is gone.
+/// What needs the node does nothing when it is gone. A frame is made by DrawClockDisplayImage; the
+/// other operations are its steps, in the order in which it takes them. All lengths are pixels.
 class CLOCK_EXPORT DrawDisplayImage : public QObject
 {
     Q_OBJECT
 
 public:
+    /// The node stays its owner's; null is a node that is gone.
     explicit DrawDisplayImage(HClockNode *node);
     ~DrawDisplayImage() override;
 
-    /// Loads the node's glyph images again, after they were regenerated.
+    /// Loads the node's glyph images again, after they were regenerated. Null does nothing.
     void ReLoadSourceFile(HClockNode *node);
     /// The frame of this moment, the node's size, filled with the key colour where nothing is
     /// drawn. A node that is gone, or of no known clock type, gives the last frame.
     QImage DrawClockDisplayImage();
+    /// Reads the device's clock and works out what the clock shows, by its node's zone, adjustment
+    /// and daylight saving. All drawing is of this reading until the next call.
     void CalculateTimeZone();
-    /// The time of the second frame and the time now; untouched before the second frame.
+    /// The readings of the second call of CalculateTimeZone and of the last; untouched before the
+    /// second.
     void GetTime(QTime &start, QTime &now);
     QColor GetColorKey();            ///< what the host treats as transparent
     QColor ReturnQcolor(int colour); ///< 0x00BBGGRR, always opaque
 
     // Analog clock.
+    /// Works out the top edges of the text rows, which are measured for it. Draws nothing.
     void GetAngDisplayArea();
+    /// Draws the frame: a copy of the dial, hands over it. The text rows go onto the dial after
+    /// that, so they show from the next frame on. The dial is made anew only when the device's
+    /// date, the node's size or the half of the day has changed.
     void DrawAnalogClock();
-    void DrawAnalogClockDial();
+    void DrawAnalogClockDial(); ///< marks and numerals, onto the dial that DrawAnalogClock made
+    /// The AM/PM mark, likewise, where Analog_AMPM_d is 1.
     void DrawAnalogClock_AMPM();
-    void DrawAnalogClockPoint();
+    void DrawAnalogClockPoint(); ///< the hands, onto the frame; sets the hand size too
+    /// The text rows whose flag is 1, onto the dial, at the top edges worked out last.
     void DrawAnalogText();
+    /// Fills the three outlines above, for a dial of that many pixels across.
     void SetHandSize(int size);
 
     // Digital clock.
+    /// Works out the top edges of the rows whose flag is not 0, by their number and DigitalSpace.
     void GetDigitalDisplayArea();
+    /// The same for one number of rows, the gap between two being that many pixels, or negative.
+    /// Two, three and four do nothing where the node has another number of rows; one and five
+    /// place all five, whatever their flags.
     void Computations1Count();
     void Computations2Count(int space);
     void Computations3Count(int space);
     void Computations4Count(int space);
     void Computations5Count(int space);
+    /// Draws the frame: the elements whose flag is 1, on one line or at the top edges worked out
+    /// last.
     void DrawDigitalClock();
 
     // Picture clock.
+    /// Loads the pictures of the hands and of the style that PictrueClockType names. What cannot be
+    /// read is left out. Has the next analog dial made anew.
     void InitClockTypePixmap();
+    /// Draws the frame: dial and hands. Loads the pictures again when style or size has changed.
     void DrawPixmapClock();
 
 private:
