@@ -29,6 +29,7 @@ extern CLOCK_EXPORT QStringList fileMd5List;
 
 /// The type of the node and of the plugin that makes it.
 inline constexpr char kNodeType[] = "LW_Clock_Plugin";
+
 namespace Sdk {
 /// The tag of a clock's element.
 inline constexpr char kClock[] = "clock";
