@@ -33,7 +33,10 @@ public:
 
 HAppConfig::HAppConfig() : d(new Private) { }
 
-HAppConfig::~HAppConfig() = default;
+HAppConfig::~HAppConfig()
+{
+    delete d;
+}
 
 HAppConfig *HAppConfig::instance()
 {
@@ -43,7 +46,7 @@ HAppConfig *HAppConfig::instance()
 
 QString HAppConfig::ClockOutputPath()
 {
-    Private *const d = instance()->d.data();
+    Private *const d = instance()->d;
     if (d->clockOutputPath.isEmpty())
         SetClockOutputPath(QDir::tempPath() + QLatin1String("/lw_clock"));
     return d->clockOutputPath;
@@ -51,7 +54,7 @@ QString HAppConfig::ClockOutputPath()
 
 QString HAppConfig::TempProgramImagePath()
 {
-    Private *const d = instance()->d.data();
+    Private *const d = instance()->d;
     if (d->tempProgramImagePath.isEmpty())
         SetTempProgramImagePath(QDir::tempPath() + QLatin1String("/lw_clock_temp"));
     return d->tempProgramImagePath;

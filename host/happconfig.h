@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QColor>
-#include <QScopedPointer>
 #include <QString>
 
 namespace Lw {
@@ -38,7 +37,7 @@ private:
     ~HAppConfig();
     Q_DISABLE_COPY(HAppConfig)
     class Private;
-    QScopedPointer<Private> d;
+    Private *d; // plain: a host with settings of its own need not say what it is
 };
 
 } // namespace Lw

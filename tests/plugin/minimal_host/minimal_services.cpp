@@ -26,9 +26,6 @@ quint32 WithRedAndBlueExchanged(quint32 colour)
 
 namespace Lw {
 
-class HAppConfig::Private
-{ };
-
 HAppConfig::HAppConfig() : d(nullptr) { }
 
 HAppConfig::~HAppConfig() = default;
