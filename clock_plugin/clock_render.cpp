@@ -25,13 +25,16 @@ constexpr int kRefused = 2;
 // The state returns to 0 when the tick counter passes this.
 constexpr int kStartingTicks = 10;
 
-// Every field but the reserved word, which is the host's own.
-std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier, HClockNode *node)
+// Every field but the reserved word, which stays as it was allocated: it is the host's own. So the
+// record is made where it stays, for a copy would read that word. The host may take the node away
+// as each of its questions is asked; without one, size and position are those nobody set.
+std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
+                                              QPointer<HClockNode> node)
 {
     std::unique_ptr<SessionParameter> record(new SessionParameter);
     record->playIdentifier = playIdentifier;
-    record->size = node->Size();
-    record->position = node->Pos();
+    record->size = node ? node->Size() : QSize();
+    record->position = node ? node->Pos() : QPoint();
     std::fill(std::begin(record->words), std::end(record->words), 0);
     record->timing = 1000;
     std::fill(std::begin(record->reservedBytes), std::end(record->reservedBytes), quint8(0));
@@ -45,8 +48,8 @@ std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier, HCloc
 
 HClockRender::HClockRender(HClockNode *node) : m_node(node), m_state(kIdle)
 {
-    m_player = new pictureplayer(nullptr);
-    m_drawer = new DrawDisplayImage(m_node);
+    m_player.reset(new pictureplayer(nullptr));
+    m_drawer.reset(new DrawDisplayImage(m_node));
     m_drawer->InitClockTypePixmap();
 }
 
@@ -55,6 +58,8 @@ HClockRender::~HClockRender()
     CleanResources();
 }
 
+// What is called here is the host's, or a derived renderer's, and may remove this renderer, or
+// delete it or its node.
 void HClockRender::Start(unsigned int playIdentifier, long long)
 {
     if (!m_node || playIdentifier == 0 || !m_player) {
@@ -64,9 +69,17 @@ void HClockRender::Start(unsigned int playIdentifier, long long)
     m_playIdentifier = playIdentifier;
     m_tickCounter = 1;
     m_state = kStarted;
+    const QPointer<HClockRender> self(this);
     Stop();
-    m_player->Init(StartRecord(playIdentifier, m_node).get());
-    PlayNext();
+    if (!self || !m_player)
+        return;
+    auto record = StartRecord(playIdentifier, m_node);
+    if (!self || !m_player)
+        return;
+    m_player->Init(record.get());
+    record.reset();
+    if (self && m_player)
+        PlayNext();
 }
 
 void HClockRender::Pause() { }
@@ -79,8 +92,10 @@ void HClockRender::Stop()
 
 void HClockRender::Remove()
 {
+    const QPointer<HClockRender> self(this);
     Stop();
-    CleanResources();
+    if (self)
+        CleanResources();
 }
 
 void HClockRender::PlayNext()
@@ -113,11 +128,11 @@ int HClockRender::renderState()
 
 void HClockRender::CleanResources()
 {
-    delete std::exchange(m_drawer, nullptr);
-    if (pictureplayer *const player = std::exchange(m_player, nullptr)) {
+    m_drawer.reset();
+    // Whoever is asked to stop may come back here, or delete this renderer.
+    const QScopedPointer<pictureplayer> player(m_player.take());
+    if (player)
         player->Stop();
-        delete player;
-    }
 }
 
 void HClockRender::CountTick()

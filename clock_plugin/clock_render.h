@@ -7,6 +7,7 @@
 #include "icontentrender.h"
 
 #include <QPointer>
+#include <QScopedPointer>
 
 namespace Lw {
 class pictureplayer;
@@ -45,8 +46,8 @@ private:
     int m_state;
     unsigned int m_playIdentifier = 0;
     int m_tickCounter = 0;
-    DrawDisplayImage *m_drawer = nullptr; // null once removed, as the player
-    Lw::pictureplayer *m_player = nullptr;
+    QScopedPointer<DrawDisplayImage> m_drawer; // null once removed, as the player
+    QScopedPointer<Lw::pictureplayer> m_player;
 };
 
 } // namespace Lw::HNodeClock

@@ -9,8 +9,10 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <memory>
+#include <utility>
 
 using Lw::HPluginManager;
 using Lw::HNodeClock::Attribute;
@@ -71,6 +73,45 @@ public:
     QStringList calls;
 };
 
+/// A renderer whose Stop goes on to something else, after which it does not touch itself: it may
+/// be gone, and its memory is then spoilt, so that whoever goes on with it is seen.
+class StoppingRender : public HClockRender
+{
+public:
+    using HClockRender::HClockRender;
+    static void operator delete(void *memory, std::size_t size)
+    {
+        auto *const bytes = static_cast<volatile unsigned char *>(memory);
+        std::fill(bytes, bytes + size, static_cast<unsigned char>(0xa5));
+        ::operator delete(memory);
+    }
+    void Stop() override
+    {
+        HClockRender::Stop();
+        if (const std::function<void()> next = std::exchange(m_afterStop, {}))
+            next();
+    }
+    /// Once, for Remove stops too.
+    void AfterStop(std::function<void()> next) { m_afterStop = std::move(next); }
+
+private:
+    std::function<void()> m_afterStop;
+};
+
+/// A node of which the host learns the size only after something else has happened.
+class AskedNode : public HClockNode
+{
+public:
+    QSize Size() override
+    {
+        if (whenAsked)
+            std::exchange(whenAsked, {})();
+        return QSize(64, 32);
+    }
+
+    std::function<void()> whenAsked;
+};
+
 } // namespace
 
 class TestClockRender : public QObject
@@ -111,6 +152,14 @@ private Q_SLOTS:
     void RendererDeletedByTheFramesReceiver();
     void RendererDeletedWhenTheDelayIsTold();
     void RendererDeletedWithinATick();
+    void NodeDeletedByStop();
+    void RendererRemovedByStop();
+    void RendererDeletedByStop();
+    void RendererDeletedByStopOfRemove();
+    void NodeDeletedAsItsSizeIsAsked();
+    void RendererGoneAsTheSizeIsAsked_data();
+    void RendererGoneAsTheSizeIsAsked();
+    void StateWithinTheFrames();
 
 private:
     pictureplayer *Player() const { return pictureplayer::ForIdentifier(kId); }
@@ -472,6 +521,102 @@ void TestClockRender::RendererDeletedWithinATick()
     QTRY_VERIFY_WITH_TIMEOUT(!m_render, 5000);
     QTest::qWait(20);
     QVERIFY(!Player());
+}
+
+// The record of a start without a node has no place: that of a point and a size nobody set.
+void TestClockRender::NodeDeletedByStop()
+{
+    StoppingRender render(m_node.get());
+    render.AfterStop([this] { m_node.reset(); });
+    render.Start(kId + 1, 0);
+    QCOMPARE(render.renderState(), 1);
+    pictureplayer *const player = pictureplayer::ForIdentifier(kId + 1);
+    QVERIFY(player);
+    QCOMPARE(player->Parameter().position, QPoint(0, 0));
+    QCOMPARE(player->Parameter().size, QSize(-1, -1));
+    QVERIFY(player->LastImage().isNull());
+    QCOMPARE(g_messages, QStringList(kRefusalLine));
+}
+
+void TestClockRender::RendererRemovedByStop()
+{
+    StoppingRender render(m_node.get());
+    render.AfterStop([&render] { render.Remove(); });
+    render.Start(kId + 1, 0);
+    QVERIFY(!pictureplayer::ForIdentifier(kId + 1));
+    QCOMPARE(g_messages, QStringList());
+}
+
+void TestClockRender::RendererDeletedByStop()
+{
+    auto *const render = new StoppingRender(m_node.get());
+    const QPointer<HClockRender> guard(render);
+    render->AfterStop([render] { delete render; });
+    render->Start(kId + 1, 0);
+    QVERIFY(!guard);
+    QVERIFY(!pictureplayer::ForIdentifier(kId + 1));
+}
+
+void TestClockRender::RendererDeletedByStopOfRemove()
+{
+    auto *const render = new StoppingRender(m_node.get());
+    const QPointer<HClockRender> guard(render);
+    render->Start(kId + 1, 0);
+    render->AfterStop([render] { delete render; });
+    render->Remove();
+    QVERIFY(!guard);
+    QVERIFY(!pictureplayer::ForIdentifier(kId + 1));
+}
+
+// Of a node that is gone once its size is told, the place is no longer asked.
+void TestClockRender::NodeDeletedAsItsSizeIsAsked()
+{
+    auto *const node = new AskedNode;
+    node->SetPos(QPoint(5, 6));
+    HClockRender render(node);
+    node->whenAsked = [node] { delete node; };
+    render.Start(kId + 1, 0);
+    pictureplayer *const player = pictureplayer::ForIdentifier(kId + 1);
+    QVERIFY(player);
+    QCOMPARE(player->Parameter().size, QSize(64, 32));
+    QCOMPARE(player->Parameter().position, QPoint(0, 0));
+    QCOMPARE(g_messages, QStringList(kRefusalLine));
+}
+
+void TestClockRender::RendererGoneAsTheSizeIsAsked_data()
+{
+    QTest::addColumn<bool>("isDeleted");
+    QTest::newRow("removed") << false;
+    QTest::newRow("deleted") << true;
+}
+
+void TestClockRender::RendererGoneAsTheSizeIsAsked()
+{
+    QFETCH(bool, isDeleted);
+    AskedNode node;
+    std::unique_ptr<HClockRender> render(new HClockRender(&node));
+    node.whenAsked = [&render, isDeleted] { isDeleted ? render.reset() : render->Remove(); };
+    render->Start(kId + 1, 0);
+    QCOMPARE(!render, isDeleted);
+    QVERIFY(!pictureplayer::ForIdentifier(kId + 1));
+    QCOMPARE(g_messages, QStringList());
+}
+
+// The frame is counted after it was shown and before the delay is told: at the tenth, whoever is
+// told the delay finds the clock running steadily.
+void TestClockRender::StateWithinTheFrames()
+{
+    m_render->Start(kId, 0); // shows the first
+    QVector<int> shown;
+    QVector<int> told;
+    connect(Player(), &pictureplayer::ImageUpdated, this,
+            [&shown, this] { shown << m_render->renderState(); });
+    connect(Player(), &pictureplayer::EffectUpdated, this,
+            [&told, this] { told << m_render->renderState(); });
+    for (int frame = 2; frame <= 10; ++frame)
+        m_render->PlayNext();
+    QCOMPARE(shown, QVector<int>({1, 1, 1, 1, 1, 1, 1, 1, 1}));
+    QCOMPARE(told, QVector<int>({1, 1, 1, 1, 1, 1, 1, 1, 0}));
 }
 
 QTEST_MAIN(TestClockRender)

@@ -42,16 +42,19 @@ QString HData::GetAttribute(QString key)
 
 int HData::GetAttributeToInt(QString key)
 {
+    ++StoreOf(this).numbersRead[key];
     return StoreOf(this).values.value(key).toInt();
 }
 
-void HData::SetAttribute(QString key, int value, bool)
+void HData::SetAttribute(QString key, int value, bool last)
 {
+    StoreOf(this).writesWithTrue += last;
     StoreOf(this).values[key] = value;
 }
 
-void HData::SetAttribute(QString key, QString value, bool)
+void HData::SetAttribute(QString key, QString value, bool last)
 {
+    StoreOf(this).writesWithTrue += last;
     StoreOf(this).values[key] = value;
 }
 

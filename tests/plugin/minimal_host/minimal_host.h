@@ -8,8 +8,11 @@
 
 #include <QImage>
 #include <QMap>
+#include <QStringList>
 #include <QVariant>
 #include <QVector>
+
+#include <functional>
 
 namespace Lw {
 class HData;
@@ -26,9 +29,16 @@ struct Store
     QMap<QString, QVariant> values;
     QMap<QString, Lw::HSendFileInfo> files;
     QString guid;
+    QMap<QString, int> numbersRead; ///< how often a key was read as a number
+    int writesWithTrue = 0;         ///< how many writes had true as the last argument
 };
 
 Store &StoreOf(const Lw::HData *data);
+
+/// What the player and the plugin manager were asked, in order, with the arguments that count:
+/// "Init 7", "UpdateImage", "UpdateEffect 750 0", "Stop", "~", "SuportAlphaBlend" and the object
+/// name of the node.
+QStringList &Calls();
 
 /// What was played under one identifier: every frame and every wait in order.
 struct Session
@@ -41,5 +51,8 @@ struct Session
 };
 
 Session &SessionOf(unsigned int playIdentifier);
+
+/// Called once, when a player has been initialised.
+extern std::function<void()> whenInitialised;
 
 } // namespace MinimalHost

@@ -2,6 +2,7 @@
 #include "minimal_host.h"
 
 #include "happconfig.h"
+#include "hnode.h"
 #include "hpluginmanager.h"
 
 #include <QTemporaryDir>
@@ -94,8 +95,10 @@ HPluginManager *HPluginManager::instance()
     return &manager;
 }
 
-bool HPluginManager::SuportAlphaBlend(Lw::HNode *)
+bool HPluginManager::SuportAlphaBlend(Lw::HNode *node)
 {
+    MinimalHost::Calls() << QStringLiteral("SuportAlphaBlend ")
+            + (node ? node->objectName() : QString());
     return true;
 }
 

@@ -94,6 +94,13 @@ private Q_SLOTS:
     void GlyphFilesAreRecorded();
     void PictureClockRecordsNoFiles();
     void ColoursKeepTheirBytes();
+    void WhatThePlayerIsAsked();
+    void RefusedStartAsksNothing();
+    void DestructionStopsThePlayerFirst();
+    void RendererGoneByInitialising_data();
+    void RendererGoneByInitialising();
+    void PicturesAreLoadedAtConstruction();
+    void WritesPassFalse();
 };
 
 void TestMinimalHost::initTestCase()
@@ -218,6 +225,115 @@ void TestMinimalHost::ColoursKeepTheirBytes()
     const QDomElement time = parent.elementsByTagName(QStringLiteral("time")).at(0).toElement();
     QCOMPARE(time.attribute(QStringLiteral("color")),
              QStringLiteral("#ff0ac832")); // opaque, as all are written
+}
+
+void TestMinimalHost::WhatThePlayerIsAsked()
+{
+    QStringList &calls = MinimalHost::Calls();
+    const std::unique_ptr<Lw::HNode> node = MakeNode(kAnalog);
+    node->setObjectName(QStringLiteral("this clock"));
+    const std::unique_ptr<Lw::IContentRender> render(Plugin()->CreateAreaRender(node.get()));
+    calls.clear();
+    render->Start(79, 0);
+    QCOMPARE(calls,
+             QStringList({"Stop", "SuportAlphaBlend this clock", "Init 79", "UpdateImage",
+                          "UpdateEffect 750 0"}));
+
+    calls.clear();
+    QStringList tenFrames;
+    for (int frame = 0; frame < 10; ++frame) {
+        g_now += 1001; // the milliseconds of the second are 251 and so on
+        render->PlayNext();
+        tenFrames << "UpdateImage" << QStringLiteral("UpdateEffect %1 0").arg(749 - frame);
+    }
+    QCOMPARE(calls, tenFrames);
+
+    calls.clear();
+    render->Pause();
+    QCOMPARE(calls, QStringList());
+    render->Stop();
+    QCOMPARE(calls, QStringList("Stop"));
+
+    calls.clear();
+    render->Remove();
+    QCOMPARE(calls, QStringList({"Stop", "Stop", "~"}));
+    render->Remove();
+    QCOMPARE(calls.size(), 3);
+}
+
+void TestMinimalHost::RefusedStartAsksNothing()
+{
+    std::unique_ptr<Lw::HNode> node = MakeNode(kAnalog);
+    const std::unique_ptr<Lw::IContentRender> render(Plugin()->CreateAreaRender(node.get()));
+    MinimalHost::Calls().clear();
+    render->Start(0, 0);
+    node.reset();
+    render->Start(80, 0);
+    QCOMPARE(MinimalHost::Calls(), QStringList());
+}
+
+void TestMinimalHost::DestructionStopsThePlayerFirst()
+{
+    const std::unique_ptr<Lw::HNode> node = MakeNode(kAnalog);
+    std::unique_ptr<Lw::IContentRender> render(Plugin()->CreateAreaRender(node.get()));
+    MinimalHost::Calls().clear();
+    render.reset();
+    QCOMPARE(MinimalHost::Calls(), QStringList({"Stop", "~"}));
+}
+
+void TestMinimalHost::RendererGoneByInitialising_data()
+{
+    QTest::addColumn<bool>("isDeleted");
+    QTest::addColumn<QStringList>("calls");
+    const QStringList start {"Stop", "SuportAlphaBlend ", "Init 81"};
+    QTest::newRow("removed") << false << start + QStringList {"Stop", "Stop", "~"};
+    QTest::newRow("deleted") << true << start + QStringList {"Stop", "~"};
+}
+
+void TestMinimalHost::RendererGoneByInitialising()
+{
+    QFETCH(bool, isDeleted);
+    QFETCH(QStringList, calls);
+    const std::unique_ptr<Lw::HNode> node = MakeNode(kAnalog);
+    std::unique_ptr<Lw::IContentRender> render(Plugin()->CreateAreaRender(node.get()));
+    MinimalHost::Calls().clear();
+    MinimalHost::whenInitialised = [&render, isDeleted] {
+        isDeleted ? render.reset() : render->Remove();
+    };
+    render->Start(81, 0);
+    QCOMPARE(!render, isDeleted);
+    QCOMPARE(MinimalHost::Calls(), calls);
+}
+
+// Which style to load is asked of the node when the renderer is made, not at the first frame.
+void TestMinimalHost::PicturesAreLoadedAtConstruction()
+{
+    const std::unique_ptr<Lw::HNode> node = MakeNode(QByteArray());
+    node->SetAttribute(QStringLiteral("ClockType"), 2, false);
+    const QString style = QStringLiteral("PictrueClockType");
+    QCOMPARE(MinimalHost::StoreOf(node.get()).numbersRead.value(style), 0);
+    const std::unique_ptr<Lw::IContentRender> render(Plugin()->CreateAreaRender(node.get()));
+    QCOMPARE(MinimalHost::StoreOf(node.get()).numbersRead.value(style), 1);
+}
+
+// The last argument of every write, of numbers and of texts.
+void TestMinimalHost::WritesPassFalse()
+{
+    const std::unique_ptr<Lw::HNode> node(Plugin()->Create());
+    const MinimalHost::Store &store = MinimalHost::StoreOf(node.get());
+    node->InitData();
+    QCOMPARE(store.values.size(), 74);
+    QCOMPARE(store.writesWithTrue, 0);
+
+    QDomDocument document;
+    QList<Lw::FileInfo> files;
+    QVERIFY(document.setContent(QByteArray(R"(<clock type="digital" adjust="-01:02:03">
+        <font name="DejaVu Sans" size="9" color="#102030"/> <title text="a"/>
+        <time display="true" format="1"/></clock>)")));
+    QVERIFY(node->UpdateNode(document.documentElement(), files));
+    QCOMPARE(node->GetAttribute(QStringLiteral("TimeAdjust")), QStringLiteral("01A02B03"));
+    QCOMPARE(node->GetAttribute(QStringLiteral("DigitalTopText")), QStringLiteral("a"));
+    QCOMPARE(store.writesWithTrue, 0);
 }
 
 QTEST_MAIN(TestMinimalHost)
