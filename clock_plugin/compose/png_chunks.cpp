@@ -24,14 +24,25 @@ constexpr int kSignatureLength = sizeof kPngSignature - 1;
 // A PNG ends with this chunk, which is always the same.
 constexpr char kLastChunk[] = "IEND\xae\x42\x60\x82";
 
-constexpr const char *kKept[] = {"IHDR", "PLTE", "IDAT", "IEND", "tRNS",
-                                 "bKGD", "sBIT", "gAMA", "cHRM", "sRGB"};
+// Those that bear on the pixels, of the chunks that a reader may leave out.
+constexpr const char *kKept[] = {"tRNS", "bKGD", "sBIT", "gAMA", "cHRM", "sRGB"};
 
-bool IsKept(const char *name)
+constexpr const char *kCritical[] = {"IHDR", "PLTE", "IDAT", "IEND"};
+
+template<std::size_t count>
+bool IsAmong(const char *const (&names)[count], const char *name)
 {
-    return std::any_of(std::begin(kKept), std::end(kKept), [name](const char *kept) {
-        return std::equal(kept, kept + kNameLength, name);
+    return std::any_of(std::begin(names), std::end(names), [name](const char *known) {
+        return std::equal(known, known + kNameLength, name);
     });
+}
+
+// Names are of letters. One that begins with a small letter says that the picture is the same
+// without the chunk; a reader that does not know any other must not show the picture.
+bool IsAncillary(const char *name)
+{
+    const auto isLetter = [](char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; };
+    return (*name & 0x20) != 0 && std::all_of(name, name + kNameLength, isLetter);
 }
 
 // The cyclic redundancy check of ISO 3309, which PNG takes over the name and content of a chunk:
@@ -89,6 +100,9 @@ QSize SizeOfIntactPng(const QByteArray &png)
             || Checksum(chunk + kNameAt, kNameLength + length)
                 != qFromBigEndian<quint32>(chunk + kHeadLength + length))
             return QSize();
+        const char *const name = chunk + kNameAt;
+        if (!IsAncillary(name) && !IsAmong(kCritical, name))
+            return QSize();
         if (isHeader) {
             const char *const content = chunk + kHeadLength;
             if (length != kHeaderLength
@@ -112,7 +126,8 @@ QByteArray PixelChunks(QIODevice &png)
         if (head.size() < kHeadLength)
             return chunks;
         const qint64 rest = qFromBigEndian<quint32>(head.constData()) + qint64(kChecksumLength);
-        if (!IsKept(head.constData() + kNameAt)) {
+        const char *const name = head.constData() + kNameAt;
+        if (IsAncillary(name) && !IsAmong(kKept, name)) {
             if (!png.seek(png.pos() + rest))
                 return chunks;
             continue;

@@ -15,6 +15,19 @@
 
 using namespace Lw::HNodeClock;
 
+namespace {
+
+constexpr int kHeaderEnd = 33; // where the chunk after a PNG's header begins
+constexpr int kLastChunk = 12; // the length of its last
+
+/// The checksum, in hexadecimal digits, is Python's zlib.crc32 of the name.
+QByteArray EmptyChunk(const char *name, const char *checksum)
+{
+    return QByteArray(4, '\0') + name + QByteArray::fromHex(checksum);
+}
+
+} // namespace
+
 class TestGlyphLoading : public QObject
 {
     Q_OBJECT
@@ -27,6 +40,7 @@ private Q_SLOTS:
     void MonthSpacer();
     void OddFiles_data();
     void OddFiles();
+    void UnknownChunksThatMayBeLeftOut();
     void PipeDoesNotBlock();
     void TooLargeIsNotDecoded();
     void TextsInPicturesAreLeftOut();
@@ -130,12 +144,20 @@ void TestGlyphLoading::OddFiles_data()
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("text") << QByteArray("not a picture");
     QTest::newRow("signature only") << whole.left(8);
-    QTest::newRow("header only") << whole.left(33);
+    QTest::newRow("header only") << whole.left(kHeaderEnd);
     QTest::newRow("cut in half") << whole.left(whole.size() / 2);
     QByteArray broken = whole;
     for (int i = 45; i < broken.size() - 20; ++i)
         broken[i] = static_cast<char>(broken.at(i) ^ 0x5a);
     QTest::newRow("broken pixels") << broken;
+    // A name with a capital letter first: nobody may show the picture without the chunk.
+    const auto withChunk = [&whole](int at, const char *name, const char *checksum) {
+        return whole.left(at) + EmptyChunk(name, checksum) + whole.mid(at);
+    };
+    QTest::newRow("unknown chunk that is needed") << withChunk(kHeaderEnd, "CLKx", "9c3633ab");
+    QTest::newRow("unknown chunk that is needed, at the end")
+        << withChunk(whole.size() - kLastChunk, "CLKx", "9c3633ab");
+    QTest::newRow("chunk without a name") << withChunk(kHeaderEnd, "0000", "0c9bc472");
 }
 
 void TestGlyphLoading::OddFiles()
@@ -146,8 +168,28 @@ void TestGlyphLoading::OddFiles()
     QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
     file.write(content);
     file.close();
+    QVERIFY(QPixmap(path).isNull());
     QVERIFY(ReadImageFile(path).isNull());
     QVERIFY(ReadPixmapFile(path).isNull());
+    QCOMPARE(GlyphStrip::OfFile(path).Width(), 0);
+}
+
+// Chunks that begin with a small letter, known or not, are no reason to refuse a picture.
+void TestGlyphLoading::UnknownChunksThatMayBeLeftOut()
+{
+    QImage image(20, 20, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    QByteArray png;
+    QBuffer buffer(&png);
+    QVERIFY(buffer.open(QBuffer::WriteOnly) && image.save(&buffer, "png"));
+    const QString path = m_directory.filePath("more.png");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(png.left(kHeaderEnd) + EmptyChunk("cLKx", "3c049c95") + png.mid(kHeaderEnd));
+    file.close();
+    QCOMPARE(QPixmap(path).size(), QSize(20, 20));
+    QCOMPARE(ReadImageFile(path).size(), QSize(20, 20));
+    QCOMPARE(GlyphStrip::OfFile(path).Width(), 20);
 }
 
 void TestGlyphLoading::PipeDoesNotBlock()
