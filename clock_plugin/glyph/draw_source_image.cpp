@@ -113,10 +113,10 @@ void DrwSourceIMage::DrawClockSourceImage(HClockNode *node, bool calcMD5, bool i
     if (!node)
         return;
     m_isTempUpdate = isTempUpdate;
+    if (node->ClockType() == PictureClock)
+        return;
     m_calcMd5 = calcMD5;
     InitParameters(node);
-    if (m_clockType == PictureClock)
-        return;
     const QString id = QString::number(node->GetAttributeToInt(Key(Attribute::Id)));
     for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, m_clockType))
         DrawGlyph(node, image, id);

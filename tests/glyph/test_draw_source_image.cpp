@@ -158,6 +158,23 @@ private Q_SLOTS:
         QVERIFY(m_output->TemporaryFiles().isEmpty());
     }
 
+    // A picture clock sets where images go, and nothing else of the generator.
+    void pictureClockLeavesTheSettingsOfTheClockBefore()
+    {
+        HClockNode digital;
+        FillNode(digital, DigitalClock, 7);
+        HClockNode picture;
+        FillNode(picture, PictureClock, 8);
+        DrwSourceIMage generator;
+        generator.DrawClockSourceImage(&digital);
+        generator.DrawClockSourceImage(&picture, true, false);
+        generator.DrawImage(&digital, "_k", "text", "7", "DejaVu Sans", 12, 0, "_k.png");
+        QCOMPARE(digital.GetFirstFile("_k"), m_output->Regular() + "digital_7_k.png");
+        generator.DrawClockSourceImage(&picture, true, true);
+        generator.DrawImage(&digital, "_k", "text", "7", "DejaVu Sans", 12, 0, "_k.png");
+        QCOMPARE(digital.GetFirstFile("_k"), m_output->Temporary() + "digital_7_k.png");
+    }
+
     void nullNode()
     {
         DrwSourceIMage generator;
