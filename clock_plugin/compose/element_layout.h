@@ -20,7 +20,8 @@ enum DateType {
     DateWithMinus = 8,
 };
 
-/// The time formats. Every other code shows hours, label, minutes and seconds.
+/// The time formats. Codes above show hours, label, minutes and seconds; negative ones the
+/// separator for the label.
 enum TimeType {
     TimeToSecond = 0,
     TimeToMinute = 1,
@@ -33,7 +34,8 @@ enum TimeType {
 /// for formats that show no label.
 Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month, int day);
 
-/// The digits of the time, with the AM/PM mark after them (null for none).
+/// The digits of the time, with the AM/PM mark after them (null for none); empty where the time
+/// itself has no width.
 Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minute, int second,
                     const GlyphStrip &mark);
 

@@ -22,13 +22,15 @@ constexpr TimeFormat kTimeFormats[] = {
     /* 3 */ {{Part::Hour, Part::Label0, Part::Minute, Part::Label1}, 4},
     /* 4 */ {{Part::Hour, Part::Separator, Part::Minute}, 3},
 };
-constexpr TimeFormat kOtherFormat = {{Part::Hour, Part::Label0, Part::Minute, Part::Second}, 4};
+constexpr TimeFormat kAboveTheList = {{Part::Hour, Part::Label0, Part::Minute, Part::Second}, 4};
+constexpr TimeFormat kBelowTheList = {{Part::Hour, Part::Separator, Part::Minute, Part::Second}, 4};
 // clang-format on
 
 const TimeFormat &FormatOf(int timeType)
 {
-    const bool listed = timeType >= TimeToSecond && timeType <= TimeShortHour;
-    return listed ? kTimeFormats[timeType] : kOtherFormat;
+    if (timeType < TimeToSecond)
+        return kBelowTheList;
+    return timeType > TimeShortHour ? kAboveTheList : kTimeFormats[timeType];
 }
 
 class TimeWriter
@@ -40,8 +42,8 @@ public:
           m_label(glyphs.timeCh.Width() / kLabelCells)
     { }
 
-    // Formats outside the list have the room of separators, of which their label takes what it
-    // needs: the end of their seconds may be cut off.
+    // Formats outside the list have the room of two separators. Those above it take what their
+    // label needs of it: the end of their seconds may be cut off.
     long long Width() const
     {
         const long long digit = m_digit;
@@ -114,7 +116,8 @@ Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minut
 {
     const TimeWriter writer(glyphs, timeType, hour, minute, second);
     const long long width = writer.Width();
-    Element element(width + mark.Width(), glyphs.timeCh.Height());
+    // Without digits and separators there is no canvas for the time, whose height the mark's is.
+    Element element(width + mark.Width(), width > 0 ? glyphs.timeCh.Height() : 0);
     const TimeFormat &format = FormatOf(timeType);
     for (int i = 0; i < format.count; ++i)
         writer.Write(element, format.parts[static_cast<std::size_t>(i)]);

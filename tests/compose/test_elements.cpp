@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <climits>
+
 using namespace Lw::HNodeClock;
 
 class TestElements : public QObject
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void TimeFormats();
     void TwelveHours_data();
     void TwelveHours();
+    void MarkWithoutATime_data();
+    void MarkWithoutATime();
     void HiddenMarkTakesNoRoom();
     void ShownHourStaysConverted();
     void MarkIsLoadedLive();
@@ -161,6 +165,9 @@ void TestElements::TimeFormats_data()
     // Twelve digits' columns and two separators are reserved; the label takes three.
     QTest::newRow("beyond the list")
         << 5 << afternoon << (T("13") + "hhh" + T("07") + T("42")).left(14);
+    // The same room, of which the one separator leaves a column.
+    QTest::newRow("negative") << -1 << afternoon << T("13") + ":" + T("07") + T("42") + "_";
+    QTest::newRow("smallest") << INT_MIN << afternoon << T("13") + ":" + T("07") + T("42") + "_";
 }
 
 void TestElements::TimeFormats()
@@ -199,6 +206,31 @@ void TestElements::TwelveHours()
     ChosenTime::Set(qPrintable(instant));
     m_node->SetAttribute("DigitalMode", 1, false);
     QCOMPARE(LetteredGlyphs::Read(Time(type)), columns);
+}
+
+void TestElements::MarkWithoutATime_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("columns");
+    QTest::newRow("to the second") << 0 << "";
+    QTest::newRow("to the minute") << 1 << "";
+    QTest::newRow("labels") << 2 << "hhhmmmsss_PPP";
+    QTest::newRow("labels to the minute") << 3 << "hhhmmm_PPP";
+    QTest::newRow("short hour") << 4 << "";
+    QTest::newRow("beyond the list") << 5 << "";
+}
+
+// The mark's canvas is as high as the time's, which without digits and separators is none at all.
+void TestElements::MarkWithoutATime()
+{
+    QFETCH(int, type);
+    QFETCH(QString, columns);
+    m_node->SetAttribute("DigitalMode", 1, false);
+    for (const char *const key : {"_timeNumber", "_timeChar"})
+        m_node->SetFilePath(key, "/nowhere.png", QString(), -1, 3);
+    const QPixmap time = Time(type);
+    QCOMPARE(LetteredGlyphs::Read(time), columns);
+    QCOMPARE(time.height(), columns.isEmpty() ? 0 : 6);
 }
 
 void TestElements::HiddenMarkTakesNoRoom()

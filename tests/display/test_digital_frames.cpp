@@ -111,11 +111,11 @@ void TestDigitalFrames::EveryFormatIsPlain()
     const QDateTime instant = Utc("2024-03-05T13:07:42");
     ChosenTime::Set(instant);
     for (const int date : {0, 1, 2, 3, 4, 5, 6, 8, 9}) {
-        for (int time = 0; time <= 4; ++time) {
+        for (int time = -1; time <= 5; ++time) {
             for (int twelve = 0; twelve <= 1; ++twelve) {
                 clock.Set("DigitalDateType", date);
                 clock.Set("DigitalTimeType", time);
-                clock.Set("DigitalWeekType", time % 4);
+                clock.Set("DigitalWeekType", qAbs(time % 4));
                 clock.Set("DigitalMode", twelve);
                 DrawDisplayImage drawer(&clock.node);
                 COMPARE_FRAMES(

@@ -169,7 +169,7 @@ QPixmap PlainDigitalClock::Time(const Shown &s)
         parts << separator << minute;
         break;
     default:
-        parts << Cell(labels, 3, 0) << minute << second;
+        parts << (type > 4 ? Cell(labels, 3, 0) : separator) << minute << second;
         break;
     }
     QPixmap time = Canvas(width, labels.height());
