@@ -18,6 +18,10 @@
 
 using Lw::INodePlugin;
 
+// The host's own; plugins only hand it on.
+class Lw::HVersion
+{ };
+
 namespace {
 
 const char kPluginFile[] = CLOCK_PLUGIN_FILE;
@@ -181,6 +185,8 @@ void TestLoader::InheritedDefaults()
     QVERIFY(!plugin->AddFileBasisSupport("png", nullptr, index, 0));
     QCOMPARE(plugin->SupportSuffix(), QStringList());
     QVERIFY(plugin->SuportController(controller));
+    Lw::HVersion version;
+    QVERIFY(plugin->ConvertVersion(nullptr, version));
     plugin->AppQuit();
     plugin->D3DLoseDevice();
 }
