@@ -236,7 +236,8 @@ void TestUnwritableDisk::ReadOnly_data()
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("what");
     for (const int kind : {AnalogClock, DigitalClock}) {
-        for (const char *const what : {"directory", "files", "file system"})
+        for (const char *const what :
+             {"directory", "directory of files that are not", "files", "file system"})
             QTest::addRow("%s, %s", KindName(kind), what) << kind << QString::fromLatin1(what);
     }
 }
@@ -258,12 +259,12 @@ void TestUnwritableDisk::ReadOnly()
     const QImage shown = SettledFrame(clock->node, kMorning);
     const QTemporaryDir target;
     QFile::setPermissions(target.path(), QFile::Permissions(0x7777));
-    QFile::setPermissions(clock->Directory(),
-                          QFile::Permissions(what == QLatin1String("directory") ? 0x5555 : 0x7777));
-    if (what == QLatin1String("files")) {
+    const bool isDirectory = what.startsWith(QLatin1String("directory"));
+    QFile::setPermissions(clock->Directory(), QFile::Permissions(isDirectory ? 0x5555 : 0x7777));
+    if (what.contains(QLatin1String("files"))) {
         for (const QString &name : before.keys())
             QFile::setPermissions(clock->Directory() + QLatin1Char('/') + name,
-                                  QFile::Permissions(0x4444));
+                                  QFile::Permissions(isDirectory ? 0x6666 : 0x4444));
     }
     if (disk)
         QVERIFY(disk->MakeReadOnly());
