@@ -540,10 +540,14 @@ void TestClockRender::NodeDeletedByStop()
 
 void TestClockRender::RendererRemovedByStop()
 {
-    StoppingRender render(m_node.get());
+    AskedNode node;
+    StoppingRender render(&node);
     render.AfterStop([&render] { render.Remove(); });
+    bool isAsked = false;
+    node.whenAsked = [&isAsked] { isAsked = true; };
     render.Start(kId + 1, 0);
     QVERIFY(!pictureplayer::ForIdentifier(kId + 1));
+    QVERIFY(!isAsked);
     QCOMPARE(g_messages, QStringList());
 }
 

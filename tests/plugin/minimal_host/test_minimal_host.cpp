@@ -35,6 +35,13 @@ long long Now()
     return g_now;
 }
 
+QStringList g_messages;
+
+void Collect(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    g_messages << text;
+}
+
 Lw::INodePlugin *Plugin()
 {
     return qobject_cast<Lw::INodePlugin *>(
@@ -300,7 +307,11 @@ void TestMinimalHost::RendererGoneByInitialising()
     MinimalHost::whenInitialised = [&render, isDeleted] {
         isDeleted ? render.reset() : render->Remove();
     };
+    g_messages.clear();
+    const QtMessageHandler before = qInstallMessageHandler(&Collect);
     render->Start(81, 0);
+    qInstallMessageHandler(before);
+    QCOMPARE(g_messages, QStringList());
     QCOMPARE(!render, isDeleted);
     QCOMPARE(MinimalHost::Calls(), calls);
 }
