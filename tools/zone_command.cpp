@@ -1,7 +1,7 @@
 // clock_tool zone: the settings with which a clock shows a zone's civil time.
 #include "commands.h"
-#include "lint/suggestion.h"
 #include "output.h"
+#include "suggestion.h"
 #include "tool_arguments.h"
 #include "zones/system_zones.h"
 
@@ -19,7 +19,8 @@ using namespace Lw::HNodeClock;
 constexpr char kDescription[] =
     "Writes the settings with which a clock shows a zone's civil time, ready to be put into the\n"
     "<clock> of a program, and what was found when they were held against every change of the\n"
-    "zone in ten years. The zone is named as the system names it: Europe/Berlin.\n"
+    "zone in ten years. The zone is named as the system names it: Europe/Berlin. Of settings that\n"
+    "are right all the time, those are written that stay so longest after it, and until when.\n"
     "\n"
     "The end of daylight saving is in the zone's standard time, as the clock reads it: an hour\n"
     "before the published one.\n"
@@ -68,6 +69,23 @@ QString ErrorText(int seconds)
         .arg(QLatin1String(seconds > 0 ? "fast" : "slow"));
 }
 
+/// Nobody should take the settings to be right for ever.
+QString LookAgain(qint64 until)
+{
+    return QStringLiteral("; look again after %1").arg(DateOf(until).leftRef(4).toInt() - 1);
+}
+
+/// How long settings hold that are exact, before what was looked at after the ten years ends.
+QString Lasting(qint64 until, const CivilTime &after)
+{
+    if (until < after.end)
+        return Comment(QStringLiteral("They stay right until %1").arg(TextOf(until))
+                       + LookAgain(until));
+    return Comment(QStringLiteral("They stay right until %1, where the system's zone data end")
+                       .arg(DateOf(until))
+                   + LookAgain(until));
+}
+
 QString Verdict(const QString &zone, const CivilTime &civil, const QVector<WrongTime> &wrong)
 {
     const QString span =
@@ -82,7 +100,9 @@ QString Verdict(const QString &zone, const CivilTime &civil, const QVector<Wrong
     for (const WrongTime &time : wrong)
         text += Comment(QStringLiteral("from %1 to %2: %3")
                             .arg(TextOf(time.begin), TextOf(time.end), ErrorText(time.error)));
-    return text;
+    return text
+        + Comment(QStringLiteral("What comes after %1 was not looked at").arg(DateOf(civil.end))
+                  + LookAgain(civil.end));
 }
 
 Failure NoSuchZone(const QString &name)
@@ -128,13 +148,16 @@ CommandResult RunZone(const QStringList &arguments)
                            .arg(kFirstYear)
                            .arg(kLastYear)});
     const QString name = tool.Positional(0);
-    const auto civil = CivilTimeOf(name.toUtf8(), TenYearsFrom(first));
-    if (!civil)
+    const Span span = TenYearsFrom(first);
+    const auto civil = CivilTimeOf(name.toUtf8(), span);
+    const auto after = CivilTimeOf(name.toUtf8(), ListedAfter(span));
+    if (!civil || !after)
         return Report(NoSuchZone(name));
-    const ZoneSettings settings = BestSettings(*civil);
+    const ZoneSettings settings = BestSettings(*civil, *after);
     const QVector<WrongTime> wrong = WrongTimes(settings, *civil);
-    const CommandResult delivered =
-        Deliver(tool.Output(), (SettingLines(settings) + Verdict(name, *civil, wrong)).toUtf8());
+    const QString text = SettingLines(settings) + Verdict(name, *civil, wrong)
+        + (wrong.isEmpty() ? Lasting(RightUntil(settings, *after), *after) : QString());
+    const CommandResult delivered = Deliver(tool.Output(), text.toUtf8());
     if (delivered != ExitCode::Success)
         return delivered;
     return wrong.isEmpty() ? ExitCode::Success : ExitCode::RuntimeFailure;

@@ -27,6 +27,7 @@ class TestToolZone : public QObject
 private slots:
     void exact_data();
     void exact();
+    void exactForAWhile();
     void notExact();
     void unknown_data();
     void unknown();
@@ -58,6 +59,20 @@ void TestToolZone::exact()
                           settings["DaylightSavingTimeStart"], settings["DaylightSavingTimeEnd"]}),
              values);
     QVERIFY2(run.output.contains("exact from 2026-01-01 to 2036-01-01"), qPrintable(run.output));
+    QVERIFY2(run.output.contains("right until 2038-01-01, where the system's zone data end; look "
+                                 "again after 2037"),
+             qPrintable(run.output));
+}
+
+// The Saturday before the last Sunday of October is the last one, but in 2037.
+void TestToolZone::exactForAWhile()
+{
+    const ProcessRun run = RunTool({"zone", "Asia/Beirut", "--year", "2027"});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(Settings(run.output)["DaylightSavingTimeEnd"], QString("10.Last.6.23:00:00"));
+    QVERIFY2(run.output.contains("exact from 2027-01-01 to 2037-01-01"), qPrintable(run.output));
+    QVERIFY2(run.output.contains("right until 2037-10-24T21:00:00Z; look again after 2036"),
+             qPrintable(run.output));
 }
 
 // The last Sunday of March 2030 is the 31st, and the Friday before it the fifth.
@@ -71,6 +86,8 @@ void TestToolZone::notExact()
     QVERIFY2(run.output.contains("from 2030-03-22T00:00:00Z to 2030-03-29T00:00:00Z: 1:00:00 fast"),
              qPrintable(run.output));
     QCOMPARE(run.output.count("fast") + run.output.count("slow"), 1);
+    QVERIFY2(run.output.contains("after 2036-01-01 was not looked at; look again after 2035"),
+             qPrintable(run.output));
     QCOMPARE(Settings(run.output)["DaylightSavingTimeStart"], QString("3.4.5.02:00:00"));
 }
 

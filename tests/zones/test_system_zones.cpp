@@ -78,6 +78,12 @@ QVector<qint64> InstantsToCheck(const QTimeZone &zone, const QVector<WrongTime> 
     return instants;
 }
 
+// What is listed of a zone after a span.
+CivilTime After(const QByteArray &zone, const Span &span)
+{
+    return CivilTimeOf(zone, ListedAfter(span)).value_or(CivilTime());
+}
+
 void RequireZones()
 {
     QVERIFY2(ZoneNames().size() > 100, "the system's time zone data (tzdata) is missing");
@@ -97,6 +103,8 @@ private slots:
     void everyZoneIsAsTold();
     void exactness_data();
     void exactness();
+    void rightUntil_data();
+    void rightUntil();
     void oldDecades_data();
     void oldDecades();
     void otherNames_data();
@@ -124,6 +132,8 @@ void TestSystemZones::tenYears()
     const Span span = TenYearsFrom(first);
     QCOMPARE(DateOf(span.begin), first.toString(Qt::ISODate));
     QTEST(DateOf(span.end), "end");
+    QCOMPARE(ListedAfter(span).begin, span.end);
+    QCOMPARE(DateOf(ListedAfter(span).end), QStringLiteral("2038-01-01"));
     QVERIFY(TenYearsFrom(QDate(2038, 6, 1)).end < TenYearsFrom(QDate(2038, 6, 1)).begin);
 }
 
@@ -144,7 +154,7 @@ void TestSystemZones::everyZoneIsAsTold()
     for (const QByteArray &name : names) {
         const auto civil = CivilTimeOf(name, span);
         QVERIFY2(civil, name.constData());
-        const ZoneSettings settings = BestSettings(*civil);
+        const ZoneSettings settings = BestSettings(*civil, After(name, span));
         const QVector<WrongTime> wrong = WrongTimes(settings, *civil);
         exact += wrong.isEmpty() ? 1 : 0;
         Clock clock(settings);
@@ -190,9 +200,43 @@ void TestSystemZones::exactness()
     QFETCH(bool, exact);
     const auto civil = CivilTimeOf(QTest::currentDataTag(), YearsFrom(2026));
     QVERIFY(civil);
-    const ZoneSettings best = BestSettings(*civil);
+    const ZoneSettings best = BestSettings(*civil, After(QTest::currentDataTag(), YearsFrom(2026)));
     QCOMPARE(QStringList({best.ZoneText(), best.start, best.end}).join(' '), settings);
     QCOMPARE(WrongTimes(best, *civil).isEmpty(), exact);
+}
+
+// Found hour by hour: these zones change on whole hours.
+void TestSystemZones::rightUntil_data()
+{
+    QTest::addColumn<int>("year");
+    QTest::addColumn<QString>("until");
+    QTest::newRow("Europe/Berlin") << 2026 << "2038-01-01T00:00:00Z";
+    QTest::newRow("America/New_York") << 2020 << "2038-01-01T00:00:00Z";
+    // It ends with the last Sunday of October; the Saturday before that is the last Saturday but in
+    // 2037, where it is the 24th and the last one the 31st. The change is at 24:00 of summer time.
+    QTest::newRow("Asia/Beirut") << 2027 << "2037-10-24T21:00:00Z";
+    // By the rules of 1990 to 1999. Since 2007 it begins on the second Sunday of March, the 11th.
+    QTest::newRow("America/Chicago") << 1990 << "2007-03-11T08:00:00Z";
+}
+
+void TestSystemZones::rightUntil()
+{
+    QFETCH(int, year);
+    QFETCH(QString, until);
+    const QByteArray name = QTest::currentDataTag();
+    const Span span = YearsFrom(year);
+    const auto civil = CivilTimeOf(name, span);
+    QVERIFY(civil);
+    const ZoneSettings best = BestSettings(*civil, After(name, span));
+    QVERIFY(WrongTimes(best, *civil).isEmpty());
+    QCOMPARE(Utc(RightUntil(best, After(name, span))).toString(Qt::ISODate), until);
+    Clock clock(best);
+    const QTimeZone zone(name);
+    constexpr qint64 kHour = 3600 * 1000;
+    qint64 at = ListedAfter(span).begin;
+    while (at < ListedAfter(span).end && clock.OffsetAt(at) == zone.offsetFromUtc(Utc(at)))
+        at += kHour;
+    QCOMPARE(Utc(at).toString(Qt::ISODate), until);
 }
 
 void TestSystemZones::oldDecades_data()
@@ -210,7 +254,7 @@ void TestSystemZones::oldDecades()
     QFETCH(int, year);
     const auto civil = CivilTimeOf(QTest::currentDataTag(), YearsFrom(year));
     QVERIFY(civil);
-    const ZoneSettings best = BestSettings(*civil);
+    const ZoneSettings best = BestSettings(*civil, After(QTest::currentDataTag(), YearsFrom(year)));
     QTEST(QStringList({best.ZoneText(), best.start, best.end}).join(' '), "settings");
     QVERIFY(WrongTimes(best, *civil).isEmpty());
 }

@@ -69,6 +69,12 @@ CivilTime Cairo()
                   {"2026-10-29T21:00:00", 2 * kHour}});
 }
 
+// The span after one of which nothing more is known.
+CivilTime Nothing(const CivilTime &civil)
+{
+    return {civil.end, civil.end, civil.offset, {}};
+}
+
 QString Text(const ZoneSettings &settings)
 {
     return settings.ZoneText() + QLatin1Char(' ') + settings.start + QLatin1Char(' ')
@@ -106,6 +112,8 @@ private slots:
     void rulesNaming();
     void bestSettings_data();
     void bestSettings();
+    void bestSettingsAfterwards_data();
+    void bestSettingsAfterwards();
     void wrongTimes_data();
     void wrongTimes();
     void nothingToLookAt();
@@ -189,7 +197,42 @@ void TestZoneRule::bestSettings_data()
 void TestZoneRule::bestSettings()
 {
     QFETCH(CivilTime, civil);
-    QTEST(Text(BestSettings(civil)), "settings");
+    QTEST(Text(BestSettings(civil, Nothing(civil))), "settings");
+}
+
+// From 2024 to 2026 April has four Fridays, and the fourth is the last. In 2027 fourth and last
+// are the 23rd and the 30th.
+void TestZoneRule::bestSettingsAfterwards_data()
+{
+    QTest::addColumn<CivilTime>("after");
+    QTest::addColumn<QString>("settings");
+    QTest::addColumn<QString>("until");
+    const auto row = [](const char *name, const char *start, const char *settings,
+                        const char *until) {
+        QTest::newRow(name) << Civil("2027-01-01T00:00:00", "2028-01-01T00:00:00", 2 * kHour,
+                                     {{start, 3 * kHour}, {"2027-10-28T21:00:00", 2 * kHour}})
+                            << settings << until;
+    };
+    row("the last goes on", "2027-04-29T22:00:00", "+02:00 4.Last.5.00:00:00 10.Last.4.23:00:00",
+        "2028-01-01T00:00:00Z");
+    row("the fourth goes on", "2027-04-22T22:00:00", "+02:00 4.4.5.00:00:00 10.Last.4.23:00:00",
+        "2028-01-01T00:00:00Z");
+    // The fourth begins a week before the change, the last one only two hours after it.
+    row("neither, and the last is right for longer", "2027-04-29T20:00:00",
+        "+02:00 4.Last.5.00:00:00 10.Last.4.23:00:00", "2027-04-29T20:00:00Z");
+    // Both miss a change before either; the first one tried stays.
+    row("neither, and both as long", "2027-03-25T22:00:00",
+        "+02:00 4.Last.5.00:00:00 10.Last.4.23:00:00", "2027-03-25T22:00:00Z");
+}
+
+void TestZoneRule::bestSettingsAfterwards()
+{
+    QFETCH(CivilTime, after);
+    const ZoneSettings best = BestSettings(Cairo(), after);
+    QTEST(Text(best), "settings");
+    QVERIFY(WrongTimes(best, Cairo()).isEmpty());
+    const qint64 until = RightUntil(best, after);
+    QTEST(QDateTime::fromMSecsSinceEpoch(until, Qt::UTC).toString(Qt::ISODate), "until");
 }
 
 void TestZoneRule::wrongTimes_data()
@@ -245,8 +288,9 @@ void TestZoneRule::wrongTimes()
 void TestZoneRule::nothingToLookAt()
 {
     const CivilTime nothing;
-    QCOMPARE(Text(BestSettings(nothing)), QStringLiteral("+00:00  "));
+    QCOMPARE(Text(BestSettings(nothing, nothing)), QStringLiteral("+00:00  "));
     QVERIFY(WrongTimes(Settings(kHour, "", ""), nothing).isEmpty());
+    QCOMPARE(RightUntil(Settings(kHour, "", ""), nothing), nothing.end);
 }
 
 QTEST_GUILESS_MAIN(TestZoneRule)

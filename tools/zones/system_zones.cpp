@@ -1,6 +1,6 @@
 #include "system_zones.h"
 
-#include "lint/suggestion.h"
+#include "suggestion.h"
 
 #include "calendar/clock_time.h"
 
@@ -31,6 +31,11 @@ constexpr const char *kMuchUsed[] = {
 QDateTime Utc(qint64 milliseconds)
 {
     return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+}
+
+qint64 MidnightOf(const QDate &date)
+{
+    return QDateTime(date, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
 }
 
 /// Nothing that reaches outside the folder of zones.
@@ -78,10 +83,12 @@ QString CityOf(const QString &zone)
 
 Span TenYearsFrom(const QDate &first)
 {
-    const auto begin = [](const QDate &date) {
-        return QDateTime(date, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
-    };
-    return {begin(first), begin(qMin(first.addYears(kYears), QDate(kListedUpTo, 1, 1)))};
+    return {MidnightOf(first), MidnightOf(qMin(first.addYears(kYears), QDate(kListedUpTo, 1, 1)))};
+}
+
+Span ListedAfter(const Span &span)
+{
+    return {span.end, qMax(span.end, MidnightOf(QDate(kListedUpTo, 1, 1)))};
 }
 
 QString DateOf(qint64 utc)

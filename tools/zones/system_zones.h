@@ -11,7 +11,7 @@
 
 namespace ClockTool {
 
-/// A while in milliseconds since 1970-01-01 UTC, without its end.
+/// A span in milliseconds since 1970-01-01 UTC, without its end.
 struct Span
 {
     qint64 begin;
@@ -22,6 +22,9 @@ struct Span
 /// 2037. It ends before it begins for a later day.
 Span TenYearsFrom(const QDate &first);
 
+/// What comes after a span, as far as the system's data list the changes of zones; may be empty.
+Span ListedAfter(const Span &span);
+
 /// "2026-03-29", in UTC.
 QString DateOf(qint64 utc);
 
@@ -29,14 +32,14 @@ QString DateOf(qint64 utc);
 /// names of these are understood besides.
 QList<QByteArray> ZoneNames();
 
-/// A zone's civil time over a while; nothing for a name that the system does not know.
+/// A zone's civil time over a span; nothing for a name that the system does not know.
 std::optional<CivilTime> CivilTimeOf(const QByteArray &zone, const Span &span);
 
 /// The zone that somebody may have meant by an unknown name: a city without its continent, or a
 /// slip of the pen. Empty when there is none.
 QString NearestZone(const QString &name);
 
-/// A zone of which settings give the civil time over the whole while, a much used one where there
+/// A zone of which settings give the civil time over the whole span, a much used one where there
 /// are several; empty when there is none.
 QByteArray ZoneWith(const ZoneSettings &settings, const Span &span);
 

@@ -65,7 +65,7 @@ private:
     DaylightSaving m_daylight;
 };
 
-/// Every instant of the while at which clock or zone may change, its begin among them.
+/// Every instant of the span at which clock or zone may change, its beginning among them.
 QVector<qint64> Instants(const SimulatedClock &clock, const CivilTime &civil)
 {
     QVector<qint64> instants {civil.begin};
@@ -91,7 +91,7 @@ qint64 TotalOf(const QVector<WrongTime> &times)
 }
 
 /// Offsets that a clock can have, from those of the zone, the most frequent reason for a zone's
-/// offset first: the one at the begin.
+/// offset first: the one at the beginning.
 QVector<int> PossibleOffsets(const CivilTime &civil)
 {
     QVector<int> offsets;
@@ -120,7 +120,7 @@ QVector<qint64> ReadingsNear(qint64 reading)
     return readings;
 }
 
-/// The rules that may name the begin of daylight saving over a standard offset, or its end.
+/// The rules that may name the beginning of daylight saving over a standard offset, or its end.
 QStringList PossibleRules(const CivilTime &civil, int standard, bool isStart)
 {
     const int daylight = standard + DaylightSaving::kShiftSeconds;
@@ -143,26 +143,30 @@ QStringList PossibleRules(const CivilTime &civil, int standard, bool isStart)
 class Choice
 {
 public:
-    explicit Choice(const CivilTime &civil) : m_civil(civil) { }
+    Choice(const CivilTime &civil, const CivilTime &after) : m_civil(civil), m_after(after) { }
 
     void Try(const ZoneSettings &settings)
     {
-        if (IsExact())
-            return;
+        if (m_wrong == 0 && m_rightUntil == m_after.end)
+            return; // there is nothing better
         const qint64 wrong = TotalOf(WrongTimes(settings, m_civil));
-        if (m_wrong >= 0 && wrong >= m_wrong)
+        const qint64 until = wrong == 0 ? RightUntil(settings, m_after) : m_after.begin;
+        const bool isBetter = wrong < m_wrong || (wrong == m_wrong && until > m_rightUntil);
+        if (m_wrong >= 0 && !isBetter)
             return;
         m_wrong = wrong;
+        m_rightUntil = until;
         m_best = settings;
     }
 
-    bool IsExact() const { return m_wrong == 0; }
     const ZoneSettings &Best() const { return m_best; }
 
 private:
     const CivilTime &m_civil;
+    const CivilTime &m_after;
     ZoneSettings m_best;
-    qint64 m_wrong = -1;
+    qint64 m_wrong = -1; // milliseconds; none tried yet
+    qint64 m_rightUntil = 0;
 };
 
 } // namespace
@@ -198,6 +202,12 @@ QVector<WrongTime> WrongTimes(const ZoneSettings &settings, const CivilTime &civ
     return times;
 }
 
+qint64 RightUntil(const ZoneSettings &settings, const CivilTime &civil)
+{
+    const QVector<WrongTime> wrong = WrongTimes(settings, civil);
+    return wrong.isEmpty() ? civil.end : wrong.first().begin;
+}
+
 QStringList RulesNaming(qint64 reading)
 {
     const QDateTime time = Utc(reading);
@@ -218,9 +228,9 @@ QStringList RulesNaming(qint64 reading)
     return rules;
 }
 
-ZoneSettings BestSettings(const CivilTime &civil)
+ZoneSettings BestSettings(const CivilTime &civil, const CivilTime &after)
 {
-    Choice choice(civil);
+    Choice choice(civil, after);
     const QVector<int> offsets = PossibleOffsets(civil);
     for (const int offset : offsets)
         choice.Try({offset, QString(), QString()});
