@@ -4,18 +4,13 @@
 #include "instant.h"
 #include "led_screen.h"
 
-#include "catalogues.h"
+#include "command_support.h"
 
 #include <QCommandLineParser>
 
 namespace ClockPlayer {
 
 namespace {
-
-Failure UsageFailure(const QString &text)
-{
-    return {ExitCode::UsageError, text + QStringLiteral(" (see --help)")};
-}
 
 /// Checks what the options say, one after the other; the first thing wrong is kept.
 class OptionReader
@@ -25,13 +20,13 @@ public:
 
     CommandLine Read()
     {
-        m_options.checkDisplay = m_parser.isSet(kCheckDisplay);
+        m_options.checkDisplay = IsSet(kCheckDisplay);
         m_options.platform = Text(kPlatform);
         m_options.pluginDirectory = Text(kPluginDir);
         m_options.filesDirectory = Text(kFilesDir);
         ReadProgramPath();
         ReadUseFiles();
-        m_options.printsStats = m_parser.isSet(kStats);
+        m_options.printsStats = IsSet(kStats);
         ReadOutput();
         ReadLedPitch();
         ReadInstant();
@@ -43,11 +38,14 @@ public:
     }
 
 private:
-    QString Text(const QString &option)
+    bool IsSet(const char *option) const { return m_parser.isSet(QLatin1String(option)); }
+    QString Value(const char *option) const { return m_parser.value(QLatin1String(option)); }
+
+    QString Text(const char *option)
     {
-        if (m_parser.isSet(option) && m_parser.value(option).isEmpty())
-            Fail(QStringLiteral("--%1 needs a value").arg(option));
-        return m_parser.value(option);
+        if (IsSet(option) && Value(option).isEmpty())
+            Fail(QStringLiteral("--%1 needs a value").arg(QLatin1String(option)));
+        return Value(option);
     }
 
     void ReadProgramPath()
@@ -62,8 +60,8 @@ private:
 
     void ReadUseFiles()
     {
-        m_options.usesFiles = m_parser.isSet(kUseFiles);
-        if (m_options.usesFiles && m_parser.isSet(kFilesDir))
+        m_options.usesFiles = IsSet(kUseFiles);
+        if (m_options.usesFiles && IsSet(kFilesDir))
             Fail(QStringLiteral("--files-dir is where images are made; --use-files makes none"));
     }
 
@@ -76,67 +74,69 @@ private:
         ReadFrameNumber(kMagnify, kMaximumMagnification, m_options.magnification);
     }
 
-    void ReadFrameNumber(const QString &option, int maximum, int &number)
+    void ReadFrameNumber(const char *option, int maximum, int &number)
     {
         ReadNumber(option, 1, maximum, number);
-        if (m_parser.isSet(option) && !m_options.WritesFrames())
-            Fail(QStringLiteral("--%1 needs --output").arg(option));
+        if (IsSet(option) && !m_options.WritesFrames())
+            Fail(QStringLiteral("--%1 needs --output").arg(QLatin1String(option)));
     }
 
-    void ReadNumber(const QString &option, int minimum, int maximum, int &number)
+    void ReadNumber(const char *option, int minimum, int maximum, int &number)
     {
-        if (!m_parser.isSet(option))
+        if (!IsSet(option))
             return;
         bool isNumber = false;
-        number = m_parser.value(option).toInt(&isNumber);
+        number = Value(option).toInt(&isNumber);
         if (!isNumber || number < minimum || number > maximum)
             Fail(QStringLiteral("--%1 needs a whole number from %2 to %3, not \"%4\"")
-                     .arg(option, QString::number(minimum), QString::number(maximum),
-                          m_parser.value(option)));
+                     .arg(QLatin1String(option), QString::number(minimum), QString::number(maximum),
+                          Value(option)));
     }
 
     void ReadLedPitch()
     {
         ReadNumber(kLed, kMinimumLedPitch, kMaximumLedPitch, m_options.ledPitch);
-        if (m_parser.isSet(kLed) && m_parser.isSet(kMagnify))
-            Fail(QStringLiteral("--%1 and --%2 exclude each other").arg(kLed, kMagnify));
+        if (IsSet(kLed) && IsSet(kMagnify))
+            Fail(QStringLiteral("--%1 and --%2 exclude each other")
+                     .arg(QLatin1String(kLed), QLatin1String(kMagnify)));
     }
 
     void ReadSpeed()
     {
-        if (!m_parser.isSet(kSpeed))
+        if (!IsSet(kSpeed))
             return;
         bool isNumber = false;
-        m_options.speed = m_parser.value(kSpeed).toDouble(&isNumber);
+        m_options.speed = Value(kSpeed).toDouble(&isNumber);
         // What is not a number is not within the bounds either.
         if (!isNumber || !(m_options.speed >= kMinimumSpeed && m_options.speed <= kMaximumSpeed))
             Fail(QStringLiteral("--%1 needs a number from %2 to %3, not \"%4\"")
-                     .arg(kSpeed, QString::number(kMinimumSpeed), QString::number(kMaximumSpeed),
-                          m_parser.value(kSpeed)));
+                     .arg(QLatin1String(kSpeed), QString::number(kMinimumSpeed),
+                          QString::number(kMaximumSpeed), Value(kSpeed)));
     }
 
     void ReadInstant()
     {
-        if (!m_parser.isSet(kAt))
+        if (!IsSet(kAt))
             return;
-        m_options.startInstant = ParseInstant(m_parser.value(kAt));
+        m_options.startInstant = ParseInstant(Value(kAt));
         if (!m_options.startInstant)
             Fail(QStringLiteral("--at needs an instant such as 2024-03-31T01:59:58Z, not \"%1\"")
-                     .arg(m_parser.value(kAt)));
+                     .arg(Value(kAt)));
     }
 
     void ReadLanguage()
     {
-        m_options.language = m_parser.value(kLanguage);
-        if (m_parser.isSet(kLanguage) && !ClockCatalogues::Languages().contains(m_options.language))
-            Fail(QStringLiteral("no language \"%1\"; there are %2")
-                     .arg(m_options.language, LanguageList()));
+        m_options.language = Value(kLanguage);
+        if (IsSet(kLanguage))
+            Keep(CheckLanguage(m_options.language));
     }
 
-    void Fail(const QString &text)
+    void Fail(const QString &text) { Keep(UsageFailure(text)); }
+
+    void Keep(const MaybeFailure &failure)
     {
         if (!m_failure)
-            m_failure = UsageFailure(text);
+            m_failure = failure;
     }
 
     const QCommandLineParser &m_parser;
@@ -154,9 +154,11 @@ CommandLine ParseCommandLine(const QStringList &arguments)
     AddOptions(parser);
     if (!parser.parse(arguments))
         return UsageFailure(parser.errorText());
-    if (parser.isSet(kHelp))
-        return Information {parser.helpText()};
-    if (parser.isSet(kVersion))
+    if (parser.isSet(QLatin1String(kHelp)))
+        return Information {HelpText(
+            parser,
+            QStringLiteral("clock_player [options] %1").arg(QLatin1String(kProgramArgument)))};
+    if (parser.isSet(QLatin1String(kVersion)))
         return Information {QStringLiteral("clock_player " CLOCK_PLAYER_VERSION "\n")};
     return OptionReader(parser).Read();
 }

@@ -1,7 +1,8 @@
-// The options of the command line: their names, and what --help says of them.
+// The options of the command line: the names of those that only the player has, and what --help
+// says of all.
 #pragma once
 
-#include <QString>
+#include <QtGlobal>
 
 QT_BEGIN_NAMESPACE
 class QCommandLineParser;
@@ -9,29 +10,25 @@ QT_END_NAMESPACE
 
 namespace ClockPlayer {
 
-const QString kHelp = QStringLiteral("help");
-const QString kVersion = QStringLiteral("version");
-const QString kOutput = QStringLiteral("output");
-const QString kFrames = QStringLiteral("frames");
-const QString kMagnify = QStringLiteral("magnify");
-const QString kLed = QStringLiteral("led");
-const QString kAt = QStringLiteral("at");
-const QString kSpeed = QStringLiteral("speed");
-const QString kStats = QStringLiteral("stats");
-const QString kLanguage = QStringLiteral("language");
-const QString kPluginDir = QStringLiteral("plugin-dir");
-const QString kFilesDir = QStringLiteral("files-dir");
-const QString kUseFiles = QStringLiteral("use-files");
-const QString kPlatform = QStringLiteral("platform");
+inline constexpr char kFrames[] = "frames";
+inline constexpr char kMagnify[] = "magnify";
+inline constexpr char kLed[] = "led";
+inline constexpr char kAt[] = "at";
+inline constexpr char kSpeed[] = "speed";
+inline constexpr char kStats[] = "stats";
+inline constexpr char kPluginDir[] = "plugin-dir";
+inline constexpr char kFilesDir[] = "files-dir";
+inline constexpr char kUseFiles[] = "use-files";
+inline constexpr char kPlatform[] = "platform";
 // For scripts that start the player: what to play, and where to write, when nothing was said.
-const QString kDefaultProgram = QStringLiteral("default-program");
-const QString kDefaultOutput = QStringLiteral("default-output");
-const QString kCheckDisplay = QStringLiteral("check-display");
+inline constexpr char kDefaultProgram[] = "default-program";
+inline constexpr char kDefaultOutput[] = "default-output";
+inline constexpr char kCheckDisplay[] = "check-display";
+
+/// What the one argument is called.
+inline constexpr char kProgramArgument[] = "PROGRAM.xml";
 
 /// Adds the options, the description and the one argument.
 void AddOptions(QCommandLineParser &parser);
-
-/// The languages that can be chosen, for people.
-QString LanguageList();
 
 } // namespace ClockPlayer

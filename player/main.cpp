@@ -1,6 +1,8 @@
 // clock_player: plays content programs as the display's host does.
 #include "player.h"
 
+#include "command_support.h"
+
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -12,8 +14,7 @@ using namespace ClockPlayer;
 
 void Say(const QString &text)
 {
-    for (const QString &line : text.split(QLatin1Char('\n')))
-        std::fprintf(stderr, "clock_player: %s\n", qPrintable(line));
+    SayAs("clock_player", text);
 }
 
 int Report(const Failure &failure)
@@ -67,9 +68,7 @@ int RunOnDisplay(int argc, char **argv, const Options &options, const Program &p
 
 int main(int argc, char **argv)
 {
-    // Text sizes are points: the same number of pixels on every display.
-    if (!qEnvironmentVariableIsSet("QT_FONT_DPI"))
-        qputenv("QT_FONT_DPI", "96");
+    FixFontResolution();
 
     // What has changed is shown at once, not gathered for five milliseconds.
     if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))

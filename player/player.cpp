@@ -46,7 +46,7 @@ MaybeFailure PrepareDirectory(const QString &path)
 }
 
 // Without a time source in any plugin the clocks can still show the present.
-MaybeFailure UseTime(const Options &options, Playback::Travelling &travelling)
+MaybeFailure InstallTimeSource(const Options &options, Playback::Travelling &travelling)
 {
     const MaybeFailure failure = SetTimeSource(&PlayerTime::Now);
     travelling = failure ? Playback::Travelling::Impossible : Playback::Travelling::Possible;
@@ -54,7 +54,7 @@ MaybeFailure UseTime(const Options &options, Playback::Travelling &travelling)
     return isNeeded ? failure : std::nullopt;
 }
 
-void SetOut(const Options &options)
+void BeginTravel(const Options &options)
 {
     if (options.startInstant)
         PlayerTime::RunFrom(*options.startInstant);
@@ -89,7 +89,7 @@ MaybeFailure PlayInWindow(Stage &stage, const Options &options, Playback::Travel
     QObject::connect(&playback, &Playback::StatsWanted, print);
     QObject::connect(&reportSignal, &SignalPipe::Received, print);
     window.show();
-    SetOut(options);
+    BeginTravel(options);
     playback.Start();
     QGuiApplication::exec();
     if (options.printsStats)
@@ -138,7 +138,7 @@ MaybeFailure Play(const Options &options, const Program &program, const Warn &wa
     if (const MaybeFailure failure = LoadPlugins(PluginDirectory(options), warnings))
         return failure;
     auto travelling = Playback::Travelling::Impossible;
-    if (const MaybeFailure failure = UseTime(options, travelling))
+    if (const MaybeFailure failure = InstallTimeSource(options, travelling))
         return failure;
 
     const QTemporaryDir temporary;

@@ -1,6 +1,8 @@
 // clock_tool: checks programs, converts them, and carries their glyph files.
 #include "commands.h"
 
+#include "command_support.h"
+
 #include <QGuiApplication>
 
 #include <cstdio>
@@ -17,7 +19,7 @@ struct Command
 };
 
 constexpr Command kCommands[] = {
-    {"lint", RunLint, "check a program, and say what its clocks would not read"},
+    {"lint", RunLint, "check programs, and say what their clocks would not read"},
     {"sdk", RunSdk, "write the SDK XML of a program's clocks"},
     {"import", RunImport, "make a program from SDK XML"},
     {"export", RunExport, "write a program with its glyph files, ready to be carried away"},
@@ -29,7 +31,12 @@ constexpr Command kCommands[] = {
 
 QString HelpText()
 {
-    QString text = QStringLiteral("Usage: clock_tool COMMAND [arguments]\n\nCommands:\n");
+    QString text = QStringLiteral("Usage: clock_tool COMMAND [arguments]\n"
+                                  "\n"
+                                  "Checks content programs of clocks, converts them, and carries "
+                                  "their glyph files.\n"
+                                  "\n"
+                                  "Commands:\n");
     for (const Command &command : kCommands)
         text += QStringLiteral("  %1 %2\n")
                     .arg(QLatin1String(command.name), -11)
@@ -43,7 +50,10 @@ QString HelpText()
                "  1  something failed, such as writing; for lint: something was found;\n"
                "     for zone: not exact; for self-test: something is wrong here\n"
                "  2  the command line is wrong\n"
-               "  3  the input is missing or wrong; the message says where\n");
+               "  3  the input is missing or wrong; the message says where\n"
+               "\n"
+               "Environment:\n")
+        + QLatin1String(ClockProgram::kSharedEnvironment);
 }
 
 /// Qt remarks on the environment of a desktop, which matters to nobody here.
@@ -80,8 +90,7 @@ namespace ClockTool {
 
 void Say(const QString &text)
 {
-    for (const QString &line : text.split(QLatin1Char('\n')))
-        std::fprintf(stderr, "clock_tool: %s\n", qPrintable(line));
+    ClockProgram::SayAs("clock_tool", text);
 }
 
 CommandResult Report(const Failure &failure)
@@ -94,10 +103,8 @@ CommandResult Report(const Failure &failure)
 
 int main(int argc, char **argv)
 {
-    // Text sizes are points: the same number of pixels on every machine. Images and fonts need an
-    // application with a platform, but nothing is shown.
-    if (!qEnvironmentVariableIsSet("QT_FONT_DPI"))
-        qputenv("QT_FONT_DPI", "96");
+    ClockProgram::FixFontResolution();
+    // Images and fonts need an application with a platform, but nothing is shown.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QtMessageHandler before = qInstallMessageHandler(KeepFatalMessages);
     const QGuiApplication application(argc, argv);

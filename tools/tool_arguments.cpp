@@ -1,6 +1,7 @@
 #include "tool_arguments.h"
 
 #include "catalogues.h"
+#include "command_support.h"
 
 #include <cstdio>
 
@@ -8,28 +9,16 @@ namespace ClockTool {
 
 namespace {
 
-const QString kOutput = QStringLiteral("output");
-const QString kLanguage = QStringLiteral("language");
-const QString kHelp = QStringLiteral("help");
-const QString kVersion = QStringLiteral("version");
+using namespace ClockProgram;
 
-Failure UsageFailure(const QString &text)
-{
-    return {ExitCode::UsageError, text + QStringLiteral(" (see --help)")};
-}
-
-QString Languages()
-{
-    return ClockCatalogues::Languages().join(QStringLiteral(", "));
-}
+const QLatin1String kMore("...");
 
 } // namespace
 
 ToolArguments::ToolArguments(const QString &name, const QString &description) : m_name(name)
 {
     m_parser.setApplicationDescription(description);
-    m_parser.addOption({{QStringLiteral("h"), kHelp}, QStringLiteral("Show this text.")});
-    m_parser.addOption({{QStringLiteral("v"), kVersion}, QStringLiteral("Show the version.")});
+    AddInformationOptions(m_parser);
 }
 
 void ToolArguments::AddPositional(const QString &name, const QString &description)
@@ -47,17 +36,14 @@ void ToolArguments::AddOption(const QStringList &names, const QString &descripti
 void ToolArguments::AddOutput()
 {
     m_writesOutput = true;
-    AddOption({QStringLiteral("o"), kOutput},
+    AddOption({QStringLiteral("o"), QLatin1String(kOutput)},
               QStringLiteral("Write to <file> instead of standard output."),
               QStringLiteral("file"));
 }
 
 void ToolArguments::AddLanguage()
 {
-    AddOption({kLanguage},
-              QStringLiteral("Language of the clocks' wording: %1 (default: the locale's).")
-                  .arg(Languages()),
-              QStringLiteral("language"));
+    AddLanguageOption(m_parser);
 }
 
 std::optional<CommandResult> ToolArguments::Parse(const QStringList &arguments)
@@ -66,48 +52,49 @@ std::optional<CommandResult> ToolArguments::Parse(const QStringList &arguments)
     own.removeAt(1);
     if (!m_parser.parse(own))
         return Report(UsageFailure(m_parser.errorText()));
-    if (m_parser.isSet(kHelp)) {
-        std::fputs(qPrintable(HelpText()), stdout);
+    if (IsSet(QLatin1String(kHelp))) {
+        const QString usage = QStringLiteral("clock_tool %1 [options] %2")
+                                  .arg(m_name, m_positionals.join(QLatin1Char(' ')));
+        std::fputs(qPrintable(HelpText(m_parser, usage.trimmed())), stdout);
         return ExitCode::Success;
     }
-    if (m_parser.isSet(kVersion)) {
+    if (IsSet(QLatin1String(kVersion))) {
         std::puts("clock_tool " CLOCK_TOOL_VERSION);
         return ExitCode::Success;
     }
-    const QStringList given = m_parser.positionalArguments();
-    if (given.size() < m_positionals.size())
-        return Report(
-            UsageFailure(QStringLiteral("%1 needs %2").arg(m_name, m_positionals[given.size()])));
-    if (given.size() > m_positionals.size())
-        return Report(UsageFailure(
-            QStringLiteral("%1 has no use for \"%2\"").arg(m_name, given[m_positionals.size()])));
-    if (m_writesOutput && m_parser.isSet(kOutput) && Output().isEmpty())
-        return Report(UsageFailure(QStringLiteral("-o needs a file")));
+    if (const MaybeFailure failure = CheckGiven())
+        return Report(*failure);
     return std::nullopt;
 }
 
-/// Qt's first line knows nothing of subcommands.
-QString ToolArguments::HelpText() const
+MaybeFailure ToolArguments::CheckGiven() const
 {
-    const QString text = m_parser.helpText();
-    return QStringLiteral("Usage: clock_tool %1 [options] %2")
-               .arg(m_name, m_positionals.join(QLatin1Char(' ')))
-               .trimmed()
-        + text.mid(text.indexOf(QLatin1Char('\n')));
+    const QStringList given = Positionals();
+    if (given.size() < m_positionals.size())
+        return UsageFailure(QStringLiteral("%1 needs %2").arg(m_name, m_positionals[given.size()]));
+    const bool takesMore = !m_positionals.isEmpty() && m_positionals.last().endsWith(kMore);
+    if (given.size() > m_positionals.size() && !takesMore)
+        return UsageFailure(
+            QStringLiteral("%1 has no use for \"%2\"").arg(m_name, given[m_positionals.size()]));
+    if (m_writesOutput && IsSet(QLatin1String(kOutput)) && Output().isEmpty())
+        return UsageFailure(QStringLiteral("-o needs a file"));
+    return std::nullopt;
 }
 
 QString ToolArguments::Output() const
 {
-    return m_parser.value(kOutput);
+    return Value(QLatin1String(kOutput));
 }
 
 MaybeFailure ToolArguments::InstallLanguage() const
 {
-    const QString language = m_parser.value(kLanguage);
-    if (ClockCatalogues::InstallChosen(language))
-        return std::nullopt;
-    return UsageFailure(
-        QStringLiteral("no language \"%1\"; there are %2").arg(language, Languages()));
+    const QLatin1String option(kLanguage);
+    if (IsSet(option)) {
+        if (const MaybeFailure failure = CheckLanguage(Value(option)))
+            return failure;
+    }
+    ClockCatalogues::InstallChosen(Value(option));
+    return std::nullopt;
 }
 
 } // namespace ClockTool

@@ -16,6 +16,7 @@ public:
     /// The name is the subcommand's.
     ToolArguments(const QString &name, const QString &description);
 
+    /// A name that ends in "..." stands for one or more, and comes last.
     void AddPositional(const QString &name, const QString &description);
     /// An option with a value.
     void AddOption(const QStringList &names, const QString &description, const QString &value);
@@ -26,7 +27,8 @@ public:
     /// nothing left to do: after --help and --version, and after a fault.
     std::optional<CommandResult> Parse(const QStringList &arguments);
 
-    QString Positional(int index) const { return m_parser.positionalArguments().value(index); }
+    QStringList Positionals() const { return m_parser.positionalArguments(); }
+    QString Positional(int index) const { return Positionals().value(index); }
     QString Value(const QString &option) const { return m_parser.value(option); }
     bool IsSet(const QString &option) const { return m_parser.isSet(option); }
     QString Output() const; ///< empty: standard output
@@ -35,7 +37,7 @@ public:
     MaybeFailure InstallLanguage() const;
 
 private:
-    QString HelpText() const;
+    MaybeFailure CheckGiven() const;
 
     QString m_name;
     QStringList m_positionals;

@@ -28,6 +28,7 @@ private slots:
     void Languages();
     void Help_data();
     void Help();
+    void HelpTellsBounds();
     void Refused_data();
     void Refused();
 };
@@ -118,10 +119,9 @@ void TestCommandLine::Help_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("begins");
-    QTest::newRow("help") << "--help"
-                          << "Usage: ";
-    QTest::newRow("help, short") << "-h"
-                                 << "Usage: ";
+    const QString usage = "Usage: clock_player [options] PROGRAM.xml\n";
+    QTest::newRow("help") << "--help" << usage;
+    QTest::newRow("help, short") << "-h" << usage;
     QTest::newRow("version") << "--version"
                              << "clock_player ";
     QTest::newRow("version, short") << "-v"
@@ -137,6 +137,17 @@ void TestCommandLine::Help()
     const QString text = std::get<Information>(line).text;
     QVERIFY(text.startsWith(begins));
     QVERIFY(!text.contains(QStringLiteral("default-program")));
+}
+
+// What the help says are the bounds; others are refused below.
+void TestCommandLine::HelpTellsBounds()
+{
+    const QString text = std::get<Information>(Parsed({"--help"})).text.simplified();
+    for (const char *bounds :
+         {"Number of frames to write, 1 to 1000000 (default 10).", "a side, 1 to 16 (default 1).",
+          "to the next, 3 to 64.", "as real time, 0.01 to 100000.", "wording: en, fa, zh ("})
+        QVERIFY2(text.contains(QLatin1String(bounds)), bounds);
+    QVERIFY(!text.contains(QLatin1Char('%')));
 }
 
 void TestCommandLine::Refused_data()

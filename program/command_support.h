@@ -1,0 +1,51 @@
+// What the command lines of the programs have in common.
+#pragma once
+
+#include "failure.h"
+
+#include <QCommandLineOption>
+#include <QString>
+
+QT_BEGIN_NAMESPACE
+class QCommandLineParser;
+QT_END_NAMESPACE
+
+namespace ClockProgram {
+
+// Names of options that more than one program has.
+inline constexpr char kHelp[] = "help";
+inline constexpr char kVersion[] = "version";
+inline constexpr char kOutput[] = "output";
+inline constexpr char kLanguage[] = "language";
+
+/// What every program reads of its environment, as --help tells it.
+inline constexpr char kSharedEnvironment[] =
+    "  LC_ALL, LC_MESSAGES, LANG  language of the clocks' wording without --language;\n"
+    "                             the first that is set\n"
+    "  QT_FONT_DPI                dots an inch, for sizes in points; 96 where it is unset\n"
+    "  TMPDIR                     where temporary directories are made\n";
+
+/// --help and --version.
+void AddInformationOptions(QCommandLineParser &parser);
+
+/// --language, of the clocks' wording.
+void AddLanguageOption(QCommandLineParser &parser);
+
+/// A failure for a language that has no catalogue.
+MaybeFailure CheckLanguage(const QString &language);
+
+/// What --help writes. The usage follows "Usage: ", and stands in place of Qt's own first line,
+/// which has the path that the program was called by and knows nothing of subcommands.
+QString HelpText(const QCommandLineParser &parser, const QString &usage);
+
+/// Something is wrong with the command line.
+Failure UsageFailure(const QString &text);
+
+/// Lines for the person at the shell, on standard error, each behind the program's name.
+void SayAs(const char *program, const QString &text);
+
+/// Text sizes are points: makes them the same number of pixels on every machine, where nobody chose
+/// otherwise. For before the application is made.
+void FixFontResolution();
+
+} // namespace ClockProgram
