@@ -1,5 +1,7 @@
 #include "carried_files.h"
 
+#include "node_keys.h"
+
 #include "hnode.h"
 
 #include <QCryptographicHash>
@@ -53,6 +55,13 @@ private:
     QHash<QString, QString> m_digests;
 };
 
+/// Picture clocks have no glyph images; what other elements need is not known here.
+bool NeedsFiles(Lw::HNode &node)
+{
+    return node.HaveAttribute(kClockTypeKey)
+        && node.GetAttributeToInt(kClockTypeKey) != kPictureClock;
+}
+
 } // namespace
 
 QStringList ResolveCarriedFiles(const Program &program, MadeNodes &made)
@@ -62,14 +71,18 @@ QStringList ResolveCarriedFiles(const Program &program, MadeNodes &made)
     QStringList warnings;
     for (int i = 0; i < program.areas.size(); ++i) {
         Lw::HNode &node = *made.nodes[static_cast<std::size_t>(i)].node;
-        for (const Lw::FileRecord &record : node.FileRecords()) {
+        const auto warn = [&](const QString &text) {
+            warnings.append(AtElement(program.path, program.areas[i].element, text));
+        };
+        const QList<Lw::FileRecord> records = node.FileRecords();
+        if (records.isEmpty() && NeedsFiles(node))
+            warn(QStringLiteral("the clock has no <file> elements; --use-files makes no images"));
+        for (const Lw::FileRecord &record : records) {
             const QString path = directory.absoluteFilePath(record.path);
             node.SetFilePath(record.key, path, record.name, record.size, record.kind);
             const QString fault = check.Fault(path, record);
             if (!fault.isEmpty())
-                warnings.append(
-                    AtElement(program.path, program.areas[i].element,
-                              QStringLiteral("the file %1 of %2 %3").arg(path, record.key, fault)));
+                warn(QStringLiteral("the file %1 of %2 %3").arg(path, record.key, fault));
         }
     }
     return warnings;

@@ -9,7 +9,8 @@
 namespace ClockProgram {
 
 /// Turns the paths of the files recorded on the nodes into absolute ones. Returns a warning for
-/// each file that is missing, is not an ordinary file, or differs from its recorded digest or size.
+/// each file that is missing, is not an ordinary file, or differs from its recorded digest or size,
+/// and for each clock that needs images and names none.
 QStringList ResolveCarriedFiles(const Program &program, MadeNodes &made);
 
 } // namespace ClockProgram

@@ -1,6 +1,7 @@
 // clock_tool attributes: the reference table, from the table in the code.
 #include "clock_attributes.h"
 #include "commands.h"
+#include "lint/value_checks.h"
 #include "output.h"
 #include "tool_arguments.h"
 
@@ -58,6 +59,15 @@ QString DefaultOf(const AttributeRow &row)
     return {};
 }
 
+/// What a flag takes is told above the table.
+QString CodesText(const AttributeRow &row)
+{
+    const std::optional<CodeRange> codes = CodesOf(row.attribute);
+    if (!codes || row.kind == ValueKind::Flag)
+        return {};
+    return QStringLiteral("%1 to %2").arg(codes->first).arg(codes->last);
+}
+
 QString ReferencePage()
 {
     QString page = QStringLiteral(
@@ -71,15 +81,16 @@ QString ReferencePage()
         "- a flag is 1 (shown) or 0 (hidden);\n"
         "- a colour is the number red + 256 * green + 65536 * blue.\n"
         "\n"
+        "\"Values\" are those that mean something; a number without them may be any.\n"
         "\"Redraw\" tells whether a write has the glyph images made again.\n"
         "\n"
-        "| Key | Kind | Default | Redraw | Meaning |\n"
-        "|---|---|---|---|---|\n");
+        "| Key | Kind | Values | Default | Redraw | Meaning |\n"
+        "|---|---|---|---|---|---|\n");
     for (const AttributeRow &row : kAttributeTable)
         page +=
-            QStringLiteral("| `%1` | %2 | %3 | %4 | %5 |\n")
+            QStringLiteral("| `%1` | %2 | %3 | %4 | %5 | %6 |\n")
                 .arg(
-                    QLatin1String(row.key), KindName(row.kind), DefaultOf(row),
+                    QLatin1String(row.key), KindName(row.kind), CodesText(row), DefaultOf(row),
                     row.redraw == Redraw::Yes ? QStringLiteral("yes") : QStringLiteral("no"),
                     QString::fromUtf8(row.meaning).replace(QLatin1Char('|'), QLatin1String("\\|")));
     return page;

@@ -1,16 +1,19 @@
 // clock_tool import: a program from SDK XML, one area a clock.
 #include "clock_nodes.h"
 #include "commands.h"
+#include "lint/clock_words.h"
 #include "output.h"
 #include "tool_arguments.h"
 #include "xml_writing.h"
 
 #include "clock_sdk_tables.h"
+#include "glyph/glyph_set.h"
 
 #include <QDomDocument>
 #include <QRegularExpression>
 #include <QSize>
 
+#include <algorithm>
 #include <optional>
 
 namespace ClockTool {
@@ -109,6 +112,69 @@ MaybeFailure CheckClocks(const QVector<QDomElement> &clocks, const QString &path
     return std::nullopt;
 }
 
+/// The exported form is what the controller, and "clock_tool sdk", write of a clock.
+bool IsExportedForm(const QDomElement &clock)
+{
+    using namespace Lw::HNodeClock;
+    const bool isDigital =
+        clock.attribute(QLatin1String(Sdk::kType)) == QLatin1String(Sdk::kTypeNames[DigitalClock]);
+    for (QDomElement child = clock.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement()) {
+        if (child.hasAttribute(QLatin1String(Sdk::kValue))
+            && !ReadInPlaceOf(isDigital ? DigitalClock : AnalogClock, child.tagName(),
+                              QLatin1String(Sdk::kValue))
+                    .isEmpty())
+            return true;
+    }
+    return false;
+}
+
+void SayWhatIsNotCarried(const QVector<QDomElement> &clocks, const QString &path)
+{
+    const auto count = std::count_if(clocks.cbegin(), clocks.cend(), IsExportedForm);
+    if (count > 0)
+        Say(QStringLiteral(
+                "%1: note: clocks in the exported form: %2; the codes of date, week and "
+                "time are not read from it, and fonts, sizes, layout, AM/PM, hands, marks "
+                "and daylight-saving rules have no place in it; for these they get the "
+                "defaults of a new clock")
+                .arg(path, QString::number(count)));
+}
+
+std::optional<QSize> AreaSize(const ToolArguments &tool)
+{
+    return ParseSize(tool.IsSet(kArea) ? tool.Value(kArea) : kDefaultArea);
+}
+
+Failure BadSize(const ToolArguments &tool)
+{
+    return {ExitCode::UsageError,
+            QStringLiteral("--area needs a size such as 256x128, each side from 1 to %1, not "
+                           "\"%2\"")
+                .arg(QString::number(kMaximumSide), tool.Value(kArea))};
+}
+
+/// The text of a program with the clocks of an SDK file.
+Result<QByteArray> ImportFile(const QString &path, QSize size)
+{
+    const Result<QByteArray> contents = ReadContents(path);
+    if (const auto *failure = std::get_if<Failure>(&contents))
+        return *failure;
+    Result<QDomDocument> sdk = ParseDocument(std::get<QByteArray>(contents), path);
+    if (const auto *failure = std::get_if<Failure>(&sdk))
+        return *failure;
+    auto &document = std::get<QDomDocument>(sdk);
+    const QVector<QDomElement> clocks = ClocksIn(document.documentElement());
+    if (const MaybeFailure failure = CheckClocks(clocks, path))
+        return *failure;
+    const QByteArray program = WriteXml(ProgramOf(document, clocks, size));
+    const Result<Program> check = ParseProgram(program, QStringLiteral("the program made"));
+    if (const auto *failure = std::get_if<Failure>(&check))
+        return *failure;
+    SayWhatIsNotCarried(clocks, path);
+    return program;
+}
+
 } // namespace
 
 CommandResult RunImport(const QStringList &arguments)
@@ -121,30 +187,13 @@ CommandResult RunImport(const QStringList &arguments)
     tool.AddOutput();
     if (const auto ended = tool.Parse(arguments))
         return *ended;
-    const QString wanted = tool.IsSet(kArea) ? tool.Value(kArea) : kDefaultArea;
-    const std::optional<QSize> size = ParseSize(wanted);
+    const std::optional<QSize> size = AreaSize(tool);
     if (!size)
-        return Report({ExitCode::UsageError,
-                       QStringLiteral("--area needs a size such as 256x128, each side from 1 to "
-                                      "%1, not \"%2\"")
-                           .arg(QString::number(kMaximumSide), wanted)});
-
-    const QString path = tool.Positional(0);
-    const Result<QByteArray> contents = ReadContents(path);
-    if (const auto *failure = std::get_if<Failure>(&contents))
+        return Report(BadSize(tool));
+    const Result<QByteArray> program = ImportFile(tool.Positional(0), *size);
+    if (const auto *failure = std::get_if<Failure>(&program))
         return Report(*failure);
-    Result<QDomDocument> sdk = ParseDocument(std::get<QByteArray>(contents), path);
-    if (const auto *failure = std::get_if<Failure>(&sdk))
-        return Report(*failure);
-    auto &document = std::get<QDomDocument>(sdk);
-    const QVector<QDomElement> clocks = ClocksIn(document.documentElement());
-    if (const MaybeFailure failure = CheckClocks(clocks, path))
-        return Report(*failure);
-    const QByteArray program = WriteXml(ProgramOf(document, clocks, *size));
-    const Result<Program> check = ParseProgram(program, QStringLiteral("the program made"));
-    if (const auto *failure = std::get_if<Failure>(&check))
-        return Report(*failure);
-    return Deliver(tool.Output(), program);
+    return Deliver(tool.Output(), std::get<QByteArray>(program));
 }
 
 } // namespace ClockTool

@@ -1,9 +1,10 @@
-// clock_tool lint: checks a program.
+// clock_tool lint: checks programs.
 #include "commands.h"
 #include "lint/program_lint.h"
 #include "tool_arguments.h"
 #include "xml_document.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace ClockTool {
@@ -11,15 +12,15 @@ namespace ClockTool {
 namespace {
 
 constexpr char kDescription[] =
-    "Checks a program against the schema in docs/program.rng, and against what a clock really\n"
+    "Checks programs against the schema in docs/program.rng, and against what a clock really\n"
     "reads: unknown words, numbers, colours, time zones and daylight-saving rules that are not\n"
     "understood, codes outside their tables, fonts that are not installed, clocks with one Id.\n"
     "\n"
     "Each finding is a line on standard error: file:line: warning: what, and what is accepted.\n"
     "Notes tell what is worth knowing and count for nothing.\n"
     "\n"
-    "Exit codes: 0 no warning, 1 warnings, 2 wrong command line, 3 the file cannot be read or is\n"
-    "no XML.";
+    "Exit codes: 0 no warning, 1 warnings, 2 wrong command line, 3 a file cannot be read or is no\n"
+    "XML. Of several programs each is checked, and the highest code counts.";
 
 constexpr int kMostShown = 1000;
 
@@ -33,18 +34,12 @@ void Show(const Findings &findings, const QString &path)
         std::fprintf(stderr, "%s: %s: %s\n", qPrintable(place), kind, qPrintable(finding.text));
     }
     if (sorted.size() > kMostShown)
-        Say(QStringLiteral("and %1 more").arg(sorted.size() - kMostShown));
+        Say(QStringLiteral("%1: and %2 more")
+                .arg(path, QString::number(sorted.size() - kMostShown)));
 }
 
-} // namespace
-
-CommandResult RunLint(const QStringList &arguments)
+CommandResult LintFile(const QString &path)
 {
-    ToolArguments tool(QStringLiteral("lint"), QString::fromLatin1(kDescription));
-    tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to check."));
-    if (const auto ended = tool.Parse(arguments))
-        return *ended;
-    const QString path = tool.Positional(0);
     const Result<QByteArray> contents = ClockProgram::ReadContents(path);
     if (const auto *failure = std::get_if<Failure>(&contents))
         return Report(*failure);
@@ -55,6 +50,21 @@ CommandResult RunLint(const QStringList &arguments)
     const Findings findings = LintProgram(std::get<QDomDocument>(document), bytes, path);
     Show(findings, path);
     return findings.Warnings() == 0 ? ExitCode::Success : ExitCode::RuntimeFailure;
+}
+
+} // namespace
+
+CommandResult RunLint(const QStringList &arguments)
+{
+    ToolArguments tool(QStringLiteral("lint"), QString::fromLatin1(kDescription));
+    tool.AddPositional(QStringLiteral("PROGRAM.xml..."), QStringLiteral("The programs to check."));
+    if (const auto ended = tool.Parse(arguments))
+        return *ended;
+    CommandResult worst = ExitCode::Success;
+    const QStringList paths = tool.Positionals();
+    for (const QString &path : paths)
+        worst = std::max(worst, LintFile(path));
+    return worst;
 }
 
 } // namespace ClockTool

@@ -27,6 +27,7 @@ private slots:
     void UnreadableInput_data();
     void UnreadableInput();
     void AttributesPageIsTheTable();
+    void AttributesPageNamesItsCodes();
     void OutputFileStaysWhenItCannotBeWritten();
     void GlyphsOfOneClock();
     void GlyphsSharedByTwoClocks();
@@ -68,11 +69,12 @@ void TestToolCommands::Usage_data()
     QTest::newRow("unknown command") << QStringList {"lynt"} << "no command \"lynt\"";
     QTest::newRow("no program") << QStringList {"lint"} << "needs PROGRAM.xml";
     QTest::newRow("no directory") << QStringList {"export", example} << "needs DIR";
-    QTest::newRow("too much") << QStringList {"lint", example, "b.xml"} << "\"b.xml\"";
+    QTest::newRow("too much") << QStringList {"sdk", example, "b.xml"} << "\"b.xml\"";
     QTest::newRow("unknown option") << QStringList {"sdk", example, "--frames"} << "frames";
     QTest::newRow("no zone") << QStringList {"zone"} << "needs ZONE";
     QTest::newRow("empty output") << QStringList {"sdk", example, "-o", ""} << "-o needs a file";
     QTest::newRow("language") << QStringList {"glyphs", example, "--language", "xx"} << "\"xx\"";
+    QTest::newRow("empty language") << QStringList {"glyphs", example, "--language", ""} << "\"\"";
     for (const char *year : {"", "x", "1969", "2028", "-2026", "2026.5", "99999999999"})
         QTest::addRow("year \"%s\"", year)
             << QStringList {"zone", "Europe/Berlin", "--year", year} << "--year needs a year";
@@ -139,7 +141,30 @@ void TestToolCommands::AttributesPageIsTheTable()
     QCOMPARE(run.output.count("\n| `"), 78);
     QCOMPARE(run.output.count("| absent |"), 4);
     // Red is the low byte of a stored colour.
-    QVERIFY(run.output.contains("| `SecondHandColor` | colour | 16711680 (#0000ff) | yes |"));
+    QVERIFY(run.output.contains("| `SecondHandColor` | colour |  | 16711680 (#0000ff) | yes |"));
+    QVERIFY(run.output.contains("| `DigitalTimeType` | number | 0 to 4 | 0 | yes | time format |"));
+    QVERIFY(run.output.contains("| `DigitalTimeFSize` | number | 1 to 32767 | 12 | yes |"));
+    QVERIFY(run.output.contains("| `DigitalSpace` | number |  | 0 | no |"));
+}
+
+// Where the meaning names codes, the values are those: "0 lines, 1 dots".
+void TestToolCommands::AttributesPageNamesItsCodes()
+{
+    const QRegularExpression code("(?:^|: |, |; )([0-9]) [A-Za-z]");
+    int rows = 0;
+    for (const QString &line : Lines(RunTool({"attributes"}).output)) {
+        const QStringList cells = line.split(" | ");
+        if (cells.size() != 6 || cells[1] != "number")
+            continue;
+        QStringList codes;
+        for (auto match = code.globalMatch(cells[5]); match.hasNext();)
+            codes.append(match.next().captured(1));
+        if (codes.size() < 2)
+            continue;
+        ++rows;
+        QCOMPARE(cells[2], codes.first() + " to " + codes.last());
+    }
+    QCOMPARE(rows, 9);
 }
 
 void TestToolCommands::OutputFileStaysWhenItCannotBeWritten()

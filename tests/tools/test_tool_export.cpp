@@ -61,6 +61,7 @@ private slots:
     void ListAgreesWithMd5sum();
     void ExportedProgramIsClean();
     void NothingIsMadeFromCarriedFiles();
+    void ClocksWithoutFilesAreReported();
     void MinusStaysBehind();
     void FaultyFilesAreReported_data();
     void FaultyFilesAreReported();
@@ -160,6 +161,26 @@ void TestToolExport::NothingIsMadeFromCarriedFiles()
     black.fill(Qt::black);
     QCOMPARE(Frames(Path("none")).value(0), black);
     QVERIFY(!QFile::exists(Path("out/files")));
+}
+
+void TestToolExport::ClocksWithoutFilesAreReported()
+{
+    const QByteArray area = "<area x='0' y='0' width='64' height='32'>%</area>\n";
+    const auto inArea = [&](const QByteArray &clock) {
+        return QByteArray(area).replace("%", clock);
+    };
+    QVERIFY(WriteText(Path("in.xml"),
+                      "<program width='64' height='32'>\n" + inArea("<clock type='digital'/>")
+                          + inArea("<clock type='picture'><attribute key='ClockType' value='2'/>"
+                                   "</clock>")
+                          + inArea("<clock/>") + "</program>"));
+    const ProcessRun run = Play(Path("in.xml"), Path("frames"), {"--use-files"});
+    QCOMPARE(run.exitCode, 0);
+    const QString text = ": the clock has no <file> elements; --use-files makes no images\n";
+    for (const char *line : {"2", "4"})
+        QVERIFY2(run.errors.contains("in.xml:" + QString(line) + text), qPrintable(run.errors));
+    QCOMPARE(run.errors.count('\n'), 2); // a picture clock has none
+    QCOMPARE(Play(Path("in.xml"), Path("made")).errors, QString());
 }
 
 void TestToolExport::MinusStaysBehind()

@@ -40,6 +40,11 @@ private slots:
     void Finds();
     void EveryFindingIsReported();
     void NotesDoNotCount();
+    void ExportedCodesAreNoted_data();
+    void ExportedCodesAreNoted();
+    void SeveralPrograms_data();
+    void SeveralPrograms();
+    void ManyFindings();
 
 private:
     ProcessRun Lint(const QByteArray &text)
@@ -108,7 +113,9 @@ void TestToolLint::Finds_data()
         {"<title> is not read beside <fixedText>"});
     row("misspelt attribute", Digital("<time fontsize='3'/>"), 2,
         {"\"fontsize\" of <time>", "did you mean \"fontSize\"?"});
-    row("code as value", Digital("<date value='3'/>"), 2, {"\"value\" of <date>", "format"});
+    row("code that the exported form has not", Analog("<time value='3'/>"), 2,
+        {"<time>", "type \"digital\""});
+    row("code of a lunar row", Digital("<lunarCalendar value='3'/>"), 2, {"\"value\""});
     row("attribute of the clock", ProgramOf("<clock timeZone='+01:00'/>"), 1,
         {"\"timeZone\"", "did you mean \"timezone\"?"});
     row("misspelt key", Setting("DigitalSpase", "1"), 2,
@@ -223,6 +230,75 @@ void TestToolLint::NotesDoNotCount()
     const ProcessRun run = Lint(Digital("<date format='8'/>"));
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.errors.contains("in.xml:1: note: the minus"), qPrintable(run.errors));
+}
+
+// The exported form writes codes that are not read; whoever imports it has done nothing wrong.
+void TestToolLint::ExportedCodesAreNoted_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("date") << Digital("<date value='3'/>");
+    QTest::newRow("week") << Digital("<week value='1'/>");
+    QTest::newRow("time") << Digital("<time value='4'/>");
+    QTest::newRow("analog date") << Analog("<date value='3'/>");
+    QTest::newRow("analog week") << Analog("<week value='3'/>");
+}
+
+void TestToolLint::ExportedCodesAreNoted()
+{
+    QFETCH(QByteArray, text);
+    const ProcessRun run = Lint(text);
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.errors.contains("in.xml:2: note: the attribute \"value\" of <"),
+             qPrintable(run.errors));
+    QVERIFY2(run.errors.contains("the clock reads \"format\""), qPrintable(run.errors));
+    QCOMPARE(run.errors.count('\n'), 1);
+}
+
+void TestToolLint::SeveralPrograms_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("lines");
+    QTest::newRow("sound ones") << QStringList {"sound.xml", "sound.xml"} << 0 << 0;
+    QTest::newRow("the first has a fault") << QStringList {"faulty.xml", "sound.xml"} << 1 << 1;
+    QTest::newRow("the last has a fault") << QStringList {"sound.xml", "faulty.xml"} << 1 << 1;
+    QTest::newRow("one is missing")
+        << QStringList {"none.xml", "faulty.xml", "sound.xml"} << 3 << 2;
+    QTest::newRow("one is no XML")
+        << QStringList {"faulty.xml", "text.xml", "faulty.xml"} << 3 << 3;
+}
+
+// Each is checked, whatever is wrong with another, and each line names its file.
+void TestToolLint::SeveralPrograms()
+{
+    QFETCH(QStringList, names);
+    QFETCH(int, code);
+    QFETCH(int, lines);
+    QVERIFY(WriteText(m_directory.filePath("sound.xml"), Digital("")));
+    QVERIFY(WriteText(m_directory.filePath("faulty.xml"), Digital("<weak/>")));
+    QVERIFY(WriteText(m_directory.filePath("text.xml"), "text"));
+    QStringList arguments {"lint"};
+    for (const QString &name : names)
+        arguments.append(m_directory.filePath(name));
+    const ProcessRun run = RunTool(arguments);
+    QCOMPARE(run.exitCode, code);
+    QCOMPARE(run.errors.count('\n'), lines);
+    for (const QString &name : names)
+        QCOMPARE(run.errors.contains("/" + name + ":"), name != "sound.xml");
+}
+
+// However much is wrong with one program, the next one is heard of.
+void TestToolLint::ManyFindings()
+{
+    QVERIFY(WriteText(m_directory.filePath("many.xml"),
+                      Digital(QByteArray("<weak/>\n").repeated(1010))));
+    QVERIFY(WriteText(m_directory.filePath("faulty.xml"), Digital("<weak/>")));
+    const ProcessRun run =
+        RunTool({"lint", m_directory.filePath("many.xml"), m_directory.filePath("faulty.xml")});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(Warnings(run.errors).size(), 1001);
+    QVERIFY2(run.errors.contains("/many.xml: and 10 more\n"), qPrintable(run.errors.right(300)));
+    QVERIFY(run.errors.contains("/faulty.xml:2: warning: "));
 }
 
 QTEST_GUILESS_MAIN(TestToolLint)

@@ -131,6 +131,13 @@ private:
     {
         if (name.isEmpty() && attribute == QLatin1String(Sdk::kGuid))
             return; // the exported form has it for the controller
+        const QString read = ReadInPlaceOf(m_type, name, attribute);
+        if (!read.isEmpty())
+            return m_findings.Note(element.lineNumber(),
+                                   QStringLiteral("the attribute \"%1\" of <%2> is not read: it is "
+                                                  "the exported form's code; the clock reads "
+                                                  "\"%3\"")
+                                       .arg(attribute, element.tagName(), read));
         Warn(element,
              QStringLiteral("the attribute \"%1\" of <%2> is not read%3")
                  .arg(attribute.left(60), element.tagName(),

@@ -47,6 +47,17 @@ void ForEachSource(int clockType, const QString &name, const Visit &visit)
     });
 }
 
+/// The first attribute of an element that is read into a setting.
+QString SourceOf(Attribute target, int clockType, const QString &element)
+{
+    QString first;
+    ForEachSource(clockType, element, [&](const ImportRow &row, const ImportSource &source) {
+        if (row.target == target && first.isEmpty())
+            first = QLatin1String(source.attribute);
+    });
+    return first;
+}
+
 } // namespace
 
 QStringList ElementsRead(int clockType)
@@ -84,6 +95,19 @@ QVector<Reading> ReadingsOf(int clockType, const QString &element, const QString
             readings.append({row.target, source.conversion});
     });
     return readings;
+}
+
+QString ReadInPlaceOf(int clockType, const QString &element, const QString &attribute)
+{
+    if (attribute != QLatin1String(Sdk::kValue)
+        || AttributesRead(clockType, element).contains(attribute))
+        return {};
+    for (const ExportRow &row : kExport) {
+        const ExportSource &written = clockType == DigitalClock ? row.digital : row.analog;
+        if (element == QLatin1String(row.element) && written.value)
+            return SourceOf(*written.value, clockType, element);
+    }
+    return {};
 }
 
 QString ShadowOf(int clockType, const QString &element)

@@ -24,6 +24,10 @@ QStringList AttributesRead(int clockType, const QString &element);
 /// How an attribute is read; empty when it is not.
 QVector<Reading> ReadingsOf(int clockType, const QString &element, const QString &attribute);
 
+/// The attribute that is read where the exported form of a clock writes this one, which is not
+/// read: "format" for the "value" of a "date". Empty for all others.
+QString ReadInPlaceOf(int clockType, const QString &element, const QString &attribute);
+
 /// The element that is read in place of this one wherever it stands; empty for most.
 QString ShadowOf(int clockType, const QString &element);
 

@@ -1,6 +1,7 @@
 #include "value_checks.h"
 
 #include "suggestion.h"
+#include "zones/zone_rule.h"
 
 #include "calendar/clock_time.h"
 #include "clock_sdk_tables.h"
@@ -17,8 +18,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// The codes that mean something; where a switch takes any number, the two that are documented.
-struct CodeRange
+struct CodeRow
 {
     Attribute attribute;
     int first;
@@ -26,7 +26,7 @@ struct CodeRange
 };
 
 // clang-format off
-constexpr CodeRange kCodes[] = {
+constexpr CodeRow kCodes[] = {
     {Attribute::ClockType, 0, 2},
     {Attribute::AdjustType, 0, 1},
     {Attribute::UseDaylightSavingTime, 0, 1},
@@ -55,13 +55,13 @@ bool KeyEndsWith(Attribute attribute, const char *end)
     return QLatin1String(RowOf(attribute).key).endsWith(QLatin1String(end));
 }
 
-QString RangeFault(int number, int first, int last, const QString &meaning)
+QString RangeFault(int number, const CodeRange &range, const QString &meaning)
 {
-    if (number >= first && number <= last)
+    if (number >= range.first && number <= range.last)
         return {};
     return QStringLiteral("is not known; accepted: %1 to %2 (%3)")
-        .arg(first)
-        .arg(last)
+        .arg(range.first)
+        .arg(range.last)
         .arg(meaning);
 }
 
@@ -73,15 +73,8 @@ QString NumberFault(Attribute attribute, const QString &text)
         return QStringLiteral("is not a whole number and counts as 0; accepted: a decimal such as "
                               "12");
     const QString meaning = QString::fromUtf8(RowOf(attribute).meaning);
-    if (RowOf(attribute).kind == ValueKind::Flag)
-        return RangeFault(number, 0, 1, meaning);
-    if (KeyEndsWith(attribute, "FSize"))
-        return RangeFault(number, 1, kLargestFont, meaning);
-    for (const CodeRange &code : kCodes) {
-        if (code.attribute == attribute)
-            return RangeFault(number, code.first, code.last, meaning);
-    }
-    return {};
+    const std::optional<CodeRange> range = CodesOf(attribute);
+    return range ? RangeFault(number, *range, meaning) : QString();
 }
 
 QString ColourFault(const QString &text)
@@ -109,15 +102,6 @@ QString StoredColourFault(const QString &text)
     return QStringLiteral("is not a stored colour; accepted: %1, from 0 to 16777215").arg(form);
 }
 
-QString OffsetText(int seconds)
-{
-    const int minutes = qAbs(seconds) / 60;
-    return QStringLiteral("%1%2:%3")
-        .arg(QLatin1Char(seconds < 0 ? '-' : '+'))
-        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
-        .arg(minutes % 60, 2, 10, QLatin1Char('0'));
-}
-
 QString ZoneFault(const QString &text)
 {
     static const QRegularExpression form(QStringLiteral("^[+-]([01]?[0-9]|2[0-3]):[0-5][0-9]$"));
@@ -125,7 +109,7 @@ QString ZoneFault(const QString &text)
         return {};
     return QStringLiteral("is read as the offset %1; accepted: a sign and \"hh:mm\", such as "
                           "\"+01:00\"")
-        .arg(OffsetText(ParseZoneOffset(text)));
+        .arg(ZoneSettings {ParseZoneOffset(text), QString(), QString()}.ZoneText());
 }
 
 QString RuleFault(const QString &text)
@@ -201,6 +185,19 @@ QString AdjustSecondsFault(const QString &text)
 }
 
 } // namespace
+
+std::optional<CodeRange> CodesOf(Attribute attribute)
+{
+    if (RowOf(attribute).kind == ValueKind::Flag)
+        return CodeRange {0, 1};
+    if (KeyEndsWith(attribute, "FSize"))
+        return CodeRange {1, kLargestFont};
+    for (const CodeRow &row : kCodes) {
+        if (row.attribute == attribute)
+            return CodeRange {row.first, row.last};
+    }
+    return std::nullopt;
+}
 
 QString ImportFault(Attribute target, Conversion conversion, const QString &text)
 {

@@ -5,11 +5,24 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace Lw::HNodeClock {
 enum class Conversion;
 }
 
 namespace ClockTool {
+
+/// The numbers that mean something to an attribute; where a switch takes any number, the two that
+/// are documented.
+struct CodeRange
+{
+    int first;
+    int last;
+};
+
+/// Nothing where any number does, and for attributes that are no numbers.
+std::optional<CodeRange> CodesOf(Lw::HNodeClock::Attribute attribute);
 
 // Each gives what is wrong and what would be accepted, to follow the text in a sentence, or an
 // empty text when nothing is.
