@@ -83,10 +83,11 @@ constexpr OptionRow kOptions[] = {
      "Load the plugins of <directory> (default: \"plugins\" beside the directory that clock_player "
      "lies in)."},
     {kFilesDir, nullptr, "directory",
-     "Write the glyph images to <directory> and leave them there (default: a temporary directory)."},
+     "Write the glyph images to <directory> and leave them there (default: a temporary "
+     "directory)."},
     {kUseFiles, nullptr, nullptr,
-     "Play with the glyph images that came with the program, named by its <file> elements, and make "
-     "none."},
+     "Play with the glyph images that came with the program, named by its <file> elements, and "
+     "make none."},
     {kPlatform, nullptr, "name",
      "Qt platform plugin to show the window with, such as xcb or linuxfb."},
 };
