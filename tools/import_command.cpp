@@ -7,6 +7,7 @@
 #include "xml_writing.h"
 
 #include "clock_sdk_tables.h"
+#include "command_support.h"
 #include "glyph/glyph_set.h"
 
 #include <QDomDocument>
@@ -148,10 +149,10 @@ std::optional<QSize> AreaSize(const ToolArguments &tool)
 
 Failure BadSize(const ToolArguments &tool)
 {
-    return {ExitCode::UsageError,
-            QStringLiteral("--area needs a size such as 256x128, each side from 1 to %1, not "
-                           "\"%2\"")
-                .arg(QString::number(kMaximumSide), tool.Value(kArea))};
+    return UsageFailure(
+        QStringLiteral("--area needs a size such as 256x128, each side from 1 to %1, not "
+                       "\"%2\"")
+            .arg(QString::number(kMaximumSide), tool.Value(kArea)));
 }
 
 /// The text of a program with the clocks of an SDK file.

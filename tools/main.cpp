@@ -78,10 +78,9 @@ int Run(const QStringList &arguments)
         if (first == QLatin1String(command.name))
             return static_cast<int>(command.run(arguments));
     }
-    return static_cast<int>(Report(
-        {ExitCode::UsageError,
-         first.isEmpty() ? QStringLiteral("no command given (see --help)")
-                         : QStringLiteral("there is no command \"%1\" (see --help)").arg(first)}));
+    return static_cast<int>(Report(ClockProgram::UsageFailure(
+        first.isEmpty() ? QStringLiteral("no command given")
+                        : QStringLiteral("there is no command \"%1\"").arg(first))));
 }
 
 } // namespace

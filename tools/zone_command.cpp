@@ -7,6 +7,7 @@
 
 #include "calendar/system_time.h"
 #include "clock_attributes.h"
+#include "command_support.h"
 
 #include <QDateTime>
 
@@ -28,7 +29,7 @@ constexpr char kDescription[] =
     "Where a zone's time cannot be expressed, the settings are those that are wrong for the\n"
     "shortest time, and every wrong time is listed.\n"
     "\n"
-    "Exit codes: 0 exact, 1 not exact, 2 wrong command line, 3 no such zone.";
+    "Exit codes: 0 exact, 1 not exact, or not known, 2 wrong command line, 3 no such zone.";
 
 constexpr int kFirstYear = 1970;
 constexpr int kLastYear = 2027;
@@ -69,10 +70,15 @@ QString ErrorText(int seconds)
         .arg(QLatin1String(seconds > 0 ? "fast" : "slow"));
 }
 
+int YearBefore(qint64 utc)
+{
+    return DateOf(utc).leftRef(4).toInt() - 1;
+}
+
 /// Nobody should take the settings to be right for ever.
 QString LookAgain(qint64 until)
 {
-    return QStringLiteral("; look again after %1").arg(DateOf(until).leftRef(4).toInt() - 1);
+    return QStringLiteral("; look again after %1").arg(YearBefore(until));
 }
 
 /// How long settings hold that are exact, before what was looked at after the ten years ends.
@@ -127,6 +133,27 @@ QDate FirstDay(const ToolArguments &tool)
     return year >= kFirstYear && year <= kLastYear ? QDate(year, 1, 1) : QDate();
 }
 
+CommandResult WriteSettings(const ToolArguments &tool, const Span &span)
+{
+    const QString name = tool.Positional(0);
+    const auto civil = CivilTimeOf(name.toUtf8(), span);
+    const auto after = CivilTimeOf(name.toUtf8(), ListedAfter(span));
+    if (!civil || !after)
+        return Report(NoSuchZone(name));
+    if (span.begin >= span.end)
+        return Report({ExitCode::RuntimeFailure,
+                       QStringLiteral("the system's zone data end with %1; see --year")
+                           .arg(YearBefore(span.end))});
+    const ZoneSettings settings = BestSettings(*civil, *after);
+    const QVector<WrongTime> wrong = WrongTimes(settings, *civil);
+    const QString text = SettingLines(settings) + Verdict(name, *civil, wrong)
+        + (wrong.isEmpty() ? Lasting(RightUntil(settings, *after), *after) : QString());
+    const CommandResult delivered = Deliver(tool.Output(), text.toUtf8());
+    if (delivered != ExitCode::Success)
+        return delivered;
+    return wrong.isEmpty() ? ExitCode::Success : ExitCode::RuntimeFailure;
+}
+
 } // namespace
 
 CommandResult RunZone(const QStringList &arguments)
@@ -143,24 +170,9 @@ CommandResult RunZone(const QStringList &arguments)
         return *ended;
     const QDate first = FirstDay(tool);
     if (!first.isValid())
-        return Report({ExitCode::UsageError,
-                       QStringLiteral("--year needs a year from %1 to %2 (see --help)")
-                           .arg(kFirstYear)
-                           .arg(kLastYear)});
-    const QString name = tool.Positional(0);
-    const Span span = TenYearsFrom(first);
-    const auto civil = CivilTimeOf(name.toUtf8(), span);
-    const auto after = CivilTimeOf(name.toUtf8(), ListedAfter(span));
-    if (!civil || !after)
-        return Report(NoSuchZone(name));
-    const ZoneSettings settings = BestSettings(*civil, *after);
-    const QVector<WrongTime> wrong = WrongTimes(settings, *civil);
-    const QString text = SettingLines(settings) + Verdict(name, *civil, wrong)
-        + (wrong.isEmpty() ? Lasting(RightUntil(settings, *after), *after) : QString());
-    const CommandResult delivered = Deliver(tool.Output(), text.toUtf8());
-    if (delivered != ExitCode::Success)
-        return delivered;
-    return wrong.isEmpty() ? ExitCode::Success : ExitCode::RuntimeFailure;
+        return Report(ClockProgram::UsageFailure(
+            QStringLiteral("--year needs a year from %1 to %2").arg(kFirstYear).arg(kLastYear)));
+    return WriteSettings(tool, TenYearsFrom(first));
 }
 
 } // namespace ClockTool

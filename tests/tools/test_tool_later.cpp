@@ -1,0 +1,57 @@
+// clock_tool on a device whose clock says that it is long after the system's zone data end.
+#include "tool_process.h"
+
+#include <QDateTime>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestToolLater : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void zoneData_data();
+    void zoneData();
+};
+
+void TestToolLater::zoneData_data()
+{
+    QTest::addColumn<QDate>("today");
+    QTest::addColumn<QStringList>("more");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("the last year")
+        << QDate(2037, 3, 1) << QStringList() << 0 << "exact from 2037-03-01 to 2038-01-01";
+    QTest::newRow("later") << QDate(2040, 6, 1) << QStringList() << 1
+                           << "the system's zone data end with 2037";
+    QTest::newRow("later, of an earlier time")
+        << QDate(2040, 6, 1) << QStringList {"--year", "2027"} << 0
+        << "exact from 2027-01-01 to 2037-01-01";
+}
+
+void TestToolLater::zoneData()
+{
+    QFETCH(QDate, today);
+    QFETCH(QStringList, more);
+    QFETCH(int, code);
+    QFETCH(QString, said);
+    const QTemporaryDir folder;
+    const qint64 shift =
+        QDateTime::currentDateTimeUtc().msecsTo(QDateTime(today, QTime(12, 0), Qt::UTC));
+    QVERIFY(WriteText(folder.filePath("shift"),
+                      QByteArray(reinterpret_cast<const char *>(&shift), sizeof shift)));
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("LD_PRELOAD", STEPPING_CLOCK_LIBRARY);
+    environment.insert("STEPPING_CLOCK", folder.filePath("shift"));
+    environment.insert("ASAN_OPTIONS",
+                       environment.value("ASAN_OPTIONS") + ":verify_asan_link_order=0");
+    const ProcessRun run =
+        RunProcess(TOOL, QStringList {"zone", "Europe/Berlin"} + more, environment);
+    QCOMPARE(run.exitCode, code);
+    QVERIFY2((code == 0 ? run.output : run.errors).contains(said),
+             qPrintable(run.output + run.errors));
+    QCOMPARE(run.output.isEmpty(), code != 0);
+}
+
+QTEST_GUILESS_MAIN(TestToolLater)
+#include "test_tool_later.moc"
