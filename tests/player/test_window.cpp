@@ -284,9 +284,10 @@ void TestWindow::Speeds()
     const double shortest = double(second.elapsed()) / 1000;
     const QDateTime to = player->Instant();
     const double longest = double(first.elapsed()) / 1000;
-    // A title may be as old as its second lasts, and the player may be kept waiting.
+    // A title may be as old as its second lasts, and the player may be kept waiting: by a machine
+    // that tests other things too, as well. The exact times are tested without a window.
     const double passed = double(from.secsTo(to)) / speed;
-    QVERIFY2(passed > shortest - 0.5 && passed < longest + 0.5,
+    QVERIFY2(passed > shortest - 1 && passed < longest + 1,
              qPrintable(QStringLiteral("%1 s in %2 to %3").arg(passed).arg(shortest).arg(longest)));
 }
 
@@ -433,7 +434,7 @@ void TestWindow::SteppedSystemClock()
         };
         QTRY_VERIFY_WITH_TIMEOUT(isStepped(), 3000);
         QTest::qWait(2200); // and it goes on
-        QVERIFY(isStepped());
+        QTRY_VERIFY(isStepped());
     }
     player.Press("q");
     QVERIFY2(player.Finish() == 0, qPrintable(player.Errors()));
