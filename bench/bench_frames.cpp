@@ -11,6 +11,7 @@
 #include "compose/element_composer.h"
 #include "display/draw_display_image.h"
 #include "display/frame_painter.h"
+#include "display/style_pictures.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -66,9 +67,8 @@ void PlayClock(benchmark::State &state, int clockType)
 
 bool HasStylePictures(benchmark::State &state)
 {
-    const QString dial =
-        QCoreApplication::applicationDirPath() + "/../image/ClockType/picbutton1.png";
-    const bool exists = QFileInfo::exists(dial);
+    const bool exists =
+        QFileInfo::exists(Lw::HNodeClock::StyleFolder() + Lw::HNodeClock::DialPicture(1));
     if (!exists)
         state.SkipWithError("no style pictures beside the program's directory");
     return exists;

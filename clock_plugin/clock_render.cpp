@@ -27,7 +27,8 @@ constexpr int kStartingTicks = 10;
 
 // Every field but the reserved word, which stays as it was allocated: it is the host's own. So the
 // record is made where it stays, for a copy would read that word. The host may take the node away
-// as each of its questions is asked; without one, size and position are those nobody set.
+// as each of its questions is asked; without one, size and position are those nobody set, and
+// nobody is asked whether it blends.
 std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
                                               QPointer<HClockNode> node)
 {
@@ -39,7 +40,7 @@ std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
     record->timing = 1000;
     std::fill(std::begin(record->reservedBytes), std::end(record->reservedBytes), quint8(0));
     std::fill(std::begin(record->effectBytes), std::end(record->effectBytes), quint8(0));
-    record->alphaBlend = Lw::HPluginManager::instance()->SuportAlphaBlend(node);
+    record->alphaBlend = node && Lw::HPluginManager::instance()->SuportAlphaBlend(node);
     record->lastFlag = true;
     return record;
 }

@@ -3,7 +3,6 @@
 
 #include "failure.h"
 
-#include <QCommandLineOption>
 #include <QString>
 
 QT_BEGIN_NAMESPACE

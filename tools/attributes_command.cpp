@@ -81,7 +81,7 @@ QString ReferencePage()
         "- a flag is 1 (shown) or 0 (hidden);\n"
         "- a colour is the number red + 256 * green + 65536 * blue.\n"
         "\n"
-        "\"Values\" are those that mean something; a number without them may be any.\n"
+        "\"Values\" are the numbers that mean something; where none are given, any number does.\n"
         "\"Redraw\" tells whether a write has the glyph images made again.\n"
         "\n"
         "| Key | Kind | Values | Default | Redraw | Meaning |\n"

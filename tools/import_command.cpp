@@ -121,10 +121,10 @@ bool IsExportedForm(const QDomElement &clock)
         clock.attribute(QLatin1String(Sdk::kType)) == QLatin1String(Sdk::kTypeNames[DigitalClock]);
     for (QDomElement child = clock.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {
-        if (child.hasAttribute(QLatin1String(Sdk::kValue))
-            && !ReadInPlaceOf(isDigital ? DigitalClock : AnalogClock, child.tagName(),
-                              QLatin1String(Sdk::kValue))
-                    .isEmpty())
+        const QString read = ReadInPlaceOf(isDigital ? DigitalClock : AnalogClock, child.tagName(),
+                                           QLatin1String(Sdk::kValue));
+        if (child.hasAttribute(QLatin1String(Sdk::kValue)) && !read.isEmpty()
+            && !child.hasAttribute(read))
             return true;
     }
     return false;
@@ -137,8 +137,8 @@ void SayWhatIsNotCarried(const QVector<QDomElement> &clocks, const QString &path
         Say(QStringLiteral(
                 "%1: note: clocks in the exported form: %2; the codes of date, week and "
                 "time are not read from it, and fonts, sizes, layout, AM/PM, hands, marks "
-                "and daylight-saving rules have no place in it; for these they get the "
-                "defaults of a new clock")
+                "and daylight-saving rules have no place in it: these get the defaults "
+                "of a new clock")
                 .arg(path, QString::number(count)));
 }
 

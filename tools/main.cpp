@@ -48,7 +48,7 @@ QString HelpText()
                "Exit codes:\n"
                "  0  done; for lint: nothing found; for zone: exact\n"
                "  1  something failed, such as writing; for lint: something was found;\n"
-               "     for zone: not exact; for self-test: something is wrong here\n"
+               "     for zone: not exact, or not known; for self-test: something is wrong here\n"
                "  2  the command line is wrong\n"
                "  3  the input is missing or wrong; the message says where\n"
                "\n"

@@ -71,7 +71,8 @@ MaybeFailure ToolArguments::CheckGiven() const
 {
     const QStringList given = Positionals();
     if (given.size() < m_positionals.size())
-        return UsageFailure(QStringLiteral("%1 needs %2").arg(m_name, m_positionals[given.size()]));
+        return UsageFailure(QStringLiteral("%1 needs %2")
+                                .arg(m_name, QString(m_positionals[given.size()]).remove(kMore)));
     const bool takesMore = !m_positionals.isEmpty() && m_positionals.last().endsWith(kMore);
     if (given.size() > m_positionals.size() && !takesMore)
         return UsageFailure(

@@ -20,8 +20,9 @@ using namespace Lw::HNodeClock;
 constexpr char kDescription[] =
     "Writes the settings with which a clock shows a zone's civil time, ready to be put into the\n"
     "<clock> of a program, and what was found when they were held against every change of the\n"
-    "zone in ten years. The zone is named as the system names it: Europe/Berlin. Of settings that\n"
-    "are right all the time, those are written that stay so longest after it, and until when.\n"
+    "zone in ten years. The zone is named as the system names it: Europe/Berlin. Of several\n"
+    "settings that are right all that time, the ones that stay right longest afterwards are\n"
+    "written, with the date until which they do.\n"
     "\n"
     "The end of daylight saving is in the zone's standard time, as the clock reads it: an hour\n"
     "before the published one.\n"

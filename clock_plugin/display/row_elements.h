@@ -5,6 +5,7 @@
 #include "display/row_layout.h"
 
 #include <array>
+#include <cstddef>
 
 namespace Lw::HNodeClock {
 

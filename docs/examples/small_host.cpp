@@ -19,10 +19,13 @@ int Fail(const char *reason)
 
 int main(int argc, char **argv)
 {
+    constexpr char kUsage[] = "usage: small_host PLUGIN.so GLYPH-DIRECTORY FRAME-DIRECTORY";
     if (argc < 4)
-        return Fail("usage: small_host PLUGIN.so GLYPH-DIRECTORY FRAME-DIRECTORY");
+        return Fail(kUsage);
     qputenv("QT_FONT_DPI", "96");            // a point is as many pixels on every display
     QGuiApplication application(argc, argv); // fonts and images need it
+    if (argc < 4)                            // Qt's own options are taken out now
+        return Fail(kUsage);
     Lw::HAppConfig::SetClockOutputPath(QString::fromLocal8Bit(argv[2]));
     Lw::HAppConfig::SetRenderImageFormat(QImage::Format_ARGB32);
 

@@ -163,6 +163,7 @@ void TestDocuments::exampleDrawsTheSameEverywhere()
         environment.insert("QT_QPA_PLATFORM", "offscreen");
         environment.insert("QT_FONT_DPI", dotsPerInch);
         environment.insert("LC_ALL", locale);
+        environment.insert("FC_LANG", "en"); // or another language might have another font
         RunProcess(EXAMPLE, {CLOCK_PLUGIN_FILE, glyphs.path(), frames.path()}, environment);
         QVector<QByteArray> contents;
         for (const QFileInfo &file : QDir(glyphs.path()).entryInfoList({"digital_*.png"}))
@@ -180,6 +181,8 @@ void TestDocuments::exampleSaysWhatIsWrong_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("reason");
     QTest::newRow("no arguments") << QStringList() << "usage: small_host PLUGIN.so";
+    QTest::newRow("Qt's own arguments")
+        << QStringList {CLOCK_PLUGIN_FILE, "-platform", "offscreen"} << "usage: small_host";
     QTest::newRow("no plugin") << QStringList {"/nonexistent.so", ".", "."} << "no such file";
     QTest::newRow("no such directory")
         << QStringList {CLOCK_PLUGIN_FILE, ".", "/nonexistent"} << "a frame could not be written";

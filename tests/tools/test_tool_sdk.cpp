@@ -133,10 +133,13 @@ void TestToolSdk::ImportFindsClocksAnywhere()
     QCOMPARE(clocks[0].attribute("timezone"), QString("+01:00"));
     QCOMPARE(Of(clocks[0], "title", "value"), QString("a & b"));
     QCOMPARE(clocks[1].attribute("timezone"), QString("+02:00"));
-    QVERIFY(WriteText(Path("root.xml"), "<clock type='digital'><date format='3'/></clock>"));
-    const ProcessRun whole = RunTool({"import", Path("root.xml")});
-    QCOMPARE(whole.exitCode, 0);
-    QCOMPARE(whole.errors, QString()); // nothing is lost
+    for (const char *date : {"<date format='3'/>", "<date value='3' format='5'/>"}) {
+        QVERIFY(
+            WriteText(Path("root.xml"), "<clock type='digital'>" + QByteArray(date) + "</clock>"));
+        const ProcessRun whole = RunTool({"import", Path("root.xml")});
+        QCOMPARE(whole.exitCode, 0);
+        QCOMPARE(whole.errors, QString()); // nothing is lost
+    }
 }
 
 // Codes are written as "value" and read as "format"; a picture clock is written without its kind.

@@ -52,6 +52,8 @@ struct Session
 
 Session &SessionOf(unsigned int playIdentifier);
 
+/// Called once, when a player is stopped next.
+extern std::function<void()> whenStopped;
 /// Called once, when a player has been initialised.
 extern std::function<void()> whenInitialised;
 

@@ -6,6 +6,7 @@
 
 namespace MinimalHost {
 
+std::function<void()> whenStopped;
 std::function<void()> whenInitialised;
 
 Session &SessionOf(unsigned int playIdentifier)
@@ -69,6 +70,8 @@ void pictureplayer::Stop()
 {
     Calls() << QStringLiteral("Stop");
     ++SessionOf(d->identifier).stops;
+    if (MinimalHost::whenStopped)
+        std::exchange(MinimalHost::whenStopped, {})();
 }
 
 } // namespace Lw

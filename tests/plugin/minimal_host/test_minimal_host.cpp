@@ -102,6 +102,7 @@ private Q_SLOTS:
     void PictureClockRecordsNoFiles();
     void ColoursKeepTheirBytes();
     void WhatThePlayerIsAsked();
+    void NodeGoneByStopping();
     void RefusedStartAsksNothing();
     void DestructionStopsThePlayerFirst();
     void RendererGoneByInitialising_data();
@@ -266,6 +267,18 @@ void TestMinimalHost::WhatThePlayerIsAsked()
     QCOMPARE(calls, QStringList({"Stop", "Stop", "~"}));
     render->Remove();
     QCOMPARE(calls.size(), 3);
+}
+
+// A node that goes as the player is stopped is nobody's to ask about.
+void TestMinimalHost::NodeGoneByStopping()
+{
+    std::unique_ptr<Lw::HNode> node = MakeNode(kAnalog);
+    const std::unique_ptr<Lw::IContentRender> render(Plugin()->CreateAreaRender(node.get()));
+    MinimalHost::Calls().clear();
+    MinimalHost::whenStopped = [&node] { node.reset(); };
+    render->Start(82, 0);
+    QVERIFY(!node);
+    QCOMPARE(MinimalHost::Calls(), QStringList({"Stop", "Init 82"}));
 }
 
 void TestMinimalHost::RefusedStartAsksNothing()
