@@ -37,6 +37,7 @@ class TestClockFileSafety : public QObject
     Q_OBJECT
 
     QScopedPointer<FreshDirectories> m_dirs;
+    QSharedPointer<QTemporaryDir> m_elsewhere;
     HClockNode *m_node = nullptr;
 
     QString Source() const { return m_dirs->Out() + QStringLiteral("analog_7_space.png"); }
@@ -87,6 +88,16 @@ class TestClockFileSafety : public QObject
         return made;
     }
 
+    /// Where to, on the output directory's file system or another; empty where there is none. Gone
+    /// after the test.
+    QString DestDirectory(bool elsewhere)
+    {
+        if (!elsewhere)
+            return m_dirs->Dest();
+        m_elsewhere = ElsewhereDirectory();
+        return m_elsewhere ? m_elsewhere->path() + QLatin1Char('/') : QString();
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -99,6 +110,7 @@ private Q_SLOTS:
     void cleanup()
     {
         delete m_node;
+        m_elsewhere.reset();
         m_dirs.reset();
     }
 
@@ -331,11 +343,8 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, content);
         QFETCH(bool, elsewhere);
-        QSharedPointer<QTemporaryDir> other;
-        if (elsewhere)
-            other = ElsewhereDirectory();
-        QVERIFY2(!elsewhere || other, "needs a second file system at /dev/shm");
-        const QString destDir = other ? other->path() + QLatin1Char('/') : m_dirs->Dest();
+        const QString destDir = DestDirectory(elsewhere);
+        QVERIFY2(!destDir.isEmpty(), "needs a second file system at /dev/shm");
         WriteFile(NameIn(destDir), content);
         Export(destDir, Md5(kImage));
         QCOMPARE(ReadFile(NameIn(destDir)), kImage);
@@ -387,11 +396,8 @@ private Q_SLOTS:
     {
         QFETCH(bool, dangling);
         QFETCH(bool, elsewhere);
-        QSharedPointer<QTemporaryDir> other;
-        if (elsewhere)
-            other = ElsewhereDirectory();
-        QVERIFY2(!elsewhere || other, "needs a second file system at /dev/shm");
-        const QString destDir = other ? other->path() + QLatin1Char('/') : m_dirs->Dest();
+        const QString destDir = DestDirectory(elsewhere);
+        QVERIFY2(!destDir.isEmpty(), "needs a second file system at /dev/shm");
         const QString target = m_dirs->Root() + QStringLiteral("target");
         if (!dangling)
             WriteFile(target, "not mine");
@@ -423,11 +429,8 @@ private Q_SLOTS:
     {
         QFETCH(bool, relative);
         QFETCH(bool, elsewhere);
-        QSharedPointer<QTemporaryDir> other;
-        if (elsewhere)
-            other = ElsewhereDirectory();
-        QVERIFY2(!elsewhere || other, "needs a second file system at /dev/shm");
-        const QString destDir = other ? other->path() + QLatin1Char('/') : m_dirs->Dest();
+        const QString destDir = DestDirectory(elsewhere);
+        QVERIFY2(!destDir.isEmpty(), "needs a second file system at /dev/shm");
         LinkTheSource(relative);
         Export(destDir, Md5(kImage));
         QCOMPARE(ReadFile(NameIn(destDir)), kImage);

@@ -1,4 +1,5 @@
 // The real player in a window of a real display, with real key presses.
+#include "stepping_clock.h"
 #include "test_display.h"
 
 #include <QElapsedTimer>
@@ -417,12 +418,8 @@ void TestWindow::SteppedSystemClock()
         offset.write(reinterpret_cast<const char *>(&milliseconds), sizeof milliseconds);
     };
     step(0);
-    QProcessEnvironment environment = m_display.Environment();
-    environment.insert("LD_PRELOAD", STEPPING_CLOCK_LIBRARY);
-    environment.insert("STEPPING_CLOCK", offset.fileName());
-    environment.insert("ASAN_OPTIONS",
-                       environment.value("ASAN_OPTIONS") + ":verify_asan_link_order=0");
-    Player player(m_display, {Write(kClocks), "--stats"}, environment);
+    Player player(m_display, {Write(kClocks), "--stats"},
+                  WithSteppingClock(m_display.Environment(), offset.fileName()));
     QVERIFY(player.IsOpen());
     QTest::qWait(1500);
     for (const qint64 milliseconds : steps) {

@@ -1,4 +1,5 @@
 // clock_tool on a device whose clock says that it is long after the system's zone data end.
+#include "stepping_clock.h"
 #include "tool_process.h"
 
 #include <QDateTime>
@@ -42,13 +43,9 @@ void TestToolLater::zoneData()
         QDateTime::currentDateTimeUtc().msecsTo(QDateTime(today, QTime(12, 0), Qt::UTC));
     QVERIFY(WriteText(folder.filePath("shift"),
                       QByteArray(reinterpret_cast<const char *>(&shift), sizeof shift)));
-    QProcessEnvironment environment = DisplaylessEnvironment();
-    environment.insert("LD_PRELOAD", STEPPING_CLOCK_LIBRARY);
-    environment.insert("STEPPING_CLOCK", folder.filePath("shift"));
-    environment.insert("ASAN_OPTIONS",
-                       environment.value("ASAN_OPTIONS") + ":verify_asan_link_order=0");
     const ProcessRun run =
-        RunProcess(TOOL, QStringList {"zone", "Europe/Berlin"} + more, environment);
+        RunProcess(TOOL, QStringList {"zone", "Europe/Berlin"} + more,
+                   WithSteppingClock(DisplaylessEnvironment(), folder.filePath("shift")));
     QCOMPARE(run.exitCode, code);
     QVERIFY2((code == 0 ? run.output : run.errors).contains(said),
              qPrintable(run.output + run.errors));
