@@ -23,6 +23,7 @@ constexpr int kDefaultPoints = 12;
 // No font above this size has a line that fits an image. Qt draws boxes of a fixed size instead of
 // glyphs from about twice as much on, which must not pass for the text.
 constexpr int kMaxPoints = kImageSide;
+constexpr int kTooWide = kImageSide + 1;
 // Qt's text widths overflow at 2^25 pixels: so many characters stay below it at every size.
 constexpr int kMeasuredAtOnce = 256;
 
@@ -56,7 +57,7 @@ int TextWidth(const QFontMetrics &metrics, const QString &text)
         for (int at = 0; at < text.size() && estimate <= 2 * kImageSide; at += kMeasuredAtOnce)
             estimate += AdvanceWidth(metrics, text.mid(at, kMeasuredAtOnce));
         if (estimate > 2 * kImageSide)
-            return kImageSide + 1;
+            return kTooWide;
     }
     return AdvanceWidth(metrics, text);
 }
@@ -69,6 +70,11 @@ QPixmap TransparentPixmap(int width, int height)
     QPixmap pixmap(width, height);
     pixmap.fill(Qt::transparent);
     return pixmap;
+}
+
+bool IsTopTextFile(const QString &key, const QString &fileSuffix)
+{
+    return key == GlyphKey(Glyph::TopText) && fileSuffix == key + QLatin1String(kGlyphSuffix);
 }
 
 constexpr GlyphFont kAnalogFonts[] = {GlyphFont::TopText, GlyphFont::AmPm,  GlyphFont::Date,
@@ -146,25 +152,42 @@ QString DrwSourceIMage::TextOf(const GlyphImage &image) const
     return QString::fromLatin1(image.Text());
 }
 
+// An empty top text has to clear the wall: without a removal the text before it would stay there.
 void DrwSourceIMage::DrawImage(HClockNode *node, QString key, QString text, QString id,
                                QString family, int size, int colour, QString fileSuffix)
 {
     const QString directory =
         m_isTempUpdate ? HAppConfig::TempProgramImagePath() : HAppConfig::ClockOutputPath();
     const QString path = directory + m_typePrefix + id + fileSuffix;
-    if (size <= kMaxPoints) {
-        const QFont &font = Typeface(family, size);
-        const QFontMetrics metrics(font);
-        QPixmap pixmap = TransparentPixmap(TextWidth(metrics, text), metrics.height());
-        if (!pixmap.isNull()) {
-            BeginGlyphs(&pixmap, font, colour);
-            m_painter->drawText(pixmap.rect(), Qt::AlignCenter, text);
-            // Saved while the painter is still at work on it; a strip, after it has ended.
-            Save(pixmap, path);
-            m_painter->end();
-        }
-    }
+    const int width = WidthOf(text, family, size);
+    if (width > 0)
+        DrawText(text, width, family, size, colour, path);
+    else if (IsTopTextFile(key, fileSuffix))
+        RemovePng(path);
     Record(node, key, path);
+}
+
+int DrwSourceIMage::WidthOf(const QString &text, const QString &family, int size)
+{
+    if (text.isEmpty())
+        return 0;
+    return size <= kMaxPoints ? TextWidth(QFontMetrics(Typeface(family, size)), text) : kTooWide;
+}
+
+void DrwSourceIMage::DrawText(const QString &text, int width, const QString &family, int size,
+                              int colour, const QString &path)
+{
+    if (width >= kTooWide)
+        return;
+    const QFont &font = Typeface(family, size);
+    QPixmap pixmap = TransparentPixmap(width, QFontMetrics(font).height());
+    if (pixmap.isNull())
+        return;
+    BeginGlyphs(&pixmap, font, colour);
+    m_painter->drawText(pixmap.rect(), Qt::AlignCenter, text);
+    // Saved while the painter is still at work on it; a strip, after it has ended.
+    Save(pixmap, path);
+    m_painter->end();
 }
 
 void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, QString family,

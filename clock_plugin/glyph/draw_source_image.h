@@ -23,7 +23,8 @@ namespace Lw::HNodeClock {
 ///
 /// Nothing is reported. An image that cannot be made or written leaves the file of its name as it
 /// was, and is recorded all the same. That is one of width 0, one above 32767 pixels a side or
-/// 64 MiB, and any of a font above 32767 points.
+/// 64 MiB, and any of a font above 32767 points. The one exception is a top text of width 0: the
+/// file of its plain name is removed, so that a cleared text no longer shows.
 class CLOCK_EXPORT DrwSourceIMage : public QObject
 {
     Q_OBJECT
@@ -64,6 +65,10 @@ private:
     Q_DECL_HIDDEN void ReadFont(HClockNode *node, GlyphFont font);
     Q_DECL_HIDDEN void DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id);
     Q_DECL_HIDDEN QString TextOf(const GlyphImage &image) const;
+    /// In pixels; more than an image may have where it cannot be measured.
+    Q_DECL_HIDDEN int WidthOf(const QString &text, const QString &family, int size);
+    Q_DECL_HIDDEN void DrawText(const QString &text, int width, const QString &family, int size,
+                                int colour, const QString &path);
     Q_DECL_HIDDEN const QFont &Typeface(const QString &family, int size);
     Q_DECL_HIDDEN void BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour);
     Q_DECL_HIDDEN void Save(const QPixmap &pixmap, const QString &path);

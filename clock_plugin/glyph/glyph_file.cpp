@@ -71,6 +71,12 @@ void WriteAsideAndRename(const QString &path, const QByteArray &bytes, Durabilit
         std::remove(from.constData());
 }
 
+bool IsWriteProtected(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.exists() && !file.isWritable();
+}
+
 } // namespace
 
 // A set is some fifty files: the system is asked directly, which takes half the time of QFile.
@@ -97,10 +103,19 @@ void SavePng(const QPixmap &pixmap, const QString &path, Durability durability)
     const QByteArray png = EncodePng(pixmap);
     if (png.isEmpty() || Holds(path, png))
         return;
-    const QFileInfo old(path);
-    const bool writeProtected = old.exists() && !old.isWritable();
-    if (!writeProtected)
+    if (!IsWriteProtected(path))
         WriteAsideAndRename(path, png, durability);
+}
+
+void RemovePng(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status
+    { };
+    if (name.contains('\0') || lstat(name.constData(), &status) != 0
+        || !(S_ISREG(status.st_mode) || S_ISLNK(status.st_mode)) || IsWriteProtected(path))
+        return;
+    unlink(name.constData());
 }
 
 } // namespace Lw::HNodeClock

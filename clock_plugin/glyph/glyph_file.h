@@ -24,4 +24,8 @@ enum class Durability {
 /// holds the same bytes already is not touched. Nothing is reported.
 void SavePng(const QPixmap &pixmap, const QString &path, Durability durability);
 
+/// Removes the file of an image, or a link in its place, but not the file that the link names.
+/// Anything else of that name stays, and so does what is write-protected. Nothing is reported.
+void RemovePng(const QString &path);
+
 } // namespace Lw::HNodeClock

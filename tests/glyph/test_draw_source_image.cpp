@@ -68,6 +68,18 @@ class TestDrawSourceImage : public QObject
 private:
     QScopedPointer<GlyphOutput> m_output;
 
+    static void SetTopText(HClockNode &node, const QString &text)
+    {
+        SetText(node, Attribute::AnalogTopText, text);
+        SetText(node, Attribute::DigitalTopText, text);
+    }
+    QStringList AllFilesBut(const QString &path) const
+    {
+        QStringList files = m_output->RegularFiles() + m_output->TemporaryFiles();
+        files.removeAll(QFileInfo(path).fileName());
+        return files;
+    }
+
     static void Types()
     {
         QTest::addColumn<int>("clockType");
@@ -332,15 +344,145 @@ private Q_SLOTS:
         QCOMPARE(record.kind, 3);
     }
 
-    void olderFileStaysWhereNothingCanBeMade()
+    void clearedTopTextIsRemoved_data()
     {
+        QTest::addColumn<int>("clockType");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<bool>("isTempUpdate");
+        QTest::newRow("analog, empty") << 0 << QString() << 12 << false;
+        QTest::newRow("digital, empty") << 1 << QString() << 12 << false;
+        QTest::newRow("digital, empty, font too large") << 1 << QString() << 40000 << false;
+        QTest::newRow("digital, temporary update") << 1 << QString() << 12 << true;
+        QTest::newRow("digital, no width") << 1 << QString(QChar(0x200b)) << 12 << false;
+    }
+    void clearedTopTextIsRemoved()
+    {
+        QFETCH(int, clockType);
+        QFETCH(QString, text);
+        QFETCH(int, size);
+        QFETCH(bool, isTempUpdate);
+        HClockNode node;
+        FillNode(node, clockType, 7);
+        Generate(node, false, isTempUpdate);
+        const QString path = node.GetFirstFile("_toptext");
+        QVERIFY(QFile::exists(path));
+        const QStringList others = AllFilesBut(path);
+        SetTopText(node, text);
+        SetInt(node, Attribute::DigitalTopTextFSize, size);
+        Generate(node, false, isTempUpdate);
+        QVERIFY(!QFile::exists(path));
+        QCOMPARE(AllFilesBut(path), others);
+        QCOMPARE(RecordOf(node, "_toptext").path, path);
+        QCOMPARE(RecordOf(node, "_toptext").size, -1LL);
+    }
+
+    // The image under its plain name would be taken for the new one and get a digest name. The one
+    // of an earlier generation may be another clock's too.
+    void clearedTopTextIsRemovedWithDigests()
+    {
+        HClockNode node;
+        FillNode(node, DigitalClock, 7);
+        Generate(node);
+        const QString plain = node.GetFirstFile("_toptext");
+        Generate(node, true);
+        const QString digested = node.GetFirstFile("_toptext");
+        QVERIFY(QFile::copy(digested, plain));
+        SetTopText(node, QString());
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^open \\[.*\\]error"));
+        Generate(node, true);
+        QVERIFY(!QFile::exists(plain));
+        QVERIFY(QFile::exists(digested));
+        QCOMPARE(RecordOf(node, "_toptext").path, QString());
+    }
+
+    // Nothing to draw is not the same as something that cannot be drawn.
+    void olderTopTextStaysWhereNoImageCanBeMade_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("size");
+        QTest::newRow("font too large") << "LED" << 40000;
+        QTest::newRow("text too wide") << QString(10000, 'W') << 12;
+    }
+    void olderTopTextStaysWhereNoImageCanBeMade()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, size);
         HClockNode node;
         FillNode(node, AnalogClock, 7);
         Generate(node);
         const QByteArray before = GlyphOutput::Content(node.GetFirstFile("_toptext"));
-        SetText(node, Attribute::AnalogTopText, QString());
+        SetTopText(node, text);
+        SetInt(node, Attribute::AnalogTopTextFSize, size);
         Generate(node);
+        QVERIFY(!before.isEmpty());
         QCOMPARE(GlyphOutput::Content(node.GetFirstFile("_toptext")), before);
+    }
+
+    void onlyTheTopTextIsEverRemoved()
+    {
+        HClockNode node;
+        DrwSourceIMage generator;
+        generator.DrawImage(&node, "_k", "text", "7", "DejaVu Sans", 12, 0, "_k.png");
+        const QByteArray before = GlyphOutput::Content(node.GetFirstFile("_k"));
+        QVERIFY(!before.isEmpty());
+        generator.DrawImage(&node, "_k", "", "7", "DejaVu Sans", 12, 0, "_k.png");
+        QCOMPARE(GlyphOutput::Content(node.GetFirstFile("_k")), before);
+        // An image that another caller names otherwise is not the generator's own.
+        generator.DrawImage(&node, "_toptext", "", "7", "DejaVu Sans", 12, 0, "_k.png");
+        QCOMPARE(GlyphOutput::Content(node.GetFirstFile("_k")), before);
+    }
+
+    void clearedTopTextLeavesAForeignDirectory()
+    {
+        HClockNode node;
+        FillNode(node, DigitalClock, 7);
+        SetTopText(node, QString());
+        QVERIFY(QDir(m_output->Regular()).mkpath("digital_7_toptext.png"));
+        Generate(node);
+        QVERIFY(QFileInfo(m_output->Regular() + "digital_7_toptext.png").isDir());
+    }
+
+    // A link goes as it goes where an image replaces it; the file that it names stays.
+    void clearedTopTextLeavesTheTargetOfALink()
+    {
+        HClockNode node;
+        FillNode(node, DigitalClock, 7);
+        SetTopText(node, QString());
+        const QString foreign = m_output->Temporary() + "foreign";
+        const QString link = m_output->Regular() + "digital_7_toptext.png";
+        QFile file(foreign);
+        QVERIFY(file.open(QFile::WriteOnly) && file.write("kept") == 4);
+        file.close();
+        QVERIFY(QFile::link(foreign, link));
+        Generate(node);
+        QCOMPARE(GlyphOutput::Content(foreign), QByteArray("kept"));
+        QVERIFY(!QFileInfo(link).isSymLink());
+    }
+
+    void clearedTopTextStaysWhereItIsWriteProtected_data()
+    {
+        QTest::addColumn<bool>("directory");
+        QTest::newRow("file") << false;
+        QTest::newRow("directory") << true;
+    }
+    void clearedTopTextStaysWhereItIsWriteProtected()
+    {
+        QFETCH(bool, directory);
+        HClockNode node;
+        FillNode(node, DigitalClock, 7);
+        Generate(node);
+        const QString path = node.GetFirstFile("_toptext");
+        SetTopText(node, QString());
+        QFile::setPermissions(m_output->Regular(), QFile::Permissions(directory ? 0x5555 : 0x7777));
+        QFile::setPermissions(path, QFile::Permissions(directory ? 0x6666 : 0x4444));
+        {
+            const WithoutPrivileges nobody;
+            QVERIFY(nobody.Dropped());
+            Generate(node);
+        }
+        QFile::setPermissions(m_output->Regular(), QFile::Permissions(0x7777));
+        QVERIFY(QFile::exists(path));
     }
 
     void unchangedSetLeavesItsFilesUntouched()
