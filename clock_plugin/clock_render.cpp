@@ -45,6 +45,23 @@ std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
     return record;
 }
 
+// The renderer has no properties of its own, so what hosts may ask of a frame is a child object's.
+class FrameDamage : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QRegion region READ Region)
+
+public:
+    FrameDamage(DrawDisplayImage *drawer, QObject *renderer) : QObject(renderer), m_drawer(drawer)
+    {
+        setObjectName(QStringLiteral("frameDamage"));
+    }
+    QRegion Region() const { return m_drawer ? m_drawer->FrameDamage() : QRegion(); }
+
+private:
+    QPointer<DrawDisplayImage> m_drawer;
+};
+
 } // namespace
 
 HClockRender::HClockRender(HClockNode *node) : m_node(node), m_state(kIdle)
@@ -52,6 +69,7 @@ HClockRender::HClockRender(HClockNode *node) : m_node(node), m_state(kIdle)
     m_player.reset(new pictureplayer(nullptr));
     m_drawer.reset(new DrawDisplayImage(m_node));
     m_drawer->InitClockTypePixmap();
+    new FrameDamage(m_drawer.data(), this);
 }
 
 HClockRender::~HClockRender()
@@ -70,6 +88,8 @@ void HClockRender::Start(unsigned int playIdentifier, long long)
     m_playIdentifier = playIdentifier;
     m_tickCounter = 1;
     m_state = kStarted;
+    if (m_drawer)
+        m_drawer->ForgetLastFrame();
     const QPointer<HClockRender> self(this);
     Stop();
     if (!self || !m_player)
@@ -145,3 +165,5 @@ void HClockRender::CountTick()
 }
 
 } // namespace Lw::HNodeClock
+
+#include "clock_render.moc"

@@ -39,6 +39,8 @@ void DrawDisplayImage::ReLoadSourceFile(HClockNode *node)
 
 QImage DrawDisplayImage::DrawClockDisplayImage()
 {
+    d->lastForgotten = std::exchange(d->forgetLast, false);
+    d->frameRedrawn = false;
     if (!d->node)
         return d->frame;
     const HeldReading oneInstant;
@@ -60,6 +62,18 @@ QImage DrawDisplayImage::DrawClockDisplayImage()
         break;
     }
     return d->frame;
+}
+
+QRegion DrawDisplayImage::FrameDamage() const
+{
+    if (d->lastForgotten)
+        return d->frame.rect();
+    return d->frameRedrawn ? d->ChangesSinceSpare() : QRegion();
+}
+
+void DrawDisplayImage::ForgetLastFrame()
+{
+    d->forgetLast = true;
 }
 
 void DrawDisplayImage::CalculateTimeZone()
@@ -135,10 +149,25 @@ QImage DrawDisplayImage::Private::NewImage(const QSize &size, const QColor &keyC
 
 void DrawDisplayImage::Private::PrepareFrame(const QSize &size)
 {
+    frameRedrawn = true;
     std::swap(frame, spare);
     std::swap(frameView, spareView);
     if (frame.isNull() || frame.size() != size || !frame.isDetached())
         frame = NewImage(size, KeyColour());
+}
+
+// A frame is known to the memory of the kind of clock that drew it, if to any.
+QRegion DrawDisplayImage::Private::ChangesSinceSpare() const
+{
+    std::optional<QRegion> changes;
+    if (frame.size() == spare.size()) {
+        changes = digitalContents->ChangesSince(*digitalSpareContents, frame, spare);
+        if (!changes)
+            changes = dialFrames.ChangesSince(spare, frame);
+        if (!changes)
+            changes = pictureFrames.ChangesSince(spare, frame);
+    }
+    return changes.value_or(frame.rect()) & frame.rect();
 }
 
 } // namespace Lw::HNodeClock

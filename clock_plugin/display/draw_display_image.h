@@ -16,6 +16,7 @@
 #include <QPixmap>
 #include <QPoint>
 #include <QPointer>
+#include <QRegion>
 #include <QScopedPointer>
 #include <QString>
 #include <QTime>
@@ -50,6 +51,12 @@ public:
     /// The frame of this moment, the node's size, filled with the key colour where nothing is
     /// drawn. A node that is gone, or of no known clock type, gives the last frame.
     QImage DrawClockDisplayImage();
+    /// Where the frame that DrawClockDisplayImage gave last may differ from the one it gave before
+    /// that, in pixels of the frame: all of it where that is not known, nothing where the same
+    /// frame was given again. Worked out when asked for.
+    Q_DECL_HIDDEN QRegion FrameDamage() const;
+    /// Makes the damage of the next frame all of it.
+    Q_DECL_HIDDEN void ForgetLastFrame();
     /// Reads the device's clock and works out what the clock shows, by its node's zone, adjustment
     /// and daylight saving. All drawing is of this reading until the next call.
     void CalculateTimeZone();

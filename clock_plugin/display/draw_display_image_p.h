@@ -48,6 +48,8 @@ public:
     /// Splits the reading into the fields below.
     void TakeFields();
     void RecordStartTime();
+    /// Where the frame may differ from the spare, which was the frame before it.
+    QRegion ChangesSinceSpare() const;
     int Number(Attribute attribute) { return node->GetAttributeToInt(Key(attribute)); }
 
     QPointer<HClockNode> node;
@@ -78,6 +80,9 @@ public:
     OpaqueView frameView;
     QImage spare; ///< the frame before: the next one is drawn over it once nobody holds it
     OpaqueView spareView;
+    bool frameRedrawn = false;  ///< with the last call; else the same frame was given again
+    bool lastForgotten = false; ///< for this frame: its damage is all of it
+    bool forgetLast = true;     ///< the same, for the next frame
     QImage::Format imageFormat = QImage::Format_ARGB32;
 
     // Digital clock.

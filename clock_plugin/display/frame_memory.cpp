@@ -31,8 +31,13 @@ void CopyRegion(const QImage &source, const QRegion &region, uchar *target)
 
 FrameMemory::Known *FrameMemory::Find(const QImage &frame)
 {
+    return const_cast<Known *>(qAsConst(*this).Find(frame));
+}
+
+const FrameMemory::Known *FrameMemory::Find(const QImage &frame) const
+{
     const qint64 key = frame.cacheKey();
-    for (Known &known : m_known) {
+    for (const Known &known : m_known) {
         if (key != 0 && known.key == key)
             return &known;
     }
@@ -76,6 +81,16 @@ void FrameMemory::BackgroundChanged(qint64 keyBefore, const QImage &background, 
     m_backgroundKey = background.cacheKey();
     for (Known &known : m_known)
         known.stale += area;
+}
+
+// The hands on both frames, and where the background changed since the frame before was drawn.
+std::optional<QRegion> FrameMemory::ChangesSince(const QImage &before, const QImage &frame) const
+{
+    const Known *const knownBefore = Find(before);
+    const Known *const known = Find(frame);
+    if (!knownBefore || !known)
+        return std::nullopt;
+    return knownBefore->stale + knownBefore->hands.Region() + known->hands.Region();
 }
 
 FrameMemory::Painting::Painting(FrameMemory &memory, QImage &frame)

@@ -11,6 +11,7 @@
 #include <QRegion>
 
 #include <array>
+#include <optional>
 
 namespace Lw::HNodeClock {
 
@@ -42,6 +43,9 @@ public:
     /// With any other key than the one known all frames are forgotten.
     void BackgroundChanged(qint64 keyBefore, const QImage &background, const QRegion &area);
 
+    /// Where a frame may differ from the one drawn before it; no answer where either is unknown.
+    std::optional<QRegion> ChangesSince(const QImage &before, const QImage &frame) const;
+
 private:
     struct Known
     {
@@ -50,6 +54,7 @@ private:
         HandTrace hands;
     };
     Known *Find(const QImage &frame);
+    const Known *Find(const QImage &frame) const;
     void Forget();
 
     std::array<Known, 2> m_known; // the one used last comes first

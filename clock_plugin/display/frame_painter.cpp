@@ -14,6 +14,17 @@ bool FrameContents::Describes(const QImage &image, const Placements &placements)
     return Knows(image) && m_shown.Are(placements);
 }
 
+std::optional<QRegion> FrameContents::ChangesSince(const FrameContents &before, const QImage &image,
+                                                   const QImage &imageBefore) const
+{
+    if (!Knows(image) || !before.Knows(imageBefore))
+        return std::nullopt;
+    QRegion changes;
+    for (const QRect &rect : m_shown.ChangesSince(before.m_shown))
+        changes += rect;
+    return changes;
+}
+
 void FrameContents::Draw(QImage &image, const Placements &placements, const QColor &background)
 {
     const bool known = Knows(image);

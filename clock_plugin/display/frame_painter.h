@@ -5,6 +5,9 @@
 
 #include <QColor>
 #include <QImage>
+#include <QRegion>
+
+#include <optional>
 
 namespace Lw::HNodeClock {
 
@@ -17,6 +20,11 @@ public:
     /// Makes the image show the placements on the background and nothing else. It must be detached.
     /// What it shows already, as this knows it, is left alone.
     void Draw(QImage &image, const Placements &placements, const QColor &background);
+
+    /// Where an image with these contents may differ from an earlier one with the contents given;
+    /// no answer where either image is unknown.
+    std::optional<QRegion> ChangesSince(const FrameContents &before, const QImage &image,
+                                        const QImage &imageBefore) const;
 
 private:
     bool Knows(const QImage &image) const;

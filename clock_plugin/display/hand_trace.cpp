@@ -82,6 +82,21 @@ void HandTrace::Copy(const QImage &source, uchar *target) const
     }
 }
 
+QRegion HandTrace::Region() const
+{
+    constexpr int kBandsTogether = 4;
+    QRegion region;
+    for (int i = 0; i < m_bands.size();) {
+        QRect rect;
+        for (int last = i + kBandsTogether; i < last && i < m_bands.size(); ++i) {
+            const Band &band = m_bands.at(i);
+            rect |= QRect(QPoint(band.left, band.top), QPoint(band.right - 1, band.bottom - 1));
+        }
+        region += rect;
+    }
+    return region;
+}
+
 bool HandTrace::Contains(const QPoint &pixel) const
 {
     return std::any_of(m_bands.begin(), m_bands.end(), [&pixel](const Band &band) {

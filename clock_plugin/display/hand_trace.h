@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QPolygonF>
+#include <QRegion>
 #include <QVector>
 
 namespace Lw::HNodeClock {
@@ -18,6 +19,8 @@ public:
     /// Copies the pixels of the trace. The target is written row by row from its first byte; both
     /// images are as large as the trace was told, and of one format.
     void Copy(const QImage &source, uchar *target) const;
+    /// A region of few rectangles that has all pixels of the trace in it.
+    QRegion Region() const;
     /// Whether a pixel belongs to the trace.
     bool Contains(const QPoint &pixel) const;
 

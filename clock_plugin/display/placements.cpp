@@ -67,4 +67,14 @@ ShownPlacements::Rects ShownPlacements::Take(const Placements &placements)
     return changed;
 }
 
+ShownPlacements::Rects ShownPlacements::ChangesSince(const ShownPlacements &before) const
+{
+    Placements placements;
+    for (int i = 0; i < m_count; ++i) {
+        const Shown &shown = m_shown[static_cast<std::size_t>(i)];
+        placements.Add(shown.element, shown.position);
+    }
+    return ShownPlacements(before).Take(placements);
+}
+
 } // namespace Lw::HNodeClock

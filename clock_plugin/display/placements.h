@@ -47,6 +47,8 @@ public:
     bool Are(const Placements &placements) const;
     /// Remembers these from now on, and returns all rectangles in which they look different.
     Rects Take(const Placements &placements);
+    /// All rectangles in which these look different from others.
+    Rects ChangesSince(const ShownPlacements &before) const;
 
 private:
     struct Shown
