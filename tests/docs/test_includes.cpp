@@ -22,6 +22,7 @@ struct Room
 // From the top floor down.
 const QVector<Room> kRooms = {
     {"player/", {"player/"}},
+    {"studio/", {"studio/"}},
     {"tools/", {"tools/"}},
     {"program/", {"program/"}},
     {"clock_plugin", {"clock_plugin/clock_plugin."}},
@@ -74,8 +75,9 @@ bool MayInclude(int from, int to)
 QString Included(const Sources &sources, const QString &path, const QString &name)
 {
     const QString folder = path.left(path.lastIndexOf('/') + 1);
-    for (const QString &root : {folder, QString("clock_plugin/"), QString("host/"),
-                                QString("program/"), QString("tools/"), QString("player/")}) {
+    for (const QString &root :
+         {folder, QString("clock_plugin/"), QString("host/"), QString("program/"),
+          QString("tools/"), QString("studio/"), QString("player/")}) {
         const QString candidate = QDir::cleanPath(root + name);
         if (sources.contains(candidate))
             return candidate;
@@ -116,7 +118,7 @@ QString Text(const QString &path)
 Sources SourcesOfTheTree()
 {
     Sources sources;
-    for (const char *folder : {"player", "tools", "program", "clock_plugin", "host"}) {
+    for (const char *folder : {"player", "studio", "tools", "program", "clock_plugin", "host"}) {
         QDirIterator files(QStringLiteral(SOURCE_DIR "/") + folder, {"*.h", "*.cpp"}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {

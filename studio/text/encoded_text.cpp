@@ -1,0 +1,110 @@
+#include "encoded_text.h"
+
+#include <QRegularExpression>
+#include <QTextCodec>
+
+namespace ClockStudio {
+
+namespace {
+
+struct Mark
+{
+    const char *codec;
+    QByteArray bytes;
+};
+
+// The first that fits counts.
+const Mark kMarks[] = {
+    {"UTF-8", QByteArray("\xef\xbb\xbf", 3)},
+    {"UTF-16LE", QByteArray("\xff\xfe", 2)},
+    {"UTF-16BE", QByteArray("\xfe\xff", 2)},
+};
+// What a file in two-byte characters begins with where it has no mark.
+const Mark kBeginnings[] = {
+    {"UTF-16LE", QByteArray("<\0", 2)},
+    {"UTF-16BE", QByteArray("\0<", 2)},
+};
+
+constexpr int kDeclarationReach = 200; // characters
+
+/// The encoding that an XML declaration names; empty where it names none.
+QByteArray DeclaredCodec(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A<\?xml[^>]*\sencoding\s*=\s*["']([A-Za-z0-9._-]+)["'])"));
+    return form.match(text.left(kDeclarationReach)).captured(1).toLatin1();
+}
+
+bool HasWideCharacters(const TextForm &form)
+{
+    return form.codec.startsWith("UTF-16");
+}
+
+TextForm FormOf(const QByteArray &bytes)
+{
+    for (const Mark &mark : kMarks) {
+        if (bytes.startsWith(mark.bytes))
+            return {mark.codec, mark.bytes};
+    }
+    for (const Mark &beginning : kBeginnings) {
+        if (bytes.startsWith(beginning.bytes))
+            return {beginning.codec, {}};
+    }
+    const QByteArray declared = DeclaredCodec(QString::fromLatin1(bytes.left(kDeclarationReach)));
+    return declared.isEmpty() ? TextForm() : TextForm {declared, {}};
+}
+
+QTextCodec *CodecOf(const TextForm &form)
+{
+    return QTextCodec::codecForName(form.codec);
+}
+
+} // namespace
+
+std::optional<EncodedText> DecodeText(const QByteArray &bytes)
+{
+    const TextForm form = FormOf(bytes);
+    QTextCodec *const codec = CodecOf(form);
+    if (!codec)
+        return std::nullopt;
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    const QByteArray body = bytes.mid(form.mark.size());
+    const EncodedText read {codec->toUnicode(body.constData(), body.size(), &state), form};
+    if (EncodeText(read.text, form) != bytes)
+        return std::nullopt;
+    return read;
+}
+
+std::optional<QByteArray> EncodeText(const QString &text, const TextForm &form)
+{
+    QTextCodec *const codec = CodecOf(form);
+    if (!codec)
+        return std::nullopt;
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    const QByteArray body = codec->fromUnicode(text.constData(), text.size(), &state);
+    if (state.invalidChars > 0)
+        return std::nullopt;
+    return form.mark + body;
+}
+
+TextForm FormAfterEdits(const QString &text, const TextForm &form)
+{
+    if (HasWideCharacters(form))
+        return form;
+    const QByteArray declared = DeclaredCodec(text);
+    const bool isUsable = QTextCodec::codecForName(declared) && !declared.startsWith("UTF-16");
+    if (!declared.isEmpty() && !isUsable)
+        return form;
+    TextForm edited = form;
+    edited.codec = declared.isEmpty() ? QByteArray("UTF-8") : declared;
+    if (!form.mark.isEmpty())
+        edited.codec = form.codec;
+    return edited;
+}
+
+bool CanEncode(const QString &text, const TextForm &form)
+{
+    return EncodeText(text, form).has_value();
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,107 @@
+#include "program_reading.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+namespace ClockStudio {
+
+namespace {
+
+using ClockProgram::Failure;
+using ClockProgram::ParseProgram;
+using ClockProgram::Program;
+using ClockProgram::Result;
+
+QString Translated(const char *text)
+{
+    return QCoreApplication::translate("ClockStudio::TextFault", text);
+}
+
+/// The line and the reason out of the reader's message, which begins with an empty path.
+TextFault FaultOf(const Failure &failure)
+{
+    static const QRegularExpression form(QStringLiteral(R"(\A:([0-9]+):(?:[0-9]+:)? (.*)\z)"),
+                                         QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = form.match(failure.text);
+    if (!match.hasMatch())
+        return {failure.text.startsWith(QLatin1String(": ")) ? failure.text.mid(2) : failure.text};
+    return {match.captured(2), match.captured(1).toInt()};
+}
+
+/// A wall without a clock is nothing to play, but something to begin with. The size is checked by
+/// the program's own reader, with an area put in for it.
+std::optional<Program> ReadEmptyProgram(const QString &text, const XmlElements &elements)
+{
+    const XmlElement &root = elements.first();
+    if (root.name != ClockProgram::kProgramTag || !root.children.isEmpty())
+        return std::nullopt;
+    QString tag = text.mid(root.tag.begin, root.tag.Size());
+    tag.chop(root.closed ? 2 : 1);
+    const QString whole = tag
+        + QStringLiteral("><area x=\"0\" y=\"0\" width=\"1\" height=\"1\"><clock/></area>"
+                         "</program>");
+    Result<Program> read = ParseProgram(whole.toUtf8(), QString());
+    auto *const program = std::get_if<Program>(&read);
+    if (!program)
+        return std::nullopt;
+    program->areas.clear();
+    return *program;
+}
+
+TextFault NoElements(const QString &text)
+{
+    const int place = text.indexOf(QLatin1String("<!DOCTYPE"));
+    if (place >= 0)
+        return {Translated(QT_TRANSLATE_NOOP("ClockStudio::TextFault",
+                                             "A program has no document type declaration.")),
+                LineOf(text, place)};
+    return {Translated(QT_TRANSLATE_NOOP("ClockStudio::TextFault", "This is not a program."))};
+}
+
+} // namespace
+
+QString ProgramReading::AreaText(int area) const
+{
+    const TextRange range = elements[AreaElement(area)].whole;
+    return text.mid(range.begin, range.Size());
+}
+
+QString ProgramReading::ClockText(int area) const
+{
+    const TextRange range = elements[ClockElement(area)].whole;
+    return text.mid(range.begin, range.Size());
+}
+
+int ProgramReading::AreaAt(int position) const
+{
+    for (int area = 0; area < AreaCount(); ++area) {
+        if (elements[AreaElement(area)].whole.Contains(position))
+            return area;
+    }
+    return -1;
+}
+
+std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, const TextForm &form)
+{
+    const std::optional<QByteArray> contents = EncodeText(text, form);
+    if (!contents)
+        return TextFault {Translated(QT_TRANSLATE_NOOP(
+            "ClockStudio::TextFault", "The encoding of the file lacks a character of this text."))};
+    if (contents->size() > ClockProgram::kMaximumFileSize)
+        return TextFault {Translated(
+            QT_TRANSLATE_NOOP("ClockStudio::TextFault", "This text is too long for a program."))};
+    const Result<Program> read = ParseProgram(*contents, QString());
+    const std::optional<XmlElements> elements = FindElements(text);
+    if (const auto *program = std::get_if<Program>(&read)) {
+        if (!elements)
+            return NoElements(text);
+        return ProgramReading {text, *elements, *program};
+    }
+    if (elements) {
+        if (const std::optional<Program> empty = ReadEmptyProgram(text, *elements))
+            return ProgramReading {text, *elements, *empty};
+    }
+    return FaultOf(std::get<Failure>(read));
+}
+
+} // namespace ClockStudio

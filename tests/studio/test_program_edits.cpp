@@ -1,0 +1,228 @@
+// Edits of programs: the smallest, in the text's own style.
+#include "sample_programs.h"
+
+#include "text/area_texts.h"
+#include "text/program_edits.h"
+
+using namespace ClockStudio;
+
+namespace {
+
+const char kProgram[] = "<program width=\"64\" height=\"32\">\n"
+                        "  <area x=\"1\" y='2' width=\"3\" height=\"4\">\n"
+                        "    <clock type=\"dial\">\n"
+                        "      <date display=\"false\"/>\n"
+                        "    </clock>\n"
+                        "  </area>\n"
+                        "</program>\n";
+
+QString Edited(QString text, const TextEdits &edits)
+{
+    ApplyEdits(text, InSequence(edits));
+    return text;
+}
+
+int ElementNamed(const ProgramReading &reading, const QString &name)
+{
+    for (int i = 0; i < reading.elements.size(); ++i) {
+        if (reading.elements[i].name == name)
+            return i;
+    }
+    return -1;
+}
+
+} // namespace
+
+class TestProgramEdits : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void attributeIsReplaced();
+    void attributeIsAdded();
+    void attributeIsRemoved();
+    void geometry();
+    void child_data();
+    void child();
+    void elementIsRemoved();
+    void lineEndsStay();
+    void smallest_data();
+    void smallest();
+    void areasOfTexts();
+    void identityIsRenewed();
+    void emptyWall();
+    void positionsMove();
+};
+
+void TestProgramEdits::attributeIsReplaced()
+{
+    const ProgramReading reading = MustRead(kProgram);
+    const TextEdit edit = SetAttributeEdit(reading, reading.ClockElement(0), "type", "digital");
+    QCOMPARE(edit.removed, QString());
+    QCOMPARE(edit.inserted, QString("git"));
+    QCOMPARE(Edited(reading.text, {edit}), QString(kProgram).replace("dial", "digital"));
+}
+
+void TestProgramEdits::attributeIsAdded()
+{
+    const ProgramReading reading = MustRead(kProgram);
+    const int date = ElementNamed(reading, "date");
+    QCOMPARE(Edited(reading.text, {SetAttributeEdit(reading, date, "color", "a\"b")}),
+             QString(kProgram).replace("\"false\"", "\"false\" color=\"a&quot;b\""));
+}
+
+void TestProgramEdits::attributeIsRemoved()
+{
+    const ProgramReading reading = MustRead(kProgram);
+    const int date = ElementNamed(reading, "date");
+    QCOMPARE(Edited(reading.text, {RemoveAttributeEdit(reading, date, "display")}),
+             QString(kProgram).replace(" display=\"false\"", ""));
+    QCOMPARE(Edited(reading.text, {RemoveAttributeEdit(reading, date, "color")}),
+             QString(kProgram));
+}
+
+void TestProgramEdits::geometry()
+{
+    const ProgramReading reading = MustRead(kProgram);
+    QCOMPARE(GeometryEdits(reading, 0, QRect(1, 2, 3, 4)).size(), 0);
+    QCOMPARE(Edited(reading.text, GeometryEdits(reading, 0, QRect(1, 20, 30, 4))),
+             QString(kProgram).replace("y='2' width=\"3\"", "y='20' width=\"30\""));
+    QCOMPARE(Edited(reading.text, ScreenSizeEdits(reading, QSize(128, 32))),
+             QString(kProgram).replace("\"64\"", "\"128\""));
+}
+
+void TestProgramEdits::child_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    const QString frame = "<program width=\"1\" height=\"1\"><area x=\"0\" y=\"0\" width=\"1\" "
+                          "height=\"1\">%1</area></program>";
+    const auto row = [&frame](const char *name, const QString &before, const QString &after) {
+        QTest::newRow(name) << frame.arg(before) << frame.arg(after);
+    };
+    row("one line", "<clock/>", "<clock><n>\n  <m/>\n</n></clock>");
+    row("one line, with a child", "<clock><o/></clock>", "<clock><o/><n>\n  <m/>\n</n></clock>");
+    row("closed on its own line", "\n<clock/>\n", "\n<clock>\n  <n>\n    <m/>\n  </n>\n</clock>\n");
+    row("empty", "\n <clock></clock>", "\n <clock>\n   <n>\n     <m/>\n   </n>\n </clock>");
+    row("with a child", "\n <clock>\n\t<o/>\n </clock>",
+        "\n <clock>\n\t<o/>\n\t<n>\n\t  <m/>\n\t</n>\n </clock>");
+}
+
+void TestProgramEdits::child()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    const ProgramReading reading = MustRead(before);
+    const TextEdit edit = AppendChildEdit(reading, reading.ClockElement(0), "<n>\n  <m/>\n</n>");
+    QCOMPARE(Edited(before, {edit}), after);
+}
+
+void TestProgramEdits::elementIsRemoved()
+{
+    const ProgramReading reading = MustRead(kProgram);
+    QCOMPARE(Edited(kProgram, {RemoveElementEdit(reading, ElementNamed(reading, "date"))}),
+             QString(kProgram).replace("      <date display=\"false\"/>\n", ""));
+    const QString beside = QString(kProgram).replace("<date", "<week/><date");
+    const ProgramReading other = MustRead(beside);
+    QCOMPARE(Edited(beside, {RemoveElementEdit(other, ElementNamed(other, "week"))}),
+             QString(kProgram));
+}
+
+void TestProgramEdits::lineEndsStay()
+{
+    for (const QString &lineEnd : {QString("\r\n"), QString("\r")}) {
+        const QString text = QString(kProgram).replace("\n", lineEnd);
+        const ProgramReading reading = MustRead(text);
+        const QString added =
+            Edited(text, {AppendChildEdit(reading, reading.ClockElement(0), "<n>\n</n>")});
+        QCOMPARE(added.count(lineEnd), text.count(lineEnd) + 2);
+        if (lineEnd.size() == 2)
+            QCOMPARE(added.count("\n"), added.count("\r\n"));
+        const int date = ElementNamed(reading, "date");
+        QCOMPARE(Edited(text, {RemoveElementEdit(reading, date)}),
+                 text.left(text.indexOf("      <date")) + text.mid(text.indexOf("    </clock>")));
+    }
+}
+
+void TestProgramEdits::smallest_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<QString>("removed");
+    QTest::addColumn<QString>("inserted");
+    QTest::newRow("same") << "abc"
+                          << "abc" << 3 << ""
+                          << "";
+    QTest::newRow("middle") << "abc"
+                            << "axc" << 1 << "b"
+                            << "x";
+    QTest::newRow("repeated letter") << "aa"
+                                     << "aaa" << 2 << ""
+                                     << "a";
+    QTest::newRow("line ends stay whole") << "a\rb"
+                                          << "a\r\nb" << 1 << "\r"
+                                          << "\r\n";
+    const QString grin = QString::fromUtf8("\xf0\x9f\x98\x80");
+    const QString smile = QString::fromUtf8("\xf0\x9f\x98\x83");
+    QTest::newRow("surrogates stay whole") << grin << smile << 0 << grin << smile;
+}
+
+void TestProgramEdits::smallest()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    const TextEdit edit = Smallest({0, before, after});
+    QTEST(edit.position, "position");
+    QTEST(edit.removed, "removed");
+    QTEST(edit.inserted, "inserted");
+}
+
+void TestProgramEdits::areasOfTexts()
+{
+    const ProgramReading reading = MustRead(kProgram);
+    const QString area = PortableAreaText(reading, 0);
+    QVERIFY(area.startsWith("<area x=\"1\"") && area.endsWith("\n</area>"));
+    QCOMPARE(AreasInText(area), QStringList {area});
+    QCOMPARE(AreasInText(area + area), QStringList({area, area}));
+    QCOMPARE(AreasInText(kProgram), QStringList {area});
+    for (const char *text : {"", "hello", "<a/>", "<area/>", "<!DOCTYPE a><a/>"})
+        QCOMPARE(AreasInText(text), QStringList());
+}
+
+void TestProgramEdits::identityIsRenewed()
+{
+    const QString area = "<area x=\"1\" y=\"2\" width=\"3\" height=\"4\"><clock>"
+                         "<attribute key=\"Id\" value=\"1000\"/></clock></area>";
+    QSet<int> taken {1000, 1001};
+    QCOMPARE(AreaForProgram(area, QPoint(8, 8), taken),
+             QString(area).replace("x=\"1\" y=\"2\"", "x=\"9\" y=\"10\"").replace("1000", "1002"));
+    QVERIFY(taken.contains(1002));
+    const QString without = "<area x=\"1\" y=\"2\" width=\"3\" height=\"4\"><clock/></area>";
+    QCOMPARE(AreaForProgram(without, QPoint(), taken), without);
+}
+
+void TestProgramEdits::emptyWall()
+{
+    QCOMPARE(MustRead("<program width=\"8\" height=\"9\"/>").program.size, QSize(8, 9));
+    QCOMPARE(MustRead("<program width=\"8\" height=\"9\">\n</program>").AreaCount(), 0);
+    for (const char *text : {"<program width=\"0\" height=\"9\"/>", "<program/>", "<area/>"}) {
+        const auto read = ReadProgramText(text, TextForm());
+        QVERIFY(std::holds_alternative<TextFault>(read));
+    }
+    const auto fault = ReadProgramText("<program width=\"8\" height=\"9\">\n<ar", TextForm());
+    QCOMPARE(std::get<TextFault>(fault).line, 2);
+}
+
+void TestProgramEdits::positionsMove()
+{
+    const TextEdits edits {{5, "abc", "x"}};
+    QCOMPARE(MovedPosition(4, edits), 4);
+    QCOMPARE(MovedPosition(5, edits), 5);
+    QCOMPARE(MovedPosition(6, edits), 6);
+    QCOMPARE(MovedPosition(8, edits), 6);
+    QCOMPARE(MovedPosition(20, edits), 18);
+}
+
+QTEST_GUILESS_MAIN(TestProgramEdits)
+#include "test_program_edits.moc"
