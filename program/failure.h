@@ -25,7 +25,28 @@ struct Failure
 
 using MaybeFailure = std::optional<Failure>;
 
+/// A value, or why there is none:
+///
+///     const Result<Program> program = ReadProgram(path);
+///     if (!program)
+///         return program.Error();
+///     Play(*program);
 template<typename T>
-using Result = std::variant<T, Failure>;
+class Result : public std::variant<T, Failure>
+{
+public:
+    using std::variant<T, Failure>::variant;
+
+    explicit operator bool() const { return this->index() == 0; }
+
+    // Only where there is a value.
+    const T &operator*() const { return *std::get_if<T>(this); }
+    T &operator*() { return *std::get_if<T>(this); }
+    const T *operator->() const { return std::get_if<T>(this); }
+    T *operator->() { return std::get_if<T>(this); }
+
+    /// Only where there is none.
+    const Failure &Error() const { return *std::get_if<Failure>(this); }
+};
 
 } // namespace ClockProgram

@@ -24,6 +24,41 @@ Failure ElementFailure(const Program &program, const ProgramArea &area, const QS
             AtElement(program.path, area.element, text.arg(area.element.tagName()))};
 }
 
+QString SettingOf(const QDomElement &element, const QString &key)
+{
+    QString value;
+    for (QDomElement child = element.firstChildElement(kAttributeTag); !child.isNull();
+         child = child.nextSiblingElement(kAttributeTag)) {
+        if (child.attribute(QStringLiteral("key")) == key)
+            value = child.attribute(QStringLiteral("value"));
+    }
+    return value;
+}
+
+bool SetsPictureClock(const QDomElement &element)
+{
+    return SettingOf(element, QLatin1String(kClockTypeKey)).toInt() == kPictureClock;
+}
+
+bool NamesPictureClock(const QDomElement &element)
+{
+    const QDomElement older = element.firstChildElement(QLatin1String(kOlderForm));
+    return element.attribute(QLatin1String(kTypeWord)) == QLatin1String(kPictureWord)
+        || older.attribute(QLatin1String(kOlderTypeWord)).toInt() == kPictureClock
+        || SetsPictureClock(element);
+}
+
+/// The element without its kind, which plugins then read as that of an analog clock.
+QDomElement WithoutKind(const QDomElement &element)
+{
+    QDomElement copy = element.cloneNode().toElement();
+    copy.removeAttribute(QLatin1String(kTypeWord));
+    QDomElement older = copy.firstChildElement(QLatin1String(kOlderForm));
+    if (!older.isNull())
+        older.setAttribute(QLatin1String(kOlderTypeWord), 0);
+    return copy;
+}
+
 Result<MadeNode> MakeNode(const Program &program, const ProgramArea &area,
                           const PluginFinder &findPlugin)
 {
@@ -37,13 +72,10 @@ Result<MadeNode> MakeNode(const Program &program, const ProgramArea &area,
     node->InitData();
     node->SetPos(area.geometry.topLeft());
     node->SetSize(area.geometry.size());
-    QList<Lw::FileInfo> files;
-    const bool understood = node->UpdateNode(element, files);
+    const bool understood = ReadElement(*node, element);
     for (const AttributeSetting &setting : area.attributes)
         node->SetAttribute(setting.key, setting.value, false);
-    const bool isPictureClock =
-        SetsKey(area, kClockTypeKey) && node->GetAttributeToInt(kClockTypeKey) == kPictureClock;
-    if (!understood && !isPictureClock)
+    if (!understood)
         return ElementFailure(program, area,
                               QStringLiteral("the plugin cannot read this <%1>; is its type "
                                              "known?"));
@@ -77,6 +109,19 @@ void SeparateIds(const Program &program, MadeNodes &made)
 }
 
 } // namespace
+
+bool ReadElement(Lw::HNode &node, const QDomElement &element)
+{
+    QList<Lw::FileInfo> files;
+    if (node.UpdateNode(element, files))
+        return true;
+    if (!NamesPictureClock(element))
+        return false;
+    const bool understood = node.UpdateNode(WithoutKind(element), files);
+    if (understood)
+        node.SetAttribute(kClockTypeKey, kPictureClock, false);
+    return understood || SetsPictureClock(element);
+}
 
 Result<MadeNodes> MakeNodes(const Program &program, const PluginFinder &findPlugin)
 {

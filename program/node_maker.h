@@ -31,6 +31,12 @@ struct MadeNodes
 /// The plugin that claims an element, or null. It must outlive the nodes.
 using PluginFinder = std::function<Lw::INodePlugin *(QDomElement &)>;
 
+/// Lets a node take over what an element says. Plugins refuse picture clocks before they read zone,
+/// adjustment and daylight saving; programs name that kind all the same (type="picture", the older
+/// form's clockType="2", or an "attribute" child), and the node gets its settings and the kind.
+/// False where the plugin cannot read the element.
+bool ReadElement(Lw::HNode &node, const QDomElement &element);
+
 /// Nodes with their defaults, their place, what the element says and the attributes set by hand,
 /// in this order. No two have one identity: where a program gives one twice, the later node gets
 /// another and a warning tells so. Fails when no plugin claims an element, or its plugin cannot

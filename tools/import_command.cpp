@@ -102,13 +102,12 @@ MaybeFailure CheckClocks(const QVector<QDomElement> &clocks, const QString &path
                             .arg(clocks.size())
                             .arg(kMaximumAreas)};
     for (const QDomElement &clock : clocks) {
-        QList<Lw::FileInfo> files;
         Lw::HNodeClock::HClockNode node;
-        if (!node.UpdateNode(clock, files))
+        if (!ReadElement(node, clock))
             return Failure {ExitCode::ProgramError,
                             AtElement(path, clock,
                                       QStringLiteral("the type of this <clock> cannot be read; "
-                                                     "accepted: dial, digital"))};
+                                                     "accepted: dial, digital, picture"))};
     }
     return std::nullopt;
 }

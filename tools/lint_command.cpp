@@ -29,8 +29,9 @@ void Show(const Findings &findings, const QString &path)
     const QVector<Finding> sorted = findings.ByLine();
     for (const Finding &finding : sorted.mid(0, kMostShown)) {
         const char *kind = finding.severity == Severity::Note ? "note" : "warning";
-        const QString place =
-            finding.line > 0 ? QStringLiteral("%1:%2").arg(path).arg(finding.line) : path;
+        const QString place = finding.place.line > 0
+            ? QStringLiteral("%1:%2").arg(path).arg(finding.place.line)
+            : path;
         std::fprintf(stderr, "%s: %s: %s\n", qPrintable(place), kind, qPrintable(finding.text));
     }
     if (sorted.size() > kMostShown)

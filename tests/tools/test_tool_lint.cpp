@@ -81,6 +81,7 @@ void TestToolLint::Clean_data()
         "End='10.Last.7.03:00:00' timeZoneIndex='4'/></clock>");
     QTest::newRow("picture clock")
         << ProgramOf("<clock type='picture'><attribute key='ClockType' value='2'/></clock>");
+    QTest::newRow("picture clock by its type") << ProgramOf("<clock type='picture'/>");
     QTest::newRow("adjustment") << ProgramOf("<clock adjust='-00:05:00' timezone='-9:30'/>");
     QTest::newRow("stored adjustment") << Setting("TimeAdjust", "23A59B59");
     QTest::newRow("stored colour") << Setting("DigitalTimeColor", "16777215");
@@ -166,8 +167,6 @@ void TestToolLint::Finds_data()
         {"not an installed font", "did you mean \"DejaVu Sans\"?"});
     row("stored font", Setting("DigitalTimeFName", "Xyzzy Plugh"), 2, {"fc-list"});
     row("type", ProgramOf("<clock type='round'/>"), 1, {"type=\"round\"", "\"digital\""});
-    row("picture without its setting", ProgramOf("<clock type='picture'/>"), 1,
-        {"<attribute key=\"ClockType\" value=\"2\"/>"});
     row("older form without a type", Digital("<clockCom/>"), 1, {"clockType", "1 digital"});
     row("image that the clock has not",
         Digital("<file key='_AnalogAM' md5='0123456789abcdef0123456789abcdef' size='1' path='a'/>"),

@@ -10,6 +10,7 @@
 #include "clock_node.h"
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
+#include "node_maker.h"
 #include "program_file.h"
 
 #include <QSet>
@@ -59,9 +60,9 @@ public:
     {
         // The node itself tells what becomes of the element.
         m_node.InitData();
-        QList<Lw::FileInfo> files;
-        m_understood = m_node.UpdateNode(clock, files);
-        m_type = m_understood ? m_node.ClockType() : static_cast<int>(AnalogClock);
+        m_understood = ClockProgram::ReadElement(m_node, clock);
+        // What picture clocks read is read as of an analog clock.
+        m_type = m_understood && m_node.ClockType() == DigitalClock ? DigitalClock : AnalogClock;
     }
 
     void Run()
@@ -89,9 +90,9 @@ private:
             return CheckUnread(child, known);
         const QString shadow = ShadowOf(m_type, name);
         if (!shadow.isEmpty() && m_present.contains(shadow))
-            Warn(child, QStringLiteral("<%1> is not read beside <%2>").arg(name, shadow));
+            Warn(At(child), QStringLiteral("<%1> is not read beside <%2>").arg(name, shadow));
         else if (m_seen.contains(name))
-            Warn(child, QStringLiteral("only the first <%1> of a clock is read").arg(name));
+            Warn(At(child), QStringLiteral("only the first <%1> of a clock is read").arg(name));
         m_seen.insert(name);
         CheckAttributes(child, name);
     }
@@ -103,13 +104,14 @@ private:
             return;
         const int other = m_type == DigitalClock ? AnalogClock : DigitalClock;
         if (ElementsRead(other).contains(child.tagName()))
-            Warn(child,
+            Warn(At(child),
                  QStringLiteral("<%1> is not read of this kind of clock, only of type \"%2\"")
                      .arg(child.tagName(), QLatin1String(Sdk::kTypeNames[other])));
         else
-            Warn(child,
+            Warn(At(child),
                  QStringLiteral("<%1> is not read%2")
-                     .arg(child.tagName(), Suggestion(child.tagName(), known)));
+                     .arg(child.tagName(), Suggestion(child.tagName(), known)),
+                 Nearest(child.tagName(), known));
     }
 
     void CheckAttributes(const QDomElement &element, const QString &name)
@@ -133,15 +135,17 @@ private:
             return; // the exported form has it for the controller
         const QString read = ReadInPlaceOf(m_type, name, attribute);
         if (!read.isEmpty())
-            return m_findings.Note(element.lineNumber(),
+            return m_findings.Note(At(element, attribute),
                                    QStringLiteral("the attribute \"%1\" of <%2> is not read: it is "
                                                   "the exported form's code; the clock reads "
                                                   "\"%3\"")
-                                       .arg(attribute, element.tagName(), read));
-        Warn(element,
+                                       .arg(attribute, element.tagName(), read),
+                                   read);
+        const QStringList known = AttributesRead(m_type, name);
+        Warn(At(element, attribute),
              QStringLiteral("the attribute \"%1\" of <%2> is not read%3")
-                 .arg(attribute.left(60), element.tagName(),
-                      Suggestion(attribute, AttributesRead(m_type, name))));
+                 .arg(attribute.left(60), element.tagName(), Suggestion(attribute, known)),
+             Nearest(attribute, known));
     }
 
     void CheckSetting(const QDomElement &setting)
@@ -152,10 +156,11 @@ private:
         const AttributeRow *row = RowNamed(key);
         if (!row)
             return Warn(
-                setting,
-                QStringLiteral("a clock has no attribute %1%2").arg(Quoted(key), NearestKey(key)));
+                At(setting, key),
+                QStringLiteral("a clock has no attribute %1%2").arg(Quoted(key), NearestKey(key)),
+                Nearest(key, AllKeys()));
         if (m_settings.contains(key))
-            Warn(setting, QStringLiteral("%1 is set again; the last one counts").arg(key));
+            Warn(At(setting, key), QStringLiteral("%1 is set again; the last one counts").arg(key));
         m_settings.insert(key);
         const QString value = setting.attribute(kValue);
         CheckValue(setting, key, value, StoredFault(row->attribute, value));
@@ -173,7 +178,7 @@ private:
     {
         for (const char *name : {"key", "md5", "size", "path"}) {
             if (!file.hasAttribute(QLatin1String(name)))
-                Warn(file,
+                Warn(At(file, QLatin1String(name)),
                      QStringLiteral("a <file> needs the attribute %1").arg(QLatin1String(name)));
         }
         const QString key = file.attribute(kKey);
@@ -181,9 +186,9 @@ private:
         for (const GlyphImage &image : GlyphImages(GlyphOrder::Bookkeeping, m_type))
             keys.append(image.Key());
         if (!key.isEmpty() && !keys.contains(key))
-            Warn(
-                file,
-                QStringLiteral("this clock has no image %1%2").arg(Quoted(key), Nearby(key, keys)));
+            Warn(At(file, kKey),
+                 QStringLiteral("this clock has no image %1%2").arg(Quoted(key), Nearby(key, keys)),
+                 Nearest(key, keys));
     }
 
     static QString Nearby(const QString &word, const QStringList &candidates)
@@ -197,33 +202,27 @@ private:
                     const QString &fault)
     {
         if (!fault.isEmpty())
-            Warn(element, QStringLiteral("%1=%2 %3").arg(name, Quoted(value), fault));
+            Warn(At(element, name), QStringLiteral("%1=%2 %3").arg(name, Quoted(value), fault));
         return !fault.isEmpty();
-    }
-
-    bool IsPicture() const
-    {
-        for (QDomElement setting = m_clock.firstChildElement(ClockProgram::kAttributeTag);
-             !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag)) {
-            if (setting.attribute(kKey) == Key(Attribute::ClockType)
-                && setting.attribute(kValue).toInt() == PictureClock)
-                return true;
-        }
-        return false;
     }
 
     void CheckType()
     {
-        if (m_understood || IsPicture())
+        if (m_understood)
             return;
         const bool isOldForm = !m_clock.firstChildElement(QLatin1String(Sdk::kClockCom)).isNull();
-        Warn(m_clock,
-             isOldForm
-                 ? QStringLiteral("the clockType of <clockCom> cannot be read; accepted: 0 analog, "
-                                  "1 digital")
-                 : QStringLiteral("type=%1 cannot be read; accepted: \"dial\", \"digital\", or "
-                                  "\"picture\" with <attribute key=\"ClockType\" value=\"2\"/>")
-                       .arg(Quoted(m_clock.attribute(QLatin1String(Sdk::kType)))));
+        if (isOldForm)
+            return Warn(At(m_clock),
+                        QStringLiteral("the clockType of <clockCom> cannot be read; accepted: 0 "
+                                       "analog, 1 digital, 2 picture"));
+        const QString word = m_clock.attribute(QLatin1String(Sdk::kType));
+        QStringList words;
+        for (const char *name : Sdk::kTypeNames)
+            words.append(QLatin1String(name));
+        Warn(At(m_clock, QLatin1String(Sdk::kType)),
+             QStringLiteral("type=%1 cannot be read; accepted: \"%2\"")
+                 .arg(Quoted(word), words.join(QStringLiteral("\", \""))),
+             Nearest(word, words));
     }
 
     /// What several settings make together.
@@ -238,7 +237,7 @@ private:
         const Attribute date = isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType;
         if (m_node.ClockType() != PictureClock
             && m_node.GetAttributeToInt(Key(date)) == DateWithMinus)
-            m_findings.Note(m_clock.lineNumber(),
+            m_findings.Note(At(m_clock),
                             QStringLiteral("the minus of date type 8 does not travel with an "
                                            "exported program"));
     }
@@ -250,15 +249,15 @@ private:
                                      m_node.GetAttribute(Key(Attribute::DaylightSavingTimeEnd))};
         const QString fault = RulePairFault(settings.start, settings.end);
         if (!fault.isEmpty())
-            return Warn(m_clock, fault);
+            return Warn(At(m_clock), fault);
         const QString note = RuleNote(settings, SystemDate());
         if (!note.isEmpty())
-            m_findings.Note(m_clock.lineNumber(), note);
+            m_findings.Note(At(m_clock), note);
     }
 
-    void Warn(const QDomElement &element, const QString &text)
+    void Warn(const Place &place, const QString &text, const QString &suggestion = {})
     {
-        m_findings.Warn(element.lineNumber(), text);
+        m_findings.Warn(place, text, suggestion);
     }
 
     const QDomElement m_clock;

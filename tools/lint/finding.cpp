@@ -1,24 +1,39 @@
 #include "finding.h"
 
+#include <QDomElement>
+
 #include <algorithm>
 #include <tuple>
 
 namespace ClockTool {
 
-void Findings::Warn(int line, const QString &text)
+Place At(const QDomElement &element, const QString &attribute)
 {
-    Add({line, Severity::Warning, text});
+    return {element.lineNumber(), element.tagName(), attribute, 0};
 }
 
-void Findings::Note(int line, const QString &text)
+void Findings::Warn(const Place &place, const QString &text, const QString &suggestion)
 {
-    Add({line, Severity::Note, text});
+    Add({place, Severity::Warning, text, suggestion});
+}
+
+void Findings::Note(const Place &place, const QString &text, const QString &suggestion)
+{
+    Add({place, Severity::Note, text, suggestion});
 }
 
 void Findings::Add(const Finding &finding)
 {
     m_all.append(finding);
-    m_lines.insert(finding.line);
+    m_lines.insert(finding.place.line);
+}
+
+void Findings::AddOfClock(int clock, const Findings &findings)
+{
+    for (Finding finding : findings.m_all) {
+        finding.place.clock = clock;
+        Add(finding);
+    }
 }
 
 int Findings::Warnings() const
@@ -33,10 +48,10 @@ QVector<Finding> Findings::ByLine() const
     QVector<Finding> sorted = m_all;
     // Attributes have no order of their own, so the texts give them one.
     std::sort(sorted.begin(), sorted.end(), [](const Finding &one, const Finding &other) {
-        return std::tie(one.line, one.text) < std::tie(other.line, other.text);
+        return std::tie(one.place.line, one.text) < std::tie(other.place.line, other.text);
     });
     const auto same = [](const Finding &one, const Finding &other) {
-        return one.line == other.line && one.text == other.text;
+        return one.place.line == other.place.line && one.text == other.text;
     };
     sorted.erase(std::unique(sorted.begin(), sorted.end(), same), sorted.end());
     return sorted;

@@ -5,6 +5,7 @@
 #include "suggestion.h"
 
 #include "clock_sdk_tables.h"
+#include "node_keys.h"
 #include "program_file.h"
 
 #include <QHash>
@@ -24,7 +25,7 @@ void CheckStructure(const QDomDocument &document, const QString &path, Findings 
         return;
     const QString located = failure->text.mid(path.size() + 1);
     const int colon = located.indexOf(QLatin1Char(':'));
-    findings.Warn(located.left(colon).toInt(), located.mid(colon + 2));
+    findings.Warn({located.left(colon).toInt(), {}, {}, 0}, located.mid(colon + 2));
 }
 
 class ClockWalk
@@ -32,21 +33,25 @@ class ClockWalk
 public:
     explicit ClockWalk(Findings &findings) : m_findings(findings) { }
 
-    void Check(const QDomElement &element)
+    /// The element of an area; areas count from 1.
+    void Check(int area, const QDomElement &element)
     {
         const QString tag = QLatin1String(Lw::HNodeClock::Sdk::kClock);
         if (element.tagName() != tag) {
-            m_findings.Warn(element.lineNumber(),
-                            QStringLiteral("no plugin claims <%1>; accepted: <%2>")
-                                .arg(element.tagName(), tag));
+            m_findings.Warn(
+                At(element),
+                QStringLiteral("no plugin claims <%1>; accepted: <%2>").arg(element.tagName(), tag),
+                tag);
             return;
         }
-        LintClock(element, m_findings);
-        CheckId(element);
+        Findings found;
+        LintClock(element, found);
+        CheckId(element, found);
+        m_findings.AddOfClock(area, found);
     }
 
 private:
-    void CheckId(const QDomElement &clock)
+    void CheckId(const QDomElement &clock, Findings &findings)
     {
         const std::optional<int> id = GivenId(clock);
         if (!id)
@@ -55,11 +60,11 @@ private:
         if (other == m_lines.constEnd())
             m_lines.insert(*id, clock.lineNumber());
         else
-            m_findings.Warn(clock.lineNumber(),
-                            QStringLiteral("the Id %1 is that of the clock in line %2, whose glyph "
-                                           "files it would share; accepted: any other number")
-                                .arg(*id)
-                                .arg(*other));
+            findings.Warn(At(clock, QLatin1String(kIdKey)),
+                          QStringLiteral("the Id %1 is that of the clock in line %2, whose glyph "
+                                         "files it would share; accepted: any other number")
+                              .arg(*id)
+                              .arg(*other));
     }
 
     Findings &m_findings;
@@ -69,11 +74,13 @@ private:
 void CheckClocks(const QDomDocument &document, Findings &findings)
 {
     ClockWalk walk(findings);
+    int number = 0;
     for (QDomElement area = document.documentElement().firstChildElement(kAreaTag); !area.isNull();
          area = area.nextSiblingElement(kAreaTag)) {
+        ++number;
         const QDomElement element = area.firstChildElement();
         if (!element.isNull())
-            walk.Check(element);
+            walk.Check(number, element);
     }
 }
 
@@ -84,8 +91,8 @@ void CheckSchema(const QByteArray &contents, Findings &findings)
     if (report.isVague && findings.Warnings() > 0)
         return;
     for (const Finding &fault : report.faults) {
-        if (!findings.HasLine(fault.line))
-            findings.Warn(fault.line, fault.text);
+        if (!findings.HasLine(fault.place.line))
+            findings.Add(fault);
     }
 }
 

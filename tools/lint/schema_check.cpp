@@ -122,8 +122,10 @@ SchemaReport AsReport(const Faults &faults)
     report.isVague = faults.byLine.isEmpty();
     const auto &shown = report.isVague ? faults.echoes : faults.byLine;
     for (auto fault = shown.cbegin(); fault != shown.cend(); ++fault)
-        report.faults.append({fault.key(), Severity::Warning,
-                              QStringLiteral("%1; see docs/program.rng").arg(fault.value())});
+        report.faults.append({{fault.key(), {}, {}, 0},
+                              Severity::Warning,
+                              QStringLiteral("%1; see docs/program.rng").arg(fault.value()),
+                              {}});
     if (report.isVague)
         report.faults.resize(std::min(1, report.faults.size()));
     return report;
@@ -131,7 +133,7 @@ SchemaReport AsReport(const Faults &faults)
 
 SchemaReport LeftOut(int line, const QString &text)
 {
-    return {{{line, Severity::Warning, text}}, false};
+    return {{{{line, {}, {}, 0}, Severity::Warning, text, {}}}, false};
 }
 
 } // namespace
