@@ -1,5 +1,8 @@
+// Finding the keys and rows of the attribute table.
 #include "clock_attributes.h"
 
+#include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace Lw::HNodeClock {
@@ -14,6 +17,14 @@ const QString &Key(Attribute attribute)
         return made;
     }();
     return keys[static_cast<std::size_t>(attribute)];
+}
+
+const AttributeRow *RowNamed(const QString &key)
+{
+    const auto row =
+        std::find_if(std::begin(kAttributeTable), std::end(kAttributeTable),
+                     [&key](const AttributeRow &each) { return key == QLatin1String(each.key); });
+    return row == std::end(kAttributeTable) ? nullptr : row;
 }
 
 } // namespace Lw::HNodeClock

@@ -361,8 +361,7 @@ int HClockNode::CovertDisplay(QString text)
 
 int HClockNode::LWColorToInt(LWColor colour)
 {
-    const auto channel = [colour](int shift) { return static_cast<int>(colour >> shift & 0xff); };
-    return Lw::HAppConfig::ColorToInt(QColor(channel(0), channel(8), channel(16)));
+    return Lw::HAppConfig::ColorToInt(QColor(RedOf(colour), GreenOf(colour), BlueOf(colour)));
 }
 
 } // namespace Lw::HNodeClock

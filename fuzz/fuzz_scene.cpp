@@ -25,7 +25,7 @@ namespace {
 void SetFamilies(HClockNode &node)
 {
     for (const AttributeRow &row : kAttributeTable) {
-        if (QString::fromLatin1(row.key).endsWith(QLatin1String("FName")))
+        if (row.role == ValueRole::Family)
             node.SetAttribute(Key(row.attribute), QStringLiteral("DejaVu Sans"), false);
     }
 }

@@ -62,15 +62,15 @@ QString HAppConfig::TempProgramImagePath()
 
 QColor HAppConfig::IntToColor(int value)
 {
-    const auto bits = static_cast<LWColor>(value);
-    return QColor(bits & 0xff, bits >> 8 & 0xff, bits >> 16 & 0xff);
+    const auto packed = static_cast<LWColor>(value);
+    return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
 }
 
 int HAppConfig::ColorToInt(QColor color)
 {
     if (!color.isValid())
         return 0;
-    return color.red() | color.green() << 8 | color.blue() << 16;
+    return static_cast<int>(PackedColor(color.red(), color.green(), color.blue()));
 }
 
 int HAppConfig::NameToIntColor(QString name)

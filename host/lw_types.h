@@ -14,6 +14,24 @@ class HVersion;
 /// The top byte carries nothing.
 using LWColor = quint32;
 
+/// The packed colour of three channels from 0 to 255, and the channels of one.
+constexpr LWColor PackedColor(int red, int green, int blue)
+{
+    return static_cast<LWColor>(red | green << 8 | blue << 16);
+}
+constexpr int RedOf(LWColor color)
+{
+    return static_cast<int>(color & 0xff);
+}
+constexpr int GreenOf(LWColor color)
+{
+    return static_cast<int>(color >> 8 & 0xff);
+}
+constexpr int BlueOf(LWColor color)
+{
+    return static_cast<int>(color >> 16 & 0xff);
+}
+
 /// The kind of program being exported. Nodes hand it on without looking at it.
 enum GetProgramModel {
     ProgramForController = 0,

@@ -5,23 +5,54 @@
 #include "output.h"
 #include "tool_arguments.h"
 
+#include "happconfig.h"
+
+#include <QColor>
+
 namespace ClockTool {
 
 namespace {
 
 using namespace Lw::HNodeClock;
 
-QString KindName(ValueKind kind)
+QString KindName(ValueRole role)
 {
-    switch (kind) {
-    case ValueKind::Integer:
+    switch (role) {
+    case ValueRole::Number:
         return QStringLiteral("number");
-    case ValueKind::Flag:
+    case ValueRole::Code:
+        return QStringLiteral("code");
+    case ValueRole::Flag:
         return QStringLiteral("flag");
-    case ValueKind::Text:
-        return QStringLiteral("text");
-    case ValueKind::Colour:
+    case ValueRole::Size:
+        return QStringLiteral("size");
+    case ValueRole::Colour:
         return QStringLiteral("colour");
+    case ValueRole::Text:
+        return QStringLiteral("text");
+    case ValueRole::Family:
+        return QStringLiteral("font");
+    case ValueRole::Zone:
+        return QStringLiteral("zone");
+    case ValueRole::Adjustment:
+        return QStringLiteral("adjustment");
+    case ValueRole::Rule:
+        return QStringLiteral("rule");
+    }
+    return {};
+}
+
+QString ClocksName(ClockKinds clocks)
+{
+    switch (clocks) {
+    case ClockKinds::All:
+        return QStringLiteral("all");
+    case ClockKinds::Analog:
+        return QStringLiteral("analog");
+    case ClockKinds::Digital:
+        return QStringLiteral("digital");
+    case ClockKinds::Picture:
+        return QStringLiteral("picture");
     }
     return {};
 }
@@ -33,9 +64,8 @@ QString StoredDefault(const AttributeRow &row)
     case ValueKind::Flag:
         return QString::number(row.number);
     case ValueKind::Colour: {
-        const QString rgb = QStringLiteral("%1").arg(row.number, 6, 16, QLatin1Char('0'));
-        const int stored = (row.number & 0xff) << 16 | (row.number & 0xff00) | row.number >> 16;
-        return QStringLiteral("%1 (#%2)").arg(stored).arg(rgb);
+        const QColor colour(static_cast<QRgb>(row.number));
+        return QStringLiteral("%1 (%2)").arg(Lw::HAppConfig::ColorToInt(colour)).arg(colour.name());
     }
     case ValueKind::Text:
         return *row.text ? QStringLiteral("\"%1\"").arg(QLatin1String(row.text))
@@ -60,12 +90,20 @@ QString DefaultOf(const AttributeRow &row)
 }
 
 /// What a flag takes is told above the table.
-QString CodesText(const AttributeRow &row)
+QString ValuesText(const AttributeRow &row)
 {
-    const std::optional<CodeRange> codes = CodesOf(row.attribute);
-    if (!codes || row.kind == ValueKind::Flag)
+    if (row.role == ValueRole::Flag)
         return {};
-    return QStringLiteral("%1 to %2").arg(codes->first).arg(codes->last);
+    return row.range.names ? NamedCodes(row.range) : RangeText(row.range);
+}
+
+QString TableLine(const AttributeRow &row)
+{
+    return QStringLiteral("| `%1` | %2 | %3 | %4 | %5 | %6 | %7 |\n")
+        .arg(QLatin1String(row.key), ClocksName(row.clocks), KindName(row.role), ValuesText(row),
+             DefaultOf(row),
+             row.redraw == Redraw::Yes ? QStringLiteral("yes") : QStringLiteral("no"),
+             QString::fromUtf8(row.meaning).replace(QLatin1Char('|'), QLatin1String("\\|")));
 }
 
 QString ReferencePage()
@@ -77,22 +115,20 @@ QString ReferencePage()
         "test keeps the two equal. A program sets an attribute of a clock with a child\n"
         "`<attribute key=\"...\" value=\"...\"/>`, the value as it is stored:\n"
         "\n"
-        "- a number is a decimal, and anything else counts as 0;\n"
-        "- a flag is 1 (shown) or 0 (hidden);\n"
-        "- a colour is the number red + 256 * green + 65536 * blue.\n"
+        "- a number, a code and a size are decimals, and anything else counts as 0; sizes are in\n"
+        "  points, spaces in pixels;\n"
+        "- a flag is 1 (on, shown) or 0 (off, hidden);\n"
+        "- a colour is the number red + 256 * green + 65536 * blue;\n"
+        "- a font is the name of a family; empty is the application's default font.\n"
         "\n"
-        "\"Values\" are the numbers that mean something; where none are given, any number does.\n"
-        "\"Redraw\" tells whether a write has the glyph images made again.\n"
+        "\"Clocks\" are those that the attribute means something to. \"Values\" are the numbers\n"
+        "that mean something; where none are given, any number does. \"Redraw\" tells whether a\n"
+        "write has the glyph images made again.\n"
         "\n"
-        "| Key | Kind | Values | Default | Redraw | Meaning |\n"
-        "|---|---|---|---|---|---|\n");
+        "| Key | Clocks | Kind | Values | Default | Redraw | Meaning |\n"
+        "|---|---|---|---|---|---|---|\n");
     for (const AttributeRow &row : kAttributeTable)
-        page +=
-            QStringLiteral("| `%1` | %2 | %3 | %4 | %5 | %6 |\n")
-                .arg(
-                    QLatin1String(row.key), KindName(row.kind), CodesText(row), DefaultOf(row),
-                    row.redraw == Redraw::Yes ? QStringLiteral("yes") : QStringLiteral("no"),
-                    QString::fromUtf8(row.meaning).replace(QLatin1Char('|'), QLatin1String("\\|")));
+        page += TableLine(row);
     return page;
 }
 

@@ -102,7 +102,8 @@ QColor DrawDisplayImage::GetColorKey()
 
 QColor DrawDisplayImage::ReturnQcolor(int colour)
 {
-    return QColor(colour & 0xff, colour >> 8 & 0xff, colour >> 16 & 0xff);
+    const auto packed = static_cast<LWColor>(colour);
+    return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
 }
 
 void DrawDisplayImage::Private::TakeFields()

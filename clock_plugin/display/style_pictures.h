@@ -2,6 +2,8 @@
 // dials there are.
 #pragma once
 
+#include "clock_attributes.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -9,6 +11,8 @@ namespace Lw::HNodeClock {
 
 /// The styles that have a picture of their dial: 1 to this. image/CMakeLists.txt reads this line.
 inline constexpr int kStyleCount = 10;
+static_assert(RowOf(Attribute::PictrueClockType).range.last == kStyleCount,
+              "the attribute table names the styles");
 
 // Shared by all styles.
 inline constexpr char kHourPicture[] = "hour.png";

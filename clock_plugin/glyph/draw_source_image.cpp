@@ -20,9 +20,6 @@ namespace {
 
 constexpr int kDefaultPoints = 12;
 
-// No font above this size has a line that fits an image. Qt draws boxes of a fixed size instead of
-// glyphs from about twice as much on, which must not pass for the text.
-constexpr int kMaxPoints = kImageSide;
 constexpr int kTooWide = kImageSide + 1;
 // Qt's text widths overflow at 2^25 pixels: so many characters stay below it at every size.
 constexpr int kMeasuredAtOnce = 256;
@@ -171,7 +168,7 @@ int DrwSourceIMage::WidthOf(const QString &text, const QString &family, int size
 {
     if (text.isEmpty())
         return 0;
-    return size <= kMaxPoints ? TextWidth(QFontMetrics(Typeface(family, size)), text) : kTooWide;
+    return size <= kLargestFontSize ? TextWidth(QFontMetrics(Typeface(family, size)), text) : kTooWide;
 }
 
 void DrwSourceIMage::DrawText(const QString &text, int width, const QString &family, int size,
@@ -195,7 +192,7 @@ void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, 
 {
     // Always the regular directory: strips are shared by a program and its temporary updates.
     const QString path = HAppConfig::ClockOutputPath() + m_typePrefix + id + fileSuffix;
-    if (size <= kMaxPoints) {
+    if (size <= kLargestFontSize) {
         const QFont &font = Typeface(family, size);
         const QFontMetrics metrics(font);
         const int cell = GetNumberMaxWidth(metrics);
@@ -261,8 +258,8 @@ int DrwSourceIMage::GetNumberMaxWidth(QFontMetrics metrics)
 
 QColor DrwSourceIMage::IntToQColor(int colour)
 {
-    const auto bits = static_cast<unsigned int>(colour);
-    return QColor(bits & 0xff, bits >> 8 & 0xff, bits >> 16 & 0xff);
+    const auto packed = static_cast<LWColor>(colour);
+    return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
 }
 
 } // namespace Lw::HNodeClock

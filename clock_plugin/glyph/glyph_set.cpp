@@ -51,47 +51,44 @@ std::array<std::vector<QString>, kGlyphCount> KeysOfAllRows()
     return keys;
 }
 
-GlyphFontAttributes AnalogFont(GlyphFont font)
+struct FontRow
 {
-    using A = Attribute;
-    switch (font) {
-    case GlyphFont::TopText:
-        return {A::AnalogTopTextFName, A::AnalogTopTextFSize, A::AnalogTopTextColor};
-    case GlyphFont::Week:
-        return {A::AnalogWeekFName, A::AnalogWeekFSize, A::AnalogWeekColor};
-    case GlyphFont::Lunar:
-        return {A::AnalogLunarFName, A::AnalogLunarFSize, A::AnalogLunarColor};
-    case GlyphFont::Date:
-        return {A::AnalogDateFName, A::AnalogDateFSize, A::AnalogDateColor};
-    case GlyphFont::HourScale:
-        return {A::HourScaleFName, A::HourScaleFSize, A::HourScaleColor};
-    case GlyphFont::AmPm:
-        return {A::AnalogAMPMFName, A::AnalogAMPMFSize, A::AnalogAMPMColor};
-    case GlyphFont::Time:
-        break;
-    }
-    return {A::DigitalTimeFName, A::DigitalTimeFSize, A::DigitalTimeColor};
-}
+    GlyphFont font;
+    GlyphFontAttributes analog;
+    GlyphFontAttributes digital;
+};
 
-GlyphFontAttributes DigitalFont(GlyphFont font)
+using A = Attribute;
+constexpr GlyphFontAttributes kNumerals {A::HourScaleFName, A::HourScaleFSize, A::HourScaleColor};
+constexpr GlyphFontAttributes kBadge {A::AnalogAMPMFName, A::AnalogAMPMFSize, A::AnalogAMPMColor};
+constexpr GlyphFontAttributes kTime {A::DigitalTimeFName, A::DigitalTimeFSize, A::DigitalTimeColor};
+
+// clang-format off
+constexpr FontRow kFonts[] = {
+    {GlyphFont::TopText, {A::AnalogTopTextFName, A::AnalogTopTextFSize, A::AnalogTopTextColor},
+                         {A::DigitalTopTextFName, A::DigitalTopTextFSize, A::DigitalTopTextColor}},
+    {GlyphFont::Week, {A::AnalogWeekFName, A::AnalogWeekFSize, A::AnalogWeekColor},
+                      {A::DigitalWeekFName, A::DigitalWeekFSize, A::DigitalWeekColor}},
+    {GlyphFont::Lunar, {A::AnalogLunarFName, A::AnalogLunarFSize, A::AnalogLunarColor},
+                       {A::DigitalLunarFName, A::DigitalLunarFSize, A::DigitalLunarColor}},
+    {GlyphFont::Date, {A::AnalogDateFName, A::AnalogDateFSize, A::AnalogDateColor},
+                      {A::DigitalDateFName, A::DigitalDateFSize, A::DigitalDateColor}},
+    {GlyphFont::HourScale, kNumerals, kNumerals},
+    {GlyphFont::AmPm, kBadge, kBadge},
+    {GlyphFont::Time, kTime, kTime},
+};
+// clang-format on
+
+constexpr bool FontsFollowEnumeration()
 {
-    using A = Attribute;
-    switch (font) {
-    case GlyphFont::TopText:
-        return {A::DigitalTopTextFName, A::DigitalTopTextFSize, A::DigitalTopTextColor};
-    case GlyphFont::Week:
-        return {A::DigitalWeekFName, A::DigitalWeekFSize, A::DigitalWeekColor};
-    case GlyphFont::Lunar:
-        return {A::DigitalLunarFName, A::DigitalLunarFSize, A::DigitalLunarColor};
-    case GlyphFont::Date:
-        return {A::DigitalDateFName, A::DigitalDateFSize, A::DigitalDateColor};
-    case GlyphFont::HourScale:
-    case GlyphFont::AmPm:
-    case GlyphFont::Time:
-        break;
+    for (int i = 0; i < kGlyphFontCount; ++i) {
+        if (kFonts[i].font != static_cast<GlyphFont>(i))
+            return false;
     }
-    return AnalogFont(font);
+    return true;
 }
+static_assert(std::size(kFonts) == kGlyphFontCount && FontsFollowEnumeration(),
+              "row i of the table must describe font i");
 
 } // namespace
 
@@ -128,7 +125,8 @@ const QString &GlyphKey(Glyph glyph, int number)
 
 GlyphFontAttributes FontAttributes(GlyphFont font, int clockType)
 {
-    return clockType == DigitalClock ? DigitalFont(font) : AnalogFont(font);
+    const FontRow &row = kFonts[static_cast<int>(font)];
+    return clockType == DigitalClock ? row.digital : row.analog;
 }
 
 } // namespace Lw::HNodeClock

@@ -33,7 +33,7 @@ const QVector<Room> kRooms = {
     {"glyph/", {"clock_plugin/glyph/"}},
     {"clock_node_sdk", {"clock_plugin/clock_node_sdk.", "clock_plugin/clock_sdk_tables."}},
     {"clock_node", {"clock_plugin/clock_node."}},
-    {"clock_attributes", {"clock_plugin/clock_attributes."}},
+    {"clock_attributes", {"clock_plugin/clock_attribute"}},
     {"calendar/", {"clock_plugin/calendar/"}},
     {"image_bounds", {"clock_plugin/image_bounds.", "clock_plugin/clock_export."}},
     {"host/", {"host/"}},
@@ -44,7 +44,7 @@ const QVector<Room> kRooms = {
 const QMap<QString, QStringList> kNarrowRooms = {
     {"player/", {"program/", "clock_attributes", "calendar/", "host/"}},
     {"program/", {"host/"}},
-    {"clock_attributes", {}},
+    {"clock_attributes", {"image_bounds"}},
     {"calendar/", {"image_bounds"}}, // for clock_export.h
     {"image_bounds", {}},
 };

@@ -6,9 +6,11 @@
 #include "process_run.h"
 
 #include "clock_render.h"
+#include "happconfig.h"
 
 #include "pictureplayer.h"
 
+#include <QColor>
 #include <QDir>
 #include <QSet>
 
@@ -37,13 +39,8 @@ std::unique_ptr<HClockNode> NewClock(int index)
     set("ClockType", DigitalClock);
     set("Id", kId);
     const QRgb colour = ColourOf(index);
-    const int stored = qRed(colour) | qGreen(colour) << 8 | qBlue(colour) << 16;
-    for (const QString &key : node->AttributeKeys()) {
-        if (key.endsWith(QLatin1String("Color")))
-            node->SetAttribute(key, stored, false);
-        if (key.endsWith(QLatin1String("FSize")))
-            node->SetAttribute(key, 8, false);
-    }
+    SetEvery(*node, ValueRole::Colour, Lw::HAppConfig::ColorToInt(QColor(colour)));
+    SetEvery(*node, ValueRole::Size, 8);
     node->SetSize({80, 40});
     return node;
 }

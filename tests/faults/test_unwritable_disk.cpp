@@ -65,10 +65,7 @@ Files FilesIn(const QString &directory)
 /// A clock whose images are larger than those of FullClock, under the same names.
 void Enlarge(ClockUnderTest &clock)
 {
-    for (const QString &key : clock.node.AttributeKeys()) {
-        if (key.endsWith(QLatin1String("FSize")))
-            clock.node.SetAttribute(key, 20, false);
-    }
+    SetEvery(clock.node, Lw::HNodeClock::ValueRole::Size, 20);
 }
 
 /// The images as they are made where there is room.

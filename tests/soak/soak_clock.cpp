@@ -1,5 +1,7 @@
 #include "soak_clock.h"
 
+#include "every_attribute.h"
+
 #include "hpluginmanager.h"
 
 #include <QDomDocument>
@@ -63,12 +65,9 @@ std::unique_ptr<Lw::HNode> NewNode(Lw::INodePlugin *plugin, Kind kind)
 {
     std::unique_ptr<Lw::HNode> node(plugin->Create());
     node->InitData();
-    for (const QString &key : node->AttributeKeys()) {
-        if (key.endsWith(QLatin1String("FName")))
-            node->SetAttribute(key, QStringLiteral("DejaVu Sans"), false);
-        else if (key.endsWith(QLatin1String("FSize")))
-            node->SetAttribute(key, kPoints, false);
-    }
+    using Lw::HNodeClock::ValueRole;
+    SetEvery(*node, ValueRole::Family, QStringLiteral("DejaVu Sans"));
+    SetEvery(*node, ValueRole::Size, kPoints);
     for (const auto &setting : kNumbers)
         node->SetAttribute(QLatin1String(setting.key), setting.value, false);
     for (const auto &setting : kTexts)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "clock_node.h"
+#include "every_attribute.h"
 #include "glyph/draw_source_image.h"
 
 #include "happconfig.h"
@@ -20,10 +21,7 @@ public:
         Set("ClockType", clockType);
         Set("Id", 1000);
         Set("TimeZone", "+00:00");
-        for (const QString &key : node.AttributeKeys()) {
-            if (key.endsWith(QLatin1String("FName")))
-                node.SetAttribute(key, QStringLiteral("DejaVu Sans"), false);
-        }
+        SetEvery(node, Lw::HNodeClock::ValueRole::Family, QStringLiteral("DejaVu Sans"));
         node.SetSize(size);
     }
 

@@ -35,15 +35,6 @@ const QStringList &AllKeys()
     return all;
 }
 
-const AttributeRow *RowNamed(const QString &key)
-{
-    for (const AttributeRow &row : kAttributeTable) {
-        if (key == QLatin1String(row.key))
-            return &row;
-    }
-    return nullptr;
-}
-
 QStringList ChildNames(const QDomElement &parent)
 {
     QStringList names;

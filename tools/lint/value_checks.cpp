@@ -5,7 +5,6 @@
 
 #include "calendar/clock_time.h"
 #include "clock_sdk_tables.h"
-#include "display/style_pictures.h"
 #include "happconfig.h"
 
 #include <QColor>
@@ -18,53 +17,6 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-struct CodeRow
-{
-    Attribute attribute;
-    int first;
-    int last;
-};
-
-// clang-format off
-constexpr CodeRow kCodes[] = {
-    {Attribute::ClockType, 0, 2},
-    {Attribute::AdjustType, 0, 1},
-    {Attribute::UseDaylightSavingTime, 0, 1},
-    {Attribute::HourScaleType, 0, 4},
-    {Attribute::MinuteScaleType, 0, 2},
-    {Attribute::SecondRectType, 0, 1},
-    {Attribute::MinuteRectType, 0, 1},
-    {Attribute::HourRectType, 0, 1},
-    {Attribute::AnalogDateType, 0, 8},
-    {Attribute::DigitalDateType, 0, 8},
-    {Attribute::AnalogWeekType, 0, 3},
-    {Attribute::DigitalWeekType, 0, 3},
-    {Attribute::DigitalTimeType, 0, 4},
-    {Attribute::AnalogSwapArea, 0, 1},
-    {Attribute::DigitalSwapArea, 0, 1},
-    {Attribute::DigitalMode, 0, 1},
-    {Attribute::DigitalDisplayMode, 0, 1},
-    {Attribute::PictrueClockType, 1, kStyleCount},
-};
-// clang-format on
-
-constexpr int kLargestFont = 32767; // points; nothing is drawn beyond
-
-bool KeyEndsWith(Attribute attribute, const char *end)
-{
-    return QLatin1String(RowOf(attribute).key).endsWith(QLatin1String(end));
-}
-
-QString RangeFault(int number, const CodeRange &range, const QString &meaning)
-{
-    if (number >= range.first && number <= range.last)
-        return {};
-    return QStringLiteral("is not known; accepted: %1 to %2 (%3)")
-        .arg(range.first)
-        .arg(range.last)
-        .arg(meaning);
-}
-
 QString NumberFault(Attribute attribute, const QString &text)
 {
     bool isNumber = false;
@@ -72,9 +24,12 @@ QString NumberFault(Attribute attribute, const QString &text)
     if (!isNumber)
         return QStringLiteral("is not a whole number and counts as 0; accepted: a decimal such as "
                               "12");
-    const QString meaning = QString::fromUtf8(RowOf(attribute).meaning);
-    const std::optional<CodeRange> range = CodesOf(attribute);
-    return range ? RangeFault(number, *range, meaning) : QString();
+    const ValueRange &range = RowOf(attribute).range;
+    if (range.Contains(number))
+        return {};
+    const QString codes = NamedCodes(range);
+    return QStringLiteral("is not known; accepted: %1%2")
+        .arg(RangeText(range), codes.isEmpty() ? codes : QStringLiteral(" (%1)").arg(codes));
 }
 
 QString ColourFault(const QString &text)
@@ -151,16 +106,17 @@ QString FamilyFault(const QString &text)
 
 QString TextFault(Attribute attribute, const QString &text)
 {
-    switch (attribute) {
-    case Attribute::TimeZone:
+    switch (RowOf(attribute).role) {
+    case ValueRole::Zone:
         return ZoneFault(text);
-    case Attribute::TimeAdjust:
+    case ValueRole::Adjustment:
         return AdjustmentFault(text);
-    case Attribute::DaylightSavingTimeStart:
-    case Attribute::DaylightSavingTimeEnd:
+    case ValueRole::Rule:
         return RuleFault(text);
+    case ValueRole::Family:
+        return FamilyFault(text);
     default:
-        return KeyEndsWith(attribute, "FName") ? FamilyFault(text) : QString();
+        return {};
     }
 }
 
@@ -186,17 +142,18 @@ QString AdjustSecondsFault(const QString &text)
 
 } // namespace
 
-std::optional<CodeRange> CodesOf(Attribute attribute)
+QString NamedCodes(const ValueRange &range)
 {
-    if (RowOf(attribute).kind == ValueKind::Flag)
-        return CodeRange {0, 1};
-    if (KeyEndsWith(attribute, "FSize"))
-        return CodeRange {1, kLargestFont};
-    for (const CodeRow &row : kCodes) {
-        if (row.attribute == attribute)
-            return CodeRange {row.first, row.last};
-    }
-    return std::nullopt;
+    QStringList codes;
+    for (int code = range.first; range.names && code <= range.last; ++code)
+        codes.append(QStringLiteral("%1 %2").arg(code).arg(QLatin1String(range.NameOf(code))));
+    return codes.join(QStringLiteral("; "));
+}
+
+QString RangeText(const ValueRange &range)
+{
+    return range.TakesAll() ? QString()
+                            : QStringLiteral("%1 to %2").arg(range.first).arg(range.last);
 }
 
 QString ImportFault(Attribute target, Conversion conversion, const QString &text)

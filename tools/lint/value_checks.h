@@ -5,24 +5,17 @@
 
 #include <QString>
 
-#include <optional>
-
 namespace Lw::HNodeClock {
 enum class Conversion;
 }
 
 namespace ClockTool {
 
-/// The numbers that mean something to an attribute; where a switch takes any number, the two that
-/// are documented.
-struct CodeRange
-{
-    int first;
-    int last;
-};
+/// "0 dots; 1 squares"; empty where no number has a name.
+QString NamedCodes(const Lw::HNodeClock::ValueRange &range);
 
-/// Nothing where any number does, and for attributes that are no numbers.
-std::optional<CodeRange> CodesOf(Lw::HNodeClock::Attribute attribute);
+/// "0 to 1"; empty where any number means something.
+QString RangeText(const Lw::HNodeClock::ValueRange &range);
 
 // Each gives what is wrong and what would be accepted, to follow the text in a sentence, or an
 // empty text when nothing is.
