@@ -69,15 +69,22 @@ QDate FindLocalDate(qint64 utc)
 
 } // namespace
 
-HeldReading::HeldReading()
+HeldReading::HeldReading() : m_outer(t_hold.reading)
 {
     if (t_hold.depth++ == 0)
         t_hold.reading = ReadSource();
 }
 
+HeldReading::HeldReading(qint64 utcMilliseconds) : m_outer(t_hold.reading)
+{
+    ++t_hold.depth;
+    t_hold.reading = qBound<qint64>(-kFurthest, utcMilliseconds, kFurthest);
+}
+
 HeldReading::~HeldReading()
 {
     --t_hold.depth;
+    t_hold.reading = m_outer;
 }
 
 qint64 UtcMilliseconds()

@@ -14,14 +14,20 @@ CLOCK_EXPORT void clock_set_time_source(long long (*utcMilliseconds)(void));
 
 namespace Lw::HNodeClock {
 
-/// While one lives, every reading is the reading taken when it was made, so that all parts of a
-/// frame show one instant. An inner one keeps the outer one's reading.
+/// While one lives, every reading of its thread is the reading taken when it was made, so that all
+/// parts of a frame show one instant. An inner one keeps the outer one's reading.
 class HeldReading
 {
 public:
     HeldReading();
+    /// The reading is this instant, also within an outer one, whose reading comes back afterwards.
+    /// For asking what a clock will show.
+    explicit HeldReading(qint64 utcMilliseconds);
     ~HeldReading();
     Q_DISABLE_COPY(HeldReading)
+
+private:
+    qint64 m_outer;
 };
 
 /// Milliseconds since 1970-01-01 UTC: the held reading, or the time now. Far enough from the ends

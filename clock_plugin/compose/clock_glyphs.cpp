@@ -1,7 +1,5 @@
 #include "compose/clock_glyphs.h"
 
-#include "glyph/glyph_set.h"
-
 #include <QFile>
 
 #include <iterator>
@@ -16,11 +14,6 @@ namespace {
 constexpr Glyph kWeekFamilies[] = {Glyph::ChWeek, Glyph::EnWeek, Glyph::EnWeekSim,
                                    Glyph::PersiaWeek};
 
-GlyphStrip LoadGlyph(HClockNode &node, Glyph glyph, int number = 0)
-{
-    return GlyphStrip::OfFile(node.GetFirstFile(GlyphKey(glyph, number)));
-}
-
 GlyphStrip BlankMonth(const GlyphStrip &digits)
 {
     return GlyphStrip::Blank({digits.Width() / kDigitCells * 2, digits.Height()});
@@ -28,29 +21,36 @@ GlyphStrip BlankMonth(const GlyphStrip &digits)
 
 } // namespace
 
-void ClockGlyphs::Load(HClockNode &node, int clockType, int weekType)
+GlyphSource RecordedFiles(HClockNode &node)
 {
-    topText = LoadGlyph(node, Glyph::TopText);
-    lunar = LoadGlyph(node, Glyph::Lunar);
+    return [&node](Glyph glyph, int number) {
+        return GlyphStrip::OfFile(node.GetFirstFile(GlyphKey(glyph, number)));
+    };
+}
+
+void ClockGlyphs::Load(const GlyphSource &source, int clockType, int weekType)
+{
+    topText = source(Glyph::TopText, 0);
+    lunar = source(Glyph::Lunar, 0);
     if (weekType >= 0 && weekType < static_cast<int>(std::size(kWeekFamilies))) {
         weeks.clear();
         for (int day = 1; day <= 7; ++day)
-            weeks.append(LoadGlyph(node, kWeekFamilies[weekType], day));
+            weeks.append(source(kWeekFamilies[weekType], day));
     }
     if (clockType == DigitalClock) {
-        timeNumber = LoadGlyph(node, Glyph::TimeNumber);
-        timeCh = LoadGlyph(node, Glyph::TimeCh);
-        timeChar = LoadGlyph(node, Glyph::TimeChar);
+        timeNumber = source(Glyph::TimeNumber, 0);
+        timeCh = source(Glyph::TimeCh, 0);
+        timeChar = source(Glyph::TimeChar, 0);
     }
-    dateNumber = LoadGlyph(node, Glyph::DateNumber);
-    dateCh = LoadGlyph(node, Glyph::DateCh);
-    dateChar = LoadGlyph(node, Glyph::DateChar);
-    minus = LoadGlyph(node, Glyph::Minus);
-    space = LoadGlyph(node, Glyph::Space);
+    dateNumber = source(Glyph::DateNumber, 0);
+    dateCh = source(Glyph::DateCh, 0);
+    dateChar = source(Glyph::DateChar, 0);
+    minus = source(Glyph::Minus, 0);
+    space = source(Glyph::Space, 0);
     months.clear();
     months.append(BlankMonth(dateNumber));
     for (int month = 1; month <= 12; ++month)
-        months.append(LoadGlyph(node, Glyph::EnMonth, month));
+        months.append(source(Glyph::EnMonth, month));
 }
 
 const GlyphStrip &LiveGlyph::Load(const QString &path)

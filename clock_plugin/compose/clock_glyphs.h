@@ -3,10 +3,19 @@
 
 #include "clock_node.h"
 #include "compose/glyph_strip.h"
+#include "glyph/glyph_set.h"
 
 #include <QVector>
 
+#include <functional>
+
 namespace Lw::HNodeClock {
+
+/// Gives a glyph image; the number counts within a series from 1, and is 0 for a single image.
+using GlyphSource = std::function<GlyphStrip(Glyph glyph, int number)>;
+
+/// The files recorded on a node, which must outlive the source.
+GlyphSource RecordedFiles(HClockNode &node);
 
 /// Null strips stand for files that are not recorded, missing or broken.
 struct ClockGlyphs
@@ -26,7 +35,7 @@ struct ClockGlyphs
 
     /// Loads what a clock of that type shows; the rest stays. A week code outside 0 to 3 leaves
     /// the week images as they were.
-    void Load(HClockNode &node, int clockType, int weekType);
+    void Load(const GlyphSource &source, int clockType, int weekType);
 };
 
 /// One image, live: decoded again only when its recorded path or the file's size or time of change

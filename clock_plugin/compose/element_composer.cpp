@@ -52,16 +52,30 @@ bool ElementComposer::Shown::Becomes(const Shown &wanted)
 
 void ElementComposer::SetUp(HClockNode &node)
 {
+    m_givenMarks.reset();
+    SetUp(node, node.ClockType(), RecordedFiles(node));
+}
+
+void ElementComposer::SetUp(HClockNode &node, const GlyphSource &source)
+{
+    const int clockType = node.ClockType();
+    m_givenMarks.emplace();
+    if (clockType == DigitalClock)
+        m_givenMarks = {source(Glyph::TimeAM, 0), source(Glyph::TimePM, 0)};
+    SetUp(node, clockType, source);
+}
+
+void ElementComposer::SetUp(HClockNode &node, int clockType, const GlyphSource &source)
+{
     m_node = &node;
     m_reading.SetUp(node);
     m_done = Done();
-    const int clockType = node.ClockType();
     if (clockType == PictureClock)
         return;
     const bool analog = clockType == AnalogClock;
     const int weekType = Number(analog ? Attribute::AnalogWeekType : Attribute::DigitalWeekType);
     m_dateType = Number(analog ? Attribute::AnalogDateType : Attribute::DigitalDateType);
-    m_glyphs.Load(node, clockType, weekType);
+    m_glyphs.Load(source, clockType, weekType);
     m_topTextMade = m_dateShown.made = m_timeShown.made = m_weekShown.made = m_lunarShown.made =
         false;
 }
@@ -110,6 +124,8 @@ const GlyphStrip &ElementComposer::AmPmMark(bool twelveHours)
         && Number(Attribute::DigitalDispAMPM) == 0;
     if (hidden || !m_node)
         return none;
+    if (m_givenMarks)
+        return (*m_givenMarks)[morning ? 0 : 1];
     LiveGlyph &mark = morning ? m_morningMark : m_afternoonMark;
     return mark.Load(m_node->GetFirstFile(GlyphKey(morning ? Glyph::TimeAM : Glyph::TimePM)));
 }

@@ -8,6 +8,9 @@
 #include <QPixmap>
 #include <QPointer>
 
+#include <array>
+#include <optional>
+
 namespace Lw::HNodeClock {
 
 /// The elements are views on the loaded images: valid until the next set-up. Each is brought up to
@@ -15,7 +18,10 @@ namespace Lw::HNodeClock {
 class ElementComposer
 {
 public:
+    /// With the files recorded on the node, which are read now. The node's settings count.
     void SetUp(HClockNode &node);
+    /// With other images than the node's files: those that the source gives now.
+    void SetUp(HClockNode &node, const GlyphSource &source);
 
     const ClockReading &UpdateReading();
     const ClockReading &Reading() const { return m_reading; }
@@ -77,6 +83,7 @@ private:
     };
 
     int Number(Attribute attribute) const;
+    void SetUp(HClockNode &node, int clockType, const GlyphSource &source);
     const GlyphStrip &AmPmMark(bool twelveHours);
 
     QPointer<HClockNode> m_node;
@@ -84,6 +91,7 @@ private:
     ClockReading m_reading;
     LiveGlyph m_morningMark;
     LiveGlyph m_afternoonMark;
+    std::optional<std::array<GlyphStrip, 2>> m_givenMarks; ///< AM, PM; in place of the live ones
     int m_dateType = 0;
     int m_shownHour = 0;
     int m_timeHour = 0; ///< of the time element

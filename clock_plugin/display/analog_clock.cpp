@@ -6,7 +6,7 @@
 #include "display/analog_geometry.h"
 #include "display/analog_painting.h"
 #include "display/draw_display_image_p.h"
-#include "display/row_elements.h"
+#include "display/row_placement.h"
 #include "glyph/glyph_set.h"
 
 #include "happconfig.h"
@@ -33,20 +33,6 @@ constexpr HandRow kHands[] = {
     {Hand::Hour, Attribute::HourRectType, Attribute::HourHandColor},
     {Hand::Minute, Attribute::MinuteRectType, Attribute::MinuteHandColor},
     {Hand::Second, Attribute::SecondRectType, Attribute::SecondHandColor},
-};
-
-struct TextRow
-{
-    Attribute flag;
-    RowElement text;
-};
-
-// In the order of painting.
-constexpr TextRow kTexts[] = {
-    {Attribute::Analog_TopTexy_d, ElementOf(&Rows::topText)},
-    {Attribute::Analog_Date_d, ElementOf(&Rows::date)},
-    {Attribute::Analog_Week_d, ElementOf(&Rows::week)},
-    {Attribute::Analog_Lunar_d, ElementOf(&Rows::lunar)},
 };
 
 // The host's image format that asks for smooth hands.
@@ -168,37 +154,15 @@ void DrawDisplayImage::DrawAnalogClockPoint()
 
 void DrawDisplayImage::GetAngDisplayArea()
 {
-    if (!d->node)
-        return;
-    Rows flags;
-    flags.date = d->Number(Attribute::Analog_Date_d);
-    flags.week = d->Number(Attribute::Analog_Week_d);
-    flags.lunar = d->Number(Attribute::Analog_Lunar_d);
-    // A single row places all three; otherwise a row that does not take part is not measured.
-    Rows measured = CountRows(flags) == 1 ? LowerRows(kEveryRow) : flags;
-    measured.topText = 1;
-    AnalogArea area;
-    area.width = d->node->Size().width();
-    area.height = d->node->Size().height();
-    area.space = d->Number(Attribute::AnalogSpace);
-    area.swap = d->Number(Attribute::AnalogSwapArea);
-    area.flags = flags;
-    area.heights = HeightsOf(d->composer.Elements(), measured);
-    LayOutAnalogRows(area, d->rows);
+    if (d->node)
+        LayOutAnalog(*d->node, d->composer.Elements(), d->rows);
 }
 
 void DrawDisplayImage::DrawAnalogText()
 {
     if (!d->node || d->dialCache.isNull())
         return;
-    const int middle = d->node->Size().width() / 2;
-    Placements rows;
-    for (const TextRow &row : kTexts) {
-        if (d->Number(row.flag) != 1)
-            continue;
-        const Element &element = row.text.Of(d->composer.Elements());
-        rows.Add(element, QPoint(middle - element.Width() / 2, d->rows.*row.text.row));
-    }
+    const Placements rows = PlaceAnalog(*d->node, d->composer.Elements(), d->rows);
     const qint64 keyBefore = d->dialCache.cacheKey();
     const QRegion changed = d->dialTexts.Paint(d->dialCache, rows);
     d->dialFrames.BackgroundChanged(keyBefore, d->dialCache, changed);

@@ -7,7 +7,7 @@
 #include "display/frame_painter.h"
 #include "display/opaque_view.h"
 #include "display/resting_hand.h"
-#include "display/row_layout.h"
+#include "display/row_placement.h"
 #include "display/stamp.h"
 #include "display/text_rows.h"
 
@@ -18,19 +18,6 @@
 #include <optional>
 
 namespace Lw::HNodeClock {
-
-/// What a digital clock is drawn by, read from its node once for all uses in a frame.
-struct DigitalSettings
-{
-    explicit DigitalSettings(HClockNode &node);
-
-    QSize area;
-    /// An element counts in the layout when its flag is not 0; it is drawn when it is 1.
-    Rows flags;
-    int space;
-    int swap;
-    bool onOneLine;
-};
 
 class DrawDisplayImage::Private
 {
@@ -87,8 +74,8 @@ public:
 
     // Digital clock.
     void DrawDigitalFrame();
-    /// As the layout of that many rows.
-    void LayOutDigital(const DigitalSettings &settings, int count, int space);
+    /// As the layout of that many rows; nothing without a node.
+    void LayOutDigitalRows(int count, int space);
     void DrawDigital(const DigitalSettings &settings);
     std::array<FrameContents, 2> digitalFrames;         ///< what the frame and the spare hold
     FrameContents *digitalContents = &digitalFrames[0]; ///< of the frame

@@ -1,6 +1,7 @@
 #include "glyph/draw_source_image.h"
 
 #include "glyph/glyph_file.h"
+#include "glyph/glyph_picture.h"
 #include "glyph/hmd5.h"
 #include "image_bounds.h"
 
@@ -8,66 +9,14 @@
 
 #include <QFileInfo>
 #include <QFont>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
-
-#include <algorithm>
 
 namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr int kDefaultPoints = 12;
-
 constexpr int kTooWide = kImageSide + 1;
-// Qt's text widths overflow at 2^25 pixels: so many characters stay below it at every size.
-constexpr int kMeasuredAtOnce = 256;
-
-/// Without antialiasing, so that every pixel is either background or stroke.
-QFont GlyphTypeface(const QString &family, int size)
-{
-    QFont font = QGuiApplication::font();
-    if (!family.isEmpty())
-        font = QFont(family);
-    font.setPointSize(size > 0 ? size : kDefaultPoints);
-    font.setWeight(QFont::Normal);
-    font.setItalic(false);
-    font.setStyleStrategy(QFont::NoAntialias);
-    return font;
-}
-
-int AdvanceWidth(const QFontMetrics &metrics, const QString &text)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
-    return metrics.horizontalAdvance(text);
-#else
-    return metrics.width(text);
-#endif
-}
-
-/// The advance width of a text; for one that is far too wide for an image, a width that is.
-int TextWidth(const QFontMetrics &metrics, const QString &text)
-{
-    if (text.size() > kMeasuredAtOnce) {
-        qint64 estimate = 0;
-        for (int at = 0; at < text.size() && estimate <= 2 * kImageSide; at += kMeasuredAtOnce)
-            estimate += AdvanceWidth(metrics, text.mid(at, kMeasuredAtOnce));
-        if (estimate > 2 * kImageSide)
-            return kTooWide;
-    }
-    return AdvanceWidth(metrics, text);
-}
-
-/// Null for a size that is empty or beyond the bounds.
-QPixmap TransparentPixmap(int width, int height)
-{
-    if (!WithinBounds({width, height}, kGlyphBytes))
-        return QPixmap();
-    QPixmap pixmap(width, height);
-    pixmap.fill(Qt::transparent);
-    return pixmap;
-}
 
 bool IsTopTextFile(const QString &key, const QString &fileSuffix)
 {
@@ -168,7 +117,8 @@ int DrwSourceIMage::WidthOf(const QString &text, const QString &family, int size
 {
     if (text.isEmpty())
         return 0;
-    return size <= kLargestFontSize ? TextWidth(QFontMetrics(Typeface(family, size)), text) : kTooWide;
+    return size <= kLargestFontSize ? GlyphTextWidth(QFontMetrics(Typeface(family, size)), text)
+                                    : kTooWide;
 }
 
 void DrwSourceIMage::DrawText(const QString &text, int width, const QString &family, int size,
@@ -177,11 +127,10 @@ void DrwSourceIMage::DrawText(const QString &text, int width, const QString &fam
     if (width >= kTooWide)
         return;
     const QFont &font = Typeface(family, size);
-    QPixmap pixmap = TransparentPixmap(width, QFontMetrics(font).height());
+    QPixmap pixmap = EmptyPicture(font, width);
     if (pixmap.isNull())
         return;
-    BeginGlyphs(&pixmap, font, colour);
-    m_painter->drawText(pixmap.rect(), Qt::AlignCenter, text);
+    BeginText(*m_painter, pixmap, font, IntToQColor(colour), text);
     // Saved while the painter is still at work on it; a strip, after it has ended.
     Save(pixmap, path);
     m_painter->end();
@@ -194,14 +143,9 @@ void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, 
     const QString path = HAppConfig::ClockOutputPath() + m_typePrefix + id + fileSuffix;
     if (size <= kLargestFontSize) {
         const QFont &font = Typeface(family, size);
-        const QFontMetrics metrics(font);
-        const int cell = GetNumberMaxWidth(metrics);
-        QPixmap pixmap = TransparentPixmap(kDigitCells * cell, metrics.height());
+        QPixmap pixmap = EmptyPicture(font, kDigitCells * WidestDigit(QFontMetrics(font)));
         if (!pixmap.isNull()) {
-            BeginGlyphs(&pixmap, font, colour);
-            for (int digit = 0; digit < kDigitCells; ++digit)
-                m_painter->drawText(QRect(digit * cell, 0, cell, pixmap.height()), Qt::AlignCenter,
-                                    QString::number(digit));
+            BeginDigits(*m_painter, pixmap, font, IntToQColor(colour));
             m_painter->end();
             Save(pixmap, path);
         }
@@ -218,13 +162,6 @@ const QFont &DrwSourceIMage::Typeface(const QString &family, int size)
         m_typefaceSize = size;
     }
     return *m_typeface;
-}
-
-void DrwSourceIMage::BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour)
-{
-    m_painter->begin(pixmap);
-    m_painter->setFont(font);
-    m_painter->setPen(IntToQColor(colour));
 }
 
 void DrwSourceIMage::Save(const QPixmap &pixmap, const QString &path)
@@ -250,10 +187,7 @@ void DrwSourceIMage::Record(HClockNode *node, const QString &key, const QString 
 
 int DrwSourceIMage::GetNumberMaxWidth(QFontMetrics metrics)
 {
-    int widest = 0;
-    for (int digit = 0; digit < kDigitCells; ++digit)
-        widest = std::max(widest, AdvanceWidth(metrics, QString::number(digit)));
-    return widest;
+    return WidestDigit(metrics);
 }
 
 QColor DrwSourceIMage::IntToQColor(int colour)

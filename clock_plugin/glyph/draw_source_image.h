@@ -70,7 +70,6 @@ private:
     Q_DECL_HIDDEN void DrawText(const QString &text, int width, const QString &family, int size,
                                 int colour, const QString &path);
     Q_DECL_HIDDEN const QFont &Typeface(const QString &family, int size);
-    Q_DECL_HIDDEN void BeginGlyphs(QPixmap *pixmap, const QFont &font, int colour);
     Q_DECL_HIDDEN void Save(const QPixmap &pixmap, const QString &path);
     Q_DECL_HIDDEN void Record(HClockNode *node, const QString &key, const QString &path);
 

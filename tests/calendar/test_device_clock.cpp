@@ -51,6 +51,7 @@ private slots:
     void everyCallReadsAnew();
     void holdKeepsOneReading();
     void innerHoldKeepsOuterReading();
+    void givenInstantIsHeldWithinAnother();
     void holdSurvivesNewSource();
     void holdIsOfItsThread();
     void millisecond_data();
@@ -130,6 +131,20 @@ void TestDeviceClock::innerHoldKeepsOuterReading()
     }
     QCOMPARE(UtcMilliseconds(), first);
     QCOMPARE(s_readings, 1);
+}
+
+void TestDeviceClock::givenInstantIsHeldWithinAnother()
+{
+    clock_set_time_source(&FixedTime);
+    s_now = 7000;
+    const HeldReading outer;
+    {
+        const HeldReading given(5123);
+        const HeldReading inner;
+        QCOMPARE(UtcMilliseconds(), qint64(5123));
+        QCOMPARE(LocalMillisecond(), 123);
+    }
+    QCOMPARE(UtcMilliseconds(), qint64(7000));
 }
 
 void TestDeviceClock::holdSurvivesNewSource()

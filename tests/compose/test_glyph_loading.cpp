@@ -1,6 +1,7 @@
 // Which images a composer loads, and what it makes of files that are none.
 #include "chosen_time.h"
 #include "compose/clock_glyphs.h"
+#include "compose/element_composer.h"
 #include "compose/glyph_reading.h"
 #include "lettered_glyphs.h"
 
@@ -51,6 +52,7 @@ private Q_SLOTS:
     void PhotographsOfManyScans_data();
     void PhotographsOfManyScans();
     void LiveImageFollowsTheFile();
+    void GivenImagesAreShownInPlaceOfFiles();
     void FilesOfLaterTimesAreRead();
 
 private:
@@ -63,7 +65,7 @@ void TestGlyphLoading::DigitalClockLoadsAll()
     LetteredGlyphs written(node);
     written.WriteAll();
     ClockGlyphs glyphs;
-    glyphs.Load(node, 1, 2);
+    glyphs.Load(RecordedFiles(node), 1, 2);
     QCOMPARE(LetteredGlyphs::Read(glyphs.timeCh.Pixmap()), LetteredGlyphs::Cells("hms", 3));
     QCOMPARE(glyphs.timeNumber.Width(), 20);
     QCOMPARE(LetteredGlyphs::Read(glyphs.timeChar.Pixmap()), QStringLiteral(":"));
@@ -83,7 +85,7 @@ void TestGlyphLoading::AnalogClockLeavesTheTimeImages()
     LetteredGlyphs written(node);
     written.WriteAll();
     ClockGlyphs glyphs;
-    glyphs.Load(node, 0, 0);
+    glyphs.Load(RecordedFiles(node), 0, 0);
     QVERIFY(glyphs.timeNumber.IsNull());
     QVERIFY(glyphs.timeCh.IsNull());
     QVERIFY(glyphs.timeChar.IsNull());
@@ -97,11 +99,11 @@ void TestGlyphLoading::WeekCodeOutsideTheListChangesNothing()
     LetteredGlyphs written(node);
     written.WriteAll();
     ClockGlyphs glyphs;
-    glyphs.Load(node, 1, 4);
+    glyphs.Load(RecordedFiles(node), 1, 4);
     QVERIFY(glyphs.weeks.isEmpty());
-    glyphs.Load(node, 1, 1);
+    glyphs.Load(RecordedFiles(node), 1, 1);
     const quint32 monday = glyphs.weeks.at(0).Key();
-    glyphs.Load(node, 1, -1);
+    glyphs.Load(RecordedFiles(node), 1, -1);
     QCOMPARE(glyphs.weeks.size(), 7);
     QCOMPARE(glyphs.weeks.at(0).Key(), monday);
 }
@@ -125,7 +127,7 @@ void TestGlyphLoading::MonthSpacer()
     if (strip > 0)
         written.Write("_dateNumber", QString(strip, '7'), 4);
     ClockGlyphs glyphs;
-    glyphs.Load(node, 1, 0);
+    glyphs.Load(RecordedFiles(node), 1, 0);
     QCOMPARE(glyphs.months.size(), 13);
     QCOMPARE(glyphs.months.at(0).Width(), spacer);
     QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(0).Pixmap()), QString(spacer, '_'));
@@ -353,6 +355,30 @@ void TestGlyphLoading::LiveImageFollowsTheFile()
     QVERIFY(QFile::remove(path));
     QVERIFY(live.Load(path).IsNull());
     QVERIFY(live.Load(QString()).IsNull());
+}
+
+void TestGlyphLoading::GivenImagesAreShownInPlaceOfFiles()
+{
+    HClockNode node;
+    LetteredGlyphs written(node);
+    written.WriteAll();
+    node.SetAttribute("ClockType", 1, false);
+    node.SetAttribute("DigitalMode", 1, false);
+    node.SetAttribute("DigitalTimeType", 1, false);
+    const GlyphSource files = RecordedFiles(node);
+    const GlyphStrip given = files(Glyph::TimePM, 0);
+    ElementComposer composer;
+    composer.SetUp(node, [&](Glyph glyph, int number) {
+        return glyph == Glyph::TimeAM ? given : files(glyph, number);
+    });
+    QVERIFY(QFile::remove(node.GetFirstFile("_timePM")));
+
+    const HeldReading midnight(0);
+    QCOMPARE(LetteredGlyphs::Read(composer.TimePixmap()), QStringLiteral("0000:0000_PPP"));
+    const HeldReading noon(12 * 3600 * 1000);
+    QCOMPARE(LetteredGlyphs::Read(composer.TimePixmap()), QStringLiteral("1122:0000_PPP"));
+    composer.SetUp(node);
+    QCOMPARE(LetteredGlyphs::Read(composer.TimePixmap()), QStringLiteral("1122:0000"));
 }
 
 void TestGlyphLoading::FilesOfLaterTimesAreRead()

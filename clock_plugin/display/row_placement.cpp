@@ -1,0 +1,142 @@
+#include "display/row_placement.h"
+
+#include "display/row_elements.h"
+
+#include <array>
+
+namespace Lw::HNodeClock {
+
+namespace {
+
+int Number(HClockNode &node, Attribute attribute)
+{
+    return node.GetAttributeToInt(Key(attribute));
+}
+
+// In the order in which they are drawn.
+constexpr std::array<RowElement, 5> kDateFirstElements = ElementsIn(kDateFirst);
+constexpr std::array<RowElement, 5> kWeekFirstElements = ElementsIn(kWeekFirst);
+
+using LayOut = void (*)(const DigitalArea &, Rows &);
+constexpr LayOut kLayOutByCount[] = {LayOutOneRow, LayOutTwoRows, LayOutThreeRows, LayOutFourRows,
+                                     LayOutFiveRows};
+
+// The elements side by side around the centre of the area.
+Placements OnOneLine(const DigitalSettings &settings, ElementComposer &elements)
+{
+    const Rows &flags = settings.flags;
+    const int space = settings.space;
+    long long widths = 0;
+    for (const RowElement &row : kDateFirstElements) {
+        if (flags.*row.row != 0)
+            widths += row.Of(elements).Width();
+    }
+    long long x = LineStart(settings.area.width(), space, widths, CountRows(flags));
+    Placements placements;
+    for (const RowElement &row : settings.swap == 0 ? kWeekFirstElements : kDateFirstElements) {
+        if (flags.*row.row != 1)
+            continue;
+        const Element &element = row.Of(elements);
+        placements.Add(element,
+                       {ClampPosition(x), settings.area.height() / 2 - element.Height() / 2});
+        x += static_cast<long long>(element.Width()) + space;
+    }
+    return placements;
+}
+
+// The elements one above the other, each centred, at the tops worked out before.
+Placements InRows(const DigitalSettings &settings, ElementComposer &elements, const Rows &tops)
+{
+    Placements placements;
+    for (const RowElement &row : kDateFirstElements) {
+        if (settings.flags.*row.row != 1)
+            continue;
+        const Element &element = row.Of(elements);
+        placements.Add(element, {settings.area.width() / 2 - element.Width() / 2, tops.*row.row});
+    }
+    return placements;
+}
+
+} // namespace
+
+DigitalSettings::DigitalSettings(HClockNode &node)
+    : area(node.Size()), space(Number(node, Attribute::DigitalSpace)), swap(node.DigitalSwapArea()),
+      onOneLine(Number(node, Attribute::DigitalDisplayMode) != 0)
+{
+    flags.topText = node.Digital_TopText_d();
+    flags.date = node.Digital_Date_d();
+    flags.week = node.Digital_Week_d();
+    flags.time = node.Digital_Time_d();
+    flags.lunar = node.Digital_Lunar_d();
+}
+
+void LayOutDigital(const DigitalSettings &settings, int count, int space, ElementComposer &elements,
+                   Rows &tops)
+{
+    if (count == 0)
+        return;
+    const ElementComposer::ReadingScope oneReading(elements);
+    // One row and five rows place every row.
+    const Rows &measured = count == 1 || count == 5 ? kEveryRow : settings.flags;
+    kLayOutByCount[count - 1]({settings.area.height(), space, settings.swap, settings.flags,
+                               HeightsOf(elements, measured)},
+                              tops);
+}
+
+Placements PlaceDigital(const DigitalSettings &settings, ElementComposer &elements,
+                        const Rows &tops)
+{
+    return settings.onOneLine ? OnOneLine(settings, elements) : InRows(settings, elements, tops);
+}
+
+namespace {
+
+struct TextRow
+{
+    Attribute flag;
+    RowElement text;
+};
+
+// In the order of painting.
+constexpr TextRow kTexts[] = {
+    {Attribute::Analog_TopTexy_d, ElementOf(&Rows::topText)},
+    {Attribute::Analog_Date_d, ElementOf(&Rows::date)},
+    {Attribute::Analog_Week_d, ElementOf(&Rows::week)},
+    {Attribute::Analog_Lunar_d, ElementOf(&Rows::lunar)},
+};
+
+} // namespace
+
+void LayOutAnalog(HClockNode &node, ElementComposer &elements, Rows &tops)
+{
+    Rows flags;
+    flags.date = Number(node, Attribute::Analog_Date_d);
+    flags.week = Number(node, Attribute::Analog_Week_d);
+    flags.lunar = Number(node, Attribute::Analog_Lunar_d);
+    // A single row places all three; otherwise a row that does not take part is not measured.
+    Rows measured = CountRows(flags) == 1 ? LowerRows(kEveryRow) : flags;
+    measured.topText = 1;
+    AnalogArea area;
+    area.width = node.Size().width();
+    area.height = node.Size().height();
+    area.space = Number(node, Attribute::AnalogSpace);
+    area.swap = Number(node, Attribute::AnalogSwapArea);
+    area.flags = flags;
+    area.heights = HeightsOf(elements, measured);
+    LayOutAnalogRows(area, tops);
+}
+
+Placements PlaceAnalog(HClockNode &node, ElementComposer &elements, const Rows &tops)
+{
+    const int middle = node.Size().width() / 2;
+    Placements placements;
+    for (const TextRow &row : kTexts) {
+        if (Number(node, row.flag) != 1)
+            continue;
+        const Element &element = row.text.Of(elements);
+        placements.Add(element, QPoint(middle - element.Width() / 2, tops.*row.text.row));
+    }
+    return placements;
+}
+
+} // namespace Lw::HNodeClock
