@@ -1,5 +1,6 @@
 // clock_tool export: a program with its glyph files, ready to be carried away.
 #include "commands.h"
+#include "export_directory.h"
 #include "glyph_export.h"
 #include "tool_arguments.h"
 
@@ -29,32 +30,24 @@ constexpr char kDescription[] =
     "\n"
     "Play it with: clock_player --use-files DIR/program.xml\n"
     "\n"
-    "The directory must be missing, empty, or hold an earlier export. The minus image does not\n"
-    "travel: a date of type 8 has no minus at the player. The pictures of picture clocks are the\n"
-    "player's own.";
+    "The directory must be missing, empty, or hold an earlier export with the program as it was\n"
+    "exported; what an interrupted export left there is removed. One export at a time writes to\n"
+    "it, and never through links within it.\n"
+    "\n"
+    "The minus image does not travel: a date of type 8 has no minus at the player. The pictures "
+    "of\n"
+    "picture clocks are the player's own.";
 
-/// What stands in a directory is only replaced where it is an export.
-MaybeFailure PrepareDirectory(const QString &path, const QString &program)
+/// The program would be replaced by what is made of it.
+MaybeFailure CheckProgramStays(const QString &directory, const QString &program)
 {
-    QDir directory(path);
-    if (!directory.mkpath(QStringLiteral(".")))
-        return Failure {ExitCode::RuntimeFailure,
-                        QStringLiteral("%1: cannot make this directory").arg(path)};
-    const QString there = QFileInfo(directory.filePath(kExportedProgram)).canonicalFilePath();
-    if (!there.isEmpty() && there == QFileInfo(program).canonicalFilePath())
-        return Failure {ExitCode::RuntimeFailure,
-                        QStringLiteral("%1: this is where the program itself stands; export to "
-                                       "another directory")
-                            .arg(path)};
-    const QStringList entries =
-        directory.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    // An export that failed leaves its images only.
-    const bool isFree = entries.isEmpty() || entries == QStringList {kExportedFiles};
-    if (!isFree && !directory.exists(kExportedList))
-        return Failure {
-            ExitCode::RuntimeFailure,
-            QStringLiteral("%1: the directory is neither empty nor an earlier export").arg(path)};
-    return std::nullopt;
+    const QString there = QFileInfo(QDir(directory).filePath(kExportedProgram)).canonicalFilePath();
+    if (there.isEmpty() || there != QFileInfo(program).canonicalFilePath())
+        return std::nullopt;
+    return Failure {ExitCode::RuntimeFailure,
+                    QStringLiteral("%1: the program itself is in this directory; export to "
+                                   "another one")
+                        .arg(directory)};
 }
 
 int DateTypeOf(HClockNode &clock)
@@ -101,7 +94,7 @@ CommandResult RunExport(const QStringList &arguments)
         return Report(*failure);
     const auto &clocks = std::get<ProgramClocks>(read);
     const QString directory = QFileInfo(tool.Positional(1)).absoluteFilePath();
-    if (const MaybeFailure failure = PrepareDirectory(directory, clocks.program.path))
+    if (const MaybeFailure failure = CheckProgramStays(directory, clocks.program.path))
         return Report(*failure);
     SayWhatStaysBehind(clocks);
     const auto progress = [&clocks](int clock) { ShowProgress(clock, clocks.Count()); };

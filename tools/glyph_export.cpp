@@ -1,6 +1,9 @@
 #include "glyph_export.h"
 
+#include "export_directory.h"
 #include "output.h"
+#include "whole_file.h"
+#include "work_directory.h"
 #include "xml_writing.h"
 
 #include "clock_sdk_tables.h"
@@ -13,21 +16,15 @@
 #include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
-#include <QMap>
-#include <QTemporaryDir>
+
+#include <cerrno>
+#include <cstdio>
 
 namespace ClockTool {
 
 namespace {
 
 using namespace Lw::HNodeClock;
-
-/// A file to send.
-struct SentFile
-{
-    QString digest;
-    qint64 size = 0; // bytes
-};
 
 Failure ExportFailure(const QString &text)
 {
@@ -38,24 +35,28 @@ class Exporter
 {
 public:
     Exporter(const ProgramClocks &clocks, const QString &directory)
-        : m_clocks(clocks), m_directory(directory)
+        : m_clocks(clocks), m_directory(directory), m_taken(directory)
     { }
 
     MaybeFailure Run(const ExportProgress &progress)
     {
-        // Within the directory, so that images are moved and not copied.
-        const QTemporaryDir work(m_directory.filePath(QStringLiteral(".glyphs-XXXXXX")));
-        if (!work.isValid() || !m_directory.mkpath(kExportedFiles))
-            return ExportFailure(
-                QStringLiteral("%1: cannot write to this directory").arg(m_directory.path()));
-        Lw::HAppConfig::SetClockOutputPath(work.path());
+        if (const MaybeFailure failure = m_taken.Take())
+            return failure;
+        // Within the directory, so that files are renamed and not copied.
+        WorkDirectory work(m_directory.path(), m_taken.LockPath());
+        if (const MaybeFailure failure = work.Fault())
+            return failure;
+        if (!m_directory.mkpath(kExportedFiles))
+            return ExportFailure(QStringLiteral("%1: cannot make this directory")
+                                     .arg(m_directory.filePath(kExportedFiles)));
+        Lw::HAppConfig::SetClockOutputPath(work.Path());
         BeginProgram();
         for (int i = 0; i < m_clocks.Count() && !m_failure; ++i) {
             progress(i + 1);
             AddArea(i);
         }
         if (!m_failure)
-            WriteProgramAndList();
+            WriteProgramAndList(work);
         return m_failure;
     }
 
@@ -118,33 +119,22 @@ private:
             }
             AddFile(element, image.Key(), path, digest);
         }
-        SayMissing(clock, missing);
+        CheckMissing(clock, missing);
     }
 
-    void SayMissing(HClockNode &clock, QStringList missing)
+    void CheckMissing(HClockNode &clock, QStringList missing)
     {
         if (clock.GetAttribute(TopTextKey(clock)).isEmpty())
             missing.removeAll(GlyphKey(Glyph::TopText));
         if (missing.isEmpty())
             return;
-        if (!HasRoom())
-            m_failure =
-                ExportFailure(QStringLiteral("%1: no room for the images").arg(m_directory.path()));
-        else
-            Say(QStringLiteral("%1: clock %2: no image could be made for %3")
-                    .arg(m_clocks.program.path)
-                    .arg(clock.GetAttributeToInt(Key(Attribute::Id)))
-                    .arg(missing.join(QStringLiteral(", "))));
-    }
-
-    /// The clock does not tell an image that cannot be made from one that could not be written.
-    bool HasRoom() const
-    {
-        constexpr int kProbe = 1 << 20; // bytes
-        const QString path = m_directory.filePath(QStringLiteral(".room"));
-        const bool isWritten = !WriteFile(path, QByteArray(kProbe, ' '));
-        QFile::remove(path);
-        return isWritten;
+        // The clock does not tell an image that cannot be made from one that cannot be written.
+        m_failure = ExportFailure(
+            QStringLiteral("%1: clock %2: images are missing: %3: no room in %4, or the font is "
+                           "too large or not there")
+                .arg(m_clocks.program.path)
+                .arg(clock.GetAttributeToInt(Key(Attribute::Id)))
+                .arg(missing.join(QStringLiteral(", ")), m_directory.path()));
     }
 
     static QString TopTextKey(HClockNode &clock)
@@ -173,24 +163,43 @@ private:
         return element;
     }
 
-    void WriteProgramAndList()
+    void WriteProgramAndList(WorkDirectory &work)
     {
         const QByteArray program = WriteXml(m_program);
         const QByteArray digest = QCryptographicHash::hash(program, QCryptographicHash::Md5);
         m_files.insert(kExportedProgram, {QString::fromLatin1(digest.toHex()), program.size()});
-        QString list = QStringLiteral("path\tmd5\tsize\n");
-        for (auto file = m_files.cbegin(); file != m_files.cend(); ++file)
-            list += QStringLiteral("%1\t%2\t%3\n").arg(file.key(), file->digest).arg(file->size);
-        m_failure = WriteFile(m_directory.filePath(kExportedList), list.toUtf8());
+        m_failure = Stage(work, kExportedProgram, program);
         if (!m_failure)
-            m_failure = WriteFile(m_directory.filePath(kExportedProgram), program);
+            m_failure = Stage(work, kExportedList, ListText(m_files));
+        const auto held = work.HoldSignals();
+        for (const char *const name : {kExportedList, kExportedProgram}) {
+            if (!m_failure)
+                m_failure = Publish(work, name);
+        }
+    }
+
+    static MaybeFailure Stage(const WorkDirectory &work, const char *name,
+                              const QByteArray &contents)
+    {
+        return ClockProgram::WriteFile(work.FilePath(name), contents, ClockProgram::Links::Refuse);
+    }
+
+    MaybeFailure Publish(const WorkDirectory &work, const char *name) const
+    {
+        const QString path = m_directory.filePath(name);
+        if (std::rename(QFile::encodeName(work.FilePath(name)).constData(),
+                        QFile::encodeName(path).constData())
+            == 0)
+            return std::nullopt;
+        return ExportFailure(QStringLiteral("%1: %2").arg(path, qt_error_string(errno)));
     }
 
     const ProgramClocks &m_clocks;
     QDir m_directory;
+    ExportDirectory m_taken;
     QDomDocument m_document;
     QDomElement m_program;
-    QMap<QString, SentFile> m_files; // by path, relative to the directory
+    SentFiles m_files;
     MaybeFailure m_failure;
 };
 

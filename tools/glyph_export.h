@@ -7,17 +7,12 @@
 
 namespace ClockTool {
 
-// What stands in the directory.
-inline constexpr char kExportedProgram[] = "program.xml";
-inline constexpr char kExportedList[] = "files.tsv";
-inline constexpr char kExportedFiles[] = "files";
-
 /// Told before each clock, which counts from 1.
 using ExportProgress = std::function<void(int clock)>;
 
 /// Makes the glyph images of the clocks, moves them under their digests' names into the directory,
 /// and writes the list of files and, last, the program. What an earlier export left there is
-/// replaced only then, so after a failure it is still whole.
+/// replaced only when all of it is on the disk, so after a failure it is still whole.
 MaybeFailure ExportProgram(const ProgramClocks &clocks, const QString &directory,
                            const ExportProgress &progress);
 

@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "output.h"
 #include "tool_arguments.h"
+#include "work_directory.h"
 
 #include "glyph/glyph_set.h"
 #include "glyph/hmd5.h"
@@ -11,7 +12,6 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QImageReader>
-#include <QTemporaryDir>
 #include <QVector>
 
 namespace ClockTool {
@@ -114,10 +114,10 @@ CommandResult RunGlyphs(const QStringList &arguments)
     const Result<ProgramClocks> read = ReadClocks(tool.Positional(0));
     if (const auto *failure = std::get_if<Failure>(&read))
         return Report(*failure);
-    const QTemporaryDir work;
-    if (!work.isValid())
-        return Report({ExitCode::RuntimeFailure, work.errorString()});
-    Lw::HAppConfig::SetClockOutputPath(work.path());
+    const WorkDirectory work;
+    if (const MaybeFailure failure = work.Fault())
+        return Report(*failure);
+    Lw::HAppConfig::SetClockOutputPath(work.Path());
     const auto &clocks = std::get<ProgramClocks>(read);
     Audit audit;
     for (int i = 0; i < clocks.Count(); ++i)

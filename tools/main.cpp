@@ -2,10 +2,9 @@
 #include "commands.h"
 
 #include "command_support.h"
+#include "output.h"
 
 #include <QGuiApplication>
-
-#include <cstdio>
 
 namespace {
 
@@ -66,14 +65,10 @@ void KeepFatalMessages(QtMsgType type, const QMessageLogContext &, const QString
 int Run(const QStringList &arguments)
 {
     const QString first = arguments.value(1);
-    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
-        std::fputs(qPrintable(HelpText()), stdout);
-        return static_cast<int>(ExitCode::Success);
-    }
-    if (first == QLatin1String("--version") || first == QLatin1String("-v")) {
-        std::puts("clock_tool " CLOCK_TOOL_VERSION);
-        return static_cast<int>(ExitCode::Success);
-    }
+    if (first == QLatin1String("--help") || first == QLatin1String("-h"))
+        return static_cast<int>(Deliver(QString(), HelpText().toLocal8Bit()));
+    if (first == QLatin1String("--version") || first == QLatin1String("-v"))
+        return static_cast<int>(Deliver(QString(), "clock_tool " CLOCK_TOOL_VERSION "\n"));
     for (const Command &command : kCommands) {
         if (first == QLatin1String(command.name))
             return static_cast<int>(command.run(arguments));

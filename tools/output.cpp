@@ -1,6 +1,6 @@
 #include "output.h"
 
-#include <QSaveFile>
+#include "whole_file.h"
 
 #include <cstdio>
 #include <fcntl.h>
@@ -8,28 +8,12 @@
 
 namespace ClockTool {
 
-MaybeFailure WriteFile(const QString &path, const QByteArray &contents)
-{
-    QSaveFile file(path);
-    // The flush is asked for by hand: commit() does not look at the bytes that closing the file
-    // still has to write.
-    if (file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush()
-        && file.commit())
-        return std::nullopt;
-    return Failure {ExitCode::RuntimeFailure,
-                    QStringLiteral("%1: %2").arg(path, file.errorString())};
-}
-
 CommandResult Deliver(const QString &path, const QByteArray &contents)
 {
-    if (!path.isEmpty()) {
-        const MaybeFailure failure = WriteFile(path, contents);
-        return failure ? Report(*failure) : ExitCode::Success;
-    }
-    const auto size = static_cast<std::size_t>(contents.size());
-    if (std::fwrite(contents.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0)
-        return ExitCode::Success;
-    return Report({ExitCode::RuntimeFailure, QStringLiteral("cannot write to standard output")});
+    using namespace ClockProgram;
+    const MaybeFailure failure =
+        path.isEmpty() ? WriteStandardOutput(contents) : WriteFile(path, contents, Links::Follow);
+    return failure ? Report(*failure) : ExitCode::Success;
 }
 
 QuietOutput::QuietOutput()

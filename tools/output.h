@@ -7,11 +7,8 @@
 
 namespace ClockTool {
 
-/// Writes a file whole or not at all: what stood under its name stays until the new one is
-/// complete.
-MaybeFailure WriteFile(const QString &path, const QByteArray &contents);
-
 /// Writes a result to a file, or to standard output where the path is empty, and says what failed.
+/// Links are followed.
 CommandResult Deliver(const QString &path, const QByteArray &contents);
 
 /// While it lives, what the clocks print about their files goes nowhere, so that standard output

@@ -3,8 +3,7 @@
 #include "output.h"
 #include "self_test/checks.h"
 #include "tool_arguments.h"
-
-#include <QTemporaryDir>
+#include "work_directory.h"
 
 #include <cstdio>
 
@@ -55,9 +54,13 @@ CommandResult RunSelfTest(const QStringList &arguments)
     ToolArguments tool(QStringLiteral("self-test"), QString::fromLatin1(kDescription));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
-    const QTemporaryDir work; // without one, the frames have no images and say so
+    const WorkDirectory work; // without one, the frames have no images and say so
     const bool isWell[] = {Tell(CheckCalendars()), Tell(CheckDaylightSaving()),
-                           Tell(CheckFrames(work.isValid() ? work.path() : QString()))};
+                           Tell(CheckFrames(work.Fault() ? QString() : work.Path()))};
+    // The results are printed as they come; a full device keeps some of them.
+    if (std::ferror(stdout) != 0)
+        return Report(
+            {ExitCode::RuntimeFailure, QStringLiteral("cannot write to standard output")});
     for (const bool well : isWell) {
         if (!well)
             return ExitCode::RuntimeFailure;

@@ -2,8 +2,7 @@
 
 #include "catalogues.h"
 #include "command_support.h"
-
-#include <cstdio>
+#include "output.h"
 
 namespace ClockTool {
 
@@ -55,13 +54,10 @@ std::optional<CommandResult> ToolArguments::Parse(const QStringList &arguments)
     if (IsSet(QLatin1String(kHelp))) {
         const QString usage = QStringLiteral("clock_tool %1 [options] %2")
                                   .arg(m_name, m_positionals.join(QLatin1Char(' ')));
-        std::fputs(qPrintable(HelpText(m_parser, usage.trimmed())), stdout);
-        return ExitCode::Success;
+        return Deliver(QString(), HelpText(m_parser, usage.trimmed()).toLocal8Bit());
     }
-    if (IsSet(QLatin1String(kVersion))) {
-        std::puts("clock_tool " CLOCK_TOOL_VERSION);
-        return ExitCode::Success;
-    }
+    if (IsSet(QLatin1String(kVersion)))
+        return Deliver(QString(), "clock_tool " CLOCK_TOOL_VERSION "\n");
     if (const MaybeFailure failure = CheckGiven())
         return Report(*failure);
     return std::nullopt;

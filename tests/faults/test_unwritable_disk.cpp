@@ -4,52 +4,19 @@
 #include "fault_support.h"
 #include "file_size_limit.h"
 #include "node/node_test_support.h"
+#include "small_disk.h"
 #include "without_privileges.h"
 
 #include <QDir>
 
 #include <optional>
 
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 
 using namespace FaultSupport;
 using namespace Lw::HNodeClock;
 
 namespace {
-
-/// A file system of its own with room for so many pages, on a directory, where that is allowed. No
-/// other process sees it, and it goes with this one.
-class SmallDisk
-{
-public:
-    SmallDisk(const QString &directory, int pages) : m_directory(QFile::encodeName(directory))
-    {
-        static const bool ownMounts = unshare(CLONE_NEWNS) == 0
-            && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-        const QByteArray size = "mode=0777,size=" + QByteArray::number(pages * 4096);
-        m_mounted =
-            ownMounts && mount("none", m_directory.constData(), "tmpfs", 0, size.constData()) == 0;
-    }
-    ~SmallDisk()
-    {
-        if (m_mounted)
-            umount2(m_directory.constData(), MNT_DETACH);
-    }
-    Q_DISABLE_COPY(SmallDisk)
-
-    bool IsThere() const { return m_mounted; }
-    bool MakeReadOnly() const
-    {
-        return mount("none", m_directory.constData(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr)
-            == 0;
-    }
-
-private:
-    QByteArray m_directory;
-    bool m_mounted;
-};
 
 using Files = QMap<QString, QByteArray>;
 

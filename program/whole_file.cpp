@@ -1,0 +1,123 @@
+#include "whole_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cerrno>
+#include <cstdio>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ClockProgram {
+
+namespace {
+
+constexpr int kMostLinks = 40; // as many as the system follows
+
+Failure WriteFailure(const QString &path, const QString &reason)
+{
+    return {ExitCode::RuntimeFailure, QStringLiteral("%1: %2").arg(path, reason)};
+}
+
+QString LastError()
+{
+    return qt_error_string(errno);
+}
+
+bool WriteAll(int file, const QByteArray &contents)
+{
+    for (int at = 0; at < contents.size();) {
+        const auto rest = static_cast<std::size_t>(contents.size() - at);
+        const ssize_t written = write(file, contents.constData() + at, rest);
+        if (written < 0 && errno != EINTR)
+            return false;
+        at += static_cast<int>(qMax<ssize_t>(written, 0));
+    }
+    return true;
+}
+
+/// File systems that cannot synchronise refuse with EINVAL; their data is as safe as it gets.
+bool IsOnDisk(int file)
+{
+    return fsync(file) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS;
+}
+
+/// What a chain of links names, whether or not it exists; null where the chain does not end.
+QString EndOfLinks(QString path)
+{
+    for (int followed = 0; followed < kMostLinks; ++followed) {
+        const QFileInfo entry(path);
+        if (!entry.isSymLink())
+            return path;
+        path = entry.symLinkTarget();
+    }
+    return QString();
+}
+
+MaybeFailure Replace(const QString &path, const QByteArray &contents)
+{
+    const QString target = EndOfLinks(path);
+    if (target.isNull())
+        return WriteFailure(path, qt_error_string(ELOOP));
+    QSaveFile file(target);
+    // commit() ignores what flushing and synchronising report.
+    if (!file.open(QFile::WriteOnly) || file.write(contents) != contents.size() || !file.flush())
+        return WriteFailure(path, file.errorString());
+    if (!IsOnDisk(file.handle()))
+        return WriteFailure(path, LastError());
+    if (!file.commit())
+        return WriteFailure(path, file.errorString());
+    return std::nullopt;
+}
+
+MaybeFailure WriteDirectly(const QString &path, const QByteArray &contents)
+{
+    const int file =
+        open(QFile::encodeName(path).constData(), O_WRONLY | O_TRUNC | O_NOCTTY | O_CLOEXEC);
+    if (file < 0)
+        return WriteFailure(path, LastError());
+    const bool isWritten = WriteAll(file, contents) && IsOnDisk(file);
+    const QString reason = LastError();
+    const bool isClosed = close(file) == 0;
+    if (!isWritten)
+        return WriteFailure(path, reason);
+    return isClosed ? std::nullopt : MaybeFailure(WriteFailure(path, LastError()));
+}
+
+/// By /dev/stdout, for instance. Opened by that name a socket would refuse, and a file would lose
+/// what was written to it before.
+bool IsStandardOutput(const struct stat &status)
+{
+    struct stat output = {};
+    return fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == status.st_dev
+        && output.st_ino == status.st_ino;
+}
+
+} // namespace
+
+MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Links links)
+{
+    if (links == Links::Refuse && QFileInfo(path).isSymLink())
+        return WriteFailure(path, QStringLiteral("this is a link; it is not written through"));
+    struct stat status = {};
+    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+        return Replace(path, contents);
+    if (IsStandardOutput(status))
+        return WriteStandardOutput(contents);
+    // A file that is open but has no name any more is found by /dev/fd only.
+    const bool hasName = QFileInfo::exists(EndOfLinks(path));
+    return S_ISREG(status.st_mode) && hasName ? Replace(path, contents)
+                                              : WriteDirectly(path, contents);
+}
+
+MaybeFailure WriteStandardOutput(const QByteArray &contents)
+{
+    if (std::fflush(stdout) == 0 && WriteAll(STDOUT_FILENO, contents))
+        return std::nullopt;
+    return WriteFailure(QStringLiteral("cannot write to standard output"), LastError());
+}
+
+} // namespace ClockProgram

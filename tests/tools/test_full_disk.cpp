@@ -1,0 +1,216 @@
+// Results on disks of every size, from none to enough, and with every number of free inodes:
+// success means that all of it is there, whole; failure is told, and what was there before stays.
+#include "exported_files.h"
+#include "small_disk.h"
+#include "tool_process.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <functional>
+
+#include <sys/statvfs.h>
+
+namespace {
+
+enum class Limit { Pages, Inodes };
+
+constexpr int kPlenty = 10000;
+constexpr int kSuccesses = 3; // one after another: it was enough
+
+int UsedPages(const QString &directory)
+{
+    struct statvfs status = {};
+    statvfs(QFile::encodeName(directory).constData(), &status);
+    return static_cast<int>((status.f_blocks - status.f_bfree) * status.f_frsize
+                            / SmallDisk::kPage);
+}
+
+int UsedInodes(const QString &directory)
+{
+    struct statvfs status = {};
+    statvfs(QFile::encodeName(directory).constData(), &status);
+    return static_cast<int>(status.f_files - status.f_ffree);
+}
+
+/// What a run on a disk came to.
+struct Attempt
+{
+    bool succeeded = false;
+    QString fault; ///< that success or failure is not what it should be
+};
+
+QString NothingOnFailure(const ProcessRun &run)
+{
+    if (run.exitCode != 1)
+        return QStringLiteral("exit code %1").arg(run.exitCode);
+    return run.errors.isEmpty() ? QStringLiteral("failed without a word") : QString();
+}
+
+} // namespace
+
+class TestFullDisk : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void Export_data() { AddLimits(); }
+    void Export();
+    void ExportAgain_data() { AddLimits(); }
+    void ExportAgain();
+    void Lists_data();
+    void Lists();
+    void ReadOnlyDisk();
+
+private:
+    static void AddLimits();
+    QString Disk() const { return m_directory->filePath("disk"); }
+    QString Roomy(const QString &name) const { return m_directory->filePath(name); }
+    ProcessRun Export(const QByteArray &title, const QString &out) const;
+    Attempt TryExport(const Entries &expected, const Entries &before) const;
+    /// What is wrong at the first size at which something is.
+    QString Sweep(Limit limit, const std::function<void()> &prepare,
+                  const std::function<Attempt()> &attempt) const;
+
+    QScopedPointer<QTemporaryDir> m_directory;
+};
+
+void TestFullDisk::init()
+{
+    m_directory.reset(new QTemporaryDir);
+    QVERIFY(QDir(m_directory->path()).mkdir("disk"));
+    if (!SmallDisk(Disk(), 1).IsThere())
+        QSKIP("needs the right to mount");
+}
+
+void TestFullDisk::AddLimits()
+{
+    QTest::addColumn<int>("limit");
+    QTest::newRow("pages") << int(Limit::Pages);
+    QTest::newRow("inodes") << int(Limit::Inodes);
+}
+
+QString TestFullDisk::Sweep(Limit limit, const std::function<void()> &prepare,
+                            const std::function<Attempt()> &attempt) const
+{
+    int inARow = 0;
+    int failures = 0;
+    for (int room = 0; inARow < kSuccesses; ++room) {
+        const SmallDisk disk(Disk(), kPlenty, kPlenty);
+        prepare();
+        const int pages = limit == Limit::Pages ? UsedPages(Disk()) + room : kPlenty;
+        const int inodes = limit == Limit::Inodes ? UsedInodes(Disk()) + room : kPlenty;
+        if (room > kPlenty || !disk.Resize(pages, inodes))
+            return QStringLiteral("no disk with room for %1").arg(room);
+        const Attempt result = attempt();
+        if (!result.fault.isEmpty())
+            return QStringLiteral("room for %1: %2").arg(room).arg(result.fault);
+        inARow = result.succeeded ? inARow + 1 : 0;
+        failures += result.succeeded ? 0 : 1;
+    }
+    return failures > 0 ? QString() : QStringLiteral("it was never too small");
+}
+
+ProcessRun TestFullDisk::Export(const QByteArray &title, const QString &out) const
+{
+    const QString program = Roomy("in.xml");
+    WriteText(program,
+              ProgramOf("<clock type='digital'><attribute key='Id' value='7'/><title value='"
+                        + title + "' display='true'/></clock>"));
+    return RunTool({"export", program, out, "--language", "en"});
+}
+
+Attempt TestFullDisk::TryExport(const Entries &expected, const Entries &before) const
+{
+    const ProcessRun run = Export("second", Disk());
+    Entries entries = EntriesIn(Disk());
+    if (run.exitCode == 0) {
+        for (const QString &path : before.keys()) {
+            if (!expected.contains(path))
+                entries.remove(path); // images of the earlier program only
+        }
+        return {true, entries == expected ? QString() : QStringLiteral("not whole")};
+    }
+    for (const QString &path : entries.keys()) {
+        if (path.contains(".glyphs") || path.contains(".lock"))
+            return {false, path + QStringLiteral(" is left")};
+    }
+    for (const QString &path : before.keys()) {
+        if (entries.value(path) != before[path])
+            return {false, path + QStringLiteral(" was lost")};
+    }
+    return {false, NothingOnFailure(run)};
+}
+
+void TestFullDisk::Export()
+{
+    QFETCH(int, limit);
+    QCOMPARE(Export("second", Roomy("whole")).exitCode, 0);
+    const Entries expected = EntriesIn(Roomy("whole"));
+    const QString fault = Sweep(
+        Limit(limit), [] {}, [&] { return TryExport(expected, {}); });
+    QVERIFY2(fault.isEmpty(), qPrintable(fault));
+}
+
+void TestFullDisk::ExportAgain()
+{
+    QFETCH(int, limit);
+    QCOMPARE(Export("second", Roomy("whole")).exitCode, 0);
+    const Entries expected = EntriesIn(Roomy("whole"));
+    Entries before;
+    const auto prepare = [&] {
+        Export("first", Disk());
+        before = EntriesIn(Disk());
+    };
+    const QString fault = Sweep(Limit(limit), prepare, [&] { return TryExport(expected, before); });
+    QVERIFY2(fault.isEmpty(), qPrintable(fault));
+}
+
+void TestFullDisk::Lists_data()
+{
+    const QString program = InTree("examples/six_clocks.xml");
+    QTest::addColumn<QStringList>("command");
+    QTest::newRow("attributes") << QStringList {"attributes"};
+    QTest::newRow("glyphs") << QStringList {"glyphs", program};
+    QTest::newRow("import") << QStringList {"import", InTree("examples/station.xml")};
+    QTest::newRow("sdk") << QStringList {"sdk", program};
+    QTest::newRow("zone") << QStringList {"zone", "Asia/Tokyo"};
+}
+
+// Over a file that exists, which stays whole.
+void TestFullDisk::Lists()
+{
+    QFETCH(QStringList, command);
+    const QByteArray expected = RunTool(command).output.toUtf8();
+    const QString path = Disk() + "/list";
+    const auto attempt = [&] {
+        const ProcessRun run = RunTool(command + QStringList {"-o", path});
+        const QByteArray contents = ReadText(path);
+        if (run.exitCode == 0)
+            return Attempt {true, contents == expected ? QString() : QStringLiteral("not whole")};
+        if (contents != "old" || EntriesIn(Disk()).size() != 1)
+            return Attempt {false, QStringLiteral("the old list was lost")};
+        return Attempt {false, NothingOnFailure(run)};
+    };
+    for (const Limit limit : {Limit::Pages, Limit::Inodes}) {
+        const QString fault = Sweep(
+            limit, [&] { WriteText(path, "old"); }, attempt);
+        QVERIFY2(fault.isEmpty(), qPrintable(fault));
+    }
+}
+
+void TestFullDisk::ReadOnlyDisk()
+{
+    const SmallDisk disk(Disk(), kPlenty);
+    const QString path = Disk() + "/list";
+    QVERIFY(WriteText(path, "old"));
+    QVERIFY(disk.MakeReadOnly());
+    const ProcessRun run = RunTool({"attributes", "-o", path});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains("/list: "), qPrintable(run.errors));
+    QCOMPARE(ReadText(path), QByteArray("old"));
+}
+
+QTEST_GUILESS_MAIN(TestFullDisk)
+#include "test_full_disk.moc"

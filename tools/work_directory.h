@@ -1,0 +1,47 @@
+// Where a command keeps files while it runs.
+#pragma once
+
+#include "commands.h"
+
+#include <QTemporaryDir>
+
+#include <mutex>
+#include <thread>
+
+namespace ClockTool {
+
+/// A temporary directory that goes with this object, and also where SIGINT, SIGTERM or SIGHUP ends
+/// the process. There may be one at a time.
+class WorkDirectory
+{
+public:
+    /// In TMPDIR, or within a directory, under a hidden name that WorkDirectory::IsName() knows.
+    explicit WorkDirectory(const QString &parent = QString());
+    /// The same, and a signal removes this file as well.
+    WorkDirectory(const QString &parent, const QString &file);
+    ~WorkDirectory();
+    WorkDirectory(const WorkDirectory &) = delete;
+    WorkDirectory &operator=(const WorkDirectory &) = delete;
+
+    MaybeFailure Fault() const; ///< why there is none, with the parent's path
+    QString Path() const { return m_directory.path(); }
+    QString FilePath(const QString &name) const { return m_directory.filePath(name); }
+
+    /// A signal waits while the lock is held.
+    std::unique_lock<std::mutex> HoldSignals() { return std::unique_lock(m_ending); }
+
+    /// Whether an entry of a directory has the name of a work directory within it.
+    static bool IsName(const QString &name);
+
+private:
+    void EndAtSignal();
+
+    QString m_parent;
+    QString m_file;
+    QTemporaryDir m_directory;
+    int m_ends[2] = {-1, -1}; // of the pipe that signals are written to
+    std::mutex m_ending;
+    std::thread m_watcher;
+};
+
+} // namespace ClockTool
