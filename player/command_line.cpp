@@ -10,6 +10,9 @@
 
 namespace ClockPlayer {
 
+using namespace ClockProgram;
+using namespace ClockStage;
+
 namespace {
 
 /// Checks what the options say, one after the other; the first thing wrong is kept.

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "failure.h"
-#include "program_names.h"
 
 #include <QString>
 #include <QStringList>
@@ -44,7 +43,7 @@ struct Information
     QString text;
 };
 
-using CommandLine = std::variant<Options, Information, Failure>;
+using CommandLine = std::variant<Options, Information, ClockProgram::Failure>;
 
 /// Reads the arguments, the program's own name first. Needs an application object.
 CommandLine ParseCommandLine(const QStringList &arguments);

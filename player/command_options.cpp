@@ -3,13 +3,15 @@
 #include "command_line.h"
 #include "controls.h"
 #include "led_screen.h"
-#include "program_names.h"
 
 #include "command_support.h"
 
 #include <QCommandLineParser>
 
 namespace ClockPlayer {
+
+using namespace ClockProgram;
+using namespace ClockStage;
 
 namespace {
 

@@ -7,6 +7,8 @@
 
 namespace ClockPlayer {
 
+using namespace ClockStage;
+
 namespace {
 
 constexpr qint64 kSecond = 1000;

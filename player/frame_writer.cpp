@@ -3,14 +3,17 @@
 #include "deadline_meter.h"
 #include "instant.h"
 #include "led_screen.h"
-#include "player_time.h"
 #include "screen_composer.h"
 #include "stage.h"
+#include "time_travel.h"
 
 #include <QDir>
 #include <QSaveFile>
 
 namespace ClockPlayer {
+
+using namespace ClockProgram;
+using namespace ClockStage;
 
 namespace {
 
@@ -47,15 +50,15 @@ qint64 InstantOfFrame(int number, const FrameRun &run)
 /// The picture of a frame, drawn now.
 QImage DrawFrame(Stage &stage, int number, const FrameRun &run)
 {
-    const double begun = PlayerTime::Steady();
-    PlayerTime::HoldAt(InstantOfFrame(number, run));
+    const double begun = StageTime::Steady();
+    StageTime::HoldAt(InstantOfFrame(number, run));
     if (number == 1)
         stage.Start();
     else
         stage.PlayNext();
     const QImage frame = Enlarged(stage.Screen(), run);
     if (run.meter)
-        run.meter->Drew(PlayerTime::Steady() - begun);
+        run.meter->Drew(StageTime::Steady() - begun);
     return frame;
 }
 

@@ -2,14 +2,16 @@
 #pragma once
 
 #include "failure.h"
-#include "program_names.h"
 
 #include <functional>
+
+namespace ClockStage {
+class Stage;
+}
 
 namespace ClockPlayer {
 
 class DeadlineMeter;
-class Stage;
 
 struct FrameRun
 {
@@ -23,9 +25,9 @@ struct FrameRun
     std::function<bool()> isEnded;  ///< asked after each frame; true ends the run early
 };
 
-/// Starts the stage and writes its frames. The plugins must take their time from PlayerTime, and
+/// Starts the stage and writes its frames. The plugins must take their time from StageTime, and
 /// the waits of the host's player must be off.
-MaybeFailure WriteFrames(Stage &stage, const FrameRun &run);
+ClockProgram::MaybeFailure WriteFrames(ClockStage::Stage &stage, const FrameRun &run);
 
 /// The file name of a frame, counted from 1. Names of one run sort in the order of the frames.
 QString FrameName(int number, int count);

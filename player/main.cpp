@@ -11,6 +11,7 @@
 namespace {
 
 using namespace ClockPlayer;
+using namespace ClockProgram;
 
 void Say(const QString &text)
 {

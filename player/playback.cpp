@@ -1,13 +1,14 @@
 #include "playback.h"
 
-#include "player_time.h"
 #include "player_window.h"
 #include "stage.h"
-#include "status_text.h"
+#include "time_travel.h"
 
 #include "pictureplayer.h"
 
 namespace ClockPlayer {
+
+using namespace ClockStage;
 
 namespace {
 
@@ -30,7 +31,7 @@ Playback::Playback(Stage &stage, PlayerWindow &window, Travelling travelling)
 
 void Playback::Start()
 {
-    const TimeTravel &travel = PlayerTime::Travel();
+    const TimeTravel &travel = StageTime::Travel();
     Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
     m_stage.Start();
     ShowStatus();
@@ -66,8 +67,8 @@ void Playback::Obey(const Command &command)
 
 void Playback::Travel(const Command &command)
 {
-    TimeTravel &travel = PlayerTime::Travel();
-    const RealTime real = PlayerTime::Real();
+    TimeTravel &travel = StageTime::Travel();
+    const RealTime real = StageTime::Real();
     if (command.control == Control::Pause)
         travel.SetPaused(!travel.IsPaused(), real);
     else if (command.control == Control::Step)
@@ -81,7 +82,7 @@ void Playback::Travel(const Command &command)
 // for nothing.
 void Playback::ShowTravelledTime()
 {
-    const TimeTravel &travel = PlayerTime::Travel();
+    const TimeTravel &travel = StageTime::Travel();
     m_meter.Jumped();
     m_drawn.reset();
     Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
@@ -91,7 +92,7 @@ void Playback::ShowTravelledTime()
 // What waits for the end of a second would show the old time until then.
 void Playback::FollowSteppedClock()
 {
-    if (PlayerTime::Travel().IsPresent())
+    if (StageTime::Travel().IsPresent())
         m_stage.PlayNext();
 }
 
@@ -100,7 +101,7 @@ void Playback::NotePicture()
 {
     if (!m_status.isActive())
         m_status.start();
-    const std::optional<PlayerTime::Reading> reading = PlayerTime::TakeReading();
+    const std::optional<StageTime::Reading> reading = StageTime::TakeReading();
     if (!m_window.isExposed()) {
         m_meter.Jumped();
         m_drawn.reset();
@@ -112,16 +113,16 @@ void Playback::NotePicture()
         m_drawn = SeenFrame();
         m_drawn->instant = reading->instant;
         m_drawn->begun = reading->steady;
-        m_drawn->speed = PlayerTime::Travel().Speed();
+        m_drawn->speed = StageTime::Travel().Speed();
     }
-    m_drawn->drawing += PlayerTime::Steady() - reading->steady;
+    m_drawn->drawing += StageTime::Steady() - reading->steady;
 }
 
 void Playback::NotePaint(double begun)
 {
     if (!m_drawn)
         return;
-    m_drawn->seen = PlayerTime::Steady();
+    m_drawn->seen = StageTime::Steady();
     m_drawn->drawing += m_drawn->seen - begun;
     m_meter.Saw(*m_drawn);
     m_drawn.reset();
@@ -143,10 +144,10 @@ void Playback::ShowStatus()
 
 QString Playback::Status() const
 {
-    const TimeTravel &travel = PlayerTime::Travel();
+    const TimeTravel &travel = StageTime::Travel();
     const QVector<ClockSettings> clocks = Clocks();
-    ClockPlayer::Status status;
-    status.instant = PlayerTime::Instant();
+    ClockStage::Status status;
+    status.instant = StageTime::Shown();
     status.paused = travel.IsPaused();
     status.speed = travel.Speed();
     if (!clocks.isEmpty()) {

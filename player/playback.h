@@ -2,20 +2,24 @@
 // and every frame is measured.
 #pragma once
 
-#include "clock_settings.h"
-#include "clock_steps.h"
 #include "controls.h"
 #include "deadline_meter.h"
+
+#include "clock_status.h"
+#include "time_travel.h"
 
 #include <QObject>
 #include <QTimer>
 
 #include <optional>
 
+namespace ClockStage {
+class Stage;
+}
+
 namespace ClockPlayer {
 
 class PlayerWindow;
-class Stage;
 
 /// Stage and window must outlive it.
 class Playback : public QObject
@@ -25,7 +29,7 @@ class Playback : public QObject
 public:
     enum class Travelling { Possible, Impossible }; ///< the plugins take the time from the player
 
-    Playback(Stage &stage, PlayerWindow &window, Travelling travelling);
+    Playback(ClockStage::Stage &stage, PlayerWindow &window, Travelling travelling);
 
     /// Shows the first pictures; the player's time is as it should begin.
     void Start();
@@ -43,15 +47,15 @@ private:
     void NotePaint(double begun);
     void ShowStatus();
     QString Status() const;
-    QVector<ClockSettings> Clocks() const;
+    QVector<ClockStage::ClockSettings> Clocks() const;
 
-    Stage &m_stage;
+    ClockStage::Stage &m_stage;
     PlayerWindow &m_window;
     const bool m_canTravel;
     const QString m_name; ///< the window's first title
     DeadlineMeter m_meter;
     std::optional<SeenFrame> m_drawn; ///< on its way to the display
-    ClockSteps m_clockSteps;
+    ClockStage::ClockSteps m_clockSteps;
     QTimer m_status; ///< gathers the pictures of all areas
     int m_clock = 0; ///< that the status tells of
     bool m_showsStatus = false;

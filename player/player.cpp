@@ -4,11 +4,11 @@
 #include "frame_writer.h"
 #include "led_screen.h"
 #include "playback.h"
-#include "player_time.h"
 #include "player_window.h"
 #include "plugins.h"
-#include "quit_signals.h"
+#include "process_signals.h"
 #include "stage.h"
+#include "time_travel.h"
 
 #include "catalogues.h"
 #include "happconfig.h"
@@ -23,6 +23,9 @@
 #include <cstdio>
 
 namespace ClockPlayer {
+
+using namespace ClockProgram;
+using namespace ClockStage;
 
 namespace {
 
@@ -48,7 +51,7 @@ MaybeFailure PrepareDirectory(const QString &path)
 // Without a time source in any plugin the clocks can still show the present.
 MaybeFailure InstallTimeSource(const Options &options, Playback::Travelling &travelling)
 {
-    const MaybeFailure failure = SetTimeSource(&PlayerTime::Now);
+    const MaybeFailure failure = SetTimeSource(&StageTime::TellPlugin);
     travelling = failure ? Playback::Travelling::Impossible : Playback::Travelling::Possible;
     const bool isNeeded = options.startInstant || options.speed != 1 || options.WritesFrames();
     return isNeeded ? failure : std::nullopt;
@@ -57,9 +60,9 @@ MaybeFailure InstallTimeSource(const Options &options, Playback::Travelling &tra
 void BeginTravel(const Options &options)
 {
     if (options.startInstant)
-        PlayerTime::RunFrom(*options.startInstant);
+        StageTime::RunFrom(*options.startInstant);
     if (options.speed != 1)
-        PlayerTime::Travel().SetSpeed(options.speed, PlayerTime::Real());
+        StageTime::Travel().SetSpeed(options.speed, StageTime::Real());
 }
 
 void PrintStats(const DeadlineMeter &meter, const Warn &warn)
@@ -113,7 +116,7 @@ MaybeFailure PlayToFiles(Stage &stage, const Options &options, const Warn &warn)
     run.ledPitch = options.ledPitch;
     run.speed = options.speed;
     run.meter = &meter;
-    run.start = options.startInstant.value_or(PlayerTime::Instant());
+    run.start = options.startInstant.value_or(StageTime::Shown());
     run.isEnded = [] {
         QCoreApplication::processEvents();
         return QuitSignals::IsRequested();
@@ -155,8 +158,8 @@ MaybeFailure Play(const Options &options, const Program &program, const Warn &wa
     Lw::HAppConfig::SetClockOutputPath(QFileInfo(files).absoluteFilePath());
 
     Stage stage;
-    const MaybeFailure failure =
-        stage.Build(program, options.usesFiles ? GlyphFiles::Carried : GlyphFiles::Made);
+    const MaybeFailure failure = stage.Build(
+        program, LoadedPlugins(), options.usesFiles ? GlyphFiles::Carried : GlyphFiles::Made);
     warnings += stage.Warnings();
     for (const QString &warning : qAsConst(warnings))
         warn(warning);

@@ -4,7 +4,6 @@
 #include "command_line.h"
 #include "failure.h"
 #include "program_file.h"
-#include "program_names.h"
 
 #include <functional>
 
@@ -15,6 +14,7 @@ using Warn = std::function<void(const QString &)>;
 
 /// Plays on the display until the window is closed or the process is asked to end; or writes the
 /// frames. Needs a QGuiApplication.
-MaybeFailure Play(const Options &options, const Program &program, const Warn &warn);
+ClockProgram::MaybeFailure Play(const Options &options, const ClockProgram::Program &program,
+                                const Warn &warn);
 
 } // namespace ClockPlayer

@@ -1,15 +1,50 @@
 #include "player_window.h"
 
-#include "overlay.h"
-#include "player_time.h"
 #include "screen_composer.h"
 #include "stage.h"
+#include "time_travel.h"
 
+#include <QFont>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
 namespace ClockPlayer {
+
+using namespace ClockStage;
+
+namespace {
+
+constexpr int kFontPixels = 13;
+constexpr int kMargin = 4;
+constexpr int kFlags = Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap;
+const QColor kPaper(0, 0, 0, 200);
+const QColor kInk(255, 255, 255);
+
+QFont OverlayFont()
+{
+    QFont font(QStringLiteral("DejaVu Sans Mono"));
+    font.setStyleHint(QFont::TypeWriter);
+    font.setPixelSize(kFontPixels);
+    return font;
+}
+
+// At the bottom of the window, wrapped to its width; what does not fit is cut at the end.
+void PaintOverlay(QPainter &painter, QSize window, const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    painter.setFont(OverlayFont());
+    const QRect room = QRect(QPoint(0, 0), window).adjusted(kMargin, kMargin, -kMargin, -kMargin);
+    QRect lines = painter.boundingRect(room, kFlags, text);
+    lines.moveTop(qMax(room.top(), room.bottom() + 1 - lines.height()));
+    const QRect paper(0, lines.top() - kMargin, window.width(), window.height());
+    painter.fillRect(paper, kPaper);
+    painter.setPen(kInk);
+    painter.drawText(lines, kFlags, text);
+}
+
+} // namespace
 
 PlayerWindow::PlayerWindow(const Stage &stage, const QString &title,
                            const std::optional<LedScreen> &leds)
@@ -34,7 +69,7 @@ void PlayerWindow::SetOverlay(const QString &text)
 // The base class paints and brings the picture to the display within this event.
 bool PlayerWindow::event(QEvent *event)
 {
-    const double begun = PlayerTime::Steady();
+    const double begun = StageTime::Steady();
     const bool isPaint = event->type() == QEvent::UpdateRequest;
     const bool accepted = QRasterWindow::event(event);
     if (isPaint)

@@ -9,9 +9,11 @@
 
 #include <optional>
 
-namespace ClockPlayer {
-
+namespace ClockStage {
 class Stage;
+}
+
+namespace ClockPlayer {
 
 /// As large as the program's screen, pixel for pixel or diode for pixel. The stage must outlive the
 /// window.
@@ -20,15 +22,15 @@ class PlayerWindow : public QRasterWindow
     Q_OBJECT
 
 public:
-    PlayerWindow(const Stage &stage, const QString &title,
-                 const std::optional<LedScreen> &leds = std::nullopt);
+    PlayerWindow(const ClockStage::Stage &stage, const QString &title,
+                 const std::optional<ClockStage::LedScreen> &leds = std::nullopt);
 
     /// Text over the lower part of the picture; empty for none.
     void SetOverlay(const QString &text);
 
 Q_SIGNALS:
     void Commanded(const ClockPlayer::Command &command);
-    /// What changed is on the display now. Milliseconds of PlayerTime::Steady().
+    /// What changed is on the display now. Milliseconds of StageTime::Steady().
     void Painted(double begun);
 
 protected:
@@ -39,8 +41,8 @@ protected:
 private:
     void PaintScreen(QPainter &painter, const QRect &region);
 
-    const Stage &m_stage;
-    const std::optional<LedScreen> m_leds;
+    const ClockStage::Stage &m_stage;
+    const std::optional<ClockStage::LedScreen> m_leds;
     QImage m_screen;
     QString m_overlay;
 };

@@ -6,6 +6,8 @@
 
 namespace ClockPlayer {
 
+using namespace ClockProgram;
+
 namespace {
 
 const char kTimeSourceSymbol[] = "clock_set_time_source";
@@ -45,6 +47,11 @@ MaybeFailure SetTimeSource(long long (*utcMilliseconds)())
     return Failure {ExitCode::RuntimeFailure,
                     QStringLiteral("the time cannot be chosen: no plugin has the function %1")
                         .arg(QLatin1String(kTimeSourceSymbol))};
+}
+
+PluginFinder LoadedPlugins()
+{
+    return [](QDomElement &element) { return Lw::HPluginManager::instance()->PluginFor(element); };
 }
 
 } // namespace ClockPlayer

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "failure.h"
-#include "program_names.h"
+#include "node_maker.h"
 
 #include <QStringList>
 
@@ -10,9 +10,12 @@ namespace ClockPlayer {
 
 /// Loads all plugins of a directory. Fails when not one could be loaded; files that were refused
 /// beside good ones are reported as warnings.
-MaybeFailure LoadPlugins(const QString &directory, QStringList &warnings);
+ClockProgram::MaybeFailure LoadPlugins(const QString &directory, QStringList &warnings);
 
 /// Gives the plugins that know a time another source of it. Fails when none does.
-MaybeFailure SetTimeSource(long long (*utcMilliseconds)());
+ClockProgram::MaybeFailure SetTimeSource(long long (*utcMilliseconds)());
+
+/// Finds among the loaded plugins the one that claims an element.
+ClockProgram::PluginFinder LoadedPlugins();
 
 } // namespace ClockPlayer

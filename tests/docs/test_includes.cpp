@@ -24,6 +24,7 @@ const QVector<Room> kRooms = {
     {"player/", {"player/"}},
     {"studio/", {"studio/"}},
     {"tools/", {"tools/"}},
+    {"stage/", {"stage/"}},
     {"program/", {"program/"}},
     {"clock_plugin", {"clock_plugin/clock_plugin."}},
     {"clock_render", {"clock_plugin/clock_render."}},
@@ -42,7 +43,8 @@ const QVector<Room> kRooms = {
 // The rooms that see less than every floor below them: the programs that load a plugin, and what
 // is pure.
 const QMap<QString, QStringList> kNarrowRooms = {
-    {"player/", {"program/", "clock_attributes", "calendar/", "host/"}},
+    {"player/", {"stage/", "program/", "calendar/", "host/"}},
+    {"stage/", {"program/", "clock_attributes", "calendar/", "host/"}},
     {"program/", {"host/"}},
     {"clock_attributes", {"image_bounds"}},
     {"calendar/", {"image_bounds"}}, // for clock_export.h
@@ -77,7 +79,7 @@ QString Included(const Sources &sources, const QString &path, const QString &nam
     const QString folder = path.left(path.lastIndexOf('/') + 1);
     for (const QString &root :
          {folder, QString("clock_plugin/"), QString("host/"), QString("program/"),
-          QString("tools/"), QString("studio/"), QString("player/")}) {
+          QString("stage/"), QString("tools/"), QString("studio/"), QString("player/")}) {
         const QString candidate = QDir::cleanPath(root + name);
         if (sources.contains(candidate))
             return candidate;
@@ -118,7 +120,8 @@ QString Text(const QString &path)
 Sources SourcesOfTheTree()
 {
     Sources sources;
-    for (const char *folder : {"player", "studio", "tools", "program", "clock_plugin", "host"}) {
+    for (const char *folder :
+         {"player", "studio", "tools", "stage", "program", "clock_plugin", "host"}) {
         QDirIterator files(QStringLiteral(SOURCE_DIR "/") + folder, {"*.h", "*.cpp"}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
@@ -173,6 +176,10 @@ void TestIncludes::rooms_data()
         "clock_plugin/calendar/a.cpp includes host/hnode.h");
     row("a player that knows the plugin", "player/a.cpp", "\"clock_node.h\"",
         "player/a.cpp includes clock_plugin/clock_node.h");
+    row("a stage that knows its plugin", "stage/a.cpp", "\"clock_node.h\"",
+        "stage/a.cpp includes clock_plugin/clock_node.h");
+    row("a stage that knows the player", "stage/a.cpp", "\"../player/player.h\"",
+        "stage/a.cpp includes player/player.h");
     row("a program that knows the plugin", "program/a.cpp", "\"clock_attributes.h\"",
         "program/a.cpp includes clock_plugin/clock_attributes.h");
     row("nowhere", "program/a.cpp", "\"nowhere.h\"",
@@ -192,6 +199,7 @@ void TestIncludes::rooms()
                      {"clock_plugin/clock_attributes.h", ""},
                      {"clock_plugin/display/row_layout.h", ""},
                      {"tools/tool.h", ""},
+                     {"player/player.h", ""},
                      {"host/hnode.h", ""}};
     sources.insert(path, "#pragma once\n\n#include " + include + " // why\n");
     QCOMPARE(Faults(sources).join('\n'), fault);

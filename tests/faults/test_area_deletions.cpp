@@ -14,6 +14,7 @@
 #include <QtTest>
 
 using namespace ClockPlayer;
+using namespace ClockStage;
 
 namespace {
 

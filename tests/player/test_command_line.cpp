@@ -5,6 +5,7 @@
 #include <QtTest>
 
 using namespace ClockPlayer;
+using namespace ClockProgram;
 
 namespace {
 

@@ -1,0 +1,96 @@
+#include "process_signals.h"
+
+#include <QSocketNotifier>
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace ClockPlayer {
+
+namespace {
+
+struct Route
+{
+    std::atomic<bool> hasArrived {false};
+    std::atomic<int> writeEnd {-1};
+};
+
+std::array<Route, NSIG> g_routes;
+
+Route &RouteOf(int number)
+{
+    return g_routes.at(static_cast<std::size_t>(number));
+}
+
+// Only what is safe in a signal handler: the flag, and a byte that wakes the event loop.
+void Note(int number)
+{
+    const int error = errno;
+    Route &route = g_routes[static_cast<std::size_t>(number)];
+    route.hasArrived = true;
+    const char byte = 1;
+    if (::write(route.writeEnd, &byte, 1) < 0)
+        errno = error;
+}
+
+} // namespace
+
+SignalPipe::SignalPipe(std::initializer_list<int> numbers, Times times, QObject *parent)
+    : QObject(parent), m_numbers(numbers)
+{
+    if (::pipe2(m_ends, O_CLOEXEC | O_NONBLOCK) != 0)
+        return;
+    auto *const notifier = new QSocketNotifier(m_ends[0], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, [this] {
+        Empty();
+        emit Received();
+    });
+    struct sigaction action = {};
+    action.sa_handler = Note;
+    action.sa_flags = SA_RESTART;
+    if (times == Times::Once)
+        action.sa_flags |= static_cast<int>(SA_RESETHAND);
+    for (const int number : m_numbers) {
+        RouteOf(number).writeEnd = m_ends[1];
+        ::sigaction(number, &action, nullptr);
+    }
+}
+
+SignalPipe::~SignalPipe()
+{
+    for (const int number : m_numbers) {
+        std::signal(number, SIG_DFL);
+        RouteOf(number).writeEnd = -1;
+    }
+    for (const int end : m_ends)
+        ::close(end);
+}
+
+bool SignalPipe::HasArrived(int number)
+{
+    return RouteOf(number).hasArrived;
+}
+
+void SignalPipe::Empty()
+{
+    char bytes[16];
+    while (::read(m_ends[0], bytes, sizeof bytes) > 0) { }
+}
+
+QuitSignals::QuitSignals(QObject *parent)
+    : QObject(parent), m_pipe({SIGINT, SIGTERM}, SignalPipe::Times::Once)
+{
+    connect(&m_pipe, &SignalPipe::Received, this, &QuitSignals::Requested);
+}
+
+bool QuitSignals::IsRequested()
+{
+    return SignalPipe::HasArrived(SIGINT) || SignalPipe::HasArrived(SIGTERM);
+}
+
+} // namespace ClockPlayer

@@ -1,0 +1,70 @@
+#include "stage.h"
+
+#include "carried_files.h"
+
+namespace ClockStage {
+
+using namespace ClockProgram;
+
+MaybeFailure Stage::Build(const Program &program, const PluginFinder &findPlugin,
+                          GlyphFiles glyphFiles)
+{
+    m_size = program.size;
+    Result<MadeNodes> result = MakeNodes(program, findPlugin);
+    if (const auto *failure = std::get_if<Failure>(&result))
+        return *failure;
+    auto &made = std::get<MadeNodes>(result);
+    m_warnings = made.warnings;
+    if (glyphFiles == GlyphFiles::Carried)
+        m_warnings += ResolveCarriedFiles(program, made);
+    for (MadeNode &node : made.nodes)
+        AddArea(node.plugin, std::move(node.node), glyphFiles);
+    return std::nullopt;
+}
+
+void Stage::AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, GlyphFiles glyphFiles)
+{
+    const auto identifier = static_cast<unsigned int>(m_areas.size() + 1);
+    m_areas.push_back(std::make_unique<Area>(identifier, plugin, std::move(node), glyphFiles));
+    Area *const area = m_areas.back().get();
+    connect(area, &Area::PictureChanged, this, [this, area] { emit Changed(area->Geometry()); });
+}
+
+void Stage::Start()
+{
+    for (const auto &area : m_areas)
+        area->Start();
+}
+
+void Stage::PlayNext()
+{
+    for (const auto &area : m_areas)
+        area->PlayNext();
+}
+
+QVector<Lw::HNode *> Stage::Nodes() const
+{
+    QVector<Lw::HNode *> nodes;
+    for (const auto &area : m_areas) {
+        if (area->Node())
+            nodes.append(area->Node());
+    }
+    return nodes;
+}
+
+QVector<Layer> Stage::Layers() const
+{
+    QVector<Layer> layers;
+    for (const auto &area : m_areas)
+        layers.append(area->Picture());
+    return layers;
+}
+
+QImage Stage::Screen() const
+{
+    QImage screen = BlackScreen(m_size);
+    ComposeScreen(screen, Layers(), screen.rect());
+    return screen;
+}
+
+} // namespace ClockStage

@@ -1,0 +1,48 @@
+// All areas of a program while they play.
+#pragma once
+
+#include "area.h"
+#include "failure.h"
+#include "node_maker.h"
+#include "program_file.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+#include <vector>
+
+namespace ClockStage {
+
+class Stage : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Makes the nodes by the plugins that the finder names; they must outlive the stage. After a
+    /// failure the stage must not be started.
+    ClockProgram::MaybeFailure Build(const ClockProgram::Program &program,
+                                     const ClockProgram::PluginFinder &findPlugin,
+                                     GlyphFiles glyphFiles);
+    QStringList Warnings() const { return m_warnings; }
+    QSize Size() const { return m_size; }
+
+    void Start();    ///< every area shows its first picture
+    void PlayNext(); ///< every area shows its next picture now
+
+    QVector<Lw::HNode *> Nodes() const; ///< those that still live
+    QVector<Layer> Layers() const;
+    QImage Screen() const; ///< the composed screen
+
+Q_SIGNALS:
+    void Changed(QRect region); ///< pixels of the screen that must be composed anew
+
+private:
+    void AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, GlyphFiles glyphFiles);
+
+    QSize m_size;
+    std::vector<std::unique_ptr<Area>> m_areas; ///< in the order of the program
+    QStringList m_warnings;
+};
+
+} // namespace ClockStage

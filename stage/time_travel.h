@@ -1,0 +1,114 @@
+// stage/: the time that the clocks of this process show. It is the system's time until somebody
+// travels to another instant.
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <QtGlobal>
+
+#include <optional>
+
+namespace ClockStage {
+
+/// Both in milliseconds.
+struct RealTime
+{
+    qint64 system = 0; ///< the system's clock since 1970-01-01 UTC; it may be set at any time
+    qint64 steady = 0; ///< a monotonic clock, since an arbitrary moment
+};
+
+// Travel is limited to the years 1 to 9999.
+constexpr qint64 kEarliestInstant = -62135596800000; ///< 0001-01-01T00:00:00Z
+constexpr qint64 kLatestInstant = 253402300799000;   ///< 9999-12-31T23:59:59Z
+
+/// Which instant is shown: the present, or another one that runs at its own speed or is paused.
+/// Pure: the real time is an argument.
+class TimeTravel
+{
+public:
+    /// UTC milliseconds. Away from the present, setting the system's clock has no effect.
+    qint64 Shown(const RealTime &real) const;
+
+    /// Leaves the present for this instant; pause and speed stay as they are.
+    void GoTo(qint64 instant, const RealTime &real);
+    void Step(qint64 milliseconds, const RealTime &real);
+    /// Shown seconds per real second, above 0.
+    void SetSpeed(double speed, const RealTime &real);
+    void SetPaused(bool paused, const RealTime &real);
+    /// Follows the system's clock again, at its speed.
+    void ReturnToPresent();
+
+    bool IsPresent() const { return m_present; }
+    bool IsPaused() const { return m_paused; }
+    double Speed() const { return m_speed; }
+
+private:
+    bool m_present = true;
+    bool m_paused = false;
+    double m_speed = 1;
+    qint64 m_instant = 0; ///< shown when the monotonic clock said m_since
+    qint64 m_since = 0;
+};
+
+/// Pure: tells from readings of both clocks whether the system's clock was set by a tenth of a
+/// second or more since the reading before. Gentle slewing does not count.
+class StepDetector
+{
+public:
+    bool IsStepped(const RealTime &real);
+
+private:
+    std::optional<qint64> m_difference; ///< of the two clocks, milliseconds
+};
+
+/// Tells when the system's clock was set.
+class ClockSteps : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ClockSteps(QObject *parent = nullptr);
+
+Q_SIGNALS:
+    void Stepped();
+
+private:
+    StepDetector m_detector;
+    QTimer m_timer;
+};
+
+/// The shown time. One per process, because a plugin takes its time source as a plain function.
+namespace StageTime {
+
+TimeTravel &Travel();
+
+/// UTC milliseconds that the clocks show now.
+qint64 Shown();
+
+/// Shown() as a time source for plugins; each call is noted for TakeReading().
+long long TellPlugin();
+
+/// One call of TellPlugin().
+struct Reading
+{
+    qint64 instant = 0; ///< UTC milliseconds that the plugin was told
+    double steady = 0;  ///< when: milliseconds of the monotonic clock
+};
+
+/// The last call of TellPlugin(), unless it was taken before. Plugins read the time when they begin
+/// to draw a picture.
+std::optional<Reading> TakeReading();
+
+RealTime Real();
+/// Milliseconds, with fraction, of the clock of RealTime::steady.
+double Steady();
+
+/// Runs from this instant in real time, whatever happens to the system's clock.
+void RunFrom(qint64 utcMilliseconds);
+
+/// Pauses at this instant.
+void HoldAt(qint64 utcMilliseconds);
+
+} // namespace StageTime
+
+} // namespace ClockStage
