@@ -10,49 +10,91 @@
 #include <QFileInfo>
 #include <QHash>
 
+#include <algorithm>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
 namespace ClockProgram {
 
 namespace {
 
-QString DigestOf(const QString &path)
+// Of an image within the plugin's bounds, with 64 bits a pixel and room for what is between them.
+constexpr qint64 kLargestFile = 136LL << 20; // bytes
+
+struct FileCheck
 {
-    QFile file(path);
+    QString fault; ///< what is wrong with the file; empty for nothing
+    qint64 size = 0;
+    QString digest;
+};
+
+/// The digest of so many bytes; empty where there are fewer, or they cannot be read.
+QString DigestOf(QFile &file, qint64 size)
+{
+    constexpr qint64 kBlock = 64 << 10;
     QCryptographicHash hash(QCryptographicHash::Md5);
-    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
-        return {};
+    for (qint64 left = size; left > 0;) {
+        const QByteArray block = file.read(std::min(left, kBlock));
+        if (block.isEmpty())
+            return {};
+        hash.addData(block);
+        left -= block.size();
+    }
     return QString::fromLatin1(hash.result().toHex());
 }
 
+bool IsOrdinary(const struct stat &status)
+{
+    return S_ISREG(status.st_mode);
+}
+
+/// Devices are not even opened. What the name stands for may change in between, so the file is
+/// opened without waiting for a pipe's writer, and is asked again what it is.
+FileCheck CheckFile(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status
+    { };
+    if (name.contains('\0') || stat(name.constData(), &status) != 0)
+        return {QStringLiteral("is missing"), 0, {}};
+    const bool wasOrdinary = IsOrdinary(status);
+    const int descriptor =
+        wasOrdinary ? open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC) : -1;
+    if (wasOrdinary && descriptor < 0)
+        return {QStringLiteral("cannot be read"), 0, {}};
+    QFile file;
+    if (!file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle)
+        || fstat(descriptor, &status) != 0 || !IsOrdinary(status))
+        return {QStringLiteral("is not an ordinary file"), 0, {}};
+    if (status.st_size > kLargestFile)
+        return {QStringLiteral("is larger than %1 bytes").arg(kLargestFile), status.st_size, {}};
+    const QString digest = DigestOf(file, status.st_size);
+    return {digest.isEmpty() ? QStringLiteral("cannot be read") : QString(), status.st_size,
+            digest};
+}
+
 /// Clocks share many of their files; each file is read once.
-class FileCheck
+class FileChecks
 {
 public:
     /// What is wrong with a file; empty when nothing is.
     QString Fault(const QString &path, const Lw::FileRecord &record)
     {
-        const QFileInfo info(path);
-        if (!info.exists())
-            return QStringLiteral("is missing");
-        if (!info.isFile())
-            return QStringLiteral("is not an ordinary file");
-        if (record.size >= 0 && info.size() != record.size)
-            return QStringLiteral("has %1 bytes, expected %2").arg(info.size()).arg(record.size);
-        const QString digest = Digest(path);
-        if (digest.isEmpty())
-            return QStringLiteral("cannot be read");
-        if (digest != record.name)
-            return QStringLiteral("has the digest %1, expected %2").arg(digest, record.name);
+        const auto known = m_checks.constFind(path);
+        const FileCheck check =
+            known != m_checks.constEnd() ? *known : *m_checks.insert(path, CheckFile(path));
+        if (!check.fault.isEmpty())
+            return check.fault;
+        if (record.size >= 0 && check.size != record.size)
+            return QStringLiteral("has %1 bytes, expected %2").arg(check.size).arg(record.size);
+        if (check.digest != record.name)
+            return QStringLiteral("has the digest %1, expected %2").arg(check.digest, record.name);
         return {};
     }
 
 private:
-    QString Digest(const QString &path)
-    {
-        const auto known = m_digests.constFind(path);
-        return known != m_digests.constEnd() ? *known : *m_digests.insert(path, DigestOf(path));
-    }
-
-    QHash<QString, QString> m_digests;
+    QHash<QString, FileCheck> m_checks;
 };
 
 /// Picture clocks have no glyph images; what other elements need is not known here.
@@ -67,7 +109,7 @@ bool NeedsFiles(Lw::HNode &node)
 QStringList ResolveCarriedFiles(const Program &program, MadeNodes &made)
 {
     const QDir directory = QFileInfo(program.path).absoluteDir();
-    FileCheck check;
+    FileChecks check;
     QStringList warnings;
     for (int i = 0; i < program.areas.size(); ++i) {
         Lw::HNode &node = *made.nodes[static_cast<std::size_t>(i)].node;

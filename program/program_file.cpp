@@ -4,6 +4,11 @@ namespace ClockProgram {
 
 namespace {
 
+qint64 PixelsOf(QSize size)
+{
+    return qint64(size.width()) * size.height();
+}
+
 /// Reads the elements of one program; the first thing wrong is kept and ends the reading.
 class ProgramReader
 {
@@ -95,14 +100,36 @@ private:
             m_failure = Failure {ExitCode::ProgramError, AtElement(m_program.path, element, text)};
     }
 
-    static qint64 PixelsOf(QSize size) { return qint64(size.width()) * size.height(); }
-
     Program m_program;
     MaybeFailure m_failure;
     qint64 m_pixels = 0;
 };
 
 } // namespace
+
+qint64 FrameBytes(const Program &program)
+{
+    constexpr int kPixel = 4;   // bytes
+    constexpr int kScreens = 2; // what is composed, and what shows it
+    constexpr int kFrames = 3;  // a renderer's two, and the dial or the pictures that it keeps
+    qint64 pixels = kScreens * PixelsOf(program.size);
+    for (const ProgramArea &area : program.areas)
+        pixels += kFrames * PixelsOf(area.geometry.size());
+    return kPixel * pixels;
+}
+
+MaybeFailure CheckFrameBytes(const Program &program)
+{
+    const qint64 bytes = FrameBytes(program);
+    if (bytes <= kUsualFrameBytes)
+        return std::nullopt;
+    return Failure {ExitCode::ProgramError,
+                    AtElement(program.path, program.document.documentElement(),
+                              QStringLiteral("the frames of screen and areas take %1 MiB, more "
+                                             "than %2")
+                                  .arg((bytes + (1 << 20) - 1) >> 20)
+                                  .arg(kUsualFrameBytes >> 20))};
+}
 
 Result<Program> ReadProgram(const QString &path)
 {

@@ -52,6 +52,15 @@ struct Program
     QDomDocument document; ///< keeps the elements alive
 };
 
+/// Bytes of the frames that playing a program takes: two of the screen, three of each area.
+qint64 FrameBytes(const Program &program);
+
+/// Programs beyond this take more of the device's memory than is meant by most of them.
+constexpr qint64 kUsualFrameBytes = 256LL << 20;
+
+/// A failure with the figure where the frames take more than the usual bytes.
+MaybeFailure CheckFrameBytes(const Program &program);
+
 /// Reads and checks a program; a failure names the file and the line.
 Result<Program> ReadProgram(const QString &path);
 

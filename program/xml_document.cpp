@@ -2,6 +2,8 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
+#include <QTextCodec>
 #include <QXmlStreamReader>
 
 namespace ClockProgram {
@@ -13,30 +15,56 @@ Failure FileFailure(const QString &path, const QString &reason)
     return {ExitCode::ProgramError, QStringLiteral("%1: %2").arg(path, reason)};
 }
 
-Failure SyntaxFailure(const QString &path, qint64 line, qint64 column, const QString &reason)
+Failure TooLarge(const QString &path)
 {
-    return {ExitCode::ProgramError,
-            QStringLiteral("%1:%2:%3: %4")
-                .arg(path, QString::number(line), QString::number(column), reason)};
+    return FileFailure(path, QStringLiteral("larger than %1 bytes").arg(kMaximumFileSize));
 }
 
-/// A document is walked and freed by recursion, so its depth is checked before it is built.
-MaybeFailure CheckSyntax(const QByteArray &contents, const QString &path)
+Failure LineFailure(const QString &path, qint64 line, const QString &reason)
 {
-    QXmlStreamReader reader(contents);
+    return {ExitCode::ProgramError,
+            QStringLiteral("%1:%2: %3").arg(path, QString::number(line), reason)};
+}
+
+/// The name in the XML declaration, which is in ASCII wherever no byte order mark says otherwise.
+QByteArray DeclaredEncoding(const QByteArray &contents)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([A-Za-z0-9._:-]{1,40})[\"']"));
+    return form.match(QString::fromLatin1(contents.left(256))).captured(1).toLatin1();
+}
+
+Result<QString> Decode(const QByteArray &contents, const QString &path)
+{
+    QTextCodec *codec = QTextCodec::codecForUtfText(contents, nullptr);
+    const QByteArray declared = DeclaredEncoding(contents);
+    if (!codec)
+        codec = QTextCodec::codecForName(declared.isEmpty() ? "UTF-8" : declared);
+    if (!codec)
+        return LineFailure(path, 1,
+                           QStringLiteral("the encoding \"%1\" is not known; UTF-8 is")
+                               .arg(QString::fromLatin1(declared)));
+    QTextCodec::ConverterState state;
+    const QString text = codec->toUnicode(contents.constData(), contents.size(), &state);
+    if (state.invalidChars == 0 && state.remainingChars == 0)
+        return text;
+    const int fault = text.indexOf(QChar(QChar::ReplacementCharacter));
+    return LineFailure(
+        path, text.left(fault).count(QLatin1Char('\n')) + 1,
+        QStringLiteral("these bytes are not a text in %1").arg(QString::fromLatin1(codec->name())));
+}
+
+/// What the scan leaves to the parser: names and characters.
+MaybeFailure CheckSyntax(const QString &text, const QString &path)
+{
+    QXmlStreamReader reader(text);
     reader.setNamespaceProcessing(false);
-    int depth = 0;
-    while (!reader.atEnd()) {
+    while (!reader.atEnd())
         reader.readNext();
-        if (reader.isStartElement() && ++depth > kMaximumDepth)
-            reader.raiseError(
-                QStringLiteral("elements are nested more than %1 deep").arg(kMaximumDepth));
-        else if (reader.isEndElement())
-            --depth;
-    }
     if (!reader.hasError())
         return std::nullopt;
-    return SyntaxFailure(path, reader.lineNumber(), reader.columnNumber(), reader.errorString());
+    return LineFailure(path, reader.lineNumber(),
+                       QStringLiteral("is not XML: %1").arg(reader.errorString()));
 }
 
 } // namespace
@@ -50,20 +78,34 @@ Result<QByteArray> ReadContents(const QString &path)
         return FileFailure(path, file.errorString());
     const QByteArray contents = file.read(kMaximumFileSize + 1);
     if (contents.size() > kMaximumFileSize)
-        return FileFailure(path, QStringLiteral("larger than %1 bytes").arg(kMaximumFileSize));
+        return TooLarge(path);
     return contents;
+}
+
+Result<QString> CheckedText(const QByteArray &contents, const QString &path)
+{
+    if (contents.size() > kMaximumFileSize)
+        return TooLarge(path);
+    const Result<QString> text = Decode(contents, path);
+    if (!text)
+        return text.Error();
+    if (const auto fault = ScanXml(*text))
+        return LineFailure(path, fault->line, fault->text);
+    if (const MaybeFailure failure = CheckSyntax(*text, path))
+        return *failure;
+    return text;
 }
 
 Result<QDomDocument> ParseDocument(const QByteArray &contents, const QString &path)
 {
-    if (const MaybeFailure failure = CheckSyntax(contents, path))
-        return *failure;
+    const Result<QString> text = CheckedText(contents, path);
+    if (!text)
+        return text.Error();
     QDomDocument document;
     QString reason;
     int line = 0;
-    int column = 0;
-    if (!document.setContent(contents, false, &reason, &line, &column))
-        return SyntaxFailure(path, line, column, reason);
+    if (!document.setContent(*text, false, &reason, &line))
+        return LineFailure(path, line, QStringLiteral("is not XML: %1").arg(reason));
     return document;
 }
 

@@ -1,7 +1,8 @@
-// XML files from outside, read within limits of size and depth.
+// XML files from outside, read within the bounds of xml_scan.h.
 #pragma once
 
 #include "failure.h"
+#include "xml_scan.h"
 
 #include <QByteArray>
 #include <QDomDocument>
@@ -9,13 +10,14 @@
 
 namespace ClockProgram {
 
-constexpr qint64 kMaximumFileSize = 16LL << 20; ///< bytes
-constexpr int kMaximumDepth = 64;               ///< of elements in elements
-
 /// The bytes of a file; a failure names the file.
 Result<QByteArray> ReadContents(const QString &path);
 
-/// The document in a file's contents. A failure names the path, the line and the column.
+/// The text in a file's contents, in the encoding that it declares, once it is known to be XML
+/// within the bounds and without a document type definition. A failure names the path and the line.
+Result<QString> CheckedText(const QByteArray &contents, const QString &path);
+
+/// The document in a file's contents; a failure likewise.
 Result<QDomDocument> ParseDocument(const QByteArray &contents, const QString &path);
 
 /// "path:line: text", for failures and warnings about an element of a document.

@@ -6,12 +6,14 @@
 
 #include <QBuffer>
 #include <QFile>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QtEndian>
 
 #include <algorithm>
 #include <iterator>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace Lw::HNodeClock {
 
@@ -74,19 +76,29 @@ QImage ReadPng(QIODevice &png)
     return ReadWithinBounds(reader);
 }
 
-bool IsOrdinaryFile(const QString &path)
+/// Opened without waiting for a pipe's writer, and then asked what it is: what a name stands for
+/// may change in between. A file without a size has no end either, where the system makes it up.
+bool OpenOrdinary(QFile &file, const QString &path)
 {
-    return !path.isEmpty() && QFileInfo(path).isFile();
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status
+    { };
+    if (name.isEmpty() || name.contains('\0') || stat(name.constData(), &status) != 0
+        || !S_ISREG(status.st_mode))
+        return false;
+    const int descriptor = open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0 || !file.open(descriptor, QFile::ReadOnly, QFile::AutoCloseHandle))
+        return false;
+    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0
+        && status.st_size <= kLongest;
 }
 
 } // namespace
 
 QImage ReadImageFile(const QString &path)
 {
-    if (!IsOrdinaryFile(path))
-        return QImage();
-    QFile file(path);
-    if (!file.open(QFile::ReadOnly) || file.size() > kLongest)
+    QFile file;
+    if (!OpenOrdinary(file, path))
         return QImage();
     if (file.peek(sizeof kPngSignature - 1) == kPngSignature)
         return ReadPng(file);

@@ -92,6 +92,9 @@ QByteArray ReadSmallFile(const QString &path)
     const int file = open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (file < 0)
         return QByteArray();
+    // Its name may stand for another file by now.
+    if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > kSmall)
+        status.st_size = 0;
     QByteArray content(static_cast<int>(status.st_size), Qt::Uninitialized);
     const ssize_t taken = read(file, content.data(), static_cast<std::size_t>(content.size()));
     close(file);

@@ -6,11 +6,17 @@
 #include "lettered_glyphs.h"
 
 #include <QBuffer>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QProcess>
 #include <QTest>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <thread>
 
 #include <sys/stat.h>
 
@@ -43,6 +49,7 @@ private Q_SLOTS:
     void OddFiles();
     void UnknownChunksThatMayBeLeftOut();
     void PipeDoesNotBlock();
+    void SwappedForAPipe();
     void TooLargeIsNotDecoded();
     void TextsInPicturesAreLeftOut();
     void PicturesLargerThanTheySay_data();
@@ -202,6 +209,41 @@ void TestGlyphLoading::PipeDoesNotBlock()
     QVERIFY(ReadImageFile("/dev/zero").isNull());
     QVERIFY(ReadImageFile(m_directory.path()).isNull());
     QVERIFY(ReadImageFile(QString()).isNull());
+    // Of size 0 to the system, and without an end.
+    QVERIFY(ReadImageFile("/proc/self/pagemap").isNull());
+}
+
+// A file and a pipe in turn under one name, while it is read. A reader that opened the pipe as it
+// opens a file would wait for ever.
+void TestGlyphLoading::SwappedForAPipe()
+{
+    const QByteArray name = QFile::encodeName(m_directory.filePath("swapped.png"));
+    QImage image(1, 1, QImage::Format_Mono);
+    image.fill(0);
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    QVERIFY(buffer.open(QBuffer::WriteOnly) && image.save(&buffer, "PNG"));
+    std::atomic<bool> ends {false};
+    std::thread swapper([&] {
+        const QByteArray next = name + ".next";
+        while (!ends) {
+            if (mkfifo(next.constData(), 0600) == 0)
+                std::rename(next.constData(), name.constData());
+            QFile file(QFile::decodeName(next));
+            if (file.open(QFile::WriteOnly) && file.write(picture) == picture.size())
+                file.close();
+            std::rename(next.constData(), name.constData());
+        }
+    });
+    int right = 0;
+    int wrong = 0;
+    QElapsedTimer timer;
+    timer.start();
+    while (std::min(right, wrong) < 5000 && !timer.hasExpired(5000))
+        ++(!ReadImageFile(QFile::decodeName(name)).isNull() ? right : wrong);
+    ends = true;
+    swapper.join();
+    QVERIFY(right >= 200 && wrong >= 200);
 }
 
 void TestGlyphLoading::TooLargeIsNotDecoded()

@@ -24,6 +24,22 @@ QByteArray Nested(int depth)
     return QByteArray("<a>").repeated(depth) + QByteArray("</a>").repeated(depth);
 }
 
+QByteArray Utf16(const QByteArray &text)
+{
+    QByteArray bytes("\xff\xfe");
+    for (const char c : text)
+        bytes.append(c).append('\0');
+    return bytes;
+}
+
+QByteArray ManyAttributes(int count)
+{
+    QByteArray attributes;
+    for (int i = 0; i < count; ++i)
+        attributes += " a" + QByteArray::number(i) + "='1'";
+    return attributes;
+}
+
 } // namespace
 
 class TestProgramFile : public QObject
@@ -36,6 +52,9 @@ private slots:
     void Accepted();
     void Refused_data();
     void Refused();
+    void EncodingsGiveOneText();
+    void FrameBytesOfPrograms_data();
+    void FrameBytesOfPrograms();
     void PathsAreNamedAsTheyAre();
     void Unreadable_data();
     void Unreadable();
@@ -90,6 +109,18 @@ void TestProgramFile::Accepted_data()
     QTest::newRow("unknown element, a plugin's business") << AreaWith("<unknown/>");
     QTest::newRow("deep enough") << AreaWith(Nested(kMaximumDepth - 2));
     QTest::newRow("text between elements") << AreaWith("text <panel/> text");
+    QTest::newRow("what looks like a document type definition")
+        << AreaWith("<panel><!-- <!DOCTYPE a> --><![CDATA[<!DOCTYPE a>]]></panel>");
+    QTest::newRow("every reference")
+        << AreaWith("<panel a='&amp;&lt;&gt;&quot;&apos;&#65;&#x41;'>&amp;</panel>");
+    QTest::newRow("spaces in tags") << Screen("<area x = '0'\ny='0'\twidth='8'\r\nheight='8' >"
+                                              "<panel\n/></area\n>");
+    QTest::newRow("greater-than sign in a value") << AreaWith("<panel a='>' b=\"'\"/>");
+    QTest::newRow("most attributes of one tag")
+        << AreaWith("<panel" + ManyAttributes(kMaximumTagAttributes) + "/>");
+    QTest::newRow("UTF-16") << Utf16(Screen(kArea));
+    QTest::newRow("Chinese encoding") << QByteArray("<?xml version='1.0' encoding='GB18030'?>")
+            + AreaWith("<panel a='\xb1\xb1\xbe\xa9'/>");
     QTest::newRow("most areas") << Screen(kArea.repeated(kMaximumAreas));
 }
 
@@ -112,8 +143,45 @@ void TestProgramFile::Refused_data()
     row("no XML", "hello", "p.xml:1:");
     row("binary", QByteArray(100, '\0'), "p.xml:1:");
     row("cut off", "<program width='1' height='1'>\n<area", "p.xml:2:");
-    row("wrong end tag", "<program>\n\n</prog>", "p.xml:3:");
-    row("one attribute twice", "<program width='1' width='1'/>", "p.xml:1:");
+    row("wrong end tag", "<program>\n\n</prog>",
+        "p.xml:3: </prog> does not match <program> of line 1");
+    row("no end tag", "<program>\n<area>\n", "p.xml:3: <area> of line 2 is never closed");
+    row("end tag without a start", "<program/>\n</area>", "p.xml:2: </area> has no start tag");
+    row("tag without its end", "<program width='1'\n<area/>",
+        "p.xml:2: the tag <program> has no \">\"");
+    row("end tag without its end", "<program></program", "p.xml:1: \"</program\" has no");
+    row("value without quotation marks", "<program\n width=1/>",
+        "p.xml:2: the attribute width of <program> needs a value in quotation marks");
+    row("attribute without a value", "<program width/>",
+        "p.xml:1: the attribute width of <program> needs a value");
+    row("quotation mark missing in the middle", "<program width='1 height='1'/>",
+        "p.xml:1: a space or a quotation mark is missing in <program>");
+    row("quotation mark missing at the end", "<program width='1>\n<area/></program>",
+        "p.xml:1: the value of width of <program> has no closing quotation mark");
+    row("lone ampersand", AreaWith("<panel>\n<title value='a & b'/></panel>"),
+        "p.xml:2: \"&\" in a text is written as &amp;");
+    row("name of another language", "<program>&nbsp;</program>", "p.xml:1: \"&\" in a text");
+    row("lone less-than sign", "<program>1 < 2</program>", "p.xml:1: \"<\" in a text");
+    row("two roots", Screen(kArea) + "\n<clock/>",
+        "p.xml:2: <clock> follows the end of the outermost element");
+    row("text at the end", Screen(kArea) + "\nend", "p.xml:2: there is text after");
+    row("comment without an end", "<program>\n<!-- ", "p.xml:2: a comment is never closed");
+    row("encoding that nobody knows", "<?xml version='1.0' encoding='klingon'?><program/>",
+        "p.xml:1: the encoding \"klingon\" is not known");
+    row("bytes of another encoding", "<program>\n\xff\xfe</program>",
+        "p.xml:2: these bytes are not a text in UTF-8");
+    row("document type definition", "<?xml version='1.0'?>\n<!DOCTYPE program>\n<program/>",
+        "p.xml:2: document type definitions (<!DOCTYPE>) are not accepted");
+    row("attributes of one tag", Screen("\n<area" + ManyAttributes(257) + "/>"),
+        "p.xml:2: <area> has more than 256 attributes");
+    row("attributes in all", Screen(("<a" + ManyAttributes(256) + "/>").repeated(513)),
+        "p.xml:1: more than 131072 attributes");
+    row("elements", Screen(QByteArray("<a/>").repeated(1 << 16)),
+        "p.xml:1: more than 65536 elements");
+    row("text of another kind of file, larger", QByteArray((4 << 20) + 1, ' '),
+        "p.xml: larger than 4194304 bytes");
+    row("one attribute twice", "<program width='1' width='1'/>",
+        "p.xml:1: <program> has two attributes width");
     row("second root", Screen(kArea) + "\n<program/>", "p.xml:2:");
     row("nested too deep", Screen(Nested(100000)), "p.xml:1:");
     row("nested too deep and cut off", QByteArray("<a>").repeated(1000000), "p.xml:1:");
@@ -124,7 +192,7 @@ void TestProgramFile::Refused_data()
         "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'>"
         "<!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>"
         "]>\n<program>&d;</program>",
-        "p.xml:");
+        "p.xml:1: document type definitions");
     row("other root", "<!-- -->\n<clock/>", "p.xml:2: the root element is <clock>");
     row("no size", "<program>" + kArea + "</program>", "p.xml:1: <program> needs width");
     row("width zero", "<program width='0' height='1'/>", "p.xml:1: <program> needs width");
@@ -173,6 +241,57 @@ void TestProgramFile::Refused()
     QVERIFY2(failure.text.startsWith(message), qPrintable(failure.text));
 }
 
+// Beijing in Chinese, as each encoding writes it.
+void TestProgramFile::EncodingsGiveOneText()
+{
+    const QByteArray area("<program width='1' height='1'><area x='0' y='0' width='8' height='8'>");
+    const QByteArray end("'/></area></program>");
+    for (const QByteArray &contents :
+         {area + "<panel a='\xe5\x8c\x97\xe4\xba\xac" + end,
+          "<?xml version='1.0' encoding='GB18030'?>" + area + "<panel a='\xb1\xb1\xbe\xa9" + end,
+          "<?xml version=\"1.0\" encoding=\"UTF-16\"?>" + area + "<panel a='&#x5317;&#20140;"
+              + end}) {
+        const bool isWide = contents.contains("UTF-16");
+        const auto program = ParseProgram(isWide ? Utf16(contents) : contents, "p.xml");
+        QVERIFY2(program, program ? "" : qPrintable(program.Error().text));
+        QCOMPARE(program->areas[0].element.attribute("a"), QString::fromUtf8("北京"));
+    }
+}
+
+// Four bytes a pixel: twice the screen, and each area three times.
+void TestProgramFile::FrameBytesOfPrograms_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<qint64>("bytes");
+    QTest::addColumn<QString>("figure"); // of the failure; empty for none
+    const auto screen = [](const QByteArray &width, const QByteArray &height) {
+        return "<program width='" + width + "' height='" + height + "'><area x='0' y='0' width='"
+            + width + "' height='" + height + "'><panel/></area></program>";
+    };
+    QTest::newRow("small") << screen("64", "32") << qint64(64 * 32 * 20) << QString();
+    QTest::newRow("4K") << screen("3840", "2160") << qint64(3840 * 2160 * 20) << QString();
+    QTest::newRow("largest that is usual")
+        << screen("32767", "409") << qint64(32767) * 409 * 20 << QString();
+    QTest::newRow("a line more") << screen("32767", "410") << qint64(32767) * 410 * 20 << "257 MiB";
+    QTest::newRow("largest area") << screen("32767", "1024") << qint64(32767) * 1024 * 20
+                                  << "640 MiB";
+}
+
+void TestProgramFile::FrameBytesOfPrograms()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(qint64, bytes);
+    QFETCH(QString, figure);
+    const auto program = ParseProgram(contents, "p.xml");
+    QVERIFY(program);
+    QCOMPARE(FrameBytes(*program), bytes);
+    const MaybeFailure failure = CheckFrameBytes(*program);
+    QCOMPARE(bool(failure), !figure.isEmpty());
+    if (failure)
+        QVERIFY2(failure->text.startsWith("p.xml:1: ") && failure->text.contains(figure),
+                 qPrintable(failure->text));
+}
+
 void TestProgramFile::PathsAreNamedAsTheyAre()
 {
     const QString path = QStringLiteral("%3 at 100%2.xml");
@@ -195,7 +314,7 @@ void TestProgramFile::Unreadable_data()
     QTest::newRow("empty name") << ""
                                 << ": ";
     QTest::newRow("endless") << "/dev/zero"
-                             << "/dev/zero: larger than 16777216 bytes";
+                             << "/dev/zero: larger than 4194304 bytes";
 }
 
 void TestProgramFile::Unreadable()

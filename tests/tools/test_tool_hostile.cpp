@@ -5,7 +5,36 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <functional>
+
+#include <sys/resource.h>
+
 namespace {
+
+constexpr double kMostSeconds = 2; // of the processor, for one command
+constexpr long kMostKilobytes = 256 << 10;
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool kMeasures = false;
+#else
+constexpr bool kMeasures = true;
+#endif
+
+/// What the test's processes that have ended took.
+rusage TakenByChildren()
+{
+    rusage usage {};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    return usage;
+}
+
+double SecondsOf(const rusage &usage)
+{
+    const auto seconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
 
 constexpr int kMostMilliseconds = 60000; // a hundred times what an idle machine needs
 
@@ -30,6 +59,32 @@ QByteArray Deep(int depth)
     return QByteArray("<clock>").repeated(depth) + QByteArray("</clock>").repeated(depth);
 }
 
+/// Whether a program that cannot be played is refused within the bounds of time and memory.
+bool ReadsWithinBounds(const std::function<ProcessRun()> &command)
+{
+    const double before = SecondsOf(TakenByChildren());
+    const ProcessRun run = command();
+    const rusage after = TakenByChildren();
+    const double seconds = SecondsOf(after) - before;
+    if (!run.crashed && run.exitCode != 0
+        && (!kMeasures || IsEmulated()
+            || (seconds < kMostSeconds && after.ru_maxrss < kMostKilobytes)))
+        return true;
+    qWarning("ended with %d after %f s and %ld kB", run.exitCode, seconds, after.ru_maxrss);
+    return false;
+}
+
+/// What a command is called with that reads a program.
+QStringList CommandLine(const QByteArray &command, const QString &path, const QString &directory)
+{
+    QStringList arguments {QString::fromLatin1(command), path};
+    if (command == "export")
+        arguments.append(directory + "/out");
+    return arguments;
+}
+
+const char *const kReaders[] = {"lint", "sdk", "import", "glyphs", "export"};
+
 } // namespace
 
 class TestToolHostile : public QObject
@@ -39,6 +94,10 @@ class TestToolHostile : public QObject
 private slots:
     void Ends_data();
     void Ends();
+    void Bounds_data();
+    void Bounds();
+    void DocumentTypesAreRefused_data();
+    void DocumentTypesAreRefused();
     void OddTextsSurviveExport();
 };
 
@@ -74,13 +133,10 @@ void TestToolHostile::Ends()
     const QTemporaryDir directory;
     const QString path = directory.filePath("in.xml");
     QVERIFY(WriteText(path, text));
-    for (const char *command : {"lint", "sdk", "import", "glyphs", "export"}) {
-        QStringList arguments {command, path};
-        if (command == QByteArray("export"))
-            arguments.append(directory.filePath("out"));
+    for (const char *command : kReaders) {
         QElapsedTimer timer;
         timer.start();
-        const ProcessRun run = RunTool(arguments);
+        const ProcessRun run = RunTool(CommandLine(command, path, directory.path()));
         QVERIFY2(!run.crashed, command);
         QVERIFY2(run.exitCode == 0 || run.exitCode == 1 || run.exitCode == 3, command);
         QVERIFY2(timer.elapsed() < kMostMilliseconds, command);
@@ -90,6 +146,69 @@ void TestToolHostile::Ends()
         if (run.exitCode == 3)
             QVERIFY2(run.errors.contains("in.xml"), qPrintable(run.errors));
     }
+}
+
+// One program at each bound; its clock cannot be read, so that the player makes nothing of it.
+void TestToolHostile::Bounds_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    const auto program = [](const QByteArray &content) {
+        return ProgramOf("<clock type='round'>" + content + "</clock>");
+    };
+    QByteArray attributes;
+    for (int i = 0; i < 256; ++i)
+        attributes += " a" + QByteArray::number(i) + "='1'";
+    const QByteArray setting("<attribute key='DigitalDateType' value='1'/>\n");
+    const QByteArray full =
+        "<area x='0' y='0' width='1' height='1'><clock type='round'>" + setting.repeated(62);
+    QTest::newRow("text") << program("<title value='" + QByteArray((4 << 20) - 300, 'x') + "'/>");
+    QTest::newRow("elements") << program(QByteArray("<weak/>\n").repeated(65533));
+    QTest::newRow("attributes") << program(("<a" + attributes + "/>").repeated(511));
+    QTest::newRow("depth") << program(QByteArray("<a>").repeated(61)
+                                      + QByteArray("</a>").repeated(61));
+    QTest::newRow("settings of every area") << "<program width='64' height='32'>"
+            + (full + "</clock></area>").repeated(1023) + "</program>";
+}
+
+void TestToolHostile::Bounds()
+{
+    QFETCH(QByteArray, text);
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("in.xml");
+    QVERIFY(WriteText(path, text));
+    QVERIFY(ReadsWithinBounds([&] {
+        return RunPlayer({path, "--output", directory.filePath("frames")});
+    }));
+    for (const char *command : kReaders)
+        QVERIFY2(ReadsWithinBounds(
+                     [&] { return RunTool(CommandLine(command, path, directory.path())); }),
+                 command);
+}
+
+void TestToolHostile::DocumentTypesAreRefused_data()
+{
+    QTest::addColumn<QByteArray>("definition");
+    QTest::newRow("name only") << QByteArray("<!DOCTYPE program>");
+    QTest::newRow("file elsewhere") << QByteArray("<!DOCTYPE program SYSTEM 'x.dtd'>");
+    QTest::newRow("many entities")
+        << "<!DOCTYPE program [" + QByteArray("<!ENTITY e 'x'>").repeated(130000) + "]>";
+    QTest::newRow("many attribute lists")
+        << "<!DOCTYPE program [" + QByteArray("<!ATTLIST a b CDATA 'x'>").repeated(12000) + "]>";
+}
+
+void TestToolHostile::DocumentTypesAreRefused()
+{
+    QFETCH(QByteArray, definition);
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("in.xml");
+    QVERIFY(WriteText(path, "<?xml version='1.0'?>\n" + definition + "\n" + ProgramOf("<clock/>")));
+    for (const char *command : kReaders) {
+        const ProcessRun run = RunTool(CommandLine(command, path, directory.path()));
+        QCOMPARE(run.exitCode, 3);
+        QVERIFY2(run.errors.contains("in.xml:2: document type definitions"),
+                 qPrintable(run.errors));
+    }
+    QCOMPARE(RunPlayer({path, "--output", directory.filePath("frames")}).exitCode, 3);
 }
 
 // White space, quotation marks, right-to-left marks and characters beyond the first plane.

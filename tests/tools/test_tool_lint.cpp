@@ -193,6 +193,10 @@ void TestToolLint::Finds_data()
         "<program width='1' height='1'>\n<area x='0' y='0' z='1' width='1' height='1'><clock/>"
         "</area></program>",
         2, {"z"});
+    row("frames of more than is usual",
+        "<program width='32767' height='410'>\n<area x='0' y='0' width='32767' height='410'>"
+        "<clock/></area></program>",
+        1, {"257 MiB", "more than 256"});
     row("two clocks with one Id",
         "<program width='1' height='1'>"
         "<area x='0' y='0' width='1' height='1'><clock>\n<attribute key='Id' value='7'/></clock>"

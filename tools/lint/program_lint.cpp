@@ -16,11 +16,12 @@ namespace {
 
 using namespace ClockProgram;
 
-/// What keeps the program from being played. The failure's text begins with path and line.
+/// What keeps the program from being played, or from a small device. The failure's text begins with
+/// path and line.
 void CheckStructure(const QDomDocument &document, const QString &path, Findings &findings)
 {
     const Result<Program> program = InterpretProgram(document, path);
-    const auto *failure = std::get_if<Failure>(&program);
+    const MaybeFailure failure = program ? CheckFrameBytes(*program) : program.Error();
     if (!failure)
         return;
     const QString located = failure->text.mid(path.size() + 1);

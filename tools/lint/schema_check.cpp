@@ -1,5 +1,7 @@
 #include "schema_check.h"
 
+#include "xml_document.h"
+
 #include <QFile>
 #include <QMap>
 
@@ -141,8 +143,10 @@ SchemaReport LeftOut(int line, const QString &text)
 SchemaReport CheckAgainstSchema(const QByteArray &contents)
 {
     xmlSetStructuredErrorFunc(nullptr, Ignore);
-    // Nothing is fetched, and entities are expanded within the library's bounds only.
-    const Document document(xmlReadMemory(contents.constData(), contents.size(), nullptr, nullptr,
+    // The library sees the same text as every other reader, whatever the encoding of the file.
+    const ClockProgram::Result<QString> text = ClockProgram::CheckedText(contents, QString());
+    const QByteArray bytes = text ? text->toUtf8() : QByteArray();
+    const Document document(xmlReadMemory(bytes.constData(), bytes.size(), nullptr, "UTF-8",
                                           XML_PARSE_NONET | XML_PARSE_BIG_LINES));
     const Schema schema = LoadSchema();
     if (!document || !schema)

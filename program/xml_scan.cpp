@@ -1,0 +1,269 @@
+#include "xml_scan.h"
+
+#include <QVector>
+
+#include <algorithm>
+
+namespace ClockProgram {
+
+namespace {
+
+constexpr int kLongestName = 60; // of a name in a message
+
+struct Tag
+{
+    QStringRef name;
+    int line = 0;
+};
+
+QString Shown(const QStringRef &name)
+{
+    return name.left(kLongestName).toString();
+}
+
+bool EndsName(QChar c)
+{
+    switch (c.unicode()) {
+    case '/':
+    case '>':
+    case '=':
+    case '<':
+    case '"':
+    case '\'':
+        return true;
+    default:
+        return c.isSpace();
+    }
+}
+
+class Scanner
+{
+public:
+    explicit Scanner(const QString &text) : m_text(text) { }
+
+    std::optional<XmlFault> Run()
+    {
+        while (!m_fault && m_at < m_text.size())
+            Current() == QLatin1Char('<') ? Markup() : Text();
+        if (!m_fault && !m_open.isEmpty())
+            Fail(m_line,
+                 QStringLiteral("<%1> of line %2 is never closed")
+                     .arg(Shown(m_open.last().name))
+                     .arg(m_open.last().line));
+        if (!m_fault && m_elements == 0)
+            Fail(m_line, QStringLiteral("is not XML: there is no element in it"));
+        return m_fault;
+    }
+
+private:
+    QChar Current() const { return m_at < m_text.size() ? m_text[m_at] : QChar(); }
+    bool StartsWith(const char *word) const
+    {
+        return m_text.midRef(m_at, 9).startsWith(QLatin1String(word));
+    }
+
+    void Fail(int line, const QString &text)
+    {
+        if (!m_fault)
+            m_fault = XmlFault {line, text};
+    }
+
+    void MoveTo(int position)
+    {
+        m_line += static_cast<int>(
+            std::count(m_text.cbegin() + m_at, m_text.cbegin() + position, QLatin1Char('\n')));
+        m_at = position;
+    }
+
+    void SkipSpace()
+    {
+        int end = m_at;
+        while (end < m_text.size() && m_text[end].isSpace())
+            ++end;
+        MoveTo(end);
+    }
+
+    QStringRef Name()
+    {
+        const int begin = m_at;
+        while (m_at < m_text.size() && !EndsName(m_text[m_at]))
+            ++m_at;
+        return m_text.midRef(begin, m_at - begin);
+    }
+
+    void Text()
+    {
+        int end = m_text.indexOf(QLatin1Char('<'), m_at);
+        end = end < 0 ? m_text.size() : end;
+        const QStringRef text = m_text.midRef(m_at, end - m_at);
+        if (m_open.isEmpty() && !text.trimmed().isEmpty()) {
+            SkipSpace();
+            return Fail(m_line,
+                        m_elements == 0 ? QStringLiteral("is not XML: it begins with text")
+                                        : QStringLiteral("there is text after the last element"));
+        }
+        CheckReferences(text);
+        MoveTo(end);
+    }
+
+    /// Without a document type definition there are five names, and numbers.
+    void CheckReferences(const QStringRef &text)
+    {
+        for (int i = text.indexOf(QLatin1Char('&')); i >= 0;
+             i = text.indexOf(QLatin1Char('&'), i + 1)) {
+            const int end = text.indexOf(QLatin1Char(';'), i);
+            const QStringRef name = text.mid(i + 1, std::min(end, i + 12) - i - 1);
+            const auto is = [&name](const char *word) { return name == QLatin1String(word); };
+            const bool isKnown = name.startsWith(QLatin1Char('#')) || is("amp") || is("lt")
+                || is("gt") || is("quot") || is("apos");
+            if (end < 0 || !isKnown)
+                return Fail(m_line + text.left(i).count(QLatin1Char('\n')),
+                            QStringLiteral("\"&\" in a text is written as &amp;"));
+        }
+    }
+
+    void Markup()
+    {
+        if (StartsWith("<!--"))
+            return SkipPast(4, "-->", "a comment");
+        if (StartsWith("<![CDATA["))
+            return SkipPast(9, "]]>", "a CDATA section");
+        if (StartsWith("<?"))
+            return SkipPast(2, "?>", "a processing instruction");
+        if (StartsWith("<!"))
+            return Fail(m_line,
+                        QStringLiteral("document type definitions (<!DOCTYPE>) are not accepted"));
+        StartsWith("</") ? EndTag() : StartTag();
+    }
+
+    void SkipPast(int begin, const char *end, const char *what)
+    {
+        const int found = m_text.indexOf(QLatin1String(end), m_at + begin);
+        if (found < 0)
+            return Fail(m_line, QStringLiteral("%1 is never closed").arg(QLatin1String(what)));
+        MoveTo(found + static_cast<int>(qstrlen(end)));
+    }
+
+    void EndTag()
+    {
+        m_at += 2;
+        const QStringRef name = Name();
+        SkipSpace();
+        if (Current() != QLatin1Char('>'))
+            return Fail(m_line, QStringLiteral("\"</%1\" has no \">\"").arg(Shown(name)));
+        ++m_at;
+        if (m_open.isEmpty())
+            return Fail(m_line, QStringLiteral("</%1> has no start tag").arg(Shown(name)));
+        const Tag open = m_open.takeLast();
+        if (open.name != name)
+            Fail(m_line,
+                 QStringLiteral("</%1> does not match <%2> of line %3")
+                     .arg(Shown(name), Shown(open.name))
+                     .arg(open.line));
+    }
+
+    void StartTag()
+    {
+        const int line = m_line;
+        ++m_at;
+        const Tag tag {Name(), line};
+        if (tag.name.isEmpty())
+            return Fail(line, QStringLiteral("\"<\" in a text is written as &lt;"));
+        if (m_open.isEmpty() && m_elements > 0)
+            return Fail(line,
+                        QStringLiteral("<%1> follows the end of the outermost element")
+                            .arg(Shown(tag.name)));
+        if (++m_elements > kMaximumElements)
+            return Fail(line, QStringLiteral("more than %1 elements").arg(kMaximumElements));
+        Attributes(tag);
+    }
+
+    void Attributes(const Tag &tag)
+    {
+        QVector<QStringRef> names;
+        while (!m_fault) {
+            const bool isApart = Current().isSpace();
+            SkipSpace();
+            if (Current() == QLatin1Char('>') || StartsWith("/>"))
+                return Close(tag);
+            if (m_at >= m_text.size() || Current() == QLatin1Char('<'))
+                return Fail(m_line,
+                            QStringLiteral("the tag <%1> has no \">\"").arg(Shown(tag.name)));
+            if (!isApart)
+                return Fail(m_line,
+                            QStringLiteral("a space or a quotation mark is missing in <%1>")
+                                .arg(Shown(tag.name)));
+            Attribute(tag, names);
+        }
+    }
+
+    void Close(const Tag &tag)
+    {
+        const bool isEmpty = Current() == QLatin1Char('/');
+        m_at += isEmpty ? 2 : 1;
+        if (isEmpty)
+            return;
+        m_open.append(tag);
+        if (m_open.size() > kMaximumDepth)
+            Fail(tag.line,
+                 QStringLiteral("elements are nested more than %1 deep").arg(kMaximumDepth));
+    }
+
+    void Attribute(const Tag &tag, QVector<QStringRef> &names)
+    {
+        const QStringRef name = Name();
+        if (names.contains(name))
+            return Fail(
+                m_line,
+                QStringLiteral("<%1> has two attributes %2").arg(Shown(tag.name), Shown(name)));
+        names.append(name);
+        if (names.size() > kMaximumTagAttributes)
+            return Fail(m_line,
+                        QStringLiteral("<%1> has more than %2 attributes")
+                            .arg(Shown(tag.name))
+                            .arg(kMaximumTagAttributes));
+        if (++m_attributes > kMaximumAttributes)
+            return Fail(m_line, QStringLiteral("more than %1 attributes").arg(kMaximumAttributes));
+        SkipSpace();
+        const bool hasValue = Current() == QLatin1Char('=');
+        m_at += hasValue ? 1 : 0;
+        SkipSpace();
+        const QChar quote = Current();
+        if (!hasValue || (quote != QLatin1Char('"') && quote != QLatin1Char('\'')))
+            return Fail(m_line,
+                        QStringLiteral("the attribute %1 of <%2> needs a value in quotation marks")
+                            .arg(Shown(name), Shown(tag.name)));
+        Value(tag, name, quote);
+    }
+
+    void Value(const Tag &tag, const QStringRef &name, QChar quote)
+    {
+        const int begin = m_at + 1;
+        const int end = m_text.indexOf(quote, begin);
+        const QStringRef value = m_text.midRef(begin, end < 0 ? -1 : end - begin);
+        if (end < 0 || value.contains(QLatin1Char('<')))
+            return Fail(m_line,
+                        QStringLiteral("the value of %1 of <%2> has no closing quotation mark, or "
+                                       "a \"<\" that is written as &lt;")
+                            .arg(Shown(name), Shown(tag.name)));
+        CheckReferences(value);
+        MoveTo(end + 1);
+    }
+
+    const QString &m_text;
+    int m_at = 0;
+    int m_line = 1;
+    int m_elements = 0;
+    int m_attributes = 0;
+    QVector<Tag> m_open;
+    std::optional<XmlFault> m_fault;
+};
+
+} // namespace
+
+std::optional<XmlFault> ScanXml(const QString &text)
+{
+    return Scanner(text).Run();
+}
+
+} // namespace ClockProgram
