@@ -1,5 +1,7 @@
 #include "calendar/clock_time.h"
 
+#include "calendar/time_units.h"
+
 #include <QLocale>
 #include <QStringRef>
 
@@ -9,30 +11,15 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr qint64 kMillisecondsOfDay = 86400000;
 constexpr qint64 kEpochJulianDay = 2440588; // 1970-01-01
-
-struct DayAndTime
-{
-    qint64 julianDay;
-    int millisecond; // of the day
-};
-
-constexpr DayAndTime SplitDay(qint64 reading)
-{
-    const qint64 rest = reading % kMillisecondsOfDay;
-    const qint64 days = reading / kMillisecondsOfDay - (rest < 0 ? 1 : 0);
-    return {kEpochJulianDay + days, static_cast<int>(rest < 0 ? rest + kMillisecondsOfDay : rest)};
-}
 
 bool IsAscii(const QString &text)
 {
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 128; });
 }
 
-// No text longer than its pattern is a time; the length is asked first because texts of any size
-// come in from outside. Beside ASCII's, Qt takes the digits of the program's locale, QLocale::c()
-// or not; a text must not be a time on one device and none on another.
+// Texts come from outside and may have any size, so the length is checked first. Qt also accepts
+// the digits of the program's locale; a text must mean the same on every device.
 QTime TimeFromText(const QString &text, const QString &pattern, int longest)
 {
     return text.size() <= longest && IsAscii(text) ? QTime::fromString(text, pattern) : QTime();
@@ -47,13 +34,14 @@ int FieldAt(const QString &text, int position)
 
 DisplayedFields SplitReading(qint64 reading)
 {
-    const DayAndTime split = SplitDay(reading);
-    const QDate date = QDate::fromJulianDay(split.julianDay);
-    const int second = split.millisecond / 1000;
+    const qint64 days = FloorDivide(reading, kMillisecondsPerDay);
+    const QDate date = QDate::fromJulianDay(kEpochJulianDay + days);
+    const auto second =
+        static_cast<int>(FloorModulo(reading, kMillisecondsPerDay) / kMillisecondsPerSecond);
     DisplayedFields fields;
     date.getDate(&fields.year, &fields.month, &fields.day);
-    fields.hour = second / 3600;
-    fields.minute = second / 60 % 60;
+    fields.hour = second / kSecondsPerHour;
+    fields.minute = second / kSecondsPerMinute % 60;
     fields.second = second % 60;
     fields.dayOfWeek = date.dayOfWeek();
     return fields;
@@ -93,7 +81,8 @@ int ParseZoneOffset(const QString &zone)
 
 int ParseAdjustment(const QString &adjustment)
 {
-    return 3600 * FieldAt(adjustment, 0) + 60 * FieldAt(adjustment, 3) + FieldAt(adjustment, 6);
+    return kSecondsPerHour * FieldAt(adjustment, 0) + kSecondsPerMinute * FieldAt(adjustment, 3)
+        + FieldAt(adjustment, 6);
 }
 
 int ClockOffset(const QString &zone, const QString &adjustment, int adjustType)

@@ -1,4 +1,5 @@
-// Daylight saving: rule texts, the boundaries they name, and the shift of a reading.
+#include "calendar/daylight_saving.h"
+
 #include "calendar/clock_time.h"
 
 #include <QStringRef>
@@ -47,7 +48,7 @@ bool IsComplete(const DaylightRule &rule)
         && rule.time.isValid();
 }
 
-// Attribute texts are shared from frame to frame, so that the addresses settle it as a rule.
+// Attribute texts are shared from frame to frame, so comparing addresses is usually enough.
 bool IsSameText(const QString &a, const QString &b)
 {
     return (a.constData() == b.constData() && a.size() == b.size()) || a == b;
@@ -90,6 +91,8 @@ int DaylightSaving::ShiftSeconds(const QString &start, const QString &end, qint6
 {
     if (!IsSameText(start, m_startText) || !IsSameText(end, m_endText))
         SetRules(start, end);
+    if (!m_startRule || !m_endRule)
+        return 0;
     if (reading < m_yearBegin || reading >= m_yearEnd)
         MoveToYearOf(reading);
     return m_hasPeriod && InDaylightPeriod(reading, m_periodStart, m_periodEnd) ? kShiftSeconds : 0;
@@ -109,7 +112,7 @@ void DaylightSaving::MoveToYearOf(qint64 reading)
     m_hasPeriod = false;
     m_yearBegin = m_yearEnd = 0;
     const int year = SplitReading(reading).year;
-    if (year < kFirstYear || year > kLastYear || !m_startRule || !m_endRule)
+    if (year < kFirstYear || year > kLastYear)
         return;
     const QDateTime start = BoundaryInYear(*m_startRule, year);
     const QDateTime end = BoundaryInYear(*m_endRule, year);

@@ -1,6 +1,7 @@
 #include "calendar/device_clock.h"
 
 #include "calendar/system_time.h"
+#include "calendar/time_units.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -14,12 +15,9 @@ namespace {
 
 using TimeSource = long long (*)(void);
 
-constexpr qint64 kSecond = 1000;
-constexpr qint64 kMinute = 60 * kSecond;
-
 std::atomic<TimeSource> s_source {nullptr};
 
-// One hold a thread: a frame that is being drawn does not stop the time of other threads.
+// Per thread, so that drawing a frame does not stop the time of other threads.
 struct Hold
 {
     int depth = 0;
@@ -27,8 +25,8 @@ struct Hold
 };
 thread_local Hold t_hold;
 
-// The local date found last. No zone has changed its offset within a minute, or had an offset of
-// odd seconds, since 1972, so a date holds for its whole minute of UTC.
+// The last local date found. Since 1972 all zones have offsets of whole minutes and change them on
+// the minute, so a date holds for its whole minute of UTC.
 struct KnownDate
 {
     bool known = false;
@@ -37,11 +35,6 @@ struct KnownDate
     qint64 julianDay = 0;
 };
 thread_local KnownDate t_date;
-
-constexpr qint64 FloorDivide(qint64 value, qint64 divisor)
-{
-    return value / divisor - (value % divisor < 0 ? 1 : 0);
-}
 
 // A source may answer anything. Within these bounds, some 285 million years either way, zones
 // and seconds are added without overflow.
@@ -53,12 +46,12 @@ qint64 ReadSource()
     return source ? qBound<qint64>(-kFurthest, source(), kFurthest) : SystemMilliseconds();
 }
 
-// Qt 5 applies the summer time of 2037 to every later year; the C library knows better where its
-// time_t reaches that far, as it does on 32-bit machines too unless it is an old one.
+// Qt 5 applies the summer time of 2037 to every later year; localtime_r is right wherever time_t
+// has 64 bits.
 QDate FindLocalDate(qint64 utc)
 {
     if constexpr (sizeof(std::time_t) >= sizeof(qint64)) {
-        const std::time_t seconds = FloorDivide(utc, kSecond);
+        const std::time_t seconds = FloorDivide(utc, kMillisecondsPerSecond);
         std::tm local {};
         tzset();
         if (localtime_r(&seconds, &local))
@@ -94,14 +87,13 @@ qint64 UtcMilliseconds()
 
 int LocalMillisecond()
 {
-    const qint64 utc = UtcMilliseconds();
-    return static_cast<int>(utc - FloorDivide(utc, kSecond) * kSecond);
+    return static_cast<int>(FloorModulo(UtcMilliseconds(), kMillisecondsPerSecond));
 }
 
 QDate LocalDate()
 {
     const qint64 utc = UtcMilliseconds();
-    const qint64 minute = FloorDivide(utc, kMinute);
+    const qint64 minute = FloorDivide(utc, kMillisecondsPerMinute);
     const uint zone = qHash(qgetenv("TZ"));
     if (!t_date.known || t_date.minute != minute || t_date.zone != zone)
         t_date = {true, minute, zone, FindLocalDate(utc).toJulianDay()};

@@ -14,8 +14,8 @@ CLOCK_EXPORT void clock_set_time_source(long long (*utcMilliseconds)(void));
 
 namespace Lw::HNodeClock {
 
-/// While one lives, every reading of its thread is the reading taken when it was made, so that all
-/// parts of a frame show one instant. An inner one keeps the outer one's reading.
+/// Stops the time of this thread while it exists, so that all parts of a frame show one instant. An
+/// inner one keeps the outer one's instant.
 class HeldReading
 {
 public:
@@ -30,8 +30,8 @@ private:
     qint64 m_outer;
 };
 
-/// Milliseconds since 1970-01-01 UTC: the held reading, or the time now. Far enough from the ends
-/// of the type that the offsets of clocks can be added.
+/// Milliseconds since 1970-01-01 UTC: the held instant, or now. Within 9e18 of the epoch, so that
+/// offsets can be added without overflow.
 qint64 UtcMilliseconds();
 
 /// The millisecond within the second, 0 to 999, of the device's local time.

@@ -1,11 +1,15 @@
 // The Gregorian side of the lunar calendar: lengths of months and years, days since 1900.
 #include "calendar/lunar_calendar.h"
+#include "calendar/time_units.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
 
 namespace {
+
+using Lw::HNodeClock::FloorDivide;
+using Lw::HNodeClock::FloorModulo;
 
 constexpr bool IsLeapYear(int year)
 {
@@ -18,11 +22,6 @@ constexpr int SolarMonthDays(int year, int month)
     if (month < 1 || month > 12)
         return 28;
     return kDays[month - 1] + (month == 2 && IsLeapYear(year) ? 1 : 0);
-}
-
-constexpr std::int64_t FloorDivide(std::int64_t value, std::int64_t divisor)
-{
-    return value / divisor - (value % divisor < 0 ? 1 : 0);
 }
 
 // Days from 1 January of the year 1 to that of another.
@@ -63,7 +62,6 @@ int get_solar_total(int year, int month)
 
 int get_week(int year, int month)
 {
-    const std::int64_t total = SolarTotal(year, month);
-    const int week = (static_cast<int>(total - FloorDivide(total, 7) * 7) + 2) % 7;
+    const int week = (static_cast<int>(FloorModulo(SolarTotal(year, month), 7)) + 2) % 7;
     return week == 0 ? 7 : week;
 }

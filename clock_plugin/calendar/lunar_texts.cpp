@@ -1,5 +1,6 @@
 // The texts of the lunar calendar: cycle characters, animals, month and day names.
 #include "calendar/lunar_calendar.h"
+#include "calendar/time_units.h"
 
 #include <cstring>
 
@@ -28,19 +29,11 @@ constexpr char chinese_day[30][5] = {
 };
 // clang-format on
 
-namespace {
-
-constexpr int PositiveModulo(int value, int divisor)
-{
-    return (value % divisor + divisor) % divisor;
-}
-
-} // namespace
-
 void get_chinese_era(int cycle, char *out)
 {
-    std::memcpy(out, Gan[PositiveModulo(cycle, 10)], 2);
-    std::memcpy(out + 2, Zhi[PositiveModulo(cycle, 12)], sizeof Zhi[0]);
+    using Lw::HNodeClock::FloorModulo;
+    std::memcpy(out, Gan[FloorModulo(cycle, 10)], 2);
+    std::memcpy(out + 2, Zhi[FloorModulo(cycle, 12)], sizeof Zhi[0]);
 }
 
 void out_chinese(Lunar_info *info, char *out)

@@ -1,6 +1,7 @@
 #include "compose/clock_reading.h"
 
 #include "calendar/device_clock.h"
+#include "calendar/time_units.h"
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 
@@ -24,21 +25,23 @@ bool ShowsPersianDate(HClockNode &node)
 
 void ClockReading::SetUp(HClockNode &node)
 {
-    m_offset = 1000LL
-        * ClockOffset(node.GetAttribute(Key(Attribute::TimeZone)),
-                      node.GetAttribute(Key(Attribute::TimeAdjust)),
-                      node.GetAttributeToInt(Key(Attribute::AdjustType)));
+    m_zone.offset = ClockOffset(node.GetAttribute(Key(Attribute::TimeZone)),
+                                node.GetAttribute(Key(Attribute::TimeAdjust)),
+                                node.GetAttributeToInt(Key(Attribute::AdjustType)));
+}
+
+void ClockReading::TakeDaylightRules(HClockNode *node)
+{
+    const bool saves = node && node->GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1;
+    m_zone.start = saves ? node->GetAttribute(Key(Attribute::DaylightSavingTimeStart)) : QString();
+    m_zone.end = saves ? node->GetAttribute(Key(Attribute::DaylightSavingTimeEnd)) : QString();
 }
 
 void ClockReading::Update(HClockNode *node)
 {
-    m_milliseconds = StandardMilliseconds();
-    if (node && node->GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1) {
-        m_milliseconds += 1000LL
-            * m_daylightSaving.ShiftSeconds(
-                node->GetAttribute(Key(Attribute::DaylightSavingTimeStart)),
-                node->GetAttribute(Key(Attribute::DaylightSavingTimeEnd)), m_milliseconds);
-    }
+    TakeDaylightRules(node);
+    const qint64 utc = UtcMilliseconds();
+    m_milliseconds = utc + OffsetAt(m_zone, utc, m_daylightSaving) * kMillisecondsPerSecond;
     m_fields = SplitReading(m_milliseconds);
     if (node && ShowsPersianDate(*node))
         TakePersianDate();
@@ -59,14 +62,9 @@ void ClockReading::TakePersianDate()
     m_fields.day = m_persianDate.day;
 }
 
-qint64 ClockReading::StandardMilliseconds() const
-{
-    return UtcMilliseconds() + m_offset;
-}
-
 DisplayedFields ClockReading::StandardFields() const
 {
-    return SplitReading(StandardMilliseconds());
+    return SplitReading(UtcMilliseconds() + m_zone.offset * kMillisecondsPerSecond);
 }
 
 QDateTime ClockReading::DateTime() const

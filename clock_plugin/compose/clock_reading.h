@@ -4,6 +4,7 @@
 
 #include "calendar/clock_time.h"
 #include "calendar/persian_calendar.h"
+#include "calendar/zone_time.h"
 #include "clock_node.h"
 
 #include <QDate>
@@ -29,10 +30,10 @@ public:
     DisplayedFields StandardFields() const;
 
 private:
-    qint64 StandardMilliseconds() const;
+    void TakeDaylightRules(HClockNode *node);
     void TakePersianDate();
 
-    qint64 m_offset = 0;       ///< milliseconds to add to UTC, daylight saving apart
+    ZoneSettings m_zone;
     qint64 m_milliseconds = 0; ///< of the reading, as if it were UTC
     DaylightSaving m_daylightSaving;
     DisplayedFields m_fields;

@@ -1,11 +1,13 @@
 // Rules as a user enters them against the system's time zone data.
 #include "calendar/clock_time.h"
+#include "calendar/zone_time.h"
 
 #include <QTest>
 #include <QTimeZone>
 
 using Lw::HNodeClock::DaylightSaving;
 using Lw::HNodeClock::ParseZoneOffset;
+using Lw::HNodeClock::ZoneSettings;
 
 namespace {
 
@@ -22,17 +24,10 @@ const qint64 kEnd = BeginOf(2036);
 
 struct Clock
 {
-    QString zone;
-    QString start;
-    QString end;
+    ZoneSettings settings;
     DaylightSaving daylight;
 
-    // Seconds to add to an instant in UTC.
-    int OffsetAt(qint64 utc)
-    {
-        const int offset = ParseZoneOffset(zone);
-        return offset + daylight.ShiftSeconds(start, end, utc + offset * Q_INT64_C(1000));
-    }
+    int OffsetAt(qint64 utc) { return Lw::HNodeClock::OffsetAt(settings, utc, daylight); }
 };
 
 int TrueOffsetAt(const QTimeZone &zone, qint64 utc)
@@ -98,7 +93,7 @@ void TestDaylightSaving::expressibleZones()
     QFETCH(QString, end);
     const QTimeZone reference(QTest::currentDataTag());
     QVERIFY2(reference.isValid(), "the system's time zone data (tzdata) is missing");
-    Clock clock {zone, start, end, {}};
+    Clock clock {{ParseZoneOffset(zone), start, end}, {}};
     const auto agreeAt = [&](qint64 utc) {
         return clock.OffsetAt(utc) == TrueOffsetAt(reference, utc);
     };
@@ -124,9 +119,7 @@ void TestDaylightSaving::publishedEndIsAnHourLate()
 {
     const QTimeZone reference("Europe/Berlin");
     QVERIFY2(reference.isValid(), "the system's time zone data (tzdata) is missing");
-    Clock clock {QStringLiteral("+01:00"),
-                 QStringLiteral("3.Last.7.02:00:00"),
-                 QStringLiteral("10.Last.7.03:00:00"),
+    Clock clock {{3600, QStringLiteral("3.Last.7.02:00:00"), QStringLiteral("10.Last.7.03:00:00")},
                  {}};
     for (qint64 utc = kBegin; utc < kEnd; utc += 30 * kMinute) {
         const QDateTime time = QDateTime::fromMSecsSinceEpoch(utc, Qt::UTC);

@@ -28,19 +28,15 @@ QDateTime Utc(qint64 milliseconds)
 class Clock
 {
 public:
-    explicit Clock(const ZoneSettings &settings)
-        : m_settings(settings), m_offset(Lw::HNodeClock::ParseZoneOffset(settings.ZoneText()))
-    { }
-
-    int OffsetAt(qint64 utc)
+    explicit Clock(const ZoneSettings &settings) : m_settings(settings)
     {
-        const qint64 reading = utc + m_offset * Q_INT64_C(1000);
-        return m_offset + m_daylight.ShiftSeconds(m_settings.start, m_settings.end, reading);
+        m_settings.offset = Lw::HNodeClock::ParseZoneOffset(settings.ZoneText());
     }
 
+    int OffsetAt(qint64 utc) { return Lw::HNodeClock::OffsetAt(m_settings, utc, m_daylight); }
+
 private:
-    const ZoneSettings m_settings;
-    const int m_offset;
+    ZoneSettings m_settings;
     Lw::HNodeClock::DaylightSaving m_daylight;
 };
 

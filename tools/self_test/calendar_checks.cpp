@@ -4,6 +4,8 @@
 #include "calendar/clock_time.h"
 #include "calendar/lunar_calendar.h"
 #include "calendar/persian_calendar.h"
+#include "calendar/time_units.h"
+#include "calendar/zone_time.h"
 
 #include <QCryptographicHash>
 
@@ -90,12 +92,10 @@ constexpr KnownChange kChanges[] = {
 };
 // clang-format on
 
-int OffsetAt(const KnownChange &change, qint64 utc)
+ZoneSettings SettingsOf(const KnownChange &change)
 {
-    const int offset = ParseZoneOffset(QLatin1String(change.zone));
-    return offset
-        + DaylightSaving().ShiftSeconds(QLatin1String(change.start), QLatin1String(change.end),
-                                        utc + offset * Q_INT64_C(1000));
+    return {ParseZoneOffset(QLatin1String(change.zone)), QLatin1String(change.start),
+            QLatin1String(change.end)};
 }
 
 } // namespace
@@ -113,8 +113,9 @@ QVector<CheckResult> CheckDaylightSaving()
     for (const KnownChange &change : kChanges) {
         const qint64 at =
             QDateTime::fromString(QLatin1String(change.at), Qt::ISODate).toMSecsSinceEpoch();
-        if (OffsetAt(change, at - 1000) == change.before * 3600
-            && OffsetAt(change, at) == change.after * 3600)
+        const ZoneSettings zone = SettingsOf(change);
+        if (OffsetAt(zone, at - kMillisecondsPerSecond) == change.before * kSecondsPerHour
+            && OffsetAt(zone, at) == change.after * kSecondsPerHour)
             continue;
         result.outcome = Outcome::Failed;
         result.why = QStringLiteral("wrong at the change of %1").arg(QLatin1String(change.name));

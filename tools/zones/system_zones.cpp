@@ -3,6 +3,7 @@
 #include "suggestion.h"
 
 #include "calendar/clock_time.h"
+#include "calendar/time_units.h"
 
 #include <QDateTime>
 #include <QRegularExpression>
@@ -64,7 +65,7 @@ CivilTime CivilTimeOf(const QTimeZone &zone, const Span &span)
 /// Whether a zone can have a clock's time at all; much quicker than to compare the two.
 bool MayHave(const QTimeZone &zone, const ZoneSettings &settings, qint64 begin)
 {
-    constexpr qint64 kHalfYear = Q_INT64_C(182) * 86400 * 1000;
+    constexpr qint64 kHalfYear = 182 * Lw::HNodeClock::kMillisecondsPerDay;
     for (const qint64 at : {begin, begin + kHalfYear}) {
         const int offset = zone.offsetFromUtc(Utc(at));
         const CivilTime moment {at, at + 1, offset, {}};

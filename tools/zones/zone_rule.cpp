@@ -1,6 +1,7 @@
 #include "zone_rule.h"
 
 #include "calendar/clock_time.h"
+#include "calendar/time_units.h"
 
 #include <QDateTime>
 
@@ -12,69 +13,23 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-constexpr int kMinute = 60;
-constexpr int kDay = 86400;
 /// Zones have one or two; one that moves its days every year has more than can all be tried.
 constexpr int kMostRules = 40;
-
-qint64 Milliseconds(int seconds)
-{
-    return seconds * Q_INT64_C(1000);
-}
 
 QDateTime Utc(qint64 milliseconds)
 {
     return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
 }
 
-/// A clock as the plugin computes it.
-class SimulatedClock
-{
-public:
-    explicit SimulatedClock(const ZoneSettings &settings)
-        : m_settings(settings), m_start(ParseDaylightRule(settings.start)),
-          m_end(ParseDaylightRule(settings.end))
-    { }
-
-    int OffsetAt(qint64 utc)
-    {
-        const qint64 reading = utc + Milliseconds(m_settings.offset);
-        return m_settings.offset
-            + m_daylight.ShiftSeconds(m_settings.start, m_settings.end, reading);
-    }
-
-    /// Appends the instants at which the shown offset may change: the boundaries of every year,
-    /// and the new year, from which the next year's boundaries count.
-    void AppendInstants(int year, QVector<qint64> &instants) const
-    {
-        const auto append = [&](const QDateTime &reading) {
-            if (reading.isValid())
-                instants.append(reading.toMSecsSinceEpoch() - Milliseconds(m_settings.offset));
-        };
-        append(QDateTime(QDate(year, 1, 1), QTime(0, 0), Qt::UTC));
-        if (!m_start || !m_end)
-            return;
-        append(BoundaryInYear(*m_start, year));
-        append(BoundaryInYear(*m_end, year));
-    }
-
-private:
-    const ZoneSettings &m_settings;
-    const std::optional<DaylightRule> m_start;
-    const std::optional<DaylightRule> m_end;
-    DaylightSaving m_daylight;
-};
-
 /// Every instant of the span at which clock or zone may change, its beginning among them.
-QVector<qint64> Instants(const SimulatedClock &clock, const CivilTime &civil)
+QVector<qint64> Instants(const ZoneSettings &settings, const CivilTime &civil)
 {
     QVector<qint64> instants {civil.begin};
     for (const OffsetChange &change : civil.changes)
         instants.append(change.at);
-    // Readings lie up to a day from UTC.
-    const int last = Utc(civil.end).date().year() + 1;
-    for (int year = Utc(civil.begin).date().year() - 1; year <= last; ++year)
-        clock.AppendInstants(year, instants);
+    // A clock's year begins up to a day before or after that of UTC.
+    instants += PossibleChanges(settings, Utc(civil.begin).date().year() - 1,
+                                Utc(civil.end).date().year() + 1);
     std::sort(instants.begin(), instants.end());
     instants.erase(std::unique(instants.begin(), instants.end()), instants.end());
     const auto outside = [&](qint64 at) { return at < civil.begin || at >= civil.end; };
@@ -96,8 +51,9 @@ QVector<int> PossibleOffsets(const CivilTime &civil)
 {
     QVector<int> offsets;
     const auto add = [&](int seconds) {
-        const int minutes = qRound(seconds / static_cast<double>(kMinute)) * kMinute;
-        if (qAbs(minutes) < kDay && !offsets.contains(minutes))
+        const int minutes =
+            qRound(seconds / static_cast<double>(kSecondsPerMinute)) * kSecondsPerMinute;
+        if (qAbs(minutes) < kSecondsPerDay && !offsets.contains(minutes))
             offsets.append(minutes);
     };
     add(civil.offset);
@@ -114,7 +70,7 @@ QVector<qint64> ReadingsNear(qint64 reading)
     const QDateTime midnight(exact.date(), QTime(0, 0), Qt::UTC);
     QVector<qint64> readings {reading};
     if (exact == midnight)
-        readings.append(reading - 1000);
+        readings.append(reading - kMillisecondsPerSecond);
     else if (exact.time().hour() >= 22)
         readings.append(midnight.addDays(1).toMSecsSinceEpoch());
     return readings;
@@ -132,7 +88,7 @@ QStringList PossibleRules(const CivilTime &civil, int standard, bool isStart)
         before = change.offset;
         if (met != daylight || left == daylight)
             continue;
-        for (const qint64 reading : ReadingsNear(change.at + Milliseconds(standard)))
+        for (const qint64 reading : ReadingsNear(change.at + standard * kMillisecondsPerSecond))
             rules += RulesNaming(reading);
     }
     rules.removeDuplicates();
@@ -171,26 +127,17 @@ private:
 
 } // namespace
 
-QString ZoneSettings::ZoneText() const
-{
-    const int minutes = qAbs(offset) / kMinute;
-    return QStringLiteral("%1%2:%3")
-        .arg(QLatin1Char(offset < 0 ? '-' : '+'))
-        .arg(minutes / 60, 2, 10, QLatin1Char('0'))
-        .arg(minutes % 60, 2, 10, QLatin1Char('0'));
-}
-
 QVector<WrongTime> WrongTimes(const ZoneSettings &settings, const CivilTime &civil)
 {
-    SimulatedClock clock(settings);
-    const QVector<qint64> instants = Instants(clock, civil);
+    DaylightSaving daylight;
+    const QVector<qint64> instants = Instants(settings, civil);
     QVector<WrongTime> times;
     int next = 0;
     int offset = civil.offset;
     for (int i = 0; i < instants.size(); ++i) {
         for (; next < civil.changes.size() && civil.changes[next].at <= instants[i]; ++next)
             offset = civil.changes[next].offset;
-        const int error = clock.OffsetAt(instants[i]) - offset;
+        const int error = OffsetAt(settings, instants[i], daylight) - offset;
         const qint64 end = i + 1 < instants.size() ? instants[i + 1] : civil.end;
         if (error == 0)
             continue;

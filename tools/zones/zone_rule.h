@@ -2,7 +2,8 @@
 // lists of changes, so that no zone data are needed.
 #pragma once
 
-#include <QString>
+#include "calendar/zone_time.h"
+
 #include <QStringList>
 #include <QVector>
 
@@ -24,16 +25,7 @@ struct CivilTime
     QVector<OffsetChange> changes; ///< in order, after the beginning and before the end
 };
 
-/// What is entered in a clock. Without daylight saving both rules are empty.
-struct ZoneSettings
-{
-    int offset = 0; ///< seconds to add to UTC; whole minutes within a day
-    QString start;
-    QString end;
-
-    bool HasDaylightSaving() const { return !start.isEmpty(); }
-    QString ZoneText() const; ///< "+01:00"
-};
+using ZoneSettings = Lw::HNodeClock::ZoneSettings;
 
 /// A time in which a clock shows something else than the zone has.
 struct WrongTime
