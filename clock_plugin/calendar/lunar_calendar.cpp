@@ -1,30 +1,38 @@
+// The lunar calendar as its host calls it: thin functions with global state over lunar_date, the
+// Gregorian sums that they offer, and the texts of cycles and days in GB2312.
 #include "calendar/lunar_calendar.h"
 
-#include <QDate>
+#include "calendar/lunar_date.h"
+#include "calendar/time_units.h"
 
 #include <algorithm>
-#include <array>
+#include <cstdint>
 #include <cstdio>
-#include <tuple>
+#include <cstring>
+#include <limits>
 
 // clang-format off
-constexpr unsigned int lunar_info[151] = {
-    0x04BD8, 0x04AE0, 0x0A570, 0x054D5, 0x0D260, 0x0D950, 0x16554, 0x056A0, 0x09AD0, 0x055D2, // 1900
-    0x04AE0, 0x0A5B6, 0x0A4D0, 0x0D250, 0x1D255, 0x0B540, 0x0D6A0, 0x0ADA2, 0x095B0, 0x14977, // 1910
-    0x04970, 0x0A4B0, 0x0B4B5, 0x06A50, 0x06D40, 0x1AB54, 0x02B60, 0x09570, 0x052F2, 0x04970, // 1920
-    0x06566, 0x0D4A0, 0x0EA50, 0x06E95, 0x05AD0, 0x02B60, 0x186E3, 0x092E0, 0x1C8D7, 0x0C950, // 1930
-    0x0D4A0, 0x1D8A6, 0x0B550, 0x056A0, 0x1A5B4, 0x025D0, 0x092D0, 0x0D2B2, 0x0A950, 0x0B557, // 1940
-    0x06CA0, 0x0B550, 0x15355, 0x04DA0, 0x0A5B0, 0x14573, 0x052B0, 0x0A9A8, 0x0E950, 0x06AA0, // 1950
-    0x0AEA6, 0x0AB50, 0x04B60, 0x0AAE4, 0x0A570, 0x05260, 0x0F263, 0x0D950, 0x05B57, 0x056A0, // 1960
-    0x096D0, 0x04DD5, 0x04AD0, 0x0A4D0, 0x0D4D4, 0x0D250, 0x0D558, 0x0B540, 0x0B6A0, 0x195A6, // 1970
-    0x095B0, 0x049B0, 0x0A974, 0x0A4B0, 0x0B27A, 0x06A50, 0x06D40, 0x0AF46, 0x0AB60, 0x09570, // 1980
-    0x04AF5, 0x04970, 0x064B0, 0x074A3, 0x0EA50, 0x06B58, 0x055C0, 0x0AB60, 0x096D5, 0x092E0, // 1990
-    0x0C960, 0x0D954, 0x0D4A0, 0x0DA50, 0x07552, 0x056A0, 0x0ABB7, 0x025D0, 0x092D0, 0x0CAB5, // 2000
-    0x0A950, 0x0B4A0, 0x0BAA4, 0x0AD50, 0x055D9, 0x04BA0, 0x0A5B0, 0x15176, 0x052B0, 0x0A930, // 2010
-    0x07954, 0x06AA0, 0x0AD50, 0x05B52, 0x04B60, 0x0A6E6, 0x0A4E0, 0x0D260, 0x0EA65, 0x0D530, // 2020
-    0x05AA0, 0x076A3, 0x096D0, 0x04BD7, 0x04AD0, 0x0A4D0, 0x1D0B6, 0x0D250, 0x0D520, 0x0DD45, // 2030
-    0x0B5A0, 0x056D0, 0x055B2, 0x049B0, 0x0A577, 0x0A4B0, 0x0AA50, 0x1B255, 0x06D20, 0x0ADA0, // 2040
-    0x14B63, // 2050
+// Written as bytes: in another encoding the characters would not fit their slots.
+constexpr char Gan[10][3] = {
+    "\xBC\xD7", "\xD2\xD2", "\xB1\xFB", "\xB6\xA1", "\xCE\xEC", "\xBC\xBA",
+    "\xB8\xFD", "\xD0\xC1", "\xC8\xC9", "\xB9\xEF",
+};
+constexpr char Zhi[12][3] = {
+    "\xD7\xD3", "\xB3\xF3", "\xD2\xFA", "\xC3\xAE", "\xB3\xBD", "\xCB\xC8",
+    "\xCE\xE7", "\xCE\xB4", "\xC9\xEA", "\xD3\xCF", "\xD0\xE7", "\xBA\xA5",
+};
+constexpr char Animals[12][3] = {
+    "\xCA\xF3", "\xC5\xA3", "\xBB\xA2", "\xCD\xC3", "\xC1\xFA", "\xC9\xDF",
+    "\xC2\xED", "\xD1\xF2", "\xBA\xEF", "\xBC\xA6", "\xB9\xB7", "\xD6\xED",
+};
+constexpr char chinese_month[12][5] = {
+    "\xD5\xFD", "\xB6\xFE", "\xC8\xFD", "\xCB\xC4", "\xCE\xE5", "\xC1\xF9",
+    "\xC6\xDF", "\xB0\xCB", "\xBE\xC5", "\xCA\xAE", "\xB6\xAC", "\xC0\xB0",
+};
+constexpr char chinese_day[30][5] = {
+    "01", "02", "03", "04", "05", "06", "07", "08", "09", "10",
+    "11", "12", "13", "14", "15", "16", "17", "18", "19", "20",
+    "21", "22", "23", "24", "25", "26", "27", "28", "29", "30",
 };
 // clang-format on
 
@@ -35,135 +43,44 @@ char returnstr[20] = "";
 
 namespace {
 
+using namespace Lw::HNodeClock;
+
+// Numbers of the cycles: 31 January 1900 is in the month of number 14, ten days of the day cycle
+// had passed on 1 January 1900, and the year of number 0 is 1864.
 constexpr int kFirstYear = 1900;
-constexpr int kYears = 151;
-
-constexpr int kLunarEpoch = 30; // from 1 January 1900 to 31 January 1900, the first lunar new year
-
-// Numbers of the cycles at the start: 31 January 1900 lies in the month of number 14, and ten days
-// of the day cycle had passed on 1 January 1900. The year of number 0 is 1864.
 constexpr int kFirstMonthCycle = 14;
 constexpr int kFirstDayCycle = 10;
 constexpr int kFirstCycleYear = 1864;
 
-// The lunar year 1900 + index; one without leap month and 30-day months outside the table.
-constexpr unsigned int Entry(int year)
+constexpr bool IsLeapYear(int year)
 {
-    return year >= kFirstYear && year < kFirstYear + kYears ? lunar_info[year - kFirstYear] : 0;
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
 }
 
-constexpr int LeapMonth(int year)
+constexpr int SolarMonthDays(int year, int month)
 {
-    return static_cast<int>(Entry(year) & 0xF);
-}
-
-constexpr int LeapMonthDays(int year)
-{
-    if (LeapMonth(year) == 0)
-        return 0;
-    return (Entry(year) & 0x10000) != 0 ? 30 : 29;
-}
-
-constexpr int MonthDays(int year, int month)
-{
+    constexpr int kDays[12] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
     if (month < 1 || month > 12)
-        return 29;
-    return (Entry(year) >> (16 - month) & 1) != 0 ? 30 : 29;
+        return 28;
+    return kDays[month - 1] + (month == 2 && IsLeapYear(year) ? 1 : 0);
 }
 
-constexpr int YearDays(int year)
+// Days from 1 January of the year 1 to that of another.
+constexpr std::int64_t DaysBeforeYear(std::int64_t year)
 {
-    int days = LeapMonthDays(year);
-    for (int month = 1; month <= 12; ++month)
-        days += MonthDays(year, month);
+    const std::int64_t past = year - 1;
+    return past * 365 + FloorDivide(past, 4) - FloorDivide(past, 100) + FloorDivide(past, 400);
+}
+
+constexpr std::int64_t SolarTotal(int year, int month)
+{
+    std::int64_t days = DaysBeforeYear(year) - DaysBeforeYear(1900);
+    for (int m = 1; m < std::clamp(month, 1, 12); ++m)
+        days += SolarMonthDays(year, m);
     return days;
 }
 
-// Days from the first lunar new year of the table to each later one.
-constexpr std::array<int, kYears + 1> kNewYears = [] {
-    std::array<int, kYears + 1> days {};
-    for (int i = 0; i < kYears; ++i)
-        days[static_cast<std::size_t>(i) + 1] =
-            days[static_cast<std::size_t>(i)] + YearDays(kFirstYear + i);
-    return days;
-}();
-
-// The Gregorian months that hold a first day with an answer, February 1900 to February 2051.
-constexpr bool MonthInRange(int year, int month)
-{
-    return month >= 1 && month <= 12 && std::tuple(year, month) >= std::tuple(1900, 2)
-        && std::tuple(year, month) <= std::tuple(2051, 2);
-}
-
-static_assert(kLunarEpoch + kNewYears[kYears] == 55193,
-              "the table ends on 10 February 2051, 55192 days after 1 January 1900");
-
-// Where the walk through the months of a lunar year stands.
-struct MonthWalk
-{
-    int month = 1;
-    int isLeap = 0;
-    int offset = 0; // days still to go; negative when the last month went past the day
-    int cycle = 0;
-};
-
-// Steps over whole months until the day is reached or passed.
-int WalkMonths(int year, MonthWalk &walk)
-{
-    const int leapMonth = LeapMonth(year);
-    int length = 0;
-    for (; walk.month <= 12 && walk.offset > 0; ++walk.month) {
-        if (leapMonth > 0 && walk.month == leapMonth + 1 && walk.isLeap == 0) {
-            --walk.month;
-            walk.isLeap = 1;
-            length = LeapMonthDays(year);
-        } else {
-            length = MonthDays(year, walk.month);
-        }
-        if (walk.isLeap == 1 && walk.month == leapMonth + 1)
-            walk.isLeap = 0;
-        walk.offset -= length;
-        if (walk.isLeap == 0)
-            ++walk.cycle;
-    }
-    return length;
-}
-
-// Settles on the month that holds the day, a leap month included.
-void SettleMonth(int leapMonth, int lastLength, MonthWalk &walk)
-{
-    if (walk.offset == 0 && leapMonth > 0 && walk.month == leapMonth + 1) {
-        walk.isLeap = 1 - walk.isLeap;
-        if (walk.isLeap == 1) {
-            --walk.month;
-            --walk.cycle;
-        }
-    }
-    if (walk.offset < 0) {
-        walk.offset += lastLength;
-        --walk.month;
-        --walk.cycle;
-    }
-}
-
-// One day on. The leap month is that of the year the walk began in, also past the new year.
-void Advance(Lunar_info &date)
-{
-    if (date.day < date.monthDays) {
-        ++date.day;
-        return;
-    }
-    date.day = 1;
-    if (date.month == date.leapMonth && date.isLeap == 0) {
-        date.isLeap = 1;
-        date.monthDays = LeapMonthDays(date.year);
-        return;
-    }
-    date.isLeap = 0;
-    date.year += date.month == 12 ? 1 : 0;
-    date.month = date.month % 12 + 1;
-    date.monthDays = MonthDays(date.year, date.month);
-}
+static_assert(SolarTotal(1900, 1) == 0 && SolarTotal(2000, 3) == 36524 + 60);
 
 } // namespace
 
@@ -177,79 +94,74 @@ char *LunarCalendarSetup(int year, int month, int day)
 
 void sub_menue(int wanted)
 {
-    if (!MonthInRange(s_year, s_month)) {
+    const bool isKnownMonth = InLunarRange(s_year, s_month, 1);
+    if (isKnownMonth && (wanted < 1 || wanted > day(s_month)))
+        return;
+    const LunarDate date = isKnownMonth ? LunarDateOf(QDate(s_year, s_month, wanted)) : LunarDate();
+    if (date.IsValid())
+        std::snprintf(returnstr, sizeof returnstr, "%d$%s", date.month, chinese_day[date.day - 1]);
+    else
         returnstr[0] = '\0';
-        return;
-    }
-    if (wanted < 1 || wanted > day(s_month))
-        return;
-    if (!Lw::HNodeClock::InLunarRange(s_year, s_month, wanted)) {
-        returnstr[0] = '\0';
-        return;
-    }
-    Lunar_info date;
-    Chinese_era era;
-    get_lunar_info(s_year, s_month, &date, &era);
-    for (int d = 1; d < wanted; ++d)
-        Advance(date);
-    char dayText[sizeof chinese_day[0]];
-    out_chinese(&date, dayText);
-    std::snprintf(returnstr, sizeof returnstr, "%d$%s", date.month, dayText);
 }
 
 void get_lunar_info(int year, int month, Lunar_info *info, Chinese_era *era)
 {
     *info = {};
     *era = {};
-    if (!MonthInRange(year, month))
+    const LunarDate date = LunarDateOf(QDate(year, month, 1));
+    if (!date.IsValid())
         return;
-    const int total = get_solar_total(year, month);
-    const int sinceEpoch = total - kLunarEpoch;
-    const auto next = std::upper_bound(kNewYears.begin(), kNewYears.end(), sinceEpoch);
-    const int index = static_cast<int>(next - kNewYears.begin()) - 1;
-    info->year = kFirstYear + index;
-    info->leapMonth = LeapMonth(info->year);
-
-    MonthWalk walk;
-    walk.offset = sinceEpoch - *(next - 1);
-    walk.cycle = kFirstMonthCycle + 12 * index;
-    const int lastLength = WalkMonths(info->year, walk);
-    SettleMonth(info->leapMonth, lastLength, walk);
-
-    info->month = walk.month;
-    info->day = walk.offset + 1;
-    info->isLeap = walk.isLeap;
-    info->monthDays =
-        walk.isLeap == 1 ? LeapMonthDays(info->year) : MonthDays(info->year, walk.month);
-    *era = {info->year - kFirstCycleYear, walk.cycle, total + kFirstDayCycle};
+    *info = {date.year,
+             date.month,
+             date.day,
+             date.monthDays,
+             get_leap_month(date.year),
+             date.isLeapMonth ? 1 : 0};
+    *era = {date.year - kFirstCycleYear,
+            kFirstMonthCycle + 12 * (date.year - kFirstYear) + date.month - 1,
+            get_solar_total(year, month) + kFirstDayCycle};
 }
 
-int get_leap_month(int year)
+int leap(int year)
 {
-    return LeapMonth(year);
+    return IsLeapYear(year) ? 366 : 365;
 }
 
-int get_leap_month_day(int year)
+int day(int month)
 {
-    return LeapMonthDays(year);
+    return SolarMonthDays(s_year, month);
 }
 
-int get_lunar_month_total(int year, int month)
+int get_solar_total(int year, int month)
 {
-    return MonthDays(year, month);
+    constexpr std::int64_t kLowest = std::numeric_limits<int>::min();
+    constexpr std::int64_t kHighest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(SolarTotal(year, month), kLowest, kHighest));
 }
 
-int get_lunar_year_total(int year)
+int get_week(int year, int month)
 {
-    return YearDays(year);
+    const int week = (static_cast<int>(FloorModulo(SolarTotal(year, month), 7)) + 2) % 7;
+    return week == 0 ? 7 : week;
+}
+
+void get_chinese_era(int cycle, char *out)
+{
+    std::memcpy(out, Gan[FloorModulo(cycle, 10)], 2);
+    std::memcpy(out + 2, Zhi[FloorModulo(cycle, 12)], sizeof Zhi[0]);
+}
+
+void out_chinese(Lunar_info *info, char *out)
+{
+    const bool known = info->day >= 1 && info->day <= 30;
+    std::strcpy(out, known ? chinese_day[info->day - 1] : "");
 }
 
 namespace Lw::HNodeClock {
 
 bool InLunarRange(int year, int month, int day)
 {
-    return MonthInRange(year, month) && QDate::isValid(year, month, day)
-        && std::tuple(year, month, day) <= std::tuple(2051, 2, 10);
+    return LunarDateOf(QDate(year, month, day)).IsValid();
 }
 
 } // namespace Lw::HNodeClock

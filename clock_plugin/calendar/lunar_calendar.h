@@ -1,12 +1,5 @@
-// The Chinese lunar calendar of the years 1900 to 2050, from a table of month lengths.
-//
-// The table is kept as it is, with three errors against the calendar: in 1933 (22 July to 20
-// August) and 1996 (15 July to 13 August, 12 September to 11 October) the answers are one day
-// ahead; in 2033 it has a leap month 7 where the calendar has a leap month 11, so that from 25
-// August to 21 December the month is one too low.
-//
-// The functions outside the namespace are the ones that the host's side calls; they keep the
-// answer and the query in globals and must be entered from one thread only.
+// The Chinese lunar calendar as its host calls it, over the pure lunar_date. The functions outside
+// the namespace keep the query and the last answer in globals: one thread only.
 #pragma once
 
 #include "clock_export.h"
@@ -87,8 +80,7 @@ CLOCK_EXPORT void out_chinese(Lunar_info *info, char *out);
 
 namespace Lw::HNodeClock {
 
-/// Whether the lunar calendar has an answer for a Gregorian day: 1 February 1900 to 10 February
-/// 2051, the last day of the lunar year 2050. False for a day that its month does not have.
+/// Whether a Gregorian day has a lunar date; false for a day that its month does not have.
 bool InLunarRange(int year, int month, int day);
 
 } // namespace Lw::HNodeClock

@@ -9,35 +9,23 @@ namespace {
 constexpr int kAnchorYear = 1372;
 constexpr qint64 kAnchorJulianDay = 2449068; // 21 March 1993
 
-// The rule repeats exactly: 128 years, 31 of them leap.
 constexpr int kCycleYears = 128;
-constexpr qint64 kCycleDays = 128 * 365 + 31;
-// Cycles whose years all have a number; QDate reaches a little further.
+constexpr int kLeapYears = 31;
+constexpr qint64 kCycleDays = kCycleYears * 365 + kLeapYears;
+// Cycles whose years all fit an int; QDate reaches a little further.
 constexpr qint64 kCycles = (std::numeric_limits<int>::max() - kAnchorYear) / kCycleYears;
 
 constexpr int kLongMonths = 6; // of 31 days; the others have 30, the last one 29 in common years
 constexpr int kLongMonthsDays = kLongMonths * 31;
 
-// The fraction of value / 128, with the sign of value. The division is exact in double precision
-// and its fraction, a multiple of 1/128, exact in single precision.
-constexpr float FractionOfCycle(qint64 value)
-{
-    const double cycles = static_cast<double>(value) * 0.0078125;
-    return static_cast<float>(cycles - static_cast<double>(static_cast<qint64>(cycles)));
-}
-
-// With the leap days of all years added up in 128ths of a day, a year is leap where less than 31 of
-// them are left over. 0.31 lies a little above 31/128; the years before and after tell apart what
-// falls between the two.
+// Each year adds 31/128 of a day to 365 whole ones; it is leap where the sum passes a whole day.
+// 31/128 is a convergent of the fraction of the mean tropical year, 365.2422 days (after 1/4, 7/29
+// and 8/33); the 38 places the cycle so that 1375 is leap, as in Iran. Years up to -38 are all
+// leap: the rule was first computed with fractions that keep their sign, and its answers are fixed.
 constexpr bool IsLeap(int year)
 {
-    constexpr double kLeapFraction = 0.31;
-    const qint64 total = (static_cast<qint64>(year) + 38) * 31;
-    if (FractionOfCycle(total) >= kLeapFraction)
-        return false;
-    if (FractionOfCycle(total - 31) >= kLeapFraction)
-        return true;
-    return FractionOfCycle(total + 31) < kLeapFraction;
+    constexpr int kPhase = 38;
+    return year <= -kPhase || (qint64(year) + kPhase) * kLeapYears % kCycleYears < kLeapYears;
 }
 
 constexpr int YearLength(int year)

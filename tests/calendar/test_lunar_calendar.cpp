@@ -1,4 +1,6 @@
+// The lunar date of every day against a computed calendar, and the host's functions over it.
 #include "calendar/lunar_calendar.h"
+#include "calendar/lunar_date.h"
 
 #include <QDate>
 #include <QFile>
@@ -6,6 +8,9 @@
 #include <QVector>
 
 #include <limits>
+
+using Lw::HNodeClock::LunarDate;
+using Lw::HNodeClock::LunarDateOf;
 
 namespace {
 
@@ -31,7 +36,7 @@ struct LunarDay
 };
 
 // A run of days for which the product's table departs from the calendar: one month of the table,
-// or the part of it that lies wrong.
+// or the wrong part of it.
 struct Exception
 {
     const char *name;
@@ -45,10 +50,10 @@ const Exception kExceptions[] = {
     // The new moon of 23 April 1906 came at 23:52 by the mean time of Beijing, past midnight by
     // UTC+8.
     {"1906 month 3 ends a day late", QDate(1906, 4, 23), 1, {1906, 3, 0, 30, 30}},
-    {"1906 month 4 lies a day behind", QDate(1906, 4, 24), 29, {1906, 4, 0, 1, 29}},
-    {"1933 month 6 lies a day ahead", QDate(1933, 7, 22), 30, {1933, 6, 0, 1, 30}},
-    {"1996 month 6 lies a day ahead", QDate(1996, 7, 15), 30, {1996, 6, 0, 1, 30}},
-    {"1996 month 8 lies a day ahead", QDate(1996, 9, 12), 30, {1996, 8, 0, 1, 30}},
+    {"1906 month 4 is a day behind", QDate(1906, 4, 24), 29, {1906, 4, 0, 1, 29}},
+    {"1933 month 6 is a day ahead", QDate(1933, 7, 22), 30, {1933, 6, 0, 1, 30}},
+    {"1996 month 6 is a day ahead", QDate(1996, 7, 15), 30, {1996, 6, 0, 1, 30}},
+    {"1996 month 8 is a day ahead", QDate(1996, 9, 12), 30, {1996, 8, 0, 1, 30}},
     {"2033 leap month 7 in place of month 8", QDate(2033, 8, 25), 29, {2033, 7, 1, 1, 29}},
     {"2033 month 8 in place of 9", QDate(2033, 9, 23), 30, {2033, 8, 0, 1, 30}},
     {"2033 month 9 in place of 10", QDate(2033, 10, 23), 30, {2033, 9, 0, 1, 30}},
@@ -130,6 +135,8 @@ private slots:
     void calendarFileIsWhole();
     void exceptionsAreNeeded();
     void everyDay();
+    void everyAnswerOfTheEntryPoint();
+    void noDateOutsideTheTable();
     void everyFirstOfMonth();
     void knownDays_data();
     void knownDays();
@@ -175,11 +182,33 @@ void TestLunarCalendar::everyDay()
 {
     const QVector<LunarDay> expected = ExpectedDays();
     for (QDate date = kFirstDay; date <= kLastDay; date = date.addDays(1)) {
+        const LunarDay &day = expected.at(IndexOf(date));
+        const LunarDate answer = LunarDateOf(date);
+        const LunarDay found {answer.year, answer.month, answer.isLeapMonth ? 1 : 0, answer.day,
+                              answer.monthDays};
+        if (found != day || found.monthDays != day.monthDays)
+            QFAIL(qPrintable(date.toString(Qt::ISODate)));
+    }
+}
+
+void TestLunarCalendar::everyAnswerOfTheEntryPoint()
+{
+    const QVector<LunarDay> expected = ExpectedDays();
+    for (QDate date = kFirstDay; date <= kLastDay; date = date.addDays(1)) {
         const QByteArray text = Ask(date);
         if (text != TextOf(expected.at(IndexOf(date))))
             QFAIL(qPrintable(date.toString(Qt::ISODate) + QLatin1String(" answers ")
                              + QLatin1String(text)));
     }
+}
+
+void TestLunarCalendar::noDateOutsideTheTable()
+{
+    QVERIFY(!LunarDateOf(kFirstDay.addDays(-1)).IsValid());
+    QVERIFY(!LunarDateOf(kLastDay.addDays(1)).IsValid());
+    QVERIFY(!LunarDateOf(QDate()).IsValid());
+    QVERIFY(!LunarDateOf(QDate::fromJulianDay(Q_INT64_C(784354017364))).IsValid());
+    QVERIFY(!LunarDateOf(QDate::fromJulianDay(Q_INT64_C(-784350574879))).IsValid());
 }
 
 void TestLunarCalendar::everyFirstOfMonth()

@@ -56,6 +56,24 @@ QVector<QDate> ReadNewYears()
     return days;
 }
 
+// The rule as it was first written down, in fractions of a cycle of 128 years. The product and the
+// fraction, a multiple of 1/128, are exact in double and single precision.
+float FractionOfCycle(qint64 value)
+{
+    const double cycles = static_cast<double>(value) * 0.0078125;
+    return static_cast<float>(cycles - static_cast<double>(static_cast<qint64>(cycles)));
+}
+
+bool IsLeapByFractions(int year)
+{
+    const qint64 total = (qint64(year) + 38) * 31;
+    if (FractionOfCycle(total) >= 0.31)
+        return false;
+    if (FractionOfCycle(total - 31) >= 0.31)
+        return true;
+    return FractionOfCycle(total + 31) < 0.31;
+}
+
 QString Text(int year, int month, int day)
 {
     return QStringLiteral("%1-%2-%3").arg(year).arg(month).arg(day);
@@ -108,7 +126,8 @@ private slots:
     void unconvertible_data();
     void unconvertible();
     void leapYears();
-    void ruleRepeats();
+    void leapYearsAsByFractions_data();
+    void leapYearsAsByFractions();
     void leapAtTheEdges();
     void everyYearIsWhole();
     void distantDates_data();
@@ -195,10 +214,30 @@ void TestPersianCalendar::leapYears()
     QCOMPARE(leapYears, expected);
 }
 
-void TestPersianCalendar::ruleRepeats()
+void TestPersianCalendar::leapYearsAsByFractions_data()
 {
-    for (int year = 1; year <= 10000; ++year)
-        QCOMPARE(IsPersianLeapYear(year), (year + 38) * 31 % 128 < 31);
+    QTest::addColumn<qint64>("first");
+    QTest::addColumn<qint64>("last");
+    QTest::addColumn<int>("step");
+    constexpr qint64 lowest = std::numeric_limits<int>::min();
+    constexpr qint64 highest = std::numeric_limits<int>::max();
+    QTest::newRow("a thousand cycles around the year 0") << -64000LL << 64000LL << 1;
+    QTest::newRow("lowest years") << lowest << lowest + 1000 << 1;
+    QTest::newRow("highest years") << highest - 1000 << highest << 1;
+    // Odd, so that every place in the cycle is met.
+    QTest::newRow("every 997th year of all") << lowest << highest << 997;
+}
+
+void TestPersianCalendar::leapYearsAsByFractions()
+{
+    QFETCH(qint64, first);
+    QFETCH(qint64, last);
+    QFETCH(int, step);
+    for (qint64 i = first; i <= last; i += step) {
+        const int year = static_cast<int>(i);
+        if (IsPersianLeapYear(year) != IsLeapByFractions(year))
+            QFAIL(qPrintable(QString::number(year)));
+    }
 }
 
 void TestPersianCalendar::leapAtTheEdges()

@@ -2,7 +2,7 @@
 #include "checks.h"
 
 #include "calendar/clock_time.h"
-#include "calendar/lunar_calendar.h"
+#include "calendar/lunar_date.h"
 #include "calendar/persian_calendar.h"
 #include "calendar/time_units.h"
 #include "calendar/zone_time.h"
@@ -30,8 +30,12 @@ CheckResult CheckLunar()
     const QDate last(2051, 2, 10);
     QCryptographicHash texts(QCryptographicHash::Sha256);
     for (QDate date = first; date <= last; date = date.addDays(1)) {
-        const QByteArray lunar = LunarCalendarSetup(date.year(), date.month(), date.day());
-        texts.addData(date.toString(Qt::ISODate).toLatin1() + ' ' + lunar + '\n');
+        const LunarDate lunar = LunarDateOf(date);
+        texts.addData(QStringLiteral("%1 %2$%3\n")
+                          .arg(date.toString(Qt::ISODate))
+                          .arg(lunar.month)
+                          .arg(lunar.day, 2, 10, QLatin1Char('0'))
+                          .toLatin1());
     }
     return Compare(QStringLiteral("lunar calendar, %1 days").arg(first.daysTo(last) + 1), texts,
                    kLunarDigest);
