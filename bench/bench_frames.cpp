@@ -115,7 +115,7 @@ void DigitalFull(benchmark::State &state)
     Lw::HNodeClock::DrawClockClassifyImage composer;
     composer.InitParameters(node.get());
     Lw::HNodeClock::ElementComposer &elements = composer.Elements();
-    const Lw::HNodeClock::ElementComposer::ReadingScope oneReading(elements);
+    const Lw::HNodeClock::ElementComposer::FrameScope oneFrame(elements);
     Lw::HNodeClock::Placements rows;
     int top = 0;
     for (const auto *element :

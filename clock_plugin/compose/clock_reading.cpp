@@ -42,7 +42,7 @@ void ClockReading::Update(HClockNode *node)
     TakeDaylightRules(node);
     const qint64 utc = UtcMilliseconds();
     m_milliseconds = utc + OffsetAt(m_zone, utc, m_daylightSaving) * kMillisecondsPerSecond;
-    m_fields = SplitReading(m_milliseconds);
+    m_gregorian = m_shown = SplitReading(m_milliseconds);
     if (node && ShowsPersianDate(*node))
         TakePersianDate();
 }
@@ -50,16 +50,16 @@ void ClockReading::Update(HClockNode *node)
 // A date without a Persian one stays Gregorian.
 void ClockReading::TakePersianDate()
 {
-    const QDate date(m_fields.year, m_fields.month, m_fields.day);
-    if (date != m_gregorianDate) {
-        m_gregorianDate = date;
+    const QDate date(m_gregorian.year, m_gregorian.month, m_gregorian.day);
+    if (date != m_persianDay) {
+        m_persianDay = date;
         m_persianDate = ToPersianDate(date);
     }
     if (m_persianDate.day == -1)
         return;
-    m_fields.year = m_persianDate.year;
-    m_fields.month = m_persianDate.month;
-    m_fields.day = m_persianDate.day;
+    m_shown.year = m_persianDate.year;
+    m_shown.month = m_persianDate.month;
+    m_shown.day = m_persianDate.day;
 }
 
 DisplayedFields ClockReading::StandardFields() const

@@ -21,10 +21,11 @@ public:
     /// saving and no Persian date.
     void Update(HClockNode *node);
 
-    /// What the clock shows: the year, month and day are Persian for a clock that shows the Persian
-    /// date; the weekday is Gregorian all the same.
-    const DisplayedFields &Fields() const { return m_fields; }
-    QDateTime DateTime() const; ///< the same, Gregorian, tagged UTC
+    /// What the clock shows. Year, month and day are Persian for a clock that shows the Persian
+    /// date; the weekday is always Gregorian.
+    const DisplayedFields &Fields() const { return m_shown; }
+    const DisplayedFields &GregorianFields() const { return m_gregorian; }
+    QDateTime DateTime() const; ///< Gregorian, tagged UTC
 
     /// The Gregorian fields in the clock's zone without daylight saving, now.
     DisplayedFields StandardFields() const;
@@ -36,8 +37,9 @@ private:
     ZoneSettings m_zone;
     qint64 m_milliseconds = 0; ///< of the reading, as if it were UTC
     DaylightSaving m_daylightSaving;
-    DisplayedFields m_fields;
-    QDate m_gregorianDate; ///< whose Persian date is kept
+    DisplayedFields m_gregorian;
+    DisplayedFields m_shown;
+    QDate m_persianDay; ///< the Gregorian date of m_persianDate
     PersianDate m_persianDate;
 };
 

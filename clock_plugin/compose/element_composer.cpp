@@ -1,6 +1,7 @@
 #include "compose/element_composer.h"
 
 #include "calendar/lunar_calendar.h"
+#include "calendar/lunar_date.h"
 #include "compose/element_layout.h"
 #include "compose/piece_canvas.h"
 #include "glyph/glyph_set.h"
@@ -28,26 +29,23 @@ QPixmap Drawn(const Element &element)
 
 } // namespace
 
-ElementComposer::ReadingScope::ReadingScope(ElementComposer &composer) : m_composer(composer)
+ElementComposer::FrameScope::FrameScope(ElementComposer &composer) : m_composer(composer)
 {
     ++m_composer.m_scopes;
 }
 
-ElementComposer::ReadingScope::~ReadingScope()
+ElementComposer::FrameScope::~FrameScope()
 {
     if (--m_composer.m_scopes == 0)
         m_composer.m_done = Done();
 }
 
-bool ElementComposer::Shown::Becomes(const Shown &wanted)
+bool ElementComposer::Replace(Shown &shown, const Shown &wanted)
 {
-    const bool same = made && format == wanted.format && first == wanted.first
-        && second == wanted.second && third == wanted.third && image == wanted.image;
-    if (!same) {
-        *this = wanted;
-        made = true;
-    }
-    return !same;
+    if (shown == wanted)
+        return false;
+    shown = wanted;
+    return true;
 }
 
 void ElementComposer::SetUp(HClockNode &node)
@@ -76,8 +74,8 @@ void ElementComposer::SetUp(HClockNode &node, int clockType, const GlyphSource &
     const int weekType = Number(analog ? Attribute::AnalogWeekType : Attribute::DigitalWeekType);
     m_dateType = Number(analog ? Attribute::AnalogDateType : Attribute::DigitalDateType);
     m_glyphs.Load(source, clockType, weekType);
-    m_topTextMade = m_dateShown.made = m_timeShown.made = m_weekShown.made = m_lunarShown.made =
-        false;
+    m_topText.reset();
+    m_dateShown = m_timeShown = m_weekShown = m_lunarShown = Shown();
 }
 
 int ElementComposer::Number(Attribute attribute) const
@@ -96,16 +94,15 @@ const ClockReading &ElementComposer::UpdateReading()
 
 const Element &ElementComposer::TopText()
 {
-    if (!m_topTextMade)
+    if (!m_topText)
         m_topText = Element(m_glyphs.topText);
-    m_topTextMade = true;
-    return m_topText;
+    return *m_topText;
 }
 
 const Element &ElementComposer::Date()
 {
     const DisplayedFields &now = UpdateReading().Fields();
-    if (m_dateShown.Becomes({m_dateType, now.year, now.month, now.day}))
+    if (Replace(m_dateShown, {{m_dateType, now.year, now.month, now.day}}))
         m_date = DateElement(m_glyphs, m_dateType, now.year, now.month, now.day);
     return m_date;
 }
@@ -140,7 +137,7 @@ const Element &ElementComposer::Time()
     m_done.time = m_scopes > 0;
     const int timeType = Number(Attribute::DigitalTimeType);
     const GlyphStrip &mark = AmPmMark(Number(Attribute::DigitalMode) == 1);
-    if (m_timeShown.Becomes({timeType, m_shownHour, now.minute, now.second, mark.Key()}))
+    if (Replace(m_timeShown, {{timeType, m_shownHour, now.minute, now.second, mark.Key()}}))
         m_time = TimeElement(m_glyphs, timeType, m_shownHour, now.minute, now.second, mark);
     m_timeHour = m_shownHour;
     return m_time;
@@ -149,7 +146,7 @@ const Element &ElementComposer::Time()
 const Element &ElementComposer::Week()
 {
     const int index = UpdateReading().Fields().dayOfWeek - 1;
-    if (m_weekShown.Becomes({index})) {
+    if (Replace(m_weekShown, {{index}})) {
         const bool known = index >= 0 && index < m_glyphs.weeks.size();
         m_week = known ? Element(m_glyphs.weeks.at(index)) : Element();
     }
@@ -163,11 +160,19 @@ QPixmap ElementComposer::WeekPixmap()
     return known ? m_glyphs.weeks.at(index).Pixmap() : QPixmap();
 }
 
+QDate ElementComposer::StandardDate() const
+{
+    const DisplayedFields now = m_reading.StandardFields();
+    return QDate(now.year, now.month, now.day);
+}
+
+// An answer of another length than "m$dd" or "mm$dd" leaves the numbers as they were.
 void ElementComposer::UpdateLunarDate()
 {
-    const DisplayedFields date = m_reading.StandardFields();
-    m_lunarKnown = InLunarRange(date.year, date.month, date.day);
-    const char *const answer = LunarCalendarSetup(date.year, date.month, date.day);
+    const QDate date = StandardDate();
+    m_lunarAsked = date;
+    m_lunarKnown = LunarDateOf(date).IsValid();
+    const char *const answer = LunarCalendarSetup(date.year(), date.month(), date.day());
     const std::size_t length = std::strlen(answer);
     if (length != 4 && length != 5)
         return;
@@ -180,11 +185,18 @@ const Element &ElementComposer::Lunar()
     if (m_done.lunar)
         return m_lunar;
     m_done.lunar = m_scopes > 0;
-    UpdateLunarDate();
-    if (m_lunarShown.Becomes({m_lunarKnown ? 1 : 0, m_lunarMonth, m_lunarDay})) {
+    if (StandardDate() != m_lunarAsked)
+        UpdateLunarDate();
+    if (Replace(m_lunarShown, {{m_lunarKnown, m_lunarMonth, m_lunarDay}})) {
         m_lunar = m_lunarKnown ? LunarElement(m_glyphs.lunar, m_lunarMonth, m_lunarDay) : Element();
     }
     return m_lunar;
+}
+
+QPixmap ElementComposer::LunarPixmap()
+{
+    UpdateLunarDate();
+    return m_lunarPixmap.Of(Lunar());
 }
 
 QPixmap ElementComposer::DrawnElement::Of(const Element &element)

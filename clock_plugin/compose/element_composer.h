@@ -1,10 +1,11 @@
-// Puts the elements of one clock together and keeps each until what it shows changes.
+// compose/: puts the elements of one clock together and keeps each until what it shows changes.
 #pragma once
 
 #include "compose/clock_glyphs.h"
 #include "compose/clock_reading.h"
 #include "compose/element.h"
 
+#include <QDate>
 #include <QPixmap>
 #include <QPointer>
 
@@ -14,7 +15,7 @@
 namespace Lw::HNodeClock {
 
 /// The elements are views on the loaded images: valid until the next set-up. Each is brought up to
-/// date when it is asked for; within one ReadingScope the time is read once for all.
+/// date when it is asked for; within one FrameScope the time is read once for all.
 class ElementComposer
 {
 public:
@@ -23,11 +24,13 @@ public:
     /// With other images than the node's files: those that the source gives now.
     void SetUp(HClockNode &node, const GlyphSource &source);
 
+    /// Reads the time and the settings that it depends on.
     const ClockReading &UpdateReading();
-    const ClockReading &Reading() const { return m_reading; }
     /// The hour as the last time element showed it: lowered in twelve-hour mode until the next
     /// update of the reading.
     int ShownHour() const { return m_shownHour; }
+    /// Asks the lunar calendar's entry point for the day of the reading without daylight saving.
+    /// Frames do so once per day.
     void UpdateLunarDate();
 
     const Element &Date();
@@ -41,21 +44,22 @@ public:
     QPixmap DatePixmap() { return m_datePixmap.Of(Date()); }
     QPixmap TimePixmap() { return m_timePixmap.Of(Time()); }
     QPixmap WeekPixmap();
-    QPixmap LunarPixmap() { return m_lunarPixmap.Of(Lunar()); }
+    QPixmap LunarPixmap(); ///< asks the entry point at each call
     QPixmap TopTextPixmap() { return m_glyphs.topText.Pixmap(); }
 
     /// While one lives, the elements show one reading: the time, and the settings it depends on,
     /// are read only once.
-    class ReadingScope
+    class FrameScope
     {
     public:
-        explicit ReadingScope(ElementComposer &composer);
-        ~ReadingScope();
-        Q_DISABLE_COPY(ReadingScope)
+        explicit FrameScope(ElementComposer &composer);
+        ~FrameScope();
+        Q_DISABLE_COPY(FrameScope)
 
     private:
         ElementComposer &m_composer;
     };
+    using ReadingScope = FrameScope;
 
 private:
     // An element drawn, as long as it stays the same.
@@ -69,21 +73,13 @@ private:
         QPixmap m_pixmap;
     };
 
-    // What an element was made for.
-    struct Shown
-    {
-        int format = 0;
-        int first = 0;
-        int second = 0;
-        int third = 0;
-        qint64 image = 0;
-        bool made = false;
-
-        bool Becomes(const Shown &wanted);
-    };
+    // What an element was composed for: its format, numbers and images; nothing before the first.
+    using Shown = std::optional<std::array<qint64, 5>>;
+    static bool Replace(Shown &shown, const Shown &wanted); ///< whether they differed
 
     int Number(Attribute attribute) const;
     void SetUp(HClockNode &node, int clockType, const GlyphSource &source);
+    QDate StandardDate() const;
     const GlyphStrip &AmPmMark(bool twelveHours);
 
     QPointer<HClockNode> m_node;
@@ -94,13 +90,13 @@ private:
     std::optional<std::array<GlyphStrip, 2>> m_givenMarks; ///< AM, PM; in place of the live ones
     int m_dateType = 0;
     int m_shownHour = 0;
-    int m_timeHour = 0; ///< of the time element
+    int m_timeHour = 0;        ///< of the time element
+    QDate m_lunarAsked;        ///< the Gregorian day of the last lunar update
+    bool m_lunarKnown = false; ///< whether that day is in the calendar
     int m_lunarMonth = 0;
     int m_lunarDay = 0;
-    bool m_lunarKnown = false; ///< whether the day of the last lunar update is in the calendar
 
-    bool m_topTextMade = false;
-    Element m_topText;
+    std::optional<Element> m_topText;
     Element m_date;
     Element m_time;
     Element m_week;

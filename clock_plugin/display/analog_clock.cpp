@@ -124,9 +124,9 @@ void DrawDisplayImage::DrawAnalogClockPoint()
         return;
     const QSize size = d->node->Size();
     SetHandSize(std::min(size.width(), size.height()));
-    if (d->second == d->lastSecondDrawn)
+    if (d->now.second == d->lastSecondDrawn)
         ++d->repeatedSeconds;
-    d->lastSecondDrawn = d->second;
+    d->lastSecondDrawn = d->now.second;
     if (d->frame.isNull())
         return;
 
@@ -138,7 +138,7 @@ void DrawDisplayImage::DrawAnalogClockPoint()
     bool anyArrow = false;
     for (const HandRow &row : kHands) {
         const int type = d->Number(row.type);
-        const double angle = HandAngle(row.hand, d->hour, d->minute, d->second);
+        const double angle = HandAngle(row.hand, d->now.hour, d->now.minute, d->now.second);
         const HandShape shape = ShapeOf(row.hand, type, radius);
         const QColor colour = ReturnQcolor(d->Number(row.colour));
         // The minute hand stays for a minute; the others move every second.

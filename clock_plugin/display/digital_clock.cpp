@@ -9,7 +9,7 @@ namespace Lw::HNodeClock {
 void DrawDisplayImage::Private::DrawDigital(const DigitalSettings &settings)
 {
     ElementComposer &elements = composer.Elements();
-    const ElementComposer::ReadingScope oneReading(elements);
+    const ElementComposer::FrameScope oneFrame(elements);
     const QSize size(frameWidth, settings.area.height());
     const Placements wanted = PlaceDigital(settings, elements, rows);
     if (frame.size() == size && digitalContents->Describes(frame, wanted))

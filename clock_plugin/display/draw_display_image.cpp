@@ -44,7 +44,7 @@ QImage DrawDisplayImage::DrawClockDisplayImage()
     if (!d->node)
         return d->frame;
     const HeldReading oneInstant;
-    const ElementComposer::ReadingScope oneReading(d->composer.Elements());
+    const ElementComposer::FrameScope oneFrame(d->composer.Elements());
     d->frameWidth = d->node->Size().width();
     CalculateTimeZone();
     switch (d->node->ClockType()) {
@@ -81,8 +81,7 @@ void DrawDisplayImage::CalculateTimeZone()
     if (!d->node)
         return;
     const HeldReading oneInstant;
-    d->composer.CalculateTimeZone(d->dateTime);
-    d->TakeFields();
+    d->TakeFields(d->composer.Elements().UpdateReading().GregorianFields());
     d->millisecond = LocalMillisecond();
     d->RecordStartTime();
 }
@@ -92,7 +91,7 @@ void DrawDisplayImage::GetTime(QTime &start, QTime &now)
     if (!d->startTime)
         return;
     start = *d->startTime;
-    now = QTime(d->hour, d->minute, d->second, d->millisecond);
+    now = QTime(d->now.hour, d->now.minute, d->now.second, d->millisecond);
 }
 
 QColor DrawDisplayImage::GetColorKey()
@@ -106,19 +105,13 @@ QColor DrawDisplayImage::ReturnQcolor(int colour)
     return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
 }
 
-void DrawDisplayImage::Private::TakeFields()
+void DrawDisplayImage::Private::TakeFields(const DisplayedFields &fields)
 {
-    const QDate date = dateTime.date();
-    if (date != dateTextDate) {
-        dateTextDate = date;
-        dateText = PlainText(date, "yyyy/MM/dd");
-        date.getDate(&year, &month, &day);
-        dayOfWeek = date.dayOfWeek();
-    }
-    const QTime time = dateTime.time();
-    hour = time.hour();
-    minute = time.minute();
-    second = time.second();
+    const bool isSameDay =
+        fields.day == now.day && fields.month == now.month && fields.year == now.year;
+    if (!isSameDay)
+        dateText = PlainText(QDate(fields.year, fields.month, fields.day), "yyyy/MM/dd");
+    now = fields;
 }
 
 // The first frame after construction does not count: the start time is the second frame's, and
@@ -126,7 +119,7 @@ void DrawDisplayImage::Private::TakeFields()
 void DrawDisplayImage::Private::RecordStartTime()
 {
     if (!startTime && ++startCounter == 2)
-        startTime = std::make_unique<QTime>(hour, minute, second, millisecond);
+        startTime = std::make_unique<QTime>(now.hour, now.minute, now.second, millisecond);
 }
 
 QColor DrawDisplayImage::Private::KeyColour()

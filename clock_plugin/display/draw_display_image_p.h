@@ -1,6 +1,7 @@
 // The state of a frame drawer, shared by the files that draw one kind of clock each.
 #pragma once
 
+#include "calendar/clock_time.h"
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
 #include "display/frame_memory.h"
@@ -32,8 +33,7 @@ public:
     /// the consumer is never copied. The frame is replaced by a new one filled with the key colour
     /// when it is null, of another size, or still held; it stays null where it cannot be made.
     void PrepareFrame(const QSize &size);
-    /// Splits the reading into the fields below.
-    void TakeFields();
+    void TakeFields(const DisplayedFields &fields);
     void RecordStartTime();
     /// Where the frame may differ from the spare, which was the frame before it.
     QRegion ChangesSinceSpare() const;
@@ -43,18 +43,10 @@ public:
     DrawClockClassifyImage composer;
     QPainter painter; // goes before the composer
 
-    QDateTime dateTime; ///< the displayed reading
-    int year = 0;
-    int month = 0;
-    int day = 0;
-    int hour = 0; ///< 0 to 23, also in twelve-hour mode
-    int minute = 0;
-    int second = -1;
-    int millisecond = 0; ///< of the device's clock
-    int dayOfWeek = 0;   ///< 1 Monday to 7 Sunday
+    DisplayedFields now {0, 0, 0, 0, 0, -1, 0}; ///< Gregorian, and twenty-four hours, in every mode
+    int millisecond = 0;                        ///< of the device's clock
     int frameWidth = 0;
     QString dateText; ///< yyyy/MM/dd
-    QDate dateTextDate;
 
     int startCounter = 0;
     std::unique_ptr<QTime> startTime; ///< of the second frame; null before it

@@ -138,11 +138,11 @@ void DrawDisplayImage::DrawPixmapClock()
     if (d->frame.isNull())
         return;
 
-    const QTime time = d->dateTime.time();
-    const TurnedPicture hour = {d->hourPicture, (d->hour + time.minute() / 60.0) * 30, kHourPlace};
+    const DisplayedFields &now = d->now;
+    const TurnedPicture hour = {d->hourPicture, (now.hour + now.minute / 60.0) * 30, kHourPlace};
     const TurnedPicture others[] = {
-        {d->minutePicture, (time.minute() + time.second() / 60.0) * 6, kMinutePlace},
-        {d->secondPicture, time.second() * 6.0, kSecondPlace},
+        {d->minutePicture, (now.minute + now.second / 60.0) * 6, kMinutePlace},
+        {d->secondPicture, now.second * 6.0, kSecondPlace},
         {d->centrePicture, 0, kCentrePlace},
     };
     const bool hourLies = d->RestoreBackground(hour.degrees);

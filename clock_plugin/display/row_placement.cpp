@@ -75,7 +75,7 @@ void LayOutDigital(const DigitalSettings &settings, int count, int space, Elemen
 {
     if (count == 0)
         return;
-    const ElementComposer::ReadingScope oneReading(elements);
+    const ElementComposer::FrameScope oneFrame(elements);
     // One row and five rows place every row.
     const Rows &measured = count == 1 || count == 5 ? kEveryRow : settings.flags;
     kLayOutByCount[count - 1]({settings.area.height(), space, settings.swap, settings.flags,

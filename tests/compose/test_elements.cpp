@@ -1,7 +1,9 @@
 // The elements of a clock, read back letter by letter from images whose columns are lettered.
+#include "calendar/lunar_calendar.h"
 #include "chosen_time.h"
 #include "clock_node.h"
 #include "compose/draw_clock_classify_image.h"
+#include "compose/element_composer.h"
 #include "lettered_glyphs.h"
 
 #include <QTest>
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void LunarDates_data();
     void LunarDates();
     void LunarDateIgnoresDaylightSaving();
+    void FramesAskForTheLunarDateOncePerDay();
     void TopText();
     void PersianDate();
     void MissingImages_data();
@@ -359,6 +362,27 @@ void TestElements::LunarDateIgnoresDaylightSaving()
     QCOMPARE(reading.date(), QDate(2024, 6, 6));
     QCOMPARE(LetteredGlyphs::Read(m_composer->GetLunarPixmap()),
              LetteredGlyphs::Cells("kldnbji", 2)); // fourth month, twenty-ninth day
+}
+
+void TestElements::FramesAskForTheLunarDateOncePerDay()
+{
+    m_composer->InitParameters(m_node.data());
+    const auto asksInAFrame = [this] {
+        s_year = 1;
+        const ElementComposer::FrameScope frame(m_composer->Elements());
+        m_composer->Elements().Lunar();
+        return s_year != 1;
+    };
+    QVERIFY(asksInAFrame());
+    QVERIFY(!asksInAFrame());
+    ChosenTime::Set("2024-03-06T00:00:00");
+    QVERIFY(asksInAFrame());
+    s_year = 1;
+    m_composer->GetLunarPixmap();
+    QCOMPARE(s_year, 2024);
+    s_year = 1;
+    m_composer->GetLunarDate();
+    QCOMPARE(s_year, 2024);
 }
 
 void TestElements::TopText()

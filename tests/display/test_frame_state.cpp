@@ -581,6 +581,7 @@ void TestFrameState::OnlyShownRowsAreMeasured()
 {
     QFETCH(QString, shown);
     QFETCH(bool, lunarMeasured);
+    constexpr int kDay = 24 * 3600 * 1000; // the calendar is asked once for each
     const auto clock = FullClock(DigitalClock);
     for (const char *const flag : {"Digital_TopTexy_d", "Digital_Date_d", "Digital_Week_d",
                                    "Digital_Time_d", "Digital_Lunar_d"})
@@ -591,7 +592,7 @@ void TestFrameState::OnlyShownRowsAreMeasured()
         s_year = 1;
         drawer.DrawClockDisplayImage();
         QCOMPARE(s_year == 2024, lunarMeasured);
-        ChosenTime::Advance(1000);
+        ChosenTime::Advance(kDay);
     }
     for (const bool all : {false, true}) {
         s_year = 1;
@@ -600,6 +601,7 @@ void TestFrameState::OnlyShownRowsAreMeasured()
         else
             drawer.Computations4Count(0);
         QCOMPARE(s_year == 2024, all || shown.contains(QLatin1String("Lunar")));
+        ChosenTime::Advance(kDay);
     }
 }
 
