@@ -51,7 +51,8 @@ QImage PlainClock::NewImage()
 {
     if (m_node->Size().isEmpty())
         return QImage();
-    QImage image(m_node->Size(), QImage::Format_ARGB32);
+    const QSize size = m_node->Size() + 2 * QSize(m_margin, m_margin);
+    QImage image(size, QImage::Format_ARGB32);
     image.fill(kKeyColour);
     return image;
 }
@@ -67,6 +68,19 @@ QImage PlainClock::Frame()
         DrawPicture();
     }
     return m_frame;
+}
+
+QImage PlainClock::Dial(int margin)
+{
+    m_margin = margin;
+    ReadTime();
+    PlaceTexts();
+    m_dial = NewImage();
+    DrawDial();
+    DrawBadge();
+    DrawTexts();
+    m_margin = 0;
+    return m_dial;
 }
 
 void PlainClock::ReadTime()
@@ -107,12 +121,13 @@ void PlainClock::DrawAnalog()
 
 void PlainClock::DrawDial()
 {
-    const double r = qMin(m_dial.width(), m_dial.height()) * 0.5;
+    const QSize size = m_node->Size();
+    const double r = qMin(size.width(), size.height()) * 0.5;
     const double a = r / 27;
     const double b = r / 90;
     QPainter painter(&m_dial);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.translate(m_dial.width() / 2, m_dial.height() / 2);
+    painter.translate(m_margin + size.width() / 2, m_margin + size.height() / 2);
     QPen pen(Colour("MinuteScaleColor"));
     pen.setWidth(Trunc(b));
     painter.setPen(pen);
@@ -217,6 +232,7 @@ void PlainClock::DrawBadge()
                                                  : QStringLiteral("_AnalogPM")));
     const QSize size = m_node->Size();
     QPainter painter(&m_dial);
+    painter.translate(m_margin, m_margin);
     painter.drawPixmap(size.width() / 2 - badge.width() / 2,
                        size.height() / 8 * 3 - badge.height() / 2, badge);
 }
@@ -332,6 +348,7 @@ void PlainClock::PlaceTexts()
 void PlainClock::DrawTexts()
 {
     QPainter painter(&m_dial);
+    painter.translate(m_margin, m_margin);
     painter.setRenderHint(QPainter::Antialiasing, Smooth());
     const auto draw = [&](const char *flag, const QPixmap &row, int y) {
         if (Number(flag) == 1)

@@ -17,6 +17,9 @@ public:
     explicit PlainClock(Lw::HNodeClock::HClockNode *node);
 
     QImage Frame(); ///< of this moment, by the node's clock type
+    /// An analog clock's dial with the texts of this moment and without hands, on a canvas larger
+    /// than the area by so many pixels on each side.
+    QImage Dial(int margin);
 
 private:
     int Number(const char *key) { return m_node->GetAttributeToInt(QLatin1String(key)); }
@@ -49,6 +52,7 @@ private:
     int m_millisecond = 0;
     QImage m_frame;
     QImage m_dial;
+    int m_margin = 0; ///< around the dial
     QDate m_dialDate;
     QString m_dialAP;
     int m_topTextY = 0;

@@ -26,6 +26,7 @@ const QVector<Room> kRooms = {
     {"tools/", {"tools/"}},
     {"stage/", {"stage/"}},
     {"program/", {"program/"}},
+    {"fit/", {"fit/"}},
     {"clock_plugin", {"clock_plugin/clock_plugin."}},
     {"clock_render", {"clock_plugin/clock_render."}},
     {"display/", {"clock_plugin/display/"}},
@@ -78,7 +79,7 @@ QString Included(const Sources &sources, const QString &path, const QString &nam
 {
     const QString folder = path.left(path.lastIndexOf('/') + 1);
     for (const QString &root :
-         {folder, QString("clock_plugin/"), QString("host/"), QString("program/"),
+         {folder, QString("clock_plugin/"), QString("host/"), QString("fit/"), QString("program/"),
           QString("stage/"), QString("tools/"), QString("studio/"), QString("player/")}) {
         const QString candidate = QDir::cleanPath(root + name);
         if (sources.contains(candidate))
@@ -121,7 +122,7 @@ Sources SourcesOfTheTree()
 {
     Sources sources;
     for (const char *folder :
-         {"player", "studio", "tools", "stage", "program", "clock_plugin", "host"}) {
+         {"player", "studio", "tools", "stage", "program", "fit", "clock_plugin", "host"}) {
         QDirIterator files(QStringLiteral(SOURCE_DIR "/") + folder, {"*.h", "*.cpp"}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {

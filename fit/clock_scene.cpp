@@ -1,0 +1,76 @@
+#include "clock_scene.h"
+
+#include "calendar/device_clock.h"
+#include "display/row_elements.h"
+
+namespace ClockFit {
+
+using namespace Lw::HNodeClock;
+
+namespace {
+
+// In the order of kRowElements.
+constexpr Part kRowParts[] = {Part::TopText, Part::Date, Part::Week, Part::Time, Part::Lunar};
+
+using Composer = ElementComposer;
+
+// The composer keeps one element for each row.
+Part PartOf(const Element *element, Composer &composer)
+{
+    std::size_t row = 0;
+    while (row + 1 < kRowElements.size() && &kRowElements[row].Of(composer) != element)
+        ++row;
+    return kRowParts[row];
+}
+
+} // namespace
+
+ClockScene::ClockScene(HClockNode &node, const GlyphSource &source) : m_node(node)
+{
+    if (node.ClockType() == DigitalClock)
+        m_digital.emplace(node);
+    m_composer.SetUp(node, source);
+}
+
+std::vector<PlacedPart> ClockScene::TextsAt(qint64 utc)
+{
+    const HeldReading then(utc);
+    const Composer::ReadingScope oneReading(m_composer);
+    Placements placements;
+    if (m_digital) {
+        LayOutDigital(*m_digital, CountRows(m_digital->flags), m_digital->space, m_composer,
+                      m_tops);
+        placements = PlaceDigital(*m_digital, m_composer, m_tops);
+    } else if (m_node.ClockType() == AnalogClock) {
+        LayOutAnalog(m_node, m_composer, m_tops);
+        placements = PlaceAnalog(m_node, m_composer, m_tops);
+    }
+    std::vector<PlacedPart> parts;
+    for (const Placements::Placed &placed : placements)
+        parts.push_back({PartOf(placed.element, m_composer), placed.element, placed.position});
+    return parts;
+}
+
+const Element *ClockScene::TextAt(qint64 utc, Part part)
+{
+    for (const PlacedPart &placed : TextsAt(utc)) {
+        if (placed.part == part)
+            return placed.element;
+    }
+    return nullptr;
+}
+
+const Element &ClockScene::TimeAt(qint64 utc)
+{
+    const HeldReading then(utc);
+    return m_composer.Time();
+}
+
+bool ClockScene::IsMorningAt(qint64 utc)
+{
+    const HeldReading then(utc);
+    m_composer.UpdateReading();
+    return m_composer.ShownHour() < 12;
+}
+
+} // namespace ClockFit

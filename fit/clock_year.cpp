@@ -1,0 +1,53 @@
+#include "clock_year.h"
+
+#include <algorithm>
+
+namespace ClockFit {
+
+using namespace Lw::HNodeClock;
+
+namespace {
+
+constexpr int kHours = 24;
+constexpr int kHourSeconds = 3600;
+
+} // namespace
+
+ClockYear::ClockYear(HClockNode &node, const GlyphSource &source, const Year &year)
+    : m_scene(node, source), m_dial(DialInkOf(node, source)), m_stretches(StretchesOf(node, year))
+{
+    GroupHours(node);
+}
+
+// Only the time of a digital clock and the badge of an analog one depend on the hour.
+void ClockYear::GroupHours(HClockNode &node)
+{
+    const qint64 midnight = MidnightOf(m_stretches);
+    if (node.ClockType() == DigitalClock && node.Digital_Time_d() != 0) {
+        m_classes = HourClassesOf(m_scene, midnight);
+        m_isMorning.assign(m_classes.size(), true);
+        return;
+    }
+    const bool hasBadge = node.ClockType() == AnalogClock
+        && node.GetAttributeToInt(Key(Attribute::Analog_AMPM_d)) == 1;
+    m_classes.resize(hasBadge ? 2 : 1);
+    m_isMorning = {true};
+    if (hasBadge)
+        m_isMorning.push_back(false);
+    for (int hour = 0; hour < kHours; ++hour) {
+        const bool isMorning = m_scene.IsMorningAt(midnight + hour * kHourSeconds * 1000LL);
+        m_classes[hasBadge && !isMorning ? 1 : 0].hours.push_back(hour);
+    }
+}
+
+int ClockYear::FirstSecondOf(const HourClass &hours, const Stretch &stretch)
+{
+    for (const int hour : hours.hours) {
+        const int second = std::max(stretch.firstSecond, hour * kHourSeconds);
+        if (second < std::min(stretch.EndSecond(), (hour + 1) * kHourSeconds))
+            return second;
+    }
+    return -1;
+}
+
+} // namespace ClockFit

@@ -1,0 +1,148 @@
+#include "cut_check.h"
+
+#include "worst_case.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+
+namespace ClockFit {
+
+using namespace Lw::HNodeClock;
+
+namespace {
+
+constexpr std::array<Side, 4> kSides = {Side::Left, Side::Top, Side::Right, Side::Bottom};
+
+// How far ink reaches beyond one side of a rectangle; 0 or less where it does not.
+int Beyond(const QRect &ink, const QRect &visible, Side side)
+{
+    if (ink.isEmpty())
+        return 0;
+    switch (side) {
+    case Side::Left:
+        return visible.left() - ink.left();
+    case Side::Top:
+        return visible.top() - ink.top();
+    case Side::Right:
+        return ink.right() - visible.right();
+    case Side::Bottom:
+        return ink.bottom() - visible.bottom();
+    }
+    return 0;
+}
+
+class CutCheck
+{
+public:
+    CutCheck(ClockYear &clock, const QRect &visible) : m_clock(clock), m_visible(visible) { }
+
+    QVector<Cut> Run()
+    {
+        m_clock.ForEachState([this](const ClockYear::State &state) {
+            for (const PlacedPart &text : state.texts) {
+                if (text.part == Part::Time)
+                    TakeTime(state, text.topLeft);
+                else
+                    Take(text.part, Bounds(*text.element, text.topLeft), state.utc);
+            }
+            Take(Part::Badge, state.isMorning ? m_morning : m_afternoon, state.utc);
+            Take(Part::Numerals, m_numerals, state.utc);
+            Take(Part::HourMarks, m_hourMarks, state.utc);
+            Take(Part::MinuteMarks, m_minuteMarks, state.utc);
+        });
+        QVector<Cut> cuts;
+        for (const auto &[place, worst] : m_found) {
+            if (worst.most > 0)
+                cuts.append({place.first,
+                             place.second,
+                             worst.most,
+                             IsGone(place.first, worst),
+                             {worst.firstUtc, {}},
+                             {worst.worstUtc, {}}});
+        }
+        return cuts;
+    }
+
+private:
+    QRect Bounds(const Element &element, const QPoint &topLeft)
+    {
+        return m_bounds.Of(element).translated(topLeft);
+    }
+
+    void Take(Part part, const QRect &ink, qint64 utc)
+    {
+        for (const Side side : kSides) {
+            const int pixels = Beyond(ink, m_visible, side);
+            if (pixels > 0)
+                m_found[{part, side}].Take(pixels, utc);
+        }
+    }
+
+    const TimeMeasure &MeasureOf(const ClockYear::State &state, const QPoint &topLeft, Side side)
+    {
+        const auto key = std::make_pair(std::make_pair(state.hourClass, side),
+                                        std::make_pair(topLeft.x(), topLeft.y()));
+        const auto known = m_measures.find(key);
+        if (known != m_measures.end())
+            return known->second;
+        const auto beyond = [&](const Element &time, const QVector<bool> &chosen) {
+            const QRect ink = m_bounds.Of(time, chosen);
+            return ink.isEmpty() ? 0 : Beyond(ink.translated(topLeft), m_visible, side);
+        };
+        return m_measures.emplace(key, Measure(state.hours, TimeMeasure::Largest, beyond))
+            .first->second;
+    }
+
+    void TakeTime(const ClockYear::State &state, const QPoint &topLeft)
+    {
+        for (const Side side : kSides) {
+            const TimeMeasure &beyond = MeasureOf(state, topLeft, side);
+            WorstCase &found = m_found[{Part::Time, side}];
+            if (beyond.Most() > 0 && !found.Covers(beyond.Most(), state.stretch.begin))
+                TakeTimes(found, state, beyond);
+        }
+    }
+
+    static void TakeTimes(WorstCase &found, const ClockYear::State &state,
+                          const TimeMeasure &measure)
+    {
+        const int from = state.stretch.firstSecond;
+        const int end = state.stretch.EndSecond();
+        const int most = MostWithin(state.hours, measure, from, end);
+        if (most > 0)
+            found.Take(most, state.stretch.At(FirstSecond(state.hours, measure, 1, from, end)),
+                       state.stretch.At(FirstSecond(state.hours, measure, most, from, end)));
+    }
+
+    // Whether nothing of a part is seen at the worst.
+    bool IsGone(Part part, const WorstCase &worst)
+    {
+        for (const PlacedPart &text : m_clock.Scene().TextsAt(worst.worstUtc)) {
+            if (text.part == part)
+                return !Bounds(*text.element, text.topLeft).intersects(m_visible);
+        }
+        return false;
+    }
+
+    ClockYear &m_clock;
+    const QRect m_visible;
+    InkBounds m_bounds;
+    const QRect m_morning = m_clock.Dial().morning.Bounds();
+    const QRect m_afternoon = m_clock.Dial().afternoon.Bounds();
+    const QRect m_numerals = m_clock.Dial().numerals.Bounds();
+    const QRect m_hourMarks = m_clock.Dial().hourMarks.Bounds();
+    const QRect m_minuteMarks = m_clock.Dial().minuteMarks.Bounds();
+    std::map<std::pair<Part, Side>, WorstCase> m_found;
+    std::map<std::pair<std::pair<std::size_t, Side>, std::pair<int, int>>, TimeMeasure> m_measures;
+};
+
+} // namespace
+
+QVector<Cut> CutsOf(ClockYear &clock, const QRect &visible)
+{
+    return CutCheck(clock, visible).Run();
+}
+
+} // namespace ClockFit

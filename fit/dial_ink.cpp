@@ -1,0 +1,124 @@
+#include "dial_ink.h"
+
+#include "display/analog_painting.h"
+#include "image_bounds.h"
+
+#include <QPainter>
+
+namespace ClockFit {
+
+using namespace Lw::HNodeClock;
+
+namespace {
+
+const QColor kInk(Qt::white);
+const QColor kBox(1, 2, 1); // behind "10" and "11", which hides what was drawn before
+constexpr int kNoMarks = -1;
+constexpr int kMargin = 2; // of marks, whose pen may reach beyond the radius
+
+int Number(HClockNode &node, Attribute attribute)
+{
+    return node.GetAttributeToInt(Key(attribute));
+}
+
+// The canvas: the area with what numerals need around it.
+QRect CanvasOf(const QSize &area, int scale, const QSize &strip)
+{
+    QRect canvas = QRect(QPoint(0, 0), area).adjusted(-kMargin, -kMargin, kMargin, kMargin);
+    const DigitCells cells(strip);
+    for (const Numeral &numeral : Numerals(scale, DialRadius(area), cells))
+        canvas |= QRect(numeral.topLeft + Centre(area), QSize(2 * cells.width, cells.height));
+    return canvas;
+}
+
+class DialPainter
+{
+public:
+    DialPainter(const QSize &area, const QRect &canvas) : m_area(area), m_canvas(canvas) { }
+
+    // The ink of what is painted around the centre by paint(painter, radius).
+    template<typename Paint>
+    InkMask InkOf(Paint paint) const
+    {
+        QImage image(m_canvas.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.translate(Centre(m_area) - m_canvas.topLeft());
+        paint(painter, DialRadius(m_area));
+        painter.end();
+        // The boxes are no ink.
+        return InkMask(image, m_canvas.topLeft(), kInk.rgba());
+    }
+
+    InkMask Marks(int hourScale, int minuteScale) const
+    {
+        return InkOf([&](QPainter &painter, double radius) {
+            PaintMarks(painter, radius, {hourScale, minuteScale, kInk, kInk});
+        });
+    }
+
+private:
+    const QSize m_area;
+    const QRect m_canvas;
+};
+
+// What the digits of all numerals have together.
+int InkOfNumerals(int scale, double radius, const GlyphStrip &strip)
+{
+    const DigitCells cells(strip.Size());
+    const auto inkOf = [&](int digit) {
+        Element cell(cells.width, cells.height);
+        cell.AddCell(strip, cells.width, digit);
+        return InkMask(cell, QPoint(0, 0)).Count();
+    };
+    int ink = 0;
+    for (const Numeral &numeral : Numerals(scale, radius, cells))
+        ink += inkOf(numeral.number % 10) + (numeral.number >= 10 ? inkOf(1) : 0);
+    return ink;
+}
+
+InkMask BadgeInk(const QSize &area, const GlyphStrip &badge)
+{
+    return InkMask(Element(badge), BadgePlace(area, badge.Size()));
+}
+
+} // namespace
+
+InkMask DialInk::Under(bool isMorning) const
+{
+    InkMask all = hourMarks;
+    for (const InkMask *part : {&minuteMarks, &numerals, isMorning ? &morning : &afternoon})
+        all.Unite(*part);
+    return all;
+}
+
+DialInk DialInkOf(HClockNode &node, const GlyphSource &source)
+{
+    DialInk ink;
+    if (node.ClockType() != AnalogClock)
+        return ink;
+    const QSize area = node.Size();
+    const int scale = Number(node, Attribute::HourScaleType);
+    const GlyphStrip digits = source(Glyph::HourhandNumber, 0);
+    const QRect canvas = CanvasOf(area, scale, digits.Size());
+    if (Number(node, Attribute::Analog_AMPM_d) == 1) {
+        ink.morning = BadgeInk(area, source(Glyph::AnalogAM, 0));
+        ink.afternoon = BadgeInk(area, source(Glyph::AnalogPM, 0));
+    }
+    ink.isDrawn = WithinBounds(canvas.size(), kFrameBytes);
+    if (!ink.isDrawn)
+        return ink;
+    const DialPainter dial(area, canvas);
+    ink.hourMarks = dial.Marks(scale, kNoMarks);
+    ink.minuteMarks = dial.Marks(kNoMarks, Number(node, Attribute::MinuteScaleType));
+    if (digits.IsNull())
+        return ink;
+    ink.numerals = dial.InkOf([&](QPainter &painter, double radius) {
+        PaintNumerals(painter, scale, radius, digits.Pixmap(), kBox);
+    });
+    ink.coveredNumerals = InkOfNumerals(scale, DialRadius(area), digits) - ink.numerals.Count();
+    return ink;
+}
+
+} // namespace ClockFit

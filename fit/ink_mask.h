@@ -1,0 +1,65 @@
+// Which pixels of a picture are ink, one bit per pixel, and where they are.
+#pragma once
+
+#include "compose/element.h"
+
+#include <QHash>
+#include <QImage>
+#include <QPoint>
+#include <QRect>
+#include <QVector>
+
+namespace ClockFit {
+
+/// Ink within a box. Coordinates are pixels of the clock's area.
+class InkMask
+{
+public:
+    InkMask() = default;
+    /// No ink yet; an empty box never has any.
+    explicit InkMask(const QRect &box);
+    /// Every pixel of an image that has this colour.
+    InkMask(const QImage &image, const QPoint &topLeft, QRgb colour);
+    /// The ink of an element's pieces, and of no more than these where a choice is given.
+    InkMask(const Lw::HNodeClock::Element &element, const QPoint &topLeft,
+            const QVector<bool> &chosen = {});
+
+    const QRect &Box() const { return m_box; }
+    /// The smallest rectangle around the ink; empty where there is none.
+    QRect Bounds() const;
+    int Count() const;
+    bool HasInkIn(const QRect &rect) const;
+    /// How many pixels are ink in both.
+    int Common(const InkMask &other) const;
+    /// Adds the other's ink; the box grows.
+    void Unite(const InkMask &other);
+
+private:
+    const quint32 *Row(int y) const { return m_bits.constData() + (y - m_box.top()) * m_words; }
+    /// Up to 32 columns from x on, the first as the lowest bit. Columns outside are not ink.
+    quint32 Columns(int y, int x) const;
+    void AddStrip(const Lw::HNodeClock::GlyphStrip &strip, const QRect &source,
+                  const QPoint &target);
+    template<typename IsInk>
+    void AddImage(const QImage &image, const QPoint &target, IsInk isInk);
+
+    QRect m_box;
+    int m_words = 0; ///< per row
+    QVector<quint32> m_bits;
+};
+
+/// The bounds of what elements show, for many elements made of the same strips: each part of a
+/// strip is looked at once.
+class InkBounds
+{
+public:
+    /// In the element's own pixels.
+    QRect Of(const Lw::HNodeClock::Element &element, const QVector<bool> &chosen = {});
+
+private:
+    const QRect &OfPiece(const Lw::HNodeClock::Piece &piece, int height);
+
+    QHash<quint64, QRect> m_known; ///< within the piece; by strip, first column and width
+};
+
+} // namespace ClockFit

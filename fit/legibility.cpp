@@ -1,0 +1,124 @@
+#include "legibility.h"
+
+#include "clock_parts.h"
+
+#include "display/analog_geometry.h"
+
+#include "happconfig.h"
+
+#include <QColor>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace ClockFit {
+
+using namespace Lw::HNodeClock;
+
+namespace {
+
+// The colour that hosts show through.
+constexpr QRgb kKeyColour = 0xff010201;
+
+int Number(HClockNode &node, Attribute attribute)
+{
+    return node.GetAttributeToInt(Key(attribute));
+}
+
+double Linear(int channel)
+{
+    const double part = channel / 255.0;
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(QRgb colour)
+{
+    return 0.2126 * Linear(qRed(colour)) + 0.7152 * Linear(qGreen(colour))
+        + 0.0722 * Linear(qBlue(colour));
+}
+
+QRgb ColourOf(HClockNode &node, Part part)
+{
+    return Lw::HAppConfig::IntToColor(Number(node, *ColourAttribute(part, node.ClockType()))).rgb();
+}
+
+} // namespace
+
+double ContrastOf(QRgb one, QRgb other)
+{
+    const double lighter = std::max(Luminance(one), Luminance(other));
+    const double darker = std::min(Luminance(one), Luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QVector<Faint> FaintParts(HClockNode &node, QRgb ground)
+{
+    QVector<Faint> faint;
+    for (const Part part : PartsShown(node)) {
+        const QRgb ink = ColourOf(node, part);
+        const bool isKey = ink == kKeyColour;
+        const double contrast = isKey ? 1 : ContrastOf(ink, ground);
+        if (contrast < kFaintContrast)
+            faint.append({part, ink, ground, contrast, isKey});
+    }
+    return faint;
+}
+
+QVector<SameHands> HandsOfOneColour(HClockNode &node)
+{
+    QVector<Part> hands;
+    for (const Part part : PartsShown(node)) {
+        if (part == Part::HourHand || part == Part::MinuteHand || part == Part::SecondHand)
+            hands.append(part);
+    }
+    QVector<SameHands> same;
+    for (int i = 0; i < hands.size(); ++i) {
+        for (int j = i + 1; j < hands.size(); ++j) {
+            const QRgb colour = ColourOf(node, hands[i]);
+            if (colour == ColourOf(node, hands[j]))
+                same.append({hands[i], hands[j], colour});
+        }
+    }
+    return same;
+}
+
+namespace {
+
+constexpr double kLargestRadius = 200; // all marks are there long before
+
+bool HasMark(Part part, int scale, double radius)
+{
+    const Mark mark = part == Part::HourMarks ? HourMark(scale, radius) : MinuteMark(scale, radius);
+    return mark.shape != Mark::None;
+}
+
+// Radii are halves of whole numbers.
+double RadiusWithMarks(Part part, int scale)
+{
+    double radius = 0.5;
+    while (radius < kLargestRadius && !HasMark(part, scale, radius))
+        radius += 0.5;
+    return radius < kLargestRadius ? radius : 0;
+}
+
+} // namespace
+
+QVector<LostMarks> MarksLost(HClockNode &node)
+{
+    if (node.ClockType() != AnalogClock)
+        return {};
+    const double radius = DialRadius(node.Size());
+    QVector<LostMarks> lost;
+    for (const auto &[part, attribute] :
+         {std::make_pair(Part::HourMarks, Attribute::HourScaleType),
+          std::make_pair(Part::MinuteMarks, Attribute::MinuteScaleType)}) {
+        const int scale = Number(node, attribute);
+        const double enough = RadiusWithMarks(part, scale);
+        if (enough > radius)
+            lost.append({part, radius, enough});
+    }
+    return lost;
+}
+
+} // namespace ClockFit

@@ -1,0 +1,20 @@
+// Whether the parts of a clock can be told from what is behind them, and whether a dial is large
+// enough for its marks.
+#pragma once
+
+#include "dial_ink.h"
+#include "fit.h"
+
+namespace ClockFit {
+
+/// The contrast ratio of two colours as WCAG 2.1 defines it: from 1 to 21, in either order.
+double ContrastOf(QRgb one, QRgb other);
+
+/// Below this a part is reported.
+inline constexpr double kFaintContrast = 3;
+
+QVector<Faint> FaintParts(Lw::HNodeClock::HClockNode &node, QRgb ground);
+QVector<SameHands> HandsOfOneColour(Lw::HNodeClock::HClockNode &node);
+QVector<LostMarks> MarksLost(Lw::HNodeClock::HClockNode &node);
+
+} // namespace ClockFit

@@ -1,0 +1,173 @@
+#include "overlap_check.h"
+
+#include "worst_case.h"
+
+#include <map>
+#include <utility>
+
+namespace ClockFit {
+
+using namespace Lw::HNodeClock;
+
+namespace {
+
+// Where an element is: what its overlaps depend on.
+struct Still
+{
+    Part part;
+    const Element *element;
+    QPoint topLeft;
+    QRect ink;
+
+    InkMask Mask() const { return InkMask(*element, topLeft); }
+};
+
+class OverlapCheck
+{
+public:
+    explicit OverlapCheck(ClockYear &clock) : m_clock(clock)
+    {
+        for (const bool isMorning : {false, true})
+            m_under[isMorning] = clock.Dial().Under(isMorning);
+    }
+
+    QVector<Overlap> Run()
+    {
+        m_clock.ForEachState([this](const ClockYear::State &state) { Look(state); });
+        QVector<Overlap> overlaps;
+        for (const auto &[parts, worst] : m_found) {
+            if (worst.most > 0)
+                overlaps.append({parts.first,
+                                 parts.second,
+                                 worst.most,
+                                 {worst.firstUtc, {}},
+                                 {worst.worstUtc, {}},
+                                 {}});
+        }
+        return overlaps;
+    }
+
+private:
+    using Parts = std::pair<Part, Part>; // the lower one first
+
+    void Look(const ClockYear::State &state)
+    {
+        LookAtDial(state);
+        std::vector<Still> lower;
+        for (const PlacedPart &text : state.texts) {
+            if (text.part == Part::Time) {
+                LookAtTime(state, text, lower);
+                continue;
+            }
+            const Still still = {text.part, text.element, text.topLeft,
+                                 m_bounds.Of(*text.element).translated(text.topLeft)};
+            if (m_under[state.isMorning].HasInkIn(still.ink))
+                LookOverDial(state, still);
+            for (const Still &other : lower)
+                LookAtPair(state, other, still);
+            lower.push_back(still);
+        }
+    }
+
+    // The badge over the marks and numerals, and the numerals over each other.
+    void LookAtDial(const ClockYear::State &state)
+    {
+        const DialInk &dial = m_clock.Dial();
+        Found(Part::Numerals, Part::Numerals).Take(dial.coveredNumerals, state.utc);
+        if (!m_badgeLooked[state.isMorning])
+            LookUnder(state, Part::Badge, state.isMorning ? dial.morning : dial.afternoon);
+        m_badgeLooked[state.isMorning] = true;
+    }
+
+    void LookOverDial(const ClockYear::State &state, const Still &text)
+    {
+        const InkMask mask = text.Mask();
+        const DialInk &dial = m_clock.Dial();
+        LookUnder(state, text.part, mask);
+        Found(Part::Badge, text.part)
+            .Take(mask.Common(state.isMorning ? dial.morning : dial.afternoon), state.utc);
+    }
+
+    void LookUnder(const ClockYear::State &state, Part upper, const InkMask &mask)
+    {
+        const DialInk &dial = m_clock.Dial();
+        Found(Part::HourMarks, upper).Take(mask.Common(dial.hourMarks), state.utc);
+        Found(Part::MinuteMarks, upper).Take(mask.Common(dial.minuteMarks), state.utc);
+        Found(Part::Numerals, upper).Take(mask.Common(dial.numerals), state.utc);
+    }
+
+    void LookAtPair(const ClockYear::State &state, const Still &lower, const Still &upper)
+    {
+        if (lower.ink.intersects(upper.ink))
+            Found(lower.part, upper.part).Take(lower.Mask().Common(upper.Mask()), state.utc);
+    }
+
+    // The lunar date is drawn after the time, all others before it; on a line date and week too.
+    void LookAtTime(const ClockYear::State &state, const PlacedPart &time,
+                    const std::vector<Still> &lower)
+    {
+        const QRect box = BoxOf(state).translated(time.topLeft);
+        for (const PlacedPart &text : state.texts) {
+            if (text.part == Part::Time)
+                continue;
+            const Still other = {text.part, text.element, text.topLeft,
+                                 m_bounds.Of(*text.element).translated(text.topLeft)};
+            if (!other.ink.intersects(box))
+                continue;
+            const bool isBelow = std::any_of(lower.cbegin(), lower.cend(), [&](const Still &one) {
+                return one.part == text.part;
+            });
+            TakeTimes(isBelow ? Found(text.part, Part::Time) : Found(Part::Time, text.part), state,
+                      time.topLeft, other.Mask());
+        }
+    }
+
+    void TakeTimes(WorstCase &found, const ClockYear::State &state, const QPoint &topLeft,
+                   const InkMask &other)
+    {
+        const TimeMeasure common = Measure(state.hours, TimeMeasure::Sum,
+                                           [&](const Element &time, const QVector<bool> &chosen) {
+                                               return InkMask(time, topLeft, chosen).Common(other);
+                                           });
+        if (common.Most() <= 0 || found.Covers(common.Most(), state.stretch.begin))
+            return;
+        const int from = state.stretch.firstSecond;
+        const int end = state.stretch.EndSecond();
+        const int most = MostWithin(state.hours, common, from, end);
+        if (most > 0)
+            found.Take(most, state.stretch.At(FirstSecond(state.hours, common, 1, from, end)),
+                       state.stretch.At(FirstSecond(state.hours, common, most, from, end)));
+    }
+
+    // Around the ink of all times of a class.
+    const QRect &BoxOf(const ClockYear::State &state)
+    {
+        QRect &box = m_boxes[state.hourClass];
+        if (!box.isNull())
+            return box;
+        for (const auto *times :
+             {&state.hours.hourTimes, &state.hours.minuteTimes, &state.hours.secondTimes}) {
+            for (const Element &time : *times)
+                box |= m_bounds.Of(time);
+        }
+        return box;
+    }
+
+    WorstCase &Found(Part lower, Part upper) { return m_found[{lower, upper}]; }
+
+    ClockYear &m_clock;
+    InkBounds m_bounds;
+    std::map<bool, InkMask> m_under; ///< what texts are drawn over, by half of the day
+    std::map<bool, bool> m_badgeLooked;
+    std::map<std::size_t, QRect> m_boxes;
+    std::map<Parts, WorstCase> m_found;
+};
+
+} // namespace
+
+QVector<Overlap> OverlapsOf(ClockYear &clock)
+{
+    return OverlapCheck(clock).Run();
+}
+
+} // namespace ClockFit
