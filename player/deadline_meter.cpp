@@ -1,5 +1,6 @@
 #include "deadline_meter.h"
 
+#include "calendar/time_units.h"
 #include "instant.h"
 
 #include <algorithm>
@@ -11,7 +12,7 @@ using namespace ClockStage;
 
 namespace {
 
-constexpr qint64 kSecond = 1000;
+using Lw::HNodeClock::kMillisecondsPerSecond;
 
 // By less than this the system's clock may differ from the steady one between two frames before it
 // counts as stepped.
@@ -71,7 +72,7 @@ void DeadlineMeter::Saw(const SeenFrame &frame)
         return;
     }
     const qint64 second = WholeSecond(frame.instant);
-    const qint64 passed = (second - WholeSecond(last->instant)) / kSecond;
+    const qint64 passed = (second - WholeSecond(last->instant)) / kMillisecondsPerSecond;
     if (passed < 1)
         return;
     m_missedSeconds += passed - 1;

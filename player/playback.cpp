@@ -145,7 +145,7 @@ void Playback::ShowStatus()
 QString Playback::Status() const
 {
     const TimeTravel &travel = StageTime::Travel();
-    const QVector<ClockSettings> clocks = Clocks();
+    const QVector<Lw::HNodeClock::ZoneSettings> clocks = Clocks();
     ClockStage::Status status;
     status.instant = StageTime::Shown();
     status.paused = travel.IsPaused();
@@ -158,11 +158,11 @@ QString Playback::Status() const
     return StatusText(status);
 }
 
-QVector<ClockSettings> Playback::Clocks() const
+QVector<Lw::HNodeClock::ZoneSettings> Playback::Clocks() const
 {
-    QVector<ClockSettings> clocks;
+    QVector<Lw::HNodeClock::ZoneSettings> clocks;
     for (Lw::HNode *const node : m_stage.Nodes()) {
-        if (const std::optional<ClockSettings> settings = SettingsOf(node))
+        if (const std::optional<Lw::HNodeClock::ZoneSettings> settings = SettingsOf(node))
             clocks.append(*settings);
     }
     return clocks;

@@ -47,7 +47,7 @@ private:
     void NotePaint(double begun);
     void ShowStatus();
     QString Status() const;
-    QVector<ClockStage::ClockSettings> Clocks() const;
+    QVector<Lw::HNodeClock::ZoneSettings> Clocks() const;
 
     ClockStage::Stage &m_stage;
     PlayerWindow &m_window;

@@ -1,6 +1,7 @@
 #include "clock_status.h"
 
 #include "calendar/clock_time.h"
+#include "calendar/time_units.h"
 #include "clock_attributes.h"
 #include "hnode.h"
 
@@ -15,31 +16,6 @@ namespace ClockStage {
 namespace {
 
 using namespace Lw::HNodeClock;
-
-constexpr qint64 kSecond = 1000;
-constexpr int kYearsToSearch = 50;
-
-/// Readings of the zone's standard time at which daylight saving may begin or end in a year: what
-/// its rules name, and the new year, when the rules of another year come into force.
-QVector<qint64> CandidatesOf(int year, const DaylightRule &start, const DaylightRule &end)
-{
-    QVector<qint64> candidates {
-        QDateTime(QDate(year, 1, 1), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch()};
-    for (const DaylightRule &rule : {start, end}) {
-        const QDateTime boundary = BoundaryInYear(rule, year);
-        if (boundary.isValid())
-            candidates.append(boundary.toMSecsSinceEpoch());
-    }
-    std::sort(candidates.begin(), candidates.end());
-    return candidates;
-}
-
-int ShiftAt(const ClockSettings &settings, qint64 reading)
-{
-    return settings.savesDaylight
-        ? DaylightSaving().ShiftSeconds(settings.start, settings.end, reading)
-        : 0;
-}
 
 // Read from the table itself: the plugin's sources are not linked here.
 QString KeyOf(Attribute attribute)
@@ -64,8 +40,9 @@ QString OffsetText(int seconds)
     const auto field = [](int number) {
         return QStringLiteral(":%1").arg(number, 2, 10, QLatin1Char('0'));
     };
-    return QLatin1Char(seconds < 0 ? '-' : '+') + field(size / 3600).mid(1) + field(size / 60 % 60)
-        + (size % 60 ? field(size % 60) : QString());
+    return QLatin1Char(seconds < 0 ? '-' : '+') + field(size / kSecondsPerHour).mid(1)
+        + field(size / kSecondsPerMinute % 60)
+        + (size % kSecondsPerMinute ? field(size % kSecondsPerMinute) : QString());
 }
 
 QString TravelText(const Status &status)
@@ -82,7 +59,7 @@ QString ClockText(const Status &status)
 {
     const int offset = OffsetAt(*status.clock, status.instant);
     const QString reading =
-        PlainText(Utc(status.instant + offset * kSecond), "yyyy-MM-dd HH:mm:ss ")
+        PlainText(Utc(status.instant + offset * kMillisecondsPerSecond), "yyyy-MM-dd HH:mm:ss ")
         + OffsetText(offset);
     if (status.clockCount == 1)
         return reading;
@@ -94,11 +71,11 @@ QString ClockText(const Status &status)
 
 QString ChangeText(const Status &status)
 {
-    const std::optional<Change> change = NextChange(*status.clock, status.instant);
+    const std::optional<ZoneChange> change = NextChange(*status.clock, status.instant);
     if (!change)
         return QStringLiteral("no daylight saving");
     const auto timeOfDay = [&change](int offset) {
-        return PlainText(Utc(change->instant + offset * kSecond), "HH:mm:ss");
+        return PlainText(Utc(change->instant + offset * kMillisecondsPerSecond), "HH:mm:ss");
     };
     return QStringLiteral("daylight saving %1 %2: %3 becomes %4")
         .arg(change->after > change->before ? QStringLiteral("begins") : QStringLiteral("ends"),
@@ -107,43 +84,19 @@ QString ChangeText(const Status &status)
 
 } // namespace
 
-std::optional<ClockSettings> SettingsOf(Lw::HNode *node)
+std::optional<ZoneSettings> SettingsOf(Lw::HNode *node)
 {
     if (!node || !node->HaveAttribute(KeyOf(Attribute::TimeZone)))
         return std::nullopt;
-    ClockSettings settings;
-    settings.offsetSeconds = ClockOffset(node->GetAttribute(KeyOf(Attribute::TimeZone)),
-                                         node->GetAttribute(KeyOf(Attribute::TimeAdjust)),
-                                         node->GetAttributeToInt(KeyOf(Attribute::AdjustType)));
-    settings.savesDaylight = node->GetAttributeToInt(KeyOf(Attribute::UseDaylightSavingTime)) == 1;
-    settings.start = node->GetAttribute(KeyOf(Attribute::DaylightSavingTimeStart));
-    settings.end = node->GetAttribute(KeyOf(Attribute::DaylightSavingTimeEnd));
-    return settings;
-}
-
-int OffsetAt(const ClockSettings &settings, qint64 instant)
-{
-    return settings.offsetSeconds + ShiftAt(settings, instant + settings.offsetSeconds * kSecond);
-}
-
-std::optional<Change> NextChange(const ClockSettings &settings, qint64 instant)
-{
-    const std::optional<DaylightRule> start = ParseDaylightRule(settings.start);
-    const std::optional<DaylightRule> end = ParseDaylightRule(settings.end);
-    if (!settings.savesDaylight || !start || !end)
-        return std::nullopt;
-    const qint64 offset = settings.offsetSeconds * kSecond;
-    const int now = ShiftAt(settings, instant + offset);
-    const int year = std::max(1, SplitReading(instant + offset).year);
-    for (int later = 0; later <= kYearsToSearch; ++later) {
-        for (const qint64 candidate : CandidatesOf(year + later, *start, *end)) {
-            const int shift = ShiftAt(settings, candidate);
-            if (candidate > instant + offset && shift != now)
-                return Change {candidate - offset, settings.offsetSeconds + now,
-                               settings.offsetSeconds + shift};
-        }
+    ZoneSettings settings;
+    settings.offset = ClockOffset(node->GetAttribute(KeyOf(Attribute::TimeZone)),
+                                  node->GetAttribute(KeyOf(Attribute::TimeAdjust)),
+                                  node->GetAttributeToInt(KeyOf(Attribute::AdjustType)));
+    if (node->GetAttributeToInt(KeyOf(Attribute::UseDaylightSavingTime)) == 1) {
+        settings.start = node->GetAttribute(KeyOf(Attribute::DaylightSavingTimeStart));
+        settings.end = node->GetAttribute(KeyOf(Attribute::DaylightSavingTimeEnd));
     }
-    return std::nullopt;
+    return settings;
 }
 
 QString StatusText(const Status &status)

@@ -1,5 +1,7 @@
-// stage/: the time of one clock at an instant, its next change, and a line of text about both.
+// stage/: the time settings of a clock, and a line of text about its time and its next change.
 #pragma once
+
+#include "calendar/zone_time.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -12,39 +14,17 @@ class HNode;
 
 namespace ClockStage {
 
-/// The settings that determine a clock's time.
-struct ClockSettings
-{
-    int offsetSeconds = 0; ///< added to UTC, without daylight saving
-    bool savesDaylight = false;
-    QString start; ///< rules of daylight saving
-    QString end;
-};
-
-/// The settings that a node has now; nothing for a node that is not a clock.
-std::optional<ClockSettings> SettingsOf(Lw::HNode *node);
-
-/// Seconds that the clock adds to UTC at an instant (UTC milliseconds).
-int OffsetAt(const ClockSettings &settings, qint64 instant);
-
-struct Change
-{
-    qint64 instant; ///< UTC milliseconds: the first at which the new time is shown
-    int before;     ///< seconds added to UTC before it,
-    int after;      ///< and from it on
-};
-
-/// The first change after an instant; nothing when there is none within 50 years. (A rule may name
-/// a day that only some years have: a fifth Sunday in February comes after 40 years at the latest.)
-std::optional<Change> NextChange(const ClockSettings &settings, qint64 instant);
+/// The time settings that a node has now; without daylight saving both rules are empty. Nothing for
+/// a node that is not a clock.
+std::optional<Lw::HNodeClock::ZoneSettings> SettingsOf(Lw::HNode *node);
 
 struct Status
 {
     qint64 instant = 0; ///< UTC milliseconds
     bool paused = false;
     double speed = 1;
-    std::optional<ClockSettings> clock; ///< nothing: the program has no clock
-    int clockNumber = 1;                ///< from 1
+    std::optional<Lw::HNodeClock::ZoneSettings> clock; ///< nothing: the program has no clock
+    int clockNumber = 1;                               ///< from 1
     int clockCount = 1;
 };
 

@@ -1,13 +1,13 @@
 #include "instant.h"
 
+#include "calendar/time_units.h"
+
 #include <QDateTime>
 #include <QRegularExpression>
 
 namespace ClockStage {
 
 namespace {
-
-constexpr qint64 kSecond = 1000;
 
 // Named groups, in the order of the grammar in the header.
 const char kInstantPattern[] =
@@ -51,13 +51,14 @@ std::optional<qint64> ParseInstant(const QString &text)
     const std::optional<int> offset = OffsetSeconds(match);
     if (!date.isValid() || !time.isValid() || !offset)
         return std::nullopt;
-    return QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch() - *offset * kSecond;
+    return QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch()
+        - *offset * Lw::HNodeClock::kMillisecondsPerSecond;
 }
 
 qint64 WholeSecond(qint64 milliseconds)
 {
-    const qint64 rest = milliseconds % kSecond;
-    return milliseconds - (rest < 0 ? rest + kSecond : rest);
+    using namespace Lw::HNodeClock;
+    return milliseconds - FloorModulo(milliseconds, kMillisecondsPerSecond);
 }
 
 } // namespace ClockStage
