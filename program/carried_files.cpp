@@ -22,13 +22,6 @@ namespace {
 // Of an image within the plugin's bounds, with 64 bits a pixel and room for what is between them.
 constexpr qint64 kLargestFile = 136LL << 20; // bytes
 
-struct FileCheck
-{
-    QString fault; ///< what is wrong with the file; empty for nothing
-    qint64 size = 0;
-    QString digest;
-};
-
 /// The digest of so many bytes; empty where there are fewer, or they cannot be read.
 QString DigestOf(QFile &file, qint64 size)
 {
@@ -49,53 +42,24 @@ bool IsOrdinary(const struct stat &status)
     return S_ISREG(status.st_mode);
 }
 
-/// Devices are not even opened. What the name stands for may change in between, so the file is
-/// opened without waiting for a pipe's writer, and is asked again what it is.
-FileCheck CheckFile(const QString &path)
+/// Opens an ordinary file; what is wrong where it cannot be. Devices are not even opened. What the
+/// name stands for may change in between, so the file is opened without waiting for a pipe's writer
+/// and is asked again what it is.
+QString Open(QFile &file, const QString &path, struct stat &status)
 {
     const QByteArray name = QFile::encodeName(path);
-    struct stat status
-    { };
     if (name.contains('\0') || stat(name.constData(), &status) != 0)
-        return {QStringLiteral("is missing"), 0, {}};
+        return QStringLiteral("is missing");
     const bool wasOrdinary = IsOrdinary(status);
     const int descriptor =
         wasOrdinary ? open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC) : -1;
     if (wasOrdinary && descriptor < 0)
-        return {QStringLiteral("cannot be read"), 0, {}};
-    QFile file;
+        return QStringLiteral("cannot be read");
     if (!file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle)
         || fstat(descriptor, &status) != 0 || !IsOrdinary(status))
-        return {QStringLiteral("is not an ordinary file"), 0, {}};
-    if (status.st_size > kLargestFile)
-        return {QStringLiteral("is larger than %1 bytes").arg(kLargestFile), status.st_size, {}};
-    const QString digest = DigestOf(file, status.st_size);
-    return {digest.isEmpty() ? QStringLiteral("cannot be read") : QString(), status.st_size,
-            digest};
+        return QStringLiteral("is not an ordinary file");
+    return {};
 }
-
-/// Clocks share many of their files; each file is read once.
-class FileChecks
-{
-public:
-    /// What is wrong with a file; empty when nothing is.
-    QString Fault(const QString &path, const Lw::FileRecord &record)
-    {
-        const auto known = m_checks.constFind(path);
-        const FileCheck check =
-            known != m_checks.constEnd() ? *known : *m_checks.insert(path, CheckFile(path));
-        if (!check.fault.isEmpty())
-            return check.fault;
-        if (record.size >= 0 && check.size != record.size)
-            return QStringLiteral("has %1 bytes, expected %2").arg(check.size).arg(record.size);
-        if (check.digest != record.name)
-            return QStringLiteral("has the digest %1, expected %2").arg(check.digest, record.name);
-        return {};
-    }
-
-private:
-    QHash<QString, FileCheck> m_checks;
-};
 
 /// Picture clocks have no glyph images; what other elements need is not known here.
 bool NeedsFiles(Lw::HNode &node)
@@ -106,10 +70,36 @@ bool NeedsFiles(Lw::HNode &node)
 
 } // namespace
 
+CarriedFiles::CarriedFiles(const QString &programPath)
+    : m_directory(QFileInfo(programPath).absoluteDir())
+{ }
+
+QString CarriedFiles::Fault(const Lw::FileRecord &record)
+{
+    const QString path = PathOf(record);
+    QFile file;
+    struct stat status
+    { };
+    const QString fault = Open(file, path, status);
+    if (!fault.isEmpty())
+        return fault;
+    if (record.size >= 0 && status.st_size != record.size)
+        return QStringLiteral("has %1 bytes, expected %2").arg(status.st_size).arg(record.size);
+    if (status.st_size > kLargestFile)
+        return QStringLiteral("is larger than %1 bytes").arg(kLargestFile);
+    auto digest = m_digests.constFind(path);
+    if (digest == m_digests.constEnd())
+        digest = m_digests.insert(path, DigestOf(file, status.st_size));
+    if (digest->isEmpty())
+        return QStringLiteral("cannot be read");
+    if (*digest != record.name)
+        return QStringLiteral("has the digest %1, expected %2").arg(*digest, record.name);
+    return {};
+}
+
 QStringList ResolveCarriedFiles(const Program &program, MadeNodes &made)
 {
-    const QDir directory = QFileInfo(program.path).absoluteDir();
-    FileChecks check;
+    CarriedFiles files(program.path);
     QStringList warnings;
     for (int i = 0; i < program.areas.size(); ++i) {
         Lw::HNode &node = *made.nodes[static_cast<std::size_t>(i)].node;
@@ -120,9 +110,9 @@ QStringList ResolveCarriedFiles(const Program &program, MadeNodes &made)
         if (records.isEmpty() && NeedsFiles(node))
             warn(QStringLiteral("the clock has no <file> elements; --use-files makes no images"));
         for (const Lw::FileRecord &record : records) {
-            const QString path = directory.absoluteFilePath(record.path);
+            const QString path = files.PathOf(record);
             node.SetFilePath(record.key, path, record.name, record.size, record.kind);
-            const QString fault = check.Fault(path, record);
+            const QString fault = files.Fault(record);
             if (!fault.isEmpty())
                 warn(QStringLiteral("the file %1 of %2 %3").arg(path, record.key, fault));
         }

@@ -1,5 +1,7 @@
 #include "program_file.h"
 
+#include <QStringList>
+
 namespace ClockProgram {
 
 namespace {
@@ -31,8 +33,9 @@ private:
             return Fail(
                 root,
                 QStringLiteral("the root element is <%1>, expected <program>").arg(root.tagName()));
-        m_program.size.setWidth(Number(root, QStringLiteral("width"), 1));
-        m_program.size.setHeight(Number(root, QStringLiteral("height"), 1));
+        m_program.size.setWidth(Number(root, "width", 1));
+        m_program.size.setHeight(Number(root, "height", 1));
+        FailOnWrongNumbers(root);
         if (!m_failure && PixelsOf(m_program.size) > kMaximumPixels)
             return Fail(root,
                         QStringLiteral("the screen has more than %1 pixels").arg(kMaximumPixels));
@@ -50,10 +53,10 @@ private:
                 element,
                 QStringLiteral("unexpected element <%1>, expected <area>").arg(element.tagName()));
         ProgramArea area;
-        area.geometry = QRect(Number(element, QStringLiteral("x"), -kMaximumSide),
-                              Number(element, QStringLiteral("y"), -kMaximumSide),
-                              Number(element, QStringLiteral("width"), 1),
-                              Number(element, QStringLiteral("height"), 1));
+        area.geometry =
+            QRect(Number(element, "x", -kMaximumSide), Number(element, "y", -kMaximumSide),
+                  Number(element, "width", 1), Number(element, "height", 1));
+        FailOnWrongNumbers(element);
         area.element = element.firstChildElement();
         m_pixels += PixelsOf(area.geometry.size());
         if (m_failure)
@@ -80,18 +83,26 @@ private:
         }
     }
 
-    int Number(const QDomElement &element, const QString &name, int minimum)
+    int Number(const QDomElement &element, const char *name, int minimum)
     {
         bool isNumber = false;
-        const int number = element.attribute(name).toInt(&isNumber);
+        const int number = element.attribute(QLatin1String(name)).toInt(&isNumber);
         if (isNumber && number >= minimum && number <= kMaximumSide)
             return number;
-        Fail(element,
-             QStringLiteral("<%1> needs %2 as a whole number from %3 to %4")
-                 .arg(element.tagName(), name)
-                 .arg(minimum)
-                 .arg(kMaximumSide));
+        m_wrongNumbers.append(QStringLiteral("%1 from %2 to %3")
+                                  .arg(QLatin1String(name))
+                                  .arg(minimum)
+                                  .arg(kMaximumSide));
         return minimum;
+    }
+
+    /// All of an element at once.
+    void FailOnWrongNumbers(const QDomElement &element)
+    {
+        if (!m_wrongNumbers.isEmpty())
+            Fail(element,
+                 QStringLiteral("<%1> needs %2, as whole numbers")
+                     .arg(element.tagName(), m_wrongNumbers.join(QStringLiteral(", "))));
     }
 
     void Fail(const QDomElement &element, const QString &text)
@@ -102,6 +113,7 @@ private:
 
     Program m_program;
     MaybeFailure m_failure;
+    QStringList m_wrongNumbers;
     qint64 m_pixels = 0;
 };
 

@@ -26,7 +26,7 @@ using namespace ClockProgram;
 constexpr char kDescription[] =
     "Makes a program from SDK XML. Every clock element, wherever it stands in the document, gets\n"
     "an area of its own. Areas are stacked; where the screen would get too high they go on in\n"
-    "further columns. What an element says is kept as it stands.";
+    "further columns. What an element says is kept, colours with six digits.";
 
 const QString kArea = QStringLiteral("area");
 const QString kDefaultArea = QStringLiteral("256x128");
@@ -71,6 +71,22 @@ void SetRectangle(QDomElement &area, const QRect &rectangle)
     area.setAttribute(QStringLiteral("height"), rectangle.height());
 }
 
+/// The SDK's form has two digits of opacity in front, which no clock reads.
+void ShortenColours(QDomElement element)
+{
+    static const QRegularExpression form(QStringLiteral("^#[0-9a-fA-F]{8}$"));
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.count(); ++i) {
+        QDomAttr attribute = attributes.item(i).toAttr();
+        if (attribute.name().endsWith(QLatin1String("color"), Qt::CaseInsensitive)
+            && form.match(attribute.value()).hasMatch())
+            attribute.setValue(QLatin1Char('#') + attribute.value().right(6));
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement())
+        ShortenColours(child);
+}
+
 QDomElement ProgramOf(QDomDocument &document, const QVector<QDomElement> &clocks, QSize size)
 {
     const int rows = qMin(clocks.size(), kMaximumSide / size.height());
@@ -82,7 +98,7 @@ QDomElement ProgramOf(QDomDocument &document, const QVector<QDomElement> &clocks
         QDomElement area = document.createElement(kAreaTag);
         const QPoint position(i / rows * size.width(), i % rows * size.height());
         SetRectangle(area, QRect(position, size));
-        area.appendChild(document.importNode(clocks[i], true));
+        ShortenColours(area.appendChild(document.importNode(clocks[i], true)).toElement());
         program.appendChild(area);
     }
     return program;

@@ -3,6 +3,7 @@
 
 #include "command_support.h"
 #include "output.h"
+#include "suggestion.h"
 
 #include <QGuiApplication>
 
@@ -62,6 +63,14 @@ void KeepFatalMessages(QtMsgType type, const QMessageLogContext &, const QString
         Say(message);
 }
 
+QStringList CommandNames()
+{
+    QStringList names;
+    for (const Command &command : kCommands)
+        names.append(QLatin1String(command.name));
+    return names;
+}
+
 int Run(const QStringList &arguments)
 {
     const QString first = arguments.value(1);
@@ -75,7 +84,8 @@ int Run(const QStringList &arguments)
     }
     return static_cast<int>(Report(ClockProgram::UsageFailure(
         first.isEmpty() ? QStringLiteral("no command given")
-                        : QStringLiteral("there is no command \"%1\"").arg(first))));
+                        : QStringLiteral("there is no command %1%2")
+                              .arg(Quoted(first), Suggestion(first, CommandNames())))));
 }
 
 } // namespace

@@ -32,6 +32,12 @@ void ToolArguments::AddOption(const QStringList &names, const QString &descripti
     m_parser.addOption({names, description, value});
 }
 
+void ToolArguments::AddAlternative(const QString &name, const QString &description)
+{
+    m_alternative = name;
+    m_parser.addOption({name, description});
+}
+
 void ToolArguments::AddOutput()
 {
     m_writesOutput = true;
@@ -66,7 +72,11 @@ std::optional<CommandResult> ToolArguments::Parse(const QStringList &arguments)
 MaybeFailure ToolArguments::CheckGiven() const
 {
     const QStringList given = Positionals();
-    if (given.size() < m_positionals.size())
+    const bool isAlternative = !m_alternative.isEmpty() && IsSet(m_alternative);
+    if (isAlternative && !given.isEmpty())
+        return UsageFailure(
+            QStringLiteral("--%1 has no use for \"%2\"").arg(m_alternative, given[0]));
+    if (!isAlternative && given.size() < m_positionals.size())
         return UsageFailure(QStringLiteral("%1 needs %2")
                                 .arg(m_name, QString(m_positionals[given.size()]).remove(kMore)));
     const bool takesMore = !m_positionals.isEmpty() && m_positionals.last().endsWith(kMore);

@@ -20,6 +20,8 @@ public:
     void AddPositional(const QString &name, const QString &description);
     /// An option with a value.
     void AddOption(const QStringList &names, const QString &description, const QString &value);
+    /// An option without a value that makes the named arguments unneeded.
+    void AddAlternative(const QString &name, const QString &description);
     void AddOutput();   ///< -o FILE
     void AddLanguage(); ///< --language, for commands that make glyph images
 
@@ -41,6 +43,7 @@ private:
 
     QString m_name;
     QStringList m_positionals;
+    QString m_alternative;
     bool m_writesOutput = false;
     QCommandLineParser m_parser;
 };

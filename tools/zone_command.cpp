@@ -19,7 +19,7 @@ using namespace Lw::HNodeClock;
 
 constexpr char kDescription[] =
     "Writes the settings with which a clock shows a zone's civil time, ready to be put into the\n"
-    "<clock> of a program, and what was found when they were held against every change of the\n"
+    "<clock> of a program, and the result of comparing them with every change of the\n"
     "zone in ten years. The zone is named as the system names it: Europe/Berlin. Of several\n"
     "settings that are right all that time, the ones that stay right longest afterwards are\n"
     "written, with the date until which they do.\n"
@@ -35,6 +35,7 @@ constexpr char kDescription[] =
 constexpr int kFirstYear = 1970;
 constexpr int kLastYear = 2027;
 
+const QString kList = QStringLiteral("list");
 const QString kYear = QStringLiteral("year");
 
 QString TextOf(qint64 utc)
@@ -77,9 +78,9 @@ int YearBefore(qint64 utc)
 }
 
 /// Nobody should take the settings to be right for ever.
-QString LookAgain(qint64 until)
+QString CheckAgain(qint64 until)
 {
-    return QStringLiteral("; look again after %1").arg(YearBefore(until));
+    return QStringLiteral("; check again after %1").arg(YearBefore(until));
 }
 
 /// How long settings hold that are exact, before what was looked at after the ten years ends.
@@ -87,10 +88,10 @@ QString Lasting(qint64 until, const CivilTime &after)
 {
     if (until < after.end)
         return Comment(QStringLiteral("They stay right until %1").arg(TextOf(until))
-                       + LookAgain(until));
+                       + CheckAgain(until));
     return Comment(QStringLiteral("They stay right until %1, where the system's zone data end")
                        .arg(DateOf(until))
-                   + LookAgain(until));
+                   + CheckAgain(until));
 }
 
 QString Verdict(const QString &zone, const CivilTime &civil, const QVector<WrongTime> &wrong)
@@ -108,15 +109,20 @@ QString Verdict(const QString &zone, const CivilTime &civil, const QVector<Wrong
         text += Comment(QStringLiteral("from %1 to %2: %3")
                             .arg(TextOf(time.begin), TextOf(time.end), ErrorText(time.error)));
     return text
-        + Comment(QStringLiteral("What comes after %1 was not looked at").arg(DateOf(civil.end))
-                  + LookAgain(civil.end));
+        + Comment(QStringLiteral("What comes after %1 was not checked").arg(DateOf(civil.end))
+                  + CheckAgain(civil.end));
+}
+
+Failure NoZoneData()
+{
+    return {ExitCode::RuntimeFailure,
+            QStringLiteral("the system has no zone data; install the Debian package tzdata")};
 }
 
 Failure NoSuchZone(const QString &name)
 {
-    if (ZoneNames().isEmpty())
-        return {ExitCode::ProgramError,
-                QStringLiteral("the system has no zone data (Debian package: tzdata)")};
+    if (!HasZoneData(ZoneNames()))
+        return NoZoneData();
     const QString nearest = NearestZone(name);
     return {ExitCode::ProgramError,
             QStringLiteral("the system has no zone %1%2")
@@ -132,6 +138,14 @@ QDate FirstDay(const ToolArguments &tool)
         return Lw::HNodeClock::SystemDate();
     const int year = tool.Value(kYear).toInt();
     return year >= kFirstYear && year <= kLastYear ? QDate(year, 1, 1) : QDate();
+}
+
+CommandResult ListZones(const ToolArguments &tool)
+{
+    const QList<QByteArray> names = ZoneNames();
+    if (!HasZoneData(names))
+        return Report(NoZoneData());
+    return Deliver(tool.Output(), names.join('\n') + '\n');
 }
 
 CommandResult WriteSettings(const ToolArguments &tool, const Span &span)
@@ -167,8 +181,11 @@ CommandResult RunZone(const QStringList &arguments)
                        .arg(kLastYear),
                    kYear);
     tool.AddOutput();
+    tool.AddAlternative(kList, QStringLiteral("List the system's zones, one per line."));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
+    if (tool.IsSet(kList))
+        return ListZones(tool);
     const QDate first = FirstDay(tool);
     if (!first.isValid())
         return Report(ClockProgram::UsageFailure(

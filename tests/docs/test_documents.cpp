@@ -297,7 +297,7 @@ void TestDocuments::linksLeadSomewhere()
 void TestDocuments::quotedLinesExist()
 {
     QString sources;
-    for (const char *folder : {"player", "program", "host", "clock_plugin", "tools/lint"}) {
+    for (const char *folder : {"player", "program", "host", "clock_plugin", "tools"}) {
         QDirIterator files(InTree(folder), {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext())
             sources += QString::fromUtf8(ReadText(files.next()));
@@ -308,7 +308,7 @@ void TestDocuments::quotedLinesExist()
           "not a Qt plugin", "a plugin for another host", "no display can be reached",
           "no plugin claims the element", "\"File [%s] key[%s]not exists",
           "soucepath[%s], dest[%s]", "not in temp file[%s]",
-          "with the end %1 it gives the time of"}) {
+          "daylight saving ends an hour late for %2"}) {
         QVERIFY2(sources.contains(line), line);
         const QString quoted = QString(line).replace("<%1>", "<clock>").section('%', 0, 0);
         QVERIFY2(Document("docs/troubleshooting.md").contains(quoted.section('[', 0, 0)), line);

@@ -9,17 +9,24 @@ namespace {
 /// A digital clock with this content in the second line.
 QByteArray Digital(const QByteArray &content)
 {
-    return ProgramOf("<clock type='digital'>\n" + content + "\n</clock>");
+    return ProgramOf("<clock type='digital' timezone='+00:00'>\n" + content + "\n</clock>");
 }
 
 QByteArray Analog(const QByteArray &content)
 {
-    return ProgramOf("<clock type='dial'>\n" + content + "\n</clock>");
+    return ProgramOf("<clock type='dial' timezone='+00:00'>\n" + content + "\n</clock>");
 }
 
 QByteArray Setting(const QByteArray &key, const QByteArray &value)
 {
     return Digital("<attribute key='" + key + "' value='" + value + "'/>");
+}
+
+/// A clock with a file that came with it.
+QByteArray Carried(const QByteArray &path, const QByteArray &digest, int size)
+{
+    return Digital("<file key='_timeNumber' path='" + path + "' md5='" + digest + "' size='"
+                   + QByteArray::number(size) + "'/>");
 }
 
 QStringList Warnings(const QString &errors)
@@ -40,6 +47,8 @@ private slots:
     void Finds();
     void EveryFindingIsReported();
     void NotesDoNotCount();
+    void MissingZoneIsNoted_data();
+    void MissingZoneIsNoted();
     void ExportedCodesAreNoted_data();
     void ExportedCodesAreNoted();
     void SeveralPrograms_data();
@@ -50,6 +59,7 @@ private:
     ProcessRun Lint(const QByteArray &text)
     {
         WriteText(m_directory.filePath("in.xml"), text);
+        WriteText(m_directory.filePath("in.png"), "hello");
         return RunTool({"lint", m_directory.filePath("in.xml")});
     }
 
@@ -85,9 +95,13 @@ void TestToolLint::Clean_data()
     QTest::newRow("adjustment") << ProgramOf("<clock adjust='-00:05:00' timezone='-9:30'/>");
     QTest::newRow("stored adjustment") << Setting("TimeAdjust", "23A59B59");
     QTest::newRow("stored colour") << Setting("DigitalTimeColor", "16777215");
-    QTest::newRow("carried file") << Digital(
-        "<file key='_timeNumber' md5='0123456789abcdef0123456789abcdef' size='1' "
-        "path='files/a.png'/>");
+    QTest::newRow("carried file") << Carried("in.png", "5d41402abc4b2a76b9719d911017c592", 5);
+    QTest::newRow("opaque colour") << Digital("<date color='#ff112233'/>");
+    QTest::newRow("hidden label of a picture clock")
+        << ProgramOf("<clock type='picture'><title display='false'/><date/></clock>");
+    QTest::newRow("area that is half seen")
+        << QByteArray("<program width='64' height='32'><area x='60' y='-4' width='8' height='8'>"
+                      "<clock timezone='+00:00'/></area></program>");
 }
 
 void TestToolLint::Clean()
@@ -197,6 +211,51 @@ void TestToolLint::Finds_data()
         "<program width='32767' height='410'>\n<area x='0' y='0' width='32767' height='410'>"
         "<clock/></area></program>",
         1, {"257 MiB", "more than 256"});
+    row("rules that are not used",
+        Digital("<attribute key='DaylightSavingTimeStart' value='3.Last.7.02:00:00'/>"
+                "<attribute key='DaylightSavingTimeEnd' value='10.Last.7.02:00:00'/>"),
+        1, {"not used", "UseDaylightSavingTime is 0", "accepted: 1"});
+    row("rules with a flag of another number",
+        Digital("<clockCom clockType='1' timeZone='+01:00' isDaylightSavingTime='0' "
+                "Start='3.Last.7.02:00:00' End='10.Last.7.02:00:00'/>"),
+        1, {"not used"});
+    row("end as published",
+        Digital("<attribute key='TimeZone' value='+01:00'/>"
+                "<attribute key='UseDaylightSavingTime' value='1'/>"
+                "<attribute key='DaylightSavingTimeStart' value='3.Last.7.02:00:00'/>"
+                "<attribute key='DaylightSavingTimeEnd' value='10.Last.7.03:00:00'/>"),
+        1, {"an hour late for Europe/Berlin", "accepted: 10.Last.7.02:00:00"});
+    row("all rows hidden",
+        Digital("<title display='false'/><date display='false'/><week display='false'/>"
+                "<time display='false'/>"),
+        1, {"all rows of this clock are hidden", "display=\"true\""});
+    row("only an empty label shown",
+        Digital("<title value='' display='true'/><date display='false'/>"
+                "<week display='false'/><time display='false'/>"),
+        1, {"all rows"});
+    row("label of a picture clock", ProgramOf("<clock type='picture'>\n<title value='x'/></clock>"),
+        2, {"<title> has no effect", "picture clock"});
+    row("hands of a picture clock",
+        ProgramOf("<clock>\n<analog hourHandColor='red'/>"
+                  "<attribute key='ClockType' value='2'/></clock>"),
+        2, {"<analog> has no effect"});
+    row("opacity behind the colour", Digital("<date color='#11223344'/>"), 2,
+        {"#aarrggbb, which is the colour #223344", "#rrggbbaa: #112233"});
+    row("area outside the screen",
+        "<program width='64' height='32'>\n<area x='64' y='0' width='8' height='8'><clock/></area>"
+        "</program>",
+        2, {"outside the screen of 64 x 32"});
+    row("type in capitals", ProgramOf("<clock\n type='Digital'>\n<digital/><time/></clock>"), 2,
+        {"type=\"Digital\"", "\"digital\""});
+    row("file that is missing", Carried("none.png", "0123456789abcdef0123456789abcdef", 1), 2,
+        {"the file \"none.png\" is missing"});
+    row("file of other bytes", Carried("in.png", "0123456789abcdef0123456789abcdef", 5), 2,
+        {"the file \"in.png\" has the digest 5d41402abc4b2a76b9719d911017c592"});
+    row("file of another size", Carried("in.png", "5d41402abc4b2a76b9719d911017c592", 6), 2,
+        {"has 5 bytes, expected 6"});
+    row("screen without a size",
+        "<program><area x='0' y='0' width='1' height='1'><clock/></area></program>", 1,
+        {"width from 1 to 32767, height from 1 to 32767"});
     row("two clocks with one Id",
         "<program width='1' height='1'>"
         "<area x='0' y='0' width='1' height='1'><clock>\n<attribute key='Id' value='7'/></clock>"
@@ -257,6 +316,31 @@ void TestToolLint::ExportedCodesAreNoted()
     QCOMPARE(run.errors.count('\n'), 1);
 }
 
+void TestToolLint::MissingZoneIsNoted_data()
+{
+    QTest::addColumn<QByteArray>("clock");
+    QTest::addColumn<bool>("isNoted");
+    QTest::newRow("none") << QByteArray("<clock/>") << true;
+    QTest::newRow("attribute") << QByteArray("<clock timezone='+00:00'/>") << false;
+    QTest::newRow("setting") << QByteArray(
+        "<clock><attribute key='TimeZone' value='+00:00'/></clock>")
+                             << false;
+    QTest::newRow("older form") << QByteArray(
+        "<clock><clockCom clockType='0' timeZone='+00:00'/></clock>")
+                                << false;
+    QTest::newRow("older form without")
+        << QByteArray("<clock><clockCom clockType='0'/></clock>") << true;
+}
+
+void TestToolLint::MissingZoneIsNoted()
+{
+    QFETCH(QByteArray, clock);
+    QFETCH(bool, isNoted);
+    const ProcessRun run = Lint(ProgramOf(clock));
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.errors.contains("in.xml:1: note: the clock names no time zone"), isNoted);
+}
+
 void TestToolLint::SeveralPrograms_data()
 {
     QTest::addColumn<QStringList>("names");
@@ -277,7 +361,7 @@ void TestToolLint::SeveralPrograms()
     QFETCH(QStringList, names);
     QFETCH(int, code);
     QFETCH(int, lines);
-    QVERIFY(WriteText(m_directory.filePath("sound.xml"), Digital("")));
+    QVERIFY(WriteText(m_directory.filePath("sound.xml"), ProgramOf("<clock timezone='+01:00'/>")));
     QVERIFY(WriteText(m_directory.filePath("faulty.xml"), Digital("<weak/>")));
     QVERIFY(WriteText(m_directory.filePath("text.xml"), "text"));
     QStringList arguments {"lint"};
@@ -285,7 +369,8 @@ void TestToolLint::SeveralPrograms()
         arguments.append(m_directory.filePath(name));
     const ProcessRun run = RunTool(arguments);
     QCOMPARE(run.exitCode, code);
-    QCOMPARE(run.errors.count('\n'), lines);
+    const int notes = run.errors.count(": note: ");
+    QCOMPARE(run.errors.count('\n') - notes, lines);
     for (const QString &name : names)
         QCOMPARE(run.errors.contains("/" + name + ":"), name != "sound.xml");
 }

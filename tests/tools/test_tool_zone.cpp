@@ -32,6 +32,7 @@ private slots:
     void unknown_data();
     void unknown();
     void lintKnowsTheZone();
+    void list();
     void toFile();
 };
 
@@ -58,7 +59,7 @@ void TestToolZone::exact()
                           settings["DaylightSavingTimeStart"], settings["DaylightSavingTimeEnd"]}),
              values);
     QVERIFY2(run.output.contains("exact from 2026-01-01 to 2036-01-01"), qPrintable(run.output));
-    QVERIFY2(run.output.contains("right until 2038-01-01, where the system's zone data end; look "
+    QVERIFY2(run.output.contains("right until 2038-01-01, where the system's zone data end; check "
                                  "again after 2037"),
              qPrintable(run.output));
 }
@@ -70,7 +71,7 @@ void TestToolZone::exactForAWhile()
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(Settings(run.output)["DaylightSavingTimeStart"], QString("4.1.7.02:00:00"));
     QVERIFY2(run.output.contains("exact from 1990-01-01 to 2000-01-01"), qPrintable(run.output));
-    QVERIFY2(run.output.contains("right until 2007-03-11T08:00:00Z; look again after 2006"),
+    QVERIFY2(run.output.contains("right until 2007-03-11T08:00:00Z; check again after 2006"),
              qPrintable(run.output));
 }
 
@@ -85,7 +86,7 @@ void TestToolZone::notExact()
     QVERIFY2(run.output.contains("from 2030-03-22T00:00:00Z to 2030-03-29T00:00:00Z: 1:00:00 fast"),
              qPrintable(run.output));
     QCOMPARE(run.output.count("fast") + run.output.count("slow"), 1);
-    QVERIFY2(run.output.contains("after 2036-01-01 was not looked at; look again after 2035"),
+    QVERIFY2(run.output.contains("after 2036-01-01 was not checked; check again after 2035"),
              qPrintable(run.output));
     QCOMPARE(Settings(run.output)["DaylightSavingTimeStart"], QString("3.4.5.02:00:00"));
 }
@@ -98,6 +99,14 @@ void TestToolZone::unknown_data()
                           << "no zone \"Europe/Berln\"; did you mean Europe/Berlin?";
     QTest::newRow("city") << "new york"
                           << "did you mean America/New_York?";
+    QTest::newRow("city in the zone of another") << "Munich"
+                                                 << "did you mean Europe/Berlin?";
+    QTest::newRow("capital without a zone") << "beijing"
+                                            << "did you mean Asia/Shanghai?";
+    QTest::newRow("city with a continent") << "Asia/Mumbai"
+                                           << "did you mean Asia/Kolkata?";
+    QTest::newRow("city of two words") << "san francisco"
+                                       << "did you mean America/Los_Angeles?";
     QTest::newRow("nothing like it") << "Xyzzyplugh"
                                      << "zones are named as in Europe/Berlin";
     QTest::newRow("empty") << ""
@@ -127,7 +136,7 @@ void TestToolZone::lintKnowsTheZone()
         WriteText(path, ProgramOf("<clock type=\"digital\">" + settings.toUtf8() + "</clock>")));
     const ProcessRun sound = RunTool({"lint", path});
     QCOMPARE(sound.exitCode, 0);
-    QVERIFY2(sound.errors.contains("note: this rule gives the time of Europe/London until 20"),
+    QVERIFY2(sound.errors.contains("note: these rules give the time of Europe/London until 20"),
              qPrintable(sound.errors));
 
     QString published = settings;
@@ -135,16 +144,29 @@ void TestToolZone::lintKnowsTheZone()
     QVERIFY(
         WriteText(path, ProgramOf("<clock type=\"digital\">" + published.toUtf8() + "</clock>")));
     const ProcessRun late = RunTool({"lint", path});
-    QCOMPARE(late.exitCode, 0);
-    QVERIFY2(late.errors.contains("note: no zone known has this rule; with the end "
-                                  "10.Last.7.01:00:00 it gives the time of Europe/London"),
+    QCOMPARE(late.exitCode, 1);
+    QVERIFY2(late.errors.contains("warning: daylight saving ends an hour late for Europe/London"),
              qPrintable(late.errors));
+    QVERIFY2(late.errors.contains("accepted: 10.Last.7.01:00:00"), qPrintable(late.errors));
 
     QString off = settings;
     off.replace("key=\"UseDaylightSavingTime\" value=\"1\"",
                 "key=\"UseDaylightSavingTime\" value=\"0\"");
     QVERIFY(WriteText(path, ProgramOf("<clock type=\"digital\">" + off.toUtf8() + "</clock>")));
-    QVERIFY(!RunTool({"lint", path}).errors.contains("rule"));
+    const ProcessRun unused = RunTool({"lint", path});
+    QCOMPARE(unused.exitCode, 1);
+    QVERIFY2(unused.errors.contains("UseDaylightSavingTime is 0"), qPrintable(unused.errors));
+}
+
+void TestToolZone::list()
+{
+    const ProcessRun run = RunTool({"zone", "--list"});
+    QCOMPARE(run.exitCode, 0);
+    const QStringList names = run.output.split('\n', Qt::SkipEmptyParts);
+    QVERIFY(names.size() > 100);
+    QVERIFY(names.contains("Europe/Berlin"));
+    QCOMPARE(RunTool({"zone", "--list", "Europe/Berlin"}).exitCode, 2);
+    QCOMPARE(RunTool({"zone"}).exitCode, 2);
 }
 
 void TestToolZone::toFile()

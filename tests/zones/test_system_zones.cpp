@@ -111,6 +111,8 @@ private slots:
     void nearest();
     void zoneWith_data();
     void zoneWith();
+    void citiesAreInZonesThatExist();
+    void zoneData();
 };
 
 void TestSystemZones::tenYears_data()
@@ -339,6 +341,25 @@ void TestSystemZones::zoneWith()
 {
     QFETCH(ZoneSettings, settings);
     QTEST(ZoneWith(settings, YearsFrom(2026)), "zone");
+}
+
+// Each city of the list leads to a zone of the system, and none has one of its own name.
+void TestSystemZones::citiesAreInZonesThatExist()
+{
+    const QList<QByteArray> zones = ZoneNames();
+    for (const char *city : {"Beijing", "mumbai", "Munich", "San Francisco", "rio_de_janeiro"}) {
+        const QString zone = NearestZone(city);
+        QVERIFY2(zones.contains(zone.toLatin1()), city);
+    }
+    QCOMPARE(NearestZone(QString::fromUtf8("münchen")), QString("Europe/Berlin"));
+}
+
+// Without zone data Qt lists these.
+void TestSystemZones::zoneData()
+{
+    QVERIFY(HasZoneData(ZoneNames()));
+    QVERIFY(!HasZoneData({}));
+    QVERIFY(!HasZoneData({"UTC", "UTC+01:00", "UTC-14:00"}));
 }
 
 QTEST_GUILESS_MAIN(TestSystemZones)

@@ -1,18 +1,16 @@
 #include "clock_lint.h"
 
 #include "clock_words.h"
-#include "rule_note.h"
 #include "suggestion.h"
 #include "value_checks.h"
+#include "whole_clock.h"
 
-#include "calendar/clock_time.h"
-#include "calendar/system_time.h"
 #include "clock_node.h"
-#include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 #include "node_maker.h"
 #include "program_file.h"
 
+#include <QRegularExpression>
 #include <QSet>
 
 namespace ClockTool {
@@ -47,13 +45,18 @@ QStringList ChildNames(const QDomElement &parent)
 class ClockLint
 {
 public:
-    ClockLint(const QDomElement &clock, Findings &findings) : m_clock(clock), m_findings(findings)
+    ClockLint(const QDomElement &clock, ClockProgram::CarriedFiles &files, Findings &findings)
+        : m_clock(clock), m_files(files), m_findings(findings)
     {
         // The node itself tells what becomes of the element.
         m_node.InitData();
         m_understood = ClockProgram::ReadElement(m_node, clock);
         // What picture clocks read is read as of an analog clock.
-        m_type = m_understood && m_node.ClockType() == DigitalClock ? DigitalClock : AnalogClock;
+        m_type = m_understood ? m_node.ClockType() : MeantType();
+        m_type = m_type == DigitalClock ? DigitalClock : AnalogClock;
+        for (QDomElement setting = clock.firstChildElement(ClockProgram::kAttributeTag);
+             !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag))
+            m_node.SetAttribute(setting.attribute(kKey), setting.attribute(kValue), false);
     }
 
     void Run()
@@ -65,10 +68,25 @@ public:
              child = child.nextSiblingElement())
             CheckChild(child);
         CheckType();
-        CheckWhole();
+        LintWhole(m_clock, m_node, m_findings);
     }
 
 private:
+    static QStringList TypeWords()
+    {
+        QStringList words;
+        for (const char *name : Sdk::kTypeNames)
+            words.append(QLatin1String(name));
+        return words;
+    }
+
+    /// The kind that a word was to name, so that the children are judged by it.
+    int MeantType() const
+    {
+        const QStringList words = TypeWords();
+        return words.indexOf(Nearest(m_clock.attribute(QLatin1String(Sdk::kType)), words));
+    }
+
     void CheckChild(const QDomElement &child)
     {
         const QString name = child.tagName();
@@ -76,6 +94,8 @@ private:
             return CheckSetting(child);
         if (name == QLatin1String(Sdk::kFile))
             return CheckFile(child);
+        if (m_node.ClockType() == PictureClock && name != QLatin1String(Sdk::kClockCom))
+            return CheckUnseen(child);
         const QStringList known = ElementsRead(m_type);
         if (!known.contains(name))
             return CheckUnread(child, known);
@@ -86,6 +106,18 @@ private:
             Warn(At(child), QStringLiteral("only the first <%1> of a clock is read").arg(name));
         m_seen.insert(name);
         CheckAttributes(child, name);
+    }
+
+    /// A picture clock shows its pictures and no more.
+    void CheckUnseen(const QDomElement &child)
+    {
+        const bool isHidden =
+            child.attribute(QLatin1String(Sdk::kDisplay)) == QStringLiteral("false");
+        if (child.attributes().isEmpty() || isHidden)
+            return;
+        Warn(At(child),
+             QStringLiteral("<%1> has no effect: a picture clock shows its pictures only")
+                 .arg(child.tagName()));
     }
 
     /// The exported form of a clock has elements that its type does not need; they are empty.
@@ -167,19 +199,39 @@ private:
 
     void CheckFile(const QDomElement &file)
     {
+        bool isWhole = true;
         for (const char *name : {"key", "md5", "size", "path"}) {
-            if (!file.hasAttribute(QLatin1String(name)))
-                Warn(At(file, QLatin1String(name)),
-                     QStringLiteral("a <file> needs the attribute %1").arg(QLatin1String(name)));
+            if (file.hasAttribute(QLatin1String(name)))
+                continue;
+            isWhole = false;
+            Warn(At(file, QLatin1String(name)),
+                 QStringLiteral("a <file> needs the attribute %1").arg(QLatin1String(name)));
         }
+        if (isWhole)
+            CheckWholeFile(file);
+    }
+
+    void CheckWholeFile(const QDomElement &file)
+    {
         const QString key = file.attribute(kKey);
         QStringList keys;
         for (const GlyphImage &image : GlyphImages(GlyphOrder::Bookkeeping, m_type))
             keys.append(image.Key());
-        if (!key.isEmpty() && !keys.contains(key))
-            Warn(At(file, kKey),
-                 QStringLiteral("this clock has no image %1%2").arg(Quoted(key), Nearby(key, keys)),
-                 Nearest(key, keys));
+        if (!keys.contains(key))
+            return Warn(
+                At(file, kKey),
+                QStringLiteral("this clock has no image %1%2").arg(Quoted(key), Nearby(key, keys)),
+                Nearest(key, keys));
+        static const QRegularExpression digestForm(QStringLiteral("^[0-9a-f]{32}$"));
+        const QString digest = file.attribute(QStringLiteral("md5"));
+        if (!digestForm.match(digest).hasMatch())
+            return; // the schema's business
+        const QString path = file.attribute(QStringLiteral("path"));
+        const QString fault = m_files.Fault(
+            {key, path, digest, file.attribute(QStringLiteral("size")).toLongLong(), 0});
+        if (!fault.isEmpty())
+            Warn(At(file, QStringLiteral("path")),
+                 QStringLiteral("the file %1 %2").arg(Quoted(path), fault));
     }
 
     static QString Nearby(const QString &word, const QStringList &candidates)
@@ -207,43 +259,11 @@ private:
                         QStringLiteral("the clockType of <clockCom> cannot be read; accepted: 0 "
                                        "analog, 1 digital, 2 picture"));
         const QString word = m_clock.attribute(QLatin1String(Sdk::kType));
-        QStringList words;
-        for (const char *name : Sdk::kTypeNames)
-            words.append(QLatin1String(name));
+        const QStringList words = TypeWords();
         Warn(At(m_clock, QLatin1String(Sdk::kType)),
              QStringLiteral("type=%1 cannot be read; accepted: \"%2\"")
                  .arg(Quoted(word), words.join(QStringLiteral("\", \""))),
              Nearest(word, words));
-    }
-
-    /// What several settings make together.
-    void CheckWhole()
-    {
-        for (QDomElement setting = m_clock.firstChildElement(ClockProgram::kAttributeTag);
-             !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag))
-            m_node.SetAttribute(setting.attribute(kKey), setting.attribute(kValue), false);
-        if (m_node.GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1)
-            CheckRules();
-        const bool isDigital = m_node.ClockType() == DigitalClock;
-        const Attribute date = isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType;
-        if (m_node.ClockType() != PictureClock
-            && m_node.GetAttributeToInt(Key(date)) == DateWithMinus)
-            m_findings.Note(At(m_clock),
-                            QStringLiteral("the minus of date type 8 does not travel with an "
-                                           "exported program"));
-    }
-
-    void CheckRules()
-    {
-        const ZoneSettings settings {ParseZoneOffset(m_node.GetAttribute(Key(Attribute::TimeZone))),
-                                     m_node.GetAttribute(Key(Attribute::DaylightSavingTimeStart)),
-                                     m_node.GetAttribute(Key(Attribute::DaylightSavingTimeEnd))};
-        const QString fault = RulePairFault(settings.start, settings.end);
-        if (!fault.isEmpty())
-            return Warn(At(m_clock), fault);
-        const QString note = RuleNote(settings, SystemDate());
-        if (!note.isEmpty())
-            m_findings.Note(At(m_clock), note);
     }
 
     void Warn(const Place &place, const QString &text, const QString &suggestion = {})
@@ -252,6 +272,7 @@ private:
     }
 
     const QDomElement m_clock;
+    ClockProgram::CarriedFiles &m_files;
     Findings &m_findings;
     HClockNode m_node;
     bool m_understood = false;
@@ -263,9 +284,9 @@ private:
 
 } // namespace
 
-void LintClock(const QDomElement &clock, Findings &findings)
+void LintClock(const QDomElement &clock, ClockProgram::CarriedFiles &files, Findings &findings)
 {
-    ClockLint(clock, findings).Run();
+    ClockLint(clock, files, findings).Run();
 }
 
 std::optional<int> GivenId(const QDomElement &clock)

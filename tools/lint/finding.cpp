@@ -25,7 +25,8 @@ void Findings::Note(const Place &place, const QString &text, const QString &sugg
 void Findings::Add(const Finding &finding)
 {
     m_all.append(finding);
-    m_lines.insert(finding.place.line);
+    if (finding.severity == Severity::Warning)
+        m_lines.insert(finding.place.line);
 }
 
 void Findings::AddOfClock(int clock, const Findings &findings)

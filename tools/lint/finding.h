@@ -45,13 +45,13 @@ public:
     /// The findings within one clock, which does not know its number.
     void AddOfClock(int clock, const Findings &findings);
 
-    bool HasLine(int line) const { return m_lines.contains(line); }
+    bool HasWarning(int line) const { return m_lines.contains(line); }
     int Warnings() const;
     QVector<Finding> ByLine() const; ///< in the order of the file, each once
 
 private:
     QVector<Finding> m_all;
-    QSet<int> m_lines;
+    QSet<int> m_lines; // of warnings
 };
 
 } // namespace ClockTool

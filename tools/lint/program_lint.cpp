@@ -16,11 +16,29 @@ namespace {
 
 using namespace ClockProgram;
 
+/// Areas that are not seen, or not whole.
+void CheckPlaces(const Program &program, Findings &findings)
+{
+    const QRect screen(QPoint(0, 0), program.size);
+    for (const ProgramArea &area : program.areas) {
+        const QDomElement element = area.element.parentNode().toElement();
+        if (!screen.intersects(area.geometry))
+            findings.Warn(At(element),
+                          QStringLiteral("the area is outside the screen of %1 x %2 pixels")
+                              .arg(program.size.width())
+                              .arg(program.size.height()));
+        else if (!screen.contains(area.geometry))
+            findings.Note(At(element), QStringLiteral("the area extends beyond the screen"));
+    }
+}
+
 /// What keeps the program from being played, or from a small device. The failure's text begins with
 /// path and line.
 void CheckStructure(const QDomDocument &document, const QString &path, Findings &findings)
 {
     const Result<Program> program = InterpretProgram(document, path);
+    if (program)
+        CheckPlaces(*program, findings);
     const MaybeFailure failure = program ? CheckFrameBytes(*program) : program.Error();
     if (!failure)
         return;
@@ -32,7 +50,7 @@ void CheckStructure(const QDomDocument &document, const QString &path, Findings 
 class ClockWalk
 {
 public:
-    explicit ClockWalk(Findings &findings) : m_findings(findings) { }
+    ClockWalk(const QString &path, Findings &findings) : m_files(path), m_findings(findings) { }
 
     /// The element of an area; areas count from 1.
     void Check(int area, const QDomElement &element)
@@ -46,7 +64,7 @@ public:
             return;
         }
         Findings found;
-        LintClock(element, found);
+        LintClock(element, m_files, found);
         CheckId(element, found);
         m_findings.AddOfClock(area, found);
     }
@@ -68,13 +86,14 @@ private:
                               .arg(*other));
     }
 
+    CarriedFiles m_files;
     Findings &m_findings;
     QHash<int, int> m_lines; // of the first clock with an Id
 };
 
-void CheckClocks(const QDomDocument &document, Findings &findings)
+void CheckClocks(const QDomDocument &document, const QString &path, Findings &findings)
 {
-    ClockWalk walk(findings);
+    ClockWalk walk(path, findings);
     int number = 0;
     for (QDomElement area = document.documentElement().firstChildElement(kAreaTag); !area.isNull();
          area = area.nextSiblingElement(kAreaTag)) {
@@ -92,7 +111,7 @@ void CheckSchema(const QByteArray &contents, Findings &findings)
     if (report.isVague && findings.Warnings() > 0)
         return;
     for (const Finding &fault : report.faults) {
-        if (!findings.HasLine(fault.place.line))
+        if (!findings.HasWarning(fault.place.line))
             findings.Add(fault);
     }
 }
@@ -103,7 +122,7 @@ Findings LintProgram(const QDomDocument &document, const QByteArray &contents, c
 {
     Findings findings;
     CheckStructure(document, path, findings);
-    CheckClocks(document, findings);
+    CheckClocks(document, path, findings);
     CheckSchema(contents, findings);
     return findings;
 }

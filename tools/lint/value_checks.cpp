@@ -34,6 +34,12 @@ QString NumberFault(Attribute attribute, const QString &text)
 
 QString ColourFault(const QString &text)
 {
+    static const QRegularExpression eight(QStringLiteral("^#([0-9a-fA-F]{2})([0-9a-fA-F]{6})$"));
+    const QRegularExpressionMatch match = eight.match(text);
+    if (match.hasMatch() && match.captured(1).toLower() != QLatin1String("ff"))
+        return QStringLiteral("is read as #aarrggbb, which is the colour #%1; if it was meant as "
+                              "#rrggbbaa: #%2; accepted: \"#rrggbb\"")
+            .arg(match.captured(2), text.mid(1, 6));
     if (QColor::isValidColor(text))
         return {};
     const QString nearest = Nearest(text, QColor::colorNames());

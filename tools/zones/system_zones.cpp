@@ -1,5 +1,6 @@
 #include "system_zones.h"
 
+#include "city_names.h"
 #include "suggestion.h"
 
 #include "calendar/clock_time.h"
@@ -102,6 +103,12 @@ QList<QByteArray> ZoneNames()
     return QTimeZone::availableTimeZoneIds();
 }
 
+bool HasZoneData(const QList<QByteArray> &names)
+{
+    return std::any_of(names.cbegin(), names.cend(),
+                       [](const QByteArray &name) { return name.contains('/'); });
+}
+
 std::optional<CivilTime> CivilTimeOf(const QByteArray &name, const Span &span)
 {
     if (!IsZoneName(name))
@@ -126,6 +133,9 @@ QString NearestZone(const QString &name)
     const auto found = std::find_if(cities.cbegin(), cities.cend(), isCity);
     if (found != cities.cend())
         return zones[static_cast<int>(found - cities.cbegin())];
+    const QString shared = ZoneOfCity(city);
+    if (!shared.isEmpty())
+        return shared;
     const QString nearest = Nearest(word, zones);
     return nearest.isEmpty() ? zones.value(cities.indexOf(Nearest(city, cities))) : nearest;
 }

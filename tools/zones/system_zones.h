@@ -28,15 +28,18 @@ Span ListedAfter(const Span &span);
 /// "2026-03-29", in UTC.
 QString DateOf(qint64 utc);
 
-/// The names of the system's zones; empty where it has no zone data. Names that are only other
-/// names of these are understood besides.
+/// The names of the system's zones. Names that are only other names of these are understood
+/// besides.
 QList<QByteArray> ZoneNames();
+
+/// Whether names of zones come from zone data. Without any, Qt has names of fixed offsets.
+bool HasZoneData(const QList<QByteArray> &names);
 
 /// A zone's civil time over a span; nothing for a name that the system does not know.
 std::optional<CivilTime> CivilTimeOf(const QByteArray &zone, const Span &span);
 
-/// The zone that somebody may have meant by an unknown name: a city without its continent, or a
-/// slip of the pen. Empty when there is none.
+/// The zone that somebody may have meant by an unknown name: a city without its continent, one that
+/// shares the zone of another city, or a slip of the pen. Empty when there is none.
 QString NearestZone(const QString &name);
 
 /// A zone of which settings give the civil time over the whole span, a much used one where there

@@ -1,6 +1,6 @@
 #include "rule_note.h"
 
-#include "zones/system_zones.h"
+#include "system_zones.h"
 
 #include "calendar/clock_time.h"
 
@@ -22,35 +22,38 @@ QString HourEarlier(const QString &text)
     return text.section(QLatin1Char('.'), 0, 2) + QLatin1Char('.') + time;
 }
 
-QString NoteFor(const ZoneSettings &settings, const Span &span)
+RuleNote NoteFor(const ZoneSettings &settings, const Span &span)
 {
     const QByteArray zone = ZoneWith(settings, span);
     if (!zone.isEmpty())
-        return QStringLiteral("this rule gives the time of %1 until %2")
-            .arg(QString::fromLatin1(zone), DateOf(span.end).left(4));
+        return {QStringLiteral("these rules give the time of %1 until %2")
+                    .arg(QString::fromLatin1(zone), DateOf(span.end).left(4)),
+                {}};
     ZoneSettings earlier = settings;
     earlier.end = HourEarlier(settings.end);
     const QByteArray meant = earlier.end.isEmpty() ? QByteArray() : ZoneWith(earlier, span);
     if (meant.isEmpty())
-        return QStringLiteral("no zone known has this rule");
-    return QStringLiteral("no zone known has this rule; with the end %1 it gives the time of %2, "
-                          "for the end is in the zone's standard time too")
-        .arg(earlier.end, QString::fromLatin1(meant));
+        return {QStringLiteral("no known zone uses these rules"), {}};
+    return {
+        QStringLiteral("daylight saving ends an hour late for %2: the end is in standard time, an "
+                       "hour before the published one; accepted: %1")
+            .arg(earlier.end, QString::fromLatin1(meant)),
+        earlier.end};
 }
 
 } // namespace
 
-QString RuleNote(const ZoneSettings &settings, const QDate &today)
+RuleNote NoteOnRules(const ZoneSettings &settings, const QDate &today)
 {
     const Span span = TenYearsFrom(today);
     if (!ParseDaylightRule(settings.start) || !ParseDaylightRule(settings.end)
-        || span.begin >= span.end || ZoneNames().isEmpty())
+        || span.begin >= span.end || !HasZoneData(ZoneNames()))
         return {};
     // The clocks of a program have few different rules.
-    static QHash<QString, QString> notes;
+    static QHash<QString, RuleNote> notes;
     const QStringList parts {settings.ZoneText(), settings.start, settings.end, DateOf(span.begin)};
-    QString &note = notes[parts.join(QLatin1Char('\n'))];
-    if (note.isEmpty())
+    RuleNote &note = notes[parts.join(QLatin1Char('\n'))];
+    if (note.text.isEmpty())
         note = NoteFor(settings, span);
     return note;
 }
