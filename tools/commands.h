@@ -23,6 +23,7 @@ CommandResult RunImport(const QStringList &arguments);
 CommandResult RunExport(const QStringList &arguments);
 CommandResult RunGlyphs(const QStringList &arguments);
 CommandResult RunAttributes(const QStringList &arguments);
+CommandResult RunFonts(const QStringList &arguments);
 CommandResult RunZone(const QStringList &arguments);
 CommandResult RunSelfTest(const QStringList &arguments);
 

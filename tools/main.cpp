@@ -25,6 +25,7 @@ constexpr Command kCommands[] = {
     {"export", RunExport, "write a program with its glyph files, ready to be carried away"},
     {"glyphs", RunGlyphs, "list the glyph images of a program, and which clocks share them"},
     {"attributes", RunAttributes, "write the reference table of the clock's attributes"},
+    {"fonts", RunFonts, "say at which sizes the digits of a font can be read"},
     {"zone", RunZone, "say what to set for a zone's time, and whether a clock can have it"},
     {"self-test", RunSelfTest, "try calendars, daylight saving and drawing on this device"},
 };

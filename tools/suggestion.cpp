@@ -49,11 +49,17 @@ QString Nearest(const QString &word, const QStringList &candidates)
     return nearest;
 }
 
-QString Suggestion(const QString &word, const QStringList &candidates)
+QString DidYouMean(const QString &word, const QStringList &candidates)
 {
     const QString nearest = Nearest(word, candidates);
-    if (!nearest.isEmpty())
-        return QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+    return nearest.isEmpty() ? nearest : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+}
+
+QString Suggestion(const QString &word, const QStringList &candidates)
+{
+    const QString meant = DidYouMean(word, candidates);
+    if (!meant.isEmpty())
+        return meant;
     return QStringLiteral("; accepted: ") + candidates.join(QStringLiteral(", "));
 }
 

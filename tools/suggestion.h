@@ -16,6 +16,9 @@ QString Nearest(const QString &word, const QStringList &candidates);
 /// "; did you mean "x"?" where a candidate is near, else "; accepted: " and all of them.
 QString Suggestion(const QString &word, const QStringList &candidates);
 
+/// "; did you mean "x"?" where a candidate is near, else nothing.
+QString DidYouMean(const QString &word, const QStringList &candidates);
+
 /// A text from a file in quotation marks, short and on one line.
 QString Quoted(const QString &text);
 

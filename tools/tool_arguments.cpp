@@ -76,7 +76,8 @@ MaybeFailure ToolArguments::CheckGiven() const
     if (isAlternative && !given.isEmpty())
         return UsageFailure(
             QStringLiteral("--%1 has no use for \"%2\"").arg(m_alternative, given[0]));
-    if (!isAlternative && given.size() < m_positionals.size())
+    if (!isAlternative && given.size() < m_positionals.size()
+        && !m_positionals[given.size()].startsWith(QLatin1Char('[')))
         return UsageFailure(QStringLiteral("%1 needs %2")
                                 .arg(m_name, QString(m_positionals[given.size()]).remove(kMore)));
     const bool takesMore = !m_positionals.isEmpty() && m_positionals.last().endsWith(kMore);

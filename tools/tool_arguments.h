@@ -16,7 +16,8 @@ public:
     /// The name is the subcommand's.
     ToolArguments(const QString &name, const QString &description);
 
-    /// A name that ends in "..." stands for one or more, and comes last.
+    /// A name that ends in "..." stands for one or more, in brackets for any number, and comes
+    /// last.
     void AddPositional(const QString &name, const QString &description);
     /// An option with a value.
     void AddOption(const QStringList &names, const QString &description, const QString &value);

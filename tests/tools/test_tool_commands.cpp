@@ -28,6 +28,7 @@ private slots:
     void UnreadableInput();
     void AttributesPageIsTheTable();
     void AttributesPageNamesItsCodes();
+    void FontsTableIsInTheDocuments();
     void OutputFileStaysWhenItCannotBeWritten();
     void GlyphsOfOneClock();
     void GlyphsSharedByTwoClocks();
@@ -42,7 +43,7 @@ void TestToolCommands::Help_data()
     QTest::newRow("of the tool, short") << QStringList {"-h"} << "Usage: clock_tool COMMAND";
     QTest::newRow("version") << QStringList {"--version"} << "clock_tool ";
     for (const char *command :
-         {"lint", "sdk", "import", "export", "glyphs", "attributes", "zone", "self-test"}) {
+         {"lint", "sdk", "import", "export", "glyphs", "attributes", "fonts", "zone", "self-test"}) {
         QTest::addRow("of %s", command)
             << QStringList {command, "--help"} << "Usage: clock_tool " + QString(command);
         QTest::addRow("version from %s", command)
@@ -67,6 +68,7 @@ void TestToolCommands::Usage_data()
     const QString example = InTree("examples/station.xml");
     QTest::newRow("nothing") << QStringList {} << "no command given";
     QTest::newRow("unknown command") << QStringList {"lynt"} << "no command \"lynt\"";
+    QTest::newRow("misspelt command") << QStringList {"exprot"} << "did you mean \"export\"?";
     QTest::newRow("no program") << QStringList {"lint"} << "needs PROGRAM.xml";
     QTest::newRow("no directory") << QStringList {"export", example} << "needs DIR";
     QTest::newRow("too much") << QStringList {"sdk", example, "b.xml"} << "\"b.xml\"";
@@ -173,6 +175,20 @@ void TestToolCommands::AttributesPageNamesItsCodes()
     // Kind and style of clocks, the adjustment's direction, marks of hours and minutes, three
     // hands, date and week of both kinds, the time, hours and layout of digital clocks.
     QCOMPARE(rows, 15);
+}
+
+// The fonts of the samples.
+void TestToolCommands::FontsTableIsInTheDocuments()
+{
+    const ProcessRun run =
+        RunTool({"fonts", "DejaVu Sans", "DejaVu Sans Mono", "WenQuanYi Micro Hei"});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.output.contains("| WenQuanYi Micro Hei | 14 | 5, 9, 12 |"), qPrintable(run.output));
+    QVERIFY2(ReadText(InTree("docs/programs.md")).contains(run.output.toUtf8()),
+             qPrintable(run.output));
+    const ProcessRun unknown = RunTool({"fonts", "DejaVu Snas"});
+    QCOMPARE(unknown.exitCode, 3);
+    QVERIFY(unknown.errors.contains("did you mean \"DejaVu Sans\"?"));
 }
 
 void TestToolCommands::OutputFileStaysWhenItCannotBeWritten()

@@ -225,6 +225,19 @@ void TestToolLint::Finds_data()
                 "<attribute key='DaylightSavingTimeStart' value='3.Last.7.02:00:00'/>"
                 "<attribute key='DaylightSavingTimeEnd' value='10.Last.7.03:00:00'/>"),
         1, {"an hour late for Europe/Berlin", "accepted: 10.Last.7.02:00:00"});
+    row("digits that lose strokes",
+        Digital("<date display='false'/>\n"
+                "<time fontName='WenQuanYi Micro Hei' fontSize='8' format='0'/>"),
+        3, {"\"WenQuanYi Micro Hei\" lose strokes at 8 points", "0 has 0 holes instead of 1",
+            "accepted: 9"});
+    row("colon that vanishes",
+        Digital("<date display='false'/><time fontName='WenQuanYi Micro Hei'/>\n"
+                "<attribute key='DigitalTimeFSize' value='7'/>"),
+        3, {"\":\" is not drawn", "accepted: 9"});
+    row("numerals that lose strokes",
+        Analog("<date display='false'/><analog hourScaleType='4' hourScaleFontName='DejaVu Serif' "
+               "hourScaleFontSize='6'/>"),
+        2, {"lose strokes at 6 points", "accepted: 7"});
     row("all rows hidden",
         Digital("<title display='false'/><date display='false'/><week display='false'/>"
                 "<time display='false'/>"),

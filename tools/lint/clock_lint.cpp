@@ -220,7 +220,7 @@ private:
         if (!keys.contains(key))
             return Warn(
                 At(file, kKey),
-                QStringLiteral("this clock has no image %1%2").arg(Quoted(key), Nearby(key, keys)),
+                QStringLiteral("this clock has no image %1%2").arg(Quoted(key), DidYouMean(key, keys)),
                 Nearest(key, keys));
         static const QRegularExpression digestForm(QStringLiteral("^[0-9a-f]{32}$"));
         const QString digest = file.attribute(QStringLiteral("md5"));
@@ -232,13 +232,6 @@ private:
         if (!fault.isEmpty())
             Warn(At(file, QStringLiteral("path")),
                  QStringLiteral("the file %1 %2").arg(Quoted(path), fault));
-    }
-
-    static QString Nearby(const QString &word, const QStringList &candidates)
-    {
-        const QString nearest = Nearest(word, candidates);
-        return nearest.isEmpty() ? QString()
-                                 : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
     }
 
     bool CheckValue(const QDomElement &element, const QString &name, const QString &value,

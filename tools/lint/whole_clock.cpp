@@ -1,5 +1,8 @@
 #include "whole_clock.h"
 
+#include "clock_words.h"
+#include "legibility/legible_sizes.h"
+#include "suggestion.h"
 #include "value_checks.h"
 #include "zones/rule_note.h"
 
@@ -11,11 +14,22 @@
 #include "glyph/glyph_set.h"
 #include "program_file.h"
 
+#include <algorithm>
+
 namespace ClockTool {
 
 namespace {
 
 using namespace Lw::HNodeClock;
+
+// Codes of the attribute table, by what they show.
+constexpr int kLabelledTime = 2;
+constexpr int kLabelledShortTime = 3;
+constexpr int kLabelledDate = 5;
+constexpr int kLabelledShortDate = 6;
+constexpr int kTwelveNumerals = 3;
+constexpr int kFourNumerals = 4;
+constexpr int kUnsetPoints = 12; // of a size of 0
 
 class WholeClock
 {
@@ -30,6 +44,7 @@ public:
         CheckRules();
         CheckRows();
         CheckDate();
+        CheckDigits();
     }
 
 private:
@@ -112,6 +127,84 @@ private:
             m_findings.Note(At(m_clock),
                             QStringLiteral("the minus of date type 8 does not travel with an "
                                            "exported program"));
+    }
+
+    /// Text rows and numerals that show digits, with the characters between them.
+    void CheckDigits()
+    {
+        const int type = m_node.ClockType();
+        if (type == DigitalClock && Number(Attribute::Digital_Time_d) != 0)
+            CheckStrip(Attribute::DigitalTimeFName, Attribute::DigitalTimeFSize,
+                       HasColons(Number(Attribute::DigitalTimeType)) ? ":" : "");
+        if (type == DigitalClock && Number(Attribute::Digital_Date_d) != 0)
+            CheckStrip(Attribute::DigitalDateFName, Attribute::DigitalDateFSize,
+                       DateSeparators(Number(Attribute::DigitalDateType)));
+        if (type == AnalogClock && Number(Attribute::Analog_Date_d) != 0)
+            CheckStrip(Attribute::AnalogDateFName, Attribute::AnalogDateFSize,
+                       DateSeparators(Number(Attribute::AnalogDateType)));
+        const int marks = Number(Attribute::HourScaleType);
+        if (type == AnalogClock && (marks == kTwelveNumerals || marks == kFourNumerals))
+            CheckStrip(Attribute::HourScaleFName, Attribute::HourScaleFSize, "");
+    }
+
+    static bool HasColons(int timeType)
+    {
+        return timeType != kLabelledTime && timeType != kLabelledShortTime;
+    }
+
+    static const char *DateSeparators(int dateType)
+    {
+        if (dateType == DateWithMinus)
+            return "-";
+        return dateType == kLabelledDate || dateType == kLabelledShortDate ? "" : ",/";
+    }
+
+    void CheckStrip(Attribute family, Attribute size, const char *separators)
+    {
+        const QString name = Text(family);
+        const int points = Number(size) > 0 ? Number(size) : kUnsetPoints;
+        const QString marks = QLatin1String(separators);
+        const QString fault = LegibilityFault(name, points, marks);
+        if (fault.isEmpty())
+            return;
+        const int right = NearestLegibleSize(name, points, marks);
+        m_findings.Warn(
+            PlaceOf(size),
+            QStringLiteral("the digits of %1 lose strokes at %2 points: %3%4")
+                .arg(name.isEmpty() ? QStringLiteral("the default font") : Quoted(name))
+                .arg(points)
+                .arg(fault, right > 0 ? QStringLiteral("; accepted: %1").arg(right) : QString()),
+            right > 0 ? QString::number(right) : QString());
+    }
+
+    /// The last place that sets an attribute; the clock where it has its default.
+    Place PlaceOf(Attribute attribute) const
+    {
+        Place place = At(m_clock, Key(attribute));
+        bool isSetting = false;
+        const int type = m_node.ClockType() == DigitalClock ? DigitalClock : AnalogClock;
+        for (QDomElement child = m_clock.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement()) {
+            if (child.tagName() == ClockProgram::kAttributeTag) {
+                if (child.attribute(QStringLiteral("key")) != Key(attribute))
+                    continue;
+                place = At(child, Key(attribute));
+                isSetting = true;
+            } else if (!isSetting) {
+                for (const QString &name : AttributesRead(type, child.tagName()))
+                    if (child.hasAttribute(name) && Sets(type, child.tagName(), name, attribute))
+                        place = At(child, name);
+            }
+        }
+        return place;
+    }
+
+    static bool Sets(int type, const QString &element, const QString &name, Attribute attribute)
+    {
+        const QVector<Reading> readings = ReadingsOf(type, element, name);
+        return std::any_of(readings.cbegin(), readings.cend(), [attribute](const Reading &reading) {
+            return reading.target == attribute;
+        });
     }
 
     const QDomElement m_clock;

@@ -1,0 +1,73 @@
+// clock_tool fonts: at which sizes the digits of a font can be read.
+#include "commands.h"
+#include "legibility/legible_sizes.h"
+#include "output.h"
+#include "suggestion.h"
+#include "tool_arguments.h"
+
+#include <QFontDatabase>
+
+namespace ClockTool {
+
+namespace {
+
+constexpr char kDescription[] = "Writes a table, as Markdown, of the sizes at which the digits and "
+                                "the colon of fonts are drawn\n"
+                                "right. Glyph images have one bit per pixel: small sizes lose "
+                                "strokes, or the holes that tell 3\n"
+                                "from 8. Without a name, every installed font is listed.";
+
+/// "6, 8, 9", without the sizes that come one after the other up to the largest.
+QString SizesBelow(const QVector<int> &sizes, int from)
+{
+    QStringList below;
+    for (const int size : sizes) {
+        if (size < from)
+            below.append(QString::number(size));
+    }
+    return below.isEmpty() ? QStringLiteral("none") : below.join(QStringLiteral(", "));
+}
+
+/// The smallest size from which all are right; 0 where the largest is not.
+int RightFrom(const QVector<int> &sizes)
+{
+    int from = kLargestLookedAt + 1;
+    while (from > 1 && sizes.contains(from - 1))
+        --from;
+    return from > kLargestLookedAt ? 0 : from;
+}
+
+QString TableOf(const QStringList &families)
+{
+    QString table = QStringLiteral("| Font | Right from, points | Right below |\n|---|---|---|\n");
+    for (const QString &family : families) {
+        const QVector<int> sizes = LegibleSizes(family, QStringLiteral(":"));
+        const int from = RightFrom(sizes);
+        table += QStringLiteral("| %1 | %2 | %3 |\n")
+                     .arg(family, from > 0 ? QString::number(from) : QStringLiteral("none"),
+                          SizesBelow(sizes, from > 0 ? from : kLargestLookedAt + 1));
+    }
+    return table;
+}
+
+} // namespace
+
+CommandResult RunFonts(const QStringList &arguments)
+{
+    ToolArguments tool(QStringLiteral("fonts"), QString::fromLatin1(kDescription));
+    tool.AddPositional(QStringLiteral("[FAMILY]..."), QStringLiteral("The fonts to look at."));
+    tool.AddOutput();
+    if (const auto ended = tool.Parse(arguments))
+        return *ended;
+    const QStringList installed = QFontDatabase().families();
+    const QStringList given = tool.Positionals();
+    for (const QString &family : given) {
+        if (!installed.contains(family))
+            return Report({ExitCode::ProgramError,
+                           QStringLiteral("the font %1 is not installed%2")
+                               .arg(Quoted(family), DidYouMean(family, installed))});
+    }
+    return Deliver(tool.Output(), TableOf(given.isEmpty() ? installed : given).toUtf8());
+}
+
+} // namespace ClockTool
