@@ -1,22 +1,47 @@
 #include "glyph/draw_source_image.h"
 
+#include "glyph/glyph_check.h"
+#include "glyph/glyph_drawing.h"
 #include "glyph/glyph_file.h"
 #include "glyph/glyph_picture.h"
 #include "glyph/hmd5.h"
-#include "image_bounds.h"
 
 #include "happconfig.h"
 
 #include <QFileInfo>
 #include <QFont>
 #include <QPainter>
-#include <QPixmap>
+#include <QPointer>
 
 namespace Lw::HNodeClock {
 
+/// A font, by the settings that it is made of.
+struct GlyphFace
+{
+    QString family;
+    int size;
+    QFont font;
+    QByteArray description;
+};
+
+struct GlyphRequest
+{
+    GlyphShape shape;
+    QString text;
+    QString family;
+    int size; // points
+    int colour;
+    QString path;
+    bool isTopText; ///< the file is removed where there is nothing to draw
+};
+
 namespace {
 
-constexpr int kTooWide = kImageSide + 1;
+bool Holds(const QString &path, const DrawnGlyph &glyph)
+{
+    return glyph.file.isNull() ? FileHolds(path, glyph.facts.size, glyph.facts.digest)
+                               : FileHolds(path, glyph.file);
+}
 
 bool IsTopTextFile(const QString &key, const QString &fileSuffix)
 {
@@ -41,12 +66,12 @@ void DrwSourceIMage::InitParameters(HClockNode *node)
     m_clockType = node->GetAttributeToInt(Key(Attribute::ClockType));
     if (m_clockType == AnalogClock) {
         m_typePrefix = QLatin1String(kAnalogPrefix);
-        m_topText = node->GetAttribute(Key(Attribute::AnalogTopText));
+        m_topText = TopTextOf(*node);
         for (GlyphFont font : kAnalogFonts)
             ReadFont(node, font);
     } else if (m_clockType == DigitalClock) {
         m_typePrefix = QLatin1String(kDigitalPrefix);
-        m_topText = node->GetAttribute(Key(Attribute::DigitalTopText));
+        m_topText = TopTextOf(*node);
         for (GlyphFont font : kDigitalFonts)
             ReadFont(node, font);
     }
@@ -60,6 +85,7 @@ void DrwSourceIMage::ReadFont(HClockNode *node, GlyphFont font)
                                        node->GetAttributeToInt(Key(attributes.colour))};
 }
 
+// The host is called for every image. Should it delete the node there, the rest is not made.
 void DrwSourceIMage::DrawClockSourceImage(HClockNode *node, bool calcMD5, bool isTempUpdate)
 {
     if (!node)
@@ -69,105 +95,100 @@ void DrwSourceIMage::DrawClockSourceImage(HClockNode *node, bool calcMD5, bool i
         return;
     m_calcMd5 = calcMD5;
     InitParameters(node);
+    const QPointer<HClockNode> guarded(node);
     const QString id = QString::number(node->GetAttributeToInt(Key(Attribute::Id)));
-    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, m_clockType))
-        DrawGlyph(node, image, id);
+    QVector<Lw::GlyphFault> faults;
+    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, m_clockType)) {
+        const GlyphOutcome outcome = DrawGlyph(node, image, id);
+        if (!guarded)
+            return;
+        if (const auto fault = FaultOf(image, outcome, *node))
+            faults.append(*fault);
+    }
+    Lw::SetGlyphFaults(*node, faults);
 }
 
-void DrwSourceIMage::DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id)
+GlyphOutcome DrwSourceIMage::DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id)
 {
     const FontSettings &font = m_fonts[static_cast<int>(image.row->font)];
     const QString &key = image.Key();
-    const QString fileSuffix = key + QLatin1String(kGlyphSuffix);
-    if (image.row->shape == GlyphShape::DigitStrip)
-        DrawNumberImage(node, key, id, font.family, font.size, font.colour, fileSuffix);
-    else
-        DrawImage(node, key, TextOf(image), id, font.family, font.size, font.colour, fileSuffix);
+    const QString path = PathOf(image.row->shape, id, key + QLatin1String(kGlyphSuffix));
+    return Make(node, key,
+                {image.row->shape, GlyphText(image, m_topText), font.family, font.size, font.colour,
+                 path, image.row->glyph == Glyph::TopText});
 }
 
-QString DrwSourceIMage::TextOf(const GlyphImage &image) const
-{
-    switch (image.row->wording) {
-    case GlyphWording::TopText:
-        return m_topText;
-    case GlyphWording::Translated:
-        return tr(image.Text());
-    case GlyphWording::Verbatim:
-        break;
-    }
-    return QString::fromLatin1(image.Text());
-}
-
-// An empty top text has to clear the wall: without a removal the text before it would stay there.
 void DrwSourceIMage::DrawImage(HClockNode *node, QString key, QString text, QString id,
                                QString family, int size, int colour, QString fileSuffix)
 {
-    const QString directory =
-        m_isTempUpdate ? HAppConfig::TempProgramImagePath() : HAppConfig::ClockOutputPath();
-    const QString path = directory + m_typePrefix + id + fileSuffix;
-    const int width = WidthOf(text, family, size);
-    if (width > 0)
-        DrawText(text, width, family, size, colour, path);
-    else if (IsTopTextFile(key, fileSuffix))
-        RemovePng(path);
-    Record(node, key, path);
-}
-
-int DrwSourceIMage::WidthOf(const QString &text, const QString &family, int size)
-{
-    if (text.isEmpty())
-        return 0;
-    return size <= kLargestFontSize ? GlyphTextWidth(QFontMetrics(Typeface(family, size)), text)
-                                    : kTooWide;
-}
-
-void DrwSourceIMage::DrawText(const QString &text, int width, const QString &family, int size,
-                              int colour, const QString &path)
-{
-    if (width >= kTooWide)
-        return;
-    const QFont &font = Typeface(family, size);
-    QPixmap pixmap = EmptyPicture(font, width);
-    if (pixmap.isNull())
-        return;
-    BeginText(*m_painter, pixmap, font, IntToQColor(colour), text);
-    // Saved while the painter is still at work on it; a strip, after it has ended.
-    Save(pixmap, path);
-    m_painter->end();
+    const QString path = PathOf(GlyphShape::Text, id, fileSuffix);
+    Make(node, key,
+         {GlyphShape::Text, text, family, size, colour, path, IsTopTextFile(key, fileSuffix)});
 }
 
 void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, QString family,
                                      int size, int colour, QString fileSuffix)
 {
-    // Always the regular directory: strips are shared by a program and its temporary updates.
-    const QString path = HAppConfig::ClockOutputPath() + m_typePrefix + id + fileSuffix;
-    if (size <= kLargestFontSize) {
-        const QFont &font = Typeface(family, size);
-        QPixmap pixmap = EmptyPicture(font, kDigitCells * WidestDigit(QFontMetrics(font)));
-        if (!pixmap.isNull()) {
-            BeginDigits(*m_painter, pixmap, font, IntToQColor(colour));
-            m_painter->end();
-            Save(pixmap, path);
-        }
+    const QString path = PathOf(GlyphShape::DigitStrip, id, fileSuffix);
+    Make(node, key,
+         {GlyphShape::DigitStrip, QLatin1String(kDigits), family, size, colour, path, false});
+}
+
+// Strips are always in the regular directory: a program and its temporary updates share them.
+QString DrwSourceIMage::PathOf(GlyphShape shape, const QString &id, const QString &suffix) const
+{
+    const bool isTemporary = m_isTempUpdate && shape == GlyphShape::Text;
+    return (isTemporary ? HAppConfig::TempProgramImagePath() : HAppConfig::ClockOutputPath())
+        + m_typePrefix + id + suffix;
+}
+
+// An empty top text has to clear the wall: without a removal the text before it would stay there.
+GlyphOutcome DrwSourceIMage::Make(HClockNode *node, const QString &key, const GlyphRequest &request)
+{
+    GlyphOutcome outcome = Deliver(request);
+    outcome.path = request.path;
+    outcome.text = request.text;
+    if (outcome.state == GlyphState::Nothing && request.isTopText)
+        RemoveImageFile(request.path);
+    Record(node, key, request.path);
+    return outcome;
+}
+
+/// Draws what is not remembered, and writes what the file does not hold.
+GlyphOutcome DrwSourceIMage::Deliver(const GlyphRequest &request)
+{
+    GlyphOutcome outcome;
+    if (request.text.isEmpty())
+        outcome.state = GlyphState::Nothing;
+    if (request.text.isEmpty() || request.size > kLargestFontSize)
+        return outcome;
+    const GlyphFace &face = FaceFor(request.family, request.size);
+    const GlyphContent content {request.shape, request.text, face.description, request.colour};
+    GlyphMemory &memory = GlyphMemory::Shared();
+    DrawnGlyph glyph = memory.Find(content);
+    bool isThere = glyph.state == GlyphState::Drawn && Holds(request.path, glyph);
+    if (!isThere && glyph.file.isNull()) {
+        glyph = DrawGlyphImage(*m_painter, content, face.font);
+        memory.Keep(content, glyph);
+        isThere = Holds(request.path, glyph);
     }
-    Record(node, key, path);
+    if (!isThere && glyph.state == GlyphState::Drawn)
+        // A file under its digest's name is never written again, so it must be complete on disk.
+        outcome.error = WriteImageFile(request.path, glyph.file,
+                                       m_calcMd5 ? Durability::Forced : Durability::Ordinary);
+    outcome.state = glyph.state;
+    outcome.facts = glyph.facts;
+    return outcome;
 }
 
 // Looking a font up costs as much as drawing with it, and up to twelve images in turn use one.
-const QFont &DrwSourceIMage::Typeface(const QString &family, int size)
+const GlyphFace &DrwSourceIMage::FaceFor(const QString &family, int size)
 {
-    if (!m_typeface || m_typefaceFamily != family || m_typefaceSize != size) {
-        m_typeface.reset(new QFont(GlyphTypeface(family, size)));
-        m_typefaceFamily = family;
-        m_typefaceSize = size;
+    if (!m_face || m_face->family != family || m_face->size != size) {
+        const QFont font = GlyphTypeface(family, size);
+        m_face.reset(new GlyphFace {family, size, font, FaceOf(font)});
     }
-    return *m_typeface;
-}
-
-void DrwSourceIMage::Save(const QPixmap &pixmap, const QString &path)
-{
-    // A file under its digest's name is taken for good and never replaced, so it had better be.
-    SavePng(pixmap, path, m_calcMd5 ? Durability::Forced : Durability::Ordinary);
+    return *m_face;
 }
 
 void DrwSourceIMage::Record(HClockNode *node, const QString &key, const QString &path)

@@ -12,19 +12,25 @@
 #include <QString>
 
 QT_BEGIN_NAMESPACE
-class QFont;
 class QPainter;
-class QPixmap;
 QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
 
+struct GlyphFace;
+struct GlyphOutcome;
+struct GlyphRequest;
+
 /// Lives for one generation: made, called once, deleted.
 ///
-/// Nothing is reported. An image that cannot be made or written leaves the file of its name as it
-/// was, and is recorded all the same. That is one of width 0, one above 32767 pixels a side or
-/// 64 MiB, and any of a font above 32767 points. The one exception is a top text of width 0: the
-/// file of its plain name is removed, so that a cleared text no longer shows.
+/// Failures are not reported, but told on the node (host/glyph_faults.h). An image that cannot be
+/// made or written leaves the file of its name as it was, and is recorded all the same. That is one
+/// of width 0, one above 32767 pixels a side or 64 MiB, and any of a font above 32767 points. The
+/// one exception is a top text of width 0: the file of its plain name is removed, so that a cleared
+/// text no longer shows.
+///
+/// Only what changed is drawn: an image that the process has drawn lately is not drawn again, and a
+/// file that holds the right bytes already is not touched.
 class CLOCK_EXPORT DrwSourceIMage : public QObject
 {
     Q_OBJECT
@@ -63,20 +69,17 @@ private:
 
     // The class is shown to programs; how it works inside is not.
     Q_DECL_HIDDEN void ReadFont(HClockNode *node, GlyphFont font);
-    Q_DECL_HIDDEN void DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id);
-    Q_DECL_HIDDEN QString TextOf(const GlyphImage &image) const;
-    /// In pixels; more than an image may have where it cannot be measured.
-    Q_DECL_HIDDEN int WidthOf(const QString &text, const QString &family, int size);
-    Q_DECL_HIDDEN void DrawText(const QString &text, int width, const QString &family, int size,
-                                int colour, const QString &path);
-    Q_DECL_HIDDEN const QFont &Typeface(const QString &family, int size);
-    Q_DECL_HIDDEN void Save(const QPixmap &pixmap, const QString &path);
+    Q_DECL_HIDDEN GlyphOutcome DrawGlyph(HClockNode *node, const GlyphImage &image,
+                                         const QString &id);
+    Q_DECL_HIDDEN QString PathOf(GlyphShape shape, const QString &id, const QString &suffix) const;
+    Q_DECL_HIDDEN GlyphOutcome Make(HClockNode *node, const QString &key,
+                                    const GlyphRequest &request);
+    Q_DECL_HIDDEN GlyphOutcome Deliver(const GlyphRequest &request);
+    Q_DECL_HIDDEN const GlyphFace &FaceFor(const QString &family, int size);
     Q_DECL_HIDDEN void Record(HClockNode *node, const QString &key, const QString &path);
 
     QScopedPointer<QPainter> m_painter;
-    QScopedPointer<QFont> m_typeface; ///< used last
-    QString m_typefaceFamily;
-    int m_typefaceSize = 0;
+    QScopedPointer<GlyphFace> m_face; ///< used last
     FontSettings m_fonts[kGlyphFontCount];
     QString m_topText;
     QString m_typePrefix;

@@ -1,11 +1,10 @@
 #include "glyph/glyph_file.h"
 
-#include <QBuffer>
-#include <QByteArray>
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
-#include <QPixmap>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
@@ -19,56 +18,73 @@ namespace {
 
 constexpr qint64 kSmall = 64 << 10;
 
-QByteArray EncodePng(const QPixmap &pixmap)
+QByteArray Sha1(const QByteArray &bytes)
 {
-    QByteArray png;
-    QBuffer buffer(&png);
-    const bool encoded = buffer.open(QBuffer::WriteOnly) && pixmap.save(&buffer, "png");
-    return encoded ? png : QByteArray();
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
 }
 
-bool Holds(const QString &path, const QByteArray &bytes)
+/// The content of an ordinary file of that size; null for any other.
+QByteArray ReadFileOfSize(const QString &path, qint64 size)
 {
-    if (bytes.size() <= kSmall)
-        return ReadSmallFile(path) == bytes;
+    if (size <= kSmall)
+        return ReadSmallFile(path);
     QFile file(path);
     const QFileInfo info(path);
-    return info.isFile() && info.size() == bytes.size() && file.open(QFile::ReadOnly)
-        && file.readAll() == bytes;
+    const bool fits = info.isFile() && info.size() == size && file.open(QFile::ReadOnly);
+    return fits ? file.readAll() : QByteArray();
 }
 
-/// What a power failure left under the name gives way, and so does a pipe, which opening would wait
-/// for, or a link, behind which stands the file of somebody else. A filled directory refuses.
-bool OpenNew(QFile &file, const QByteArray &name)
+/// Leftovers of a power failure, FIFOs and links are removed first. A filled directory refuses.
+int OpenNew(const QByteArray &name)
 {
     const auto open = [&name] {
         return ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     };
-    int handle = open();
+    const int handle = open();
     if (handle < 0 && errno == EEXIST && std::remove(name.constData()) == 0)
-        handle = open();
-    return handle >= 0
-        && file.open(handle, QFile::WriteOnly | QFile::Unbuffered, QFile::AutoCloseHandle);
+        return open();
+    return handle;
 }
 
-bool Write(QFile &file, const QByteArray &bytes, Durability durability)
+// These give 0 or the system's number of the error.
+
+int WriteAll(int handle, const QByteArray &bytes)
 {
-    const bool written = file.write(bytes) == bytes.size()
-        && (durability == Durability::Ordinary || fsync(file.handle()) == 0);
-    file.close();
-    return written && file.error() == QFile::NoError;
+    for (int written = 0; written < bytes.size();) {
+        const ssize_t count = write(handle, bytes.constData() + written,
+                                    static_cast<std::size_t>(bytes.size() - written));
+        if (count < 0 && errno != EINTR)
+            return errno;
+        if (count == 0)
+            return ENOSPC;
+        written += static_cast<int>(std::max<ssize_t>(count, 0));
+    }
+    return 0;
+}
+
+int WriteAndClose(int handle, const QByteArray &bytes, Durability durability)
+{
+    int error = WriteAll(handle, bytes);
+    if (error == 0 && durability == Durability::Forced && fsync(handle) != 0)
+        error = errno;
+    if (close(handle) != 0 && error == 0)
+        error = errno;
+    return error;
 }
 
 /// Within one directory a rename replaces the older file in one step.
-void WriteAsideAndRename(const QString &path, const QByteArray &bytes, Durability durability)
+int WriteAsideAndRename(const QByteArray &to, const QByteArray &bytes, Durability durability)
 {
-    const QByteArray to = QFile::encodeName(path);
-    const QByteArray from = to + ".part";
-    QFile aside;
-    if (to.contains('\0') || !OpenNew(aside, from))
-        return;
-    if (!Write(aside, bytes, durability) || std::rename(from.constData(), to.constData()) != 0)
-        std::remove(from.constData());
+    const QByteArray aside = to + ".part";
+    const int handle = OpenNew(aside);
+    if (handle < 0)
+        return errno;
+    int error = WriteAndClose(handle, bytes, durability);
+    if (error == 0 && std::rename(aside.constData(), to.constData()) != 0)
+        error = errno;
+    if (error != 0)
+        std::remove(aside.constData());
+    return error;
 }
 
 bool IsWriteProtected(const QString &path)
@@ -101,16 +117,26 @@ QByteArray ReadSmallFile(const QString &path)
     return taken == content.size() ? content : QByteArray();
 }
 
-void SavePng(const QPixmap &pixmap, const QString &path, Durability durability)
+bool FileHolds(const QString &path, const QByteArray &bytes)
 {
-    const QByteArray png = EncodePng(pixmap);
-    if (png.isEmpty() || Holds(path, png))
-        return;
-    if (!IsWriteProtected(path))
-        WriteAsideAndRename(path, png, durability);
+    return !bytes.isEmpty() && ReadFileOfSize(path, bytes.size()) == bytes;
 }
 
-void RemovePng(const QString &path)
+bool FileHolds(const QString &path, qint64 size, const QByteArray &digest)
+{
+    const QByteArray content = ReadFileOfSize(path, size);
+    return content.size() == size && Sha1(content) == digest;
+}
+
+int WriteImageFile(const QString &path, const QByteArray &bytes, Durability durability)
+{
+    const QByteArray name = QFile::encodeName(path);
+    if (name.contains('\0'))
+        return EINVAL;
+    return IsWriteProtected(path) ? EACCES : WriteAsideAndRename(name, bytes, durability);
+}
+
+void RemoveImageFile(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status

@@ -1,12 +1,9 @@
-// The files of glyph images: read whole where they are small, as nearly all are, and written.
+// The files of glyph images: read whole where they are small, as nearly all are, compared, written
+// and removed.
 #pragma once
 
 #include <QByteArray>
 #include <QString>
-
-QT_BEGIN_NAMESPACE
-class QPixmap;
-QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
 
@@ -19,13 +16,17 @@ enum class Durability {
     Forced,   ///< it is on the disk on return; for names whose file is never written again
 };
 
-/// Writes a pixmap as PNG. The file changes as a whole or not at all: no half-written image ever
-/// stands under the name, and what cannot be written leaves an older file as it was. A file that
-/// holds the same bytes already is not touched. Nothing is reported.
-void SavePng(const QPixmap &pixmap, const QString &path, Durability durability);
+/// Whether an ordinary file holds these bytes, or bytes of this size and SHA-1 digest.
+bool FileHolds(const QString &path, const QByteArray &bytes);
+bool FileHolds(const QString &path, qint64 size, const QByteArray &digest);
+
+/// Writes an image's file. It changes as a whole or not at all: no half-written image ever stands
+/// under the name, and what cannot be written leaves an older file as it was. Gives 0, or the
+/// system's number of the error.
+int WriteImageFile(const QString &path, const QByteArray &bytes, Durability durability);
 
 /// Removes the file of an image, or a link in its place, but not the file that the link names.
 /// Anything else of that name stays, and so does what is write-protected. Nothing is reported.
-void RemovePng(const QString &path);
+void RemoveImageFile(const QString &path);
 
 } // namespace Lw::HNodeClock

@@ -1,0 +1,132 @@
+#include "glyph/glyph_check.h"
+
+#include "clock_node.h"
+#include "glyph/draw_source_image.h"
+#include "glyph/glyph_picture.h"
+#include "glyph/shown_glyphs.h"
+#include "image_bounds.h"
+
+#include <algorithm>
+
+namespace Lw::HNodeClock {
+
+namespace {
+
+bool IsInkExpected(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(),
+                       [](QChar letter) { return letter.isPrint() && !letter.isSpace(); });
+}
+
+Lw::GlyphFault Fault(Lw::GlyphFault::Kind kind, const GlyphImage &image)
+{
+    Lw::GlyphFault fault;
+    fault.kind = kind;
+    fault.key = image.Key();
+    return fault;
+}
+
+std::optional<Lw::GlyphFault> FontFault(const GlyphImage &image, const QString &lackingLetters)
+{
+    if (!GlyphMemory::Shared().HasFonts())
+        return Fault(Lw::GlyphFault::NoFont, image);
+    if (lackingLetters.isEmpty())
+        return std::nullopt;
+    Lw::GlyphFault fault = Fault(Lw::GlyphFault::NoLetters, image);
+    fault.letters = lackingLetters;
+    return fault;
+}
+
+/// Of an image that is shown and not empty.
+std::optional<Lw::GlyphFault> PictureFault(const GlyphImage &image, const GlyphOutcome &outcome)
+{
+    if (outcome.state == GlyphState::TooLarge)
+        return Fault(Lw::GlyphFault::TooLarge, image);
+    if (outcome.state == GlyphState::Nothing)
+        return std::nullopt;
+    if (auto fault = FontFault(image, outcome.facts.lackingLetters))
+        return fault;
+    if (!outcome.facts.hasInk && IsInkExpected(outcome.text))
+        return Fault(Lw::GlyphFault::NoInk, image);
+    return std::nullopt;
+}
+
+bool FitsAnImage(const QFontMetrics &metrics, const GlyphImage &image, const QString &text)
+{
+    const int width = image.row->shape == GlyphShape::DigitStrip
+        ? kDigitCells * WidestDigit(metrics)
+        : GlyphTextWidth(metrics, text);
+    return width <= 0 || WithinBounds({width, metrics.height()}, kGlyphBytes);
+}
+
+std::optional<Lw::GlyphFault> FontFaultOf(const GlyphImage &image, HClockNode &node)
+{
+    const GlyphFontAttributes font = FontAttributes(image.row->font, node.ClockType());
+    const int size = node.GetAttributeToInt(Key(font.size));
+    const QString text = GlyphText(image, TopTextOf(node));
+    if (text.isEmpty())
+        return std::nullopt;
+    if (size > kLargestFontSize)
+        return Fault(Lw::GlyphFault::TooLarge, image);
+    const QFontMetrics metrics(GlyphTypeface(node.GetAttribute(Key(font.family)), size));
+    if (!FitsAnImage(metrics, image, text))
+        return Fault(Lw::GlyphFault::TooLarge, image);
+    return FontFault(image, LackingLetters(metrics, text));
+}
+
+} // namespace
+
+std::optional<Lw::GlyphFault> FaultOf(const GlyphImage &image, const GlyphOutcome &outcome,
+                                      HClockNode &node)
+{
+    std::optional<Lw::GlyphFault> fault;
+    if (outcome.error != 0) {
+        fault = Fault(Lw::GlyphFault::NotWritten, image);
+        fault->error = outcome.error;
+    } else if (IsShown(image, node)) {
+        fault = PictureFault(image, outcome);
+    }
+    if (fault)
+        fault->path = outcome.path;
+    return fault;
+}
+
+QString TopTextOf(HClockNode &node)
+{
+    switch (node.ClockType()) {
+    case AnalogClock:
+        return node.GetAttribute(Key(Attribute::AnalogTopText));
+    case DigitalClock:
+        return node.GetAttribute(Key(Attribute::DigitalTopText));
+    default:
+        return {};
+    }
+}
+
+QString GlyphText(const GlyphImage &image, const QString &topText)
+{
+    if (image.row->shape == GlyphShape::DigitStrip)
+        return QLatin1String(kDigits);
+    switch (image.row->wording) {
+    case GlyphWording::TopText:
+        return topText;
+    case GlyphWording::Translated:
+        return DrwSourceIMage::tr(image.Text());
+    case GlyphWording::Verbatim:
+        break;
+    }
+    return QString::fromLatin1(image.Text());
+}
+
+QVector<Lw::GlyphFault> FontFaults(HClockNode &node)
+{
+    QVector<Lw::GlyphFault> faults;
+    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, node.ClockType())) {
+        const auto fault = IsShown(image, node) ? FontFaultOf(image, node) : std::nullopt;
+        if (fault)
+            faults.append(*fault);
+    }
+    return faults;
+}
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,42 @@
+// Whether the glyph images of a clock show what they should, as far as fonts and the making of the
+// images decide it.
+#pragma once
+
+#include "glyph/glyph_drawing.h"
+
+#include "glyph_faults.h"
+
+#include <QVector>
+
+#include <optional>
+
+namespace Lw::HNodeClock {
+
+class HClockNode;
+
+/// How the making of one image ended.
+struct GlyphOutcome
+{
+    QString path; ///< under its plain name
+    QString text;
+    GlyphState state = GlyphState::TooLarge;
+    int error = 0;    ///< of writing it; the system's number, or 0
+    GlyphFacts facts; ///< where it was drawn
+};
+
+/// What is wrong with an image that was made. Of one that the clock does not show, only that it
+/// could not be written.
+std::optional<Lw::GlyphFault> FaultOf(const GlyphImage &image, const GlyphOutcome &outcome,
+                                      HClockNode &node);
+
+/// The node's own text; empty for a clock that is neither analog nor digital.
+QString TopTextOf(HClockNode &node);
+
+/// The text of an image: the node's own, that of the table or its translation, or the ten digits.
+QString GlyphText(const GlyphImage &image, const QString &topText);
+
+/// What fonts will do to the images that the clock shows, found without making any: sizes beyond
+/// the bounds, no font at all, letters that no font has. In the order of making.
+QVector<Lw::GlyphFault> FontFaults(HClockNode &node);
+
+} // namespace Lw::HNodeClock

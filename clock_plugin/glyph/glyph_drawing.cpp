@@ -1,0 +1,109 @@
+#include "glyph/glyph_drawing.h"
+
+#include "glyph/glyph_picture.h"
+
+#include "lw_types.h"
+
+#include <QBuffer>
+#include <QColor>
+#include <QCryptographicHash>
+#include <QImage>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace Lw::HNodeClock {
+
+namespace {
+
+QByteArray EncodePng(const QImage &image)
+{
+    QByteArray png;
+    QBuffer buffer(&png);
+    const bool encoded = buffer.open(QBuffer::WriteOnly) && image.save(&buffer, "png");
+    return encoded ? png : QByteArray();
+}
+
+bool HasInk(const QImage &image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *const line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        if (std::any_of(line, line + image.width(), [](QRgb pixel) { return qAlpha(pixel) != 0; }))
+            return true;
+    }
+    return false;
+}
+
+DrawnGlyph Encoded(const QPixmap &picture)
+{
+    const QImage image = picture.toImage();
+    DrawnGlyph drawn;
+    drawn.file = EncodePng(image);
+    if (drawn.file.isEmpty())
+        return {};
+    drawn.state = GlyphState::Drawn;
+    drawn.facts.size = drawn.file.size();
+    drawn.facts.digest = QCryptographicHash::hash(drawn.file, QCryptographicHash::Sha1);
+    drawn.facts.hasInk = image.depth() != 32 || HasInk(image);
+    return drawn;
+}
+
+/// Encoded while the painter is still at work on it; a strip, after it has ended.
+DrawnGlyph DrawText(QPainter &painter, const QFont &font, const QString &text, const QColor &colour)
+{
+    const int width = GlyphTextWidth(QFontMetrics(font), text);
+    if (width <= 0)
+        return {GlyphState::Nothing, {}, {}};
+    QPixmap picture = EmptyPicture(font, width);
+    if (picture.isNull())
+        return {};
+    BeginText(painter, picture, font, colour, text);
+    const DrawnGlyph drawn = Encoded(picture);
+    painter.end();
+    return drawn;
+}
+
+DrawnGlyph DrawStrip(QPainter &painter, const QFont &font, const QColor &colour)
+{
+    QPixmap picture = EmptyPicture(font, kDigitCells * WidestDigit(QFontMetrics(font)));
+    if (picture.isNull())
+        return {};
+    BeginDigits(painter, picture, font, colour);
+    painter.end();
+    return Encoded(picture);
+}
+
+/// Letters that are seen, and so can be seen to be lacking.
+bool IsSeen(uint letter)
+{
+    const QChar::Category category = QChar::category(letter);
+    return !QChar::isSpace(letter) && category != QChar::Other_Control
+        && category != QChar::Other_Format;
+}
+
+} // namespace
+
+QString LackingLetters(const QFontMetrics &metrics, const QString &text)
+{
+    QString lacking;
+    for (const uint letter : text.toUcs4()) {
+        const QString written = QString::fromUcs4(&letter, 1);
+        if (IsSeen(letter) && !metrics.inFontUcs4(letter) && !lacking.contains(written))
+            lacking += written;
+    }
+    return lacking;
+}
+
+DrawnGlyph DrawGlyphImage(QPainter &painter, const GlyphContent &content, const QFont &font)
+{
+    const auto packed = static_cast<LWColor>(content.colour);
+    const QColor colour(RedOf(packed), GreenOf(packed), BlueOf(packed));
+    DrawnGlyph drawn = content.shape == GlyphShape::DigitStrip
+        ? DrawStrip(painter, font, colour)
+        : DrawText(painter, font, content.text, colour);
+    if (drawn.state == GlyphState::Drawn)
+        drawn.facts.lackingLetters = LackingLetters(QFontMetrics(font), content.text);
+    return drawn;
+}
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,107 @@
+#include "glyph/glyph_memory.h"
+
+#include <QDataStream>
+#include <QFont>
+#include <QFontDatabase>
+#include <QScreen>
+
+namespace Lw::HNodeClock {
+
+namespace {
+
+// In bytes. A set of 48 points has some 75 KB of files, and its facts some 20 KB.
+constexpr int kMostFiles = 1 << 20;
+constexpr int kMostFacts = 1 << 20;
+
+int CostOf(const GlyphContent &content, const GlyphFacts &facts)
+{
+    constexpr int kOverhead = 150; // of an entry, whatever it holds
+    return kOverhead + content.face.size()
+        + static_cast<int>(sizeof(QChar)) * (content.text.size() + facts.lackingLetters.size());
+}
+
+} // namespace
+
+bool operator==(const GlyphContent &one, const GlyphContent &other)
+{
+    return one.shape == other.shape && one.colour == other.colour && one.text == other.text
+        && one.face == other.face;
+}
+
+uint qHash(const GlyphContent &content, uint seed)
+{
+    return qHash(content.text, seed) ^ qHash(content.face, seed)
+        ^ ::qHash(content.colour * 2 + static_cast<int>(content.shape), seed);
+}
+
+// A text's direction is the application's unless its letters decide, and a size in points becomes
+// pixels by the first screen's resolution.
+QByteArray FaceOf(const QFont &font)
+{
+    QByteArray face;
+    QDataStream stream(&face, QIODevice::WriteOnly);
+    stream << font << QFont::substitutes(font.family())
+           << static_cast<int>(QGuiApplication::layoutDirection());
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        stream << screen->logicalDotsPerInchX() << screen->logicalDotsPerInchY();
+    return face;
+}
+
+GlyphMemory::GlyphMemory() : m_facts(kMostFacts), m_files(kMostFiles) { }
+
+GlyphMemory &GlyphMemory::Shared()
+{
+    static GlyphMemory memory;
+    memory.FollowApplication();
+    return memory;
+}
+
+void GlyphMemory::FollowApplication()
+{
+    if (m_application && m_application == qGuiApp)
+        return;
+    Forget();
+    m_application = qGuiApp;
+    if (m_application)
+        QObject::connect(
+            m_application, &QGuiApplication::fontDatabaseChanged, &m_listener, [this] { Forget(); },
+            Qt::DirectConnection);
+}
+
+DrawnGlyph GlyphMemory::Find(const GlyphContent &content)
+{
+    DrawnGlyph glyph;
+    if (const GlyphFacts *const facts = m_facts.object(content)) {
+        glyph.state = GlyphState::Drawn;
+        glyph.facts = *facts;
+        const QByteArray *const file = m_files.object(content);
+        glyph.file = file ? *file : QByteArray();
+    }
+    return glyph;
+}
+
+void GlyphMemory::Keep(const GlyphContent &content, const DrawnGlyph &glyph)
+{
+    if (glyph.state != GlyphState::Drawn)
+        return;
+    ++m_drawnImages;
+    const int cost = CostOf(content, glyph.facts);
+    m_facts.insert(content, new GlyphFacts(glyph.facts), cost);
+    m_files.insert(content, new QByteArray(glyph.file), cost + glyph.file.size());
+}
+
+void GlyphMemory::Forget()
+{
+    m_facts.clear();
+    m_files.clear();
+    m_hasFonts.reset();
+}
+
+bool GlyphMemory::HasFonts()
+{
+    if (!m_hasFonts)
+        m_hasFonts = !QFontDatabase().families().isEmpty();
+    return *m_hasFonts;
+}
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,94 @@
+#include "glyph/shown_glyphs.h"
+
+#include "clock_node.h"
+
+#include <iterator>
+#include <optional>
+
+namespace Lw::HNodeClock {
+
+namespace {
+
+using A = Attribute;
+
+/// The row of a clock that an image belongs to, and for which codes of its format.
+struct ShownRow
+{
+    Glyph glyph;
+    std::optional<Attribute> analogFlag; ///< shows the row; nothing where there is no such row
+    std::optional<Attribute> digitalFlag;
+    std::optional<Attribute> analogFormat; ///< nothing where the image is part of every format
+    std::optional<Attribute> digitalFormat;
+    const char *codes; ///< of the formats, one digit each
+};
+
+// clang-format off
+constexpr ShownRow kShown[] = {
+    {Glyph::TopText, A::Analog_TopTexy_d, A::Digital_TopTexy_d, {}, {}, ""},
+    {Glyph::ChWeek, A::Analog_Week_d, A::Digital_Week_d, A::AnalogWeekType, A::DigitalWeekType, "0"},
+    {Glyph::EnWeek, A::Analog_Week_d, A::Digital_Week_d, A::AnalogWeekType, A::DigitalWeekType, "1"},
+    {Glyph::EnWeekSim, A::Analog_Week_d, A::Digital_Week_d, A::AnalogWeekType, A::DigitalWeekType, "2"},
+    {Glyph::PersiaWeek, A::Analog_Week_d, A::Digital_Week_d, A::AnalogWeekType, A::DigitalWeekType, "3"},
+    {Glyph::Lunar, A::Analog_Lunar_d, A::Digital_Lunar_d, {}, {}, ""},
+    {Glyph::EnMonth, A::Analog_Date_d, A::Digital_Date_d, A::AnalogDateType, A::DigitalDateType, "34"},
+    {Glyph::DateCh, A::Analog_Date_d, A::Digital_Date_d, A::AnalogDateType, A::DigitalDateType, "56"},
+    {Glyph::DateChar, A::Analog_Date_d, A::Digital_Date_d, A::AnalogDateType, A::DigitalDateType, "0127"},
+    {Glyph::Space, A::Analog_Date_d, A::Digital_Date_d, A::AnalogDateType, A::DigitalDateType, "34"},
+    {Glyph::DateNumber, A::Analog_Date_d, A::Digital_Date_d, A::AnalogDateType, A::DigitalDateType, "012345678"},
+    {Glyph::Minus, A::Analog_Date_d, A::Digital_Date_d, A::AnalogDateType, A::DigitalDateType, "8"},
+    {Glyph::HourhandNumber, A::HourScaleType, {}, A::HourScaleType, {}, "34"},
+    {Glyph::AnalogAM, A::Analog_AMPM_d, {}, {}, {}, ""},
+    {Glyph::AnalogPM, A::Analog_AMPM_d, {}, {}, {}, ""},
+    {Glyph::TimeCh, {}, A::Digital_Time_d, {}, A::DigitalTimeType, "23"},
+    {Glyph::TimeChar, {}, A::Digital_Time_d, {}, A::DigitalTimeType, "014"},
+    {Glyph::TimeNumber, {}, A::Digital_Time_d, {}, {}, ""},
+    {Glyph::TimeAM, {}, A::Digital_Time_d, {}, A::DigitalMode, "1"},
+    {Glyph::TimePM, {}, A::Digital_Time_d, {}, A::DigitalMode, "1"},
+};
+// clang-format on
+
+constexpr bool RowsFollowEnumeration()
+{
+    for (int i = 0; i < kGlyphCount; ++i) {
+        if (kShown[i].glyph != static_cast<Glyph>(i))
+            return false;
+    }
+    return true;
+}
+static_assert(std::size(kShown) == kGlyphCount && RowsFollowEnumeration(),
+              "row i of the table must describe glyph i");
+
+/// What codes outside the documented ones show does not count.
+bool FormatShows(HClockNode &node, Attribute format, const char *codes)
+{
+    const int code = node.GetAttributeToInt(Key(format));
+    return RowOf(format).range.Contains(code)
+        && QLatin1String(codes).contains(QLatin1Char(static_cast<char>('0' + code)));
+}
+
+bool IsMarkHidden(HClockNode &node)
+{
+    const QString &key = Key(Attribute::DigitalDispAMPM);
+    return node.HaveAttribute(key) && node.GetAttributeToInt(key) == 0;
+}
+
+} // namespace
+
+bool IsShown(const GlyphImage &image, HClockNode &node)
+{
+    const Glyph glyph = image.row->glyph;
+    const ShownRow &row = kShown[static_cast<int>(glyph)];
+    const int clockType = node.ClockType();
+    if (clockType != AnalogClock && clockType != DigitalClock)
+        return false;
+    const bool isDigital = clockType == DigitalClock;
+    const auto flag = isDigital ? row.digitalFlag : row.analogFlag;
+    const auto format = isDigital ? row.digitalFormat : row.analogFormat;
+    if (!flag || node.GetAttributeToInt(Key(*flag)) == 0)
+        return false;
+    if ((glyph == Glyph::TimeAM || glyph == Glyph::TimePM) && IsMarkHidden(node))
+        return false;
+    return !format || FormatShows(node, *format, row.codes);
+}
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,315 @@
+// What a node tells of a generation that went wrong, and which images a clock shows.
+#include "file_size_limit.h"
+#include "glyph_output.h"
+#include "without_privileges.h"
+
+#include "glyph/glyph_check.h"
+#include "glyph/shown_glyphs.h"
+
+#include <QTest>
+
+#include <cerrno>
+
+using namespace Lw::HNodeClock;
+using Lw::GlyphFault;
+using Lw::GlyphFaultsOf;
+
+namespace {
+
+// Braille without a dot: it has a width and no ink. The other is the last character for private
+// use; no font that the tests install has it.
+const QString kInkless(QChar(0x2800));
+const uint kUnknownLetter = 0x10fffd;
+
+QStringList Keys(const QVector<GlyphFault> &faults, GlyphFault::Kind kind)
+{
+    QStringList keys;
+    for (const GlyphFault &fault : faults) {
+        if (fault.kind == kind)
+            keys << fault.key;
+    }
+    return keys;
+}
+
+QStringList SetKeys(int clockType)
+{
+    QStringList keys;
+    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, clockType))
+        keys << image.Key();
+    return keys;
+}
+
+/// A clock that shows every row.
+void FillShown(HClockNode &node, int clockType)
+{
+    node.InitData();
+    FillNode(node, clockType, 7);
+}
+
+void SetTopText(HClockNode &node, const QString &text)
+{
+    SetText(node, Attribute::AnalogTopText, text);
+    SetText(node, Attribute::DigitalTopText, text);
+}
+
+QStringList ShownKeys(HClockNode &node)
+{
+    QStringList keys;
+    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, node.ClockType())) {
+        // Of a series the first stands for all.
+        if (image.number <= 1 && IsShown(image, node))
+            keys << image.row->key;
+    }
+    return keys;
+}
+
+} // namespace
+
+class TestGlyphCheck : public QObject
+{
+    Q_OBJECT
+
+private:
+    QScopedPointer<GlyphOutput> m_output;
+
+    static void Types()
+    {
+        QTest::addColumn<int>("clockType");
+        QTest::newRow("analog") << 0;
+        QTest::newRow("digital") << 1;
+    }
+
+private Q_SLOTS:
+    void init() { m_output.reset(new GlyphOutput); }
+
+    void goodSetHasNoFaults_data() { Types(); }
+    void goodSetHasNoFaults()
+    {
+        QFETCH(int, clockType);
+        HClockNode node;
+        FillShown(node, clockType);
+        Generate(node);
+        QVERIFY(GlyphFaultsOf(node).isEmpty());
+        QVERIFY(node.dynamicPropertyNames().isEmpty());
+        QVERIFY(FontFaults(node).isEmpty());
+    }
+
+    void nodeWithoutAGenerationTellsNothing()
+    {
+        HClockNode node;
+        QVERIFY(GlyphFaultsOf(node).isEmpty());
+        QVERIFY(GlyphFaultsOf(QObject()).isEmpty());
+    }
+
+    void fullDisk_data() { Types(); }
+    void fullDisk()
+    {
+        QFETCH(int, clockType);
+        HClockNode node;
+        FillShown(node, clockType);
+        {
+            const FileSizeLimit limit(0);
+            Generate(node);
+        }
+        const QVector<GlyphFault> faults = GlyphFaultsOf(node);
+        QCOMPARE(Keys(faults, GlyphFault::NotWritten), SetKeys(clockType));
+        QCOMPARE(faults.first().error, EFBIG);
+        QCOMPARE(faults.first().path, node.GetFirstFile("_toptext"));
+        Generate(node);
+        QVERIFY(GlyphFaultsOf(node).isEmpty());
+    }
+
+    // Only what could not be written: the other files hold what they should already.
+    void fullDiskKeepsWhatIsOlder()
+    {
+        HClockNode node;
+        FillShown(node, DigitalClock);
+        Generate(node);
+        SetTopText(node, "today");
+        {
+            const FileSizeLimit limit(0);
+            Generate(node);
+        }
+        QCOMPARE(Keys(GlyphFaultsOf(node), GlyphFault::NotWritten), QStringList("_toptext"));
+        QVERIFY(QFile::exists(GlyphFaultsOf(node).first().path));
+    }
+
+    void unwritableDirectory()
+    {
+        HClockNode node;
+        FillShown(node, DigitalClock);
+        QFile::setPermissions(m_output->Regular(), QFile::Permissions(0x5555));
+        {
+            const WithoutPrivileges nobody;
+            QVERIFY(nobody.Dropped());
+            Generate(node);
+        }
+        QFile::setPermissions(m_output->Regular(), QFile::Permissions(0x7777));
+        QCOMPARE(GlyphFaultsOf(node).size(), SetKeys(DigitalClock).size());
+        QCOMPARE(GlyphFaultsOf(node).first().error, EACCES);
+    }
+
+    void missingDirectory()
+    {
+        HClockNode node;
+        FillShown(node, AnalogClock);
+        const QString missing = m_output->Regular() + "gone";
+        Lw::HAppConfig::SetClockOutputPath(missing);
+        QVERIFY(QDir().rmdir(missing));
+        Generate(node);
+        QCOMPARE(GlyphFaultsOf(node).size(), SetKeys(AnalogClock).size());
+        QCOMPARE(GlyphFaultsOf(node).first().error, ENOENT);
+    }
+
+    void emptyTopTextIsNoFault()
+    {
+        HClockNode node;
+        FillShown(node, DigitalClock);
+        SetTopText(node, QString());
+        Generate(node);
+        QVERIFY(GlyphFaultsOf(node).isEmpty());
+        QVERIFY(FontFaults(node).isEmpty());
+    }
+
+    void badTopText_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("letters");
+        const QString unknown = QString::fromUcs4(&kUnknownLetter, 1);
+        QTest::newRow("too wide") << QString(10000, 'W') << 12 << int(GlyphFault::TooLarge) << "";
+        QTest::newRow("font too large") << "LED" << 40000 << int(GlyphFault::TooLarge) << "";
+        QTest::newRow("unknown letter, twice")
+            << unknown + "LED" + unknown << 12 << int(GlyphFault::NoLetters) << unknown;
+    }
+    void badTopText()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, size);
+        QFETCH(int, kind);
+        QFETCH(QString, letters);
+        HClockNode node;
+        FillShown(node, DigitalClock);
+        SetTopText(node, text);
+        SetInt(node, Attribute::DigitalTopTextFSize, size);
+        Generate(node);
+        for (const QVector<GlyphFault> &faults : {GlyphFaultsOf(node), FontFaults(node)}) {
+            QCOMPARE(faults.size(), 1);
+            QCOMPARE(faults[0].key, QString("_toptext"));
+            QCOMPARE(int(faults[0].kind), kind);
+            QCOMPARE(faults[0].letters, letters);
+        }
+        SetInt(node, Attribute::Digital_TopTexy_d, 0);
+        Generate(node);
+        QVERIFY2(GlyphFaultsOf(node).isEmpty(), "told of a row that is hidden");
+        QVERIFY2(FontFaults(node).isEmpty(), "told of a row that is hidden");
+    }
+
+    void textWithoutInk()
+    {
+        HClockNode node;
+        FillShown(node, AnalogClock);
+        SetTopText(node, kInkless);
+        Generate(node);
+        QCOMPARE(Keys(GlyphFaultsOf(node), GlyphFault::NoInk), QStringList("_toptext"));
+        SetTopText(node, "   ");
+        Generate(node);
+        QVERIFY2(GlyphFaultsOf(node).isEmpty(), "blanks need no ink");
+    }
+
+    void hugeStrips()
+    {
+        HClockNode node;
+        FillShown(node, DigitalClock);
+        SetInt(node, Attribute::DigitalTimeFSize, 2000);
+        Generate(node);
+        QCOMPARE(Keys(GlyphFaultsOf(node), GlyphFault::TooLarge), QStringList("_timeNumber"));
+        QCOMPARE(Keys(FontFaults(node), GlyphFault::TooLarge), QStringList("_timeNumber"));
+    }
+
+    void pictureClocksAndOthersHaveNone()
+    {
+        HClockNode node;
+        for (int clockType : {2, 3, -1}) {
+            FillShown(node, clockType);
+            SetTopText(node, QString(10000, 'W'));
+            Generate(node);
+            QVERIFY(GlyphFaultsOf(node).isEmpty());
+            QVERIFY(FontFaults(node).isEmpty());
+        }
+    }
+
+    void shownImages_data()
+    {
+        QTest::addColumn<int>("clockType");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<QStringList>("expected");
+        const QStringList date {"_dateChar", "_dateNumber"};
+        const auto row = [](const char *name, int type, const char *key, int value,
+                            const QStringList &expected) {
+            QTest::newRow(name) << type << QString(key) << value << expected;
+        };
+        const QStringList analog =
+            QStringList {"_toptext", "_chWeek_"} + date + QStringList {"_AnalogAM", "_AnalogPM"};
+        const auto without = [](QStringList keys, const QStringList &gone) {
+            for (const QString &key : gone)
+                keys.removeAll(key);
+            return keys;
+        };
+        row("new analog clock", 0, "Id", 7, analog);
+        row("numerals", 0, "HourScaleType", 4,
+            without(analog, {"_AnalogAM", "_AnalogPM"})
+                + QStringList {"_hourhandNumber", "_AnalogAM", "_AnalogPM"});
+        row("squares without numerals", 0, "HourScaleType", 2, analog);
+        row("no badge", 0, "Analog_AMPM_d", 0, without(analog, {"_AnalogAM", "_AnalogPM"}));
+        row("no top text", 0, "Analog_TopTexy_d", 0, without(analog, {"_toptext"}));
+        row("no date", 0, "Analog_Date_d", 0, without(analog, date));
+        const QStringList digital =
+            QStringList {"_toptext", "_chWeek_"} + date + QStringList {"_timeChar", "_timeNumber"};
+        row("new digital clock", 1, "Id", 7, digital);
+        row("Persian week", 1, "DigitalWeekType", 3,
+            QStringList {"_toptext", "_PersiaWeek_"} + date
+                + QStringList {"_timeChar", "_timeNumber"});
+        row("lunar", 1, "Digital_Lunar_d", 1,
+            QStringList {"_toptext", "_chWeek_", "_lunar"} + date
+                + QStringList {"_timeChar", "_timeNumber"});
+        row("labelled time", 1, "DigitalTimeType", 3,
+            without(digital, {"_timeChar", "_timeNumber"})
+                + QStringList {"_timeCh", "_timeNumber"});
+        row("twelve hours", 1, "DigitalMode", 1, digital + QStringList {"_timeAM", "_timePM"});
+        row("minus", 1, "DigitalDateType", 8,
+            QStringList {"_toptext", "_chWeek_", "_dateNumber", "_Minus", "_timeChar",
+                         "_timeNumber"});
+        row("month's name", 1, "DigitalDateType", 3,
+            QStringList {"_toptext", "_chWeek_", "_dateEnMonth_", "_space", "_dateNumber",
+                         "_timeChar", "_timeNumber"});
+        row("picture clock", 2, "Id", 7, {});
+    }
+    void shownImages()
+    {
+        QFETCH(int, clockType);
+        QFETCH(QString, key);
+        QFETCH(int, value);
+        QFETCH(QStringList, expected);
+        HClockNode node;
+        FillShown(node, clockType);
+        node.SetAttribute(key, value, false);
+        QCOMPARE(ShownKeys(node), expected);
+    }
+
+    void markOfTwelveHoursCanBeHidden()
+    {
+        HClockNode node;
+        FillShown(node, DigitalClock);
+        SetInt(node, Attribute::DigitalMode, 1);
+        SetInt(node, Attribute::DigitalDispAMPM, 0);
+        QVERIFY(!ShownKeys(node).contains("_timeAM"));
+        SetInt(node, Attribute::DigitalDispAMPM, 1);
+        QVERIFY(ShownKeys(node).contains("_timeAM"));
+    }
+};
+
+QTEST_MAIN(TestGlyphCheck)
+#include "test_glyph_check.moc"
