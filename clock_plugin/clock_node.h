@@ -23,12 +23,15 @@ struct ExportSource;
 struct ImportElement;
 
 /// Every glyph file moved by an export, and its digest at the same index. One pair for the
-/// process; only appended to, cleared by nobody here.
+/// process; only appended to, never cleared by the plugin.
 extern CLOCK_EXPORT QStringList fileList;
 extern CLOCK_EXPORT QStringList fileMd5List;
 
 /// The type of the node and of the plugin that makes it.
 inline constexpr char kNodeType[] = "LW_Clock_Plugin";
+
+/// What the host calls a recorded image.
+inline constexpr int kImageFileKind = 3;
 
 namespace Sdk {
 /// The tag of a clock's element.
@@ -142,7 +145,7 @@ public:
     void ProcFile(QDomElement &element, QList<Lw::FileInfo> &files);
 
 Q_SIGNALS:
-    void ReDrawSourceImage();     ///< the glyph images must be made again
+    void ReDrawSourceImage();     ///< the glyph images must be regenerated
     void SizeChanged(QSize size); ///< declared for the host; never emitted here
 
 private:

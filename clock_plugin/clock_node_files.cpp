@@ -1,7 +1,6 @@
 // The node's side of its glyph files: when they are made, whether they are there, how they travel.
 #include "clock_node.h"
 
-#include "clock_sdk_tables.h"
 #include "glyph/draw_source_image.h"
 #include "glyph/glyph_move.h"
 #include "glyph/glyph_set.h"
@@ -9,10 +8,8 @@
 
 #include "happconfig.h"
 
-#include <QDomElement>
 #include <QFile>
 #include <QFileInfo>
-#include <QPointer>
 
 #include <cstdio>
 
@@ -32,21 +29,6 @@ constexpr int kNotTemporaryLine = 827;
 // Where programs lie that are only tried out, on the controller and on the editor's machine.
 constexpr char kControllerTempFolder[] = "/root/Box/project/temp/project/";
 constexpr char kEditorTempFolder[] = "/tmp/lwTempProgram/";
-
-/// The clock type that an element names; nothing where its type is a word of no kind of clock.
-std::optional<int> ClockTypeIn(const QDomElement &element)
-{
-    const QDomElement clockCom = element.firstChildElement(QLatin1String(Sdk::kClockCom));
-    if (!clockCom.isNull())
-        return clockCom.attribute(QLatin1String(Sdk::kClockType), QStringLiteral("-1")).toInt();
-    const QString named =
-        element.attribute(QLatin1String(Sdk::kType), QLatin1String(Sdk::kTypeNames[AnalogClock]));
-    for (const int type : {AnalogClock, DigitalClock, PictureClock}) {
-        if (named == QLatin1String(Sdk::kTypeNames[type]))
-            return type;
-    }
-    return {};
-}
 
 bool IsTemporaryProgramFile(const QString &path)
 {
@@ -141,41 +123,6 @@ void HClockNode::GetSDKTempFile(QList<QFileInfo> &out)
         std::printf("[%s::%s::%d]\"not in temp file[%s],md5[%s],exists:%d\"\n", kLogSource,
                     "GetSDKTempFile", kNotTemporaryLine, qUtf8Printable(file.path),
                     qUtf8Printable(file.md5), QFile::exists(file.path) ? 1 : 0);
-    }
-}
-
-// The font takes effect before the type is judged: an element that is refused for its type has
-// set its font all the same.
-bool HClockNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &files)
-{
-    if (element.isNull())
-        return false;
-    const QPointer<HClockNode> self(this);
-    Import(element, std::begin(kFontImport), std::end(kFontImport));
-    const std::optional<int> type = ClockTypeIn(element);
-    if (!self || (type != DigitalClock && type != AnalogClock))
-        return false;
-    *type == DigitalClock ? PatchDigital(element) : PatchAnalog(element);
-    if (self)
-        Store(Attribute::ClockType, *type);
-    if (self)
-        Import(element, std::begin(kTimeImport), std::end(kTimeImport));
-    if (self)
-        ProcFile(element, files);
-    return !self.isNull();
-}
-
-void HClockNode::ProcFile(QDomElement &element, QList<Lw::FileInfo> &files)
-{
-    const QString tag = QLatin1String(Sdk::kFile);
-    for (QDomElement file = element.firstChildElement(tag); !file.isNull();
-         file = file.nextSiblingElement(tag)) {
-        const QString md5 = file.attribute(QStringLiteral("md5"));
-        const quint64 size = file.attribute(QStringLiteral("size")).toULongLong();
-        const QString path = file.attribute(QStringLiteral("path"));
-        SetFilePath(file.attribute(QStringLiteral("key")), path, md5, static_cast<long long>(size),
-                    kImageFileKind);
-        files.append({md5, size, path});
     }
 }
 

@@ -1,4 +1,4 @@
-// SDK XML, out and in.
+// SDK XML, out and in, and what is read back of an exported clock.
 #include "clock_node.h"
 
 #include "calendar/clock_time.h"
@@ -52,6 +52,21 @@ std::optional<int> SignedSeconds(const QString &text)
         return -seconds;
     if (text.startsWith(QLatin1Char('+')))
         return seconds;
+    return {};
+}
+
+/// The clock type that an element names; nothing where its type is a word of no kind of clock.
+std::optional<int> ClockTypeIn(const QDomElement &element)
+{
+    const QDomElement clockCom = element.firstChildElement(QLatin1String(Sdk::kClockCom));
+    if (!clockCom.isNull())
+        return clockCom.attribute(QLatin1String(Sdk::kClockType), QStringLiteral("-1")).toInt();
+    const QString named =
+        element.attribute(QLatin1String(Sdk::kType), QLatin1String(Sdk::kTypeNames[AnalogClock]));
+    for (const int type : {AnalogClock, DigitalClock, PictureClock}) {
+        if (named == QLatin1String(Sdk::kTypeNames[type]))
+            return type;
+    }
     return {};
 }
 
@@ -129,6 +144,41 @@ void HClockNode::LunarCoverToSDK(QDomElement &element, QString colorKey, QString
     if (HaveAttribute(displayKey)) {
         const bool shown = GetAttributeToInt(displayKey) != 0;
         element.setAttribute(QLatin1String(Sdk::kDisplay), QLatin1String(shown ? "true" : "false"));
+    }
+}
+
+// The font takes effect before the type is judged: an element that is refused for its type has
+// set its font all the same.
+bool HClockNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &files)
+{
+    if (element.isNull())
+        return false;
+    const QPointer<HClockNode> self(this);
+    Import(element, std::begin(kFontImport), std::end(kFontImport));
+    const std::optional<int> type = ClockTypeIn(element);
+    if (!self || (type != DigitalClock && type != AnalogClock))
+        return false;
+    *type == DigitalClock ? PatchDigital(element) : PatchAnalog(element);
+    if (self)
+        Store(Attribute::ClockType, *type);
+    if (self)
+        Import(element, std::begin(kTimeImport), std::end(kTimeImport));
+    if (self)
+        ProcFile(element, files);
+    return !self.isNull();
+}
+
+void HClockNode::ProcFile(QDomElement &element, QList<Lw::FileInfo> &files)
+{
+    const QString tag = QLatin1String(Sdk::kFile);
+    for (QDomElement file = element.firstChildElement(tag); !file.isNull();
+         file = file.nextSiblingElement(tag)) {
+        const QString md5 = file.attribute(QStringLiteral("md5"));
+        const quint64 size = file.attribute(QStringLiteral("size")).toULongLong();
+        const QString path = file.attribute(QStringLiteral("path"));
+        SetFilePath(file.attribute(QStringLiteral("key")), path, md5, static_cast<long long>(size),
+                    kImageFileKind);
+        files.append({md5, size, path});
     }
 }
 

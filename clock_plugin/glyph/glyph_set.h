@@ -18,8 +18,6 @@ namespace Lw::HNodeClock {
 inline constexpr char kAnalogPrefix[] = "analog_";
 inline constexpr char kDigitalPrefix[] = "digital_";
 inline constexpr char kGlyphSuffix[] = ".png";
-/// What the host calls a recorded image.
-inline constexpr int kImageFileKind = 3;
 
 enum class Glyph : int {
     TopText,
