@@ -1,6 +1,7 @@
 #include "glyph_export.h"
 
 #include "export_directory.h"
+#include "glyph_messages.h"
 #include "output.h"
 #include "whole_file.h"
 #include "work_directory.h"
@@ -102,6 +103,12 @@ private:
         {
             const QuietOutput quiet;
             clock.NodeAlready(0);
+        }
+        CheckMade(clock);
+        if (m_failure)
+            return;
+        {
+            const QuietOutput quiet;
             clock.ProcessFileName(destination);
         }
         QStringList missing;
@@ -122,19 +129,34 @@ private:
         CheckMissing(clock, missing);
     }
 
+    void CheckMade(HClockNode &clock)
+    {
+        const auto messages = ClockProgram::DescribeGlyphFaults(Lw::GlyphFaultsOf(clock));
+        for (const QString &warning : messages.warnings)
+            Say(OfClock(clock, QStringLiteral("warning: ") + warning));
+        if (!messages.failures.isEmpty())
+            m_failure = ExportFailure(OfClock(clock, messages.failures.join(QStringLiteral("; "))));
+    }
+
+    QString OfClock(HClockNode &clock, const QString &text) const
+    {
+        return QStringLiteral("%1: clock %2: %3")
+            .arg(m_clocks.program.path)
+            .arg(clock.GetAttributeToInt(Key(Attribute::Id)))
+            .arg(text);
+    }
+
     void CheckMissing(HClockNode &clock, QStringList missing)
     {
         if (clock.GetAttribute(TopTextKey(clock)).isEmpty())
             missing.removeAll(GlyphKey(Glyph::TopText));
         if (missing.isEmpty())
             return;
-        // The clock does not tell an image that cannot be made from one that cannot be written.
+        // Of rows that are hidden; they have to travel all the same.
         m_failure = ExportFailure(
-            QStringLiteral("%1: clock %2: images are missing: %3: no room in %4, or the font is "
-                           "too large or not there")
-                .arg(m_clocks.program.path)
-                .arg(clock.GetAttributeToInt(Key(Attribute::Id)))
-                .arg(missing.join(QStringLiteral(", ")), m_directory.path()));
+            OfClock(clock,
+                    QStringLiteral("no image can be made for %1: the font is too large")
+                        .arg(missing.join(QStringLiteral(", ")))));
     }
 
     static QString TopTextKey(HClockNode &clock)

@@ -8,6 +8,9 @@
 
 namespace {
 
+// The last character for private use; no font that the tests install has it.
+constexpr uint kUnknownLetter = 0x10fffd;
+
 const QString kInstant = QStringLiteral("2024-03-05T13:07:58Z");
 
 ProcessRun Play(const QString &program, const QString &frames, const QStringList &more = {})
@@ -70,6 +73,8 @@ private slots:
     void Refuses_data();
     void Refuses();
     void RefusesToReplaceTheProgram();
+    void FaultyImagesAreReported_data();
+    void FaultyImagesAreReported();
     void FailureLeavesEarlierExport();
 
 private:
@@ -287,6 +292,42 @@ void TestToolExport::RefusesToReplaceTheProgram()
 }
 
 // A directory stands where the list would be written: the images are there, the rest fails.
+// A wall whose images are wrong is no success.
+void TestToolExport::FaultyImagesAreReported_data()
+{
+    QTest::addColumn<QString>("clock");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message");
+    const QString row = "<clock type=\"digital\" timezone=\"+00:00\"><title value=\"%1\"/>"
+                        "<attribute key=\"DigitalTopTextFSize\" value=\"%2\"/>"
+                        "<attribute key=\"Digital_TopTexy_d\" value=\"%3\"/></clock>";
+    const QString unknown = QString::fromUcs4(&kUnknownLetter, 1);
+    QTest::newRow("letter of no font")
+        << row.arg(unknown).arg(12).arg(1) << 0 << "warning: no installed font has";
+    QTest::newRow("blank text") << row.arg(QChar(0x2800)).arg(12).arg(1) << 1
+                                << "the font draws nothing for the glyph image _toptext";
+    QTest::newRow("font too large")
+        << row.arg("LED").arg(30000).arg(1) << 1 << "would be larger than 32767 pixels";
+    QTest::newRow("hidden, font too large")
+        << row.arg("LED").arg(30000).arg(0) << 1 << "no image can be made for _toptext";
+}
+void TestToolExport::FaultyImagesAreReported()
+{
+    QFETCH(QString, clock);
+    QFETCH(int, exitCode);
+    QFETCH(QString, message);
+    const QTemporaryDir directory;
+    const QString program = directory.filePath("in.xml");
+    const QString text = "<program width=\"64\" height=\"32\"><area x=\"0\" y=\"0\" width=\"64\" "
+                         "height=\"32\">"
+        + clock + "</area></program>";
+    QVERIFY(WriteText(program, text.toUtf8()));
+    const ProcessRun run = RunTool({"export", program, directory.filePath("out")});
+    QCOMPARE(run.exitCode, exitCode);
+    QVERIFY2(run.errors.contains(message), qPrintable(run.errors));
+    QCOMPARE(QFile::exists(directory.filePath("out/program.xml")), exitCode == 0);
+}
+
 void TestToolExport::FailureLeavesEarlierExport()
 {
     QCOMPARE(Export(ProgramOf("<clock/>")).exitCode, 0);
