@@ -4,16 +4,28 @@
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
 #include "glyph/draw_source_image.h"
+#include "glyph/glyph_file.h"
+#include "glyph/glyph_memory.h"
+
+#include "happconfig.h"
 
 #include <QBuffer>
+#include <QDir>
+#include <QPair>
 #include <QPixmap>
 #include <QVector>
+
+#include <vector>
 
 using Lw::HNodeClock::Attribute;
 using Lw::HNodeClock::DrawClockClassifyImage;
 using Lw::HNodeClock::DrawDisplayImage;
 using Lw::HNodeClock::DrwSourceIMage;
+using Lw::HNodeClock::Durability;
+using Lw::HNodeClock::GlyphMemory;
 using Lw::HNodeClock::Key;
+using Lw::HNodeClock::ReadSmallFile;
+using Lw::HNodeClock::WriteImageFile;
 
 namespace {
 
@@ -27,31 +39,89 @@ std::unique_ptr<Lw::HNodeClock::HClockNode> NodeOf(const benchmark::State &state
                           static_cast<int>(state.range(1)));
 }
 
-// The colour of dates and weeks changes with each run or stays: files
-// that would come out as they stand may be left alone.
-void Generate(benchmark::State &state, bool changing)
+// Nothing is remembered of the set; its files hold the right bytes already.
+void GlyphGeneration(benchmark::State &state)
+{
+    const auto node = NodeOf(state);
+    const bench::CountsPerIteration counts(state);
+    for (auto _ : state) {
+        GlyphMemory::Shared().Forget();
+        DrwSourceIMage().DrawClockSourceImage(node.get());
+    }
+}
+
+void GlyphGenerationUnchanged(benchmark::State &state)
+{
+    const auto node = NodeOf(state);
+    bench::MakeGlyphs(node.get());
+    const bench::CountsPerIteration counts(state);
+    for (auto _ : state)
+        DrwSourceIMage().DrawClockSourceImage(node.get());
+}
+
+// One attribute changes with each run, to a value that it did not have before.
+void GlyphGenerationDateColour(benchmark::State &state)
 {
     const auto node = NodeOf(state);
     bench::MakeGlyphs(node.get());
     int colour = 0;
     const bench::CountsPerIteration counts(state);
     for (auto _ : state) {
-        colour = changing ? (colour + 1) % 0x1000000 : colour;
-        for (const Attribute key : {Attribute::DigitalDateColor, Attribute::AnalogDateColor,
-                                    Attribute::DigitalWeekColor, Attribute::AnalogWeekColor})
+        ++colour;
+        for (const Attribute key : {Attribute::DigitalDateColor, Attribute::AnalogDateColor})
             node->SetAttribute(Key(key), colour, false);
         DrwSourceIMage().DrawClockSourceImage(node.get());
     }
 }
 
-void GlyphGeneration(benchmark::State &state)
+void EmptyOutput()
 {
-    Generate(state, true);
+    const QDir directory(Lw::HAppConfig::ClockOutputPath());
+    for (const QString &name : directory.entryList(QDir::Files))
+        QFile::remove(directory.filePath(name));
 }
 
-void GlyphGenerationUnchanged(benchmark::State &state)
+std::vector<std::unique_ptr<Lw::HNodeClock::HClockNode>> NodesAlike(const benchmark::State &state)
 {
-    Generate(state, false);
+    std::vector<std::unique_ptr<Lw::HNodeClock::HClockNode>> nodes;
+    for (int i = 0; i < static_cast<int>(state.range(2)); ++i) {
+        nodes.push_back(NodeOf(state));
+        nodes.back()->SetAttribute(Key(Attribute::Id), 1000 + i, false);
+    }
+    return nodes;
+}
+
+// Of clocks that differ in their identities only, into an empty directory.
+void GlyphGenerationAlike(benchmark::State &state)
+{
+    const auto nodes = NodesAlike(state);
+    for (auto _ : state) {
+        state.PauseTiming();
+        EmptyOutput();
+        GlyphMemory::Shared().Forget();
+        state.ResumeTiming();
+        for (const auto &node : nodes)
+            DrwSourceIMage().DrawClockSourceImage(node.get());
+    }
+}
+
+// The floor of that: their files are created, with nothing to draw or look up.
+void GlyphFilesCreated(benchmark::State &state)
+{
+    const auto nodes = NodesAlike(state);
+    QVector<QPair<QString, QByteArray>> files;
+    for (const auto &node : nodes) {
+        bench::MakeGlyphs(node.get());
+        for (const Lw::FileRecord &record : node->FileRecords())
+            files.append({record.path, ReadSmallFile(record.path)});
+    }
+    for (auto _ : state) {
+        state.PauseTiming();
+        EmptyOutput();
+        state.ResumeTiming();
+        for (const auto &file : qAsConst(files))
+            WriteImageFile(file.first, file.second, Durability::Ordinary);
+    }
 }
 
 // The least that making a set can cost: its images encoded as they are saved, into memory.
@@ -106,10 +176,21 @@ void Sets(benchmark::internal::Benchmark *sets)
     sets->Unit(benchmark::kMillisecond);
 }
 
+void SetsOfClocks(benchmark::internal::Benchmark *sets)
+{
+    sets->ArgNames({"type", "points", "clocks"});
+    for (const int clocks : {1, 64})
+        sets->Args({bench::kDigital, kPointsOf48Pixels, clocks});
+    sets->Unit(benchmark::kMillisecond);
+}
+
 } // namespace
 
 BENCHMARK(GlyphGeneration)->Apply(Sets);
 BENCHMARK(GlyphGenerationUnchanged)->Apply(Sets);
+BENCHMARK(GlyphGenerationDateColour)->Apply(Sets);
+BENCHMARK(GlyphGenerationAlike)->Apply(SetsOfClocks);
+BENCHMARK(GlyphFilesCreated)->Apply(SetsOfClocks);
 BENCHMARK(GlyphSetEncoded)->Apply(Sets);
 BENCHMARK(GlyphLoading)->Apply(Sets);
 BENCHMARK(FirstFrame)->Apply(Sets);
