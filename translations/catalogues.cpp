@@ -1,6 +1,7 @@
 #include "catalogues.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
 #include <QPointer>
 #include <QTranslator>
@@ -15,7 +16,12 @@ namespace ClockCatalogues {
 
 QStringList Languages()
 {
-    return {QStringLiteral("en"), QStringLiteral("fa"), QStringLiteral("zh")};
+    RegisterCatalogues();
+    QStringList languages;
+    for (const QString &name :
+         QDir(QStringLiteral(":/clock_catalogues")).entryList(QDir::Files, QDir::Name))
+        languages.append(name.section(QLatin1Char('_'), 1).section(QLatin1Char('.'), 0, 0));
+    return languages;
 }
 
 QString LanguageFor(const QLocale &locale)
@@ -30,7 +36,6 @@ bool Install(const QString &language)
     QCoreApplication *const application = QCoreApplication::instance();
     if (!application || !Languages().contains(language))
         return false;
-    RegisterCatalogues();
     auto *const translator = new QTranslator(application);
     const bool usable =
         translator->load(QStringLiteral(":/clock_catalogues/clock_%1.qm").arg(language))

@@ -1,6 +1,9 @@
 // Dates: which pieces, in which order, on a canvas of which width.
+#include "clock_attributes.h"
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
+
+#include <iterator>
 
 namespace Lw::HNodeClock {
 
@@ -9,25 +12,30 @@ namespace {
 // The parts of a date, in the units that an order is written in.
 enum class Part { Year, Month, MonthName, Day, Separator, Minus, Space, Label0, Label1, Label2 };
 
+/// What reserves the width of a date.
+enum class Canvas { Separators, MonthName, Labels, LabelsWithoutYear };
+
 struct DateFormat
 {
+    Canvas canvas;
     std::array<Part, 6> parts;
     int count;
 };
 
 // clang-format off
 constexpr DateFormat kDateFormats[] = {
-    /* 0 */ {{Part::Year, Part::Separator, Part::Month, Part::Separator, Part::Day}, 5},
-    /* 1 */ {{Part::Month, Part::Separator, Part::Day, Part::Separator, Part::Year}, 5},
-    /* 2 */ {{Part::Day, Part::Separator, Part::Month, Part::Separator, Part::Year}, 5},
-    /* 3 */ {{Part::MonthName, Part::Space, Part::Day, Part::Year}, 4},
-    /* 4 */ {{Part::Day, Part::Space, Part::MonthName, Part::Year}, 4},
-    /* 5 */ {{Part::Year, Part::Label0, Part::Month, Part::Label1, Part::Day, Part::Label2}, 6},
-    /* 6 */ {{Part::Month, Part::Label1, Part::Day, Part::Label2}, 4},
-    /* 7 */ {{Part::Year, Part::Separator, Part::Month, Part::Separator, Part::Day}, 5},
-    /* 8 */ {{Part::Year, Part::Minus, Part::Month, Part::Minus, Part::Day}, 5},
+    /* 0 */ {Canvas::Separators, {Part::Year, Part::Separator, Part::Month, Part::Separator, Part::Day}, 5},
+    /* 1 */ {Canvas::Separators, {Part::Month, Part::Separator, Part::Day, Part::Separator, Part::Year}, 5},
+    /* 2 */ {Canvas::Separators, {Part::Day, Part::Separator, Part::Month, Part::Separator, Part::Year}, 5},
+    /* 3 */ {Canvas::MonthName, {Part::MonthName, Part::Space, Part::Day, Part::Year}, 4},
+    /* 4 */ {Canvas::MonthName, {Part::Day, Part::Space, Part::MonthName, Part::Year}, 4},
+    /* 5 */ {Canvas::Labels, {Part::Year, Part::Label0, Part::Month, Part::Label1, Part::Day, Part::Label2}, 6},
+    /* 6 */ {Canvas::LabelsWithoutYear, {Part::Month, Part::Label1, Part::Day, Part::Label2}, 4},
+    /* 7 */ {Canvas::Separators, {Part::Year, Part::Separator, Part::Month, Part::Separator, Part::Day}, 5},
+    /* 8 */ {Canvas::Separators, {Part::Year, Part::Minus, Part::Month, Part::Minus, Part::Day}, 5},
 };
 // clang-format on
+static_assert(std::size(kDateFormats) == std::size(CodeNames::kDates), "each format has a name");
 
 class DateWriter
 {
@@ -41,21 +49,21 @@ public:
     // Formats with separators reserve the whole comma-and-slash image for their two separators,
     // also where the minus is drawn instead; those with a month's name reserve half of it and a
     // second blank, which stay empty at the right.
-    long long CanvasWidth(int dateType) const
+    long long CanvasWidth(Canvas canvas) const
     {
         const long long digits = 4LL * m_digit + 2LL * m_digit;
-        switch (dateType) {
-        case DateNamedMonthDayYear:
-        case DateDayNamedMonthYear:
+        switch (canvas) {
+        case Canvas::MonthName:
             return digits + MonthName().Width() + m_glyphs.dateChar.Width() / 2
                 + 2LL * m_glyphs.space.Width();
-        case DateLabelled:
+        case Canvas::Labels:
             return digits + 2LL * m_digit + 3LL * m_label;
-        case DateLabelledMonthDay:
+        case Canvas::LabelsWithoutYear:
             return 4LL * m_digit + 2LL * m_label;
-        default:
-            return digits + 2LL * m_digit + m_glyphs.dateChar.Width();
+        case Canvas::Separators:
+            break;
         }
+        return digits + 2LL * m_digit + m_glyphs.dateChar.Width();
     }
 
     void Write(Element &element, Part part) const
@@ -122,11 +130,11 @@ private:
 
 Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month, int day)
 {
-    if (dateType < DateYearMonthDay || dateType > DateWithMinus)
+    if (dateType < 0 || dateType >= static_cast<int>(std::size(kDateFormats)))
         return Element();
-    const DateWriter writer(glyphs, year, month, day);
-    Element element(writer.CanvasWidth(dateType), glyphs.dateCh.Height());
     const DateFormat &format = kDateFormats[dateType];
+    const DateWriter writer(glyphs, year, month, day);
+    Element element(writer.CanvasWidth(format.canvas), glyphs.dateCh.Height());
     for (int i = 0; i < format.count; ++i)
         writer.Write(element, format.parts[static_cast<std::size_t>(i)]);
     return element;

@@ -25,8 +25,6 @@ using namespace Lw::HNodeClock;
 // Codes of the attribute table, by what they show.
 constexpr int kLabelledTime = 2;
 constexpr int kLabelledShortTime = 3;
-constexpr int kLabelledDate = 5;
-constexpr int kLabelledShortDate = 6;
 constexpr int kTwelveNumerals = 3;
 constexpr int kFourNumerals = 4;
 constexpr int kUnsetPoints = 12; // of a size of 0
@@ -156,7 +154,8 @@ private:
     {
         if (dateType == DateWithMinus)
             return "-";
-        return dateType == kLabelledDate || dateType == kLabelledShortDate ? "" : ",/";
+        const bool hasSlashes = dateType < DateNamedMonthDayYear || dateType == DatePersian;
+        return hasSlashes ? ",/" : "";
     }
 
     void CheckStrip(Attribute family, Attribute size, const char *separators)
