@@ -10,7 +10,7 @@
 #include "compose/draw_clock_classify_image.h"
 #include "compose/element_composer.h"
 #include "display/draw_display_image.h"
-#include "display/frame_painter.h"
+#include "display/frames/frame_contents.h"
 #include "display/style_pictures.h"
 
 #include <QCoreApplication>

@@ -9,18 +9,33 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-// In the order of kRowElements.
-constexpr Part kRowParts[] = {Part::TopText, Part::Date, Part::Week, Part::Time, Part::Lunar};
-
 using Composer = ElementComposer;
+
+Part PartOf(Row row)
+{
+    switch (row) {
+    case Row::TopText:
+        return Part::TopText;
+    case Row::Date:
+        return Part::Date;
+    case Row::Week:
+        return Part::Week;
+    case Row::Time:
+        return Part::Time;
+    case Row::Lunar:
+        break;
+    }
+    return Part::Lunar;
+}
 
 // The composer keeps one element for each row.
 Part PartOf(const Element *element, Composer &composer)
 {
-    std::size_t row = 0;
-    while (row + 1 < kRowElements.size() && &kRowElements[row].Of(composer) != element)
-        ++row;
-    return kRowParts[row];
+    for (const Row row : kDateFirst) {
+        if (&ElementIn(row, composer) == element)
+            return PartOf(row);
+    }
+    return Part::Lunar;
 }
 
 } // namespace

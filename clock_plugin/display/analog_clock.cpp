@@ -1,13 +1,9 @@
-// The analog clock: a dial that is drawn rarely, the hands over it every second, and text rows that
-// are drawn onto the dial, so that a frame shows them from the next second on.
+#include "display/analog_clock.h"
+
 #include "calendar/device_clock.h"
-#include "compose/element_composer.h"
 #include "compose/glyph_reading.h"
-#include "display/analog_geometry.h"
-#include "display/analog_painting.h"
-#include "display/draw_display_image_p.h"
+#include "display/draw_display_image.h"
 #include "display/row_placement.h"
-#include "glyph/glyph_set.h"
 
 #include "happconfig.h"
 
@@ -28,8 +24,8 @@ struct HandRow
     Attribute colour;
 };
 
-// In the order of painting: the second hand lies above the others.
-constexpr HandRow kHands[] = {
+// In the order of painting: the second hand is above the others.
+constexpr HandRow kHandRows[] = {
     {Hand::Hour, Attribute::HourRectType, Attribute::HourHandColor},
     {Hand::Minute, Attribute::MinuteRectType, Attribute::MinuteHandColor},
     {Hand::Second, Attribute::SecondRectType, Attribute::SecondHandColor},
@@ -41,131 +37,198 @@ bool Antialiasing()
     return HAppConfig::instance()->RenderImageFormat() == QImage::Format_ARGB32;
 }
 
+// The outline as the rasteriser sees it: it rounds coordinates to a sixty-fourth of a pixel. In
+// many a second the hour hand moves less than that.
+void AppendRasterised(KeptHand::Look &look, const QPolygonF &outline)
+{
+    constexpr int kGrid = 64;
+    for (const QPointF &point : outline) {
+        look.append(qRound(point.x() * kGrid));
+        look.append(qRound(point.y() * kGrid));
+    }
+}
+
 } // namespace
 
-void DrawDisplayImage::SetHandSize(int size)
+void FillHandTriangles(int size)
 {
-    if (!d->node)
-        return;
     const HandTriangles triangles = TrianglesFor(size);
     std::copy(triangles.hour.begin(), triangles.hour.end(), hourHand);
     std::copy(triangles.minute.begin(), triangles.minute.end(), minuteHand);
     std::copy(triangles.second.begin(), triangles.second.end(), secondHand);
 }
 
-void DrawDisplayImage::DrawAnalogClock()
+void AnalogFace::Draw()
 {
-    if (!d->node)
+    const QSize size = m_shared.Size();
+    if (!m_shared.node)
         return;
-    const QSize size = d->node->Size();
-    d->PrepareFrame(size);
-    const bool dialIsOld = d->dialCache.isNull() || d->dialDate != LocalDate()
-        || d->dialCache.size() != size || d->composer.GetTimeAP() != d->dialTimeAP;
-    if (dialIsOld) {
-        d->dialCache = d->NewImage(size, GetColorKey());
-        DrawAnalogClockDial();
-        DrawAnalogClock_AMPM();
-        // A copy leaves the paint engine, which takes its memory, behind.
-        const QImage lean = d->dialCache.copy();
-        if (!lean.isNull())
-            d->dialCache = lean;
-        d->dialDate = LocalDate();
-    }
-    if (!d->dialCache.isNull())
-        d->dialFrames.Restore(d->frame, d->dialCache);
-    else if (!d->frame.isNull())
-        d->frame.fill(GetColorKey());
-    DrawAnalogClockPoint();
-    DrawAnalogText();
+    QImage &frame = m_shared.frames.TakeNext(size);
+    RefreshDial(size);
+    if (!m_dial.isNull())
+        m_memory.Restore(frame, m_dial);
+    else if (!frame.isNull())
+        frame.fill(FramePair::KeyColour());
+    DrawHands();
+    DrawTexts();
 }
 
-void DrawDisplayImage::DrawAnalogClockDial()
+void AnalogFace::RefreshDial(const QSize &size)
 {
-    if (!d->node || d->dialCache.isNull())
+    if (!m_dial.isNull() && m_dialDate == LocalDate() && m_dial.size() == size
+        && m_dialHalf == m_shared.composer.GetTimeAP())
+        return;
+    m_dial = FramePair::NewImage(size);
+    DrawDial();
+    DrawBadge();
+    // A copy leaves the paint engine, which takes its memory, behind.
+    const QImage lean = m_dial.copy();
+    if (!lean.isNull())
+        m_dial = lean;
+    m_dialDate = LocalDate();
+}
+
+void AnalogFace::DrawDial()
+{
+    if (m_dial.isNull())
         return;
     MarkStyle style;
-    style.hourScale = d->Number(Attribute::HourScaleType);
-    style.minuteScale = d->Number(Attribute::MinuteScaleType);
-    style.hourColour = ReturnQcolor(d->Number(Attribute::HourScaleColor));
-    style.minuteColour = ReturnQcolor(d->Number(Attribute::MinuteScaleColor));
+    style.hourScale = m_shared.Number(Attribute::HourScaleType);
+    style.minuteScale = m_shared.Number(Attribute::MinuteScaleType);
+    style.hourColour = m_shared.Colour(Attribute::HourScaleColor);
+    style.minuteColour = m_shared.Colour(Attribute::MinuteScaleColor);
     const bool numerals = style.hourScale == TwelveNumerals || style.hourScale == FourNumerals;
-    const double radius = DialRadius(d->dialCache.size());
+    const QPixmap strip =
+        numerals ? ReadPixmapFile(m_shared.File(Glyph::HourhandNumber)) : QPixmap();
+    const double radius = DialRadius(m_dial.size());
 
-    d->painter.begin(&d->dialCache);
-    d->painter.setRenderHint(QPainter::Antialiasing, false);
-    d->painter.translate(Centre(d->dialCache.size()));
-    PaintMarks(d->painter, radius, style);
-    if (numerals) {
-        const QString strip = d->node->GetFirstFile(GlyphKey(Glyph::HourhandNumber));
-        PaintNumerals(d->painter, style.hourScale, radius, ReadPixmapFile(strip), GetColorKey());
-    }
-    d->painter.end();
+    QPainter &painter = m_shared.painter;
+    painter.begin(&m_dial);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.translate(Centre(m_dial.size()));
+    PaintMarks(painter, radius, style);
+    PaintNumerals(painter, style.hourScale, radius, strip, FramePair::KeyColour());
+    painter.end();
 }
 
-void DrawDisplayImage::DrawAnalogClock_AMPM()
+void AnalogFace::DrawBadge()
 {
-    if (!d->node)
+    m_dialHalf = m_shared.composer.GetTimeAP();
+    if (m_shared.Number(Attribute::Analog_AMPM_d) != 1 || m_dial.isNull())
         return;
-    d->dialTimeAP = d->composer.GetTimeAP();
-    if (d->Number(Attribute::Analog_AMPM_d) != 1 || d->dialCache.isNull())
-        return;
-    const Glyph glyph = d->dialTimeAP == QLatin1String("AM") ? Glyph::AnalogAM : Glyph::AnalogPM;
-    const QPixmap badge = ReadPixmapFile(d->node->GetFirstFile(GlyphKey(glyph)));
+    const Glyph glyph = m_dialHalf == QLatin1String("AM") ? Glyph::AnalogAM : Glyph::AnalogPM;
+    const QPixmap badge = ReadPixmapFile(m_shared.File(glyph));
+    const QSize size = m_shared.Size();
     if (badge.isNull())
         return;
-    d->painter.begin(&d->dialCache);
-    d->painter.drawPixmap(BadgePlace(d->node->Size(), badge.size()), badge);
-    d->painter.end();
+    m_shared.painter.begin(&m_dial);
+    m_shared.painter.drawPixmap(BadgePlace(size, badge.size()), badge);
+    m_shared.painter.end();
 }
 
-void DrawDisplayImage::DrawAnalogClockPoint()
+void AnalogFace::CountRepeatedSecond()
 {
-    if (!d->node)
-        return;
-    const QSize size = d->node->Size();
-    SetHandSize(std::min(size.width(), size.height()));
-    if (d->now.second == d->lastSecondDrawn)
-        ++d->repeatedSeconds;
-    d->lastSecondDrawn = d->now.second;
-    if (d->frame.isNull())
-        return;
+    if (m_shared.now.second == m_lastSecond)
+        ++m_repeatedSeconds;
+    m_lastSecond = m_shared.now.second;
+}
 
-    const double radius = HandRadius(d->frame.size());
-    FrameMemory::Painting painting(d->dialFrames, d->frame);
-    d->painter.begin(&d->frameView.Of(d->frame));
-    d->painter.setRenderHint(QPainter::Antialiasing, Antialiasing());
-    d->painter.translate(Centre(d->frame.size()));
+void AnalogFace::DrawHands()
+{
+    const QSize size = m_shared.Size();
+    FillHandTriangles(std::min(size.width(), size.height()));
+    CountRepeatedSecond();
+    QImage &frame = m_shared.frames.Frame();
+    if (frame.isNull())
+        return;
+    m_smooth = Antialiasing();
+    const double radius = HandRadius(frame.size());
+    FrameMemory::Painting painting(m_memory, frame);
     bool anyArrow = false;
-    for (const HandRow &row : kHands) {
-        const int type = d->Number(row.type);
-        const double angle = HandAngle(row.hand, d->now.hour, d->now.minute, d->now.second);
-        const HandShape shape = ShapeOf(row.hand, type, radius);
-        const QColor colour = ReturnQcolor(d->Number(row.colour));
-        // The minute hand stays for a minute; the others move every second.
-        painting.Covers(row.hand == Hand::Minute
-                            ? StampHand(d->painter, d->minuteStamp, shape, angle, colour)
-                            : PaintHand(d->painter, shape, angle, colour));
-        anyArrow = anyArrow || type == ArrowHand;
-    }
-    painting.Covers(StampCentreCap(d->painter, d->capStamp, CentreCap(radius, anyArrow),
-                                   ReturnQcolor(d->Number(Attribute::SecondHandColor))));
-    d->painter.end();
+    for (int i = 0; i < kHands; ++i)
+        anyArrow = DrawHand(i, radius, painting) == ArrowHand || anyArrow;
+    FlatShape cap;
+    cap.disc = CentreCap(radius, anyArrow);
+    cap.colour = m_shared.Colour(Attribute::SecondHandColor);
+    PutShape(cap, m_cap, 0, painting);
+    if (m_shared.painter.isActive())
+        m_shared.painter.end();
 }
 
-void DrawDisplayImage::GetAngDisplayArea()
+// Returns the hand's type.
+int AnalogFace::DrawHand(int index, double radius, FrameMemory::Painting &painting)
 {
-    if (d->node)
-        LayOutAnalog(*d->node, d->composer.Elements(), d->rows);
+    const HandRow &row = kHandRows[index];
+    const DisplayedFields &now = m_shared.now;
+    const int type = m_shared.Number(row.type);
+    const HandShape shape = ShapeOf(row.hand, type, radius);
+    FlatShape flat;
+    flat.outline = shape.outline;
+    flat.degrees = HandAngle(row.hand, now.hour, now.minute, now.second);
+    flat.colour = m_shared.Colour(row.colour);
+    PutShape(flat, m_hands[index], row.hand == Hand::Second ? now.second : 0, painting);
+    // A thin pen paints some pixels of a ring twice, so what it adds cannot be kept.
+    if (shape.ring.radius > 0)
+        painting.Covers(PaintRing(Painter(), shape.ring, flat.degrees, flat.colour));
+    return type;
 }
 
-void DrawDisplayImage::DrawAnalogText()
+void AnalogFace::PutShape(const FlatShape &shape, KeptHand &kept, int position,
+                          FrameMemory::Painting &painting)
 {
-    if (!d->node || d->dialCache.isNull())
+    if (shape.IsEmpty())
         return;
-    const Placements rows = PlaceAnalog(*d->node, d->composer.Elements(), d->rows);
-    const qint64 keyBefore = d->dialCache.cacheKey();
-    const QRegion changed = d->dialTexts.Paint(d->dialCache, rows);
-    d->dialFrames.BackgroundChanged(keyBefore, d->dialCache, changed);
+    const QSize size = m_shared.frames.Frame().size();
+    const QPoint centre = Centre(size);
+    const bool isTurned = !kept.HasPositions() && shape.disc.isEmpty();
+    KeptHand::Look look;
+    look.append(size.width());
+    look.append(size.height());
+    look.append(shape.colour.rgb());
+    look.append(m_smooth);
+    look.append(shape.disc.width());
+    AppendRasterised(look, isTurned ? OutlineOn(centre, shape) : shape.outline);
+    const KeptShape *const keptShape = kept.At(look, position, KeptLimit(size), [&] {
+        const QPolygonF outline = OutlineOn(centre, shape);
+        return m_canvas.Keep(outline, shape.colour, m_smooth, size,
+                             [&](QPainter &painter, const QPoint &place) {
+                                 PaintFlatFrom(painter, place, centre, shape, outline);
+                             });
+    });
+    if (keptShape) {
+        painting.Blend(*keptShape);
+    } else {
+        PaintFlat(Painter(), shape);
+        painting.Covers(OutlineOn(centre, shape));
+    }
+}
+
+// Begun when the first part is painted.
+QPainter &AnalogFace::Painter()
+{
+    QPainter &painter = m_shared.painter;
+    if (!painter.isActive()) {
+        QImage &frame = m_shared.frames.Frame();
+        painter.begin(&frame);
+        painter.setRenderHint(QPainter::Antialiasing, m_smooth);
+        painter.translate(Centre(frame.size()));
+    }
+    return painter;
+}
+
+void AnalogFace::PlaceRows()
+{
+    LayOutAnalog(*m_shared.node, m_shared.Elements(), m_shared.tops);
+}
+
+void AnalogFace::DrawTexts()
+{
+    if (m_dial.isNull() || !m_shared.node)
+        return;
+    const Placements rows = PlaceAnalog(*m_shared.node, m_shared.Elements(), m_shared.tops);
+    const qint64 keyBefore = m_dial.cacheKey();
+    const QRegion changed = m_texts.Paint(m_dial, rows);
+    m_memory.BackgroundChanged(keyBefore, m_dial, changed);
 }
 
 } // namespace Lw::HNodeClock

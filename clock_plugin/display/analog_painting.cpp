@@ -93,84 +93,52 @@ void PaintNumerals(QPainter &painter, int hourScale, double radius, const QPixma
     }
 }
 
-namespace {
+QPolygonF OutlineOn(const QPoint &centre, const FlatShape &shape)
+{
+    QTransform turned = QTransform::fromTranslate(centre.x(), centre.y());
+    turned.rotate(shape.degrees);
+    return turned.map(shape.disc.isEmpty() ? shape.outline : QPolygonF(QRectF(shape.disc)));
+}
 
-void PaintRing(QPainter &painter, const Ring &ring, const QColor &colour)
+void PaintFlat(QPainter &painter, const FlatShape &shape)
+{
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(shape.colour, Qt::SolidPattern));
+    painter.rotate(shape.degrees);
+    if (shape.disc.isEmpty())
+        painter.drawConvexPolygon(shape.outline);
+    else
+        painter.drawEllipse(shape.disc);
+    painter.restore();
+}
+
+void PaintFlatFrom(QPainter &painter, const QPoint &place, const QPoint &centre,
+                   const FlatShape &shape, const QPolygonF &outline)
+{
+    if (shape.disc.isEmpty()) {
+        painter.drawConvexPolygon(outline.translated(-place));
+    } else {
+        painter.translate(centre - place);
+        painter.drawEllipse(shape.disc);
+    }
+}
+
+QPolygonF PaintRing(QPainter &painter, const Ring &ring, double degrees, const QColor &colour)
 {
     QPen pen(colour);
     pen.setWidth(ring.penWidth);
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(ring.centre, ring.radius, ring.radius);
-}
-
-QRectF BoxAround(const Ring &ring)
-{
     const double reach = ring.radius + ring.penWidth / 2.0;
     const QPointF corner(reach, reach);
-    return QRectF(ring.centre - corner, ring.centre + corner);
-}
-
-} // namespace
-
-QVector<QPolygonF> PaintHand(QPainter &painter, const HandShape &shape, double degrees,
-                             const QColor &colour)
-{
-    if (shape.outline.isEmpty())
-        return {};
     painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QBrush(colour, Qt::SolidPattern));
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
     painter.rotate(degrees);
-    painter.drawConvexPolygon(shape.outline);
-    QVector<QPolygonF> touched = {painter.transform().map(shape.outline)};
-    if (shape.ring.radius > 0) {
-        PaintRing(painter, shape.ring, colour);
-        touched.append(painter.transform().map(QPolygonF(BoxAround(shape.ring))));
-    }
+    painter.drawEllipse(ring.centre, ring.radius, ring.radius);
+    const QPolygonF touched =
+        painter.transform().map(QPolygonF(QRectF(ring.centre - corner, ring.centre + corner)));
     painter.restore();
     return touched;
-}
-
-QVector<QPolygonF> PaintCentreCap(QPainter &painter, const QRect &cap, const QColor &colour)
-{
-    if (cap.isEmpty())
-        return {};
-    painter.save();
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QBrush(colour, Qt::SolidPattern));
-    painter.drawEllipse(cap);
-    painter.restore();
-    return {painter.transform().map(QPolygonF(QRectF(cap)))};
-}
-
-// A ring is no polygon: a hand that has one is painted.
-QVector<QPolygonF> StampHand(QPainter &painter, Stamp &stamp, const HandShape &shape,
-                             double degrees, const QColor &colour)
-{
-    if (shape.outline.isEmpty() || shape.ring.radius > 0)
-        return PaintHand(painter, shape, degrees, colour);
-    QTransform turned = painter.transform();
-    turned.rotate(degrees);
-    const QPolygonF outline = turned.map(shape.outline);
-    stamp.Draw(painter, {outline, colour}, [&outline](QPainter &own, const QPoint &shift) {
-        own.drawConvexPolygon(outline.translated(-shift));
-    });
-    return {outline};
-}
-
-QVector<QPolygonF> StampCentreCap(QPainter &painter, Stamp &stamp, const QRect &cap,
-                                  const QColor &colour)
-{
-    if (cap.isEmpty())
-        return {};
-    const QTransform &centred = painter.transform();
-    const QPolygonF outline = centred.map(QPolygonF(QRectF(cap)));
-    stamp.Draw(painter, {outline, colour}, [&](QPainter &own, const QPoint &shift) {
-        own.translate(centred.dx() - shift.x(), centred.dy() - shift.y());
-        own.drawEllipse(cap);
-    });
-    return {outline};
 }
 
 } // namespace Lw::HNodeClock

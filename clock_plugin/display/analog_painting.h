@@ -3,10 +3,10 @@
 #pragma once
 
 #include "display/analog_geometry.h"
-#include "display/stamp.h"
 
 #include <QColor>
 #include <QPixmap>
+#include <QPolygonF>
 
 QT_BEGIN_NAMESPACE
 class QPainter;
@@ -25,23 +25,34 @@ struct MarkStyle
 /// The sixty marks.
 void PaintMarks(QPainter &painter, double radius, const MarkStyle &style);
 
-/// The numerals from a strip of ten digits. "10" and "11" stand on a box of the key colour, which
+/// The numerals from a strip of ten digits. "10" and "11" are on a box of the key colour, which
 /// hides the marks and digits under it. Nothing for a strip that is null or has no whole pixel for
 /// a digit.
 void PaintNumerals(QPainter &painter, int hourScale, double radius, const QPixmap &strip,
                    const QColor &keyColour);
 
-/// One hand, turned clockwise, and the disc over the hands. They return outlines around all pixels
-/// they may touch, in pixels of the painted image.
-QVector<QPolygonF> PaintHand(QPainter &painter, const HandShape &shape, double degrees,
-                             const QColor &colour);
-QVector<QPolygonF> PaintCentreCap(QPainter &painter, const QRect &cap, const QColor &colour);
+/// A filled shape of one opaque colour, around the centre.
+struct FlatShape
+{
+    QPolygonF outline; ///< of a hand, before it is turned; empty for a disc
+    double degrees = 0;
+    QRect disc; ///< the box of a disc; empty for a hand
+    QColor colour;
 
-/// The same, for hands that stay where they are and for the disc: with a stamp, which is kept for
-/// the next frame. Only onto premultiplied images.
-QVector<QPolygonF> StampHand(QPainter &painter, Stamp &stamp, const HandShape &shape,
-                             double degrees, const QColor &colour);
-QVector<QPolygonF> StampCentreCap(QPainter &painter, Stamp &stamp, const QRect &cap,
-                                  const QColor &colour);
+    bool IsEmpty() const { return outline.isEmpty() && disc.isEmpty(); }
+};
+
+/// The outline of the shape, or of a disc's box, in pixels of an image with this centre.
+QPolygonF OutlineOn(const QPoint &centre, const FlatShape &shape);
+
+void PaintFlat(QPainter &painter, const FlatShape &shape);
+/// The same onto an image that begins at another place: its painter has its origin there, a brush
+/// and no pen. The outline is the one above.
+void PaintFlatFrom(QPainter &painter, const QPoint &place, const QPoint &centre,
+                   const FlatShape &shape, const QPolygonF &outline);
+
+/// The ring on a hand's tail, turned as the hand. Returns an outline around all pixels that it may
+/// touch, in pixels of the painted image.
+QPolygonF PaintRing(QPainter &painter, const Ring &ring, double degrees, const QColor &colour);
 
 } // namespace Lw::HNodeClock

@@ -1,76 +1,40 @@
-// The digital clock: up to five elements on one line or in rows.
-#include "display/draw_display_image_p.h"
+#include "display/digital_clock.h"
 
 #include "compose/element_composer.h"
-#include "display/row_placement.h"
 
 namespace Lw::HNodeClock {
 
-void DrawDisplayImage::Private::DrawDigital(const DigitalSettings &settings)
+void DigitalFace::PlaceRows(const DigitalSettings &settings, int count, int space)
 {
-    ElementComposer &elements = composer.Elements();
+    LayOutDigital(settings, count, space, m_shared.Elements(), m_shared.tops);
+}
+
+void DigitalFace::PlaceRows(const DigitalSettings &settings)
+{
+    PlaceRows(settings, CountRows(settings.flags), settings.space);
+}
+
+void DigitalFace::Draw(const DigitalSettings &settings)
+{
+    if (!m_shared.node)
+        return;
+    ElementComposer &elements = m_shared.Elements();
     const ElementComposer::FrameScope oneFrame(elements);
-    const QSize size(frameWidth, settings.area.height());
-    const Placements wanted = PlaceDigital(settings, elements, rows);
-    if (frame.size() == size && digitalContents->Describes(frame, wanted))
+    const QSize size(m_shared.frameWidth, settings.area.height());
+    const Placements wanted = PlaceDigital(settings, elements, m_shared.tops);
+    const QImage &last = m_shared.frames.Frame();
+    if (last.size() == size && m_contents[m_secondIsCurrent].Describes(last, wanted))
         return;
-    std::swap(digitalContents, digitalSpareContents);
-    PrepareFrame(size);
+    m_secondIsCurrent = !m_secondIsCurrent;
+    QImage &frame = m_shared.frames.TakeNext(size);
     if (!frame.isNull())
-        digitalContents->Draw(frame, wanted, KeyColour());
+        m_contents[m_secondIsCurrent].Draw(frame, wanted, FramePair::KeyColour());
 }
 
-void DrawDisplayImage::Private::LayOutDigitalRows(int count, int space)
+std::optional<QRegion> DigitalFace::Changes() const
 {
-    if (node)
-        LayOutDigital(DigitalSettings(*node), count, space, composer.Elements(), rows);
-}
-
-void DrawDisplayImage::Private::DrawDigitalFrame()
-{
-    const DigitalSettings settings(*node);
-    LayOutDigital(settings, CountRows(settings.flags), settings.space, composer.Elements(), rows);
-    DrawDigital(settings);
-}
-
-void DrawDisplayImage::GetDigitalDisplayArea()
-{
-    if (!d->node)
-        return;
-    const DigitalSettings settings(*d->node);
-    LayOutDigital(settings, CountRows(settings.flags), settings.space, d->composer.Elements(),
-                  d->rows);
-}
-
-void DrawDisplayImage::Computations1Count()
-{
-    d->LayOutDigitalRows(1, 0);
-}
-
-void DrawDisplayImage::Computations2Count(int space)
-{
-    d->LayOutDigitalRows(2, space);
-}
-
-void DrawDisplayImage::Computations3Count(int space)
-{
-    d->LayOutDigitalRows(3, space);
-}
-
-void DrawDisplayImage::Computations4Count(int space)
-{
-    d->LayOutDigitalRows(4, space);
-}
-
-void DrawDisplayImage::Computations5Count(int space)
-{
-    d->LayOutDigitalRows(5, space);
-}
-
-void DrawDisplayImage::DrawDigitalClock()
-{
-    if (d->node)
-        d->DrawDigital(DigitalSettings(*d->node));
+    return m_contents[m_secondIsCurrent].ChangesSince(
+        m_contents[!m_secondIsCurrent], m_shared.frames.Frame(), m_shared.frames.FrameBefore());
 }
 
 } // namespace Lw::HNodeClock

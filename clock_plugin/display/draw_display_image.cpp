@@ -1,53 +1,39 @@
-// The drawer's state, the choice of the kind of clock, and the time step.
+// The drawer's state, the choice of the face, and the time step. What the operations draw is in the
+// files of the faces.
 #include "display/draw_display_image.h"
 
 #include "calendar/clock_time.h"
 #include "calendar/device_clock.h"
 #include "compose/element_composer.h"
 #include "display/draw_display_image_p.h"
-#include "glyph/glyph_set.h"
-#include "image_bounds.h"
-
-#include "happconfig.h"
-
-#include <utility>
 
 namespace Lw::HNodeClock {
 
-namespace {
-
-// Red 1, green 2, blue 1 as a stored colour: almost black, and the one colour that hosts show
-// through.
-constexpr int kKeyColour = 0x10201;
-
-} // namespace
-
 DrawDisplayImage::DrawDisplayImage(HClockNode *node) : d(new Private)
 {
-    d->node = node;
-    if (node)
-        d->frameWidth = node->Size().width();
-    ReLoadSourceFile(node);
+    d->shared.node = node;
+    d->shared.frameWidth = node ? node->Size().width() : 0;
+    ReLoadSourceFile(d->shared.node);
 }
 
 DrawDisplayImage::~DrawDisplayImage() = default;
 
 void DrawDisplayImage::ReLoadSourceFile(HClockNode *node)
 {
-    d->composer.InitParameters(node);
+    d->shared.composer.InitParameters(node);
 }
 
 QImage DrawDisplayImage::DrawClockDisplayImage()
 {
-    d->lastForgotten = std::exchange(d->forgetLast, false);
-    d->frameRedrawn = false;
-    if (!d->node)
-        return d->frame;
+    SharedByFaces &shared = d->shared;
+    shared.frames.Begin();
+    if (!shared.node)
+        return shared.frames.Frame();
     const HeldReading oneInstant;
-    const ElementComposer::FrameScope oneFrame(d->composer.Elements());
-    d->frameWidth = d->node->Size().width();
+    const ElementComposer::FrameScope oneFrame(shared.Elements());
+    shared.frameWidth = shared.Size().width();
     CalculateTimeZone();
-    switch (d->node->ClockType()) {
+    switch (shared.Number(&HClockNode::ClockType)) {
     case AnalogClock:
         GetAngDisplayArea();
         DrawAnalogClock();
@@ -61,27 +47,35 @@ QImage DrawDisplayImage::DrawClockDisplayImage()
     default:
         break;
     }
-    return d->frame;
+    return shared.frames.Frame();
 }
 
 QRegion DrawDisplayImage::FrameDamage() const
 {
-    if (d->lastForgotten)
-        return d->frame.rect();
-    return d->frameRedrawn ? d->ChangesSinceSpare() : QRegion();
+    const FramePair &frames = d->shared.frames;
+    const QRect whole = frames.Frame().rect();
+    switch (frames.FromLast()) {
+    case FramePair::Difference::None:
+        return QRegion();
+    case FramePair::Difference::SinceFrameBefore:
+        return d->Changes() & whole;
+    case FramePair::Difference::Everywhere:
+        break;
+    }
+    return whole;
 }
 
 void DrawDisplayImage::ForgetLastFrame()
 {
-    d->forgetLast = true;
+    d->shared.frames.ForgetLast();
 }
 
 void DrawDisplayImage::CalculateTimeZone()
 {
-    if (!d->node)
+    if (!d->shared.node)
         return;
     const HeldReading oneInstant;
-    d->TakeFields(d->composer.Elements().UpdateReading().GregorianFields());
+    d->TakeFields(d->shared.Elements().UpdateReading().GregorianFields());
     d->millisecond = LocalMillisecond();
     d->RecordStartTime();
 }
@@ -90,78 +84,166 @@ void DrawDisplayImage::GetTime(QTime &start, QTime &now)
 {
     if (!d->startTime)
         return;
+    const DisplayedFields &last = d->shared.now;
     start = *d->startTime;
-    now = QTime(d->now.hour, d->now.minute, d->now.second, d->millisecond);
+    now = QTime(last.hour, last.minute, last.second, d->millisecond);
 }
 
 QColor DrawDisplayImage::GetColorKey()
 {
-    return Private::KeyColour();
+    return FramePair::KeyColour();
 }
 
 QColor DrawDisplayImage::ReturnQcolor(int colour)
 {
-    const auto packed = static_cast<LWColor>(colour);
-    return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
+    return ColourOf(colour);
 }
 
 void DrawDisplayImage::Private::TakeFields(const DisplayedFields &fields)
 {
+    const DisplayedFields &last = shared.now;
     const bool isSameDay =
-        fields.day == now.day && fields.month == now.month && fields.year == now.year;
+        fields.day == last.day && fields.month == last.month && fields.year == last.year;
     if (!isSameDay)
         dateText = PlainText(QDate(fields.year, fields.month, fields.day), "yyyy/MM/dd");
-    now = fields;
+    shared.now = fields;
 }
 
 // The first frame after construction does not count: the start time is the second frame's, and
 // never replaced.
 void DrawDisplayImage::Private::RecordStartTime()
 {
+    const DisplayedFields &now = shared.now;
     if (!startTime && ++startCounter == 2)
-        startTime = std::make_unique<QTime>(now.hour, now.minute, now.second, millisecond);
+        startTime = QTime(now.hour, now.minute, now.second, millisecond);
 }
 
-QColor DrawDisplayImage::Private::KeyColour()
-{
-    return Lw::HAppConfig::IntToColor(kKeyColour);
-}
-
-bool DrawDisplayImage::Private::Drawable(const QSize &size)
-{
-    return WithinBounds(size, kFrameBytes);
-}
-
-QImage DrawDisplayImage::Private::NewImage(const QSize &size, const QColor &keyColour) const
-{
-    if (!Drawable(size))
-        return QImage();
-    QImage image(size, imageFormat);
-    image.fill(keyColour);
-    return image;
-}
-
-void DrawDisplayImage::Private::PrepareFrame(const QSize &size)
-{
-    frameRedrawn = true;
-    std::swap(frame, spare);
-    std::swap(frameView, spareView);
-    if (frame.isNull() || frame.size() != size || !frame.isDetached())
-        frame = NewImage(size, KeyColour());
-}
-
-// A frame is known to the memory of the kind of clock that drew it, if to any.
-QRegion DrawDisplayImage::Private::ChangesSinceSpare() const
+QRegion DrawDisplayImage::Private::Changes() const
 {
     std::optional<QRegion> changes;
-    if (frame.size() == spare.size()) {
-        changes = digitalContents->ChangesSince(*digitalSpareContents, frame, spare);
-        if (!changes)
-            changes = dialFrames.ChangesSince(spare, frame);
-        if (!changes)
-            changes = pictureFrames.ChangesSince(spare, frame);
-    }
-    return changes.value_or(frame.rect()) & frame.rect();
+    if (digital)
+        changes = digital->Changes();
+    if (!changes && analog)
+        changes = analog->Changes();
+    if (!changes && picture)
+        changes = picture->Changes();
+    return changes.value_or(shared.frames.Frame().rect());
+}
+
+// Analog clock.
+
+void DrawDisplayImage::GetAngDisplayArea()
+{
+    if (d->shared.node)
+        d->Analog().PlaceRows();
+}
+
+void DrawDisplayImage::DrawAnalogClock()
+{
+    if (d->shared.node)
+        d->Analog().Draw();
+}
+
+void DrawDisplayImage::DrawAnalogClockDial()
+{
+    if (d->shared.node)
+        d->Analog().DrawDial();
+}
+
+void DrawDisplayImage::DrawAnalogClock_AMPM()
+{
+    if (d->shared.node)
+        d->Analog().DrawBadge();
+}
+
+void DrawDisplayImage::DrawAnalogClockPoint()
+{
+    if (d->shared.node)
+        d->Analog().DrawHands();
+}
+
+void DrawDisplayImage::DrawAnalogText()
+{
+    if (d->shared.node)
+        d->Analog().DrawTexts();
+}
+
+void DrawDisplayImage::SetHandSize(int size)
+{
+    if (d->shared.node)
+        FillHandTriangles(size);
+}
+
+// Digital clock.
+
+// The settings are read once for both steps.
+void DrawDisplayImage::Private::DrawDigitalFrame()
+{
+    const DigitalSettings settings(*shared.node);
+    Digital().PlaceRows(settings);
+    Digital().Draw(settings);
+}
+
+void DrawDisplayImage::GetDigitalDisplayArea()
+{
+    if (d->shared.node)
+        d->Digital().PlaceRows(DigitalSettings(*d->shared.node));
+}
+
+void DrawDisplayImage::Computations1Count()
+{
+    if (d->shared.node)
+        d->Digital().PlaceRows(DigitalSettings(*d->shared.node), 1, 0);
+}
+
+void DrawDisplayImage::Computations2Count(int space)
+{
+    if (d->shared.node)
+        d->Digital().PlaceRows(DigitalSettings(*d->shared.node), 2, space);
+}
+
+void DrawDisplayImage::Computations3Count(int space)
+{
+    if (d->shared.node)
+        d->Digital().PlaceRows(DigitalSettings(*d->shared.node), 3, space);
+}
+
+void DrawDisplayImage::Computations4Count(int space)
+{
+    if (d->shared.node)
+        d->Digital().PlaceRows(DigitalSettings(*d->shared.node), 4, space);
+}
+
+void DrawDisplayImage::Computations5Count(int space)
+{
+    if (d->shared.node)
+        d->Digital().PlaceRows(DigitalSettings(*d->shared.node), 5, space);
+}
+
+void DrawDisplayImage::DrawDigitalClock()
+{
+    if (d->shared.node)
+        d->Digital().Draw(DigitalSettings(*d->shared.node));
+}
+
+// Picture clock.
+
+void DrawDisplayImage::InitClockTypePixmap()
+{
+    if (!d->shared.node)
+        return;
+    d->Picture().LoadPictures();
+    if (d->analog)
+        d->analog->RedrawDial();
+}
+
+void DrawDisplayImage::DrawPixmapClock()
+{
+    if (!d->shared.node)
+        return;
+    if (d->Picture().NeedsPictures())
+        InitClockTypePixmap();
+    d->Picture().Draw();
 }
 
 } // namespace Lw::HNodeClock

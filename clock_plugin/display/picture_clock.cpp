@@ -1,6 +1,6 @@
-// The picture clock: a dial picture of a chosen style, and hand pictures that all styles share.
+#include "display/picture_clock.h"
+
 #include "compose/glyph_reading.h"
-#include "display/draw_display_image_p.h"
 #include "display/style_pictures.h"
 
 #include <algorithm>
@@ -16,14 +16,6 @@ constexpr QRect kMinutePlace(-10, -85, 20, 90);
 constexpr QRect kSecondPlace(-5, -110, 10, 110);
 constexpr QRect kCentrePlace(-10, -10, 20, 20);
 
-// A picture stretched into its place on the face and turned clockwise about the centre.
-struct TurnedPicture
-{
-    const QPixmap &picture;
-    double degrees;
-    QRect place;
-};
-
 // The face's units around its centre, in pixels of an image.
 QTransform FaceOn(const QSize &size)
 {
@@ -34,125 +26,142 @@ QTransform FaceOn(const QSize &size)
     return face;
 }
 
-void Begin(QPainter &painter, QImage &image)
+// For a painter with the face's units.
+void PaintTurned(QPainter &painter, const QPixmap &picture, double degrees, const QRect &place)
 {
-    painter.begin(&image);
-    painter.setWorldTransform(FaceOn(image.size()));
     painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
-}
-
-// Paints with the face's units around its centre; returns an outline around the touched pixels.
-QVector<QPolygonF> Paint(QPainter &painter, const TurnedPicture &part)
-{
-    if (part.picture.isNull())
-        return {};
-    const QTransform upright = painter.worldTransform();
-    painter.rotate(part.degrees);
-    painter.drawPixmap(part.place, part.picture);
-    const QPolygonF touched = painter.transform().map(QPolygonF(QRectF(part.place)));
-    painter.setWorldTransform(upright);
-    return {touched};
-}
-
-QRect BoxAround(const TurnedPicture &part, const QSize &size)
-{
-    constexpr int kMargin = 2;
-    QTransform turned = FaceOn(size);
-    turned.rotate(part.degrees);
-    return turned.mapRect(QRectF(part.place))
-        .toAlignedRect()
-        .adjusted(-kMargin, -kMargin, kMargin, kMargin);
+    painter.rotate(degrees);
+    painter.drawPixmap(place, picture);
 }
 
 } // namespace
 
-void DrawDisplayImage::InitClockTypePixmap()
+void PictureFace::LoadPictures()
 {
-    if (!d->node)
-        return;
     const QString folder = StyleFolder();
-    d->hourPicture = ReadPixmapFile(folder + QLatin1String(kHourPicture));
-    d->minutePicture = ReadPixmapFile(folder + QLatin1String(kMinutePicture));
-    d->secondPicture = ReadPixmapFile(folder + QLatin1String(kSecondPicture));
-    d->centrePicture = ReadPixmapFile(folder + QLatin1String(kCentrePicture));
-    d->dialTimeAP.clear(); // an analog dial that is drawn later is drawn anew
+    m_hour = ReadPixmapFile(folder + QLatin1String(kHourPicture));
+    m_minute = ReadPixmapFile(folder + QLatin1String(kMinutePicture));
+    m_second = ReadPixmapFile(folder + QLatin1String(kSecondPicture));
+    m_centre = ReadPixmapFile(folder + QLatin1String(kCentrePicture));
 
-    const QSize size = d->node->Size();
-    d->pictureSize = QSize(d->frameWidth, size.height());
-    d->pictureBackground = d->NewImage(d->pictureSize, GetColorKey());
+    const QSize size = m_shared.Size();
+    m_size = QSize(m_shared.frameWidth, size.height());
     const int side = std::min(size.width(), size.height());
-    const QImage dial = ReadImageFile(folder + DialPicture(d->Number(Attribute::PictrueClockType)));
-    if (d->pictureBackground.isNull() || dial.isNull() || !Private::Drawable(QSize(side, side)))
+    const QRect dial((size.width() - side) / 2, (m_size.height() - side) / 2, side, side);
+    DrawBackground(dial, folder + DialPicture(m_shared.Number(Attribute::PictrueClockType)));
+}
+
+// Only the part of the frame that the dial and the hands reach.
+void PictureFace::DrawBackground(const QRect &dial, const QString &file)
+{
+    constexpr int kAround = 2 * kPaintMargin;
+    const QRect part = dial.adjusted(-kAround, -kAround, kAround, kAround)
+        & QRect(QPoint(0, 0), FramePair::Drawable(m_size) ? m_size : QSize());
+    m_place = part.topLeft();
+    m_background = FramePair::NewImage(part.size());
+    const QImage picture = ReadImageFile(file);
+    if (m_background.isNull() || picture.isNull() || !FramePair::Drawable(dial.size()))
         return;
-    const QImage scaled = dial.scaled(side, side, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+    const QImage scaled =
+        picture.scaled(dial.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation);
     if (scaled.isNull()) {
-        d->pictureBackground = QImage(); // out of memory: tried again with the next frame
+        m_background = QImage(); // out of memory: tried again with the next frame
         return;
     }
-    d->painter.begin(&d->pictureBackground);
-    d->painter.drawImage((size.width() - side) / 2, (d->pictureSize.height() - side) / 2, scaled);
-    d->painter.end();
+    m_shared.painter.begin(&m_background);
+    m_shared.painter.drawImage(dial.topLeft() - m_place, scaled);
+    m_shared.painter.end();
 }
 
-// The hour hand moves once a minute, so it lies on the background.
-void DrawDisplayImage::Private::LayHourHand(double degrees)
+bool PictureFace::NeedsPictures()
 {
-    if (pictureHour.Lies(pictureBackground, degrees))
+    const QSize wanted(m_shared.frameWidth, m_shared.Size().height());
+    const bool lacksMemory = m_background.isNull() && FramePair::Drawable(wanted);
+    const int style = m_shared.Number(Attribute::PictrueClockType);
+    const bool isAnother = m_style != style || m_size != wanted;
+    m_style = style;
+    return isAnother || lacksMemory;
+}
+
+void PictureFace::Restore(QImage &frame)
+{
+    if (m_size == frame.size() && !m_background.isNull())
+        m_memory.Restore(frame, m_background, m_place);
+    else
+        frame.fill(FramePair::KeyColour());
+}
+
+void PictureFace::Draw()
+{
+    const QSize size = m_shared.Size();
+    if (!m_shared.node)
         return;
-    const TurnedPicture hand = {hourPicture, degrees, kHourPlace};
-    const qint64 keyBefore = pictureBackground.cacheKey();
-    const QRect box = BoxAround(hand, pictureBackground.size());
-    const QRegion changed =
-        pictureHour.Lay(pictureBackground, degrees, box, [this, &hand](QImage &image) {
-            Begin(painter, image);
-            Paint(painter, hand);
-            painter.end();
-        });
-    pictureFrames.BackgroundChanged(keyBefore, pictureBackground, changed);
+    QImage &frame = m_shared.frames.TakeNext(size);
+    if (frame.isNull())
+        return;
+    Restore(frame);
+
+    const DisplayedFields &now = m_shared.now;
+    FrameMemory::Painting painting(m_memory, frame);
+    m_shared.painter.begin(&frame);
+    Put({m_hour, (now.hour + now.minute / 60.0) * 30, kHourPlace}, m_keptHour, 0, painting);
+    // There are 3600 positions of the minute hand: too many to keep.
+    Paint({m_minute, (now.minute + now.second / 60.0) * 6, kMinutePlace}, painting);
+    Put({m_second, now.second * 6.0, kSecondPlace}, m_keptSecond, now.second, painting);
+    Put({m_centre, 0, kCentrePlace}, m_keptCentre, 0, painting);
+    m_shared.painter.end();
 }
 
-bool DrawDisplayImage::Private::RestoreBackground(double hourDegrees)
+void PictureFace::Paint(const TurnedPicture &part, FrameMemory::Painting &painting)
 {
-    if (pictureBackground.size() != frame.size()) {
-        frame.fill(KeyColour());
-        return false;
+    if (part.picture.isNull())
+        return;
+    const QTransform face = FaceOn(m_shared.frames.Frame().size());
+    m_shared.painter.setWorldTransform(face);
+    PaintTurned(m_shared.painter, part.picture, part.degrees, part.place);
+    painting.Covers(m_shared.painter.transform().map(QPolygonF(QRectF(part.place))));
+}
+
+// The hour hand is put onto the bare background.
+void PictureFace::Put(const TurnedPicture &part, KeptHand &kept, int position,
+                      FrameMemory::Painting &painting)
+{
+    if (part.picture.isNull())
+        return;
+    const bool isLowest = &kept == &m_keptHour;
+    QImage &frame = m_shared.frames.Frame();
+    KeptHand::Look look;
+    look.append(frame.width());
+    look.append(frame.height());
+    look.append(part.picture.cacheKey());
+    if (isLowest) {
+        look.append(m_background.cacheKey());
+        look.append(qRound(part.degrees * 2)); // it moves by half a degree
     }
-    LayHourHand(hourDegrees);
-    pictureFrames.Restore(frame, pictureBackground);
-    return pictureHour.Lies(pictureBackground, hourDegrees);
+    const KeptShape *const shape = kept.At(look, position, KeptLimit(frame.size()), [&] {
+        const KeptShape painted = Keep(part);
+        if (!isLowest || !painted.IsMade())
+            return painted;
+        painted.Blend(frame.bits(), frame.bytesPerLine());
+        return painted.AsShownOn(frame);
+    });
+    if (shape)
+        painting.Blend(*shape);
+    else
+        Paint(part, painting);
 }
 
-void DrawDisplayImage::DrawPixmapClock()
+KeptShape PictureFace::Keep(const TurnedPicture &part)
 {
-    if (!d->node)
-        return;
-    const QSize size = d->node->Size();
-    const int type = d->Number(Attribute::PictrueClockType);
-    const QSize wanted(d->frameWidth, size.height());
-    const bool lacksMemory = d->pictureBackground.isNull() && Private::Drawable(wanted);
-    if (d->pictureType != type || d->pictureSize != wanted || lacksMemory) {
-        InitClockTypePixmap();
-        d->pictureType = type;
-    }
-    d->PrepareFrame(size);
-    if (d->frame.isNull())
-        return;
-
-    const DisplayedFields &now = d->now;
-    const TurnedPicture hour = {d->hourPicture, (now.hour + now.minute / 60.0) * 30, kHourPlace};
-    const TurnedPicture others[] = {
-        {d->minutePicture, (now.minute + now.second / 60.0) * 6, kMinutePlace},
-        {d->secondPicture, now.second * 6.0, kSecondPlace},
-        {d->centrePicture, 0, kCentrePlace},
-    };
-    const bool hourLies = d->RestoreBackground(hour.degrees);
-    FrameMemory::Painting painting(d->pictureFrames, d->frame);
-    Begin(d->painter, d->frame);
-    if (!hourLies)
-        painting.Covers(Paint(d->painter, hour));
-    for (const TurnedPicture &part : others)
-        painting.Covers(Paint(d->painter, part));
-    d->painter.end();
+    const QSize size = m_shared.frames.Frame().size();
+    const QTransform face = FaceOn(size);
+    QTransform turned = face;
+    turned.rotate(part.degrees);
+    const QRect box = BoxAround(turned.map(QPolygonF(QRectF(part.place))));
+    return KeepPicture(box & QRect(QPoint(0, 0), size), [&](QPainter &painter) {
+        painter.setWorldTransform(face);
+        PaintTurned(painter, part.picture, part.degrees, part.place);
+    });
 }
 
 } // namespace Lw::HNodeClock

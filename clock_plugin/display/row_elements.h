@@ -1,42 +1,26 @@
-// The element that stands in each text row of a clock.
+// The element that each text row of a clock shows.
 #pragma once
 
 #include "compose/element_composer.h"
 #include "display/row_layout.h"
 
-#include <array>
-#include <cstddef>
-
 namespace Lw::HNodeClock {
 
-struct RowElement
+inline const Element &ElementIn(Row row, ElementComposer &elements)
 {
-    Row row;
-    const Element &(ElementComposer::*element)();
-
-    const Element &Of(ElementComposer &elements) const { return (elements.*element)(); }
-};
-
-inline constexpr std::array<RowElement, 5> kRowElements = {{
-    {&Rows::topText, &ElementComposer::TopText},
-    {&Rows::date, &ElementComposer::Date},
-    {&Rows::week, &ElementComposer::Week},
-    {&Rows::time, &ElementComposer::Time},
-    {&Rows::lunar, &ElementComposer::Lunar},
-}};
-
-constexpr RowElement ElementOf(Row row)
-{
-    std::size_t i = 0;
-    while (kRowElements[i].row != row)
-        ++i;
-    return kRowElements[i];
-}
-
-constexpr std::array<RowElement, 5> ElementsIn(const RowOrder &order)
-{
-    return {{ElementOf(order[0]), ElementOf(order[1]), ElementOf(order[2]), ElementOf(order[3]),
-             ElementOf(order[4])}};
+    switch (row) {
+    case Row::TopText:
+        return elements.TopText();
+    case Row::Date:
+        return elements.Date();
+    case Row::Week:
+        return elements.Week();
+    case Row::Time:
+        return elements.Time();
+    case Row::Lunar:
+        break;
+    }
+    return elements.Lunar();
 }
 
 /// The heights of the rows that are measured: the non-zero ones. The others are 0, and their
@@ -44,9 +28,9 @@ constexpr std::array<RowElement, 5> ElementsIn(const RowOrder &order)
 inline Rows HeightsOf(ElementComposer &elements, const Rows &measured)
 {
     Rows heights;
-    for (const RowElement &row : kRowElements) {
-        if (measured.*row.row != 0)
-            heights.*row.row = row.Of(elements).Height();
+    for (const Row row : kDateFirst) {
+        if (measured[row] != 0)
+            heights[row] = ElementIn(row, elements).Height();
     }
     return heights;
 }

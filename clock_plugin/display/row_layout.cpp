@@ -6,7 +6,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// The shown rows of an order from top to bottom; places beyond their number stay null.
+// The shown rows of an order from top to bottom; places beyond their number are unused.
 struct Shown
 {
     RowOrder rows = {};
@@ -17,7 +17,7 @@ Shown ShownRows(const RowOrder &order, const Rows &flags)
 {
     Shown shown;
     for (const Row row : order) {
-        if (flags.*row != 0)
+        if (flags[row] != 0)
             shown.rows[static_cast<std::size_t>(shown.count++)] = row;
     }
     return shown;
@@ -33,11 +33,11 @@ int OddPixel(int space)
     return space % 2 != 0 ? 1 : 0;
 }
 
-// The extra pixel of an odd gap stands above the centre line for week and time as upper row; the
-// top text, the date and a week that was swapped upwards do not take it.
+// The extra pixel of an odd gap is above the centre line for week and time as upper row; the top
+// text, the date and a week that was swapped upwards do not take it.
 int UpperRowPixel(Row upper, bool swapped, int space)
 {
-    const bool takesIt = (upper == &Rows::week && !swapped) || upper == &Rows::time;
+    const bool takesIt = (upper == Row::Week && !swapped) || upper == Row::Time;
     return takesIt ? OddPixel(space) : 0;
 }
 
@@ -57,7 +57,7 @@ int CountRows(const Rows &flags)
 void LayOutOneRow(const DigitalArea &area, Rows &positions)
 {
     for (const Row row : kDateFirst)
-        positions.*row = area.height / 2 - area.heights.*row / 2;
+        positions[row] = area.height / 2 - area.heights[row] / 2;
 }
 
 void LayOutTwoRows(const DigitalArea &area, Rows &positions)
@@ -65,15 +65,14 @@ void LayOutTwoRows(const DigitalArea &area, Rows &positions)
     Shown shown = ShownRows(kDateFirst, area.flags);
     if (shown.count != 2)
         return;
-    const bool swapped =
-        area.swap == 1 && shown.rows[0] == &Rows::date && shown.rows[1] == &Rows::week;
+    const bool swapped = area.swap == 1 && shown.rows[0] == Row::Date && shown.rows[1] == Row::Week;
     if (swapped)
         std::swap(shown.rows[0], shown.rows[1]);
     const Row upper = shown.rows[0];
     const long long middle = area.height / 2;
-    positions.*upper = ClampPosition(middle - area.space / 2 - area.heights.*upper
+    positions[upper] = ClampPosition(middle - area.space / 2 - area.heights[upper]
                                      - UpperRowPixel(upper, swapped, area.space));
-    positions.*shown.rows[1] = ClampPosition(middle + area.space / 2);
+    positions[shown.rows[1]] = ClampPosition(middle + area.space / 2);
 }
 
 void LayOutThreeRows(const DigitalArea &area, Rows &positions)
@@ -83,10 +82,10 @@ void LayOutThreeRows(const DigitalArea &area, Rows &positions)
         return;
     const auto [upper, middle, lower, unused4, unused5] = shown.rows;
     const long long centre = area.height / 2;
-    const long long middleTop = centre - area.heights.*middle / 2;
-    positions.*middle = ClampPosition(middleTop);
-    positions.*upper = ClampPosition(middleTop - area.space - area.heights.*upper);
-    positions.*lower = ClampPosition(centre + area.space + area.heights.*middle / 2);
+    const long long middleTop = centre - area.heights[middle] / 2;
+    positions[middle] = ClampPosition(middleTop);
+    positions[upper] = ClampPosition(middleTop - area.space - area.heights[upper]);
+    positions[lower] = ClampPosition(centre + area.space + area.heights[middle] / 2);
 }
 
 void LayOutFourRows(const DigitalArea &area, Rows &positions)
@@ -96,46 +95,46 @@ void LayOutFourRows(const DigitalArea &area, Rows &positions)
         return;
     const auto [first, second, third, fourth, unused] = shown.rows;
     const long long centre = area.height / 2;
-    const long long secondTop = centre - area.space / 2 - area.heights.*second;
+    const long long secondTop = centre - area.space / 2 - area.heights[second];
     const long long thirdTop = centre + area.space / 2;
-    positions.*second = ClampPosition(secondTop);
-    positions.*third = ClampPosition(thirdTop);
-    positions.*first = ClampPosition(secondTop - area.space - area.heights.*first);
-    positions.*fourth = ClampPosition(thirdTop + area.heights.*third + area.space);
+    positions[second] = ClampPosition(secondTop);
+    positions[third] = ClampPosition(thirdTop);
+    positions[first] = ClampPosition(secondTop - area.space - area.heights[first]);
+    positions[fourth] = ClampPosition(thirdTop + area.heights[third] + area.space);
 }
 
 void LayOutFiveRows(const DigitalArea &area, Rows &positions)
 {
     const auto &[first, second, third, fourth, fifth] = OrderOfMany(area.swap);
     const long long centre = area.height / 2;
-    const long long thirdTop = centre - area.heights.*third / 2;
-    const long long secondTop = thirdTop - area.space - area.heights.*second;
-    const long long fourthTop = area.space + centre + area.heights.*third / 2;
-    positions.*third = ClampPosition(thirdTop);
-    positions.*second = ClampPosition(secondTop);
-    positions.*first = ClampPosition(secondTop - area.space - area.heights.*first);
-    positions.*fourth = ClampPosition(fourthTop);
-    positions.*fifth = ClampPosition(fourthTop + area.space + area.heights.*fourth);
+    const long long thirdTop = centre - area.heights[third] / 2;
+    const long long secondTop = thirdTop - area.space - area.heights[second];
+    const long long fourthTop = area.space + centre + area.heights[third] / 2;
+    positions[third] = ClampPosition(thirdTop);
+    positions[second] = ClampPosition(secondTop);
+    positions[first] = ClampPosition(secondTop - area.space - area.heights[first]);
+    positions[fourth] = ClampPosition(fourthTop);
+    positions[fifth] = ClampPosition(fourthTop + area.space + area.heights[fourth]);
 }
 
 namespace {
 
-// Two rows of an analog clock: the gap is centred on the anchor, and its odd pixel stands above.
+// Two rows of an analog clock: the gap is centred on the anchor, and its odd pixel is above.
 void StackTwo(long long anchor, int space, Row upper, Row lower, const Rows &heights,
               Rows &positions)
 {
-    positions.*upper = ClampPosition(anchor - space / 2 - heights.*upper - OddPixel(space));
-    positions.*lower = ClampPosition(anchor + space / 2);
+    positions[upper] = ClampPosition(anchor - space / 2 - heights[upper] - OddPixel(space));
+    positions[lower] = ClampPosition(anchor + space / 2);
 }
 
 // Three rows: the middle one centred on the anchor, the lunar date above it, the last below.
 void StackThree(long long anchor, int space, Row middle, Row lower, const Rows &heights,
                 Rows &positions)
 {
-    const long long middleTop = anchor - heights.*middle / 2;
-    positions.*middle = ClampPosition(middleTop);
+    const long long middleTop = anchor - heights[middle] / 2;
+    positions[middle] = ClampPosition(middleTop);
     positions.lunar = ClampPosition(middleTop - space - heights.lunar);
-    positions.*lower = ClampPosition(anchor + space + heights.*middle / 2);
+    positions[lower] = ClampPosition(anchor + space + heights[middle] / 2);
 }
 
 } // namespace
@@ -154,16 +153,16 @@ void LayOutAnalogRows(const AnalogArea &area, Rows &positions)
         positions.week = lowerAnchor - heights.week / 2;
         positions.lunar = lowerAnchor - heights.lunar / 2;
     } else if (count == 2 && flags.lunar != 0) {
-        StackTwo(lowerAnchor, space, &Rows::lunar, flags.week != 0 ? &Rows::week : &Rows::date,
-                 heights, positions);
+        StackTwo(lowerAnchor, space, Row::Lunar, flags.week != 0 ? Row::Week : Row::Date, heights,
+                 positions);
     } else if (count == 2 && swap == 1) {
-        StackTwo(lowerAnchor, space, &Rows::week, &Rows::date, heights, positions);
+        StackTwo(lowerAnchor, space, Row::Week, Row::Date, heights, positions);
     } else if (count == 2) {
-        StackTwo(lowerAnchor, space, &Rows::date, &Rows::week, heights, positions);
+        StackTwo(lowerAnchor, space, Row::Date, Row::Week, heights, positions);
     } else if (count == 3 && swap != 0) {
-        StackThree(lowerAnchor, space, &Rows::week, &Rows::date, heights, positions);
+        StackThree(lowerAnchor, space, Row::Week, Row::Date, heights, positions);
     } else if (count == 3) {
-        StackThree(lowerAnchor, space, &Rows::date, &Rows::week, heights, positions);
+        StackThree(lowerAnchor, space, Row::Date, Row::Week, heights, positions);
     }
 }
 

@@ -1,4 +1,4 @@
-// Where the text rows of a clock stand: the y of each row's top edge, from heights, gap and order.
+// Layout of the text rows of a clock: the y of each row's top edge, from heights, gap and order.
 // Pure functions of their arguments; pixels, y grows downwards. All halves are integer halves
 // rounded toward zero. Sums are taken in 64 bits and clamped, so that no spacing overflows.
 #pragma once
@@ -7,7 +7,9 @@
 
 namespace Lw::HNodeClock {
 
-/// One number a row: a height, a position or a flag.
+enum class Row { TopText, Date, Week, Time, Lunar };
+
+/// One number per row: a height, a position or a flag.
 struct Rows
 {
     int topText = 0;
@@ -15,19 +17,34 @@ struct Rows
     int week = 0;
     int time = 0;
     int lunar = 0;
+
+    constexpr int operator[](Row row) const { return const_cast<Rows &>(*this)[row]; }
+    constexpr int &operator[](Row row);
 };
+
+constexpr int &Rows::operator[](Row row)
+{
+    switch (row) {
+    case Row::TopText:
+        return topText;
+    case Row::Date:
+        return date;
+    case Row::Week:
+        return week;
+    case Row::Time:
+        return time;
+    case Row::Lunar:
+        break;
+    }
+    return lunar;
+}
 
 inline constexpr Rows kEveryRow {1, 1, 1, 1, 1};
 
-/// One of the rows.
-using Row = int Rows::*;
-
 /// The two orders of the rows, from top to bottom or from left to right.
 using RowOrder = std::array<Row, 5>;
-inline constexpr RowOrder kDateFirst = {&Rows::topText, &Rows::date, &Rows::week, &Rows::time,
-                                        &Rows::lunar};
-inline constexpr RowOrder kWeekFirst = {&Rows::topText, &Rows::week, &Rows::date, &Rows::time,
-                                        &Rows::lunar};
+inline constexpr RowOrder kDateFirst = {Row::TopText, Row::Date, Row::Week, Row::Time, Row::Lunar};
+inline constexpr RowOrder kWeekFirst = {Row::TopText, Row::Week, Row::Date, Row::Time, Row::Lunar};
 
 /// What the rows of a digital clock are laid out from.
 struct DigitalArea
@@ -54,10 +71,9 @@ struct AnalogArea
 int CountRows(const Rows &flags);
 
 /// The rows of a digital clock around the middle of the area. The positions of rows that do not
-/// take part stay as they are, except that a single row positions all five. The date
-/// stands above the week with two rows and below it with more; a swap of exactly 1 exchanges them.
-/// Nothing changes when the number of rows taking part is not the function's own (one and five
-/// rows do not ask).
+/// take part stay as they are, except that a single row positions all five. The date is above the
+/// week with two rows and below it with more; a swap of exactly 1 exchanges them. Nothing changes
+/// when another number of rows takes part than the function is for (one and five rows do not ask).
 void LayOutOneRow(const DigitalArea &area, Rows &positions);
 void LayOutTwoRows(const DigitalArea &area, Rows &positions);
 void LayOutThreeRows(const DigitalArea &area, Rows &positions);
@@ -78,8 +94,8 @@ constexpr Rows LowerRows(Rows rows)
 void LayOutAnalogRows(const AnalogArea &area, Rows &positions);
 
 /// The left edge of the first element on one line, given the sum of the widths of the elements
-/// that count and their number. However far outside it lies, an element in the middle of others may
-/// lie within the area: positions are clamped one by one.
+/// that count and their number. However far outside that is, an element in the middle of others may
+/// be within the area: positions are clamped one by one.
 long long LineStart(int areaWidth, int space, long long widths, int count);
 
 /// A position plus distances, clamped to where nothing is drawn any more.

@@ -2,8 +2,6 @@
 
 #include "display/row_elements.h"
 
-#include <array>
-
 namespace Lw::HNodeClock {
 
 namespace {
@@ -12,10 +10,6 @@ int Number(HClockNode &node, Attribute attribute)
 {
     return node.GetAttributeToInt(Key(attribute));
 }
-
-// In the order in which they are drawn.
-constexpr std::array<RowElement, 5> kDateFirstElements = ElementsIn(kDateFirst);
-constexpr std::array<RowElement, 5> kWeekFirstElements = ElementsIn(kWeekFirst);
 
 using LayOut = void (*)(const DigitalArea &, Rows &);
 constexpr LayOut kLayOutByCount[] = {LayOutOneRow, LayOutTwoRows, LayOutThreeRows, LayOutFourRows,
@@ -27,16 +21,16 @@ Placements OnOneLine(const DigitalSettings &settings, ElementComposer &elements)
     const Rows &flags = settings.flags;
     const int space = settings.space;
     long long widths = 0;
-    for (const RowElement &row : kDateFirstElements) {
-        if (flags.*row.row != 0)
-            widths += row.Of(elements).Width();
+    for (const Row row : kDateFirst) {
+        if (flags[row] != 0)
+            widths += ElementIn(row, elements).Width();
     }
     long long x = LineStart(settings.area.width(), space, widths, CountRows(flags));
     Placements placements;
-    for (const RowElement &row : settings.swap == 0 ? kWeekFirstElements : kDateFirstElements) {
-        if (flags.*row.row != 1)
+    for (const Row row : settings.swap == 0 ? kWeekFirst : kDateFirst) {
+        if (flags[row] != 1)
             continue;
-        const Element &element = row.Of(elements);
+        const Element &element = ElementIn(row, elements);
         placements.Add(element,
                        {ClampPosition(x), settings.area.height() / 2 - element.Height() / 2});
         x += static_cast<long long>(element.Width()) + space;
@@ -48,11 +42,11 @@ Placements OnOneLine(const DigitalSettings &settings, ElementComposer &elements)
 Placements InRows(const DigitalSettings &settings, ElementComposer &elements, const Rows &tops)
 {
     Placements placements;
-    for (const RowElement &row : kDateFirstElements) {
-        if (settings.flags.*row.row != 1)
+    for (const Row row : kDateFirst) {
+        if (settings.flags[row] != 1)
             continue;
-        const Element &element = row.Of(elements);
-        placements.Add(element, {settings.area.width() / 2 - element.Width() / 2, tops.*row.row});
+        const Element &element = ElementIn(row, elements);
+        placements.Add(element, {settings.area.width() / 2 - element.Width() / 2, tops[row]});
     }
     return placements;
 }
@@ -94,15 +88,15 @@ namespace {
 struct TextRow
 {
     Attribute flag;
-    RowElement text;
+    Row row;
 };
 
 // In the order of painting.
 constexpr TextRow kTexts[] = {
-    {Attribute::Analog_TopTexy_d, ElementOf(&Rows::topText)},
-    {Attribute::Analog_Date_d, ElementOf(&Rows::date)},
-    {Attribute::Analog_Week_d, ElementOf(&Rows::week)},
-    {Attribute::Analog_Lunar_d, ElementOf(&Rows::lunar)},
+    {Attribute::Analog_TopTexy_d, Row::TopText},
+    {Attribute::Analog_Date_d, Row::Date},
+    {Attribute::Analog_Week_d, Row::Week},
+    {Attribute::Analog_Lunar_d, Row::Lunar},
 };
 
 } // namespace
@@ -130,11 +124,11 @@ Placements PlaceAnalog(HClockNode &node, ElementComposer &elements, const Rows &
 {
     const int middle = node.Size().width() / 2;
     Placements placements;
-    for (const TextRow &row : kTexts) {
-        if (Number(node, row.flag) != 1)
+    for (const TextRow &text : kTexts) {
+        if (Number(node, text.flag) != 1)
             continue;
-        const Element &element = row.text.Of(elements);
-        placements.Add(element, QPoint(middle - element.Width() / 2, tops.*row.text.row));
+        const Element &element = ElementIn(text.row, elements);
+        placements.Add(element, QPoint(middle - element.Width() / 2, tops[text.row]));
     }
     return placements;
 }

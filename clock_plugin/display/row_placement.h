@@ -4,7 +4,7 @@
 
 #include "clock_node.h"
 #include "compose/element_composer.h"
-#include "display/placements.h"
+#include "display/frames/placements.h"
 #include "display/row_layout.h"
 
 #include <QSize>

@@ -1,10 +1,7 @@
-// What the drawer remembers of its frames: hand traces, known frames, settled text rows.
+// What the drawer remembers of its frames: touched pixels, known frames, settled text rows.
 #include "display/analog_painting.h"
-#include "display/frame_memory.h"
-#include "display/hand_trace.h"
-#include "display/opaque_view.h"
-#include "display/stamp.h"
-#include "display/text_rows.h"
+#include "display/frames/frame_memory.h"
+#include "display/frames/text_rows.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -33,6 +30,14 @@ constexpr QRgb kRed = 0xffff0000;
 constexpr QRgb kGreen = 0xff00ff00;
 constexpr QRgb kBlue = 0xff0000ff;
 
+bool Contains(const Spans &spans, int x, int y)
+{
+    const int index = y - spans.Top();
+    if (index < 0 || index >= spans.Rows().size())
+        return false;
+    return x >= spans.Rows().at(index).left && x < spans.Rows().at(index).right;
+}
+
 } // namespace
 
 class TestAnalogMemory : public QObject
@@ -40,10 +45,11 @@ class TestAnalogMemory : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void TraceHoldsEveryTouchedPixel_data();
-    void TraceHoldsEveryTouchedPixel();
-    void TraceIsNarrow();
-    void TraceOutsideTheImage();
+    void SpansHoldEveryTouchedPixel_data();
+    void SpansHoldEveryTouchedPixel();
+    void SpansAreNarrow();
+    void SpansOutsideTheImage();
+    void SpansOfAPart();
     void UnknownFrameGetsAll();
     void KnownFrameGetsHandsOnly();
     void TwoFramesAreKnown();
@@ -51,19 +57,17 @@ private Q_SLOTS:
     void ReplacedBackgroundForgetsAll();
     void ChangedAreaIsCopied();
     void ForeignBackgroundWriteForgetsAll();
-    void OtherSizeIsLeftAlone();
+    void SmallerBackground();
+    void NullImagesAreLeftAlone();
     void OpaqueRowsSettleAtOnce();
     void TranslucentRowsAccumulate();
     void OverlappingRowsAccumulate();
     void MovedRowIsPainted();
     void PictureWrittenByOthersIsPainted();
     void NullRowsAreLeftOut();
-    void StampIsTheShape_data();
-    void StampIsTheShape();
-    void OpaqueViewShowsTheSame();
 };
 
-void TestAnalogMemory::TraceHoldsEveryTouchedPixel_data()
+void TestAnalogMemory::SpansHoldEveryTouchedPixel_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("antialiasing");
@@ -76,54 +80,78 @@ void TestAnalogMemory::TraceHoldsEveryTouchedPixel_data()
     }
 }
 
-void TestAnalogMemory::TraceHoldsEveryTouchedPixel()
+void TestAnalogMemory::SpansHoldEveryTouchedPixel()
 {
     QFETCH(QSize, size);
     QFETCH(bool, antialiasing);
     for (int step = 0; step < 3 * 2 * 72; ++step) {
-        const HandShape shape =
-            ShapeOf(static_cast<Hand>(step % 3), step / 3 % 2, HandRadius(size));
+        const HandShape hand = ShapeOf(static_cast<Hand>(step % 3), step / 3 % 2, HandRadius(size));
+        FlatShape shape;
+        shape.outline = hand.outline;
+        shape.degrees = step * 5.0 / 6;
+        shape.colour = Qt::white;
         QImage image = Filled(size, kBlack);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing, antialiasing);
         painter.translate(Centre(size));
-        HandTrace trace;
-        for (const QPolygonF &outline : PaintHand(painter, shape, step * 5.0 / 6, Qt::white))
-            trace.Add(outline, size);
+        Spans spans;
+        Spans ring;
+        PaintFlat(painter, shape);
+        spans.Set(OutlineOn(Centre(size), shape), size);
+        if (hand.ring.radius > 0)
+            ring.Set(PaintRing(painter, hand.ring, shape.degrees, Qt::white), size);
         painter.end();
         for (int y = 0; y < size.height(); ++y) {
             for (int x = 0; x < size.width(); ++x)
-                QVERIFY(image.pixel(x, y) == kBlack || trace.Contains(QPoint(x, y)));
+                QVERIFY(image.pixel(x, y) == kBlack || Contains(spans, x, y)
+                        || Contains(ring, x, y));
         }
     }
 }
 
 // A hand at 45 degrees must not cost the whole box around it.
-void TestAnalogMemory::TraceIsNarrow()
+void TestAnalogMemory::SpansAreNarrow()
 {
-    const QSize size(200, 200);
-    HandTrace trace;
-    trace.Add(QPolygonF({{100, 100}, {102, 102}, {172, 32}, {170, 30}}), size);
+    Spans spans;
+    spans.Set(QPolygonF({{100, 100}, {102, 102}, {172, 32}, {170, 30}}), QSize(200, 200));
     int pixels = 0;
-    for (int y = 0; y < 200; ++y) {
-        for (int x = 0; x < 200; ++x)
-            pixels += trace.Contains(QPoint(x, y)) ? 1 : 0;
-    }
-    QVERIFY(pixels < 72 * 20);
+    for (const Spans::Row &row : spans.Rows())
+        pixels += row.right - row.left;
+    QVERIFY(pixels > 0);
+    QVERIFY(pixels < 72 * 30);
 }
 
-void TestAnalogMemory::TraceOutsideTheImage()
+void TestAnalogMemory::SpansOutsideTheImage()
 {
-    HandTrace trace;
     const QSize size(10, 10);
-    trace.Add(QPolygonF(QRectF(-50, -50, 20, 20)), size);
-    trace.Add(QPolygonF(QRectF(1e9, 1e9, 20, 20)), size);
-    trace.Add(QPolygonF(), size);
-    trace.Add(QPolygonF(QRectF(0, 0, 5, 5)), QSize());
     const QImage source = Filled(size, kRed);
-    QImage target = Filled(size, kBlack);
-    trace.Copy(source, target.bits());
-    QCOMPARE(target, Filled(size, kBlack));
+    const QPolygonF outlines[] = {QPolygonF(QRectF(-50, -50, 20, 20)),
+                                  QPolygonF(QRectF(1e9, 1e9, 20, 20)), QPolygonF()};
+    for (const QPolygonF &outline : outlines) {
+        Spans spans;
+        spans.Set(outline, size);
+        QImage target = Filled(size, kBlack);
+        spans.Copy(source, QPoint(), target.bits(), target.bytesPerLine());
+        QCOMPARE(target, Filled(size, kBlack));
+        QVERIFY(spans.Region().isEmpty());
+    }
+    Spans spans;
+    spans.Set(QPolygonF(QRectF(0, 0, 5, 5)), QSize());
+    QVERIFY(spans.IsEmpty());
+}
+
+// A source that is only a part of the target gives what it has.
+void TestAnalogMemory::SpansOfAPart()
+{
+    const QImage source = Filled(QSize(4, 3), kRed);
+    QImage target = Filled(QSize(10, 10), kBlack);
+    Spans spans;
+    spans.Set(QPolygonF(QRectF(0, 0, 10, 10)), target.size());
+    spans.Copy(source, QPoint(5, 6), target.bits(), target.bytesPerLine());
+    for (int y = 0; y < 10; ++y) {
+        for (int x = 0; x < 10; ++x)
+            QCOMPARE(target.pixel(x, y), QRect(5, 6, 4, 3).contains(x, y) ? kRed : kBlack);
+    }
 }
 
 void TestAnalogMemory::UnknownFrameGetsAll()
@@ -145,7 +173,7 @@ void TestAnalogMemory::KnownFrameGetsHandsOnly()
         FrameMemory::Painting painting(memory, frame);
         QPainter painter(&frame);
         painter.fillRect(8, 4, 2, 2, Qt::white);
-        painting.Covers({QPolygonF(QRectF(8, 4, 2, 2))});
+        painting.Covers(QPolygonF(QRectF(8, 4, 2, 2)));
     }
     Smuggle(frame, 0, 0, kBlue);
     memory.Restore(frame, background);
@@ -231,17 +259,31 @@ void TestAnalogMemory::ForeignBackgroundWriteForgetsAll()
     QCOMPARE(frame, background);
 }
 
-void TestAnalogMemory::OtherSizeIsLeftAlone()
+void TestAnalogMemory::SmallerBackground()
+{
+    FrameMemory memory;
+    const QImage background = Filled(QSize(6, 4), kRed);
+    QImage frame = Filled(QSize(20, 10), kBlack);
+    memory.Restore(frame, background, QPoint(7, 3));
+    QImage expected = Filled(QSize(20, 10), 0xff010201);
+    QPainter(&expected).drawImage(7, 3, background);
+    QCOMPARE(frame, expected);
+    memory.Restore(frame, background, QPoint(8, 3));
+    expected.fill(0xff010201);
+    QPainter(&expected).drawImage(8, 3, background);
+    QCOMPARE(frame, expected);
+}
+
+void TestAnalogMemory::NullImagesAreLeftAlone()
 {
     FrameMemory memory;
     const QImage background = Filled(QSize(20, 10), kRed);
     QImage frame = Filled(QSize(10, 20), kBlack);
-    memory.Restore(frame, background);
-    QCOMPARE(frame, Filled(QSize(10, 20), kBlack));
     QImage none;
     memory.Restore(none, background);
     memory.Restore(frame, none);
     QVERIFY(none.isNull());
+    QCOMPARE(frame, Filled(QSize(10, 20), kBlack));
 }
 
 namespace {
@@ -363,72 +405,6 @@ void TestAnalogMemory::NullRowsAreLeftOut()
     QImage none;
     QVERIFY(memory.Paint(none, Placed(rows)).isEmpty());
     QCOMPARE(picture, Filled(QSize(30, 20), kBlack));
-}
-
-void TestAnalogMemory::StampIsTheShape_data()
-{
-    QTest::addColumn<QSize>("size");
-    for (const QSize &size : {QSize(3, 3), QSize(21, 21), QSize(64, 32), QSize(81, 160),
-                              QSize(108, 108), QSize(203, 203)})
-        QTest::addRow("%dx%d", size.width(), size.height()) << size;
-}
-
-// Every minute and the disc, on a colourful ground, each stamped twice and painted twice.
-void TestAnalogMemory::StampIsTheShape()
-{
-    QFETCH(QSize, size);
-    QImage ground(size, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < size.height(); ++y) {
-        for (int x = 0; x < size.width(); ++x)
-            ground.setPixel(x, y, qRgb(x * 37 & 255, y * 91 & 255, (x + y) * 53 & 255));
-    }
-    Stamp handStamp;
-    Stamp capStamp;
-    const HandShape shape = ShapeOf(Hand::Minute, BarHand, HandRadius(size));
-    const QRect cap = CentreCap(HandRadius(size), false);
-    for (int step = 0; step < 4 * 60; ++step) {
-        const bool smooth = step / 2 % 2 != 0;
-        const QColor colour(250, step, 90);
-        const double degrees = step / 4 * 6;
-        QImage stamped = ground;
-        QImage painted = ground;
-        QPainter stamping(&stamped);
-        QPainter painting(&painted);
-        for (QPainter *const painter : {&stamping, &painting}) {
-            painter->setRenderHint(QPainter::Antialiasing, smooth);
-            painter->translate(Centre(size));
-        }
-        QCOMPARE(StampHand(stamping, handStamp, shape, degrees, colour),
-                 PaintHand(painting, shape, degrees, colour));
-        QCOMPARE(StampCentreCap(stamping, capStamp, cap, colour),
-                 PaintCentreCap(painting, cap, colour));
-        stamping.end();
-        painting.end();
-        QVERIFY2(stamped == painted, qPrintable(QString::number(step)));
-    }
-}
-
-// Frames are ARGB32 and painted as premultiplied: the same, for plain colours over opaque pixels.
-void TestAnalogMemory::OpaqueViewShowsTheSame()
-{
-    OpaqueView view;
-    for (const QSize &size : {QSize(64, 64), QSize(101, 80)}) {
-        QImage viewed = Filled(size, 0xff4080c0);
-        QImage plain = viewed;
-        const qint64 key = viewed.cacheKey();
-        for (int i = 0; i < 24; ++i) {
-            QPainter one(&view.Of(viewed));
-            QPainter other(&plain);
-            for (QPainter *const painter : {&one, &other}) {
-                painter->setRenderHint(QPainter::Antialiasing);
-                painter->translate(Centre(size));
-                PaintHand(*painter, ShapeOf(Hand::Second, ArrowHand, HandRadius(size)), i * 15,
-                          QColor(i * 10, 255 - i, 3));
-            }
-        }
-        QCOMPARE(viewed, plain);
-        QVERIFY(viewed.cacheKey() != key);
-    }
 }
 
 QTEST_MAIN(TestAnalogMemory)

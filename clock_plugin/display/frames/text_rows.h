@@ -4,7 +4,7 @@
 // more. From then on, or at once where rows are opaque, painting the same rows again is left out.
 #pragma once
 
-#include "display/placements.h"
+#include "display/frames/placements.h"
 
 #include <QImage>
 #include <QRegion>

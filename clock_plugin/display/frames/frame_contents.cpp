@@ -1,4 +1,4 @@
-#include "display/frame_painter.h"
+#include "display/frames/frame_contents.h"
 
 #include "compose/piece_canvas.h"
 

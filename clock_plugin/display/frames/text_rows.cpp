@@ -1,4 +1,4 @@
-#include "display/text_rows.h"
+#include "display/frames/text_rows.h"
 
 #include "compose/piece_canvas.h"
 

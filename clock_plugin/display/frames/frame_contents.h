@@ -1,7 +1,7 @@
 // Draws placed elements into a frame, and into a frame drawn before only what differs.
 #pragma once
 
-#include "display/placements.h"
+#include "display/frames/placements.h"
 
 #include <QColor>
 #include <QImage>

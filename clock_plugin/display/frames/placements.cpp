@@ -1,4 +1,4 @@
-#include "display/placements.h"
+#include "display/frames/placements.h"
 
 #include <algorithm>
 

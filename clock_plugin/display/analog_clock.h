@@ -1,0 +1,65 @@
+// The face of an analog clock: a dial that is drawn rarely, the hands over it every second, and
+// text rows that are drawn onto the dial, so that a frame shows them from the next second on.
+#pragma once
+
+#include "display/analog_painting.h"
+#include "display/clock_face.h"
+#include "display/frames/frame_memory.h"
+#include "display/frames/kept_hand.h"
+#include "display/frames/text_rows.h"
+
+#include <QDate>
+
+#include <optional>
+
+namespace Lw::HNodeClock {
+
+/// Fills hourHand, minuteHand and secondHand for a dial of that many pixels across.
+void FillHandTriangles(int size);
+
+class AnalogFace
+{
+public:
+    explicit AnalogFace(SharedByFaces &shared) : m_shared(shared) { }
+    Q_DISABLE_COPY(AnalogFace)
+
+    void PlaceRows();
+    void Draw();
+    // The steps of drawing, in their order.
+    void DrawDial();
+    void DrawBadge();
+    void DrawHands();
+    void DrawTexts();
+
+    void RedrawDial() { m_dialHalf.clear(); } ///< with the next frame
+    /// Where the frame differs from the one before; no answer where either is not of this face.
+    std::optional<QRegion> Changes() const
+    {
+        return m_memory.ChangesSince(m_shared.frames.FrameBefore(), m_shared.frames.Frame());
+    }
+
+private:
+    static constexpr int kHands = 3;
+
+    void RefreshDial(const QSize &size);
+    void CountRepeatedSecond();
+    int DrawHand(int index, double radius, FrameMemory::Painting &painting);
+    void PutShape(const FlatShape &shape, KeptHand &kept, int position,
+                  FrameMemory::Painting &painting);
+    QPainter &Painter();
+
+    SharedByFaces &m_shared;
+    QImage m_dial;      // marks, numerals, badge and texts: the background of the hands
+    QDate m_dialDate;   // the device's date when the dial was drawn
+    QString m_dialHalf; // "AM" or "PM" at that time; empty forces a dial redraw
+    TextRows m_texts;   // on the dial
+    FrameMemory m_memory;
+    bool m_smooth = false; // antialiased hands
+    KeptHand m_hands[kHands] = {KeptHand(1), KeptHand(1), KeptHand(60)};
+    KeptHand m_cap;
+    ColourCanvas m_canvas;
+    int m_lastSecond = -1;
+    int m_repeatedSeconds = 0; // frames that showed the second of the frame before
+};
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,48 @@
+// What the faces of a drawer share: the node and its settings, the elements, the displayed time and
+// the two frames.
+#pragma once
+
+#include "calendar/clock_time.h"
+#include "clock_node.h"
+#include "compose/draw_clock_classify_image.h"
+#include "display/frames/frame_pair.h"
+#include "display/row_layout.h"
+#include "glyph/glyph_set.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QPointer>
+#include <QSize>
+
+namespace Lw::HNodeClock {
+
+/// A stored colour, 0x00BBGGRR, which is always opaque.
+inline QColor ColourOf(int stored)
+{
+    const auto packed = static_cast<LWColor>(stored);
+    return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
+}
+
+/// The host answers what is asked about the node, and may delete it meanwhile: of a node that is
+/// gone every number is 0, there is no size and no file.
+struct SharedByFaces
+{
+    QSize Size() { return node ? node->Size() : QSize(); }
+    int Number(Attribute attribute) { return node ? node->GetAttributeToInt(Key(attribute)) : 0; }
+    int Number(int (HClockNode::*setting)()) { return node ? (node->*setting)() : 0; }
+    QColor Colour(Attribute attribute) { return ColourOf(Number(attribute)); }
+    QString File(Glyph glyph) { return node ? node->GetFirstFile(GlyphKey(glyph)) : QString(); }
+    ElementComposer &Elements() { return composer.Elements(); }
+
+    QPointer<HClockNode> node;
+    DrawClockClassifyImage composer;
+    QPainter painter; // destroyed before the composer
+
+    /// What the clock shows: Gregorian, and twenty-four hours, in every mode.
+    DisplayedFields now {0, 0, 0, 0, 0, -1, 0};
+    int frameWidth = 0; ///< of the node when the frame was begun
+    Rows tops;          ///< top edges of the text rows
+    FramePair frames;
+};
+
+} // namespace Lw::HNodeClock

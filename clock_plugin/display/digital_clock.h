@@ -1,0 +1,33 @@
+// The face of a digital clock: up to five elements on one line or in rows.
+#pragma once
+
+#include "display/clock_face.h"
+#include "display/frames/frame_contents.h"
+#include "display/row_placement.h"
+
+#include <array>
+#include <optional>
+
+namespace Lw::HNodeClock {
+
+class DigitalFace
+{
+public:
+    explicit DigitalFace(SharedByFaces &shared) : m_shared(shared) { }
+    Q_DISABLE_COPY(DigitalFace)
+
+    /// As the layout of that many rows.
+    void PlaceRows(const DigitalSettings &settings, int count, int space);
+    /// As the settings ask for.
+    void PlaceRows(const DigitalSettings &settings);
+    void Draw(const DigitalSettings &settings);
+    /// Where the frame differs from the one before; no answer where either is not of this face.
+    std::optional<QRegion> Changes() const;
+
+private:
+    SharedByFaces &m_shared;
+    std::array<FrameContents, 2> m_contents; // of the frame and of the one before, or the reverse
+    bool m_secondIsCurrent = false;
+};
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,145 @@
+#include "display/frames/frame_memory.h"
+
+#include "display/frames/frame_pair.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace Lw::HNodeClock {
+
+namespace {
+
+// All bytes are written through a pointer taken once: the frame is not shared, so nothing is
+// copied, and its key changes once.
+void CopyRegion(const QImage &source, const QPoint &place, const QRegion &region, uchar *target,
+                int targetLine)
+{
+    for (const QRect &rect : region &source.rect().translated(place)) {
+        const auto bytes = static_cast<std::size_t>(rect.width()) * sizeof(QRgb);
+        for (int y = rect.top(); y <= rect.bottom(); ++y) {
+            const uchar *const from = source.constScanLine(y - place.y());
+            std::memcpy(reinterpret_cast<QRgb *>(target + qint64(y) * targetLine) + rect.left(),
+                        reinterpret_cast<const QRgb *>(from) + rect.left() - place.x(), bytes);
+        }
+    }
+}
+
+} // namespace
+
+FrameMemory::Known *FrameMemory::Find(const QImage &frame)
+{
+    return const_cast<Known *>(qAsConst(*this).Find(frame));
+}
+
+const FrameMemory::Known *FrameMemory::Find(const QImage &frame) const
+{
+    const qint64 key = frame.cacheKey();
+    for (const Known &known : m_known) {
+        if (key != 0 && known.key == key)
+            return &known;
+    }
+    return nullptr;
+}
+
+void FrameMemory::Forget()
+{
+    m_known = {};
+}
+
+void FrameMemory::Restore(QImage &frame, const QImage &background, const QPoint &place)
+{
+    if (frame.isNull() || background.isNull() || frame.format() != background.format())
+        return;
+    if (background.cacheKey() != m_backgroundKey || place != m_place)
+        Forget();
+    m_backgroundKey = background.cacheKey();
+    m_place = place;
+
+    Known *known = Find(frame);
+    if (!known && !background.rect().translated(place).contains(frame.rect()))
+        frame.fill(FramePair::KeyColour());
+    uchar *const pixels = frame.bits();
+    const int line = frame.bytesPerLine();
+    if (known) {
+        CopyRegion(background, place, known->stale, pixels, line);
+        std::for_each_n(known->parts.begin(), known->count,
+                        [&](const Spans &part) { part.Copy(background, place, pixels, line); });
+    } else {
+        known = &m_known.back();
+        CopyRegion(background, place, frame.rect(), pixels, line);
+    }
+    known->key = frame.cacheKey();
+    known->stale = QRegion();
+    known->count = 0;
+    if (known != &m_known.front())
+        std::swap(m_known.front(), m_known.back());
+}
+
+void FrameMemory::BackgroundChanged(qint64 keyBefore, const QImage &background, const QRegion &area)
+{
+    if (keyBefore != m_backgroundKey)
+        Forget();
+    m_backgroundKey = background.cacheKey();
+    for (Known &known : m_known)
+        known.stale += area;
+}
+
+// The parts that are on one of the frames only, and where the background changed since the frame
+// before was drawn.
+std::optional<QRegion> FrameMemory::ChangesSince(const QImage &before, const QImage &frame) const
+{
+    const Known *const knownBefore = Find(before);
+    const Known *const known = Find(frame);
+    if (!knownBefore || !known)
+        return std::nullopt;
+    return knownBefore->stale + knownBefore->PartsMissingIn(*known)
+        + known->PartsMissingIn(*knownBefore);
+}
+
+// Beyond the most there can be, parts would share the last place: there must be none.
+Spans &FrameMemory::Known::NextPart()
+{
+    Q_ASSERT(count < kMostParts);
+    return parts[static_cast<std::size_t>(count++)];
+}
+
+bool FrameMemory::Known::Has(const Spans &part) const
+{
+    return std::any_of(parts.begin(), parts.begin() + count,
+                       [&part](const Spans &own) { return own.IsCopyOf(part); });
+}
+
+QRegion FrameMemory::Known::PartsMissingIn(const Known &other) const
+{
+    QRegion missing;
+    std::for_each_n(parts.begin(), count, [&](const Spans &part) {
+        if (!other.Has(part))
+            missing += part.Region();
+    });
+    return missing;
+}
+
+FrameMemory::Painting::Painting(FrameMemory &memory, QImage &frame)
+    : m_frame(frame), m_known(memory.Find(frame))
+{ }
+
+FrameMemory::Painting::~Painting()
+{
+    if (m_known)
+        m_known->key = m_frame.cacheKey();
+}
+
+void FrameMemory::Painting::Blend(const KeptShape &shape)
+{
+    if (m_known)
+        m_known->NextPart() = shape.Covered();
+    shape.Blend(m_frame.bits(), m_frame.bytesPerLine());
+}
+
+void FrameMemory::Painting::Covers(const QPolygonF &outline)
+{
+    if (m_known)
+        m_known->NextPart().Set(outline, m_frame.size());
+}
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,59 @@
+// Which pixels of an image a painted shape may have changed: one run of pixels per row. A second
+// later these, and few others, are copied from the picture without the shape.
+#pragma once
+
+#include <QImage>
+#include <QPolygonF>
+#include <QRect>
+#include <QRegion>
+#include <QVector>
+
+namespace Lw::HNodeClock {
+
+/// How far around its outline painting a shape may change pixels: antialiasing, and the rounding of
+/// edges.
+constexpr int kPaintMargin = 2;
+
+/// All pixels that painting a shape with this outline may change.
+inline QRect BoxAround(const QPolygonF &outline)
+{
+    return outline.boundingRect().toAlignedRect().adjusted(-kPaintMargin, -kPaintMargin,
+                                                           kPaintMargin, kPaintMargin);
+}
+
+class Spans
+{
+public:
+    struct Row
+    {
+        quint16 left;
+        quint16 right; ///< the first pixel beyond; equal to left in an empty row
+    };
+
+    /// No rows yet; the next one added is this one. Keeps its memory.
+    void Clear(int top);
+    void AddRow(int left, int right);
+    /// What painting a polygon onto an image of this size may change.
+    void Set(const QPolygonF &outline, const QSize &image);
+
+    bool IsEmpty() const { return m_rows.isEmpty(); }
+    int Top() const { return m_top; }
+    const QVector<Row> &Rows() const { return m_rows; }
+    int Bytes() const { return m_rows.size() * int(sizeof(Row)); }
+    /// Whether these are a copy of others, which costs nothing to find out.
+    bool IsCopyOf(const Spans &other) const
+    {
+        return m_rows.constData() == other.m_rows.constData();
+    }
+    /// A region of few rectangles that contains the spans.
+    QRegion Region() const;
+    /// Copies these pixels, as far as the source has them, from an image of the same format, 32
+    /// bits per pixel, whose top left is at a place in the target. Target is the first byte.
+    void Copy(const QImage &source, const QPoint &place, uchar *target, int targetLine) const;
+
+private:
+    int m_top = 0;
+    QVector<Row> m_rows;
+};
+
+} // namespace Lw::HNodeClock

@@ -1,0 +1,62 @@
+// The face of a picture clock: a dial picture of a chosen style, and hand pictures that all styles
+// share.
+#pragma once
+
+#include "display/clock_face.h"
+#include "display/frames/frame_memory.h"
+#include "display/frames/kept_hand.h"
+
+#include <QPixmap>
+
+#include <optional>
+
+namespace Lw::HNodeClock {
+
+class PictureFace
+{
+public:
+    explicit PictureFace(SharedByFaces &shared) : m_shared(shared) { }
+    Q_DISABLE_COPY(PictureFace)
+
+    /// Whether the pictures are to be loaded first: style or size has changed, or memory lacked.
+    bool NeedsPictures();
+    void LoadPictures();
+    void Draw();
+    /// Where the frame differs from the one before; no answer where either is not of this face.
+    std::optional<QRegion> Changes() const
+    {
+        return m_memory.ChangesSince(m_shared.frames.FrameBefore(), m_shared.frames.Frame());
+    }
+
+private:
+    // A picture stretched into its place on the face and turned clockwise about the centre.
+    struct TurnedPicture
+    {
+        const QPixmap &picture;
+        double degrees;
+        QRect place;
+    };
+
+    void DrawBackground(const QRect &dial, const QString &file);
+    void Restore(QImage &frame);
+    void Paint(const TurnedPicture &part, FrameMemory::Painting &painting);
+    void Put(const TurnedPicture &part, KeptHand &kept, int position,
+             FrameMemory::Painting &painting);
+    KeptShape Keep(const TurnedPicture &part);
+
+    SharedByFaces &m_shared;
+    QPixmap m_hour;
+    QPixmap m_minute;
+    QPixmap m_second;
+    QPixmap m_centre;
+    QImage m_background;        // the scaled dial
+    QPoint m_place;             // of the background in a frame
+    QSize m_size;               // of the frames that the background is for
+    std::optional<int> m_style; // of the frame; none before the first
+    FrameMemory m_memory;
+    KeptHand m_keptHour;
+    KeptHand m_keptSecond {60};
+    KeptHand m_keptCentre;
+};
+
+} // namespace Lw::HNodeClock
