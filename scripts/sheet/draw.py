@@ -10,11 +10,11 @@ import strips
 EXAMPLES = pathlib.Path(__file__).parents[2] / "examples"
 
 
-def second_frame(player, program, language, instant, magnify):
+def second_frame(player, program, language, instant, *size):
     """The texts of a dial appear in the frame after the dial's first."""
     with tempfile.TemporaryDirectory() as directory:
         subprocess.run(
-            [player, program, "--output", directory, "--frames", "2", "--magnify", str(magnify)]
+            [player, program, "--output", directory, "--frames", "2", *size]
             + ["--language", language, "--at", instant],
             stdout=subprocess.DEVNULL,
             check=True,
@@ -26,7 +26,7 @@ def played(player, wall):
     with tempfile.NamedTemporaryFile(suffix=".xml") as program:
         program.write(wall.program())
         program.flush()
-        return second_frame(player, program.name, wall.language, wall.instant, 2)
+        return second_frame(player, program.name, wall.language, wall.instant, "--magnify", "2")
 
 
 def main():
@@ -34,8 +34,11 @@ def main():
     sheet = strips.joined([played(player, wall) for wall in samples.walls()])
     (directory / "contact_sheet.png").write_bytes(sheet)
     for example in ("station", "wall"):
-        frame = second_frame(player, EXAMPLES / f"{example}.xml", "en", samples.INSTANT, 2)
+        program = EXAMPLES / f"{example}.xml"
+        frame = second_frame(player, program, "en", samples.INSTANT, "--magnify", "2")
         (directory / f"{example}.png").write_bytes(frame)
+    diodes = second_frame(player, EXAMPLES / "wall.xml", "en", samples.INSTANT, "--led", "3")
+    (directory / "wall_diodes.png").write_bytes(diodes)
 
 
 main()

@@ -73,7 +73,7 @@ def dial_texts(wall):
         ("three rows", {**lunar, **date, **week}),
         ("three rows, swapped", {**lunar, **date, **week, **swapped}),
         ("everything", {**top, **badge, **lunar, **date, **week}),
-        ("numerals, all texts", {**top, **lunar, **date, **week, "HourScaleType": 3}),
+        ("numerals, weekday", {**week, "AnalogWeekType": 2, "HourScaleType": 3}),
     )
     wall.samples(*((name, 128, 128, analog(**{"HourScaleType": 0, **settings}))
                    for name, settings in rows))

@@ -96,7 +96,7 @@ void TestToolTargets::Fifo()
     reader.start("cat", {fifo});
     QVERIFY(reader.waitForStarted());
     RunTool(command + QStringList {"-o", fifo});
-    QVERIFY(reader.waitForFinished(10000));
+    QVERIFY(reader.waitForFinished(60000));
     QCOMPARE(KindOf(fifo), mode_t(S_IFIFO));
     QCOMPARE(reader.readAllStandardOutput(), Expected(command));
 }
