@@ -6,6 +6,9 @@
 set(CLOCK_INSTALL_ROOT lib/clock-player)
 set(CLOCK_INSTALL_DOC share/doc/clock-player)
 
+# Builds what the runtime component installs, and nothing else.
+add_custom_target(clock_runtime)
+
 # clock_install_compressed(FILE FOLDER NAME)
 # NAME.gz in the folder, as Debian wants changelogs and manual pages: compressed most, without a time
 # stamp.
@@ -18,6 +21,7 @@ function(clock_install_compressed file folder name)
         DEPENDS ${file}
         VERBATIM)
     add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
+    add_dependencies(clock_runtime compressed_${name})
     install(FILES ${compressed} DESTINATION ${folder} COMPONENT runtime)
 endfunction()
 
@@ -34,6 +38,7 @@ endfunction()
 # The program, and a link to it in bin.
 function(clock_install_program target)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+    add_dependencies(clock_runtime ${target})
     install(TARGETS ${target} RUNTIME DESTINATION ${CLOCK_INSTALL_ROOT}/bin COMPONENT runtime)
     clock_install_link(bin/${target} ../${CLOCK_INSTALL_ROOT}/bin/${target} runtime)
 endfunction()
@@ -46,10 +51,19 @@ function(clock_install)
             clock_install_program(${program})
         endif()
     endforeach()
+    add_dependencies(clock_runtime clock_plugin clock_style_pictures)
     install(TARGETS clock_plugin
         LIBRARY DESTINATION ${CLOCK_INSTALL_ROOT}/plugins COMPONENT runtime NAMELINK_SKIP)
     install(DIRECTORY examples DESTINATION ${CLOCK_INSTALL_DOC} COMPONENT runtime
         FILES_MATCHING PATTERN "*.xml")
+    # bash finds the completion of a command by its name; one file has both.
+    install(FILES packaging/completion/clock_player
+        DESTINATION share/bash-completion/completions COMPONENT runtime)
+    clock_install_link(share/bash-completion/completions/clock_tool clock_player runtime)
+    install(FILES packaging/clock-player.service
+        DESTINATION lib/systemd/system COMPONENT runtime)
+    install(DIRECTORY docs/ DESTINATION ${CLOCK_INSTALL_DOC} COMPONENT runtime
+        FILES_MATCHING PATTERN "*.md" PATTERN "program.rng" PATTERN "*.svg" PATTERN "*.cpp")
     clock_install_host()
 endfunction()
 
@@ -65,10 +79,11 @@ function(clock_install_host)
     include(CMakePackageConfigHelpers)
     set(config_folder lib/cmake/clock-player)
     set(plugin_folder ${CLOCK_INSTALL_ROOT}/plugins)
+    set(picture_folder ${CLOCK_INSTALL_ROOT}/image/ClockType)
     set(config ${PROJECT_BINARY_DIR}/clock-playerConfig.cmake)
     configure_package_config_file(cmake/clock-playerConfig.cmake.in ${config}
         INSTALL_DESTINATION ${config_folder}
-        PATH_VARS plugin_folder)
+        PATH_VARS plugin_folder picture_folder)
     write_basic_package_version_file(${PROJECT_BINARY_DIR}/clock-playerConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
     install(FILES ${config} ${PROJECT_BINARY_DIR}/clock-playerConfigVersion.cmake

@@ -35,7 +35,10 @@ install_tree() {
     mv "$work/first" "$prefix"
     for path in bin/clock_player lib/clock-player/image/ClockType/picbutton1.png \
         lib/clock-player/plugins/libclock_plugin.so.1 include/clock-player/hnode.h \
-        share/doc/clock-player/examples/station.xml share/man/man1/clock_player.1.gz; do
+        share/doc/clock-player/examples/station.xml share/man/man1/clock_player.1.gz \
+        share/doc/clock-player/program.rng share/doc/clock-player/integrating.md \
+        share/bash-completion/completions/clock_player \
+        share/bash-completion/completions/clock_tool; do
         [ -f "$prefix/$path" ] || fail "not installed: $path"
     done
     [ "$(readlink "$prefix/bin/clock_player")" = ../lib/clock-player/bin/clock_player ] ||
@@ -62,13 +65,35 @@ compare_frames() {
     diff -r "$work/built" "$work/installed" || fail "the installed player draws other frames"
 }
 
+# block LANGUAGE - the code block of docs/integrating.md in that language, under "A complete program"
+block() {
+    sed -n '/^## A complete program/,/^## /p' "$here/../../docs/integrating.md" |
+        sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" | sed '1d;$d'
+}
+
+# What the page says, copied into an empty folder, and then installed where nothing of it is.
 build_host() {
-    quietly "$cmake" -G Ninja -S "$here/host_project" -B "$work/host" -DCMAKE_PREFIX_PATH="$prefix"
-    quietly "$cmake" --build "$work/host"
-    grep -q "$prefix/lib/cmake" "$work/host/CMakeCache.txt" ||
+    mkdir "$work/host"
+    block cpp >"$work/host/small_host.cpp"
+    block cmake >"$work/host/CMakeLists.txt"
+    block sh >"$work/host/commands"
+    (cd "$work/host" && quietly env CMAKE_PREFIX_PATH="$prefix" CMAKE_GENERATOR=Ninja sh -e commands)
+    grep -q "$prefix/lib/cmake" "$work/host/build/CMakeCache.txt" ||
         fail "another clock-player was found"
-    quietly "$work/host/small_host" "$work/frame.png"
-    [ -s "$work/frame.png" ] || fail "the host wrote no frame"
+    check_host_frames "$work/host/frames"
+    quietly "$cmake" --install "$work/host/build" --prefix "$work/moved"
+    mkdir "$work/frames"
+    (cd / && quietly "$work/moved/bin/small_host" \
+        "$prefix/lib/clock-player/plugins/libclock_plugin.so.1" "$work/host/glyphs" "$work/frames")
+    check_host_frames "$work/frames"
+}
+
+# check_host_frames DIRECTORY - three of each kind, each with a picture of its own
+check_host_frames() {
+    [ "$(find "$1" -name '*_[123].png' | wc -l)" = 9 ] || fail "not three frames of each kind"
+    [ "$(md5sum "$1"/*.png | cut -d ' ' -f 1 | sort -u | wc -l)" = 9 ] || fail "frames are equal"
+    # An empty picture clock is a rectangle of one colour.
+    [ "$(wc -c <"$1/picture_1.png")" -gt 2000 ] || fail "the picture clock is empty"
 }
 
 install_tree
