@@ -230,7 +230,7 @@ void TestElements::MarkWithoutATime()
     QFETCH(QString, columns);
     m_node->SetAttribute("DigitalMode", 1, false);
     for (const char *const key : {"_timeNumber", "_timeChar"})
-        m_node->SetFilePath(key, "/nowhere.png", QString(), -1, 3);
+        m_node->SetFilePath(key, "/dev/null/none.png", QString(), -1, 3);
     const QPixmap time = Time(type);
     QCOMPARE(LetteredGlyphs::Read(time), columns);
     QCOMPARE(time.height(), columns.isEmpty() ? 0 : 6);
@@ -262,7 +262,7 @@ void TestElements::MarkIsLoadedLive()
     QCOMPARE(LetteredGlyphs::Read(Time(1)).right(4), QStringLiteral("_PPP"));
     m_glyphs->Write("_timePM", "pp", 6);
     QCOMPARE(LetteredGlyphs::Read(m_composer->GetTimePixmap()), T("01") + ":" + T("07") + "pp");
-    m_node->SetFilePath("_timePM", "/nowhere.png", QString(), -1, 3);
+    m_node->SetFilePath("_timePM", "/dev/null/none.png", QString(), -1, 3);
     QCOMPARE(LetteredGlyphs::Read(m_composer->GetTimePixmap()), T("01") + ":" + T("07"));
 }
 
@@ -433,7 +433,7 @@ void TestElements::MissingImages()
     QFETCH(QString, key);
     QFETCH(QString, date);
     QFETCH(QString, time);
-    m_node->SetFilePath(key, "/nowhere.png", QString(), -1, 3);
+    m_node->SetFilePath(key, "/dev/null/none.png", QString(), -1, 3);
     QCOMPARE(LetteredGlyphs::Read(Date(0)), date);
     QCOMPARE(LetteredGlyphs::Read(Time(0)), time);
 }
