@@ -4,6 +4,18 @@
 
 namespace Lw {
 
+namespace {
+
+using Observer = void (*)();
+
+Observer &RecordObserver()
+{
+    static Observer observer = nullptr;
+    return observer;
+}
+
+} // namespace
+
 class HData::Private
 {
 public:
@@ -74,10 +86,17 @@ void HData::SetFilePath(QString key, QString path, QString name, long long size,
     const auto found = d->fileIndex.constFind(key);
     if (found != d->fileIndex.constEnd()) {
         d->files[*found] = record;
-        return;
+    } else {
+        d->fileIndex.insert(key, d->files.size());
+        d->files.append(record);
     }
-    d->fileIndex.insert(key, d->files.size());
-    d->files.append(record);
+    if (RecordObserver())
+        RecordObserver()();
+}
+
+void HData::SetRecordObserver(void (*observer)())
+{
+    RecordObserver() = observer;
 }
 
 QString HData::GetGuid()

@@ -42,6 +42,9 @@ public:
     // Beyond what plugins call, for players and tests.
     QStringList AttributeKeys();     ///< in order of first writing
     QList<FileRecord> FileRecords(); ///< in order of first recording
+    /// Called after each SetFilePath of any node; null: nothing is called. A plugin records each
+    /// glyph image once it is written, so a program can look up between two images.
+    static void SetRecordObserver(void (*observer)());
 
 protected:
     ~HData();

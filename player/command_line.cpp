@@ -31,6 +31,7 @@ public:
         ReadUseFiles();
         m_options.printsStats = IsSet(kStats);
         ReadOutput();
+        ReadWatch();
         ReadLedPitch();
         ReadInstant();
         ReadSpeed();
@@ -66,6 +67,14 @@ private:
         m_options.usesFiles = IsSet(kUseFiles);
         if (m_options.usesFiles && IsSet(kFilesDir))
             Fail(QStringLiteral("--files-dir is where images are made; --use-files makes none"));
+    }
+
+    void ReadWatch()
+    {
+        m_options.watchesProgram = IsSet(kWatch);
+        if (m_options.watchesProgram && m_options.WritesFrames())
+            Fail(QStringLiteral("--%1 is for a window, not for --%2")
+                     .arg(QLatin1String(kWatch), QLatin1String(kOutput)));
     }
 
     void ReadOutput()

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 #include <variant>
 
@@ -31,11 +32,15 @@ struct Options
     double speed = 1;      ///< seconds of the clocks for each real one
     std::optional<qint64> startInstant; ///< UTC milliseconds; nothing: the system's time
     bool usesFiles = false;             ///< the glyph files that came with the program
+    bool watchesProgram = false;        ///< plays the file again whenever it changes
     bool printsStats = false;           ///< of the deadline meter, at the end
     bool checkDisplay = false;          ///< only find out whether the display can be reached
 
     bool WritesFrames() const { return !outputDirectory.isEmpty(); }
 };
+
+/// Called with each sentence that the person at the shell should read.
+using Warn = std::function<void(const QString &)>;
 
 /// A text that was asked for instead of playing.
 struct Information

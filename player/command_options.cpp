@@ -81,6 +81,9 @@ constexpr OptionRow kOptions[] = {
     {kStats, nullptr, nullptr,
      "Print at the end to standard error how long frames took to draw and how long after the whole "
      "second they were seen, in milliseconds. SIGUSR1 prints it meanwhile."},
+    {kWatch, nullptr, nullptr,
+     "Play the program file again whenever it changes or is replaced. While it is broken the last "
+     "good program plays on, and a message says why."},
     {kPluginDir, nullptr, "directory",
      "Load the plugins of <directory> (default: \"plugins\" beside the directory that clock_player "
      "lies in)."},

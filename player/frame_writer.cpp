@@ -7,6 +7,7 @@
 #include "stage.h"
 #include "time_travel.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QSaveFile>
 
@@ -19,14 +20,22 @@ namespace {
 
 constexpr int kNameDigits = 4;
 
-// A file that cannot be written whole is not touched.
+// The file is not touched unless all of it can be written. It is flushed before it is committed: a
+// full disk shows only then.
 MaybeFailure SaveFrame(const QImage &screen, const QString &path)
 {
+    QBuffer png;
+    const auto failure = [&path](const QString &reason) {
+        return Failure {ExitCode::RuntimeFailure,
+                        QStringLiteral("%1: cannot be written: %2").arg(path, reason)};
+    };
+    if (!screen.save(&png, "PNG"))
+        return failure(QStringLiteral("no memory for a PNG file of it"));
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && screen.save(&file, "PNG") && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.write(png.data()) == png.size() && file.flush()
+        && file.commit())
         return std::nullopt;
-    return Failure {ExitCode::RuntimeFailure,
-                    QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString())};
+    return failure(file.errorString());
 }
 
 Failure TooLarge(const FrameRun &run)

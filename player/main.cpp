@@ -2,16 +2,18 @@
 #include "player.h"
 
 #include "command_support.h"
+#include "work_directory.h"
 
 #include <QGuiApplication>
 
-#include <cstdio>
 #include <cstdlib>
 
 namespace {
 
 using namespace ClockPlayer;
 using namespace ClockProgram;
+
+QtMessageHandler g_defaultHandler = nullptr;
 
 void Say(const QString &text)
 {
@@ -24,17 +26,34 @@ int Report(const Failure &failure)
     return static_cast<int>(failure.code);
 }
 
-// Qt ends the process from within the application's constructor when it reaches no display. What
-// it complained of before is of interest only then.
-void FailWithoutDisplay(QtMsgType type, const QMessageLogContext &, const QString &message)
+int FailWithoutDisplay()
+{
+    Say(QStringLiteral("no display can be reached: set DISPLAY, choose another -platform, or write "
+                       "frames with --output"));
+    return static_cast<int>(ExitCode::RuntimeFailure);
+}
+
+// Qt ends the process from within the application's constructor when it reaches no display. Its
+// warnings up to there are of interest only then.
+void NoteComplaint(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     static QStringList complaints;
     complaints.append(message.section(QLatin1Char('\n'), 0, 0));
     if (type != QtFatalMsg)
         return;
     Say(complaints.join(QLatin1Char('\n')));
-    Say(QStringLiteral("no display can be reached: set DISPLAY, choose another -platform, or write "
-                       "frames with --output"));
+    std::_Exit(FailWithoutDisplay());
+}
+
+// Later it ends the process where it lost its display, or cannot go on for another reason.
+void EndTidily(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type != QtFatalMsg) {
+        g_defaultHandler(type, context, message);
+        return;
+    }
+    Say(message);
+    RemoveWorkDirectory();
     std::_Exit(static_cast<int>(ExitCode::RuntimeFailure));
 }
 
@@ -53,16 +72,38 @@ void ChoosePlatform(const Options &options)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-int RunOnDisplay(int argc, char **argv, const Options &options, const Program &program)
+int RunOnDisplay(int argc, char **argv, const Options &options, const Program &program,
+                 const FileSignature &signature)
 {
     ChoosePlatform(options);
-    const QtMessageHandler before = qInstallMessageHandler(FailWithoutDisplay);
+    g_defaultHandler = qInstallMessageHandler(NoteComplaint);
     const QGuiApplication application(argc, argv);
-    qInstallMessageHandler(before);
+    qInstallMessageHandler(EndTidily);
+    if (!QGuiApplication::primaryScreen())
+        return FailWithoutDisplay();
     if (options.checkDisplay)
         return static_cast<int>(ExitCode::Success);
-    const MaybeFailure failure = Play(options, program, Say);
+    const MaybeFailure failure = Play(options, program, signature, Say);
     return failure ? Report(*failure) : static_cast<int>(ExitCode::Success);
+}
+
+int Run(int argc, char **argv)
+{
+    const CommandLine commandLine = ReadCommandLine(argc, argv);
+    if (const auto *information = std::get_if<Information>(&commandLine)) {
+        const MaybeFailure failure = PrintText(information->text);
+        return failure ? Report(*failure) : static_cast<int>(ExitCode::Success);
+    }
+    if (const auto *failure = std::get_if<Failure>(&commandLine))
+        return Report(*failure);
+    const Options &options = std::get<Options>(commandLine);
+    if (options.checkDisplay)
+        return RunOnDisplay(argc, argv, options, Program(), FileSignature());
+    const FileSignature signature = SignatureOf(options.programPath);
+    const Result<Program> program = ReadProgram(options.programPath);
+    if (const auto *failure = std::get_if<Failure>(&program))
+        return Report(*failure);
+    return RunOnDisplay(argc, argv, options, std::get<Program>(program), signature);
 }
 
 } // namespace
@@ -70,24 +111,8 @@ int RunOnDisplay(int argc, char **argv, const Options &options, const Program &p
 int main(int argc, char **argv)
 {
     FixFontResolution();
-
     // What has changed is shown at once, not gathered for five milliseconds.
     if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
         qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
-
-    const CommandLine commandLine = ReadCommandLine(argc, argv);
-    if (const auto *information = std::get_if<Information>(&commandLine)) {
-        std::fputs(qPrintable(information->text), stdout);
-        return static_cast<int>(ExitCode::Success);
-    }
-    if (const auto *failure = std::get_if<Failure>(&commandLine))
-        return Report(*failure);
-
-    const Options &options = std::get<Options>(commandLine);
-    if (options.checkDisplay)
-        return RunOnDisplay(argc, argv, options, Program());
-    const Result<Program> program = ReadProgram(options.programPath);
-    if (const auto *failure = std::get_if<Failure>(&program))
-        return Report(*failure);
-    return RunOnDisplay(argc, argv, options, std::get<Program>(program));
+    return Run(argc, argv);
 }

@@ -16,24 +16,27 @@ constexpr int kStatusDelay = 20; // milliseconds; also bounds how often titles c
 
 } // namespace
 
-Playback::Playback(Stage &stage, PlayerWindow &window, Travelling travelling)
-    : m_stage(stage), m_window(window), m_canTravel(travelling == Travelling::Possible),
-      m_name(window.title())
+Playback::Playback(PlayerWindow &window, Travelling travelling)
+    : m_window(window), m_canTravel(travelling == Travelling::Possible), m_name(window.title())
 {
     m_status.setSingleShot(true);
     m_status.setInterval(kStatusDelay);
     connect(&m_status, &QTimer::timeout, this, &Playback::ShowStatus);
     connect(&window, &PlayerWindow::Commanded, this, &Playback::Obey);
     connect(&window, &PlayerWindow::Painted, this, &Playback::NotePaint);
-    connect(&stage, &Stage::Changed, this, &Playback::NotePicture);
     connect(&m_clockSteps, &ClockSteps::Stepped, this, &Playback::FollowSteppedClock);
 }
 
-void Playback::Start()
+Playback::~Playback() = default;
+
+void Playback::Play(std::unique_ptr<Stage> stage)
 {
     const TimeTravel &travel = StageTime::Travel();
     Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
-    m_stage.Start();
+    connect(stage.get(), &Stage::Changed, this, &Playback::NotePicture);
+    stage->Start();
+    m_window.SetStage(*stage);
+    m_stage = std::move(stage); // the one before is deleted last: the window showed it
     ShowStatus();
 }
 
@@ -86,14 +89,14 @@ void Playback::ShowTravelledTime()
     m_meter.Jumped();
     m_drawn.reset();
     Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
-    m_stage.PlayNext();
+    m_stage->PlayNext();
 }
 
 // What waits for the end of a second would show the old time until then.
 void Playback::FollowSteppedClock()
 {
-    if (StageTime::Travel().IsPresent())
-        m_stage.PlayNext();
+    if (m_stage && StageTime::Travel().IsPresent())
+        m_stage->PlayNext();
 }
 
 // A plugin that does not take its time from the player is not measured.
@@ -120,12 +123,13 @@ void Playback::NotePicture()
 
 void Playback::NotePaint(double begun)
 {
-    if (!m_drawn)
-        return;
-    m_drawn->seen = StageTime::Steady();
-    m_drawn->drawing += m_drawn->seen - begun;
-    m_meter.Saw(*m_drawn);
-    m_drawn.reset();
+    if (m_drawn) {
+        m_drawn->seen = StageTime::Steady();
+        m_drawn->drawing += m_drawn->seen - begun;
+        m_meter.Saw(*m_drawn);
+        m_drawn.reset();
+    }
+    emit Presented();
 }
 
 void Playback::ShowStatus()
@@ -161,7 +165,7 @@ QString Playback::Status() const
 QVector<Lw::HNodeClock::ZoneSettings> Playback::Clocks() const
 {
     QVector<Lw::HNodeClock::ZoneSettings> clocks;
-    for (Lw::HNode *const node : m_stage.Nodes()) {
+    for (Lw::HNode *const node : m_stage->Nodes()) {
         if (const std::optional<Lw::HNodeClock::ZoneSettings> settings = SettingsOf(node))
             clocks.append(*settings);
     }

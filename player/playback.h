@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <memory>
 #include <optional>
 
 namespace ClockStage {
@@ -21,7 +22,7 @@ namespace ClockPlayer {
 
 class PlayerWindow;
 
-/// Stage and window must outlive it.
+/// The window must outlive it.
 class Playback : public QObject
 {
     Q_OBJECT
@@ -29,14 +30,17 @@ class Playback : public QObject
 public:
     enum class Travelling { Possible, Impossible }; ///< the plugins take the time from the player
 
-    Playback(ClockStage::Stage &stage, PlayerWindow &window, Travelling travelling);
+    Playback(PlayerWindow &window, Travelling travelling);
+    ~Playback() override;
 
-    /// Shows the first pictures; the player's time is as it should begin.
-    void Start();
+    /// Plays a stage that was built. What played before is shown until the first pictures of the
+    /// new stage are drawn.
+    void Play(std::unique_ptr<ClockStage::Stage> stage);
     const DeadlineMeter &Meter() const { return m_meter; }
 
 Q_SIGNALS:
     void StatsWanted();
+    void Presented(); ///< what changed is on the display
 
 private:
     void Obey(const Command &command);
@@ -49,7 +53,7 @@ private:
     QString Status() const;
     QVector<Lw::HNodeClock::ZoneSettings> Clocks() const;
 
-    ClockStage::Stage &m_stage;
+    std::unique_ptr<ClockStage::Stage> m_stage;
     PlayerWindow &m_window;
     const bool m_canTravel;
     const QString m_name; ///< the window's first title

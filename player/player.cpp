@@ -2,25 +2,30 @@
 
 #include "deadline_meter.h"
 #include "frame_writer.h"
-#include "led_screen.h"
 #include "playback.h"
-#include "player_window.h"
 #include "plugins.h"
 #include "process_signals.h"
 #include "stage.h"
 #include "time_travel.h"
+#include "window_show.h"
+#include "work_directory.h"
 
 #include "catalogues.h"
+#include "command_support.h"
 #include "happconfig.h"
+#include "hdata.h"
 #include "pictureplayer.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QTemporaryDir>
 
+#include <cerrno>
 #include <csignal>
-#include <cstdio>
+#include <cstdlib>
+
+#include <unistd.h>
 
 namespace ClockPlayer {
 
@@ -43,9 +48,50 @@ QString PluginDirectory(const Options &options)
 
 MaybeFailure PrepareDirectory(const QString &path)
 {
-    if (QDir().mkpath(path) && QFileInfo(path).isWritable())
+    errno = 0;
+    if (QDir().mkpath(path) && ::access(QFile::encodeName(path).constData(), W_OK | X_OK) == 0)
         return std::nullopt;
-    return RuntimeFailure(QStringLiteral("%1: cannot write to this directory").arg(path));
+    const QString reason = errno ? QStringLiteral(": ") + qt_error_string(errno) : QString();
+    return RuntimeFailure(QStringLiteral("%1: cannot write to this directory%2").arg(path, reason));
+}
+
+// The glyph images go to the directory that was named, or to a temporary one.
+MaybeFailure PrepareFiles(const Options &options)
+{
+    QString directory = options.filesDirectory;
+    if (directory.isEmpty()) {
+        const Result<QString> made = MakeWorkDirectory();
+        if (const auto *failure = std::get_if<Failure>(&made))
+            return *failure;
+        directory = std::get<QString>(made);
+    } else if (const MaybeFailure failure = PrepareDirectory(directory)) {
+        return failure;
+    }
+    Lw::HAppConfig::SetClockOutputPath(QFileInfo(directory).absoluteFilePath());
+    return std::nullopt;
+}
+
+Failure Interrupted()
+{
+    return RuntimeFailure(QStringLiteral("interrupted"));
+}
+
+// To make the images of large texts takes seconds, in which no event is handled.
+void QuitBetweenImages()
+{
+    if (!QuitSignals::IsRequested())
+        return;
+    RemoveWorkDirectory();
+    std::_Exit(static_cast<int>(ExitCode::Success));
+}
+
+void QuitFramesBetweenImages()
+{
+    if (!QuitSignals::IsRequested())
+        return;
+    SayAs("clock_player", Interrupted().text);
+    RemoveWorkDirectory();
+    std::_Exit(static_cast<int>(Interrupted().code));
 }
 
 // Without a time source in any plugin the clocks can still show the present.
@@ -65,108 +111,90 @@ void BeginTravel(const Options &options)
         StageTime::Travel().SetSpeed(options.speed, StageTime::Real());
 }
 
-void PrintStats(const DeadlineMeter &meter, const Warn &warn)
+MaybeFailure PlayInWindow(const Options &options, const Program &program,
+                          const FileSignature &signature, Playback::Travelling travelling,
+                          const Warn &warn)
+{
+    Lw::HData::SetRecordObserver(QuitBetweenImages);
+    QuitSignals quitSignals;
+    QObject::connect(&quitSignals, &QuitSignals::Requested, qApp, &QCoreApplication::quit);
+    BeginTravel(options);
+    WindowShow show(options, travelling, warn);
+    if (const MaybeFailure failure = show.Play(program, signature))
+        return failure;
+    QGuiApplication::exec();
+    if (options.printsStats)
+        show.PrintStats();
+    return std::nullopt;
+}
+
+void PrintReport(const DeadlineMeter &meter, const Warn &warn)
 {
     for (const QString &line : meter.Report())
         warn(line);
 }
 
-std::optional<LedScreen> Leds(const Options &options)
+FrameRun FrameRunOf(const Options &options)
 {
-    return options.ledPitch ? std::optional(LedScreen(options.ledPitch)) : std::nullopt;
-}
-
-MaybeFailure PlayInWindow(Stage &stage, const Options &options, Playback::Travelling travelling,
-                          const Warn &warn)
-{
-    const int scale = qMax(1, options.ledPitch);
-    if (qMax(stage.Size().width(), stage.Size().height()) * scale > kMaximumSide)
-        return RuntimeFailure(
-            QStringLiteral("the screen is too large to be magnified %1 times").arg(scale));
-    QuitSignals quitSignals;
-    QObject::connect(&quitSignals, &QuitSignals::Requested, qApp, &QCoreApplication::quit);
-    const SignalPipe reportSignal({SIGUSR1}, SignalPipe::Times::Always);
-    PlayerWindow window(stage, QFileInfo(options.programPath).fileName(), Leds(options));
-    Playback playback(stage, window, travelling);
-    const auto print = [&playback, &warn] { PrintStats(playback.Meter(), warn); };
-    QObject::connect(&playback, &Playback::StatsWanted, print);
-    QObject::connect(&reportSignal, &SignalPipe::Received, print);
-    window.show();
-    BeginTravel(options);
-    playback.Start();
-    QGuiApplication::exec();
-    if (options.printsStats)
-        print();
-    return std::nullopt;
-}
-
-MaybeFailure PlayToFiles(Stage &stage, const Options &options, const Warn &warn)
-{
-    const QuitSignals quitSignals;
-    const SignalPipe reportSignal({SIGUSR1}, SignalPipe::Times::Always);
-    DeadlineMeter meter;
-    const auto print = [&meter, &warn] { PrintStats(meter, warn); };
-    QObject::connect(&reportSignal, &SignalPipe::Received, print);
-    // Nobody waits for the seconds: the frame writer has each picture drawn itself.
-    Lw::pictureplayer::SetTimeScale(0);
     FrameRun run;
     run.directory = options.outputDirectory;
     run.count = options.frames;
     run.magnification = options.magnification;
     run.ledPitch = options.ledPitch;
     run.speed = options.speed;
-    run.meter = &meter;
     run.start = options.startInstant.value_or(StageTime::Shown());
     run.isEnded = [] {
         QCoreApplication::processEvents();
         return QuitSignals::IsRequested();
     };
+    return run;
+}
+
+MaybeFailure PlayToFiles(const Options &options, const Program &program, const Warn &warn)
+{
+    Lw::HData::SetRecordObserver(QuitFramesBetweenImages);
+    const QuitSignals quitSignals;
+    if (const MaybeFailure failure = PrepareDirectory(options.outputDirectory))
+        return failure;
+    Stage stage;
+    if (const MaybeFailure failure = BuildStage(stage, program, options, warn))
+        return failure;
+    DeadlineMeter meter;
+    const SignalPipe reportSignal({SIGUSR1}, SignalPipe::Times::Always);
+    const auto print = [&meter, &warn] { PrintReport(meter, warn); };
+    QObject::connect(&reportSignal, &SignalPipe::Received, print);
+    // Nobody waits for the seconds: the frame writer has each picture drawn itself.
+    Lw::pictureplayer::SetTimeScale(0);
+    FrameRun run = FrameRunOf(options);
+    run.meter = &meter;
     const MaybeFailure failure = WriteFrames(stage, run);
     if (options.printsStats)
         print();
     if (failure)
         return failure;
     if (QuitSignals::IsRequested())
-        return RuntimeFailure(QStringLiteral("interrupted"));
-    std::printf("%s\n", qPrintable(QDir(run.directory).absolutePath()));
-    return std::nullopt;
+        return Interrupted();
+    return PrintText(QDir(run.directory).absolutePath() + QLatin1Char('\n'));
 }
 
 } // namespace
 
-MaybeFailure Play(const Options &options, const Program &program, const Warn &warn)
+MaybeFailure Play(const Options &options, const Program &program, const FileSignature &signature,
+                  const Warn &warn)
 {
     ClockCatalogues::InstallChosen(options.language);
     QStringList warnings;
     if (const MaybeFailure failure = LoadPlugins(PluginDirectory(options), warnings))
         return failure;
+    for (const QString &warning : qAsConst(warnings))
+        warn(warning);
     auto travelling = Playback::Travelling::Impossible;
     if (const MaybeFailure failure = InstallTimeSource(options, travelling))
         return failure;
-
-    const QTemporaryDir temporary;
-    if (!temporary.isValid())
-        return RuntimeFailure(temporary.errorString());
-    const QString files =
-        options.filesDirectory.isEmpty() ? temporary.path() : options.filesDirectory;
-    for (const QString &directory : {files, options.outputDirectory}) {
-        if (directory.isEmpty())
-            continue;
-        if (const MaybeFailure failure = PrepareDirectory(directory))
-            return failure;
-    }
-    Lw::HAppConfig::SetClockOutputPath(QFileInfo(files).absoluteFilePath());
-
-    Stage stage;
-    const MaybeFailure failure = stage.Build(
-        program, LoadedPlugins(), options.usesFiles ? GlyphFiles::Carried : GlyphFiles::Made);
-    warnings += stage.Warnings();
-    for (const QString &warning : qAsConst(warnings))
-        warn(warning);
-    if (failure)
+    if (const MaybeFailure failure = PrepareFiles(options))
         return failure;
-    return options.WritesFrames() ? PlayToFiles(stage, options, warn)
-                                  : PlayInWindow(stage, options, travelling, warn);
+    return options.WritesFrames() ? PlayToFiles(options, program, warn)
+                                  : PlayInWindow(options, program, signature, travelling, warn);
 }
 
 } // namespace ClockPlayer

@@ -4,17 +4,13 @@
 #include "command_line.h"
 #include "failure.h"
 #include "program_file.h"
-
-#include <functional>
+#include "program_watch.h"
 
 namespace ClockPlayer {
 
-/// Called with each sentence that the person at the shell should read.
-using Warn = std::function<void(const QString &)>;
-
 /// Plays on the display until the window is closed or the process is asked to end; or writes the
-/// frames. Needs a QGuiApplication.
+/// frames. The signature is the program file's before it was read. Needs a QGuiApplication.
 ClockProgram::MaybeFailure Play(const Options &options, const ClockProgram::Program &program,
-                                const Warn &warn);
+                                const FileSignature &signature, const Warn &warn);
 
 } // namespace ClockPlayer

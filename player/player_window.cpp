@@ -46,16 +46,24 @@ void PaintOverlay(QPainter &painter, QSize window, const QString &text)
 
 } // namespace
 
-PlayerWindow::PlayerWindow(const Stage &stage, const QString &title,
-                           const std::optional<LedScreen> &leds)
-    : m_stage(stage), m_leds(leds), m_screen(BlackScreen(stage.Size()))
+PlayerWindow::PlayerWindow(const QString &title, const std::optional<LedScreen> &leds)
+    : m_leds(leds)
 {
-    const QSize size = m_leds ? stage.Size() * m_leds->Pitch() : stage.Size();
     setTitle(title);
-    resize(size);
+}
+
+void PlayerWindow::SetStage(const Stage &stage)
+{
+    if (m_stage)
+        disconnect(m_stage, nullptr, this, nullptr);
+    m_stage = &stage;
+    m_screen = BlackScreen(stage.Size());
+    const QSize size = m_leds ? stage.Size() * m_leds->Pitch() : stage.Size();
     setMinimumSize(size);
+    resize(size);
     connect(&stage, &Stage::Changed, this,
             [this](const QRect &region) { update(m_leds ? m_leds->Magnified(region) : region); });
+    update();
 }
 
 void PlayerWindow::SetOverlay(const QString &text)
@@ -99,7 +107,8 @@ void PlayerWindow::paintEvent(QPaintEvent *event)
 void PlayerWindow::PaintScreen(QPainter &painter, const QRect &region)
 {
     const QRect pixels = (m_leds ? m_leds->Reduced(region) : region) & m_screen.rect();
-    ComposeScreen(m_screen, m_stage.Layers(), pixels);
+    if (m_stage)
+        ComposeScreen(m_screen, m_stage->Layers(), pixels);
     if (m_leds)
         painter.drawImage(m_leds->Magnified(pixels).topLeft(), m_leds->Diodes(m_screen, pixels));
     else

@@ -15,15 +15,17 @@ class Stage;
 
 namespace ClockPlayer {
 
-/// As large as the program's screen, pixel for pixel or diode for pixel. The stage must outlive the
-/// window.
+/// As large as the stage's screen, pixel for pixel or diode for pixel.
 class PlayerWindow : public QRasterWindow
 {
     Q_OBJECT
 
 public:
-    PlayerWindow(const ClockStage::Stage &stage, const QString &title,
-                 const std::optional<ClockStage::LedScreen> &leds = std::nullopt);
+    explicit PlayerWindow(const QString &title,
+                          const std::optional<ClockStage::LedScreen> &leds = std::nullopt);
+
+    /// Shows this stage from now on. It must live until it is replaced or the window is deleted.
+    void SetStage(const ClockStage::Stage &stage);
 
     /// Text over the lower part of the picture; empty for none.
     void SetOverlay(const QString &text);
@@ -41,7 +43,7 @@ protected:
 private:
     void PaintScreen(QPainter &painter, const QRect &region);
 
-    const ClockStage::Stage &m_stage;
+    const ClockStage::Stage *m_stage = nullptr;
     const std::optional<ClockStage::LedScreen> m_leds;
     QImage m_screen;
     QString m_overlay;

@@ -1,5 +1,7 @@
 #include "plugins.h"
 
+#include "stage.h"
+
 #include "hpluginmanager.h"
 
 #include <QLibrary>
@@ -7,6 +9,7 @@
 namespace ClockPlayer {
 
 using namespace ClockProgram;
+using namespace ClockStage;
 
 namespace {
 
@@ -52,6 +55,16 @@ MaybeFailure SetTimeSource(long long (*utcMilliseconds)())
 PluginFinder LoadedPlugins()
 {
     return [](QDomElement &element) { return Lw::HPluginManager::instance()->PluginFor(element); };
+}
+
+MaybeFailure BuildStage(Stage &stage, const Program &program, const Options &options,
+                        const Warn &warn)
+{
+    const MaybeFailure failure = stage.Build(
+        program, LoadedPlugins(), options.usesFiles ? GlyphFiles::Carried : GlyphFiles::Made);
+    for (const QString &warning : stage.Warnings())
+        warn(warning);
+    return failure;
 }
 
 } // namespace ClockPlayer

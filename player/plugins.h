@@ -1,10 +1,15 @@
 // The content plugins that the player has loaded.
 #pragma once
 
+#include "command_line.h"
 #include "failure.h"
 #include "node_maker.h"
 
 #include <QStringList>
+
+namespace ClockStage {
+class Stage;
+}
 
 namespace ClockPlayer {
 
@@ -17,5 +22,10 @@ ClockProgram::MaybeFailure SetTimeSource(long long (*utcMilliseconds)());
 
 /// Finds among the loaded plugins the one that claims an element.
 ClockProgram::PluginFinder LoadedPlugins();
+
+/// Makes a program's nodes by the loaded plugins, and passes on what is to be warned of.
+ClockProgram::MaybeFailure BuildStage(ClockStage::Stage &stage,
+                                      const ClockProgram::Program &program, const Options &options,
+                                      const Warn &warn);
 
 } // namespace ClockPlayer

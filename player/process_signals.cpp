@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -83,14 +84,17 @@ void SignalPipe::Empty()
 }
 
 QuitSignals::QuitSignals(QObject *parent)
-    : QObject(parent), m_pipe({SIGINT, SIGTERM}, SignalPipe::Times::Once)
+    : QObject(parent), m_requests({SIGINT, SIGTERM}, SignalPipe::Times::Once),
+      m_losses({SIGHUP, SIGPIPE}, SignalPipe::Times::Always)
 {
-    connect(&m_pipe, &SignalPipe::Received, this, &QuitSignals::Requested);
+    for (const SignalPipe *pipe : {&m_requests, &m_losses})
+        connect(pipe, &SignalPipe::Received, this, &QuitSignals::Requested);
 }
 
 bool QuitSignals::IsRequested()
 {
-    return SignalPipe::HasArrived(SIGINT) || SignalPipe::HasArrived(SIGTERM);
+    const auto numbers = {SIGINT, SIGTERM, SIGHUP, SIGPIPE};
+    return std::any_of(numbers.begin(), numbers.end(), SignalPipe::HasArrived);
 }
 
 } // namespace ClockPlayer

@@ -35,8 +35,8 @@ private:
     int m_ends[2] = {-1, -1};
 };
 
-/// Makes the process end tidily: the first SIGINT or SIGTERM emits Requested(), the second one ends
-/// the process at once. At most one object at a time.
+/// Makes the process end tidily: SIGINT, SIGTERM, SIGHUP and SIGPIPE emit Requested(). A second
+/// SIGINT or SIGTERM ends the process at once. At most one object at a time.
 class QuitSignals : public QObject
 {
     Q_OBJECT
@@ -50,7 +50,9 @@ Q_SIGNALS:
     void Requested(); ///< from the event loop
 
 private:
-    SignalPipe m_pipe;
+    SignalPipe m_requests;
+    SignalPipe
+        m_losses; ///< of the terminal, or of who read the output: they may come several times
 };
 
 } // namespace ClockPlayer

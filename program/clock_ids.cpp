@@ -26,22 +26,29 @@ int FreeNumber(const QSet<int> &taken, int number)
 
 } // namespace
 
+int IdOfPlace(int place)
+{
+    return kFirstDrawn + place % (kLastDrawn - kFirstDrawn + 1);
+}
+
 QVector<int> DistinctIds(const QVector<ClockId> &ids)
 {
     QVector<int> numbers(ids.size());
-    QVector<int> open;
+    QVector<bool> hasNumber(ids.size());
     QSet<int> taken;
-    for (int i = 0; i < ids.size(); ++i) {
-        if (ids[i].given && !taken.contains(ids[i].number)) {
+    for (const bool given : {true, false}) {
+        for (int i = 0; i < ids.size(); ++i) {
+            if (ids[i].given != given || taken.contains(ids[i].number))
+                continue;
             numbers[i] = ids[i].number;
+            hasNumber[i] = true;
             taken.insert(numbers[i]);
-        } else {
-            open.append(i);
         }
     }
-    for (const int i : qAsConst(open)) {
-        const bool keeps = !ids[i].given && !taken.contains(ids[i].number);
-        numbers[i] = keeps ? ids[i].number : FreeNumber(taken, ids[i].number);
+    for (int i = 0; i < ids.size(); ++i) {
+        if (hasNumber[i])
+            continue;
+        numbers[i] = FreeNumber(taken, ids[i].number);
         taken.insert(numbers[i]);
     }
     return numbers;

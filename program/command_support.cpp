@@ -4,6 +4,7 @@
 
 #include <QCommandLineParser>
 
+#include <cerrno>
 #include <cstdio>
 
 namespace ClockProgram {
@@ -50,6 +51,15 @@ QString HelpText(const QCommandLineParser &parser, const QString &usage)
 Failure UsageFailure(const QString &text)
 {
     return {ExitCode::UsageError, text + QStringLiteral(" (see --help)")};
+}
+
+MaybeFailure PrintText(const QString &text)
+{
+    if (std::fputs(qPrintable(text), stdout) >= 0 && std::fflush(stdout) == 0)
+        return std::nullopt;
+    return Failure {
+        ExitCode::RuntimeFailure,
+        QStringLiteral("standard output cannot be written: %1").arg(qt_error_string(errno))};
 }
 
 void SayAs(const char *program, const QString &text)

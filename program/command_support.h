@@ -40,6 +40,9 @@ QString HelpText(const QCommandLineParser &parser, const QString &usage);
 /// Something is wrong with the command line.
 Failure UsageFailure(const QString &text);
 
+/// Writes a text to standard output, at once. A failure says why it could not be written whole.
+MaybeFailure PrintText(const QString &text);
+
 /// Lines for the person at the shell, on standard error, each behind the program's name.
 void SayAs(const char *program, const QString &text);
 

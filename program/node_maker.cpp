@@ -91,11 +91,12 @@ void SeparateIds(const Program &program, MadeNodes &made)
         if (!node.HaveAttribute(kIdKey))
             continue;
         places.append(i);
-        ids.append({node.GetAttributeToInt(kIdKey), SetsKey(program.areas[i], kIdKey)});
+        const bool given = SetsKey(program.areas[i], kIdKey);
+        ids.append({given ? node.GetAttributeToInt(kIdKey) : IdOfPlace(i), given});
     }
     const QVector<int> numbers = DistinctIds(ids);
     for (int i = 0; i < ids.size(); ++i) {
-        if (numbers[i] == ids[i].number)
+        if (ids[i].given && numbers[i] == ids[i].number)
             continue;
         made.nodes[static_cast<std::size_t>(places[i])].node->SetAttribute(kIdKey, numbers[i],
                                                                            false);

@@ -38,9 +38,9 @@ using PluginFinder = std::function<Lw::INodePlugin *(QDomElement &)>;
 bool ReadElement(Lw::HNode &node, const QDomElement &element);
 
 /// Nodes with their defaults, their place, what the element says and the attributes set by hand,
-/// in this order. No two have one identity: where a program gives one twice, the later node gets
-/// another and a warning tells so. Fails when no plugin claims an element, or its plugin cannot
-/// read it.
+/// in this order. Each has an identity of its own, by its place where the program gives none;
+/// where a program gives one twice, the later node gets another and a warning tells so. Fails when
+/// no plugin claims an element, or its plugin cannot read it.
 Result<MadeNodes> MakeNodes(const Program &program, const PluginFinder &findPlugin);
 
 } // namespace ClockProgram

@@ -6,6 +6,17 @@ namespace ClockStage {
 
 using namespace ClockProgram;
 
+namespace {
+
+// Areas of two stages may play at once, while one replaces the other.
+unsigned int NewIdentifier()
+{
+    static unsigned int last = 0;
+    return ++last;
+}
+
+} // namespace
+
 MaybeFailure Stage::Build(const Program &program, const PluginFinder &findPlugin,
                           GlyphFiles glyphFiles)
 {
@@ -24,8 +35,7 @@ MaybeFailure Stage::Build(const Program &program, const PluginFinder &findPlugin
 
 void Stage::AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, GlyphFiles glyphFiles)
 {
-    const auto identifier = static_cast<unsigned int>(m_areas.size() + 1);
-    m_areas.push_back(std::make_unique<Area>(identifier, plugin, std::move(node), glyphFiles));
+    m_areas.push_back(std::make_unique<Area>(NewIdentifier(), plugin, std::move(node), glyphFiles));
     Area *const area = m_areas.back().get();
     connect(area, &Area::PictureChanged, this, [this, area] { emit Changed(area->Geometry()); });
 }

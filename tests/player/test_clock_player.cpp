@@ -6,6 +6,10 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 namespace {
 
 const QString kPanels = QStringLiteral(PANEL_PLUGINS "/good");
@@ -63,10 +67,18 @@ private slots:
     void FilesDirectoryIsKept();
     void TemporaryFilesAreRemoved();
 
+    void AbandonedFilesAreRemoved();
+    void UnusableTemporaryDirectory();
+    void FullDevice();
+    void FrameBeyondTheFileSize();
+
     void NoDisplay();
+    void NoFramebuffer();
     void SignalEndsTheWindow_data();
     void SignalEndsTheWindow();
+    void SignalEndsTheMakingOfImages();
     void SignalEndsTheFrames();
+    void WatchedProgram();
 
 private:
     QString Write(const QString &name, const QString &contents);
@@ -118,7 +130,7 @@ void TestClockPlayer::FramesTellTheSeconds()
         QCOMPARE(frame.size(), QSize(8, 2));
         QCOMPARE(frame.pixel(1, 1), qRgb(0, 0, 0)); // no area
         QCOMPARE(frame.pixel(2, 1), qRgb(0, 0, 0)); // the key colour
-        QCOMPARE(frame.pixel(5, 1), qRgb((58 + i) % 60, 1, 104));
+        QCOMPARE(frame.pixel(5, 1), qRgb((58 + i) % 60, 1, 100));
         QCOMPARE(frame.pixel(6, 1), qRgb(0, 0, 0));
     }
 }
@@ -183,7 +195,7 @@ void TestClockPlayer::FramesOfDiodes()
     QCOMPARE(frame.size(), QSize(40, 10));
     for (int x = 0; x < 8; ++x) {
         const bool shines = x >= 3 && x <= 5;
-        QCOMPARE(frame.pixel(5 * x + 2, 7), shines ? qRgb(9, 1, 104) : qRgb(18, 18, 20));
+        QCOMPARE(frame.pixel(5 * x + 2, 7), shines ? qRgb(9, 1, 100) : qRgb(18, 18, 20));
         QCOMPARE(frame.pixel(5 * x, 5), qRgb(0, 0, 0));
         QCOMPARE(frame.pixel(5 * x + 4, 9), qRgb(0, 0, 0));
     }
@@ -260,7 +272,7 @@ void TestClockPlayer::RedrawRequestsAreGathered()
     const QVector<QImage> frames = Frames(Path("out"));
     QCOMPARE(frames.size(), 5);
     for (int i = 0; i < 5; ++i)
-        QCOMPARE(frames[i].pixel(1, 0), qRgb(10 + i, i < 3 ? 1 : 2, 104));
+        QCOMPARE(frames[i].pixel(1, 0), qRgb(10 + i, i < 3 ? 1 : 2, 100));
 }
 
 void TestClockPlayer::NodeDiesWhilePlaying()
@@ -270,8 +282,8 @@ void TestClockPlayer::NodeDiesWhilePlaying()
               "--at", "2024-01-01T00:00:10"});
     QCOMPARE(run.exitCode, 0);
     const QImage last = Frames(Path("out")).value(4);
-    QCOMPARE(last.pixel(1, 0), qRgb(12, 1, 104)); // its last picture stays
-    QCOMPARE(last.pixel(5, 0), qRgb(14, 1, 105));
+    QCOMPARE(last.pixel(1, 0), qRgb(12, 1, 100)); // its last picture stays
+    QCOMPARE(last.pixel(5, 0), qRgb(14, 1, 101));
 }
 
 void TestClockPlayer::DrawnIdsAreSeparated()
@@ -280,7 +292,7 @@ void TestClockPlayer::DrawnIdsAreSeparated()
                                 "--files-dir", Path("files"), "--frames", "1"});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.errors, QString());
-    QCOMPARE(QDir(Path("files")).entryList(QDir::Files), QStringList({"panel_1234", "panel_1235"}));
+    QCOMPARE(QDir(Path("files")).entryList(QDir::Files), QStringList({"panel_1000", "panel_1001"}));
 }
 
 void TestClockPlayer::GivenIdsStay()
@@ -291,7 +303,7 @@ void TestClockPlayer::GivenIdsStay()
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.errors, QString());
     const QImage frame = Frames(Path("out")).value(0);
-    QCOMPARE(qBlue(frame.pixel(1, 0)), 105);
+    QCOMPARE(qBlue(frame.pixel(1, 0)), 100);
     QCOMPARE(qBlue(frame.pixel(5, 0)), 104);
 }
 
@@ -448,7 +460,7 @@ void TestClockPlayer::UnwritableFiles()
 void TestClockPlayer::FilesDirectoryIsKept()
 {
     QCOMPARE(Play({WriteProgram(Area(0, "<panel/>")), "--files-dir", Path("a/b")}).exitCode, 0);
-    QVERIFY(QFile::exists(Path("a/b/panel_1234")));
+    QVERIFY(QFile::exists(Path("a/b/panel_1000")));
 }
 
 void TestClockPlayer::TemporaryFilesAreRemoved()
@@ -464,10 +476,83 @@ void TestClockPlayer::TemporaryFilesAreRemoved()
     QVERIFY(QDir(Path("tmp")).isEmpty());
 }
 
+// Only what a killed player left is removed: not what lives, nor what only has such a name.
+void TestClockPlayer::AbandonedFilesAreRemoved()
+{
+    QVERIFY(QDir(m_directory->path()).mkpath("tmp/clock_player-aaaaaa/inner"));
+    QVERIFY(QDir(m_directory->path()).mkpath("tmp/clock_player-locked"));
+    QVERIFY(QDir(m_directory->path()).mkpath("tmp/other"));
+    Write("tmp/clock_player-aaaaaa/inner/file", "left behind");
+    QVERIFY(QFile::link(Path("tmp/other"), Path("tmp/clock_player-linked")));
+    const int lock = ::open(qPrintable(Path("tmp/clock_player-locked")), O_RDONLY | O_DIRECTORY);
+    QVERIFY(lock >= 0 && ::flock(lock, LOCK_EX) == 0);
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("TMPDIR", Path("tmp"));
+    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
+    const PlayerRun run = RunPlayer({"--plugin-dir", kPanels, "--output", Path("out"), "--frames",
+                                     "1", WriteProgram(Area(0, "<panel/>"))},
+                                    environment);
+    ::close(lock);
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(QDir(Path("tmp")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+             QStringList({"clock_player-linked", "clock_player-locked", "other"}));
+}
+
+void TestClockPlayer::UnusableTemporaryDirectory()
+{
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("TMPDIR", Path("nowhere"));
+    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
+    const PlayerRun run = RunPlayer(
+        {"--plugin-dir", kPanels, "--output", Path("out"), WriteProgram(Area(0, "<panel/>"))},
+        environment);
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(
+        run.errors,
+        QStringLiteral("clock_player: %1: cannot create a temporary directory: No such file or "
+                       "directory\n")
+            .arg(Path("nowhere")));
+}
+
+void TestClockPlayer::FullDevice()
+{
+    QProcess process;
+    process.setStandardOutputFile("/dev/full");
+    StartProgram(process, QStringLiteral(PLAYER), {"--help"});
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().contains("No space left on device"));
+}
+
+void TestClockPlayer::FrameBeyondTheFileSize()
+{
+    const PlayerRun run =
+        RunProcess("sh",
+                   {"-c", "trap '' XFSZ; ulimit -f 0; exec \"$0\" \"$@\"", QStringLiteral(PLAYER),
+                    "--plugin-dir", kPanels, "--output", Path("out"), "--files-dir", Path("files"),
+                    WriteProgram(Area(0, "<panel/>"))});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.errors,
+             QStringLiteral("clock_player: %1: cannot be written: File too large\n")
+                 .arg(Path("out/frame_0001.png")));
+    QVERIFY(QDir(Path("out")).isEmpty());
+}
+
 void TestClockPlayer::NoDisplay()
 {
     const PlayerRun run =
         RunPlayer({"--plugin-dir", kPanels, "-platform", "xcb", WriteProgram(Area(0, "<panel/>"))});
+    QVERIFY(!run.crashed);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains("no display can be reached"), qPrintable(run.errors));
+}
+
+void TestClockPlayer::NoFramebuffer()
+{
+    if (QFile::exists("/dev/fb0"))
+        QSKIP("this machine has a framebuffer");
+    const PlayerRun run = RunPlayer(
+        {"--plugin-dir", kPanels, "-platform", "linuxfb", WriteProgram(Area(0, "<panel/>"))});
     QVERIFY(!run.crashed);
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains("no display can be reached"), qPrintable(run.errors));
@@ -478,6 +563,8 @@ void TestClockPlayer::SignalEndsTheWindow_data()
     QTest::addColumn<int>("signal");
     QTest::newRow("interrupt") << SIGINT;
     QTest::newRow("terminate") << SIGTERM;
+    QTest::newRow("terminal closed") << SIGHUP;
+    QTest::newRow("pipe closed") << SIGPIPE;
 }
 
 void TestClockPlayer::SignalEndsTheWindow()
@@ -497,7 +584,7 @@ void TestClockPlayer::SignalEndsTheWindow()
         const QStringList directories =
             QDir(Path("tmp")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
         return directories.size() == 1
-            && QFile::exists(Path("tmp/" + directories.first() + "/panel_1234"));
+            && QFile::exists(Path("tmp/" + directories.first() + "/panel_1000"));
     };
     QTRY_VERIFY_WITH_TIMEOUT(plays(), 20000);
     QTest::qWait(50);
@@ -507,6 +594,59 @@ void TestClockPlayer::SignalEndsTheWindow()
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
     QVERIFY(QDir(Path("tmp")).isEmpty());
+}
+
+void TestClockPlayer::SignalEndsTheMakingOfImages()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir("tmp"));
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("TMPDIR", Path("tmp"));
+    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    StartProgram(process, QStringLiteral(PLAYER),
+                 {"--plugin-dir", kPanels, "-platform", "offscreen",
+                  WriteProgram(Area(0, "<panel images=\"1000000\"/>"))});
+    QTRY_VERIFY_WITH_TIMEOUT(!QDir(Path("tmp")).isEmpty(), 20000);
+    QTest::qWait(300);
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGTERM), 0);
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(QDir(Path("tmp")).isEmpty());
+}
+
+// A panel leaves a file with its Id, so the files tell what played.
+void TestClockPlayer::WatchedProgram()
+{
+    const auto panel = [](int id) {
+        return Area(0,
+                    QStringLiteral("<panel><attribute key=\"Id\" value=\"%1\"/></panel>").arg(id));
+    };
+    const auto played = [this](int id) {
+        return QFile::exists(Path(QStringLiteral("files/panel_%1").arg(id)));
+    };
+    QProcess process;
+    process.setProcessEnvironment(DisplaylessEnvironment());
+    StartProgram(process, QStringLiteral(PLAYER),
+                 {"--plugin-dir", kPanels, "-platform", "offscreen", "--watch", "--files-dir",
+                  Path("files"), WriteProgram(panel(1))});
+    QTRY_VERIFY_WITH_TIMEOUT(played(1), 20000);
+    QVERIFY(QFile::rename(WriteProgram(panel(2)), Path("new.xml"))); // gone for a moment
+    QVERIFY(QFile::rename(Path("new.xml"), Path("program.xml")));
+    QTRY_VERIFY_WITH_TIMEOUT(played(2), 20000);
+    WriteProgram("<area");
+    const auto isReported = [&process] {
+        return process.readAllStandardError().contains("program.xml:");
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isReported(), 20000);
+    QVERIFY(QFile::remove(Path("files/panel_2")));
+    WriteProgram(panel(3));
+    QTRY_VERIFY_WITH_TIMEOUT(played(3), 20000);
+    QVERIFY(!played(2));
+    process.terminate();
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 0);
 }
 
 void TestClockPlayer::SignalEndsTheFrames()

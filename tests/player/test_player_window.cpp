@@ -51,7 +51,8 @@ void TestPlayerWindow::ShowsTheScreen()
 {
     Stage stage;
     QVERIFY(!stage.Build(m_program, LoadedPlugins(), GlyphFiles::Made));
-    PlayerWindow window(stage, QStringLiteral("p.xml"));
+    PlayerWindow window(QStringLiteral("p.xml"));
+    window.SetStage(stage);
     QCOMPARE(window.size(), QSize(8, 4));
     QCOMPARE(window.title(), QStringLiteral("p.xml"));
     window.show();
@@ -60,10 +61,10 @@ void TestPlayerWindow::ShowsTheScreen()
     const auto shown = [&window] {
         return window.screen()->grabWindow(window.winId()).toImage().pixel(5, 1);
     };
-    QTRY_COMPARE(shown(), qRgb(7, 1, 104));
+    QTRY_COMPARE(shown(), qRgb(7, 1, 100));
     StageTime::HoldAt(8000);
     stage.PlayNext();
-    QTRY_COMPARE(shown(), qRgb(8, 1, 104));
+    QTRY_COMPARE(shown(), qRgb(8, 1, 100));
 }
 
 QTEST_MAIN(TestPlayerWindow)

@@ -320,14 +320,14 @@ void TestWindow::DiodesOnTheDisplay()
         return m_display.Screenshot().pixel(origin + QPoint(8 * x + inX, 8 * y + inY))
             | 0xff000000U;
     };
-    QTRY_COMPARE(pixel(20, 8, 4, 4), qRgb(33, 1, 104));
-    QCOMPARE(pixel(49, 14, 4, 4), qRgb(33, 1, 104));
+    QTRY_COMPARE(pixel(20, 8, 4, 4), qRgb(33, 1, 100));
+    QCOMPARE(pixel(49, 14, 4, 4), qRgb(33, 1, 100));
     QCOMPARE(pixel(20, 8, 0, 0), qRgb(0, 0, 0));
     QCOMPARE(pixel(20, 8, 7, 7), qRgb(0, 0, 0));
     QCOMPARE(pixel(10, 8, 4, 4), qRgb(18, 18, 20)); // the key colour
     QCOMPARE(pixel(50, 8, 4, 4), qRgb(18, 18, 20)); // no area
     player->Press("Right");
-    QTRY_COMPARE(pixel(20, 8, 4, 4), qRgb(34, 1, 104));
+    QTRY_COMPARE(pixel(20, 8, 4, 4), qRgb(34, 1, 100));
     QCOMPARE(pixel(10, 8, 4, 4), qRgb(18, 18, 20));
 }
 

@@ -3,6 +3,7 @@
 #include <QtTest>
 
 using ClockProgram::ClockId;
+using ClockProgram::IdOfPlace;
 using ClockProgram::DistinctIds;
 
 Q_DECLARE_METATYPE(QVector<ClockId>)
@@ -14,6 +15,7 @@ class TestClockIds : public QObject
 private slots:
     void Distinct_data();
     void Distinct();
+    void NumbersOfPlaces();
     void MoreClocksThanDrawnNumbers();
 };
 
@@ -21,25 +23,25 @@ void TestClockIds::Distinct_data()
 {
     QTest::addColumn<QVector<ClockId>>("ids");
     QTest::addColumn<QVector<int>>("numbers");
-    const auto drawn = [](int number) { return ClockId {number, false}; };
+    const auto placed = [](int number) { return ClockId {number, false}; };
     const auto given = [](int number) { return ClockId {number, true}; };
 
     QTest::newRow("no clock") << QVector<ClockId> {} << QVector<int> {};
     QTest::newRow("different already")
-        << QVector<ClockId> {drawn(1500), given(7), drawn(1501)} << QVector<int> {1500, 7, 1501};
-    QTest::newRow("drawn twice") << QVector<ClockId> {drawn(1500), drawn(1500), drawn(1500)}
+        << QVector<ClockId> {placed(1500), given(7), placed(1501)} << QVector<int> {1500, 7, 1501};
+    QTest::newRow("drawn twice") << QVector<ClockId> {placed(1500), placed(1500), placed(1500)}
                                  << QVector<int> {1500, 1501, 1502};
-    QTest::newRow("moved onto a later one's number, which moves too")
-        << QVector<ClockId> {drawn(1500), drawn(1500), drawn(1501)}
-        << QVector<int> {1500, 1501, 1502};
+    QTest::newRow("one that moves leaves a later one's number alone")
+        << QVector<ClockId> {placed(1500), placed(1500), placed(1501)}
+        << QVector<int> {1500, 1502, 1501};
     QTest::newRow("given wins over an earlier drawn one")
-        << QVector<ClockId> {drawn(1500), given(1500)} << QVector<int> {1501, 1500};
+        << QVector<ClockId> {placed(1500), given(1500)} << QVector<int> {1501, 1500};
     QTest::newRow("free numbers go round")
-        << QVector<ClockId> {drawn(1999), drawn(1999)} << QVector<int> {1999, 1000};
+        << QVector<ClockId> {placed(1999), placed(1999)} << QVector<int> {1999, 1000};
     QTest::newRow("given twice, the later moves")
         << QVector<ClockId> {given(1500), given(1500)} << QVector<int> {1500, 1501};
     QTest::newRow("given twice outside the drawn range")
-        << QVector<ClockId> {given(-3), given(-3), drawn(1000)} << QVector<int> {-3, 1000, 1001};
+        << QVector<ClockId> {given(-3), given(-3), placed(1000)} << QVector<int> {-3, 1001, 1000};
 }
 
 void TestClockIds::Distinct()
@@ -47,6 +49,19 @@ void TestClockIds::Distinct()
     QFETCH(QVector<ClockId>, ids);
     QFETCH(QVector<int>, numbers);
     QCOMPARE(DistinctIds(ids), numbers);
+}
+
+// Whatever else is in the program: giving the third clock the second one's number moves no other.
+void TestClockIds::NumbersOfPlaces()
+{
+    const auto numbers = [](const ClockId &third) {
+        return DistinctIds(
+            {{IdOfPlace(0), false}, {IdOfPlace(1), false}, third, {IdOfPlace(3), false}});
+    };
+    QCOMPARE(numbers({IdOfPlace(2), false}), (QVector<int> {1000, 1001, 1002, 1003}));
+    QCOMPARE(numbers({1001, true}), (QVector<int> {1000, 1002, 1001, 1003}));
+    QCOMPARE(IdOfPlace(999), 1999);
+    QCOMPARE(IdOfPlace(1000), 1000);
 }
 
 void TestClockIds::MoreClocksThanDrawnNumbers()

@@ -66,8 +66,8 @@ void TestStage::ScreenShowsTheAreas()
     const QImage screen = stage.Screen();
     QCOMPARE(screen.size(), QSize(8, 4));
     QCOMPARE(screen.pixel(4, 1), qRgb(0, 0, 0)); // the panel's key colour
-    QCOMPARE(screen.pixel(5, 1), qRgb(7, 1, 104));
-    QCOMPARE(screen.pixel(6, 2), qRgb(7, 1, 104));
+    QCOMPARE(screen.pixel(5, 1), qRgb(7, 1, 100));
+    QCOMPARE(screen.pixel(6, 2), qRgb(7, 1, 100));
     QCOMPARE(screen.pixel(6, 3), qRgb(0, 0, 0));
     QCOMPARE(screen.pixel(7, 2), qRgb(0, 0, 0));
 }
@@ -105,10 +105,10 @@ void TestStage::RedrawReplacesTheRendererOnce()
     stage.Start();
     stage.PlayNext();
     stage.PlayNext();
-    QCOMPARE(stage.Screen().pixel(5, 1), qRgb(7, 1, 104)); // within the turn nothing happens
-    QTRY_COMPARE(stage.Screen().pixel(5, 1), qRgb(7, 2, 104));
+    QCOMPARE(stage.Screen().pixel(5, 1), qRgb(7, 1, 100)); // within the turn nothing happens
+    QTRY_COMPARE(stage.Screen().pixel(5, 1), qRgb(7, 2, 100));
     QTest::qWait(20);
-    QCOMPARE(stage.Screen().pixel(5, 1), qRgb(7, 2, 104));
+    QCOMPARE(stage.Screen().pixel(5, 1), qRgb(7, 2, 100));
 }
 
 QTEST_MAIN(TestStage)

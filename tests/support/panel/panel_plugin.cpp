@@ -4,6 +4,7 @@
 
 #include <QDomElement>
 #include <QFile>
+#include <QThread>
 
 namespace {
 
@@ -22,6 +23,7 @@ void clock_set_time_source(long long (*utcMilliseconds)())
 bool PanelNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &)
 {
     SetAttribute("redraws", element.attribute("redraws"), false);
+    SetAttribute("images", element.attribute("images"), false);
     SetAttribute("dies", element.attribute("dies"), false);
     return element.attribute("accept") != "no";
 }
@@ -29,6 +31,10 @@ bool PanelNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &)
 bool PanelNode::NodeAlready(int)
 {
     ++readied;
+    for (int i = GetAttributeToInt("images"); i > 0; --i) {
+        QThread::msleep(10);
+        SetFilePath("image", QString(), QString(), -1, 0);
+    }
     QFile file(Lw::HAppConfig::ClockOutputPath() + "panel_" + GetAttribute("Id"));
     return file.open(QIODevice::WriteOnly);
 }

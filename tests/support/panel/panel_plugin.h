@@ -19,7 +19,8 @@ extern "C" Q_DECL_EXPORT void clock_set_time_source(long long (*utcMilliseconds)
 /// Claims the element <panel>. Its attributes:
 ///   accept="no"     UpdateNode answers false
 ///   redraws="N"     at its third picture the node asks N times to be made ready again
-///   dies="yes"      at its third picture the node is deleted
+///   images="N"      to be made ready takes N times ten milliseconds, with a file recorded after
+///   each dies="yes"      at its third picture the node is deleted
 class PanelNode : public Lw::HContentNode
 {
     Q_OBJECT
