@@ -30,6 +30,7 @@ public:
         ReadProgramPath();
         ReadUseFiles();
         m_options.printsStats = IsSet(kStats);
+        m_options.allowsLargeFrames = IsSet(kLargeFrames);
         ReadOutput();
         ReadWatch();
         ReadLedPitch();

@@ -32,6 +32,7 @@ struct Options
     double speed = 1;      ///< seconds of the clocks for each real one
     std::optional<qint64> startInstant; ///< UTC milliseconds; nothing: the system's time
     bool usesFiles = false;             ///< the glyph files that came with the program
+    bool allowsLargeFrames = false;     ///< beyond ClockProgram::kUsualFrameBytes
     bool watchesProgram = false;        ///< plays the file again whenever it changes
     bool printsStats = false;           ///< of the deadline meter, at the end
     bool checkDisplay = false;          ///< only find out whether the display can be reached

@@ -84,6 +84,8 @@ constexpr OptionRow kOptions[] = {
     {kWatch, nullptr, nullptr,
      "Play the program file again whenever it changes or is replaced. While it is broken the last "
      "good program plays on, and a message says why."},
+    {kLargeFrames, nullptr, nullptr,
+     "Play a program whose frames take more than 256 MiB of memory too."},
     {kPluginDir, nullptr, "directory",
      "Load the plugins of <directory> (default: \"plugins\" beside the directory that clock_player "
      "lies in)."},

@@ -17,6 +17,7 @@ inline constexpr char kAt[] = "at";
 inline constexpr char kSpeed[] = "speed";
 inline constexpr char kStats[] = "stats";
 inline constexpr char kWatch[] = "watch";
+inline constexpr char kLargeFrames[] = "large-frames";
 inline constexpr char kPluginDir[] = "plugin-dir";
 inline constexpr char kFilesDir[] = "files-dir";
 inline constexpr char kUseFiles[] = "use-files";

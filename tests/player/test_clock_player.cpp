@@ -54,6 +54,7 @@ private slots:
     void RefusedElementOfAPictureClock();
     void MissingProgram();
     void UnparsableProgram();
+    void FramesBeyondTheBound();
     void UsageErrors();
 
     void NoPluginDirectory();
@@ -372,6 +373,21 @@ void TestClockPlayer::UnparsableProgram()
              qPrintable(run.errors));
 }
 
+// 32767 x 1024 pixels of four bytes: one screen of two and one area of three frames, 640 MiB.
+void TestClockPlayer::FramesBeyondTheBound()
+{
+    const QString program =
+        Write("large.xml",
+              "<program width='32767' height='1024'><area x='0' y='0' width='32767' "
+              "height='1024'><panel/></area></program>");
+    const PlayerRun run = Play({program, "--frames", "1"});
+    QCOMPARE(run.exitCode, 3);
+    QVERIFY2(run.errors.contains("large.xml") && run.errors.contains("640 MiB")
+                 && run.errors.contains("--large-frames"),
+             qPrintable(run.errors));
+    QCOMPARE(Play({program, "--frames", "1", "--large-frames"}).exitCode, 0);
+}
+
 void TestClockPlayer::UsageErrors()
 {
     for (const QStringList &arguments :
@@ -636,8 +652,10 @@ void TestClockPlayer::WatchedProgram()
     QVERIFY(QFile::rename(Path("new.xml"), Path("program.xml")));
     QTRY_VERIFY_WITH_TIMEOUT(played(2), 20000);
     WriteProgram("<area");
-    const auto isReported = [&process] {
-        return process.readAllStandardError().contains("program.xml:");
+    QByteArray errors;
+    const auto isReported = [&process, &errors] {
+        errors += process.readAllStandardError();
+        return errors.contains("program.xml:2: the tag <area>");
     };
     QTRY_VERIFY_WITH_TIMEOUT(isReported(), 20000);
     QVERIFY(QFile::remove(Path("files/panel_2")));
