@@ -74,7 +74,7 @@ function(clock_install_host)
         LIBRARY DESTINATION ${CLOCK_INSTALL_ROOT}/lib
         COMPONENT runtime NAMELINK_COMPONENT development)
     install(DIRECTORY host/ DESTINATION include/clock-player COMPONENT development
-        FILES_MATCHING PATTERN "*.h")
+        FILES_MATCHING PATTERN "*_p.h" EXCLUDE PATTERN "*.h")
 
     include(CMakePackageConfigHelpers)
     set(config_folder lib/cmake/clock-player)

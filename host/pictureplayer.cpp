@@ -1,20 +1,14 @@
 #include "pictureplayer.h"
 
 #include "icontentrender.h"
+#include "play_schedule_p.h"
 
-#include <QDeadlineTimer>
 #include <QHash>
 #include <QPointer>
-#include <QTimer>
-
-#include <cmath>
-#include <limits>
 
 namespace Lw {
 
 namespace {
-
-constexpr double kLongestWait = 1e12; // milliseconds; some thirty years
 
 QHash<unsigned int, QPointer<IContentRender>> &Renderers()
 {
@@ -39,49 +33,20 @@ double &TimeScale()
 class pictureplayer::Private
 {
 public:
-    void Wait(double milliseconds)
-    {
-        const double wait = std::ceil(qBound(0.0, milliseconds, kLongestWait));
-        deadline = QDeadlineTimer(static_cast<qint64>(wait), Qt::PreciseTimer);
-        WaitOn();
-    }
-
-    // A timer may fire a fraction of a millisecond early; the wait is over only at the deadline.
-    void WaitOn()
-    {
-        const qint64 longest = std::numeric_limits<int>::max();
-        timer.start(static_cast<int>(qBound<qint64>(0, deadline.remainingTime(), longest)));
-    }
-
     SessionParameter parameter = {};
     QImage image;
-    QTimer timer;
-    QDeadlineTimer deadline;
 };
 
-pictureplayer::pictureplayer(QObject *parent) : QObject(parent), d(new Private)
-{
-    d->timer.setSingleShot(true);
-    d->timer.setTimerType(Qt::PreciseTimer);
-    connect(&d->timer, &QTimer::timeout, this, [this] {
-        if (!d->deadline.hasExpired()) {
-            d->WaitOn();
-            return;
-        }
-        // The renderer may delete this player: nothing may follow the call.
-        if (IContentRender *const render = Renderers().value(d->parameter.playIdentifier))
-            render->PlayNext();
-    });
-}
+pictureplayer::pictureplayer(QObject *parent) : QObject(parent), d(new Private) { }
 
 pictureplayer::~pictureplayer()
 {
-    d->timer.stop();
+    Stop();
 }
 
 void pictureplayer::Init(const SessionParameter *parameter)
 {
-    d->timer.stop();
+    Stop();
     if (!parameter)
         return;
     if (Players().value(d->parameter.playIdentifier) == this)
@@ -98,15 +63,21 @@ void pictureplayer::UpdateImage(QImage image)
 
 void pictureplayer::UpdateEffect(int milliseconds, EffectType)
 {
-    d->timer.stop();
-    if (TimeScale() > 0)
-        d->Wait(milliseconds / TimeScale());
+    Stop();
+    if (TimeScale() > 0) {
+        // The renderer may delete this player: nothing may follow the call.
+        const auto playNext = [this] {
+            if (IContentRender *const render = Renderers().value(d->parameter.playIdentifier))
+                render->PlayNext();
+        };
+        PlaySchedule::Instance().Wait(this, milliseconds / TimeScale(), playNext);
+    }
     emit EffectUpdated(milliseconds);
 }
 
 void pictureplayer::Stop()
 {
-    d->timer.stop();
+    PlaySchedule::Instance().Cancel(this);
 }
 
 SessionParameter pictureplayer::Parameter()

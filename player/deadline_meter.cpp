@@ -73,8 +73,10 @@ void DeadlineMeter::Saw(const SeenFrame &frame)
     }
     const qint64 second = WholeSecond(frame.instant);
     const qint64 passed = (second - WholeSecond(last->instant)) / kMillisecondsPerSecond;
-    if (passed < 1)
+    if (passed < 1) {
+        ++m_secondPresentations;
         return;
+    }
     m_missedSeconds += passed - 1;
     const double sinceSecond = double(frame.instant - second) / frame.speed;
     m_lateness.Add(sinceSecond + frame.seen - frame.begun);
@@ -88,12 +90,13 @@ bool DeadlineMeter::FollowsOn(const SeenFrame &frame) const
 
 QStringList DeadlineMeter::Report() const
 {
-    return {QStringLiteral("frames: %1, missed seconds: %2, clock steps: %3")
-                .arg(m_frames)
-                .arg(m_missedSeconds)
-                .arg(m_clockSteps),
-            Line(QStringLiteral("drawing"), m_drawing),
-            Line(QStringLiteral("lateness"), m_lateness)};
+    return {
+        QStringLiteral("frames: %1, missed seconds: %2, clock steps: %3, second presentations: %4")
+            .arg(m_frames)
+            .arg(m_missedSeconds)
+            .arg(m_clockSteps)
+            .arg(m_secondPresentations),
+        Line(QStringLiteral("drawing"), m_drawing), Line(QStringLiteral("lateness"), m_lateness)};
 }
 
 } // namespace ClockPlayer

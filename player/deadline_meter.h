@@ -58,6 +58,8 @@ public:
     qint64 MissedSeconds() const { return m_missedSeconds; }
     /// Times that the system's clock was found stepped between two frames.
     int ClockSteps() const { return m_clockSteps; }
+    /// Presentations of a second that was on the display already: an area came late.
+    int SecondPresentations() const { return m_secondPresentations; }
     int Frames() const { return m_frames; }
     const Spread &Drawing() const { return m_drawing; }
     const Spread &Lateness() const { return m_lateness; } ///< in real milliseconds
@@ -72,6 +74,7 @@ private:
     int m_frames = 0;
     qint64 m_missedSeconds = 0;
     int m_clockSteps = 0;
+    int m_secondPresentations = 0;
     Spread m_drawing;
     Spread m_lateness;
 };

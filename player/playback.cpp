@@ -12,17 +12,16 @@ using namespace ClockStage;
 
 namespace {
 
-constexpr int kStatusDelay = 20; // milliseconds; also bounds how often titles change
+constexpr int kTitleInterval = 20; // milliseconds; where time runs fast, titles change no oftener
 
 } // namespace
 
 Playback::Playback(PlayerWindow &window, Travelling travelling)
     : m_window(window), m_canTravel(travelling == Travelling::Possible), m_name(window.title())
 {
-    m_status.setSingleShot(true);
-    m_status.setInterval(kStatusDelay);
-    connect(&m_status, &QTimer::timeout, this, &Playback::ShowStatus);
+    m_sinceTitle.start();
     connect(&window, &PlayerWindow::Commanded, this, &Playback::Obey);
+    connect(&window, &PlayerWindow::AboutToPaint, this, &Playback::ShowOverlay);
     connect(&window, &PlayerWindow::Painted, this, &Playback::NotePaint);
     connect(&m_clockSteps, &ClockSteps::Stepped, this, &Playback::FollowSteppedClock);
 }
@@ -102,8 +101,6 @@ void Playback::FollowSteppedClock()
 // A plugin that does not take its time from the player is not measured.
 void Playback::NotePicture()
 {
-    if (!m_status.isActive())
-        m_status.start();
     const std::optional<StageTime::Reading> reading = StageTime::TakeReading();
     if (!m_window.isExposed()) {
         m_meter.Jumped();
@@ -129,20 +126,32 @@ void Playback::NotePaint(double begun)
         m_meter.Saw(*m_drawn);
         m_drawn.reset();
     }
+    if (m_sinceTitle.hasExpired(kTitleInterval))
+        ShowTitle();
     emit Presented();
 }
 
 void Playback::ShowStatus()
 {
-    const QString status = Status();
-    const QString title = m_name + QStringLiteral(" | ") + status;
+    ShowTitle();
+    ShowOverlay();
+}
+
+void Playback::ShowTitle()
+{
+    m_sinceTitle.start();
+    const QString title = m_name + QStringLiteral(" | ") + Status();
     if (title != m_window.title())
         m_window.setTitle(title);
+}
+
+void Playback::ShowOverlay()
+{
     QStringList overlay;
     if (m_showsHelp)
         overlay.append(KeysText());
     if (m_showsStatus)
-        overlay.append(status);
+        overlay.append(Status());
     m_window.SetOverlay(overlay.join(QStringLiteral("\n\n")));
 }
 

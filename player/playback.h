@@ -8,8 +8,8 @@
 #include "clock_status.h"
 #include "time_travel.h"
 
+#include <QElapsedTimer>
 #include <QObject>
-#include <QTimer>
 
 #include <memory>
 #include <optional>
@@ -50,6 +50,8 @@ private:
     void NotePicture();
     void NotePaint(double begun);
     void ShowStatus();
+    void ShowTitle();
+    void ShowOverlay();
     QString Status() const;
     QVector<Lw::HNodeClock::ZoneSettings> Clocks() const;
 
@@ -60,7 +62,7 @@ private:
     DeadlineMeter m_meter;
     std::optional<SeenFrame> m_drawn; ///< on its way to the display
     ClockStage::ClockSteps m_clockSteps;
-    QTimer m_status; ///< gathers the pictures of all areas
+    QElapsedTimer m_sinceTitle;
     int m_clock = 0; ///< that the status tells of
     bool m_showsStatus = false;
     bool m_showsHelp = false;

@@ -61,9 +61,17 @@ void PlayerWindow::SetStage(const Stage &stage)
     const QSize size = m_leds ? stage.Size() * m_leds->Pitch() : stage.Size();
     setMinimumSize(size);
     resize(size);
-    connect(&stage, &Stage::Changed, this,
-            [this](const QRect &region) { update(m_leds ? m_leds->Magnified(region) : region); });
+    connect(&stage, &Stage::Changed, this, &PlayerWindow::Change);
     update();
+}
+
+// A second in which nothing changes is presented too, so that it can be counted.
+void PlayerWindow::Change(const QRegion &region)
+{
+    if (region.isEmpty())
+        requestUpdate();
+    for (const QRect &rect : region)
+        update(m_leds ? m_leds->Magnified(rect) : rect);
 }
 
 void PlayerWindow::SetOverlay(const QString &text)
@@ -79,6 +87,8 @@ bool PlayerWindow::event(QEvent *event)
 {
     const double begun = StageTime::Steady();
     const bool isPaint = event->type() == QEvent::UpdateRequest;
+    if (isPaint)
+        emit AboutToPaint();
     const bool accepted = QRasterWindow::event(event);
     if (isPaint)
         emit Painted(begun);
@@ -95,24 +105,30 @@ void PlayerWindow::keyPressEvent(QKeyEvent *event)
 
 void PlayerWindow::paintEvent(QPaintEvent *event)
 {
-    const QRect region = event->region().boundingRect();
     QPainter painter(this);
-    painter.setClipRect(region);
-    // Some platforms make the window larger than the screen that plays.
-    painter.fillRect(region, Qt::black);
-    PaintScreen(painter, region);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    PaintScreen(painter, event->region());
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setClipRegion(event->region());
     PaintOverlay(painter, size(), m_overlay);
 }
 
-void PlayerWindow::PaintScreen(QPainter &painter, const QRect &region)
+void PlayerWindow::PaintScreen(QPainter &painter, const QRegion &region)
 {
-    const QRect pixels = (m_leds ? m_leds->Reduced(region) : region) & m_screen.rect();
-    if (m_stage)
-        ComposeScreen(m_screen, m_stage->Layers(), pixels);
-    if (m_leds)
-        painter.drawImage(m_leds->Magnified(pixels).topLeft(), m_leds->Diodes(m_screen, pixels));
-    else
-        painter.drawImage(pixels, m_screen, pixels);
+    const QRect screen = m_leds ? m_leds->Magnified(m_screen.rect()) : m_screen.rect();
+    // Some platforms make the window larger than the screen that plays.
+    for (const QRect &outside : region - screen)
+        painter.fillRect(outside, Qt::black);
+    const QVector<Layer> layers = m_stage ? m_stage->Layers() : QVector<Layer>();
+    for (const QRect &rect : region &screen) {
+        const QRect pixels = m_leds ? m_leds->Reduced(rect) : rect;
+        ComposeScreen(m_screen, layers, pixels);
+        if (m_leds)
+            painter.drawImage(m_leds->Magnified(pixels).topLeft(),
+                              m_leds->Diodes(m_screen, pixels));
+        else
+            painter.drawImage(pixels, m_screen, pixels);
+    }
 }
 
 } // namespace ClockPlayer

@@ -32,6 +32,7 @@ public:
 
 Q_SIGNALS:
     void Commanded(const ClockPlayer::Command &command);
+    void AboutToPaint();
     /// What changed is on the display now. Milliseconds of StageTime::Steady().
     void Painted(double begun);
 
@@ -41,7 +42,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void PaintScreen(QPainter &painter, const QRect &region);
+    void Change(const QRegion &region);
+    void PaintScreen(QPainter &painter, const QRegion &region);
 
     const ClockStage::Stage *m_stage = nullptr;
     const std::optional<ClockStage::LedScreen> m_leds;

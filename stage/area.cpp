@@ -9,6 +9,8 @@ namespace {
 
 // The node's class is its plugin's, so its signal is known by name only.
 const char kRedrawSignal[] = "ReDrawSourceImage()";
+const char kDamageName[] = "frameDamage";
+const char kDamageProperty[] = "region";
 
 } // namespace
 
@@ -71,12 +73,25 @@ void Area::StartRenderer()
     Lw::pictureplayer *const player = Lw::pictureplayer::ForIdentifier(m_playIdentifier);
     if (!player)
         return;
-    const auto show = [this](const QImage &image) {
-        m_image = image;
-        emit PictureChanged();
-    };
-    connect(player, &Lw::pictureplayer::ImageUpdated, this, show);
-    show(player->LastImage());
+    connect(player, &Lw::pictureplayer::ImageUpdated, this, &Area::Show);
+    Show(player->LastImage());
+    m_damage = m_render ? m_render->findChild<QObject *>(QLatin1String(kDamageName)) : nullptr;
+}
+
+void Area::Show(const QImage &image)
+{
+    const bool isWhole = image.size() != m_image.size();
+    m_image = image;
+    emit PictureChanged(isWhole ? QRegion(m_geometry) : Damage());
+}
+
+// The plugin's class is known by name only, as its signals are.
+QRegion Area::Damage() const
+{
+    if (!m_damage)
+        return m_geometry;
+    const auto region = m_damage->property(kDamageProperty).value<QRegion>();
+    return region.translated(m_geometry.topLeft()) & m_geometry;
 }
 
 void Area::RemoveRenderer()
@@ -84,6 +99,7 @@ void Area::RemoveRenderer()
     Lw::pictureplayer::Register(m_playIdentifier, nullptr);
     if (!m_render)
         return;
+    m_damage.clear(); // the next renderer's first frame has nothing in common with the last one
     m_render->Remove();
     delete m_render;
 }

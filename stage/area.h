@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QRect>
+#include <QRegion>
 #include <QTimer>
 
 #include <memory>
@@ -49,13 +50,15 @@ public:
     Layer Picture() const;
 
 Q_SIGNALS:
-    void PictureChanged();
+    void PictureChanged(QRegion region); ///< of the screen; empty where the picture is the same
 
 private:
     void ListenToNode();
     void StartRenderer();
     void RemoveRenderer();
     void Restart();
+    void Show(const QImage &image);
+    QRegion Damage() const;
 
     const unsigned int m_playIdentifier;
     Lw::INodePlugin *const m_plugin;
@@ -63,6 +66,7 @@ private:
     const GlyphFiles m_glyphFiles;
     QPointer<Lw::HNode> m_node;
     QPointer<Lw::IContentRender> m_render;
+    QPointer<QObject> m_damage; ///< the renderer's child that tells what changed; null: has none
     QImage m_image;
     // Gathers the redraw requests of one turn of the event loop: a change of many settings asks
     // once for each of them.

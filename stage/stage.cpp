@@ -36,8 +36,7 @@ MaybeFailure Stage::Build(const Program &program, const PluginFinder &findPlugin
 void Stage::AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, GlyphFiles glyphFiles)
 {
     m_areas.push_back(std::make_unique<Area>(NewIdentifier(), plugin, std::move(node), glyphFiles));
-    Area *const area = m_areas.back().get();
-    connect(area, &Area::PictureChanged, this, [this, area] { emit Changed(area->Geometry()); });
+    connect(m_areas.back().get(), &Area::PictureChanged, this, &Stage::Changed);
 }
 
 void Stage::Start()

@@ -35,7 +35,9 @@ public:
     QImage Screen() const; ///< the composed screen
 
 Q_SIGNALS:
-    void Changed(QRect region); ///< pixels of the screen that must be composed anew
+    /// These pixels of the screen must be composed again. Empty where an area shows the same
+    /// picture for another second.
+    void Changed(QRegion region);
 
 private:
     void AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, GlyphFiles glyphFiles);

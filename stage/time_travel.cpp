@@ -3,15 +3,19 @@
 #include "calendar/system_time.h"
 
 #include <QElapsedTimer>
+#include <QSocketNotifier>
 
+#include <cerrno>
+#include <limits>
 #include <utility>
+
+#include <sys/timerfd.h>
+#include <time.h>
+#include <unistd.h>
 
 namespace ClockStage {
 
 namespace {
-
-constexpr qint64 kStep = 100;      // milliseconds
-constexpr int kStepInterval = 100; // between two looks at the clocks
 
 qint64 WithinLimits(double instant)
 {
@@ -64,20 +68,37 @@ void TimeTravel::ReturnToPresent()
     *this = TimeTravel();
 }
 
-bool StepDetector::IsStepped(const RealTime &real)
+ClockSteps::ClockSteps(QObject *parent)
+    : QObject(parent), m_timer(::timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC))
 {
-    const qint64 difference = real.system - real.steady;
-    const std::optional<qint64> before = std::exchange(m_difference, difference);
-    return before && qAbs(difference - *before) >= kStep;
+    if (m_timer < 0)
+        return;
+    auto *const notifier = new QSocketNotifier(m_timer, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &ClockSteps::Follow);
+    Arm();
 }
 
-ClockSteps::ClockSteps(QObject *parent) : QObject(parent)
+ClockSteps::~ClockSteps()
 {
-    connect(&m_timer, &QTimer::timeout, this, [this] {
-        if (m_detector.IsStepped(StageTime::Real()))
-            emit Stepped();
-    });
-    m_timer.start(kStepInterval);
+    if (m_timer >= 0)
+        ::close(m_timer);
+}
+
+// For a time that does not come: only that it is cancelled is of interest.
+void ClockSteps::Arm()
+{
+    itimerspec never {};
+    never.it_value.tv_sec = std::numeric_limits<time_t>::max();
+    ::timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &never, nullptr);
+}
+
+void ClockSteps::Follow()
+{
+    quint64 expirations = 0;
+    if (::read(m_timer, &expirations, sizeof expirations) < 0 && errno == EAGAIN)
+        return;
+    Arm();
+    emit Stepped();
 }
 
 namespace StageTime {

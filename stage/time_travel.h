@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QObject>
-#include <QTimer>
 #include <QtGlobal>
 
 #include <optional>
@@ -50,31 +49,23 @@ private:
     qint64 m_since = 0;
 };
 
-/// Pure: tells from readings of both clocks whether the system's clock was set by a tenth of a
-/// second or more since the reading before. Gentle slewing does not count.
-class StepDetector
-{
-public:
-    bool IsStepped(const RealTime &real);
-
-private:
-    std::optional<qint64> m_difference; ///< of the two clocks, milliseconds
-};
-
-/// Tells when the system's clock was set.
+/// Tells when the system's clock was set, however little. Gentle slewing does not count.
 class ClockSteps : public QObject
 {
     Q_OBJECT
 
 public:
     explicit ClockSteps(QObject *parent = nullptr);
+    ~ClockSteps() override;
 
 Q_SIGNALS:
-    void Stepped();
+    void Stepped(); ///< from the event loop, within a turn of it
 
 private:
-    StepDetector m_detector;
-    QTimer m_timer;
+    void Arm();
+    void Follow();
+
+    int m_timer; ///< of the kernel, which cancels it when the clock is set
 };
 
 /// The shown time. One per process, because a plugin takes its time source as a plain function.

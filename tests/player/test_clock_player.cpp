@@ -240,7 +240,10 @@ void TestClockPlayer::StatsOfFrames()
     QCOMPARE(run.exitCode, 0);
     const QStringList lines = run.errors.split('\n');
     QCOMPARE(lines.size(), 4);
-    QCOMPARE(lines[0], QString("clock_player: frames: 3, missed seconds: 0, clock steps: 0"));
+    QCOMPARE(
+        lines[0],
+        QString(
+            "clock_player: frames: 3, missed seconds: 0, clock steps: 0, second presentations: 0"));
     const QRegularExpression drawing("^clock_player: drawing ms: minimum \\d+\\.\\d\\d, ");
     QVERIFY2(drawing.match(lines[1]).hasMatch(), qPrintable(lines[1]));
     QCOMPARE(lines[2], QString("clock_player: lateness ms: none"));

@@ -49,8 +49,8 @@ void TestDeadlineMeter::NothingYet()
 {
     const DeadlineMeter meter;
     QCOMPARE(meter.Report(),
-             QStringList({"frames: 0, missed seconds: 0, clock steps: 0", "drawing ms: none",
-                          "lateness ms: none"}));
+             QStringList({"frames: 0, missed seconds: 0, clock steps: 0, second presentations: 0",
+                          "drawing ms: none", "lateness ms: none"}));
 }
 
 void TestDeadlineMeter::Percentiles_data()
@@ -213,7 +213,7 @@ void TestDeadlineMeter::Report()
     meter.Saw(FrameAt(1000));
     meter.Saw(FrameAt(3002));
     QCOMPARE(meter.Report(),
-             QStringList({"frames: 3, missed seconds: 1, clock steps: 0",
+             QStringList({"frames: 3, missed seconds: 1, clock steps: 0, second presentations: 0",
                           "drawing ms: minimum 3.00, median 3.00, 99th percentile 3.00, "
                           "maximum 3.00",
                           "lateness ms: minimum 5.00, median 5.00, 99th percentile 7.00, "

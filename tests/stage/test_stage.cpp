@@ -81,8 +81,8 @@ void TestStage::ChangesNameTheirRegion()
     QSignalSpy changes(&stage, &Stage::Changed);
     stage.Start();
     QCOMPARE(changes.size(), 2);
-    QCOMPARE(changes[0][0].toRect(), QRect(4, 1, 3, 2));
-    QCOMPARE(changes[1][0].toRect(), QRect(0, 0, 2, 2));
+    QCOMPARE(changes[0][0].value<QRegion>(), QRegion(4, 1, 3, 2));
+    QCOMPARE(changes[1][0].value<QRegion>(), QRegion(0, 0, 2, 2));
     stage.PlayNext();
     QCOMPARE(changes.size(), 4);
 }

@@ -32,10 +32,6 @@ private slots:
     void StepsWhilePaused();
     void ReturnToPresent();
     void EndsOfTime();
-
-    void SteppedClocks_data();
-    void SteppedClocks();
-    void SlewedClockIsNotStepped();
 };
 
 void TestTimeTravel::PresentIsTheSystemsTime()
@@ -152,37 +148,6 @@ void TestTimeTravel::EndsOfTime()
     QCOMPARE(travel.Shown(After(0)), first);
     travel.GoTo(std::numeric_limits<qint64>::max(), After(0));
     QCOMPARE(travel.Shown(After(0)), last);
-}
-
-void TestTimeTravel::SteppedClocks_data()
-{
-    QTest::addColumn<qint64>("step");
-    QTest::addColumn<bool>("stepped");
-    QTest::newRow("not at all") << qint64(0) << false;
-    QTest::newRow("a reading that came late") << qint64(60) << false;
-    QTest::newRow("a tenth forwards") << qint64(100) << true;
-    QTest::newRow("a tenth backwards") << qint64(-100) << true;
-    QTest::newRow("years forwards") << qint64(100000000000) << true;
-    QTest::newRow("years backwards") << qint64(-100000000000) << true;
-}
-
-void TestTimeTravel::SteppedClocks()
-{
-    QFETCH(qint64, step);
-    QFETCH(bool, stepped);
-    StepDetector detector;
-    QVERIFY(!detector.IsStepped(After(0)));
-    QVERIFY(!detector.IsStepped(After(100)));
-    QVERIFY(!detector.IsStepped(After(7000))); // nobody looked for a while
-    QCOMPARE(detector.IsStepped({After(7100).system + step, After(7100).steady}), stepped);
-    QVERIFY(!detector.IsStepped({After(7200).system + step, After(7200).steady}));
-}
-
-void TestTimeTravel::SlewedClockIsNotStepped()
-{
-    StepDetector detector;
-    for (int i = 0; i < 1000; ++i) // a hundredth too fast, ten seconds in the end
-        QVERIFY(!detector.IsStepped({After(i * 1000).system + i * 10, After(i * 1000).steady}));
 }
 
 QTEST_GUILESS_MAIN(TestTimeTravel)

@@ -1,11 +1,14 @@
 // Preloaded into a program, this shifts what it is told of the system's clock by the milliseconds
-// that stand, as a 64-bit number, in the file named by STEPPING_CLOCK. The file may change at any
-// time; the steady clocks are left alone.
+// in the file named by STEPPING_CLOCK, a 64-bit number. The file may change at any time; its timers
+// on the system's clock are then cancelled, as the kernel does. Monotonic clocks are left alone.
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <ctime>
+#include <thread>
 
 #include <fcntl.h>
+#include <sys/eventfd.h>
 #include <sys/mman.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
@@ -37,7 +40,27 @@ std::int64_t OffsetMilliseconds()
     return offset ? *offset : 0;
 }
 
+// Makes the descriptor readable whenever the clock is shifted.
+void TellSteps(int descriptor)
+{
+    for (std::int64_t last = OffsetMilliseconds();;) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        if (OffsetMilliseconds() != last && ::eventfd_write(descriptor, 1) == 0)
+            last = OffsetMilliseconds();
+    }
+}
+
 } // namespace
+
+// The program only ever asks the timers on this clock whether they were cancelled.
+extern "C" int timerfd_create(clockid_t clock, int flags) noexcept
+{
+    if (clock != CLOCK_REALTIME)
+        return static_cast<int>(::syscall(SYS_timerfd_create, clock, flags));
+    const int descriptor = ::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC);
+    std::thread(TellSteps, descriptor).detach();
+    return descriptor;
+}
 
 extern "C" int clock_gettime(clockid_t clock, timespec *time) noexcept
 {

@@ -1,0 +1,116 @@
+#include "play_schedule_p.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include <sys/timerfd.h>
+#include <time.h>
+#include <unistd.h>
+
+namespace Lw {
+
+namespace {
+
+constexpr qint64 kMillisecond = 1000000; // nanoseconds
+constexpr qint64 kSecond = 1000 * kMillisecond;
+constexpr double kLongestWait = 1e12; // milliseconds; some thirty years
+constexpr qint64 kTogether = 2 * kMillisecond;
+// After so long with frames to draw still, the event loop may show those that are drawn.
+constexpr qint64 kLongestTurn = 20 * kMillisecond;
+
+qint64 Now()
+{
+    timespec time {};
+    ::clock_gettime(CLOCK_MONOTONIC, &time);
+    return qint64(time.tv_sec) * kSecond + time.tv_nsec;
+}
+
+} // namespace
+
+PlaySchedule &PlaySchedule::Instance()
+{
+    static QPointer<PlaySchedule> schedule;
+    if (!schedule)
+        schedule = new PlaySchedule(QCoreApplication::instance());
+    return *schedule;
+}
+
+PlaySchedule::PlaySchedule(QObject *parent)
+    : QObject(parent), m_timer(::timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC))
+{
+    auto *const notifier = new QSocketNotifier(m_timer, QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &PlaySchedule::Fire);
+}
+
+PlaySchedule::~PlaySchedule()
+{
+    ::close(m_timer);
+}
+
+void PlaySchedule::Wait(const void *waiter, double milliseconds, Due due)
+{
+    const double wait = std::ceil(qBound(0.0, milliseconds, kLongestWait));
+    const qint64 deadline = Now() + static_cast<qint64>(wait) * kMillisecond;
+    Cancel(waiter);
+    m_entries.append({waiter, deadline, std::move(due)});
+    Arm();
+}
+
+void PlaySchedule::Cancel(const void *waiter)
+{
+    const auto isOf = [waiter](const Entry &entry) { return entry.waiter == waiter; };
+    m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), isOf), m_entries.end());
+}
+
+// A wait of nothing that a callback begins ends in the next turn, not in this one.
+void PlaySchedule::Fire()
+{
+    quint64 expirations = 0;
+    if (::read(m_timer, &expirations, sizeof expirations) < 0)
+        return;
+    const qint64 begun = Now();
+    m_isFiring = true;
+    while (const Due due = TakeDue(begun)) {
+        due();
+        if (Now() - begun > kLongestTurn)
+            break;
+    }
+    m_isFiring = false;
+    Arm();
+}
+
+PlaySchedule::Due PlaySchedule::TakeDue(qint64 now)
+{
+    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
+                                    [now](const Entry &entry) { return entry.deadline <= now; });
+    if (found == m_entries.end())
+        return nullptr;
+    const Due due = std::move(found->due);
+    m_entries.erase(found);
+    return due;
+}
+
+void PlaySchedule::Arm()
+{
+    if (m_isFiring || m_entries.isEmpty())
+        return;
+    qint64 first = std::numeric_limits<qint64>::max();
+    for (const Entry &entry : qAsConst(m_entries))
+        first = std::min(first, entry.deadline);
+    qint64 last = first;
+    for (const Entry &entry : qAsConst(m_entries)) {
+        if (entry.deadline <= first + kTogether)
+            last = std::max(last, entry.deadline);
+    }
+    itimerspec time {};
+    time.it_value.tv_sec = static_cast<time_t>(last / kSecond);
+    time.it_value.tv_nsec = static_cast<long>(last % kSecond);
+    ::timerfd_settime(m_timer, TFD_TIMER_ABSTIME, &time, nullptr);
+}
+
+} // namespace Lw
