@@ -155,7 +155,7 @@ void Playback::ShowOverlay()
     m_window.SetOverlay(overlay.join(QStringLiteral("\n\n")));
 }
 
-QString Playback::Status() const
+QString Playback::Status()
 {
     const TimeTravel &travel = StageTime::Travel();
     const QVector<Lw::HNodeClock::ZoneSettings> clocks = Clocks();
@@ -168,7 +168,7 @@ QString Playback::Status() const
         status.clockNumber = m_clock % clocks.size() + 1;
         status.clock = clocks[status.clockNumber - 1];
     }
-    return StatusText(status);
+    return StatusText(status, m_zoneMemory);
 }
 
 QVector<Lw::HNodeClock::ZoneSettings> Playback::Clocks() const

@@ -52,7 +52,7 @@ private:
     void ShowStatus();
     void ShowTitle();
     void ShowOverlay();
-    QString Status() const;
+    QString Status();
     QVector<Lw::HNodeClock::ZoneSettings> Clocks() const;
 
     std::unique_ptr<ClockStage::Stage> m_stage;
@@ -62,6 +62,7 @@ private:
     DeadlineMeter m_meter;
     std::optional<SeenFrame> m_drawn; ///< on its way to the display
     ClockStage::ClockSteps m_clockSteps;
+    ClockStage::ZoneMemory m_zoneMemory;
     QElapsedTimer m_sinceTitle;
     int m_clock = 0; ///< that the status tells of
     bool m_showsStatus = false;

@@ -55,9 +55,9 @@ QString TravelText(const Status &status)
     return text;
 }
 
-QString ClockText(const Status &status)
+QString ClockText(const Status &status, ZoneMemory &memory)
 {
-    const int offset = OffsetAt(*status.clock, status.instant);
+    const int offset = memory.OffsetAt(*status.clock, status.instant);
     const QString reading =
         PlainText(Utc(status.instant + offset * kMillisecondsPerSecond), "yyyy-MM-dd HH:mm:ss ")
         + OffsetText(offset);
@@ -69,9 +69,9 @@ QString ClockText(const Status &status)
         .arg(reading);
 }
 
-QString ChangeText(const Status &status)
+QString ChangeText(const Status &status, ZoneMemory &memory)
 {
-    const std::optional<ZoneChange> change = NextChange(*status.clock, status.instant);
+    const std::optional<ZoneChange> change = memory.NextChange(*status.clock, status.instant);
     if (!change)
         return QStringLiteral("no daylight saving");
     const auto timeOfDay = [&change](int offset) {
@@ -99,11 +99,36 @@ std::optional<ZoneSettings> SettingsOf(Lw::HNode *node)
     return settings;
 }
 
-QString StatusText(const Status &status)
+int ZoneMemory::OffsetAt(const ZoneSettings &zone, qint64 instant)
+{
+    Learn(zone, instant);
+    return m_offset;
+}
+
+std::optional<ZoneChange> ZoneMemory::NextChange(const ZoneSettings &zone, qint64 instant)
+{
+    Learn(zone, instant);
+    return m_change;
+}
+
+void ZoneMemory::Learn(const ZoneSettings &zone, qint64 instant)
+{
+    const bool isKnown = zone.offset == m_zone.offset && zone.start == m_zone.start
+        && zone.end == m_zone.end && instant >= m_from && instant < m_until;
+    if (isKnown)
+        return;
+    m_zone = zone;
+    m_offset = Lw::HNodeClock::OffsetAt(zone, instant);
+    m_change = Lw::HNodeClock::NextChange(zone, instant);
+    m_from = instant;
+    m_until = m_change ? m_change->instant : instant + kMillisecondsPerDay;
+}
+
+QString StatusText(const Status &status, ZoneMemory &memory)
 {
     QStringList parts {TravelText(status)};
     if (status.clock)
-        parts += {ClockText(status), ChangeText(status)};
+        parts += {ClockText(status, memory), ChangeText(status, memory)};
     return parts.join(QStringLiteral(" | "));
 }
 

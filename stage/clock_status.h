@@ -18,6 +18,26 @@ namespace ClockStage {
 /// a node that is not a clock.
 std::optional<Lw::HNodeClock::ZoneSettings> SettingsOf(Lw::HNode *node);
 
+/// What a clock adds to UTC and when that changes. It is kept as long as it holds: the search for
+/// the next change costs more than a frame.
+class ZoneMemory
+{
+public:
+    /// Seconds at an instant, UTC milliseconds.
+    int OffsetAt(const Lw::HNodeClock::ZoneSettings &zone, qint64 instant);
+    std::optional<Lw::HNodeClock::ZoneChange> NextChange(const Lw::HNodeClock::ZoneSettings &zone,
+                                                         qint64 instant);
+
+private:
+    void Learn(const Lw::HNodeClock::ZoneSettings &zone, qint64 instant);
+
+    Lw::HNodeClock::ZoneSettings m_zone;
+    qint64 m_from = 0;
+    qint64 m_until = 0; ///< m_from where nothing is known
+    int m_offset = 0;
+    std::optional<Lw::HNodeClock::ZoneChange> m_change;
+};
+
 struct Status
 {
     qint64 instant = 0; ///< UTC milliseconds
@@ -30,6 +50,6 @@ struct Status
 
 /// Such as "2024-03-31T00:59:58Z paused | clock 2 of 4: 2024-03-31 01:59:58 +01:00 | daylight
 /// saving begins 2024-03-31T01:00:00Z: 02:00:00 becomes 03:00:00".
-QString StatusText(const Status &status);
+QString StatusText(const Status &status, ZoneMemory &memory);
 
 } // namespace ClockStage

@@ -32,6 +32,7 @@ private slots:
     void SettingsOfNodes();
     void StatusTexts_data();
     void StatusTexts();
+    void MemoryFollowsInstantAndSettings();
 };
 
 void TestClockStatus::SettingsOfNodes()
@@ -83,7 +84,29 @@ void TestClockStatus::StatusTexts()
 {
     QFETCH(Status, status);
     QFETCH(QString, text);
-    QCOMPARE(StatusText(status), text);
+    ZoneMemory memory;
+    QCOMPARE(StatusText(status, memory), text);
+    QCOMPARE(StatusText(status, memory), text); // as it is kept
+}
+
+// Whatever was asked before, the answers are those of the calculation.
+void TestClockStatus::MemoryFollowsInstantAndSettings()
+{
+    const qint64 march = Instant("2024-03-31T00:59:59");
+    const ZoneSettings tokyo {9 * 3600, QString(), QString()};
+    const QVector<qint64> instants {
+        march,           march + 1000, march, march + 200LL * 86400000, march - 300LL * 86400000,
+        march + 86400000};
+    ZoneMemory memory;
+    for (const qint64 instant : instants) {
+        for (const ZoneSettings &zone : {kBerlin, tokyo}) {
+            QCOMPARE(memory.OffsetAt(zone, instant), OffsetAt(zone, instant));
+            const auto kept = memory.NextChange(zone, instant);
+            const auto found = NextChange(zone, instant);
+            QCOMPARE(kept.has_value(), found.has_value());
+            QCOMPARE(kept ? kept->instant : 0, found ? found->instant : 0);
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(TestClockStatus)
