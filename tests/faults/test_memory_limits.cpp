@@ -385,7 +385,8 @@ void TestMemoryLimits::PlayerUnderALimit()
     const ProcessRun run =
         RunProcess(QStringLiteral("/bin/sh"),
                    {QStringLiteral("-c"), QStringLiteral("ulimit -v 307200; exec \"$0\" \"$@\""),
-                    QStringLiteral(PLAYER), program.fileName(), QStringLiteral("--output"),
+                    QStringLiteral(PLAYER), program.fileName(),
+                    QStringLiteral("--large-frames"), QStringLiteral("--output"),
                     directory.path(), QStringLiteral("--frames"), QStringLiteral("3")});
     QVERIFY(!run.crashed);
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
