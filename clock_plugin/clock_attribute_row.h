@@ -126,7 +126,7 @@ enum class Default {
     Absent,     ///< a new clock does not have the key; only imports and editors write it
 };
 
-/// Whether a write asks for the glyph images to be made again.
+/// Whether a write asks for the glyph images to be regenerated.
 enum class Redraw { No, Yes };
 
 /// The numbers that mean something; where a switch takes any number, the two that are documented.
@@ -164,8 +164,8 @@ struct AttributeRow
     const char *label = ""; ///< a few words that tell it from the clock's other attributes
 };
 
-/// No font above this size, in points, has a line that fits an image. From about twice as much on Qt
-/// draws boxes of a fixed size instead of glyphs, which must not pass for the text.
+/// No font above this size, in points, has a line that fits an image. From about twice as much on
+/// Qt draws boxes of a fixed size instead of glyphs, which must not pass for the text.
 inline constexpr int kLargestFontSize = kImageSide;
 
 // Makers of rows. Each takes the attribute, its key and the clocks it is for, then what only it

@@ -144,7 +144,7 @@ inline constexpr AttributeRow kAttributeTable[] = {
     CodeAttribute(Attribute::DigitalMode, "DigitalMode", ClockKinds::Digital, CodeNames::kHours, 0, Redraw::No, "Hours",
         "Whether the day has twenty-four hours or twice twelve with an AM/PM mark."),
     CodeAttribute(Attribute::DigitalDisplayMode, "DigitalDisplayMode", ClockKinds::Digital, CodeNames::kLayouts, 0, Redraw::No, "Layout",
-        "Whether each text has a row of its own or all stand on one line."),
+        "Whether each text has a row of its own or all are on one line."),
     ShownAttribute(Attribute::Digital_TopTexy_d, "Digital_TopTexy_d", ClockKinds::Digital, Redraw::No, "Show the top text",
         "Whether the top text is shown."),
     ShownAttribute(Attribute::Digital_Date_d, "Digital_Date_d", ClockKinds::Digital, Redraw::No, "Show the date",

@@ -13,7 +13,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-/// Two draws whose mean lies in 0..999: numbers in the middle come up more often.
+/// The mean of two draws from 0 to 999: numbers in the middle are more frequent.
 int DrawIdentity()
 {
     const auto draw = [] {
@@ -64,7 +64,7 @@ int HClockNode::Duration()
     return 6000;
 }
 
-// A listener of the redraws may delete the node half way.
+// A listener of the redraws may delete the node while it is filled.
 void HClockNode::InitData()
 {
     const QPointer<HClockNode> self(this);

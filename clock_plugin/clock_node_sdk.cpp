@@ -194,8 +194,7 @@ bool HClockNode::PatchDigital(QDomElement &element)
     return true;
 }
 
-// A listener of the redraws may delete the node half way; what is left of the element then has
-// nowhere to go.
+// A listener of the redraws may delete the node; the rest of the element is then ignored.
 void HClockNode::Import(const QDomElement &clock, const ImportElement *begin,
                         const ImportElement *end)
 {
@@ -212,7 +211,7 @@ void HClockNode::Import(const QDomElement &clock, const ImportElement *begin,
     }
 }
 
-// Every write goes by the attribute table: it says whether the glyph images must be made again.
+// The attribute table says whether a write asks for the glyph images to be regenerated.
 void HClockNode::Apply(Attribute target, Conversion conversion, const QString &text)
 {
     switch (conversion) {

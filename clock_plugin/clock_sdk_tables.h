@@ -20,13 +20,13 @@ inline constexpr char kAdjust[] = "adjust";
 inline constexpr char kValue[] = "value";
 inline constexpr char kColor[] = "color";
 inline constexpr char kDisplay[] = "display";
-/// The words of the type attribute; each stands at its clock type.
+/// The words of the type attribute, indexed by clock type.
 inline constexpr const char *kTypeNames[] = {"dial", "digital", "picture"};
 } // namespace Sdk
 
 /// How the text of an XML attribute becomes the value of a clock's attribute.
 enum class Conversion {
-    Text,           ///< as it stands
+    Text,           ///< unchanged
     Number,         ///< the whole text as a decimal; 0 when it is none
     InvertedNumber, ///< 1 when the number is 0, else 0
     Flag,           ///< the words "true" and "false"
@@ -151,7 +151,7 @@ inline constexpr ImportElement kDigitalImport[] = {
         {Attribute::Digital_Lunar_d, {Sdk::kDisplay, Conversion::Flag}}}},
 };
 
-/// One font for the whole clock. It leaves the digital families and sizes alone.
+/// One font for the whole clock; the digital families and sizes are not touched.
 inline constexpr ImportElement kFontImport[] = {
     {"font", nullptr, {
         {Attribute::HourScaleFName, {"name"}},

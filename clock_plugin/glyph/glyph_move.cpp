@@ -77,8 +77,8 @@ bool IsSettledByRename(const QString &source, const QString &dest)
         || errno != EXDEV;
 }
 
-/// A rename that also replaces what stands at dest, or a copy whose original goes only after the
-/// copy was read back; QFile::rename removes the original while the copy may still be in its
+/// A rename that also replaces dest, or a copy whose original is removed only after the copy was
+/// read back; QFile::rename removes the original while the copy may still be in its
 /// buffer, and a full device then has neither.
 void MoveOver(const QString &source, const QString &dest, const QString &digest)
 {

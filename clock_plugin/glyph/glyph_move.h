@@ -6,7 +6,7 @@
 namespace Lw::HNodeClock {
 
 /// Moves the image at source to dest, which is named by the digest given. The image is removed only
-/// where the same bytes certainly stand at dest; a dest that does not hold what its name says is
+/// once dest certainly has the same bytes; a dest that does not hold what its name says is
 /// replaced. Of a source that is a symbolic link the contents move and the link goes; the file that
 /// it names stays. Without a digest nothing is touched: source is missing or cannot be read.
 /// Nothing is reported.

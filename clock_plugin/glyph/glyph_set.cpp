@@ -105,7 +105,7 @@ QVector<GlyphImage> GlyphImages(GlyphOrder order, int clockType)
              ++number)
             images.append({&row, number});
     }
-    // Stable: rows that share a place take turns in the order of the table.
+    // Stable: rows that share a place are interleaved in the order of the table.
     std::stable_sort(images.begin(), images.end(),
                      [order](const GlyphImage &a, const GlyphImage &b) {
                          return std::make_tuple(PlaceOf(*a.row, order), a.number)

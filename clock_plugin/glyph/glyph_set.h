@@ -1,8 +1,8 @@
 // The glyph images of a clock: one table of what they are called, what they show and with which
-// font, and in which order they are made and kept account of.
+// font, and in which order they are made and recorded.
 //
-// The generator, the checks for missing files, the export and the loader walk this table; no list
-// of keys stands anywhere else.
+// The generator, the checks for missing files, the export and the loader walk this table; there is
+// no other list of keys.
 #pragma once
 
 #include "clock_attributes.h"
@@ -55,7 +55,7 @@ inline constexpr int kSeparatorCells = 2; ///< comma and slash
 inline constexpr int kLunarCells = 17;
 
 enum class GlyphWording {
-    Verbatim,   ///< drawn as it stands in the table
+    Verbatim,   ///< drawn as the table has it
     Translated, ///< looked up in the context of DrwSourceIMage
     TopText,    ///< the node's own text
 };
@@ -77,7 +77,7 @@ struct GlyphRow
     GlyphClocks clocks;
     bool required;   ///< its absence makes a node incomplete
     bool exported;   ///< it travels with the program
-    int generation;  ///< place in the order of making; rows of one place take turns by number
+    int generation;  ///< place in the order of making; rows of one place are interleaved by number
     int bookkeeping; ///< place in the order of checking and exporting, likewise
     const char *texts[12];
 };

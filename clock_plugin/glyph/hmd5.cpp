@@ -125,8 +125,8 @@ QString HMD5::GeneratorFile(QString path)
     const QFileInfo old(path);
     const QString renamed =
         old.absolutePath() + QLatin1Char('/') + digest + QLatin1Char('.') + old.suffix();
-    // What stands under that name is never replaced, so that a file reached by another spelling of
-    // its own path is not lost. Qt takes a link that leads nowhere for no file, and then writes
+    // An existing file of that name is never replaced, so that a file reached by another spelling
+    // of its own path is not lost. Qt takes a link that leads nowhere for no file, and then writes
     // where it leads.
     if (renamed != path && !QFileInfo(renamed).isSymLink())
         file.rename(renamed);

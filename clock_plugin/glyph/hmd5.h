@@ -13,7 +13,7 @@ public:
     /// Renames a file, within its directory, to its digest in lowercase hexadecimal, a full stop
     /// and its old suffix. Returns the new absolute path, or a null text for a file that cannot be
     /// read. A rename that fails is silent, and both files stay; the usual case is that an
-    /// identical file stands there already. One file object serves all calls: not to be entered
+    /// identical file is there already. One file object serves all calls: not to be entered
     /// from two threads.
     static QString GeneratorFile(QString path);
 
