@@ -2,7 +2,7 @@
 
 #include <QDataStream>
 #include <QFont>
-#include <QFontDatabase>
+#include <QFontMetrics>
 #include <QScreen>
 
 namespace Lw::HNodeClock {
@@ -97,10 +97,11 @@ void GlyphMemory::Forget()
     m_hasFonts.reset();
 }
 
+// Qt lists families of its own where the system has none.
 bool GlyphMemory::HasFonts()
 {
     if (!m_hasFonts)
-        m_hasFonts = !QFontDatabase().families().isEmpty();
+        m_hasFonts = QFontMetrics(QGuiApplication::font()).inFont(QLatin1Char('0'));
     return *m_hasFonts;
 }
 

@@ -72,7 +72,7 @@ public:
     void Keep(const GlyphContent &content, const DrawnGlyph &glyph);
     void Forget();
 
-    /// Whether any font is installed.
+    /// Whether any font is installed; one without digits is as good as none.
     bool HasFonts();
 
     /// How many images the process has drawn and encoded.

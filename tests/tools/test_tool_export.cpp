@@ -75,6 +75,7 @@ private slots:
     void RefusesToReplaceTheProgram();
     void FaultyImagesAreReported_data();
     void FaultyImagesAreReported();
+    void SystemWithoutFonts();
     void FailureLeavesEarlierExport();
 
 private:
@@ -326,6 +327,21 @@ void TestToolExport::FaultyImagesAreReported()
     QCOMPARE(run.exitCode, exitCode);
     QVERIFY2(run.errors.contains(message), qPrintable(run.errors));
     QCOMPARE(QFile::exists(directory.filePath("out/program.xml")), exitCode == 0);
+}
+
+void TestToolExport::SystemWithoutFonts()
+{
+    const QTemporaryDir directory;
+    const QString program = directory.filePath("in.xml");
+    const QString fonts = directory.filePath("fonts.conf");
+    QVERIFY(WriteText(program, ProgramOf("<clock type=\"digital\" timezone=\"+00:00\"/>")));
+    QVERIFY(WriteText(fonts, "<fontconfig/>"));
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("FONTCONFIG_FILE", fonts);
+    const ProcessRun run = RunProcess(QStringLiteral(TOOL),
+                                      {"export", program, directory.filePath("out")}, environment);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains("no font is installed"), qPrintable(run.errors));
 }
 
 void TestToolExport::FailureLeavesEarlierExport()
