@@ -30,7 +30,7 @@ void CheckProgram(const Program &program)
 void CheckNodes(const Program &program, const MadeNodes &made)
 {
     Fuzz::Expect(made.nodes.size() == static_cast<std::size_t>(program.areas.size()),
-                 "a node an area");
+                 "one node per area");
     QSet<int> ids;
     for (const MadeNode &node : made.nodes)
         ids.insert(node.node->GetAttributeToInt(kIdKey));
@@ -42,20 +42,19 @@ void CheckNodes(const Program &program, const MadeNodes &made)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray contents(reinterpret_cast<const char *>(data), static_cast<int>(size));
-    const auto read = ParseProgram(contents, Fuzz::Directory() + QStringLiteral("program.xml"));
-    const auto *const program = std::get_if<Program>(&read);
-    if (!program)
+    const Result<Program> read =
+        ParseProgram(contents, Fuzz::Directory() + QStringLiteral("program.xml"));
+    if (!read)
         return 0;
-    CheckProgram(*program);
+    CheckProgram(*read);
     Lw::HNodeClock::HNodeClock plugin;
     const PluginFinder find = [&plugin](QDomElement &element) -> Lw::INodePlugin * {
         return plugin.PluginMatch(element) ? &plugin : nullptr;
     };
-    auto making = MakeNodes(*program, find);
-    auto *const made = std::get_if<MadeNodes>(&making);
+    Result<MadeNodes> made = MakeNodes(*read, find);
     if (!made)
         return 0;
-    CheckNodes(*program, *made);
-    ResolveCarriedFiles(*program, *made);
+    CheckNodes(*read, *made);
+    ResolveCarriedFiles(*read, *made);
     return 0;
 }

@@ -42,9 +42,9 @@ bool IsOrdinary(const struct stat &status)
     return S_ISREG(status.st_mode);
 }
 
-/// Opens an ordinary file; what is wrong where it cannot be. Devices are not even opened. What the
-/// name stands for may change in between, so the file is opened without waiting for a pipe's writer
-/// and is asked again what it is.
+/// Opens an ordinary file; otherwise returns what is wrong. Devices are not opened at all. The name
+/// may be another file's between the two calls, so a pipe must not block, and the open file is
+/// checked.
 QString Open(QFile &file, const QString &path, struct stat &status)
 {
     const QByteArray name = QFile::encodeName(path);

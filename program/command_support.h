@@ -21,7 +21,7 @@ inline constexpr char kLanguage[] = "language";
 inline constexpr char kSharedEnvironment[] =
     "  LC_ALL, LC_MESSAGES, LANG  language of the clocks' wording without --language;\n"
     "                             the first that is set\n"
-    "  QT_FONT_DPI                dots an inch, for sizes in points; 96 where it is unset\n"
+    "  QT_FONT_DPI                dots per inch, for sizes in points; 96 where it is unset\n"
     "  TMPDIR                     where temporary directories are made\n";
 
 /// --help and --version.
@@ -33,11 +33,11 @@ void AddLanguageOption(QCommandLineParser &parser);
 /// A failure for a language that has no catalogue.
 MaybeFailure CheckLanguage(const QString &language);
 
-/// What --help writes. The usage follows "Usage: ", and stands in place of Qt's own first line,
-/// which has the path that the program was called by and knows nothing of subcommands.
+/// The text of --help. The usage follows "Usage: " and replaces Qt's own first line, which has the
+/// path of the program and no subcommand.
 QString HelpText(const QCommandLineParser &parser, const QString &usage);
 
-/// Something is wrong with the command line.
+/// A fault of the command line.
 Failure UsageFailure(const QString &text);
 
 /// Writes a text to standard output, at once. A failure says why it could not be written whole.
@@ -46,8 +46,8 @@ MaybeFailure PrintText(const QString &text);
 /// Lines for the person at the shell, on standard error, each behind the program's name.
 void SayAs(const char *program, const QString &text);
 
-/// Text sizes are points: makes them the same number of pixels on every machine, where nobody chose
-/// otherwise. For before the application is made.
+/// Sets 96 dots per inch where QT_FONT_DPI is unset, so that sizes in points are the same number of
+/// pixels on every machine. To be called before the application is constructed.
 void FixFontResolution();
 
 } // namespace ClockProgram

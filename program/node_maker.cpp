@@ -129,9 +129,9 @@ Result<MadeNodes> MakeNodes(const Program &program, const PluginFinder &findPlug
     MadeNodes all;
     for (const ProgramArea &area : program.areas) {
         Result<MadeNode> made = MakeNode(program, area, findPlugin);
-        if (const auto *failure = std::get_if<Failure>(&made))
-            return *failure;
-        all.nodes.push_back(std::move(std::get<MadeNode>(made)));
+        if (!made)
+            return made.Error();
+        all.nodes.push_back(std::move(*made));
     }
     SeparateIds(program, all);
     return all;

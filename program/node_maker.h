@@ -24,7 +24,7 @@ struct MadeNode
 
 struct MadeNodes
 {
-    std::vector<MadeNode> nodes; ///< one an area, in the order of the program
+    std::vector<MadeNode> nodes; ///< one per area, in the order of the program
     QStringList warnings;
 };
 

@@ -146,17 +146,17 @@ MaybeFailure CheckFrameBytes(const Program &program)
 Result<Program> ReadProgram(const QString &path)
 {
     const Result<QByteArray> contents = ReadContents(path);
-    if (const auto *failure = std::get_if<Failure>(&contents))
-        return *failure;
-    return ParseProgram(std::get<QByteArray>(contents), path);
+    if (!contents)
+        return contents.Error();
+    return ParseProgram(*contents, path);
 }
 
 Result<Program> ParseProgram(const QByteArray &contents, const QString &path)
 {
     const Result<QDomDocument> document = ParseDocument(contents, path);
-    if (const auto *failure = std::get_if<Failure>(&document))
-        return *failure;
-    return InterpretProgram(std::get<QDomDocument>(document), path);
+    if (!document)
+        return document.Error();
+    return InterpretProgram(*document, path);
 }
 
 Result<Program> InterpretProgram(const QDomDocument &document, const QString &path)

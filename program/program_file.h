@@ -1,4 +1,4 @@
-// A content program as it stands in its file: a screen, and areas with one element each.
+// A content program as its file describes it: a screen, and areas with one element each.
 //
 //     <program width="256" height="64">
 //       <area x="0" y="0" width="256" height="64">
@@ -6,8 +6,8 @@
 //       </area>
 //     </program>
 //
-// What the element means is its plugin's business. Its "attribute" children are the player's: they
-// set attributes of the node as text, after the plugin has read the element.
+// The element is read by its plugin. Its "attribute" children are read by the player: they set
+// attributes of the node as text, after the plugin has read the element.
 #pragma once
 
 #include "failure.h"

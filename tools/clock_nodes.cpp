@@ -17,14 +17,14 @@ Lw::INodePlugin *FindPlugin(QDomElement &element)
 
 Result<ProgramClocks> MakeClocks(const Result<Program> &program)
 {
-    if (const auto *failure = std::get_if<Failure>(&program))
-        return *failure;
+    if (!program)
+        return program.Error();
     ProgramClocks clocks;
-    clocks.program = std::get<Program>(program);
+    clocks.program = *program;
     Result<MadeNodes> made = ClockProgram::MakeNodes(clocks.program, FindPlugin);
-    if (const auto *failure = std::get_if<Failure>(&made))
-        return *failure;
-    clocks.made = std::move(std::get<MadeNodes>(made));
+    if (!made)
+        return made.Error();
+    clocks.made = std::move(*made);
     for (const QString &warning : qAsConst(clocks.made.warnings))
         Say(warning);
     return clocks;

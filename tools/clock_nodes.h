@@ -19,7 +19,7 @@ struct ProgramClocks
     int Count() const { return program.areas.size(); }
 };
 
-/// Reads a program and makes its clocks. Warnings are said.
+/// Reads a program and makes its clocks. Warnings are printed.
 Result<ProgramClocks> ReadClocks(const QString &path);
 
 /// The same from a program's text.

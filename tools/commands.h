@@ -13,7 +13,7 @@ using ClockProgram::Failure;
 using ClockProgram::MaybeFailure;
 using ClockProgram::Result;
 
-/// How a subcommand ended; what there was to say is said.
+/// How a subcommand ended; messages have been printed.
 using CommandResult = ExitCode;
 
 /// The arguments begin with "clock_tool NAME".
@@ -30,7 +30,7 @@ CommandResult RunSelfTest(const QStringList &arguments);
 /// A line for the person at the shell, on standard error.
 void Say(const QString &text);
 
-/// Says why, and gives the code to end with.
+/// Prints the reason and returns the exit code.
 CommandResult Report(const Failure &failure);
 
 } // namespace ClockTool

@@ -55,7 +55,7 @@ QString TableOf(const QStringList &families)
 CommandResult RunFonts(const QStringList &arguments)
 {
     ToolArguments tool(QStringLiteral("fonts"), QString::fromLatin1(kDescription));
-    tool.AddPositional(QStringLiteral("[FAMILY]..."), QStringLiteral("The fonts to look at."));
+    tool.AddPositional(QStringLiteral("[FAMILY]..."), QStringLiteral("The fonts to check."));
     tool.AddOutput();
     if (const auto ended = tool.Parse(arguments))
         return *ended;

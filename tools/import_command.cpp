@@ -24,7 +24,7 @@ namespace {
 using namespace ClockProgram;
 
 constexpr char kDescription[] =
-    "Makes a program from SDK XML. Every clock element, wherever it stands in the document, gets\n"
+    "Makes a program from SDK XML. Every clock element, anywhere in the document, gets\n"
     "an area of its own. Areas are stacked; where the screen would get too high they go on in\n"
     "further columns. What an element says is kept, colours with six digits.";
 
@@ -174,19 +174,18 @@ Failure BadSize(const ToolArguments &tool)
 Result<QByteArray> ImportFile(const QString &path, QSize size)
 {
     const Result<QByteArray> contents = ReadContents(path);
-    if (const auto *failure = std::get_if<Failure>(&contents))
-        return *failure;
-    Result<QDomDocument> sdk = ParseDocument(std::get<QByteArray>(contents), path);
-    if (const auto *failure = std::get_if<Failure>(&sdk))
-        return *failure;
-    auto &document = std::get<QDomDocument>(sdk);
-    const QVector<QDomElement> clocks = ClocksIn(document.documentElement());
+    if (!contents)
+        return contents.Error();
+    Result<QDomDocument> sdk = ParseDocument(*contents, path);
+    if (!sdk)
+        return sdk.Error();
+    const QVector<QDomElement> clocks = ClocksIn(sdk->documentElement());
     if (const MaybeFailure failure = CheckClocks(clocks, path))
         return *failure;
-    const QByteArray program = WriteXml(ProgramOf(document, clocks, size));
-    const Result<Program> check = ParseProgram(program, QStringLiteral("the program made"));
-    if (const auto *failure = std::get_if<Failure>(&check))
-        return *failure;
+    const QByteArray program = WriteXml(ProgramOf(*sdk, clocks, size));
+    const Result<Program> check = ParseProgram(program, QStringLiteral("the resulting program"));
+    if (!check)
+        return check.Error();
     SayWhatIsNotCarried(clocks, path);
     return program;
 }
@@ -207,9 +206,9 @@ CommandResult RunImport(const QStringList &arguments)
     if (!size)
         return Report(BadSize(tool));
     const Result<QByteArray> program = ImportFile(tool.Positional(0), *size);
-    if (const auto *failure = std::get_if<Failure>(&program))
-        return Report(*failure);
-    return Deliver(tool.Output(), std::get<QByteArray>(program));
+    if (!program)
+        return Report(program.Error());
+    return Deliver(tool.Output(), *program);
 }
 
 } // namespace ClockTool

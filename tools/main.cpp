@@ -19,15 +19,15 @@ struct Command
 };
 
 constexpr Command kCommands[] = {
-    {"lint", RunLint, "check programs, and say what their clocks would not read"},
+    {"lint", RunLint, "check programs, and report what their clocks would not read"},
     {"sdk", RunSdk, "write the SDK XML of a program's clocks"},
     {"import", RunImport, "make a program from SDK XML"},
-    {"export", RunExport, "write a program with its glyph files, ready to be carried away"},
-    {"glyphs", RunGlyphs, "list the glyph images of a program, and which clocks share them"},
+    {"export", RunExport, "write a program with its glyph files, ready to be copied"},
+    {"glyphs", RunGlyphs, "list the glyph images of a program and the clocks that share them"},
     {"attributes", RunAttributes, "write the reference table of the clock's attributes"},
-    {"fonts", RunFonts, "say at which sizes the digits of a font can be read"},
-    {"zone", RunZone, "say what to set for a zone's time, and whether a clock can have it"},
-    {"self-test", RunSelfTest, "try calendars, daylight saving and drawing on this device"},
+    {"fonts", RunFonts, "list the sizes at which the digits of a font can be read"},
+    {"zone", RunZone, "write the settings for a zone's time, and whether they are exact"},
+    {"self-test", RunSelfTest, "check calendars, daylight saving and drawing on this device"},
 };
 
 QString HelpText()
@@ -57,7 +57,7 @@ QString HelpText()
         + QLatin1String(ClockProgram::kSharedEnvironment);
 }
 
-/// Qt remarks on the environment of a desktop, which matters to nobody here.
+/// Drops what Qt says of a missing desktop environment.
 void KeepFatalMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtFatalMsg)

@@ -13,9 +13,10 @@ namespace ClockTool {
 namespace {
 
 constexpr char kDescription[] =
-    "Writes the SDK XML of a program's clocks: one document element, and in it one element a\n"
-    "clock, in the order of the program. Fonts, sizes, spacing, layout and the areas are not part\n"
-    "of that form; of a picture clock it has zone and adjustment only.";
+    "Writes the SDK XML of a program's clocks: one document element that holds one element per\n"
+    "clock, in the order of the program. That form has no fonts, sizes, spacing, layout and "
+    "areas,\n"
+    "and of a picture clock zone and adjustment only.";
 
 // The SDK's own documents have the clocks in other elements; this one only holds them.
 constexpr char kRoot[] = "clocks";
@@ -29,18 +30,17 @@ CommandResult RunSdk(const QStringList &arguments)
     tool.AddOutput();
     if (const auto ended = tool.Parse(arguments))
         return *ended;
-    const Result<ProgramClocks> read = ReadClocks(tool.Positional(0));
-    if (const auto *failure = std::get_if<Failure>(&read))
-        return Report(*failure);
-    const auto &clocks = std::get<ProgramClocks>(read);
+    const Result<ProgramClocks> clocks = ReadClocks(tool.Positional(0));
+    if (!clocks)
+        return Report(clocks.Error());
 
     QDomDocument document;
     QDomElement root = document.createElement(QLatin1String(kRoot));
-    for (int i = 0; i < clocks.Count(); ++i) {
-        Lw::HNodeClock::HClockNode &clock = clocks.Clock(i);
+    for (int i = 0; i < clocks->Count(); ++i) {
+        Lw::HNodeClock::HClockNode &clock = clocks->Clock(i);
         if (clock.ClockType() == Lw::HNodeClock::PictureClock)
             Say(ClockProgram::AtElement(
-                clocks.program.path, clocks.program.areas[i].element,
+                clocks->program.path, clocks->program.areas[i].element,
                 QStringLiteral("a picture clock is written without its kind: it would come back "
                                "as an analog clock")));
         clock.CoverToSDKFormate(root, Lw::ProgramForController);

@@ -1,4 +1,4 @@
-// What somebody may have meant.
+// Suggestions for words that are not known.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,7 @@ namespace ClockTool {
 int EditDistance(const QString &one, const QString &other);
 
 /// The candidate nearest to a word, without regard to case; empty when none is near enough to be
-/// a slip of the pen.
+/// a typing error.
 QString Nearest(const QString &word, const QStringList &candidates);
 
 /// "; did you mean "x"?" where a candidate is near, else "; accepted: " and all of them.

@@ -9,7 +9,7 @@
 
 namespace ClockTool {
 
-/// What a subcommand takes: a description, named arguments in their order, and options.
+/// The description, named arguments and options of a subcommand.
 class ToolArguments
 {
 public:
@@ -26,8 +26,8 @@ public:
     void AddOutput();   ///< -o FILE
     void AddLanguage(); ///< --language, for commands that make glyph images
 
-    /// Reads the arguments, which begin with "clock_tool NAME". The code to end with when there is
-    /// nothing left to do: after --help and --version, and after a fault.
+    /// Reads the arguments, which begin with "clock_tool NAME". Returns an exit code when nothing
+    /// is left to do: after --help, --version and errors.
     std::optional<CommandResult> Parse(const QStringList &arguments);
 
     QStringList Positionals() const { return m_parser.positionalArguments(); }

@@ -1,5 +1,5 @@
-// XML as people read it: indented, and with attributes in alphabetical order, so that the same
-// content is always the same text.
+// Indented XML with attributes in alphabetical order, so that the same content is always the same
+// text.
 #pragma once
 
 #include <QByteArray>

@@ -18,7 +18,7 @@ struct DigitShape
 };
 
 /// The shape of the ink of a picture with transparency; ink is what is not transparent. Areas of
-/// less than a four-hundredth of the square of the ink's height are specks, which nobody sees:
+/// less than a four-hundredth of the square of the ink's height are specks and not counted:
 /// below 20 pixels there are none.
 DigitShape ShapeOf(const QImage &picture);
 

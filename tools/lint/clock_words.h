@@ -28,7 +28,7 @@ QVector<Reading> ReadingsOf(int clockType, const QString &element, const QString
 /// read: "format" for the "value" of a "date". Empty for all others.
 QString ReadInPlaceOf(int clockType, const QString &element, const QString &attribute);
 
-/// The element that is read in place of this one wherever it stands; empty for most.
+/// The element that is read instead of this one where both are present; empty for most.
 QString ShadowOf(int clockType, const QString &element);
 
 } // namespace ClockTool

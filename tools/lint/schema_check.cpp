@@ -56,7 +56,7 @@ QString ElementOf(ErrorPointer error)
                 : QString();
 }
 
-/// What an error says of the element that it stands at; empty where it only says that something
+/// What an error says of its own element; empty where it only says that something
 /// within an element, or beside it, is wrong.
 QString Said(ErrorPointer error)
 {

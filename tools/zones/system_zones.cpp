@@ -40,7 +40,7 @@ qint64 MidnightOf(const QDate &date)
     return QDateTime(date, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
 }
 
-/// Nothing that reaches outside the folder of zones.
+/// Such a name cannot lead out of the directory of zones.
 bool IsZoneName(const QByteArray &name)
 {
     static const QRegularExpression form(

@@ -38,8 +38,8 @@ bool HasZoneData(const QList<QByteArray> &names);
 /// A zone's civil time over a span; nothing for a name that the system does not know.
 std::optional<CivilTime> CivilTimeOf(const QByteArray &zone, const Span &span);
 
-/// The zone that somebody may have meant by an unknown name: a city without its continent, one that
-/// shares the zone of another city, or a slip of the pen. Empty when there is none.
+/// The zone that an unknown name may be meant for: a city without its continent, one that
+/// shares the zone of another city, or a typing error. Empty when there is none.
 QString NearestZone(const QString &name);
 
 /// A zone of which settings give the civil time over the whole span, a much used one where there
