@@ -7,6 +7,7 @@
 #include "command_support.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 
 namespace ClockPlayer {
 
@@ -34,6 +35,8 @@ public:
         ReadOutput();
         ReadWatch();
         ReadLedPitch();
+        ReadKiosk();
+        ReadPlacing();
         ReadInstant();
         ReadSpeed();
         ReadLanguage();
@@ -112,6 +115,42 @@ private:
         if (IsSet(kLed) && IsSet(kMagnify))
             Fail(QStringLiteral("--%1 and --%2 exclude each other")
                      .arg(QLatin1String(kLed), QLatin1String(kMagnify)));
+    }
+
+    void ReadKiosk()
+    {
+        m_options.isKiosk = IsSet(kKiosk);
+        m_options.requiresTime = IsSet(kRequireTime);
+        m_options.statusFile = Text(kStatusFile);
+        const QString runtime = qEnvironmentVariable("RUNTIME_DIRECTORY");
+        if (m_options.isKiosk && m_options.statusFile.isEmpty() && !runtime.isEmpty())
+            m_options.statusFile = runtime + QStringLiteral("/status.json");
+        if (m_options.requiresTime && !m_options.isKiosk)
+            Fail(QStringLiteral("--%1 needs --%2")
+                     .arg(QLatin1String(kRequireTime), QLatin1String(kKiosk)));
+        for (const char *option : {kKiosk, kOffset, kRotate, kStatusFile}) {
+            if (IsSet(option) && m_options.WritesFrames())
+                Fail(QStringLiteral("--%1 is for a window, not for --%2")
+                         .arg(QLatin1String(option), QLatin1String(kOutput)));
+        }
+    }
+
+    void ReadPlacing()
+    {
+        if (IsSet(kRotate)) {
+            ReadNumber(kRotate, 0, 270, m_options.turn);
+            if (m_options.turn % 90 != 0)
+                Fail(QStringLiteral("--%1 needs 90, 180 or 270, not \"%2\"")
+                         .arg(QLatin1String(kRotate), Value(kRotate)));
+        }
+        if (!IsSet(kOffset))
+            return;
+        static const QRegularExpression form(QStringLiteral("\\A(-?[0-9]{1,5}),(-?[0-9]{1,5})\\z"));
+        const QRegularExpressionMatch match = form.match(Value(kOffset));
+        if (!match.hasMatch())
+            Fail(QStringLiteral("--%1 needs two whole numbers such as 16,-8, not \"%2\"")
+                     .arg(QLatin1String(kOffset), Value(kOffset)));
+        m_options.offset = {match.captured(1).toInt(), match.captured(2).toInt()};
     }
 
     void ReadSpeed()

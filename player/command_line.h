@@ -3,6 +3,7 @@
 
 #include "failure.h"
 
+#include <QPoint>
 #include <QString>
 #include <QStringList>
 
@@ -32,6 +33,11 @@ struct Options
     double speed = 1;      ///< seconds of the clocks for each real one
     std::optional<qint64> startInstant; ///< UTC milliseconds; nothing: the system's time
     bool usesFiles = false;             ///< the glyph files that came with the program
+    QPoint offset;                      ///< of the picture in its window, pixels
+    int turn = 0;                       ///< of the picture, degrees clockwise: 0, 90, 180 or 270
+    QString statusFile;                 ///< empty: none
+    bool isKiosk = false;               ///< nobody attends the device
+    bool requiresTime = false;          ///< shows no clock until the device's clock is set
     bool allowsLargeFrames = false;     ///< beyond ClockProgram::kUsualFrameBytes
     bool watchesProgram = false;        ///< plays the file again whenever it changes
     bool printsStats = false;           ///< of the deadline meter, at the end

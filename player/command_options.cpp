@@ -84,6 +84,19 @@ constexpr OptionRow kOptions[] = {
     {kWatch, nullptr, nullptr,
      "Play the program file again whenever it changes or is replaced. While it is broken the last "
      "good program plays on, and a message says why."},
+    {kKiosk, nullptr, nullptr,
+     "For devices that nobody attends: the whole screen, no cursor, no keys. What cannot be played "
+     "gives a notice with a short code on the screen and is tried again; SIGHUP reads the program "
+     "again; a framebuffer is blanked when no more seconds come."},
+    {kRequireTime, nullptr, nullptr,
+     "Show a notice instead of clocks until the device's clock is set. With --kiosk."},
+    {kOffset, nullptr, "X,Y",
+     "Place the picture that many pixels from the left and the top of the window; either may be "
+     "negative."},
+    {kRotate, nullptr, "degrees", "Turn the picture clockwise by 90, 180 or 270 degrees."},
+    {kStatusFile, nullptr, "file",
+     "Keep a JSON object about what plays in <file>, replaced each minute, at each fault and on "
+     "SIGUSR1 (default with --kiosk: status.json in RUNTIME_DIRECTORY, where that is set)."},
     {kLargeFrames, nullptr, nullptr,
      "Play a program whose frames take more than 256 MiB of memory too."},
     {kPluginDir, nullptr, "directory",

@@ -2,18 +2,26 @@
 #include "player.h"
 
 #include "command_support.h"
+#include "player_window.h"
 #include "work_directory.h"
 
 #include <QGuiApplication>
+#include <QTimer>
 
 #include <cstdlib>
+
+#include <unistd.h>
 
 namespace {
 
 using namespace ClockPlayer;
 using namespace ClockProgram;
 
+constexpr unsigned int kPauseSeconds = 2;
+constexpr int kNoticeMilliseconds = 10000;
+
 QtMessageHandler g_defaultHandler = nullptr;
+char **g_kioskArguments = nullptr; // null: not a kiosk
 
 void Say(const QString &text)
 {
@@ -24,6 +32,25 @@ int Report(const Failure &failure)
 {
     Say(failure.text);
     return static_cast<int>(failure.code);
+}
+
+// In a kiosk: the process begins again, for what was missing may have come.
+void StartAgain()
+{
+    if (!g_kioskArguments)
+        return;
+    RemoveWorkDirectory();
+    ::sleep(kPauseSeconds);
+    ::execv("/proc/self/exe", g_kioskArguments);
+}
+
+void ShowNoticeForAWhile(Notice notice)
+{
+    PlayerWindow window(QStringLiteral("clock_player"));
+    window.ShowNotice(notice);
+    window.ShowAlone();
+    QTimer::singleShot(kNoticeMilliseconds, qApp, &QCoreApplication::quit);
+    QGuiApplication::exec();
 }
 
 int FailWithoutDisplay()
@@ -42,7 +69,9 @@ void NoteComplaint(QtMsgType type, const QMessageLogContext &, const QString &me
     if (type != QtFatalMsg)
         return;
     Say(complaints.join(QLatin1Char('\n')));
-    std::_Exit(FailWithoutDisplay());
+    FailWithoutDisplay();
+    StartAgain();
+    std::_Exit(static_cast<int>(ExitCode::RuntimeFailure));
 }
 
 // Later it ends the process where it lost its display, or cannot go on for another reason.
@@ -72,18 +101,28 @@ void ChoosePlatform(const Options &options)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-int RunOnDisplay(int argc, char **argv, const Options &options, const Program &program,
+int RunOnDisplay(int argc, char **argv, const Options &options, const Result<Program> &program,
                  const FileSignature &signature)
 {
     ChoosePlatform(options);
+    if (options.isKiosk)
+        qputenv("QT_QPA_FB_HIDECURSOR", "1");
     g_defaultHandler = qInstallMessageHandler(NoteComplaint);
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler(EndTidily);
-    if (!QGuiApplication::primaryScreen())
-        return FailWithoutDisplay();
+    if (!QGuiApplication::primaryScreen()) {
+        FailWithoutDisplay();
+        StartAgain();
+        return static_cast<int>(ExitCode::RuntimeFailure);
+    }
     if (options.checkDisplay)
         return static_cast<int>(ExitCode::Success);
     const MaybeFailure failure = Play(options, program, signature, Say);
+    if (failure && options.isKiosk) {
+        Say(failure->text);
+        ShowNoticeForAWhile(Notice::NoPlugin);
+        StartAgain();
+    }
     return failure ? Report(*failure) : static_cast<int>(ExitCode::Success);
 }
 
@@ -97,13 +136,16 @@ int Run(int argc, char **argv)
     if (const auto *failure = std::get_if<Failure>(&commandLine))
         return Report(*failure);
     const Options &options = std::get<Options>(commandLine);
+    if (options.isKiosk)
+        g_kioskArguments = argv;
     if (options.checkDisplay)
         return RunOnDisplay(argc, argv, options, Program(), FileSignature());
     const FileSignature signature = SignatureOf(options.programPath);
     const Result<Program> program = ReadProgram(options.programPath);
-    if (const auto *failure = std::get_if<Failure>(&program))
+    const auto *const failure = std::get_if<Failure>(&program);
+    if (failure && !options.isKiosk)
         return Report(*failure);
-    return RunOnDisplay(argc, argv, options, std::get<Program>(program), signature);
+    return RunOnDisplay(argc, argv, options, program, signature);
 }
 
 } // namespace

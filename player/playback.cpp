@@ -39,6 +39,13 @@ void Playback::Play(std::unique_ptr<Stage> stage)
     ShowStatus();
 }
 
+void Playback::Clear()
+{
+    m_meter.Jumped();
+    m_drawn.reset();
+    m_stage.reset();
+}
+
 void Playback::Obey(const Command &command)
 {
     switch (command.control) {
@@ -88,7 +95,8 @@ void Playback::ShowTravelledTime()
     m_meter.Jumped();
     m_drawn.reset();
     Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
-    m_stage->PlayNext();
+    if (m_stage)
+        m_stage->PlayNext();
 }
 
 // What waits for the end of a second would show the old time until then.
@@ -126,7 +134,7 @@ void Playback::NotePaint(double begun)
         m_meter.Saw(*m_drawn);
         m_drawn.reset();
     }
-    if (m_sinceTitle.hasExpired(kTitleInterval))
+    if (m_stage && m_sinceTitle.hasExpired(kTitleInterval))
         ShowTitle();
     emit Presented();
 }
@@ -174,6 +182,8 @@ QString Playback::Status()
 QVector<Lw::HNodeClock::ZoneSettings> Playback::Clocks() const
 {
     QVector<Lw::HNodeClock::ZoneSettings> clocks;
+    if (!m_stage)
+        return clocks;
     for (Lw::HNode *const node : m_stage->Nodes()) {
         if (const std::optional<Lw::HNodeClock::ZoneSettings> settings = SettingsOf(node))
             clocks.append(*settings);

@@ -36,6 +36,9 @@ public:
     /// Plays a stage that was built. What played before is shown until the first pictures of the
     /// new stage are drawn.
     void Play(std::unique_ptr<ClockStage::Stage> stage);
+    /// Ends what plays; the window shows something else.
+    void Clear();
+    const ClockStage::Stage *Playing() const { return m_stage.get(); } ///< null: nothing plays
     const DeadlineMeter &Meter() const { return m_meter; }
 
 Q_SIGNALS:

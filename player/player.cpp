@@ -111,12 +111,13 @@ void BeginTravel(const Options &options)
         StageTime::Travel().SetSpeed(options.speed, StageTime::Real());
 }
 
-MaybeFailure PlayInWindow(const Options &options, const Program &program,
+MaybeFailure PlayInWindow(const Options &options, const Result<Program> &program,
                           const FileSignature &signature, Playback::Travelling travelling,
                           const Warn &warn)
 {
     Lw::HData::SetRecordObserver(QuitBetweenImages);
-    QuitSignals quitSignals;
+    QuitSignals quitSignals(options.isKiosk ? QuitSignals::Losses::Ignore
+                                            : QuitSignals::Losses::End);
     QObject::connect(&quitSignals, &QuitSignals::Requested, qApp, &QCoreApplication::quit);
     BeginTravel(options);
     WindowShow show(options, travelling, warn);
@@ -179,8 +180,8 @@ MaybeFailure PlayToFiles(const Options &options, const Program &program, const W
 
 } // namespace
 
-MaybeFailure Play(const Options &options, const Program &program, const FileSignature &signature,
-                  const Warn &warn)
+MaybeFailure Play(const Options &options, const Result<Program> &program,
+                  const FileSignature &signature, const Warn &warn)
 {
     ClockCatalogues::InstallChosen(options.language);
     QStringList warnings;
@@ -193,7 +194,7 @@ MaybeFailure Play(const Options &options, const Program &program, const FileSign
         return failure;
     if (const MaybeFailure failure = PrepareFiles(options))
         return failure;
-    return options.WritesFrames() ? PlayToFiles(options, program, warn)
+    return options.WritesFrames() ? PlayToFiles(options, std::get<Program>(program), warn)
                                   : PlayInWindow(options, program, signature, travelling, warn);
 }
 

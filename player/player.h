@@ -9,8 +9,10 @@
 namespace ClockPlayer {
 
 /// Plays on the display until the window is closed or the process is asked to end; or writes the
-/// frames. The signature is the program file's before it was read. Needs a QGuiApplication.
-ClockProgram::MaybeFailure Play(const Options &options, const ClockProgram::Program &program,
+/// frames. Only a kiosk takes a program that could not be read. The signature is the program file's
+/// before it was read. Needs a QGuiApplication.
+ClockProgram::MaybeFailure Play(const Options &options,
+                                const ClockProgram::Result<ClockProgram::Program> &program,
                                 const FileSignature &signature, const Warn &warn);
 
 } // namespace ClockPlayer

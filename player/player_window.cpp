@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 
 namespace ClockPlayer {
 
@@ -46,8 +47,7 @@ void PaintOverlay(QPainter &painter, QSize window, const QString &text)
 
 } // namespace
 
-PlayerWindow::PlayerWindow(const QString &title, const std::optional<LedScreen> &leds)
-    : m_leds(leds)
+PlayerWindow::PlayerWindow(const QString &title, const Placing &placing) : m_view(placing)
 {
     setTitle(title);
 }
@@ -57,12 +57,39 @@ void PlayerWindow::SetStage(const Stage &stage)
     if (m_stage)
         disconnect(m_stage, nullptr, this, nullptr);
     m_stage = &stage;
+    m_notice.reset();
     m_screen = BlackScreen(stage.Size());
-    const QSize size = m_leds ? stage.Size() * m_leds->Pitch() : stage.Size();
-    setMinimumSize(size);
-    resize(size);
+    m_view.SetScreenSize(stage.Size());
+    const QRect picture = m_view.Whole();
+    SetContentSize({picture.right() + 1, picture.bottom() + 1});
     connect(&stage, &Stage::Changed, this, &PlayerWindow::Change);
     update();
+}
+
+void PlayerWindow::SetContentSize(QSize size)
+{
+    if (m_isAlone)
+        return;
+    const QSize visible = size.expandedTo({1, 1});
+    setMinimumSize(visible);
+    resize(visible);
+}
+
+void PlayerWindow::ShowNotice(Notice notice)
+{
+    if (m_stage)
+        disconnect(m_stage, nullptr, this, nullptr);
+    m_stage = nullptr;
+    m_notice = notice;
+    update();
+}
+
+void PlayerWindow::ShowAlone()
+{
+    m_isAlone = true;
+    setCursor(Qt::BlankCursor);
+    setGeometry(screen()->geometry()); // where no window manager does it
+    showFullScreen();
 }
 
 // A second in which nothing changes is presented too, so that it can be counted.
@@ -71,7 +98,7 @@ void PlayerWindow::Change(const QRegion &region)
     if (region.isEmpty())
         requestUpdate();
     for (const QRect &rect : region)
-        update(m_leds ? m_leds->Magnified(rect) : rect);
+        update(m_view.Placed(rect));
 }
 
 void PlayerWindow::SetOverlay(const QString &text)
@@ -97,6 +124,8 @@ bool PlayerWindow::event(QEvent *event)
 
 void PlayerWindow::keyPressEvent(QKeyEvent *event)
 {
+    if (m_isAlone)
+        return;
     const std::optional<Command> command = CommandOf(event->key(), event->modifiers());
     // A key that is held down steps on and on, and does nothing else twice.
     if (command && (!event->isAutoRepeat() || command->control == Control::Step))
@@ -115,19 +144,22 @@ void PlayerWindow::paintEvent(QPaintEvent *event)
 
 void PlayerWindow::PaintScreen(QPainter &painter, const QRegion &region)
 {
-    const QRect screen = m_leds ? m_leds->Magnified(m_screen.rect()) : m_screen.rect();
+    if (m_notice) {
+        painter.drawImage(QPoint(), NoticePicture(*m_notice, size()));
+        return;
+    }
+    const QRect picture = m_view.Whole();
     // Some platforms make the window larger than the screen that plays.
-    for (const QRect &outside : region - screen)
+    for (const QRect &outside : region - picture)
         painter.fillRect(outside, Qt::black);
     const QVector<Layer> layers = m_stage ? m_stage->Layers() : QVector<Layer>();
-    for (const QRect &rect : region &screen) {
-        const QRect pixels = m_leds ? m_leds->Reduced(rect) : rect;
+    for (const QRect &rect : region &picture) {
+        const QRect pixels = m_view.Origin(rect);
         ComposeScreen(m_screen, layers, pixels);
-        if (m_leds)
-            painter.drawImage(m_leds->Magnified(pixels).topLeft(),
-                              m_leds->Diodes(m_screen, pixels));
+        if (m_view.IsPlain())
+            painter.drawImage(m_view.Placed(pixels).topLeft(), m_screen, pixels);
         else
-            painter.drawImage(pixels, m_screen, pixels);
+            painter.drawImage(m_view.Placed(pixels).topLeft(), m_view.Picture(m_screen, pixels));
     }
 }
 

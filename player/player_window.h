@@ -2,7 +2,8 @@
 #pragma once
 
 #include "controls.h"
-#include "led_screen.h"
+#include "notice.h"
+#include "wall_view.h"
 
 #include <QImage>
 #include <QRasterWindow>
@@ -15,17 +16,22 @@ class Stage;
 
 namespace ClockPlayer {
 
-/// As large as the stage's screen, pixel for pixel or diode for pixel.
+/// As large as the stage's screen, pixel for pixel or diode for pixel; or the whole display.
 class PlayerWindow : public QRasterWindow
 {
     Q_OBJECT
 
 public:
-    explicit PlayerWindow(const QString &title,
-                          const std::optional<ClockStage::LedScreen> &leds = std::nullopt);
+    explicit PlayerWindow(const QString &title, const Placing &placing = {});
 
     /// Shows this stage from now on. It must live until it is replaced or the window is deleted.
     void SetStage(const ClockStage::Stage &stage);
+    /// Shows a notice until the next stage, and forgets the one before.
+    void ShowNotice(Notice notice);
+    /// The whole display, without a cursor, and keys do nothing.
+    void ShowAlone();
+    /// What the stage covers of the window.
+    QRect Picture() const { return m_view.Whole(); }
 
     /// Text over the lower part of the picture; empty for none.
     void SetOverlay(const QString &text);
@@ -43,10 +49,13 @@ protected:
 
 private:
     void Change(const QRegion &region);
+    void SetContentSize(QSize size);
     void PaintScreen(QPainter &painter, const QRegion &region);
 
     const ClockStage::Stage *m_stage = nullptr;
-    const std::optional<ClockStage::LedScreen> m_leds;
+    std::optional<Notice> m_notice;
+    WallView m_view;
+    bool m_isAlone = false;
     QImage m_screen;
     QString m_overlay;
 };

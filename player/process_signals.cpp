@@ -2,7 +2,6 @@
 
 #include <QSocketNotifier>
 
-#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -22,6 +21,7 @@ struct Route
 };
 
 std::array<Route, NSIG> g_routes;
+bool g_endsWithLosses = true;
 
 Route &RouteOf(int number)
 {
@@ -83,18 +83,26 @@ void SignalPipe::Empty()
     while (::read(m_ends[0], bytes, sizeof bytes) > 0) { }
 }
 
-QuitSignals::QuitSignals(QObject *parent)
-    : QObject(parent), m_requests({SIGINT, SIGTERM}, SignalPipe::Times::Once),
-      m_losses({SIGHUP, SIGPIPE}, SignalPipe::Times::Always)
+QuitSignals::QuitSignals(Losses losses, QObject *parent)
+    : QObject(parent), m_requests({SIGINT, SIGTERM}, SignalPipe::Times::Once)
 {
-    for (const SignalPipe *pipe : {&m_requests, &m_losses})
-        connect(pipe, &SignalPipe::Received, this, &QuitSignals::Requested);
+    connect(&m_requests, &SignalPipe::Received, this, &QuitSignals::Requested);
+    g_endsWithLosses = losses == Losses::End;
+    if (!g_endsWithLosses) {
+        std::signal(SIGPIPE, SIG_IGN);
+        return;
+    }
+    // They may come several times.
+    m_losses = std::make_unique<SignalPipe>(std::initializer_list<int> {SIGHUP, SIGPIPE},
+                                            SignalPipe::Times::Always);
+    connect(m_losses.get(), &SignalPipe::Received, this, &QuitSignals::Requested);
 }
 
 bool QuitSignals::IsRequested()
 {
-    const auto numbers = {SIGINT, SIGTERM, SIGHUP, SIGPIPE};
-    return std::any_of(numbers.begin(), numbers.end(), SignalPipe::HasArrived);
+    const bool isAsked = SignalPipe::HasArrived(SIGINT) || SignalPipe::HasArrived(SIGTERM);
+    const bool isLost = SignalPipe::HasArrived(SIGHUP) || SignalPipe::HasArrived(SIGPIPE);
+    return isAsked || (g_endsWithLosses && isLost);
 }
 
 } // namespace ClockPlayer

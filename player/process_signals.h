@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include <initializer_list>
+#include <memory>
 #include <vector>
 
 namespace ClockPlayer {
@@ -35,14 +36,19 @@ private:
     int m_ends[2] = {-1, -1};
 };
 
-/// Makes the process end tidily: SIGINT, SIGTERM, SIGHUP and SIGPIPE emit Requested(). A second
-/// SIGINT or SIGTERM ends the process at once. At most one object at a time.
+/// Makes the process end tidily: SIGINT and SIGTERM emit Requested(), and a second one ends the
+/// process at once. At most one object at a time.
 class QuitSignals : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit QuitSignals(QObject *parent = nullptr);
+    enum class Losses {
+        End,    ///< SIGHUP and SIGPIPE emit Requested() too: the terminal or a reader has gone
+        Ignore, ///< SIGPIPE does nothing, and SIGHUP is somebody else's
+    };
+
+    explicit QuitSignals(Losses losses = Losses::End, QObject *parent = nullptr);
 
     static bool IsRequested();
 
@@ -51,8 +57,7 @@ Q_SIGNALS:
 
 private:
     SignalPipe m_requests;
-    SignalPipe
-        m_losses; ///< of the terminal, or of who read the output: they may come several times
+    std::unique_ptr<SignalPipe> m_losses;
 };
 
 } // namespace ClockPlayer

@@ -1,10 +1,15 @@
 #include "window_show.h"
 
-#include "led_screen.h"
 #include "plugins.h"
 #include "stage.h"
 
+#include "hnode.h"
+#include "node_keys.h"
+
+#include <QCryptographicHash>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QScreen>
 
 #include <csignal>
 
@@ -15,60 +20,162 @@ using namespace ClockStage;
 
 namespace {
 
-// The program is checked with each second that is shown, and this often while none is.
+// What is due each second is done with each second that is shown, and this often while none is.
 constexpr int kIdleInterval = 1500; // milliseconds
+constexpr int kStatusInterval = 60000;
+constexpr int kBlankAfter = 5000;
+constexpr int kKeptFaults = 20;
 
-std::optional<LedScreen> Leds(const Options &options)
+Placing PlacingOf(const Options &options)
 {
-    return options.ledPitch ? std::optional(LedScreen(options.ledPitch)) : std::nullopt;
+    return {options.turn, options.ledPitch, options.offset};
+}
+
+QString TimeText(const QDateTime &time)
+{
+    return time.toString(Qt::ISODate);
+}
+
+QJsonObject ClockObject(Lw::HNode *node, qint64 instant)
+{
+    QJsonObject clock;
+    clock.insert(QStringLiteral("id"), node->GetAttributeToInt(kIdKey));
+    const std::optional<Lw::HNodeClock::ZoneSettings> zone = SettingsOf(node);
+    if (!zone)
+        return clock;
+    clock.insert(QStringLiteral("utc_offset_s"), OffsetAt(*zone, instant));
+    const auto change = NextChange(*zone, instant);
+    clock.insert(
+        QStringLiteral("next_change"),
+        change ? QJsonValue(TimeText(QDateTime::fromMSecsSinceEpoch(change->instant, Qt::UTC)))
+               : QJsonValue());
+    return clock;
+}
+
+QJsonObject SpreadObject(const Spread &spread)
+{
+    return {{QStringLiteral("minimum"), spread.Minimum()},
+            {QStringLiteral("median"), spread.Median()},
+            {QStringLiteral("p99"), spread.Percentile(99)},
+            {QStringLiteral("maximum"), spread.Maximum()}};
 }
 
 } // namespace
 
 WindowShow::WindowShow(const Options &options, Playback::Travelling travelling, const Warn &warn)
     : m_options(options), m_warn(warn), m_reportSignal({SIGUSR1}, SignalPipe::Times::Always),
-      m_window(QFileInfo(options.programPath).fileName(), Leds(options)),
+      m_window(QFileInfo(options.programPath).fileName(), PlacingOf(options)),
       m_playback(m_window, travelling), m_watch(FileSignature())
 {
     connect(&m_playback, &Playback::StatsWanted, this, &WindowShow::PrintStats);
-    connect(&m_reportSignal, &SignalPipe::Received, this, &WindowShow::PrintStats);
-    if (!options.watchesProgram)
-        return;
+    connect(&m_reportSignal, &SignalPipe::Received, this, &WindowShow::Report);
+    connect(&m_playback, &Playback::Presented, this, &WindowShow::FollowSecond);
     m_idle.setInterval(kIdleInterval);
-    connect(&m_idle, &QTimer::timeout, this, &WindowShow::CheckProgram);
-    connect(&m_playback, &Playback::Presented, this, &WindowShow::CheckProgram);
+    connect(&m_idle, &QTimer::timeout, this, &WindowShow::FollowIdle);
+    m_sinceStatus.start();
 }
 
-MaybeFailure WindowShow::Play(const Program &program, const FileSignature &signature)
+MaybeFailure WindowShow::Play(const Result<Program> &program, const FileSignature &signature)
 {
     m_watch = ProgramWatch(signature);
-    if (const MaybeFailure failure = Show(program))
+    const auto *const unread = std::get_if<Failure>(&program);
+    if (m_options.isKiosk)
+        BeginKiosk();
+    const MaybeFailure failure = unread ? *unread : Show(std::get<Program>(program));
+    if (failure && !m_options.isKiosk)
         return failure;
-    m_window.show();
-    if (m_options.watchesProgram)
-        m_idle.start();
+    if (failure) {
+        Fault(failure->text);
+        ShowNotice(unread && signature == FileSignature() ? Notice::NoProgram
+                                                          : Notice::WrongProgram);
+    }
+    if (!m_options.isKiosk)
+        m_window.show();
+    KeepTimeRequired();
+    m_idle.start();
+    NotifyService("READY=1");
+    KeepStatus();
     return std::nullopt;
 }
 
-void WindowShow::PrintStats()
+void WindowShow::BeginKiosk()
 {
-    for (const QString &line : m_playback.Meter().Report())
-        m_warn(line);
+    m_console = std::make_unique<QuietConsole>();
+    m_readSignal.reset(new SignalPipe({SIGHUP}, SignalPipe::Times::Always));
+    connect(m_readSignal.get(), &SignalPipe::Received, this, &WindowShow::ReadAgain);
+    const QString framebuffer = FramebufferOf(qEnvironmentVariable("QT_QPA_PLATFORM"));
+    if (!framebuffer.isEmpty())
+        m_guard = std::make_unique<ScreenGuard>([framebuffer] { BlankFramebuffer(framebuffer); },
+                                                kBlankAfter);
+    m_window.ShowAlone();
+}
+
+void WindowShow::FollowSecond()
+{
+    m_idle.start();
+    if (m_guard) {
+        m_guard->Feed();
+        if (m_guard->TakeBlanked())
+            m_window.update();
+    }
+    NotifyService("WATCHDOG=1");
+    KeepTimeRequired();
+    if (m_options.watchesProgram || m_notice)
+        CheckProgram();
+    if (m_sinceStatus.hasExpired(kStatusInterval))
+        KeepStatus();
+}
+
+// A notice stays right without seconds; clocks do not, so nothing is fed for them here.
+void WindowShow::FollowIdle()
+{
+    if (m_notice) {
+        FollowSecond();
+        return;
+    }
+    if (m_options.watchesProgram)
+        CheckProgram();
+}
+
+void WindowShow::KeepTimeRequired()
+{
+    if (!m_options.requiresTime)
+        return;
+    const bool isSet = IsTimeSet();
+    if (!isSet && m_notice != Notice::TimeNotSet)
+        ShowNotice(Notice::TimeNotSet);
+    else if (isSet && m_notice == Notice::TimeNotSet)
+        ReadAgain();
 }
 
 void WindowShow::CheckProgram()
 {
-    m_idle.start();
-    const ProgramWatch::Step step = m_watch.Check(SignatureOf(m_options.programPath));
-    if (step == ProgramWatch::Step::Wait)
+    const FileSignature signature = SignatureOf(m_options.programPath);
+    const ProgramWatch::Step step = m_watch.Check(signature);
+    if (step == ProgramWatch::Step::Wait || m_notice == Notice::TimeNotSet)
         return;
     const MaybeFailure failure = Read();
-    if (!failure)
+    if (!failure) {
+        KeepStatus();
         return;
+    }
     if (step == ProgramWatch::Step::Read)
         m_watch.Failed();
     else
-        m_warn(failure->text);
+        Fault(failure->text);
+    if (m_notice)
+        ShowNotice(signature == FileSignature() ? Notice::NoProgram : Notice::WrongProgram);
+}
+
+void WindowShow::ReadAgain()
+{
+    m_watch = ProgramWatch(SignatureOf(m_options.programPath));
+    if (const MaybeFailure failure = Read()) {
+        Fault(failure->text);
+        if (m_notice)
+            ShowNotice(Notice::WrongProgram);
+    }
+    KeepStatus();
 }
 
 MaybeFailure WindowShow::Read()
@@ -90,8 +197,96 @@ MaybeFailure WindowShow::Show(const Program &program)
     auto stage = std::make_unique<Stage>();
     if (const MaybeFailure failure = BuildStage(*stage, program, m_options, m_warn))
         return failure;
+    m_notice.reset();
     m_playback.Play(std::move(stage));
+    const Result<QByteArray> contents = ReadContents(program.path);
+    if (const auto *bytes = std::get_if<QByteArray>(&contents))
+        m_digest = QString::fromLatin1(
+            QCryptographicHash::hash(*bytes, QCryptographicHash::Sha256).toHex());
+    const QSize display = QGuiApplication::primaryScreen()->size();
+    const QRect picture = m_window.Picture();
+    if (m_options.isKiosk && !QRect(QPoint(), display).contains(picture))
+        Fault(QStringLiteral("%1: the picture reaches to %2,%3, the display has %4x%5 pixels")
+                  .arg(program.path)
+                  .arg(picture.right() + 1)
+                  .arg(picture.bottom() + 1)
+                  .arg(display.width())
+                  .arg(display.height()));
     return std::nullopt;
+}
+
+void WindowShow::ShowNotice(Notice notice)
+{
+    if (m_notice == notice)
+        return;
+    m_notice = notice;
+    m_window.ShowNotice(notice);
+    m_playback.Clear();
+    KeepStatus();
+}
+
+void WindowShow::PrintStats()
+{
+    for (const QString &line : m_playback.Meter().Report())
+        m_warn(line);
+}
+
+void WindowShow::Report()
+{
+    PrintStats();
+    KeepStatus();
+}
+
+void WindowShow::Fault(const QString &text)
+{
+    m_warn(text);
+    ++m_faultCount;
+    m_faults.append(
+        QJsonObject {{QStringLiteral("time"), TimeText(QDateTime::currentDateTimeUtc())},
+                     {QStringLiteral("text"), text}});
+    while (m_faults.size() > kKeptFaults)
+        m_faults.removeFirst();
+    KeepStatus();
+}
+
+void WindowShow::KeepStatus()
+{
+    m_sinceStatus.start();
+    if (m_options.statusFile.isEmpty())
+        return;
+    if (const std::optional<QString> failure = WriteStatus(m_options.statusFile, Status()))
+        m_warn(*failure);
+}
+
+QJsonObject WindowShow::Status()
+{
+    const DeadlineMeter &meter = m_playback.Meter();
+    const qint64 instant = StageTime::Shown();
+    const std::optional<bool> synchronised = IsTimeSynchronised();
+    QJsonArray clocks;
+    if (m_playback.Playing()) {
+        for (Lw::HNode *const node : m_playback.Playing()->Nodes())
+            clocks.append(ClockObject(node, instant));
+    }
+    return {
+        {QStringLiteral("format"), 1},
+        {QStringLiteral("written"), TimeText(QDateTime::currentDateTimeUtc())},
+        {QStringLiteral("started"), TimeText(m_started)},
+        {QStringLiteral("program"), m_options.programPath},
+        {QStringLiteral("program_sha256"), m_digest.isEmpty() ? QJsonValue() : m_digest},
+        {QStringLiteral("notice"), m_notice ? QJsonValue(NoticeCode(*m_notice)) : QJsonValue()},
+        {QStringLiteral("frames"), meter.Frames()},
+        {QStringLiteral("missed_seconds"), meter.MissedSeconds()},
+        {QStringLiteral("clock_steps"), meter.ClockSteps()},
+        {QStringLiteral("second_presentations"), meter.SecondPresentations()},
+        {QStringLiteral("lateness_ms"), SpreadObject(meter.Lateness())},
+        {QStringLiteral("time_set"), IsTimeSet()},
+        {QStringLiteral("time_synchronised"),
+         synchronised ? QJsonValue(*synchronised) : QJsonValue()},
+        {QStringLiteral("clocks"), clocks},
+        {QStringLiteral("fault_count"), m_faultCount},
+        {QStringLiteral("faults"), m_faults},
+    };
 }
 
 } // namespace ClockPlayer

@@ -1,20 +1,26 @@
-// player/: a program in a window, from the first picture to the end of the process.
+// player/: a program in a window, from the first picture to the end of the process. With
+// Options::isKiosk it keeps the screen right without anybody's help: a wall, or a notice why not.
 #pragma once
 
 #include "command_line.h"
+#include "device_state.h"
 #include "playback.h"
 #include "player.h"
 #include "player_window.h"
 #include "process_signals.h"
 #include "program_watch.h"
+#include "screen_guard.h"
 
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QJsonArray>
 #include <QObject>
 #include <QTimer>
 
+#include <memory>
+
 namespace ClockPlayer {
 
-/// Takes what the command line chose. With Options::watchesProgram it plays the program file again
-/// whenever it changes.
 class WindowShow : public QObject
 {
     Q_OBJECT
@@ -22,23 +28,43 @@ class WindowShow : public QObject
 public:
     WindowShow(const Options &options, Playback::Travelling travelling, const Warn &warn);
 
-    /// The signature is the file's before the program was read.
-    ClockProgram::MaybeFailure Play(const ClockProgram::Program &program,
+    /// The signature is the file's before the program was read. In a kiosk nothing fails: a notice
+    /// is shown, and the program is tried again.
+    ClockProgram::MaybeFailure Play(const ClockProgram::Result<ClockProgram::Program> &program,
                                     const FileSignature &signature);
     void PrintStats();
 
 private:
+    void BeginKiosk();
+    void FollowSecond();
+    void FollowIdle();
+    void KeepTimeRequired();
     void CheckProgram();
+    void ReadAgain();
+    void Report();
     ClockProgram::MaybeFailure Read();
     ClockProgram::MaybeFailure Show(const ClockProgram::Program &program);
+    void ShowNotice(Notice notice);
+    void Fault(const QString &text);
+    void KeepStatus();
+    QJsonObject Status();
 
     const Options m_options;
     const Warn m_warn;
     const SignalPipe m_reportSignal;
+    std::unique_ptr<SignalPipe> m_readSignal;
+    std::unique_ptr<QuietConsole> m_console;
+    std::unique_ptr<ScreenGuard> m_guard;
     PlayerWindow m_window;
     Playback m_playback;
     ProgramWatch m_watch;
+    std::optional<Notice> m_notice;
     QTimer m_idle; ///< runs out where no seconds come
+    QElapsedTimer m_sinceStatus;
+    QString m_digest;
+    QJsonArray m_faults;
+    int m_faultCount = 0;
+    const QDateTime m_started = QDateTime::currentDateTimeUtc();
 };
 
 } // namespace ClockPlayer

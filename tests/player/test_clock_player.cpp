@@ -1,6 +1,9 @@
 // The real player as a shell user meets it, with the panel plugin in place of the clock.
 #include "player_process.h"
 
+#include <QCryptographicHash>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -80,6 +83,7 @@ private slots:
     void SignalEndsTheMakingOfImages();
     void SignalEndsTheFrames();
     void WatchedProgram();
+    void KioskWaitsForItsProgram();
 
 private:
     QString Write(const QString &name, const QString &contents);
@@ -666,6 +670,42 @@ void TestClockPlayer::WatchedProgram()
     QTRY_VERIFY_WITH_TIMEOUT(played(3), 20000);
     QVERIFY(!played(2));
     process.terminate();
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 0);
+}
+
+// Nothing but a request to quit ends it, and its status tells what the screen shows.
+void TestClockPlayer::KioskWaitsForItsProgram()
+{
+    const auto status = [this] {
+        QFile file(Path("status.json"));
+        const QByteArray text = file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+        return QJsonDocument::fromJson(text).object();
+    };
+    QProcess process;
+    process.setProcessEnvironment(DisplaylessEnvironment());
+    StartProgram(process, QStringLiteral(PLAYER),
+                 {"--plugin-dir", kPanels, "-platform", "offscreen", "--kiosk", "--status-file",
+                  Path("status.json"), Path("program.xml")});
+    QTRY_COMPARE_WITH_TIMEOUT(status()["notice"].toString(), QString("P1"), 20000);
+    WriteProgram("<area");
+    QTRY_COMPARE_WITH_TIMEOUT(status()["notice"].toString(), QString("P2"), 20000);
+    const QString program = WriteProgram(Area(0, "<panel/>"));
+    QTRY_VERIFY_WITH_TIMEOUT(status()["notice"].isNull() && !status().isEmpty(), 20000);
+    QFile file(program);
+    QVERIFY(file.open(QFile::ReadOnly));
+    const QByteArray digest =
+        QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex();
+    QTRY_COMPARE_WITH_TIMEOUT(status()["program_sha256"].toString(), QString(digest), 20000);
+    QVERIFY(QFile::remove(Path("status.json")));
+    const auto pid = static_cast<pid_t>(process.processId());
+    QCOMPARE(::kill(pid, SIGHUP), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Path("status.json")), 20000);
+    QVERIFY(QFile::remove(Path("status.json")));
+    QCOMPARE(::kill(pid, SIGUSR1), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(Path("status.json")), 20000);
+    QCOMPARE(process.state(), QProcess::Running);
+    QCOMPARE(::kill(pid, SIGTERM), 0);
     QVERIFY(process.waitForFinished(20000));
     QCOMPARE(process.exitCode(), 0);
 }

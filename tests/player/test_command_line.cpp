@@ -24,6 +24,7 @@ private slots:
     void Defaults();
     void Everything();
     void PreviewAndTravel();
+    void Kiosk();
     void QtOptionsWithOneDash();
     void DefaultsOfScripts();
     void Languages();
@@ -81,6 +82,28 @@ void TestCommandLine::PreviewAndTravel()
     const CommandLine fast = Parsed({"a.xml", "-o", "out", "--led=3", "--speed=1e5"});
     QCOMPARE(std::get<Options>(fast).ledPitch, 3);
     QCOMPARE(std::get<Options>(fast).speed, 100000.0);
+}
+
+void TestCommandLine::Kiosk()
+{
+    const CommandLine line = Parsed({"a.xml", "--kiosk", "--require-time", "--offset", "16,-8",
+                                     "--rotate", "270", "--status-file", "s.json", "--watch"});
+    QVERIFY(std::holds_alternative<Options>(line));
+    const Options &options = std::get<Options>(line);
+    QVERIFY(options.isKiosk && options.requiresTime && options.watchesProgram);
+    QCOMPARE(options.offset, QPoint(16, -8));
+    QCOMPARE(options.turn, 270);
+    QCOMPARE(options.statusFile, QStringLiteral("s.json"));
+    const Options plain = std::get<Options>(Parsed({"a.xml"}));
+    QVERIFY(!plain.isKiosk && plain.statusFile.isEmpty() && plain.turn == 0);
+    for (const QStringList &refused :
+         {QStringList {"--rotate", "45"}, QStringList {"--rotate", "-90"},
+          QStringList {"--offset", "16"}, QStringList {"--offset", "1,2,3"},
+          QStringList {"--require-time"}, QStringList {"--kiosk", "-o", "out"},
+          QStringList {"--watch", "-o", "out"}, QStringList {"--rotate", "90", "-o", "out"}}) {
+        const CommandLine answer = Parsed(QStringList {"a.xml"} + refused);
+        QVERIFY2(std::holds_alternative<Failure>(answer), qPrintable(refused.join(' ')));
+    }
 }
 
 void TestCommandLine::QtOptionsWithOneDash()

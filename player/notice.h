@@ -1,0 +1,27 @@
+// player/: what a screen shows where there is no wall to show. It needs no fonts and no files.
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+namespace ClockPlayer {
+
+/// Why no program plays. The codes are documented for people who read them from a photograph.
+enum class Notice {
+    NoProgram,    ///< P1: the program file cannot be read
+    WrongProgram, ///< P2: the program cannot be played
+    NoPlugin,     ///< P3: no plugin could be loaded, or no directory for the glyph images made
+    TimeNotSet,   ///< T1: the device's clock is not set
+};
+
+/// Such as "P1".
+QString NoticeCode(Notice notice);
+/// Such as "NO PROGRAM".
+QString NoticeText(Notice notice);
+
+/// The code, as large as the picture allows, above the text; light on dark. The picture has 32-bit
+/// pixels.
+QImage NoticePicture(Notice notice, QSize size);
+
+} // namespace ClockPlayer

@@ -1,0 +1,49 @@
+// player/: where each pixel of the program's screen is painted: turned, as diodes, and moved. Pure.
+#pragma once
+
+#include "led_screen.h"
+
+#include <QImage>
+#include <QPoint>
+#include <QRect>
+
+#include <optional>
+
+namespace ClockPlayer {
+
+struct Placing
+{
+    int turn = 0;     ///< degrees clockwise: 0, 90, 180 or 270
+    int ledPitch = 0; ///< pixels from diode to diode; 0: no diodes
+    QPoint offset;    ///< of the turned picture's top left, pixels of the window
+};
+
+class WallView
+{
+public:
+    explicit WallView(const Placing &placing);
+
+    /// Of the program's screen, before everything else; pixels.
+    void SetScreenSize(QSize size) { m_screen = size; }
+
+    /// Whether pixels are only moved: Picture() need not be asked.
+    bool IsPlain() const { return !m_leds && m_placing.turn == 0; }
+    /// What the whole screen covers of the window.
+    QRect Whole() const { return Placed({QPoint(), m_screen}); }
+    /// What a region of the screen covers of the window.
+    QRect Placed(const QRect &region) const;
+    /// The least region of the screen that covers a part of the window.
+    QRect Origin(const QRect &part) const;
+    /// What is painted at Placed(region). The screen has 32-bit pixels.
+    QImage Picture(const QImage &screen, const QRect &region) const;
+
+private:
+    QRect Turned(const QRect &region) const;
+    QRect TurnedBack(const QRect &region) const;
+
+    const Placing m_placing;
+    const std::optional<ClockStage::LedScreen> m_leds;
+    QSize m_screen;
+};
+
+} // namespace ClockPlayer
