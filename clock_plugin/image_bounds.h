@@ -10,6 +10,8 @@ namespace Lw::HNodeClock {
 constexpr int kImageSide = 32767;
 constexpr qint64 kGlyphBytes = 64LL << 20; ///< a glyph image, written or read, or an element
 constexpr qint64 kFrameBytes = 256LL << 20;
+constexpr qint64 kClockGlyphBytes = 64LL << 20;    ///< what the glyph images of a clock take
+constexpr qint64 kProcessGlyphBytes = 256LL << 20; ///< and those of all clocks
 
 /// Whether an image of 32 bits a pixel has pixels at all and stays within the bounds.
 inline bool WithinBounds(const QSize &size, qint64 bytes)

@@ -1,5 +1,5 @@
-// The displayed time as fields and texts, and the texts that set it. Pure functions of their
-// arguments.
+// calendar/: the displayed time as fields and texts, and the texts that set it. Pure functions of
+// their arguments.
 #pragma once
 
 #include "calendar/daylight_saving.h" // for programs that expect all clock settings here

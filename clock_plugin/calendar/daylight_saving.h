@@ -1,4 +1,5 @@
-// Daylight saving: rule texts, the boundaries that they name, and the shift of a reading. Pure.
+// calendar/: daylight saving, rule texts, the boundaries that they name, and the shift of a
+// reading. Pure.
 //
 // A reading is what a clock shows, in milliseconds since 1970-01-01 00:00 on that clock. All
 // boundaries are readings of the zone's standard time, the end of the period included.

@@ -1,4 +1,4 @@
-// The device's clock: the one place where the clocks read the system's time.
+// calendar/: the device's clock, the one place where the clocks read the system's time.
 #pragma once
 
 #include "clock_export.h"

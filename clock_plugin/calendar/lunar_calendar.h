@@ -1,5 +1,5 @@
-// The Chinese lunar calendar as its host calls it, over the pure lunar_date. The functions outside
-// the namespace keep the query and the last answer in globals: one thread only.
+// calendar/: the Chinese lunar calendar as its host calls it, over the pure lunar_date. The
+// functions outside the namespace keep the query and the last answer in globals: one thread only.
 #pragma once
 
 #include "clock_export.h"
@@ -56,7 +56,7 @@ CLOCK_EXPORT int leap(int year);
 /// Days of a Gregorian month of s_year; 28 for a month outside 1 to 12.
 CLOCK_EXPORT int day(int month);
 /// Days from 1 January 1900 to the first of a Gregorian month, negative before it. The month is
-/// taken into 1 to 12, the answer into the range of int.
+/// clamped to 1 to 12, the answer to the range of int.
 CLOCK_EXPORT int get_solar_total(int year, int month);
 /// The weekday of the first of a Gregorian month: 1 Sunday to 7 Saturday.
 CLOCK_EXPORT int get_week(int year, int month);

@@ -1,5 +1,5 @@
-// The Chinese lunar calendar of the years 1900 to 2050, looked up in a table of month lengths.
-// Pure.
+// calendar/: the Chinese lunar calendar of the years 1900 to 2050, looked up in a table of month
+// lengths. Pure.
 //
 // The table is fixed and has three errors against the calendar: in 1933 (22 July to 20 August) and
 // 1996 (15 July to 13 August, 12 September to 11 October) dates are one day ahead; in 2033 it has a

@@ -1,7 +1,7 @@
-// The Persian (Solar Hijri) calendar, counted from one fixed anchor. Pure.
+// calendar/: the Persian (Solar Hijri) calendar, counted from one fixed anchor. Pure.
 //
-// Leap years follow an arithmetic rule of 31 in 128 years, not the equinox. In the years 1993 to
-// 2060 the two part twice: from 20 March 2025 to 20 March 2026, and from 20 March 2058 to 20 March
+// Leap years follow an arithmetic rule of 31 in 128 years, not the equinox. From 1993 to 2060
+// the two differ twice: from 20 March 2025 to 20 March 2026, and from 20 March 2058 to 20 March
 // 2059, the rule is one day ahead of the calendar of Iran.
 #pragma once
 

@@ -1,4 +1,4 @@
-// The system's clock, for what reads it: device_clock for the clocks, and programs around them.
+// calendar/: the system's clock, for device_clock and for programs.
 #pragma once
 
 #include <QDate>

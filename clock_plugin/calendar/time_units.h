@@ -1,4 +1,4 @@
-// Units of time, and the division that counts them before an epoch as after it.
+// calendar/: units of time, and the division that counts them before an epoch as after it.
 #pragma once
 
 #include <QtGlobal>

@@ -1,5 +1,6 @@
-// Zone arithmetic: what a clock adds to UTC at an instant, and when that changes. Pure. Instants
-// are milliseconds since 1970-01-01 UTC, far enough from the ends of their type to add a day.
+// calendar/: zone arithmetic, what a clock adds to UTC at an instant, and when that changes. Pure.
+// Instants are milliseconds since 1970-01-01 UTC, far enough from the ends of their type to add a
+// day.
 #pragma once
 
 #include "calendar/daylight_saving.h"

@@ -1,18 +1,20 @@
 #include "compose/clock_glyphs.h"
 
-#include <QFile>
+#include "compose/glyph_bounds.h"
+#include "compose/picture_file.h"
+#include "image_bounds.h"
 
-#include <iterator>
+#include <QFile>
+#include <QHash>
+
+#include <algorithm>
+#include <numeric>
 
 #include <sys/stat.h>
 
 namespace Lw::HNodeClock {
 
 namespace {
-
-// Indexed by the week code.
-constexpr Glyph kWeekFamilies[] = {Glyph::ChWeek, Glyph::EnWeek, Glyph::EnWeekSim,
-                                   Glyph::PersiaWeek};
 
 GlyphStrip BlankMonth(const GlyphStrip &digits)
 {
@@ -21,39 +23,114 @@ GlyphStrip BlankMonth(const GlyphStrip &digits)
 
 } // namespace
 
-GlyphSource RecordedFiles(HClockNode &node)
+GlyphStrip &ClockGlyphs::Strip(Glyph glyph, int number)
 {
-    return [&node](Glyph glyph, int number) {
-        return GlyphStrip::OfFile(node.GetFirstFile(GlyphKey(glyph, number)));
-    };
+    switch (glyph) {
+    case Glyph::TopText:
+        return topText;
+    case Glyph::Lunar:
+        return lunar;
+    case Glyph::EnMonth:
+        return months[number];
+    case Glyph::TimeNumber:
+        return timeNumber;
+    case Glyph::TimeCh:
+        return timeCh;
+    case Glyph::TimeChar:
+        return timeChar;
+    case Glyph::DateNumber:
+        return dateNumber;
+    case Glyph::DateCh:
+        return dateCh;
+    case Glyph::DateChar:
+        return dateChar;
+    case Glyph::Minus:
+        return minus;
+    case Glyph::Space:
+        return space;
+    default: // a day of one of the week families
+        weeks.resize(7);
+        return weeks[number - 1];
+    }
 }
 
 void ClockGlyphs::Load(const GlyphSource &source, int clockType, int weekType)
 {
-    topText = source(Glyph::TopText, 0);
-    lunar = source(Glyph::Lunar, 0);
-    if (weekType >= 0 && weekType < static_cast<int>(std::size(kWeekFamilies))) {
-        weeks.clear();
-        for (int day = 1; day <= 7; ++day)
-            weeks.append(source(kWeekFamilies[weekType], day));
-    }
-    if (clockType == DigitalClock) {
-        timeNumber = source(Glyph::TimeNumber, 0);
-        timeCh = source(Glyph::TimeCh, 0);
-        timeChar = source(Glyph::TimeChar, 0);
-    }
-    dateNumber = source(Glyph::DateNumber, 0);
-    dateCh = source(Glyph::DateCh, 0);
-    dateChar = source(Glyph::DateChar, 0);
-    minus = source(Glyph::Minus, 0);
-    space = source(Glyph::Space, 0);
-    months.clear();
-    months.append(BlankMonth(dateNumber));
-    for (int month = 1; month <= 12; ++month)
-        months.append(source(Glyph::EnMonth, month));
+    months = QVector<GlyphStrip>(13);
+    const QVector<LoadedGlyph> glyphs = GlyphsLoaded(clockType, weekType);
+    // All go first, so that the new ones find room.
+    for (const LoadedGlyph &each : glyphs)
+        Strip(each.glyph, each.number) = GlyphStrip();
+    for (const LoadedGlyph &each : glyphs)
+        Strip(each.glyph, each.number) = source(each.glyph, each.number);
+    months[0] = BlankMonth(dateNumber);
 }
 
-const GlyphStrip &LiveGlyph::Load(const QString &path)
+QVector<const GlyphStrip *> ClockGlyphs::All() const
+{
+    QVector<const GlyphStrip *> strips {
+        &lunar,    &topText, &timeNumber,          &timeCh,
+        &timeChar, &space,   &dateNumber,          &dateCh,
+        &dateChar, &minus,   &morningMark.Image(), &afternoonMark.Image()};
+    for (const QVector<GlyphStrip> *const series : {&weeks, &months}) {
+        for (const GlyphStrip &strip : *series)
+            strips.append(&strip);
+    }
+    return strips;
+}
+
+// Each image once.
+qint64 ClockGlyphs::Bytes() const
+{
+    QHash<quint32, qint64> kept;
+    for (const GlyphStrip *const strip : All())
+        kept.insert(strip->Key(), strip->Bytes());
+    return std::accumulate(kept.cbegin(), kept.cend(), qint64(0));
+}
+
+bool ClockGlyphs::Has(const GlyphStrip &strip) const
+{
+    const QVector<const GlyphStrip *> strips = All();
+    return std::any_of(strips.cbegin(), strips.cend(),
+                       [&](const GlyphStrip *each) { return each->Key() == strip.Key(); });
+}
+
+// Whether a further image fits: one that other clocks have loaded, or none and so many bytes.
+bool ClockGlyphs::HasRoom(const GlyphStrip &loaded, qint64 bytes) const
+{
+    const bool isLoaded = loaded.Key() != 0;
+    const qint64 process = GlyphBytesInProcess() + (isLoaded ? 0 : bytes);
+    // Usually all clocks together stay within what one may have.
+    return process <= kClockGlyphBytes || (isLoaded && Has(loaded))
+        || (process <= kProcessGlyphBytes && Bytes() + bytes <= kClockGlyphBytes);
+}
+
+GlyphStrip ClockGlyphs::LoadFile(const QString &path) const
+{
+    PictureFile file(path);
+    if (file.IsNull())
+        return GlyphStrip();
+    const GlyphStrip loaded = GlyphStrip::Loaded(file.Digest());
+    const bool isLoaded = loaded.Key() != 0;
+    qint64 bytes = isLoaded ? loaded.Bytes() : file.MostBytes();
+    if (!HasRoom(loaded, bytes)) {
+        CountLoadedGlyphsExactly();
+        bytes = isLoaded ? loaded.Bytes() : file.GlyphBytes();
+        if (!HasRoom(loaded, bytes))
+            return GlyphStrip();
+    }
+    return isLoaded ? loaded : GlyphStrip::OfFile(file, bytes);
+}
+
+GlyphSource ClockGlyphs::RecordedFiles(HClockNode &node) const
+{
+    return [this, &node](Glyph glyph, int number) {
+        return LoadFile(node.GetFirstFile(GlyphKey(glyph, number)));
+    };
+}
+
+const GlyphStrip &LiveGlyph::Load(const QString &path,
+                                  const std::function<GlyphStrip(const QString &)> &source)
 {
     struct stat file
     { };
@@ -65,7 +142,8 @@ const GlyphStrip &LiveGlyph::Load(const QString &path)
         m_path = path;
         m_bytes = bytes;
         m_changed = changed;
-        m_image = GlyphStrip::OfFile(path);
+        m_image = GlyphStrip();
+        m_image = source(path);
     }
     return m_image;
 }

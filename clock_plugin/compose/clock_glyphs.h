@@ -1,4 +1,4 @@
-// The glyph images of a node, loaded.
+// compose/: the glyph images of one clock, loaded within bounds of memory.
 #pragma once
 
 #include "clock_node.h"
@@ -14,10 +14,24 @@ namespace Lw::HNodeClock {
 /// Gives a glyph image; the number counts within a series from 1, and is 0 for a single image.
 using GlyphSource = std::function<GlyphStrip(Glyph glyph, int number)>;
 
-/// The files recorded on a node, which must outlive the source.
-GlyphSource RecordedFiles(HClockNode &node);
+/// One image that is looked up while the clock plays: loaded again only when its recorded path or
+/// the file's size or time of change differ from the last time.
+class LiveGlyph
+{
+public:
+    /// The file is loaded by the source, which is given its path.
+    const GlyphStrip &Load(const QString &path,
+                           const std::function<GlyphStrip(const QString &)> &source);
+    const GlyphStrip &Image() const { return m_image; } ///< as loaded last
 
-/// Null strips stand for files that are not recorded, missing or broken.
+private:
+    QString m_path;
+    qint64 m_bytes = -1;
+    qint64 m_changed = 0; ///< nanoseconds since 1970
+    GlyphStrip m_image;
+};
+
+/// Strips without pixels stand for files that are not recorded, missing, damaged or too large.
 struct ClockGlyphs
 {
     GlyphStrip lunar;
@@ -32,24 +46,26 @@ struct ClockGlyphs
     GlyphStrip dateCh;
     GlyphStrip dateChar;
     GlyphStrip minus;
+    LiveGlyph morningMark;
+    LiveGlyph afternoonMark;
 
     /// Loads what a clock of that type shows; the rest stays. A week code outside 0 to 3 leaves
     /// the week images as they were.
     void Load(const GlyphSource &source, int clockType, int weekType);
-};
 
-/// One image, live: decoded again only when its recorded path or the file's size or time of change
-/// differ from the last time.
-class LiveGlyph
-{
-public:
-    const GlyphStrip &Load(const QString &path);
+    /// The image in a file; one without pixels where this clock or the process would then keep more
+    /// than the bounds for all their glyph images (image_bounds.h). That is known from the file's
+    /// size and kind, before it is decoded.
+    GlyphStrip LoadFile(const QString &path) const;
+    /// The files recorded on a node, loaded in this way. Node and glyphs must outlive the source.
+    GlyphSource RecordedFiles(HClockNode &node) const;
 
 private:
-    QString m_path;
-    qint64 m_bytes = -1;
-    qint64 m_changed = 0; ///< nanoseconds since 1970
-    GlyphStrip m_image;
+    QVector<const GlyphStrip *> All() const;
+    qint64 Bytes() const;
+    bool Has(const GlyphStrip &strip) const;
+    bool HasRoom(const GlyphStrip &loaded, qint64 bytes) const;
+    GlyphStrip &Strip(Glyph glyph, int number);
 };
 
 } // namespace Lw::HNodeClock

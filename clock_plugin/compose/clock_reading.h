@@ -1,5 +1,5 @@
-// The displayed reading of one clock: device time, zone, adjustment, daylight saving, and the
-// Persian date where the clock shows one.
+// compose/: the displayed reading of one clock, from the device's time, zone, adjustment, daylight
+// saving, and the Persian date where the clock shows one.
 #pragma once
 
 #include "calendar/clock_time.h"

@@ -1,4 +1,4 @@
-// Dates: which pieces, in which order, on a canvas of which width.
+// compose/: dates, which pieces in which order on a canvas of which width.
 #include "clock_attributes.h"
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"

@@ -1,5 +1,5 @@
-// Composes the elements of a clock (date, time, week, lunar date, top text) as pixmaps from the
-// node's glyph images, for the reading of its own zone.
+// compose/: the elements of a clock (date, time, week, lunar date, top text) as pixmaps, composed
+// of the node's glyph images for the time in its own zone.
 #pragma once
 
 #include "calendar/persian_calendar.h"
@@ -28,10 +28,10 @@ public:
     DrawClockClassifyImage();
     ~DrawClockClassifyImage() override;
 
-    void InitParameters(HClockNode *node); ///< loads everything anew; null does nothing
+    void InitParameters(HClockNode *node); ///< reloads everything; null does nothing
 
-    /// Brings the reading up to date, fills the argument with it (tagged UTC) and returns the
-    /// weekday, 1 Monday to 7 Sunday.
+    /// Updates the reading, copies it to the argument (tagged UTC) and returns the weekday, 1
+    /// Monday to 7 Sunday.
     int CalculateTimeZone(QDateTime &reading);
     /// The instant that a daylight-saving rule names in the year of a date, as a standard-time
     /// reading tagged UTC; invalid for a rule that is empty, malformed or names no day.
@@ -47,9 +47,9 @@ public:
     QPixmap GetWeeKPixmap();
     QPixmap GetLunarPixmap();
     QPixmap GetTopTextPixmap();
-    void GetLunarDate(); ///< stores the lunar month and day; daylight saving does not count
+    void GetLunarDate(); ///< stores the lunar month and day, without daylight saving
 
-    /// The same elements as views on the images, for the drawer of frames; lives as long as this.
+    /// The same elements as views on the images, for drawing frames. Owned by this object.
     ElementComposer &Elements();
 
 private:

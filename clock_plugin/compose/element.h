@@ -1,4 +1,4 @@
-// An element of a clock: a canvas put together from pieces of glyph strips.
+// compose/: an element of a clock, a canvas composed of pieces of glyph strips.
 #pragma once
 
 #include "compose/glyph_strip.h"
@@ -12,10 +12,10 @@
 
 namespace Lw::HNodeClock {
 
-/// A part of a strip, full height, and where its left edge stands in the element.
+/// A part of a strip, full height, and the place of its left edge in the element.
 struct Piece
 {
-    const GlyphStrip *strip = nullptr; ///< valid while the composer that gave it is not set up anew
+    const GlyphStrip *strip = nullptr; ///< valid until the composer that gave it is set up again
     quint32 stripKey = 0;              ///< tells two strips' contents apart, also after a set-up
     int sourceX = 0;
     int width = 0;
@@ -29,12 +29,12 @@ struct Piece
     bool operator!=(const Piece &other) const { return !(*this == other); }
 };
 
-/// Pieces never overlap; what stands past the canvas is cut off.
+/// Pieces never overlap; what is past the canvas is cut off.
 class Element
 {
 public:
     Element() = default;
-    /// A canvas that could not reasonably be made becomes an empty one.
+    /// A canvas beyond the bounds of images becomes an empty one.
     Element(long long width, int height)
     {
         if (width > 0 && width <= kImageSide
@@ -53,7 +53,7 @@ public:
     int Count() const { return m_count; }
     const Piece &At(int index) const { return m_pieces[static_cast<std::size_t>(index)]; }
 
-    /// Adds columns of a strip after what was added before. Columns outside the strip are blank.
+    /// Appends columns of a strip. Columns outside the strip are blank.
     void Add(const GlyphStrip &strip, int sourceX, int width)
     {
         if (width <= 0)
@@ -67,14 +67,14 @@ public:
         }
         m_end += width;
     }
-    /// Adds one cell of a strip of equal cells.
+    /// Appends one cell of a strip of equal cells.
     void AddCell(const GlyphStrip &strip, int cellWidth, int cell)
     {
         Add(strip, cell < 0 ? -1 : cell * cellWidth, cellWidth);
     }
     void Skip(int width) { m_end += width; }
-    /// Goes on at x, and cuts off what was added past it.
-    void StandAt(long long x)
+    /// Cuts off what is past x and continues there.
+    void ContinueAt(long long x)
     {
         m_end = x;
         while (m_count > 0 && m_pieces[static_cast<std::size_t>(m_count - 1)].x >= x)

@@ -51,7 +51,7 @@ bool ElementComposer::Replace(Shown &shown, const Shown &wanted)
 void ElementComposer::SetUp(HClockNode &node)
 {
     m_givenMarks.reset();
-    SetUp(node, node.ClockType(), RecordedFiles(node));
+    SetUp(node, node.ClockType(), m_glyphs.RecordedFiles(node));
 }
 
 void ElementComposer::SetUp(HClockNode &node, const GlyphSource &source)
@@ -107,8 +107,8 @@ const Element &ElementComposer::Date()
     return m_date;
 }
 
-// Unlike all other images, the mark of the twelve-hour display is looked up while playing: once in
-// a scope, and at each call outside one. Midnight and noon keep their hour.
+// Unlike all other images, the mark of the twelve-hour display is looked up while playing: once per
+// frame scope, and at each call outside one. Midnight and noon keep their hour.
 const GlyphStrip &ElementComposer::AmPmMark(bool twelveHours)
 {
     static const GlyphStrip none;
@@ -123,8 +123,9 @@ const GlyphStrip &ElementComposer::AmPmMark(bool twelveHours)
         return none;
     if (m_givenMarks)
         return (*m_givenMarks)[morning ? 0 : 1];
-    LiveGlyph &mark = morning ? m_morningMark : m_afternoonMark;
-    return mark.Load(m_node->GetFirstFile(GlyphKey(morning ? Glyph::TimeAM : Glyph::TimePM)));
+    LiveGlyph &mark = morning ? m_glyphs.morningMark : m_glyphs.afternoonMark;
+    return mark.Load(m_node->GetFirstFile(GlyphKey(morning ? Glyph::TimeAM : Glyph::TimePM)),
+                     [this](const QString &path) { return m_glyphs.LoadFile(path); });
 }
 
 const Element &ElementComposer::Time()

@@ -14,8 +14,8 @@
 
 namespace Lw::HNodeClock {
 
-/// The elements are views on the loaded images: valid until the next set-up. Each is brought up to
-/// date when it is asked for; within one FrameScope the time is read once for all.
+/// The elements are views on the loaded images, valid until the next set-up. Each is updated when
+/// it is asked for; within one FrameScope the time is read once for all.
 class ElementComposer
 {
 public:
@@ -39,16 +39,16 @@ public:
     const Element &Lunar();
     const Element &TopText();
 
-    // The same as pixmaps; null where the element is empty. An unchanged element gives the same
-    // pixmap again.
+    // The same as pixmaps; null where the element is empty. The pixmap of an unchanged element is
+    // kept.
     QPixmap DatePixmap() { return m_datePixmap.Of(Date()); }
     QPixmap TimePixmap() { return m_timePixmap.Of(Time()); }
     QPixmap WeekPixmap();
     QPixmap LunarPixmap(); ///< asks the entry point at each call
     QPixmap TopTextPixmap() { return m_glyphs.topText.Pixmap(); }
 
-    /// While one lives, the elements show one reading: the time, and the settings it depends on,
-    /// are read only once.
+    /// While one exists, the elements show one instant: the time and the settings that it depends
+    /// on are read only once.
     class FrameScope
     {
     public:
@@ -62,7 +62,7 @@ public:
     using ReadingScope = FrameScope;
 
 private:
-    // An element drawn, as long as it stays the same.
+    // Keeps the pixmap of an element until the element changes.
     class DrawnElement
     {
     public:
@@ -85,8 +85,6 @@ private:
     QPointer<HClockNode> m_node;
     ClockGlyphs m_glyphs;
     ClockReading m_reading;
-    LiveGlyph m_morningMark;
-    LiveGlyph m_afternoonMark;
     std::optional<std::array<GlyphStrip, 2>> m_givenMarks; ///< AM, PM; in place of the live ones
     int m_dateType = 0;
     int m_shownHour = 0;
@@ -109,7 +107,7 @@ private:
     DrawnElement m_timePixmap;
     DrawnElement m_lunarPixmap;
 
-    // What was brought up to date within the scope that lives.
+    // What was updated within the current frame scope.
     struct Done
     {
         bool reading = false;

@@ -1,5 +1,5 @@
-// Which pieces make up a date, a time or a lunar date, and where they stand. Pure functions of the
-// images and the numbers shown; nothing is painted here.
+// compose/: which pieces make up a date, a time or a lunar date, and their places. Pure functions
+// of the images and the numbers shown.
 #pragma once
 
 #include "compose/clock_glyphs.h"

@@ -1,16 +1,25 @@
 #include "compose/glyph_strip.h"
 
-#include "compose/glyph_reading.h"
+#include "compose/picture_file.h"
 #include "compose/piece_canvas.h"
-#include "compose/png_chunks.h"
 
+#include <QHash>
+
+#include <algorithm>
 #include <atomic>
+#include <iterator>
 
 namespace Lw::HNodeClock {
 
 namespace {
 
 constexpr int kBits = 32; // of a word
+
+std::atomic<qint64> s_bytes {0};
+
+// The pixels of the files that are loaded, by digest. Per thread: they are decoded without a lock.
+using LoadedPixels = QHash<QByteArray, std::weak_ptr<GlyphPixels>>;
+thread_local LoadedPixels t_loaded;
 
 quint32 NewKey()
 {
@@ -23,69 +32,88 @@ int WordsFor(int width)
     return (width + kBits - 1) / kBits;
 }
 
-// Whoever reads two words at a time may read past the last.
+// One spare word for two-word loads.
 QVector<quint32> NoInk(const QSize &size)
 {
     return QVector<quint32>(WordsFor(size.width()) * size.height() + 1);
 }
 
+// Entries whose pixels are gone are removed when their number has doubled.
+void Remember(const QByteArray &digest, const std::shared_ptr<GlyphPixels> &pixels)
+{
+    thread_local int t_limit = 128;
+    if (t_loaded.size() >= t_limit) {
+        for (auto entry = t_loaded.begin(); entry != t_loaded.end();)
+            entry = entry->expired() ? t_loaded.erase(entry) : std::next(entry);
+        t_limit = 128 + 2 * t_loaded.size();
+    }
+    t_loaded.insert(digest, pixels);
+}
+
 } // namespace
 
-GlyphStrip::GlyphStrip(const QImage &image) : m_key(NewKey())
+GlyphPixels::GlyphPixels() : m_key(NewKey()) { }
+
+GlyphPixels::GlyphPixels(const QImage &image) : GlyphPixels()
 {
     Take(image);
 }
 
-GlyphStrip GlyphStrip::OfFile(const QString &path)
+GlyphPixels::GlyphPixels(const QByteArray &png, qint64 bytes) : GlyphPixels()
 {
-    const QByteArray png = ReadSmallPng(path);
-    if (png.isNull())
-        return GlyphStrip(ReadImageFile(path));
-    GlyphStrip strip;
-    strip.m_key = NewKey();
-    strip.m_encoded = png;
-    strip.m_isEncoded = true;
-    strip.m_size = QSize();
-    return strip;
+    m_encoded = png;
+    SetBytes(bytes);
 }
 
-GlyphStrip GlyphStrip::Blank(const QSize &size)
+GlyphPixels::~GlyphPixels()
 {
-    GlyphStrip strip;
-    if (size.isEmpty())
-        return strip;
-    strip.m_key = NewKey();
-    strip.m_size = size;
-    strip.m_wordsPerRow = WordsFor(size.width());
-    strip.m_ink = NoInk(size);
-    return strip;
+    SetBytes(0);
 }
 
-void GlyphStrip::DecodeNow() const
+std::shared_ptr<GlyphPixels> GlyphPixels::Blank(const QSize &size)
 {
-    const QImage image = DecodePng(m_encoded);
+    const auto pixels = std::shared_ptr<GlyphPixels>(new GlyphPixels);
+    pixels->m_size = size;
+    pixels->m_wordsPerRow = WordsFor(size.width());
+    pixels->m_ink = NoInk(size);
+    pixels->SetBytes(InkBytes(size));
+    return pixels;
+}
+
+void GlyphPixels::SetBytes(qint64 bytes)
+{
+    s_bytes += bytes - m_bytes;
+    m_bytes = bytes;
+}
+
+void GlyphPixels::CountExactly()
+{
+    if (!m_encoded.isNull() && !m_isExact)
+        SetBytes(std::min(m_bytes, GlyphBytesOfPng(m_encoded)));
+    m_isExact = true;
+}
+
+void GlyphPixels::DecodeNow()
+{
+    QImage image = DecodePng(m_encoded);
     m_encoded = QByteArray();
-    m_isEncoded = false;
-    Take(image);
+    Take(std::move(image));
 }
 
-void GlyphStrip::FindSize() const
-{
-    m_size = SizeOfIntactPng(m_encoded);
-    if (!m_size.isValid())
-        DecodeNow();
-}
-
-void GlyphStrip::Take(const QImage &image) const
+void GlyphPixels::Take(QImage image)
 {
     m_size = image.isNull() ? QSize(0, 0) : image.size();
-    if (!image.isNull() && !TakeInk(image))
-        m_pixmap = QPixmap::fromImage(image);
+    if (image.isNull())
+        return SetBytes(0);
+    if (TakeInk(image))
+        return SetBytes(InkBytes(m_size));
+    SetBytes(4LL * m_size.width() * m_size.height());
+    m_pixmap = QPixmap::fromImage(std::move(image));
 }
 
 // Only of the formats in which transparent glyphs are read: in them a pixel of alpha 0 or 255 is
 // the same before and after it becomes part of a pixmap.
-bool GlyphStrip::TakeInk(const QImage &image) const
+bool GlyphPixels::TakeInk(const QImage &image)
 {
     if (image.format() != QImage::Format_ARGB32
         && image.format() != QImage::Format_ARGB32_Premultiplied)
@@ -114,17 +142,71 @@ bool GlyphStrip::TakeInk(const QImage &image) const
     return true;
 }
 
-const QPixmap &GlyphStrip::Pixmap() const
+const QPixmap &GlyphPixels::Pixmap()
 {
     if (IsInk() && m_pixmap.isNull()) {
         QImage image(m_size, QImage::Format_ARGB32_Premultiplied);
         if (image.isNull()) // there is no memory
             return m_pixmap;
         image.fill(Qt::transparent);
-        PieceCanvas(image).Draw(*this, QRect(QPoint(0, 0), m_size), QPoint(0, 0));
+        PieceCanvas(image).DrawInk(*this, QRect(QPoint(0, 0), m_size), QPoint(0, 0));
         m_pixmap = QPixmap::fromImage(image);
     }
     return m_pixmap;
+}
+
+GlyphStrip::GlyphStrip(const QImage &image) : m_pixels(std::make_shared<GlyphPixels>(image)) { }
+
+GlyphStrip GlyphStrip::OfFile(const QString &path)
+{
+    PictureFile file(path);
+    if (file.IsNull())
+        return GlyphStrip();
+    const GlyphStrip loaded = Loaded(file.Digest());
+    return loaded.m_pixels ? loaded : OfFile(file, file.MostBytes());
+}
+
+// An image that could not be decoded is not shared: memory may have been short.
+GlyphStrip GlyphStrip::OfFile(PictureFile &file, qint64 bytes)
+{
+    const QByteArray digest = file.Digest();
+    const bool isLater = !file.SmallPng().isEmpty();
+    const auto pixels = isLater ? std::make_shared<GlyphPixels>(file.SmallPng(), bytes)
+                                : std::make_shared<GlyphPixels>(file.Read());
+    if (!digest.isEmpty() && (isLater || !pixels->Size().isEmpty()))
+        Remember(digest, pixels);
+    return GlyphStrip(pixels);
+}
+
+GlyphStrip GlyphStrip::Blank(const QSize &size)
+{
+    return size.isEmpty() ? GlyphStrip() : GlyphStrip(GlyphPixels::Blank(size));
+}
+
+GlyphStrip GlyphStrip::Loaded(const QByteArray &digest)
+{
+    const std::shared_ptr<GlyphPixels> pixels = t_loaded.value(digest).lock();
+    const bool isDamaged = pixels && pixels->IsDamaged();
+    return isDamaged ? GlyphStrip() : GlyphStrip(pixels);
+}
+
+void GlyphStrip::CountExactly() const
+{
+    if (m_pixels)
+        m_pixels->CountExactly();
+}
+
+qint64 GlyphBytesInProcess()
+{
+    return s_bytes;
+}
+
+void CountLoadedGlyphsExactly()
+{
+    for (const std::weak_ptr<GlyphPixels> &entry : qAsConst(t_loaded)) {
+        if (const std::shared_ptr<GlyphPixels> pixels = entry.lock())
+            pixels->CountExactly();
+    }
 }
 
 } // namespace Lw::HNodeClock

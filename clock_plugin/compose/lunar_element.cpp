@@ -1,4 +1,4 @@
-// Lunar dates in Chinese numerals.
+// compose/: lunar dates in Chinese numerals.
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 

@@ -53,26 +53,26 @@ void PieceCanvas::Draw(const Element &element, const QPoint &topLeft, const QRec
 void PieceCanvas::Draw(const GlyphStrip &strip, const QRect &source, const QPoint &target)
 {
     if (strip.IsInk())
-        return DrawInk(strip, source, target);
+        return DrawInk(strip.Pixels(), source, target);
     if (!m_painter)
         m_painter.emplace(&m_image);
     m_painter->drawPixmap(target, strip.Pixmap(), source);
 }
 
-void PieceCanvas::DrawInk(const GlyphStrip &strip, const QRect &source, const QPoint &target)
+void PieceCanvas::DrawInk(const GlyphPixels &ink, const QRect &source, const QPoint &target)
 {
-    const QRgb colour = strip.InkColour();
+    const QRgb colour = ink.InkColour();
     for (int y = 0; y < source.height(); ++y) {
-        const quint32 *const row = strip.InkRow(source.y() + y);
+        const quint32 *const row = ink.InkRow(source.y() + y);
         QRgb *const pixels = At(target.x(), target.y() + y);
         for (int x = 0; x < source.width(); x += kBits) {
             QRgb *pixel = pixels + x;
-            quint32 ink = Columns(row, source.x() + x, source.width() - x);
-            while (ink != 0) {
-                const quint32 clear = qCountTrailingZeroBits(ink);
-                ink >>= clear;
+            quint32 bits = Columns(row, source.x() + x, source.width() - x);
+            while (bits != 0) {
+                const quint32 clear = qCountTrailingZeroBits(bits);
+                bits >>= clear;
                 pixel += clear;
-                for (; ink & 1; ink >>= 1)
+                for (; bits & 1; bits >>= 1)
                     *pixel++ = colour;
             }
         }

@@ -1,4 +1,5 @@
-// What a PNG is made of: the part that its pixels are made from, and its size.
+// compose/: looks into PNG files without decoding them: the chunks that their pixels are made from,
+// their size and kind.
 #pragma once
 
 #include <QByteArray>
@@ -11,17 +12,19 @@ QT_END_NAMESPACE
 namespace Lw::HNodeClock {
 
 inline constexpr char kPngSignature[] = "\x89PNG\r\n\x1a\n";
+/// How much of a file SizeOfPng() looks at.
+inline constexpr int kPngHeaderEnd = 29;
 
-/// A PNG without its texts, profiles and whatever else does not bear on its pixels: unpacked, these
-/// could be any number of times as long as the file. What no reader may leave out stays, known or
-/// not: the decoder refuses what it does not know. Read from where the device stands, its signature
-/// first, to the last chunk or the end.
+/// A PNG without its texts, profiles and all else that does not affect its pixels: unpacked, these
+/// could be any number of times as long as the file. Critical chunks stay, known or not: the
+/// decoder refuses what it does not know. Read from where the device is, its signature first, to
+/// the last chunk or the end.
 QByteArray PixelChunks(QIODevice &png);
 
-/// The size of the picture in a PNG of 8-bit colours with transparency, told without decoding it.
-/// An invalid size for any other picture, and where a checksum is wrong, a chunk is missing or one
-/// that no reader may leave out is unknown: whether such a file is a picture at all only shows when
-/// it is decoded.
-QSize SizeOfIntactPng(const QByteArray &png);
+/// The size in the header of a PNG, true or not; empty where the file does not begin with one.
+QSize SizeOfPng(const QByteArray &png);
+
+/// Whether a PNG has 8-bit colours with alpha, as glyph images have, by its header.
+bool HasGlyphKind(const QByteArray &png);
 
 } // namespace Lw::HNodeClock

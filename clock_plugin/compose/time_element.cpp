@@ -1,4 +1,4 @@
-// Times of a digital clock, to the second or to the minute, with the AM/PM mark.
+// compose/: times of a digital clock, to the second or to the minute, with the AM/PM mark.
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 
@@ -42,8 +42,8 @@ public:
           m_label(glyphs.timeCh.Width() / kLabelCells)
     { }
 
-    // Formats outside the list have the room of two separators. Those above it take what their
-    // label needs of it: the end of their seconds may be cut off.
+    // Formats outside the list have room for two separators. Those above it use some of it for
+    // their label, so that the end of their seconds may be cut off.
     long long Width() const
     {
         const long long digit = m_digit;
@@ -116,12 +116,12 @@ Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minut
 {
     const TimeWriter writer(glyphs, timeType, hour, minute, second);
     const long long width = writer.Width();
-    // Without digits and separators there is no canvas for the time, whose height the mark's is.
+    // The mark is as high as the time, which without digits and separators has no canvas.
     Element element(width + mark.Width(), width > 0 ? glyphs.timeCh.Height() : 0);
     const TimeFormat &format = FormatOf(timeType);
     for (int i = 0; i < format.count; ++i)
         writer.Write(element, format.parts[static_cast<std::size_t>(i)]);
-    element.StandAt(width);
+    element.ContinueAt(width);
     element.Add(mark, 0, mark.Width());
     return element;
 }

@@ -1,7 +1,7 @@
 #include "display/analog_clock.h"
 
 #include "calendar/device_clock.h"
-#include "compose/glyph_reading.h"
+#include "compose/picture_file.h"
 #include "display/draw_display_image.h"
 #include "display/row_placement.h"
 

@@ -1,6 +1,6 @@
 #include "display/picture_clock.h"
 
-#include "compose/glyph_reading.h"
+#include "compose/picture_file.h"
 #include "display/style_pictures.h"
 
 #include <algorithm>

@@ -38,7 +38,7 @@ private Q_SLOTS:
     void ColumnsOutsideTheStripAreBlank();
     void CellOfNoWidthIsNothing();
     void NothingBeginsPastTheCanvas();
-    void StandAtCutsOff();
+    void ContinueAtCutsOff();
     void ComparesImagesNotAddresses();
 };
 
@@ -108,14 +108,14 @@ void TestElement::NothingBeginsPastTheCanvas()
     QCOMPARE(empty.Count(), 0);
 }
 
-void TestElement::StandAtCutsOff()
+void TestElement::ContinueAtCutsOff()
 {
     const GlyphStrip strip = Strip(30);
     Element element(30, 4);
     element.Add(strip, 0, 8);
     element.Add(strip, 8, 8);
     element.Add(strip, 16, 8);
-    element.StandAt(10);
+    element.ContinueAt(10);
     element.Add(strip, 0, 4);
     QCOMPARE(Pieces(element), QStringLiteral("0+8@0 8+2@8 0+4@10"));
 }

@@ -2,7 +2,7 @@
 #include "chosen_time.h"
 #include "compose/clock_glyphs.h"
 #include "compose/element_composer.h"
-#include "compose/glyph_reading.h"
+#include "compose/picture_file.h"
 #include "lettered_glyphs.h"
 
 #include <QBuffer>
@@ -26,6 +26,11 @@ namespace {
 
 constexpr int kHeaderEnd = 33; // where the chunk after a PNG's header begins
 constexpr int kLastChunk = 12; // the length of its last
+
+GlyphStrip FromFile(const QString &path)
+{
+    return GlyphStrip::OfFile(path);
+}
 
 /// The checksum, in hexadecimal digits, is Python's zlib.crc32 of the name.
 QByteArray EmptyChunk(const char *name, const char *checksum)
@@ -72,7 +77,7 @@ void TestGlyphLoading::DigitalClockLoadsAll()
     LetteredGlyphs written(node);
     written.WriteAll();
     ClockGlyphs glyphs;
-    glyphs.Load(RecordedFiles(node), 1, 2);
+    glyphs.Load(glyphs.RecordedFiles(node), 1, 2);
     QCOMPARE(LetteredGlyphs::Read(glyphs.timeCh.Pixmap()), LetteredGlyphs::Cells("hms", 3));
     QCOMPARE(glyphs.timeNumber.Width(), 20);
     QCOMPARE(LetteredGlyphs::Read(glyphs.timeChar.Pixmap()), QStringLiteral(":"));
@@ -92,7 +97,7 @@ void TestGlyphLoading::AnalogClockLeavesTheTimeImages()
     LetteredGlyphs written(node);
     written.WriteAll();
     ClockGlyphs glyphs;
-    glyphs.Load(RecordedFiles(node), 0, 0);
+    glyphs.Load(glyphs.RecordedFiles(node), 0, 0);
     QVERIFY(glyphs.timeNumber.IsNull());
     QVERIFY(glyphs.timeCh.IsNull());
     QVERIFY(glyphs.timeChar.IsNull());
@@ -106,11 +111,11 @@ void TestGlyphLoading::WeekCodeOutsideTheListChangesNothing()
     LetteredGlyphs written(node);
     written.WriteAll();
     ClockGlyphs glyphs;
-    glyphs.Load(RecordedFiles(node), 1, 4);
+    glyphs.Load(glyphs.RecordedFiles(node), 1, 4);
     QVERIFY(glyphs.weeks.isEmpty());
-    glyphs.Load(RecordedFiles(node), 1, 1);
+    glyphs.Load(glyphs.RecordedFiles(node), 1, 1);
     const quint32 monday = glyphs.weeks.at(0).Key();
-    glyphs.Load(RecordedFiles(node), 1, -1);
+    glyphs.Load(glyphs.RecordedFiles(node), 1, -1);
     QCOMPARE(glyphs.weeks.size(), 7);
     QCOMPARE(glyphs.weeks.at(0).Key(), monday);
 }
@@ -134,7 +139,7 @@ void TestGlyphLoading::MonthSpacer()
     if (strip > 0)
         written.Write("_dateNumber", QString(strip, '7'), 4);
     ClockGlyphs glyphs;
-    glyphs.Load(RecordedFiles(node), 1, 0);
+    glyphs.Load(glyphs.RecordedFiles(node), 1, 0);
     QCOMPARE(glyphs.months.size(), 13);
     QCOMPARE(glyphs.months.at(0).Width(), spacer);
     QCOMPARE(LetteredGlyphs::Read(glyphs.months.at(0).Pixmap()), QString(spacer, '_'));
@@ -277,7 +282,7 @@ void TestGlyphLoading::TextsInPicturesAreLeftOut()
     const QImage read = ReadImageFile(path);
     QVERIFY(read.textKeys().isEmpty());
     QCOMPARE(read.convertToFormat(QImage::Format_ARGB32).pixel(3, 1), 0xffff0000);
-    const QImage small = DecodePng(ReadSmallPng(path));
+    const QImage small = DecodePng(PictureFile(path).SmallPng());
     QVERIFY(small.textKeys().isEmpty());
     QCOMPARE(small.size(), QSize(20, 2));
 }
@@ -389,14 +394,14 @@ void TestGlyphLoading::LiveImageFollowsTheFile()
     LetteredGlyphs written(node);
     LiveGlyph live;
     const QString path = written.Write("_timeAM", "AA", 3);
-    const quint32 first = live.Load(path).Key();
-    QCOMPARE(LetteredGlyphs::Read(live.Load(path).Pixmap()), QStringLiteral("AA"));
-    QCOMPARE(live.Load(path).Key(), first);
+    const quint32 first = live.Load(path, FromFile).Key();
+    QCOMPARE(LetteredGlyphs::Read(live.Load(path, FromFile).Pixmap()), QStringLiteral("AA"));
+    QCOMPARE(live.Load(path, FromFile).Key(), first);
     written.Write("_timeAM", "AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAB", 3);
-    QCOMPARE(live.Load(path).Width(), 33);
+    QCOMPARE(live.Load(path, FromFile).Width(), 33);
     QVERIFY(QFile::remove(path));
-    QVERIFY(live.Load(path).IsNull());
-    QVERIFY(live.Load(QString()).IsNull());
+    QVERIFY(live.Load(path, FromFile).IsNull());
+    QVERIFY(live.Load(QString(), FromFile).IsNull());
 }
 
 void TestGlyphLoading::GivenImagesAreShownInPlaceOfFiles()
@@ -407,7 +412,8 @@ void TestGlyphLoading::GivenImagesAreShownInPlaceOfFiles()
     node.SetAttribute("ClockType", 1, false);
     node.SetAttribute("DigitalMode", 1, false);
     node.SetAttribute("DigitalTimeType", 1, false);
-    const GlyphSource files = RecordedFiles(node);
+    const ClockGlyphs loader;
+    const GlyphSource files = loader.RecordedFiles(node);
     const GlyphStrip given = files(Glyph::TimePM, 0);
     ElementComposer composer;
     composer.SetUp(node, [&](Glyph glyph, int number) {
@@ -430,10 +436,10 @@ void TestGlyphLoading::FilesOfLaterTimesAreRead()
     const QString path = written.Write("_timeAM", "AA", 3);
     QCOMPARE(QProcess::execute("touch", {"--date", "2040-01-01 00:00:00", path}), 0);
     QCOMPARE(QFileInfo(path).lastModified().toSecsSinceEpoch(), Q_INT64_C(2208988800));
-    QVERIFY(!ReadSmallPng(path).isEmpty());
+    QVERIFY(!PictureFile(path).SmallPng().isEmpty());
     QVERIFY(!ReadPixmapFile(path).isNull());
     LiveGlyph live;
-    QCOMPARE(LetteredGlyphs::Read(live.Load(path).Pixmap()), QStringLiteral("AA"));
+    QCOMPARE(LetteredGlyphs::Read(live.Load(path, FromFile).Pixmap()), QStringLiteral("AA"));
 }
 
 QTEST_MAIN(TestGlyphLoading)

@@ -1,5 +1,6 @@
 // Glyph images kept as ink, against a painter drawing the same images.
 #include "compose/glyph_strip.h"
+#include "compose/picture_file.h"
 #include "compose/piece_canvas.h"
 
 #include <QFile>
@@ -53,6 +54,7 @@ private Q_SLOTS:
     void FileIsTakenAsItIs();
     void LargeFileIsTakenToo();
     void PixelsThatAreNotThere();
+    void EqualFilesAreShared();
     void KeysTellContentsApart();
 };
 
@@ -212,8 +214,7 @@ void TestGlyphStrip::LargeFileIsTakenToo()
     QCOMPARE(strip.Pixmap().toImage().convertToFormat(QImage::Format_ARGB32), noise);
 }
 
-// The header and the checksums promise more than the pixels hold: the size counts until the pixels
-// are asked for, and nothing is drawn.
+// Header and checksums promise more than the pixels hold: such an image has no size.
 void TestGlyphStrip::PixelsThatAreNotThere()
 {
     const QTemporaryDir directory;
@@ -232,7 +233,7 @@ void TestGlyphStrip::PixelsThatAreNotThere()
     spliced.close();
 
     const GlyphStrip strip = GlyphStrip::OfFile(spliced.fileName());
-    QCOMPARE(strip.Size(), QSize(50, 9));
+    QCOMPARE(strip.Size(), QSize(0, 0));
     Element element(50, 9);
     element.Add(strip, 0, 50);
     QImage frame = Frame();
@@ -240,6 +241,27 @@ void TestGlyphStrip::PixelsThatAreNotThere()
     QCOMPARE(frame, Frame());
     QVERIFY(strip.IsNull());
     QVERIFY(strip.Pixmap().isNull());
+}
+
+void TestGlyphStrip::EqualFilesAreShared()
+{
+    const QTemporaryDir directory;
+    const QImage image = Inked({50, 9}, 0xff112233, 15);
+    const QString paths[] = {directory.filePath("a.png"), directory.filePath("b.png")};
+    QVERIFY(image.save(paths[0]) && image.save(paths[1]));
+    const qint64 before = GlyphBytesInProcess();
+    GlyphStrip first = GlyphStrip::OfFile(paths[0]);
+    const qint64 one = GlyphBytesInProcess() - before;
+    GlyphStrip second = GlyphStrip::OfFile(paths[1]);
+    QCOMPARE(second.Key(), first.Key());
+    QCOMPARE(GlyphBytesInProcess() - before, one);
+    QVERIFY(Inked({50, 9}, 0xff112233, 16).save(paths[1]));
+    QVERIFY(GlyphStrip::OfFile(paths[1]).Key() != first.Key());
+    first = GlyphStrip();
+    QCOMPARE(second.Width(), 50);
+    QCOMPARE(GlyphBytesInProcess() - before, InkBytes({50, 9}));
+    second = GlyphStrip();
+    QCOMPARE(GlyphBytesInProcess(), before);
 }
 
 void TestGlyphStrip::KeysTellContentsApart()

@@ -1,34 +1,39 @@
-// Sizes told from PNG files without decoding them, held against files that the PNG library wrote.
+// What PNG files tell without being decoded, of files that the PNG library wrote.
+#include "compose/picture_file.h"
 #include "compose/png_chunks.h"
 
 #include <QBuffer>
 #include <QImage>
 #include <QTest>
 
-using Lw::HNodeClock::SizeOfIntactPng;
+using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr int kSignature = 8;
-constexpr int kFrame = 12; // of a chunk's content: length, name, checksum
-
-QByteArray Written(const QSize &size, QImage::Format format = QImage::Format_ARGB32)
+QByteArray Written(const QImage &image)
 {
-    QImage image(size, format);
-    image.fill(Qt::transparent);
-    image.setPixel(0, 0, format == QImage::Format_Mono ? 1 : 0xff00ff00);
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QBuffer::WriteOnly);
     return image.save(&buffer, "png") ? png : QByteArray();
 }
 
-/// The chunk of a name with its length, name and checksum.
-QByteArray Chunk(const QByteArray &png, const char *name)
+// Transparent, with every third pixel of a colour.
+QImage Striped(const QSize &size, QRgb colour, QImage::Format format = QImage::Format_ARGB32)
 {
-    const int at = png.indexOf(name) - 4;
-    const int length = png.mid(at, 4).toHex().toInt(nullptr, 16);
-    return png.mid(at, length + kFrame);
+    QImage image(size, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = y % 3; x < size.width(); x += 3)
+            image.setPixel(x, y, colour);
+    }
+    return image.convertToFormat(format);
+}
+
+QImage WithLastPixel(QImage image, QRgb colour)
+{
+    image.setPixel(image.width() - 1, image.height() - 1, colour);
+    return image;
 }
 
 } // namespace
@@ -37,93 +42,54 @@ class TestPngChunks : public QObject
 {
     Q_OBJECT
 private slots:
-    void IntactFiles_data();
-    void IntactFiles();
-    void OtherPictures_data();
-    void OtherPictures();
-    void EveryChangedByteShows();
-    void EveryCutShows();
-    void ChunksThatAreMissing();
-    void ContentOfAnotherPicture();
+    void sizeIsThatOfTheHeader();
+    void oneColour_data();
+    void oneColour();
 };
 
-void TestPngChunks::IntactFiles_data()
+void TestPngChunks::sizeIsThatOfTheHeader()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("one pixel") << QSize(1, 1);
-    QTest::newRow("a strip") << QSize(310, 57);
-    QTest::newRow("more than two bytes") << QSize(70, 300);
+    const QByteArray png = Written(Striped({70, 300}, 0xff00ff00));
+    QCOMPARE(SizeOfPng(png), QSize(70, 300));
+    QCOMPARE(SizeOfPng(png.left(kPngHeaderEnd)), QSize(70, 300));
+    QVERIFY(SizeOfPng(png.left(kPngHeaderEnd - 1)).isEmpty());
+    QVERIFY(SizeOfPng(QByteArray()).isEmpty());
+    QVERIFY(SizeOfPng("GIF89a and some more than twenty-four bytes").isEmpty());
+    QByteArray other = png;
+    other[12] = 'J';
+    QVERIFY(SizeOfPng(other).isEmpty());
 }
 
-void TestPngChunks::IntactFiles()
+void TestPngChunks::oneColour_data()
 {
-    QFETCH(QSize, size);
-    const QByteArray png = Written(size);
-    QCOMPARE(SizeOfIntactPng(png), size);
-    QCOMPARE(SizeOfIntactPng(png + "what follows the end"), size);
+    QTest::addColumn<QByteArray>("png");
+    QTest::addColumn<bool>("hasOne");
+    const QSize size(61, 40);
+    const QRgb green = 0xff00c000;
+    const QImage ink = Striped(size, green);
+    const auto row = [](const char *name, const QImage &image, bool hasOne) {
+        QTest::newRow(name) << Written(image) << hasOne;
+    };
+    row("ink", ink, true);
+    row("opaque throughout", WithLastPixel(Striped({1, 1}, green), green), true);
+    row("black ink", Striped(size, 0xff000000), true);
+    row("nothing but background", Striped(size, 0), true);
+    row("the last pixel of another colour", WithLastPixel(ink, 0xff00c100), false);
+    row("the last pixel soft", WithLastPixel(ink, 0xfe00c000), false);
+    row("soft throughout", Striped(size, 0x8000c000), false);
+    row("a single soft pixel", Striped({1, 1}, 0x8000c000), false);
+    row("without alpha", Striped(size, green, QImage::Format_RGB32), false);
+    row("with a palette", Striped(size, green, QImage::Format_Indexed8), false);
+    row("16 bits", Striped(size, green, QImage::Format_RGBA64), false);
 }
 
-void TestPngChunks::OtherPictures_data()
+void TestPngChunks::oneColour()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("nothing") << QByteArray();
-    QTest::newRow("a signature") << Written({3, 3}).left(kSignature);
-    QTest::newRow("no PNG") << QByteArray("GIF89a and so on");
-    QTest::newRow("without transparency") << Written({3, 3}, QImage::Format_RGB32);
-    QTest::newRow("black and white") << Written({3, 3}, QImage::Format_Mono);
-    QTest::newRow("grey") << Written({3, 3}, QImage::Format_Grayscale8);
-    QTest::newRow("wider than a picture may be") << Written({32768, 1});
-}
-
-void TestPngChunks::OtherPictures()
-{
-    QFETCH(QByteArray, content);
-    QVERIFY(!SizeOfIntactPng(content).isValid());
-}
-
-void TestPngChunks::EveryChangedByteShows()
-{
-    const QByteArray png = Written({7, 5});
-    for (int at = 0; at < png.size(); ++at) {
-        for (const int bit : {0, 3, 7}) {
-            QByteArray changed = png;
-            changed[at] = static_cast<char>(changed[at] ^ (1 << bit));
-            QVERIFY2(!SizeOfIntactPng(changed).isValid(),
-                     qPrintable(QStringLiteral("byte %1, bit %2").arg(at).arg(bit)));
-        }
-    }
-}
-
-void TestPngChunks::EveryCutShows()
-{
-    const QByteArray png = Written({7, 5});
-    for (int length = 0; length < png.size(); ++length)
-        QVERIFY2(!SizeOfIntactPng(png.left(length)).isValid(), qPrintable(QString::number(length)));
-}
-
-void TestPngChunks::ChunksThatAreMissing()
-{
-    const QByteArray png = Written({7, 5});
-    const QByteArray signature = png.left(kSignature);
-    const QByteArray head = Chunk(png, "IHDR");
-    const QByteArray pixels = Chunk(png, "IDAT");
-    const QByteArray end = Chunk(png, "IEND");
-    QCOMPARE(SizeOfIntactPng(signature + head + pixels + end), QSize(7, 5));
-    QVERIFY(!SizeOfIntactPng(signature + head + end).isValid());
-    QVERIFY(!SizeOfIntactPng(signature + head + pixels).isValid());
-    QVERIFY(!SizeOfIntactPng(signature + pixels + end).isValid());
-    QVERIFY(!SizeOfIntactPng(signature + pixels + head + end).isValid());
-    QVERIFY(!SizeOfIntactPng(signature + head + head + pixels + end).isValid());
-}
-
-// Right as far as checksums tell: the size is that of the header, whatever its pixels are.
-void TestPngChunks::ContentOfAnotherPicture()
-{
-    const QByteArray wide = Written({50, 9});
-    const QByteArray narrow = Written({20, 9});
-    const QByteArray spliced =
-        wide.left(kSignature) + Chunk(wide, "IHDR") + Chunk(narrow, "IDAT") + Chunk(wide, "IEND");
-    QCOMPARE(SizeOfIntactPng(spliced), QSize(50, 9));
+    QFETCH(QByteArray, png);
+    QVERIFY(!png.isEmpty());
+    QFETCH(bool, hasOne);
+    const QSize size = SizeOfPng(png);
+    QCOMPARE(GlyphBytesOfPng(png), hasOne ? InkBytes(size) : 4LL * size.width() * size.height());
 }
 
 QTEST_GUILESS_MAIN(TestPngChunks)
