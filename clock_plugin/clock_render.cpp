@@ -119,6 +119,8 @@ void HClockRender::Remove()
         CleanResources();
 }
 
+// While a frame is drawn the host is asked for the time, sizes and attributes, and may remove this
+// renderer, or delete it. So the drawer is held here until it has returned.
 void HClockRender::PlayNext()
 {
     if (!m_node || !m_drawer) {
@@ -126,16 +128,20 @@ void HClockRender::PlayNext()
         qDebug("Enter:[%s::%s::%d]", "clock_render.cpp", "PlayNext", 135);
         return;
     }
+    const QPointer<HClockRender> self(this);
+    QScopedPointer<DrawDisplayImage> drawer(m_drawer.take());
     QImage frame;
     int millisecond = 0;
     {
         const HeldReading oneInstant;
         millisecond = LocalMillisecond();
-        frame = m_drawer->DrawClockDisplayImage();
+        frame = drawer->DrawClockDisplayImage();
     }
-    const QPointer<HClockRender> self(this);
+    if (!self || !m_player)
+        return;
+    m_drawer.swap(drawer);
     m_player->UpdateImage(std::move(frame));
-    // Whoever was shown the frame may have removed this renderer, or deleted it.
+    // Whoever was shown the frame may do the same.
     if (!self || !m_player)
         return;
     CountTick();

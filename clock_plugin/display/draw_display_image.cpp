@@ -179,6 +179,8 @@ void DrawDisplayImage::SetHandSize(int size)
 // The settings are read once for both steps.
 void DrawDisplayImage::Private::DrawDigitalFrame()
 {
+    if (!shared.node)
+        return;
     const DigitalSettings settings(*shared.node);
     Digital().PlaceRows(settings);
     Digital().Draw(settings);

@@ -2,13 +2,23 @@
 
 #include "display/row_elements.h"
 
+#include <QPointer>
+
 namespace Lw::HNodeClock {
 
 namespace {
 
-int Number(HClockNode &node, Attribute attribute)
+// The host may delete the node as it is asked something. All numbers are 0 then.
+using AskedNode = QPointer<HClockNode>;
+
+int Number(const AskedNode &node, Attribute attribute)
 {
-    return node.GetAttributeToInt(Key(attribute));
+    return node ? node->GetAttributeToInt(Key(attribute)) : 0;
+}
+
+int Number(const AskedNode &node, int (HClockNode::*setting)())
+{
+    return node ? (node->*setting)() : 0;
 }
 
 using LayOut = void (*)(const DigitalArea &, Rows &);
@@ -54,14 +64,17 @@ Placements InRows(const DigitalSettings &settings, ElementComposer &elements, co
 } // namespace
 
 DigitalSettings::DigitalSettings(HClockNode &node)
-    : area(node.Size()), space(Number(node, Attribute::DigitalSpace)), swap(node.DigitalSwapArea()),
-      onOneLine(Number(node, Attribute::DigitalDisplayMode) != 0)
 {
-    flags.topText = node.Digital_TopText_d();
-    flags.date = node.Digital_Date_d();
-    flags.week = node.Digital_Week_d();
-    flags.time = node.Digital_Time_d();
-    flags.lunar = node.Digital_Lunar_d();
+    const AskedNode asked(&node);
+    area = node.Size();
+    space = Number(asked, Attribute::DigitalSpace);
+    swap = Number(asked, &HClockNode::DigitalSwapArea);
+    onOneLine = Number(asked, Attribute::DigitalDisplayMode) != 0;
+    flags.topText = Number(asked, &HClockNode::Digital_TopText_d);
+    flags.date = Number(asked, &HClockNode::Digital_Date_d);
+    flags.week = Number(asked, &HClockNode::Digital_Week_d);
+    flags.time = Number(asked, &HClockNode::Digital_Time_d);
+    flags.lunar = Number(asked, &HClockNode::Digital_Lunar_d);
 }
 
 void LayOutDigital(const DigitalSettings &settings, int count, int space, ElementComposer &elements,
@@ -103,18 +116,20 @@ constexpr TextRow kTexts[] = {
 
 void LayOutAnalog(HClockNode &node, ElementComposer &elements, Rows &tops)
 {
+    const AskedNode asked(&node);
+    const QSize size = node.Size();
     Rows flags;
-    flags.date = Number(node, Attribute::Analog_Date_d);
-    flags.week = Number(node, Attribute::Analog_Week_d);
-    flags.lunar = Number(node, Attribute::Analog_Lunar_d);
+    flags.date = Number(asked, Attribute::Analog_Date_d);
+    flags.week = Number(asked, Attribute::Analog_Week_d);
+    flags.lunar = Number(asked, Attribute::Analog_Lunar_d);
     // A single row places all three; otherwise a row that does not take part is not measured.
     Rows measured = CountRows(flags) == 1 ? LowerRows(kEveryRow) : flags;
     measured.topText = 1;
     AnalogArea area;
-    area.width = node.Size().width();
-    area.height = node.Size().height();
-    area.space = Number(node, Attribute::AnalogSpace);
-    area.swap = Number(node, Attribute::AnalogSwapArea);
+    area.width = size.width();
+    area.height = size.height();
+    area.space = Number(asked, Attribute::AnalogSpace);
+    area.swap = Number(asked, Attribute::AnalogSwapArea);
     area.flags = flags;
     area.heights = HeightsOf(elements, measured);
     LayOutAnalogRows(area, tops);
@@ -122,10 +137,11 @@ void LayOutAnalog(HClockNode &node, ElementComposer &elements, Rows &tops)
 
 Placements PlaceAnalog(HClockNode &node, ElementComposer &elements, const Rows &tops)
 {
+    const AskedNode asked(&node);
     const int middle = node.Size().width() / 2;
     Placements placements;
     for (const TextRow &text : kTexts) {
-        if (Number(node, text.flag) != 1)
+        if (Number(asked, text.flag) != 1)
             continue;
         const Element &element = ElementIn(text.row, elements);
         placements.Add(element, QPoint(middle - element.Width() / 2, tops[text.row]));

@@ -19,9 +19,9 @@ struct DigitalSettings
     QSize area;
     /// An element counts in the layout when its flag is not 0; it is drawn when it is 1.
     Rows flags;
-    int space;
-    int swap;
-    bool onOneLine;
+    int space = 0;
+    int swap = 0;
+    bool onOneLine = false;
 };
 
 /// Works out the top edges of a digital clock's rows as the layout of that many rows, 0 to 5, with
