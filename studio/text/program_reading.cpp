@@ -95,11 +95,11 @@ std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, con
     if (const auto *program = std::get_if<Program>(&read)) {
         if (!elements)
             return NoElements(text);
-        return ProgramReading {text, *elements, *program};
+        return ProgramReading {text, form, *elements, *program};
     }
     if (elements) {
         if (const std::optional<Program> empty = ReadEmptyProgram(text, *elements))
-            return ProgramReading {text, *elements, *empty};
+            return ProgramReading {text, form, *elements, *empty};
     }
     return FaultOf(std::get<Failure>(read));
 }

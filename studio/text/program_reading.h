@@ -14,6 +14,7 @@ namespace ClockStudio {
 struct ProgramReading
 {
     QString text;
+    TextForm form;
     XmlElements elements;
     ClockProgram::Program program; ///< may be without areas, as a new wall is
 

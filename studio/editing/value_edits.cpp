@@ -1,0 +1,330 @@
+#include "value_edits.h"
+
+#include "wall/live_wall.h"
+
+#include "clock_node.h"
+#include "clock_sdk_tables.h"
+#include "happconfig.h"
+#include "node_maker.h"
+
+#include <QColor>
+
+namespace ClockStudio {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+/// What says a value: an attribute of an XML element. Without an attribute name it is nothing.
+struct Source
+{
+    int element = -1;
+    QString attribute;
+    Conversion conversion = Conversion::Text;
+    bool isStored = false; ///< an "attribute" child, which has the value as it is stored
+
+    bool IsNothing() const { return attribute.isEmpty(); }
+};
+
+/// What would say a value that nothing says yet.
+struct NewSource
+{
+    QString element; ///< to be made; empty for one that is there
+    Source source;
+};
+
+const QString kKeyName = QStringLiteral("key");
+const QString kValueName = QLatin1String(Sdk::kValue);
+
+QString ColourName(int stored)
+{
+    return Lw::HAppConfig::IntToColor(stored).name();
+}
+
+/// A stored value as an import reads it; nothing where no text is read as it.
+std::optional<QString> ImportText(Conversion conversion, const QString &stored)
+{
+    switch (conversion) {
+    case Conversion::Text:
+    case Conversion::Number:
+        return stored;
+    case Conversion::InvertedNumber:
+        return QLatin1String(stored.toInt() == 0 ? "1" : "0");
+    case Conversion::Flag:
+        return QLatin1String(stored.toInt() != 0 ? "true" : "false");
+    case Conversion::Colour:
+    case Conversion::ParsedColour:
+        return ColourName(stored.toInt());
+    case Conversion::AdjustSeconds:
+    case Conversion::AdjustTime:
+        break;
+    }
+    return std::nullopt;
+}
+
+/// The tables that are read for a kind of clock, in the order in which they are.
+QVector<const ImportElement *> ImportsOf(int kind)
+{
+    QVector<const ImportElement *> imports;
+    const auto add = [&imports](const auto &table) {
+        for (const ImportElement &element : table)
+            imports.append(&element);
+    };
+    add(kTimeImport);
+    if (kind != PictureClock) {
+        add(kFontImport);
+        kind == AnalogClock ? add(kAnalogImport) : add(kDigitalImport);
+    }
+    return imports;
+}
+
+/// The element that an import reads in a clock: itself, the first of the name, else of the
+/// fallback; -1 for none.
+int ElementRead(const ProgramReading &reading, int clock, const ImportElement &import)
+{
+    if (!import.name)
+        return clock;
+    for (const char *const name : {import.name, import.fallback}) {
+        const QVector<int> found =
+            name ? ChildrenNamed(reading.elements, clock, QLatin1String(name)) : QVector<int>();
+        if (!found.isEmpty())
+            return found.first();
+    }
+    return -1;
+}
+
+QVector<const ImportRow *> RowsFor(const ImportElement &import, Attribute target)
+{
+    QVector<const ImportRow *> rows;
+    for (const ImportRow &row : import.rows) {
+        if (row.source.attribute && row.target == target)
+            rows.append(&row);
+    }
+    return rows;
+}
+
+Source StoredSource(const ProgramReading &reading, int clock, Attribute attribute)
+{
+    Source last;
+    for (const int child : ChildrenNamed(reading.elements, clock, ClockProgram::kAttributeTag)) {
+        if (reading.elements[child].Value(kKeyName) == Key(attribute))
+            last = {child, kValueName, Conversion::Text, true};
+    }
+    return last;
+}
+
+/// What says the value: the last "attribute" child of the key, else what is imported last.
+Source SourceOf(const ProgramReading &reading, int clock, int kind, Attribute attribute)
+{
+    Source found = StoredSource(reading, clock, attribute);
+    if (!found.IsNothing())
+        return found;
+    for (const ImportElement *const import : ImportsOf(kind)) {
+        const int element = ElementRead(reading, clock, *import);
+        for (const ImportRow *const row : RowsFor(*import, attribute)) {
+            for (const ImportSource *const source : {&row->source, &row->fallback}) {
+                if (element >= 0 && source->attribute
+                    && reading.elements[element].Find(QLatin1String(source->attribute))) {
+                    found = {element, QLatin1String(source->attribute), source->conversion, false};
+                    break;
+                }
+            }
+        }
+    }
+    return found;
+}
+
+/// Where people write the value: in the element for just this, under the name that documents use.
+/// The elements that set several things at once are no place for a new value.
+std::optional<NewSource> NewSourceOf(const ProgramReading &reading, int clock, int kind,
+                                     Attribute attribute)
+{
+    for (const ImportElement *const import : ImportsOf(kind)) {
+        const bool isShared = import->name
+            && (qstrcmp(import->name, "font") == 0 || qstrcmp(import->name, Sdk::kClockCom) == 0);
+        const QVector<const ImportRow *> rows = RowsFor(*import, attribute);
+        if (isShared || rows.isEmpty())
+            continue;
+        const int element = ElementRead(reading, clock, *import);
+        const ImportSource &source = rows.first()->source;
+        const Source place {element, QLatin1String(source.attribute), source.conversion, false};
+        if (element >= 0)
+            return NewSource {{}, place};
+        return NewSource {QLatin1String(import->fallback ? import->fallback : import->name), place};
+    }
+    return std::nullopt;
+}
+
+TextEdit StoredElementEdit(const ProgramReading &reading, int clock, const StoredValue &value)
+{
+    return AppendChildEdit(
+        reading, clock,
+        QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>")
+            .arg(Key(value.attribute), EscapedValue(value.text, QLatin1Char('"'))));
+}
+
+/// The edit that looks best; nothing where only an "attribute" child can say the value.
+std::optional<TextEdit> BestEdit(const ProgramReading &reading, int area, int kind,
+                                 const StoredValue &value)
+{
+    const int clock = reading.ClockElement(area);
+    Source source = SourceOf(reading, clock, kind, value.attribute);
+    QString element;
+    if (source.IsNothing()) {
+        const auto made = NewSourceOf(reading, clock, kind, value.attribute);
+        if (!made)
+            return std::nullopt;
+        source = made->source;
+        element = made->element;
+    }
+    const std::optional<QString> text =
+        source.isStored ? value.text : ImportText(source.conversion, value.text);
+    if (!text)
+        return std::nullopt;
+    if (!element.isEmpty())
+        return AppendChildEdit(
+            reading, clock,
+            QStringLiteral("<%1 %2=\"%3\"/>")
+                .arg(element, source.attribute, EscapedValue(*text, QLatin1Char('"'))));
+    return SetAttributeEdit(reading, source.element, source.attribute, *text);
+}
+
+std::optional<ProgramReading> ReadAfter(const ProgramReading &reading, const TextEdits &edits)
+{
+    QString text = reading.text;
+    ApplyEdits(text, edits);
+    auto read = ReadProgramText(text, FormAfterEdits(text, reading.form));
+    if (auto *const after = std::get_if<ProgramReading>(&read))
+        return *after;
+    return std::nullopt;
+}
+
+/// Whether one value is as wanted, and no other differs from what it was.
+bool ChangesOnly(HClockNode &before, HClockNode &after, const StoredValue &value)
+{
+    for (const AttributeRow &row : kAttributeTable) {
+        const QString &key = Key(row.attribute);
+        const bool isWanted = row.attribute == value.attribute;
+        if (row.attribute != Attribute::Id
+            && after.GetAttribute(key) != (isWanted ? value.text : before.GetAttribute(key)))
+            return false;
+    }
+    return true;
+}
+
+/// Tries an edit with the plugin itself.
+bool IsReadAsMeant(const ProgramReading &reading, int area, const TextEdit &edit,
+                   const StoredValue &value)
+{
+    const auto after = ReadAfter(reading, {edit});
+    const auto nodeBefore = ClockOf(reading, area);
+    const auto nodeAfter = after ? ClockOf(*after, area) : nullptr;
+    return nodeBefore && nodeAfter && ChangesOnly(*nodeBefore, *nodeAfter, value);
+}
+
+TextEdit EditOf(const ProgramReading &reading, int area, int kind, const StoredValue &value)
+{
+    const std::optional<TextEdit> best = BestEdit(reading, area, kind, value);
+    if (best && IsReadAsMeant(reading, area, *best, value))
+        return *best;
+    const int clock = reading.ClockElement(area);
+    const Source stored = StoredSource(reading, clock, value.attribute);
+    return stored.IsNothing() ? StoredElementEdit(reading, clock, value)
+                              : SetAttributeEdit(reading, stored.element, kValueName, value.text);
+}
+
+int KindOf(const ProgramReading &reading, int area)
+{
+    const auto node = ClockOf(reading, area);
+    return node ? node->ClockType() : DigitalClock;
+}
+
+} // namespace
+
+std::unique_ptr<HClockNode> ClockOf(const ProgramReading &reading, int area)
+{
+    ClockProgram::Program alone = reading.program;
+    alone.areas = {reading.program.areas[area]};
+    auto result = ClockProgram::MakeNodes(alone, FindClockPlugin);
+    auto *const made = std::get_if<ClockProgram::MadeNodes>(&result);
+    if (!made)
+        return nullptr;
+    Lw::HNode *const node = made->nodes.front().node.release();
+    return std::unique_ptr<HClockNode>(static_cast<HClockNode *>(node)); // only clocks are made
+}
+
+/// Each edit is worked out in the text that the ones before it leave: two may make an element.
+TextEdits ValueEdits(const ProgramReading &reading, int area, const QVector<StoredValue> &values)
+{
+    TextEdits edits;
+    ProgramReading current = reading;
+    const int kind = KindOf(reading, area);
+    for (const StoredValue &value : values) {
+        const auto node = ClockOf(current, area);
+        if (node && node->GetAttribute(Key(value.attribute)) == value.text
+            && node->HaveAttribute(Key(value.attribute)))
+            continue;
+        const TextEdit edit = EditOf(current, area, kind, value);
+        const auto after = ReadAfter(current, {edit});
+        if (!after)
+            continue;
+        edits.append(edit);
+        current = *after;
+    }
+    return edits;
+}
+
+TextEdits ResetEdits(const ProgramReading &reading, int area, Attribute attribute)
+{
+    const StoredValue value {attribute, DefaultValue(attribute)};
+    const Source source =
+        SourceOf(reading, reading.ClockElement(area), KindOf(reading, area), attribute);
+    if (!source.IsNothing()) {
+        const TextEdit removal = source.isStored
+            ? RemoveElementEdit(reading, source.element)
+            : RemoveAttributeEdit(reading, source.element, source.attribute);
+        if (IsReadAsMeant(reading, area, removal, value))
+            return {removal};
+    }
+    return ValueEdits(reading, area, {value});
+}
+
+TextEdits KindEdits(const ProgramReading &reading, int area, int kind)
+{
+    const int clock = reading.ClockElement(area);
+    // The older form tells the kind by its number, in a child.
+    const QVector<int> older =
+        ChildrenNamed(reading.elements, clock, QLatin1String(Sdk::kClockCom));
+    TextEdits edits {older.isEmpty()
+                         ? SetAttributeEdit(reading, clock, QLatin1String(Sdk::kType),
+                                            QLatin1String(Sdk::kTypeNames[kind]))
+                         : SetAttributeEdit(reading, older.first(), QLatin1String(Sdk::kClockType),
+                                            QString::number(kind))};
+    for (const int child : ChildrenNamed(reading.elements, clock, ClockProgram::kAttributeTag)) {
+        if (reading.elements[child].Value(kKeyName) == Key(Attribute::ClockType))
+            edits.append(RemoveElementEdit(reading, child));
+    }
+    edits = InSequence(edits);
+    const auto after = ReadAfter(reading, edits);
+    const auto node = after ? ClockOf(*after, area) : nullptr;
+    if (node && node->ClockType() == kind)
+        return edits;
+    return {StoredElementEdit(reading, clock, {Attribute::ClockType, QString::number(kind)})};
+}
+
+QString DefaultValue(Attribute attribute)
+{
+    HClockNode fresh;
+    fresh.InitData();
+    return fresh.GetAttribute(Key(attribute));
+}
+
+TextRange PlaceOf(const ProgramReading &reading, int area, Attribute attribute)
+{
+    const int clock = reading.ClockElement(area);
+    const Source source = SourceOf(reading, clock, KindOf(reading, area), attribute);
+    return source.IsNothing() ? reading.elements[clock].tag
+                              : reading.elements[source.element].whole;
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,278 @@
+#include "wall_editor.h"
+
+#include "text/area_texts.h"
+#include "text/program_edits.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QSet>
+
+#include <algorithm>
+#include <numeric>
+
+namespace ClockStudio {
+
+namespace {
+
+// How far copies are put from what they are copies of, in pixels.
+constexpr QPoint kCopyDistance(8, 8);
+
+} // namespace
+
+WallEditor::WallEditor(StudioDocument &document, LiveWall &wall, QObject *parent)
+    : QObject(parent), m_document(document), m_wall(wall)
+{
+    connect(&document, &StudioDocument::Edited, this, &WallEditor::FollowEdits);
+    connect(&document, &StudioDocument::Loaded, this, [this] { Choose({}); });
+    connect(&document, &StudioDocument::Read, this, &WallEditor::ShowText);
+}
+
+void WallEditor::FollowEdits(const TextEdits &edits)
+{
+    for (int &place : m_places)
+        place = MovedPosition(place, edits);
+}
+
+void WallEditor::ShowText()
+{
+    const ProgramReading *const reading = m_document.Reading();
+    if (!reading)
+        return;
+    m_wall.Show(*reading);
+    QVector<int> still;
+    for (int area = 0; area < reading->AreaCount(); ++area) {
+        if (m_places.contains(reading->elements[reading->AreaElement(area)].whole.begin))
+            still.append(area);
+    }
+    if (still.size() != m_chosen.size()
+        || !std::is_permutation(still.cbegin(), still.cend(), m_chosen.cbegin()))
+        Choose(still);
+}
+
+void WallEditor::Choose(const QVector<int> &areas)
+{
+    const ProgramReading &reading = m_document.LastReading();
+    m_chosen.clear();
+    m_places.clear();
+    for (const int area : areas) {
+        if (area < 0 || area >= reading.AreaCount() || m_chosen.contains(area))
+            continue;
+        m_chosen.append(area);
+        m_places.append(reading.elements[reading.AreaElement(area)].whole.begin);
+    }
+    m_document.EndMerging();
+    emit ChoiceChanged();
+}
+
+void WallEditor::Toggle(int area)
+{
+    QVector<int> areas = m_chosen;
+    if (!areas.removeOne(area))
+        areas.append(area);
+    Choose(areas);
+}
+
+void WallEditor::ChooseAll()
+{
+    QVector<int> all;
+    for (int area = 0; area < m_wall.AreaCount(); ++area)
+        all.append(area);
+    Choose(all);
+}
+
+QVector<QRect> WallEditor::ChosenRects() const
+{
+    QVector<QRect> rects;
+    for (const int area : m_chosen)
+        rects.append(m_document.LastReading().Geometry(area));
+    return rects;
+}
+
+void WallEditor::Place(const QVector<QRect> &rects, const QString &label, const QString &mergeKey)
+{
+    const ProgramReading *const reading = m_document.Reading();
+    if (!reading)
+        return;
+    TextEdits edits;
+    for (int i = 0; i < qMin(rects.size(), m_chosen.size()); ++i)
+        edits += GeometryEdits(*reading, m_chosen[i], rects[i]);
+    m_document.Change(InSequence(edits), label, mergeKey);
+}
+
+void WallEditor::MoveBy(QPoint distance)
+{
+    QVector<QRect> rects = ChosenRects();
+    for (QRect &rect : rects)
+        rect.translate(distance);
+    Place(rects, tr("Move"), QStringLiteral("move"));
+}
+
+void WallEditor::ResizeBy(QPoint distance)
+{
+    QVector<QRect> rects = ChosenRects();
+    for (QRect &rect : rects)
+        rect = Resized(rect, RightSide | BottomSide, distance);
+    Place(rects, tr("Resize"), QStringLiteral("resize"));
+}
+
+void WallEditor::Align(Alignment alignment)
+{
+    Place(Aligned(ChosenRects(), alignment, m_wall.Size()), tr("Align"));
+}
+
+void WallEditor::Distribute(Direction direction)
+{
+    Place(Distributed(ChosenRects(), direction), tr("Distribute"));
+}
+
+void WallEditor::Stack(Direction direction)
+{
+    Place(Stacked(ChosenRects(), direction), tr("Stack"));
+}
+
+void WallEditor::BringToFront()
+{
+    Reorder(true, tr("Bring to front"));
+}
+
+void WallEditor::SendToBack()
+{
+    Reorder(false, tr("Send to back"));
+}
+
+/// Later areas are drawn above earlier ones. The texts of the areas change places; what is between
+/// them stays.
+void WallEditor::Reorder(bool toFront, const QString &label)
+{
+    const ProgramReading *const reading = m_document.Reading();
+    if (!reading || m_chosen.isEmpty())
+        return;
+    QVector<int> order(reading->AreaCount());
+    std::iota(order.begin(), order.end(), 0);
+    std::stable_partition(order.begin(), order.end(),
+                          [&](int area) { return m_chosen.contains(area) != toFront; });
+    TextEdits edits;
+    for (int area = 0; area < order.size(); ++area) {
+        if (order[area] != area)
+            edits.append(Replacement(reading->text,
+                                     reading->elements[reading->AreaElement(area)].whole,
+                                     reading->AreaText(order[area])));
+    }
+    QVector<int> places;
+    for (const int area : qAsConst(m_chosen))
+        places.append(order.indexOf(area));
+    m_document.Change(InSequence(edits), label);
+    Choose(places);
+}
+
+void WallEditor::Append(const QStringList &areas, const QString &label)
+{
+    const ProgramReading *const reading = m_document.Reading();
+    if (!reading || areas.isEmpty())
+        return;
+    const int first = reading->AreaCount();
+    m_document.Change({AppendChildEdit(*reading, 0, areas.join(QLatin1Char('\n')))}, label);
+    QVector<int> added;
+    for (int area = first; area < m_wall.AreaCount(); ++area)
+        added.append(area);
+    Choose(added);
+}
+
+void WallEditor::Add(ClockKind kind, const QRect &geometry)
+{
+    Append({NewAreaText(kind, geometry)}, tr("Add a clock"));
+}
+
+void WallEditor::Delete()
+{
+    const ProgramReading *const reading = m_document.Reading();
+    if (!reading)
+        return;
+    TextEdits edits;
+    for (const int area : qAsConst(m_chosen))
+        edits.append(RemoveElementEdit(*reading, reading->AreaElement(area)));
+    Choose({}); // or what follows without a blank between them would be taken for one of them
+    m_document.Change(InSequence(edits), tr("Delete"));
+}
+
+void WallEditor::Duplicate()
+{
+    const ProgramReading *const reading = m_document.Reading();
+    if (!reading)
+        return;
+    QSet<int> ids = GivenIds(*reading);
+    QStringList copies;
+    for (const int area : qAsConst(m_chosen))
+        copies.append(AreaForProgram(PortableAreaText(*reading, area), kCopyDistance, ids));
+    Append(copies, tr("Duplicate"));
+}
+
+void WallEditor::Copy() const
+{
+    const ProgramReading *const reading = m_document.Reading();
+    if (!reading || m_chosen.isEmpty())
+        return;
+    QVector<int> ordered = m_chosen;
+    std::sort(ordered.begin(), ordered.end());
+    QStringList texts;
+    for (const int area : qAsConst(ordered))
+        texts.append(PortableAreaText(*reading, area));
+    QGuiApplication::clipboard()->setText(texts.join(QLatin1Char('\n')));
+}
+
+void WallEditor::Cut()
+{
+    Copy();
+    Delete();
+}
+
+bool WallEditor::Paste()
+{
+    return PasteText(QGuiApplication::clipboard()->text());
+}
+
+bool WallEditor::PasteText(const QString &text)
+{
+    const ProgramReading *const reading = m_document.Reading();
+    const QStringList areas = AreasInText(text);
+    if (!reading || areas.isEmpty())
+        return false;
+    QSet<int> ids = GivenIds(*reading);
+    QStringList pasted;
+    for (const QString &area : areas)
+        pasted.append(AreaForProgram(area, kCopyDistance, ids));
+    Append(pasted, tr("Paste"));
+    return true;
+}
+
+QRect WallEditor::FreePlace(QSize size) const
+{
+    const QRect screen(QPoint(), m_wall.Size());
+    const QSize fitting = size.boundedTo(screen.size());
+    const auto isFree = [this](const QRect &rect) {
+        for (int area = 0; area < m_wall.AreaCount(); ++area) {
+            if (m_wall.Geometry(area).intersects(rect))
+                return false;
+        }
+        return true;
+    };
+    constexpr int kStep = 8;
+    for (int y = 0; y + fitting.height() <= screen.height(); y += kStep) {
+        for (int x = 0; x + fitting.width() <= screen.width(); x += kStep) {
+            if (isFree({QPoint(x, y), fitting}))
+                return {QPoint(x, y), fitting};
+        }
+    }
+    return {
+        QPoint((screen.width() - fitting.width()) / 2, (screen.height() - fitting.height()) / 2),
+        fitting};
+}
+
+void WallEditor::SetScreenSize(QSize size)
+{
+    if (const ProgramReading *const reading = m_document.Reading())
+        m_document.Change(InSequence(ScreenSizeEdits(*reading, size)), tr("Size of the wall"),
+                          QStringLiteral("screen size"));
+}
+
+} // namespace ClockStudio

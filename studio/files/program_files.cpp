@@ -1,0 +1,163 @@
+#include "program_files.h"
+
+#include "xml_document.h"
+
+#include <QCryptographicHash>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QSettings>
+
+namespace ClockStudio {
+
+namespace {
+
+constexpr int kKeepingInterval = 4000; // milliseconds
+// Writers replace a file in several steps; what it is then is looked at afterwards.
+constexpr int kLookingDelay = 200;
+constexpr int kMostRecent = 10;
+const QString kRecentKey = QStringLiteral("recentFiles");
+
+QByteArray DigestOf(const QByteArray &contents)
+{
+    return QCryptographicHash::hash(contents, QCryptographicHash::Sha1);
+}
+
+} // namespace
+
+ProgramFiles::ProgramFiles(StudioDocument &document, const QString &recoveryDirectory,
+                           QObject *parent)
+    : QObject(parent), m_document(document), m_store(recoveryDirectory)
+{
+    m_looking.setSingleShot(true);
+    m_looking.setInterval(kLookingDelay);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_looking,
+            QOverload<>::of(&QTimer::start));
+    connect(&m_looking, &QTimer::timeout, this, &ProgramFiles::LookAtDisk);
+    connect(&m_keeping, &QTimer::timeout, this, &ProgramFiles::KeepWork);
+    connect(&document.History(), &QUndoStack::cleanChanged, this, &ProgramFiles::NameChanged);
+    m_keeping.start(kKeepingInterval);
+}
+
+QString ProgramFiles::Name() const
+{
+    return m_path.isEmpty() ? tr("Untitled") : QFileInfo(m_path).fileName();
+}
+
+bool ProgramFiles::IsSaved() const
+{
+    return m_document.History().isClean() && !m_isRecovered;
+}
+
+std::optional<QString> ProgramFiles::Open(const QString &path)
+{
+    const auto read = ClockProgram::ReadContents(path);
+    if (const auto *const failure = std::get_if<ClockProgram::Failure>(&read))
+        return failure->text;
+    const QByteArray &contents = std::get<QByteArray>(read);
+    if (!m_document.Load(contents))
+        return tr("%1 is damaged or not a text.").arg(path);
+    m_isRecovered = false;
+    SetPath(QFileInfo(path).absoluteFilePath(), contents);
+    m_store.Forget();
+    return std::nullopt;
+}
+
+std::optional<QString> ProgramFiles::Save(const QString &path)
+{
+    const std::optional<QByteArray> bytes = m_document.Bytes();
+    if (!bytes)
+        return tr("The encoding of the file lacks a character of this text.");
+    QSaveFile file(path);
+    // Closing the file alone does not tell whether its last bytes found room.
+    if (!file.open(QFile::WriteOnly) || file.write(*bytes) != bytes->size() || !file.flush()
+        || !file.commit())
+        return tr("%1 could not be saved: %2").arg(path, file.errorString());
+    m_isRecovered = false;
+    m_document.EndMerging();
+    m_document.History().setClean();
+    SetPath(QFileInfo(path).absoluteFilePath(), *bytes);
+    m_store.Forget();
+    return std::nullopt;
+}
+
+void ProgramFiles::Begin(const QByteArray &bytes)
+{
+    m_document.Load(bytes);
+    m_isRecovered = false;
+    m_store.Forget();
+    SetPath({}, {});
+}
+
+void ProgramFiles::Recover(const LeftWork &work)
+{
+    m_document.Load(work.bytes);
+    m_isRecovered = true;
+    const auto there = ClockProgram::ReadContents(work.path);
+    const auto *const contents = std::get_if<QByteArray>(&there);
+    SetPath(work.path, contents ? *contents : QByteArray());
+    if (m_store.Keep(work.path, work.bytes))
+        RecoveryStore::Remove(work);
+}
+
+void ProgramFiles::KeepWork()
+{
+    if (IsSaved() || m_keptIndex == m_document.History().index())
+        return;
+    if (const auto bytes = m_document.Bytes()) {
+        if (m_store.Keep(m_path, *bytes))
+            m_keptIndex = m_document.History().index();
+    }
+}
+
+void ProgramFiles::SetPath(const QString &path, const QByteArray &contents)
+{
+    if (!m_watcher.files().isEmpty())
+        m_watcher.removePaths(m_watcher.files());
+    m_path = path;
+    m_digest = DigestOf(contents);
+    m_keptIndex = -1;
+    if (!path.isEmpty()) {
+        m_watcher.addPath(path);
+        NoteRecent(path);
+    }
+    emit NameChanged();
+}
+
+void ProgramFiles::LookAtDisk()
+{
+    if (m_path.isEmpty())
+        return;
+    if (!QFileInfo::exists(m_path)) {
+        emit LostOnDisk();
+        return;
+    }
+    if (!m_watcher.files().contains(m_path))
+        m_watcher.addPath(m_path); // a file that was replaced is another one
+    const auto read = ClockProgram::ReadContents(m_path);
+    const auto *const contents = std::get_if<QByteArray>(&read);
+    if (!contents || DigestOf(*contents) == m_digest)
+        return;
+    m_digest = DigestOf(*contents);
+    emit ChangedOnDisk();
+}
+
+void ProgramFiles::NoteRecent(const QString &path)
+{
+    QSettings settings;
+    QStringList paths = settings.value(kRecentKey).toStringList();
+    paths.removeAll(path);
+    paths.prepend(path);
+    settings.setValue(kRecentKey, QStringList(paths.mid(0, kMostRecent)));
+}
+
+QStringList ProgramFiles::Recent()
+{
+    QStringList there;
+    for (const QString &path : QSettings().value(kRecentKey).toStringList()) {
+        if (QFileInfo(path).isFile())
+            there.append(path);
+    }
+    return there;
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,89 @@
+#include "recovery_store.h"
+
+#include <QDataStream>
+#include <QDir>
+#include <QSaveFile>
+#include <QUuid>
+
+namespace ClockStudio {
+
+namespace {
+
+const QString kSuffix = QStringLiteral(".work");
+constexpr quint32 kMagic = 0x434c4b31; // a file of this form begins with it
+
+QString LockOf(const QString &file)
+{
+    return file + QStringLiteral(".lock");
+}
+
+std::optional<LeftWork> ReadWork(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly))
+        return std::nullopt;
+    QDataStream stream(&file);
+    quint32 magic = 0;
+    LeftWork work;
+    work.file = path;
+    stream >> magic;
+    if (magic != kMagic)
+        return std::nullopt;
+    stream >> work.path >> work.bytes;
+    return stream.status() == QDataStream::Ok ? std::optional<LeftWork>(work) : std::nullopt;
+}
+
+} // namespace
+
+RecoveryStore::RecoveryStore(const QString &directory) : m_directory(directory)
+{
+    QDir().mkpath(directory);
+    m_file = QDir(directory).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + kSuffix);
+    m_lock = std::make_unique<QLockFile>(LockOf(m_file));
+    m_lock->setStaleLockTime(0); // however long it runs
+    m_lock->tryLock(0);
+}
+
+RecoveryStore::~RecoveryStore()
+{
+    Forget();
+}
+
+bool RecoveryStore::Keep(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(m_file);
+    if (!file.open(QFile::WriteOnly))
+        return false;
+    QDataStream stream(&file);
+    stream << kMagic << path << bytes;
+    return stream.status() == QDataStream::Ok && file.flush() && file.commit();
+}
+
+void RecoveryStore::Forget()
+{
+    QFile::remove(m_file);
+}
+
+QVector<LeftWork> RecoveryStore::Left() const
+{
+    QVector<LeftWork> left;
+    const QDir directory(m_directory);
+    for (const QString &name : directory.entryList({QLatin1Char('*') + kSuffix}, QDir::Files)) {
+        const QString path = directory.filePath(name);
+        QLockFile lock(LockOf(path));
+        lock.setStaleLockTime(0);
+        if (path == m_file || !lock.tryLock(0))
+            continue;
+        if (const auto work = ReadWork(path))
+            left.append(*work);
+    }
+    return left;
+}
+
+void RecoveryStore::Remove(const LeftWork &work)
+{
+    QFile::remove(work.file);
+    QFile::remove(LockOf(work.file));
+}
+
+} // namespace ClockStudio

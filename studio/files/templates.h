@@ -1,0 +1,24 @@
+// studio/files: where programs come from and go to.
+// Programs to begin with. They are files of the tree, built in.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+namespace ClockStudio {
+
+struct Template
+{
+    QString name; ///< of its file, without the suffix
+    QString title;
+    QString description;
+};
+
+/// In the order of the gallery.
+QVector<Template> Templates();
+
+/// A template's program; empty for an unknown name.
+QByteArray TemplateBytes(const QString &name);
+
+} // namespace ClockStudio

@@ -1,0 +1,100 @@
+#include "findings_panel.h"
+
+#include "clock_node.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+namespace ClockStudio {
+
+namespace {
+
+// Checking waits until nobody has typed for so long, in milliseconds.
+constexpr int kDelay = 400;
+
+} // namespace
+
+FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
+    : QWidget(parent), m_editor(editor), m_list(new QListWidget),
+      m_mend(new QPushButton(tr("Mend"))), m_none(new QLabel(tr("Nothing found.")))
+{
+    auto *const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(8, 6, 8, 6);
+    m_list->setWordWrap(true);
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setAccessibleName(tr("Findings"));
+    m_mend->setToolTip(tr("Write what the finding suggests"));
+    layout->addWidget(m_none, 1);
+    layout->addWidget(m_list, 1);
+    layout->addWidget(m_mend, 0, Qt::AlignTop);
+    m_delay.setSingleShot(true);
+    m_delay.setInterval(kDelay);
+    connect(&editor.Document(), &StudioDocument::Read, &m_delay, QOverload<>::of(&QTimer::start));
+    connect(&m_delay, &QTimer::timeout, this, &FindingsPanel::Check);
+    connect(m_list, &QListWidget::currentRowChanged, this, &FindingsPanel::Choose);
+    connect(m_mend, &QPushButton::clicked, this, &FindingsPanel::Mend);
+    Check();
+}
+
+void FindingsPanel::Check()
+{
+    m_delay.stop();
+    const ProgramReading *const reading = m_editor.Document().Reading();
+    m_findings =
+        reading && reading->AreaCount() > 0 ? FindingsIn(*reading) : QVector<ClockTool::Finding>();
+    const QSignalBlocker quiet(m_list);
+    m_list->clear();
+    for (const ClockTool::Finding &finding : qAsConst(m_findings))
+        Add(finding);
+    m_list->setVisible(!m_findings.isEmpty());
+    m_none->setVisible(m_findings.isEmpty());
+    m_mend->setVisible(!m_findings.isEmpty());
+    m_mend->setEnabled(false);
+    emit CountChanged(m_findings.size());
+}
+
+void FindingsPanel::Add(const ClockTool::Finding &finding)
+{
+    const bool isWarning = finding.severity == ClockTool::Severity::Warning;
+    const QString where =
+        finding.place.clock > 0 ? tr("Clock %1: ").arg(finding.place.clock) : QString();
+    auto *const item =
+        new QListWidgetItem(style()->standardIcon(isWarning ? QStyle::SP_MessageBoxWarning
+                                                            : QStyle::SP_MessageBoxInformation),
+                            where + finding.text, m_list);
+    item->setToolTip(tr("Line %1").arg(finding.place.line));
+}
+
+void FindingsPanel::Choose(int row)
+{
+    const ProgramReading *const reading = m_editor.Document().Reading();
+    if (row < 0 || row >= m_findings.size() || !reading)
+        return;
+    const ClockTool::Finding finding = m_findings[row];
+    m_mend->setEnabled(MendOf(*reading, finding).has_value());
+    emit LineWanted(finding.place.line);
+    if (finding.place.clock < 1)
+        return;
+    const int area = finding.place.clock - 1;
+    m_editor.Choose({area});
+    if (auto *const clock = m_editor.Wall().Clock(area))
+        emit PropertyWanted(KeyOf(finding, clock->ClockType()));
+    m_list->setFocus();
+}
+
+void FindingsPanel::Mend()
+{
+    const ProgramReading *const reading = m_editor.Document().Reading();
+    const int row = m_list->currentRow();
+    if (!reading || row < 0 || row >= m_findings.size())
+        return;
+    if (const auto edit = MendOf(*reading, m_findings[row]))
+        m_editor.Document().Change({*edit}, tr("Mend"));
+    Check();
+}
+
+} // namespace ClockStudio

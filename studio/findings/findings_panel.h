@@ -1,0 +1,48 @@
+// studio/findings: what is wrong with a program, found as it arises.
+// The list of findings: a click chooses the clock and the property, a button mends.
+#pragma once
+
+#include "editing/wall_editor.h"
+#include "finding_mend.h"
+
+#include <QTimer>
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+class QListWidget;
+class QPushButton;
+QT_END_NAMESPACE
+
+namespace ClockStudio {
+
+class FindingsPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit FindingsPanel(WallEditor &editor, QWidget *parent = nullptr);
+
+    const QVector<ClockTool::Finding> &Findings() const { return m_findings; }
+    /// Checks now, not a moment after the last change.
+    void Check();
+
+Q_SIGNALS:
+    void CountChanged(int count);
+    void PropertyWanted(const QString &key);
+    void LineWanted(int line);
+
+private:
+    void Add(const ClockTool::Finding &finding);
+    void Choose(int row);
+    void Mend();
+
+    WallEditor &m_editor;
+    QListWidget *m_list;
+    QPushButton *m_mend;
+    QLabel *m_none;
+    QTimer m_delay;
+    QVector<ClockTool::Finding> m_findings;
+};
+
+} // namespace ClockStudio

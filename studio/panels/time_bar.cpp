@@ -1,0 +1,174 @@
+#include "time_bar.h"
+
+#include "time_changes.h"
+
+#include "clock_node.h"
+#include "pictureplayer.h"
+#include "time_travel.h"
+
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QSlider>
+#include <QToolButton>
+
+namespace ClockStudio {
+
+namespace {
+
+namespace StageTime = ClockStage::StageTime;
+
+constexpr int kRefresh = 200;          // milliseconds between looks at the time
+constexpr qint64 kBeforeChange = 3000; // how long before a change to begin
+constexpr int kMinutesPerDay = 24 * 60;
+constexpr double kSpeeds[] = {1, 10, 60, 600, 3600};
+
+struct ChangeName
+{
+    ChangeKind kind;
+    const char *name;
+};
+
+constexpr ChangeName kChanges[] = {
+    {ChangeKind::DaylightSaving, QT_TRANSLATE_NOOP("ClockStudio::TimeBar", "Daylight saving")},
+    {ChangeKind::Midnight, QT_TRANSLATE_NOOP("ClockStudio::TimeBar", "Midnight")},
+    {ChangeKind::Month, QT_TRANSLATE_NOOP("ClockStudio::TimeBar", "New month")},
+    {ChangeKind::Year, QT_TRANSLATE_NOOP("ClockStudio::TimeBar", "New year")},
+    {ChangeKind::LunarMonth, QT_TRANSLATE_NOOP("ClockStudio::TimeBar", "New lunar month")},
+};
+
+QToolButton *Button(const QString &text, const QString &tip)
+{
+    auto *const button = new QToolButton;
+    button->setText(text);
+    button->setToolTip(tip);
+    return button;
+}
+
+QDateTime Local(qint64 instant)
+{
+    return QDateTime::fromMSecsSinceEpoch(instant);
+}
+
+} // namespace
+
+TimeBar::TimeBar(LiveWall &wall, QWidget *parent)
+    : QWidget(parent), m_wall(wall), m_run(Button({}, {})), m_day(new QSlider(Qt::Horizontal)),
+      m_date(new QDateTimeEdit), m_speed(new QComboBox)
+{
+    auto *const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 6, 12, 6);
+    layout->setSpacing(8);
+    auto *const now = Button(tr("Now"), tr("Show the present time"));
+    auto *const next = Button(tr("Next change"), tr("Go to shortly before the next change"));
+    auto *const changes = new QMenu(next);
+    for (const ChangeName &change : kChanges)
+        changes->addAction(tr(change.name), this,
+                           [this, change] { GoToNext(static_cast<int>(change.kind)); });
+    next->setMenu(changes);
+    next->setPopupMode(QToolButton::InstantPopup);
+    m_run->setCheckable(true);
+    m_date->setCalendarPopup(true);
+    m_date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    m_date->setAccessibleName(tr("Date and time that the wall shows"));
+    m_date->setToolTip(m_date->accessibleName());
+    m_day->setRange(0, kMinutesPerDay - 1);
+    m_day->setPageStep(60);
+    m_day->setAccessibleName(tr("Time of day"));
+    m_day->setToolTip(tr("Drag through the hours of the day"));
+    m_speed->setToolTip(tr("How fast the time runs"));
+    m_speed->setAccessibleName(m_speed->toolTip());
+    for (const double speed : kSpeeds)
+        m_speed->addItem(QStringLiteral("%1×").arg(speed), speed);
+    for (QWidget *const control : std::initializer_list<QWidget *> {m_run, now, m_date})
+        layout->addWidget(control);
+    layout->addWidget(m_day, 1);
+    layout->addWidget(m_speed);
+    layout->addWidget(next);
+    connect(now, &QToolButton::clicked, this, &TimeBar::ReturnToPresent);
+    connect(m_run, &QToolButton::toggled, this, [this](bool runs) {
+        if (!m_shows)
+            SetRunning(runs);
+    });
+    connect(m_date, &QDateTimeEdit::dateTimeChanged, this, [this](const QDateTime &time) {
+        if (!m_shows)
+            GoTo(time.toMSecsSinceEpoch());
+    });
+    connect(m_day, &QSlider::valueChanged, this, [this](int minute) {
+        if (!m_shows)
+            GoTo(QDateTime(Local(StageTime::Shown()).date(), QTime(minute / 60, minute % 60))
+                     .toMSecsSinceEpoch());
+    });
+    connect(m_speed, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        StageTime::Travel().SetSpeed(kSpeeds[index], StageTime::Real());
+        TimeChanged();
+    });
+    connect(&m_refresh, &QTimer::timeout, this, &TimeBar::ShowTime);
+    m_refresh.start(kRefresh);
+    ShowTime();
+}
+
+void TimeBar::GoTo(qint64 instant)
+{
+    StageTime::HoldAt(instant);
+    TimeChanged();
+}
+
+void TimeBar::ReturnToPresent()
+{
+    ClockStage::TimeTravel &travel = StageTime::Travel();
+    travel.SetPaused(false, StageTime::Real());
+    travel.SetSpeed(1, StageTime::Real());
+    travel.ReturnToPresent();
+    m_speed->setCurrentIndex(0);
+    TimeChanged();
+}
+
+void TimeBar::SetRunning(bool runs)
+{
+    StageTime::Travel().SetPaused(!runs, StageTime::Real());
+    TimeChanged();
+}
+
+void TimeBar::GoToNext(int kind)
+{
+    QVector<ClockStage::ClockSettings> clocks;
+    for (int area = 0; area < m_wall.AreaCount(); ++area) {
+        if (const auto settings = ClockStage::SettingsOf(m_wall.Clock(area)))
+            clocks.append(*settings);
+    }
+    const qint64 past = StageTime::Shown() + kBeforeChange;
+    if (const auto next = NextChangeOf(static_cast<ChangeKind>(kind), clocks, past)) {
+        StageTime::Travel().GoTo(*next - kBeforeChange, StageTime::Real());
+        StageTime::Travel().SetPaused(false, StageTime::Real());
+        TimeChanged();
+    }
+}
+
+/// Clocks wait for their next second at the speed there is now, or for nothing.
+void TimeBar::TimeChanged()
+{
+    const ClockStage::TimeTravel &travel = StageTime::Travel();
+    Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
+    m_wall.PlayNext();
+    ShowTime();
+}
+
+void TimeBar::ShowTime()
+{
+    m_shows = true;
+    const bool runs = !StageTime::Travel().IsPaused();
+    const QDateTime time = Local(StageTime::Shown());
+    m_run->setChecked(runs);
+    m_run->setText(runs ? tr("Pause") : tr("Run"));
+    m_run->setToolTip(runs ? tr("Hold the time") : tr("Let the time run"));
+    if (!m_date->hasFocus() || runs)
+        m_date->setDateTime(time);
+    if (!m_day->isSliderDown())
+        m_day->setValue(time.time().hour() * 60 + time.time().minute());
+    m_shows = false;
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,43 @@
+// studio/panels: what is around the wall: source, findings, time, properties.
+// The time that the wall shows: now, a date, the hours of a day, the next change of anything.
+#pragma once
+
+#include "wall/live_wall.h"
+
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QComboBox;
+class QDateTimeEdit;
+class QSlider;
+class QToolButton;
+QT_END_NAMESPACE
+
+namespace ClockStudio {
+
+class TimeBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TimeBar(LiveWall &wall, QWidget *parent = nullptr);
+
+    void GoTo(qint64 instant); ///< UTC milliseconds; pauses there
+    void ReturnToPresent();
+    void SetRunning(bool runs);
+
+private:
+    void GoToNext(int kind);
+    void ShowTime();
+    void TimeChanged();
+
+    LiveWall &m_wall;
+    QToolButton *m_run;
+    QSlider *m_day;
+    QDateTimeEdit *m_date;
+    QComboBox *m_speed;
+    QTimer m_refresh;
+    bool m_shows = false; ///< controls are being set from the time
+};
+
+} // namespace ClockStudio

@@ -1,0 +1,92 @@
+#include "time_changes.h"
+
+#include "calendar/clock_time.h"
+#include "calendar/lunar_calendar.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+namespace ClockStudio {
+
+namespace {
+
+using ClockStage::ClockSettings;
+using Lw::HNodeClock::InLunarRange;
+
+constexpr qint64 kSecond = 1000;
+constexpr qint64 kDay = 86400 * kSecond;
+constexpr int kLongestLunarMonth = 31; // days to look at
+
+/// A reading of a clock as a UTC time.
+QDateTime Reading(const ClockSettings &clock, qint64 instant)
+{
+    return QDateTime::fromMSecsSinceEpoch(instant + ClockStage::OffsetAt(clock, instant) * kSecond,
+                                          Qt::UTC);
+}
+
+/// The instant at which a clock shows the midnight that begins a date.
+qint64 MidnightOf(const ClockSettings &clock, const QDate &date)
+{
+    const qint64 reading = QDateTime(date, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
+    const qint64 standard = reading - clock.offsetSeconds * kSecond;
+    const qint64 shifted = reading - ClockStage::OffsetAt(clock, standard) * kSecond;
+    return Reading(clock, shifted).date() == date ? shifted : standard;
+}
+
+bool IsLunarMonthStart(const QDate &date)
+{
+    if (!InLunarRange(date.year(), date.month(), date.day()))
+        return false;
+    return QByteArray(LunarCalendarSetup(date.year(), date.month(), date.day())).endsWith("$01");
+}
+
+/// The first date after one on which a change of a kind happens; invalid where there is none.
+QDate NextDate(ChangeKind kind, const QDate &date)
+{
+    switch (kind) {
+    case ChangeKind::Midnight:
+        return date.addDays(1);
+    case ChangeKind::Month:
+        return QDate(date.year(), date.month(), 1).addMonths(1);
+    case ChangeKind::Year:
+        return QDate(date.year() + 1, 1, 1);
+    case ChangeKind::LunarMonth:
+        for (int days = 1; days <= kLongestLunarMonth; ++days) {
+            if (IsLunarMonthStart(date.addDays(days)))
+                return date.addDays(days);
+        }
+        break;
+    case ChangeKind::DaylightSaving:
+        break;
+    }
+    return {};
+}
+
+std::optional<qint64> NextOf(ChangeKind kind, const ClockSettings &clock, qint64 instant)
+{
+    if (kind == ChangeKind::DaylightSaving) {
+        const auto change = ClockStage::NextChange(clock, instant);
+        return change ? std::optional<qint64>(change->instant) : std::nullopt;
+    }
+    const QDate date = NextDate(kind, Reading(clock, instant).date());
+    return date.isValid() ? std::optional<qint64>(MidnightOf(clock, date)) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<qint64> NextChangeOf(ChangeKind kind, const QVector<ClockSettings> &clocks,
+                                   qint64 instant)
+{
+    std::optional<qint64> first;
+    for (const ClockSettings &clock : clocks) {
+        std::optional<qint64> next = NextOf(kind, clock, instant);
+        if (next && *next <= instant) // just past it by the standard time
+            next = NextOf(kind, clock, instant + kDay);
+        if (next && *next > instant && (!first || *next < *first))
+            first = next;
+    }
+    return first;
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,16 @@
+// studio/panels: what is around the wall: source, findings, time, properties.
+// Positions in a text and in a text editor's own copy of it, where every line end is one character.
+#pragma once
+
+#include <QString>
+
+namespace ClockStudio {
+
+/// A text as an editor keeps it, with line feeds.
+QString InEditor(QString text);
+/// Where a position of the text is in the editor.
+int ToEditor(const QString &text, int position);
+/// Where a position of the editor is in the text.
+int FromEditor(const QString &text, int position);
+
+} // namespace ClockStudio

@@ -1,0 +1,30 @@
+// studio/panels: what is around the wall: source, findings, time, properties.
+// Colours of XML in the source view.
+#pragma once
+
+#include <QPalette>
+#include <QSyntaxHighlighter>
+
+namespace ClockStudio {
+
+class XmlHighlighter : public QSyntaxHighlighter
+{
+    Q_OBJECT
+
+public:
+    /// The palette tells whether the ground is light or dark.
+    XmlHighlighter(QTextDocument *document, const QPalette &palette);
+
+protected:
+    void highlightBlock(const QString &text) override;
+
+private:
+    int HighlightComment(const QString &text, int begin);
+
+    QTextCharFormat m_element;
+    QTextCharFormat m_attribute;
+    QTextCharFormat m_value;
+    QTextCharFormat m_comment;
+};
+
+} // namespace ClockStudio

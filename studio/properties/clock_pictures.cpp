@@ -1,0 +1,161 @@
+#include "clock_pictures.h"
+
+#include "editing/new_clock.h"
+#include "wall/live_wall.h"
+
+#include "calendar/device_clock.h"
+#include "clock_node.h"
+#include "clock_plugin.h"
+#include "node_keys.h"
+#include "time_travel.h"
+
+#include <QDomElement>
+#include <QHash>
+#include <QPair>
+
+#include <limits>
+
+namespace ClockStudio {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+
+// Apart from those of the clocks on the wall.
+constexpr int kIdentity = 99999;
+constexpr unsigned int kPlay = std::numeric_limits<unsigned int>::max();
+
+constexpr QSize kTextPicture(150, 22);
+constexpr QSize kDialPicture(56, 56);
+constexpr QSize kKindPicture(64, 44);
+constexpr int kTextSize = 11;  // points
+constexpr int kInk = 0x00b0ff; // amber, as the host packs it
+constexpr int kDialInk = 0xffffff;
+
+/// 8 March 2026, 10:08:36 UTC: no part is above another, no digit twice in a row.
+long long PictureTime()
+{
+    return 1772964516000LL;
+}
+
+/// While it lives, clocks show the pictures' time.
+class AtPictureTime
+{
+public:
+    AtPictureTime() { clock_set_time_source(PictureTime); }
+    ~AtPictureTime() { clock_set_time_source(ClockStage::StageTime::TellPlugin); }
+};
+
+StoredValue Number(Attribute attribute, int value)
+{
+    return {attribute, QString::number(value)};
+}
+
+/// A digital clock of one line of text.
+QVector<StoredValue> OneLine(Attribute shown)
+{
+    QVector<StoredValue> values {Number(Attribute::ClockType, DigitalClock)};
+    for (const Attribute flag : {Attribute::Digital_TopTexy_d, Attribute::Digital_Date_d,
+                                 Attribute::Digital_Week_d, Attribute::Digital_Time_d})
+        values.append(Number(flag, flag == shown ? 1 : 0));
+    for (const Attribute size :
+         {Attribute::DigitalTimeFSize, Attribute::DigitalDateFSize, Attribute::DigitalWeekFSize})
+        values.append(Number(size, kTextSize));
+    for (const Attribute colour :
+         {Attribute::DigitalTimeColor, Attribute::DigitalDateColor, Attribute::DigitalWeekColor})
+        values.append(Number(colour, kInk));
+    return values;
+}
+
+QVector<StoredValue> BareDial()
+{
+    QVector<StoredValue> values {Number(Attribute::ClockType, AnalogClock),
+                                 Number(Attribute::HourScaleFSize, 6)};
+    for (const Attribute flag : {Attribute::Analog_TopTexy_d, Attribute::Analog_Date_d,
+                                 Attribute::Analog_Week_d, Attribute::Analog_AMPM_d})
+        values.append(Number(flag, 0));
+    for (const Attribute colour : {Attribute::HourHandColor, Attribute::MinuteHandColor,
+                                   Attribute::SecondHandColor, Attribute::MinuteScaleColor})
+        values.append(Number(colour, kDialInk));
+    values.append(Number(Attribute::HourScaleColor, kInk));
+    return values;
+}
+
+QPixmap Draw(Attribute attribute, int code)
+{
+    switch (attribute) {
+    case Attribute::AnalogDateType:
+    case Attribute::DigitalDateType:
+        return ClockPicture(OneLine(Attribute::Digital_Date_d)
+                                << Number(Attribute::DigitalDateType, code),
+                            kTextPicture);
+    case Attribute::AnalogWeekType:
+    case Attribute::DigitalWeekType:
+        return ClockPicture(OneLine(Attribute::Digital_Week_d)
+                                << Number(Attribute::DigitalWeekType, code),
+                            kTextPicture);
+    case Attribute::DigitalTimeType:
+    case Attribute::DigitalMode:
+        return ClockPicture(OneLine(Attribute::Digital_Time_d) << Number(attribute, code),
+                            kTextPicture);
+    case Attribute::PictrueClockType:
+        return ClockPicture({Number(Attribute::ClockType, PictureClock), Number(attribute, code)},
+                            kDialPicture);
+    case Attribute::HourScaleType:
+    case Attribute::MinuteScaleType:
+    case Attribute::HourRectType:
+    case Attribute::MinuteRectType:
+    case Attribute::SecondRectType:
+        return ClockPicture(BareDial() << Number(attribute, code), kDialPicture);
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size)
+{
+    const AtPictureTime time;
+    static HNodeClock plugin;
+    std::unique_ptr<Lw::HNode> node(plugin.Create());
+    node->InitData();
+    node->SetSize(size);
+    node->SetPos({});
+    for (const StoredValue &value : values)
+        node->SetAttribute(Key(value.attribute), value.text, false);
+    node->SetAttribute(Key(Attribute::TimeZone), QStringLiteral("+00:00"), false);
+    node->SetAttribute(ClockProgram::kIdKey, kIdentity, false);
+    ClockStage::Area area(kPlay, &plugin, std::move(node), ClockStage::GlyphFiles::Made);
+    area.Start();
+    QImage screen = ClockStage::BlackScreen(size);
+    ClockStage::ComposeScreen(screen, {{screen.rect(), area.Picture().image}}, screen.rect());
+    return QPixmap::fromImage(screen);
+}
+
+QPixmap CodePicture(Attribute attribute, int code)
+{
+    static QHash<QPair<int, int>, QPixmap> pictures;
+    const QPair<int, int> key(static_cast<int>(attribute), code);
+    if (!pictures.contains(key))
+        pictures.insert(key, Draw(attribute, code));
+    return pictures.value(key);
+}
+
+QPixmap KindPicture(int kind)
+{
+    QVector<StoredValue> values {{Attribute::ClockType, QString::number(kind)}};
+    for (const Attribute hidden :
+         {Attribute::Digital_TopTexy_d, Attribute::Digital_Date_d, Attribute::Digital_Week_d,
+          Attribute::Analog_TopTexy_d, Attribute::Analog_Date_d, Attribute::Analog_Week_d,
+          Attribute::Analog_AMPM_d})
+        values.append({hidden, QStringLiteral("0")});
+    values.append({Attribute::DigitalTimeType, QStringLiteral("1")});
+    values.append({Attribute::DigitalTimeFSize, QStringLiteral("14")});
+    for (const Attribute white : {Attribute::DigitalTimeColor, Attribute::HourHandColor,
+                                  Attribute::MinuteHandColor, Attribute::MinuteScaleColor})
+        values.append({white, QString::number(0xffffff)});
+    return ClockPicture(values, kKindPicture);
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,76 @@
+// studio/properties: what can be set of the chosen clocks.
+// The panel: place, kind, zone and everything else that the chosen clocks use.
+#pragma once
+
+#include "property_groups.h"
+#include "value_editor.h"
+
+#include "editing/value_edits.h"
+#include "editing/wall_editor.h"
+
+#include <QScrollArea>
+
+QT_BEGIN_NAMESPACE
+class QButtonGroup;
+class QLabel;
+class QSpinBox;
+class QVBoxLayout;
+QT_END_NAMESPACE
+
+namespace ClockStudio {
+
+class Section;
+class ZoneSection;
+
+class PropertyPanel : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit PropertyPanel(WallEditor &editor, QWidget *parent = nullptr);
+
+    /// Brings the control of an attribute into view and gives it the keys.
+    void Reveal(const QString &key);
+    ZoneSection &Zone() { return *m_zone; }
+
+    /// Sets values of all chosen clocks that have them.
+    void SetValues(const QVector<StoredValue> &values, const QString &label,
+                   const QString &mergeKey = {});
+
+private:
+    void Refresh();
+    void ShowClocks(const QVector<Lw::HNodeClock::HClockNode *> &clocks);
+    void ShowPlace();
+    void ShowWall();
+    void MakeHead();
+    void MakePlace();
+    void MakeGroups();
+    Section *MakeGroup(const PropertyGroup &group);
+    ValueEditor *MakeEditor(Lw::HNodeClock::Attribute attribute);
+    void SetKind(int kind);
+    void GivePlace();
+    void Reset(Lw::HNodeClock::Attribute attribute);
+    QVector<Lw::HNodeClock::HClockNode *> ChosenClocks() const;
+
+    struct Group
+    {
+        const PropertyGroup *group;
+        Section *section;
+        QVector<ValueEditor *> editors;
+    };
+
+    WallEditor &m_editor;
+    QVBoxLayout *m_layout;
+    QLabel *m_title;
+    QWidget *m_wall;  ///< shown while no clock is chosen
+    QWidget *m_clock; ///< shown otherwise
+    QButtonGroup *m_kinds;
+    QSpinBox *m_place[4];      ///< x, y, width, height
+    QSpinBox *m_screenSize[2]; ///< width, height
+    ZoneSection *m_zone;
+    QVector<Group> m_groups;
+    QVector<ValueEditor *> *m_making = nullptr; ///< the editors of the group that is being made
+    bool m_isShowing = false;
+};
+
+} // namespace ClockStudio

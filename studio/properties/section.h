@@ -1,0 +1,40 @@
+// studio/properties: what can be set of the chosen clocks.
+// A group of controls under a heading, which may have a switch.
+#pragma once
+
+#include <QGridLayout>
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QCheckBox;
+class QLabel;
+QT_END_NAMESPACE
+
+namespace ClockStudio {
+
+class Section : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Section(const QString &title);
+
+    /// A switch beside the heading, which shows and hides what is under it.
+    void AddSwitch(const QString &explanation);
+    void SetSwitch(Qt::CheckState state);
+
+    /// A line of controls; with a button that resets them where that is given.
+    void AddLine(const QString &label, const QVector<QWidget *> &controls);
+    void AddWide(QWidget *control);
+
+Q_SIGNALS:
+    void Switched(bool on);
+
+private:
+    QCheckBox *m_switch = nullptr;
+    QWidget *m_body;
+    QGridLayout *m_grid;
+    QWidget *m_heading;
+};
+
+} // namespace ClockStudio

@@ -1,0 +1,151 @@
+#include "zone_section.h"
+
+#include "zone_dialog.h"
+
+#include "calendar/clock_time.h"
+#include "clock_node.h"
+#include "clock_status.h"
+#include "time_travel.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QTimeEdit>
+
+namespace ClockStudio {
+
+namespace {
+
+using namespace Lw::HNodeClock;
+using ClockTool::ZoneSettings;
+
+ZoneSettings SettingsIn(HClockNode &clock)
+{
+    ZoneSettings settings;
+    const auto status = ClockStage::SettingsOf(&clock);
+    settings.offset = ParseZoneOffset(clock.GetAttribute(Key(Attribute::TimeZone)));
+    if (status && status->savesDaylight) {
+        settings.start = status->start;
+        settings.end = status->end;
+    }
+    return settings;
+}
+
+QString DateText(qint64 instant, int offset)
+{
+    const QDateTime reading =
+        QDateTime::fromMSecsSinceEpoch(instant + qint64(offset) * 1000, Qt::UTC);
+    return QLocale().toString(reading.date(), QLocale::LongFormat);
+}
+
+QString StoredAdjustment(const QTime &time)
+{
+    return PlainText(time, "hh'A'mm'B'ss");
+}
+
+} // namespace
+
+ZoneSection::ZoneSection()
+    : Section(tr("Time zone")), m_city(new QPushButton), m_note(new QLabel),
+      m_adjustment(new QTimeEdit), m_direction(new QComboBox)
+{
+    m_city->setObjectName(QStringLiteral("ZoneButton"));
+    m_city->setAccessibleName(tr("City whose time is shown"));
+    m_city->setToolTip(tr("Choose the city whose time the clock shows"));
+    m_note->setWordWrap(true);
+    m_adjustment->setDisplayFormat(QStringLiteral("HH:mm:ss"));
+    m_adjustment->setKeyboardTracking(false);
+    m_adjustment->setObjectName(QStringLiteral("AdjustmentEdit"));
+    m_adjustment->setAccessibleName(tr("Adjustment"));
+    m_direction->addItem(tr("ahead"));
+    m_direction->addItem(tr("behind"));
+    m_direction->setAccessibleName(tr("Direction of the adjustment"));
+    AddLine(tr("City"), {m_city});
+    AddWide(m_note);
+    AddLine(tr("Adjust by"), {m_adjustment, m_direction});
+    connect(m_city, &QPushButton::clicked, this, &ZoneSection::OpenDialog);
+    connect(m_adjustment, &QTimeEdit::timeChanged, this, &ZoneSection::GiveAdjustment);
+    connect(m_direction, QOverload<int>::of(&QComboBox::activated), this,
+            &ZoneSection::GiveAdjustment);
+}
+
+void ZoneSection::Show(const QVector<HClockNode *> &clocks)
+{
+    m_isShowing = true;
+    HClockNode &clock = *clocks.first();
+    const ZoneSettings first = SettingsIn(clock);
+    bool isMixed = false;
+    for (HClockNode *const other : clocks) {
+        const ZoneSettings settings = SettingsIn(*other);
+        isMixed = isMixed || settings.offset != first.offset || settings.start != first.start
+            || settings.end != first.end;
+    }
+    const QString city = isMixed ? QString() : CityWith(first, QDate::currentDate());
+    m_city->setText(isMixed              ? tr("several")
+                        : city.isEmpty() ? QStringLiteral("UTC%1").arg(first.ZoneText())
+                                         : QStringLiteral("%1 (%2)").arg(city, first.ZoneText()));
+    m_note->setText(isMixed ? QString() : NoteOn(clock));
+    m_note->setVisible(!m_note->text().isEmpty());
+    const int seconds = ParseAdjustment(clock.GetAttribute(Key(Attribute::TimeAdjust)));
+    m_adjustment->setTime(QTime(0, 0).addSecs(seconds));
+    m_direction->setCurrentIndex(clock.GetAttributeToInt(Key(Attribute::AdjustType)) == 1 ? 1 : 0);
+    m_isShowing = false;
+}
+
+QString ZoneSection::NoteOn(HClockNode &clock) const
+{
+    if (!m_warning.isEmpty())
+        return m_warning;
+    const auto settings = ClockStage::SettingsOf(&clock);
+    if (!settings || !settings->savesDaylight)
+        return tr("No daylight saving.");
+    const auto next = ClockStage::NextChange(*settings, ClockStage::StageTime::Shown());
+    if (!next)
+        return tr("Daylight saving without sound rules.");
+    const QString date = DateText(next->instant, next->before);
+    return next->after > next->before ? tr("Daylight saving begins on %1.").arg(date)
+                                      : tr("Daylight saving ends on %1.").arg(date);
+}
+
+void ZoneSection::OpenDialog()
+{
+    ZoneDialog dialog(this);
+    if (dialog.exec() == QDialog::Accepted && !dialog.Zone().isEmpty())
+        Choose(dialog.Zone());
+}
+
+void ZoneSection::Choose(const QByteArray &zone)
+{
+    const auto answer = SettingsFor(zone, QDate::currentDate());
+    if (!answer)
+        return;
+    m_warning.clear();
+    if (!answer->wrong.isEmpty()) {
+        const ClockTool::WrongTime &first = answer->wrong.first();
+        m_warning = tr("A clock cannot follow this zone exactly: its daylight saving is not the "
+                       "same every year. It is wrong %n time(s) in ten years, first from %1 to %2.",
+                       nullptr, answer->wrong.size())
+                        .arg(DateText(first.begin, 0), DateText(first.end, 0));
+    }
+    const ZoneSettings &settings = answer->settings;
+    const int saves = settings.HasDaylightSaving() ? 1 : 0;
+    QVector<StoredValue> values {{Attribute::TimeZone, settings.ZoneText()},
+                                 {Attribute::UseDaylightSavingTime, QString::number(saves)}};
+    if (saves != 0)
+        values += {{Attribute::DaylightSavingTimeStart, settings.start},
+                   {Attribute::DaylightSavingTimeEnd, settings.end}};
+    emit Edited(values, tr("Time zone"));
+    m_warning.clear();
+}
+
+void ZoneSection::GiveAdjustment()
+{
+    if (m_isShowing)
+        return;
+    emit Edited({{Attribute::AdjustType, QString::number(m_direction->currentIndex())},
+                 {Attribute::TimeAdjust, StoredAdjustment(m_adjustment->time())}},
+                tr("Adjustment"));
+}
+
+} // namespace ClockStudio

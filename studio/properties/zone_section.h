@@ -1,0 +1,45 @@
+// studio/properties: what can be set of the chosen clocks.
+// The time zone of the chosen clocks: its city, what is right until when, and an adjustment.
+#pragma once
+
+#include "section.h"
+
+#include "editing/value_edits.h"
+#include "zone_choice.h"
+
+QT_BEGIN_NAMESPACE
+class QComboBox;
+class QPushButton;
+class QTimeEdit;
+QT_END_NAMESPACE
+
+namespace ClockStudio {
+
+class ZoneSection : public Section
+{
+    Q_OBJECT
+
+public:
+    ZoneSection();
+
+    void Show(const QVector<Lw::HNodeClock::HClockNode *> &clocks);
+    /// Sets the clocks to a zone; says so where it cannot be done exactly.
+    void Choose(const QByteArray &zone);
+
+Q_SIGNALS:
+    void Edited(const QVector<ClockStudio::StoredValue> &values, const QString &label);
+
+private:
+    void OpenDialog();
+    QString NoteOn(Lw::HNodeClock::HClockNode &clock) const;
+    void GiveAdjustment();
+
+    QPushButton *m_city;
+    QLabel *m_note;
+    QTimeEdit *m_adjustment;
+    QComboBox *m_direction;
+    QString m_warning; ///< of the zone that was chosen last
+    bool m_isShowing = false;
+};
+
+} // namespace ClockStudio

@@ -1,0 +1,197 @@
+#include "live_wall.h"
+
+#include "clock_node.h"
+#include "clock_plugin.h"
+#include "happconfig.h"
+#include "node_keys.h"
+#include "node_maker.h"
+
+#include <QMultiHash>
+
+namespace ClockStudio {
+
+namespace {
+
+// What making clocks may take before events are handled, in milliseconds.
+constexpr int kMakingSpan = 40;
+// Beyond the identities that plugins draw and programs usually give.
+constexpr int kFirstIdentity = 100000;
+
+QString MadeFrom(const ProgramReading &reading, int area)
+{
+    const QSize size = reading.Geometry(area).size();
+    return QStringLiteral("%1x%2 ").arg(size.width()).arg(size.height()) + reading.ClockText(area);
+}
+
+} // namespace
+
+Lw::INodePlugin *FindClockPlugin(QDomElement &element)
+{
+    static Lw::HNodeClock::HNodeClock plugin;
+    return plugin.PluginMatch(element) ? &plugin : nullptr;
+}
+
+LiveWall::LiveWall(QObject *parent) : QObject(parent)
+{
+    Lw::HAppConfig::SetClockOutputPath(m_files.path());
+    m_making.setSingleShot(true);
+    connect(&m_making, &QTimer::timeout, this, &LiveWall::MakeWaiting);
+}
+
+LiveWall::~LiveWall() = default;
+
+void LiveWall::Show(const ProgramReading &reading)
+{
+    m_program = reading.program;
+    std::vector<Slot> taken = TakeOver(reading);
+    for (Slot &slot : m_slots)
+        Release(slot);
+    m_slots = std::move(taken);
+    m_waiting = static_cast<int>(std::count_if(m_slots.cbegin(), m_slots.cend(),
+                                               [](const Slot &slot) { return slot.Waits(); }));
+    if (m_screen.size() != reading.program.size)
+        m_screen = ClockStage::BlackScreen(reading.program.size);
+    MakeWaiting();
+    Compose(m_screen.rect());
+}
+
+/// The slots for a program. An unchanged clock goes on playing, wherever it moved; a changed one
+/// gets the slot of what was in its place, unless that plays on elsewhere.
+std::vector<LiveWall::Slot> LiveWall::TakeOver(const ProgramReading &reading)
+{
+    std::vector<Slot> next(static_cast<std::size_t>(reading.AreaCount()));
+    QMultiHash<QString, int> wanted;
+    for (int area = reading.AreaCount() - 1; area >= 0; --area) {
+        Slot &slot = next[static_cast<std::size_t>(area)];
+        slot.text = MadeFrom(reading, area);
+        slot.area = area;
+        slot.geometry = reading.Geometry(area);
+        wanted.insert(slot.text, area);
+    }
+    const auto move = [&next](Slot &from, int area) {
+        Slot &to = next[static_cast<std::size_t>(area)];
+        to.made = from.made;
+        to.identity = std::exchange(from.identity, 0);
+        to.refusal = from.refusal;
+        to.lastPicture = from.clock ? from.clock->Picture().image : from.lastPicture;
+        to.clock = std::move(from.clock);
+    };
+    for (Slot &slot : m_slots) {
+        const auto place = slot.Waits() ? wanted.end() : wanted.find(slot.made);
+        if (place != wanted.end()) {
+            move(slot, *place);
+            wanted.erase(place);
+        }
+    }
+    for (Slot &slot : m_slots) {
+        if (slot.identity != 0 && slot.area < reading.AreaCount()
+            && next[static_cast<std::size_t>(slot.area)].identity == 0)
+            move(slot, slot.area);
+    }
+    return next;
+}
+
+void LiveWall::MakeWaiting()
+{
+    QElapsedTimer spent;
+    spent.start();
+    for (Slot &slot : m_slots) {
+        if (!slot.Waits())
+            continue;
+        if (spent.hasExpired(kMakingSpan)) {
+            m_making.start();
+            break;
+        }
+        Make(slot);
+        --m_waiting;
+        Compose(slot.geometry);
+    }
+    emit ClocksMade();
+}
+
+void LiveWall::Make(Slot &slot)
+{
+    slot.made = slot.text;
+    slot.refusal.clear();
+    slot.clock.reset();
+    slot.lastPicture = QImage();
+    if (slot.identity == 0)
+        slot.identity = FreeIdentity();
+    ClockProgram::Program alone = m_program;
+    alone.areas = {m_program.areas[slot.area]};
+    auto result = ClockProgram::MakeNodes(alone, FindClockPlugin);
+    if (const auto *const failure = std::get_if<ClockProgram::Failure>(&result)) {
+        slot.refusal = failure->text;
+        return;
+    }
+    auto &made = std::get<ClockProgram::MadeNodes>(result).nodes.front();
+    made.node->SetAttribute(ClockProgram::kIdKey, slot.identity, false);
+    slot.clock = std::make_unique<ClockStage::Area>(++m_plays, made.plugin, std::move(made.node),
+                                                    ClockStage::GlyphFiles::Made);
+    slot.clock->Start();
+    ClockStage::Area *const clock = slot.clock.get();
+    connect(clock, &ClockStage::Area::PictureChanged, this, [this, clock] {
+        for (const Slot &shown : m_slots) {
+            if (shown.clock.get() == clock)
+                Compose(shown.geometry);
+        }
+    });
+}
+
+int LiveWall::FreeIdentity()
+{
+    return m_freeIdentities.isEmpty() ? kFirstIdentity + m_identities++
+                                      : m_freeIdentities.takeLast();
+}
+
+/// Files of the identity are written over by the next clock that gets it.
+void LiveWall::Release(Slot &slot)
+{
+    if (slot.identity != 0)
+        m_freeIdentities.append(slot.identity);
+    slot.identity = 0;
+    slot.clock.reset();
+}
+
+QImage LiveWall::Picture(int area) const
+{
+    const Slot &slot = m_slots[static_cast<std::size_t>(area)];
+    return slot.clock ? slot.clock->Picture().image : slot.lastPicture;
+}
+
+Lw::HNodeClock::HClockNode *LiveWall::Clock(int area) const
+{
+    if (area < 0 || area >= AreaCount())
+        return nullptr;
+    const Slot &slot = m_slots[static_cast<std::size_t>(area)];
+    return slot.clock && !slot.Waits()
+        ? qobject_cast<Lw::HNodeClock::HClockNode *>(slot.clock->Node())
+        : nullptr;
+}
+
+void LiveWall::PlayNext()
+{
+    for (const Slot &slot : m_slots) {
+        if (slot.clock)
+            slot.clock->PlayNext();
+    }
+}
+
+void LiveWall::MakeAgain()
+{
+    for (Slot &slot : m_slots)
+        slot.made.clear();
+    m_waiting = AreaCount();
+    MakeWaiting();
+}
+
+void LiveWall::Compose(const QRect &region)
+{
+    QVector<ClockStage::Layer> layers;
+    for (int area = 0; area < AreaCount(); ++area)
+        layers.append({Geometry(area), Picture(area)});
+    ClockStage::ComposeScreen(m_screen, layers, region);
+    emit Painted(region & m_screen.rect());
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,37 @@
+#include "program_picture.h"
+
+#include "live_wall.h"
+
+#include "node_keys.h"
+#include "stage.h"
+
+namespace ClockStudio {
+
+QImage PictureOfProgram(const QByteArray &bytes)
+{
+    const auto read = ClockProgram::ParseProgram(bytes, QString());
+    const auto *const program = std::get_if<ClockProgram::Program>(&read);
+    if (!program)
+        return {};
+    // Under identities and play numbers that the clocks on the wall do not use.
+    constexpr int kFirstIdentity = 90000;
+    constexpr unsigned int kFirstPlay = 0xf0000000U;
+    auto result = ClockProgram::MakeNodes(*program, FindClockPlugin);
+    auto *const made = std::get_if<ClockProgram::MadeNodes>(&result);
+    if (!made)
+        return {};
+    QVector<ClockStage::Layer> layers;
+    int number = 0;
+    for (ClockProgram::MadeNode &node : made->nodes) {
+        node.node->SetAttribute(ClockProgram::kIdKey, kFirstIdentity + number, false);
+        ClockStage::Area area(kFirstPlay + static_cast<unsigned int>(number++), node.plugin,
+                              std::move(node.node), ClockStage::GlyphFiles::Made);
+        area.Start();
+        layers.append(area.Picture());
+    }
+    QImage screen = ClockStage::BlackScreen(program->size);
+    ClockStage::ComposeScreen(screen, layers, screen.rect());
+    return screen;
+}
+
+} // namespace ClockStudio

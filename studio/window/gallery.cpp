@@ -1,0 +1,141 @@
+#include "gallery.h"
+
+#include "editing/new_clock.h"
+#include "files/templates.h"
+#include "wall/program_picture.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace ClockStudio {
+
+namespace {
+
+constexpr QSize kPicture(224, 126);
+constexpr QSize kNewWall(256, 128);
+
+QLabel *Heading(const QString &text)
+{
+    auto *const label = new QLabel(text);
+    QFont font = label->font();
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    label->setFont(font);
+    return label;
+}
+
+/// A wall within a card of one size.
+QPixmap Card(const QImage &wall)
+{
+    QPixmap card(kPicture);
+    card.fill(QColor(0x1c, 0x1e, 0x22));
+    if (wall.isNull())
+        return card;
+    const QSize size = wall.size().scaled(kPicture - QSize(16, 16), Qt::KeepAspectRatio);
+    QPainter painter(&card);
+    const QRect place(
+        QPoint((kPicture.width() - size.width()) / 2, (kPicture.height() - size.height()) / 2),
+        size);
+    painter.drawImage(place, wall.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return card;
+}
+
+} // namespace
+
+Gallery::Gallery(QWidget *parent)
+    : QWidget(parent), m_templates(new QListWidget), m_recent(new QListWidget),
+      m_recentPart(new QWidget)
+{
+    auto *const layout = new QHBoxLayout(this);
+    layout->setContentsMargins(36, 28, 36, 28);
+    layout->setSpacing(36);
+    auto *const left = new QVBoxLayout;
+    auto *const empty = new QPushButton(tr("Empty wall"));
+    auto *const open = new QPushButton(tr("Open a file…"));
+    left->addWidget(Heading(tr("Begin")));
+    left->addWidget(empty);
+    left->addWidget(open);
+    auto *const recentLayout = new QVBoxLayout(m_recentPart);
+    recentLayout->setContentsMargins(0, 20, 0, 0);
+    recentLayout->addWidget(Heading(tr("Recent")));
+    recentLayout->addWidget(m_recent);
+    m_recent->setFrameShape(QFrame::NoFrame);
+    m_recent->viewport()->setAutoFillBackground(false);
+    m_recent->setAccessibleName(tr("Recent files"));
+    left->addWidget(m_recentPart, 1);
+    left->addStretch(0);
+    auto *const right = new QVBoxLayout;
+    right->addWidget(Heading(tr("Templates")));
+    right->addWidget(m_templates, 1);
+    m_templates->setViewMode(QListView::IconMode);
+    m_templates->setIconSize(kPicture);
+    m_templates->setGridSize(kPicture + QSize(20, 44));
+    m_templates->setResizeMode(QListView::Adjust);
+    m_templates->setMovement(QListView::Static);
+    m_templates->setFrameShape(QFrame::NoFrame);
+    m_templates->setSpacing(8);
+    m_templates->viewport()->setAutoFillBackground(false);
+    m_templates->setAccessibleName(tr("Templates"));
+    layout->addLayout(left, 1);
+    layout->addLayout(right, 4);
+    connect(empty, &QPushButton::clicked, this, &Gallery::BeginEmpty);
+    connect(open, &QPushButton::clicked, this, &Gallery::OpenWanted);
+    const auto chosen = [this](QListWidgetItem *item) {
+        emit TemplateChosen(TemplateBytes(item->data(Qt::UserRole).toString()));
+    };
+    connect(m_templates, &QListWidget::itemActivated, this, chosen);
+    connect(m_templates, &QListWidget::itemClicked, this, chosen);
+    const auto opened = [this](QListWidgetItem *item) {
+        emit FileChosen(item->data(Qt::UserRole).toString());
+    };
+    connect(m_recent, &QListWidget::itemActivated, this, opened);
+    connect(m_recent, &QListWidget::itemClicked, this, opened);
+    AddTemplates();
+}
+
+void Gallery::AddTemplates()
+{
+    for (const Template &one : Templates()) {
+        auto *const item = new QListWidgetItem(QIcon(Card({})), one.title, m_templates);
+        item->setData(Qt::UserRole, one.name);
+        item->setToolTip(one.description);
+    }
+    // The window is seen before the pictures are drawn.
+    QTimer::singleShot(0, this, &Gallery::DrawNextPicture);
+}
+
+void Gallery::DrawNextPicture()
+{
+    if (m_drawn >= m_templates->count())
+        return;
+    if (isVisible()) {
+        QListWidgetItem *const item = m_templates->item(m_drawn++);
+        const QByteArray bytes = TemplateBytes(item->data(Qt::UserRole).toString());
+        item->setIcon(QIcon(Card(PictureOfProgram(bytes))));
+    }
+    QTimer::singleShot(isVisible() ? 0 : 200, this, &Gallery::DrawNextPicture);
+}
+
+void Gallery::Refresh(const QStringList &recent)
+{
+    m_recent->clear();
+    for (const QString &path : recent) {
+        auto *const item = new QListWidgetItem(QFileInfo(path).fileName(), m_recent);
+        item->setData(Qt::UserRole, path);
+        item->setToolTip(path);
+    }
+    m_recentPart->setVisible(!recent.isEmpty());
+}
+
+void Gallery::BeginEmpty()
+{
+    emit TemplateChosen(NewProgramText(kNewWall).toUtf8());
+}
+
+} // namespace ClockStudio

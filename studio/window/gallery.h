@@ -1,0 +1,40 @@
+// studio/window: the window that brings everything together.
+// What to begin with: templates with pictures, recent files, an empty wall.
+#pragma once
+
+#include <QWidget>
+
+QT_BEGIN_NAMESPACE
+class QListWidget;
+class QListWidgetItem;
+class QVBoxLayout;
+QT_END_NAMESPACE
+
+namespace ClockStudio {
+
+class Gallery : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Gallery(QWidget *parent = nullptr);
+
+    void Refresh(const QStringList &recent);
+
+Q_SIGNALS:
+    void TemplateChosen(const QByteArray &bytes);
+    void FileChosen(const QString &path);
+    void OpenWanted();
+
+private:
+    void AddTemplates();
+    void DrawNextPicture();
+    void BeginEmpty();
+
+    QListWidget *m_templates;
+    QListWidget *m_recent;
+    QWidget *m_recentPart;
+    int m_drawn = 0; ///< templates that have their picture
+};
+
+} // namespace ClockStudio

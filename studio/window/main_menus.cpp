@@ -1,0 +1,296 @@
+// The main window's menus, tool bar and status line.
+#include "main_window.h"
+
+#include "keys_dialog.h"
+
+#include "panels/source_view.h"
+#include "properties/clock_pictures.h"
+
+#include <QActionGroup>
+#include <QDockWidget>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace ClockStudio {
+
+namespace {
+
+using Keys = QVector<QKeySequence>;
+
+const Command kSeparator {};
+
+/// Panels that walls are made of, in pixels; the first shows no grid.
+constexpr QSize kModules[] = {{0, 0}, {32, 16}, {32, 32}, {64, 32}, {64, 64}, {128, 64}};
+
+} // namespace
+
+QMenu *MainWindow::AddMenu(const QString &title, const QVector<Command> &commands)
+{
+    QMenu *const menu = menuBar()->addMenu(title);
+    for (QAction *const action : AddCommands(*menu, commands))
+        m_actions.append(action);
+    return menu;
+}
+
+void MainWindow::MakeMenus()
+{
+    MakeFileMenu();
+    MakeEditMenu();
+    MakeClockMenu();
+    MakeViewMenu();
+    MakeHelpMenu();
+}
+
+void MainWindow::MakeFileMenu()
+{
+    QMenu *const menu = AddMenu(tr("&File"),
+                                {{tr("&New…"), {QKeySequence::New}, [this] { NewProgram(); }},
+                                 {tr("&Open…"), {QKeySequence::Open}, [this] { OpenDialog(); }}});
+    QMenu *const recent = menu->addMenu(tr("Open &recent"));
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { FillRecent(*recent); });
+    const QVector<Command> rest {
+        kSeparator,
+        {tr("&Save"), {QKeySequence::Save}, [this] { Save(); }},
+        {tr("Save &as…"), {QKeySequence(tr("Ctrl+Shift+S"))}, [this] { SaveAs(); }},
+        kSeparator,
+        {tr("&Picture of the wall…"),
+         {QKeySequence(tr("Ctrl+Shift+P"))},
+         [this] { SavePicture(); }},
+        kSeparator,
+        {tr("&Quit"), {QKeySequence(tr("Ctrl+Q"))}, [this] { close(); }}};
+    for (QAction *const action : AddCommands(*menu, rest)) {
+        action->setProperty("needsWall", action->shortcut() != QKeySequence(tr("Ctrl+Q")));
+        m_actions.append(action);
+    }
+}
+
+void MainWindow::FillRecent(QMenu &menu)
+{
+    menu.clear();
+    for (const QString &path : ProgramFiles::Recent())
+        menu.addAction(path, this, [this, path] { Open(path); });
+    if (menu.isEmpty())
+        menu.addAction(tr("None yet"))->setEnabled(false);
+}
+
+void MainWindow::MakeEditMenu()
+{
+    QMenu *const menu = menuBar()->addMenu(tr("&Edit"));
+    QAction *const undo = m_document.History().createUndoAction(this, tr("&Undo"));
+    QAction *const redo = m_document.History().createRedoAction(this, tr("&Redo"));
+    undo->setShortcuts(QKeySequence::Undo);
+    redo->setShortcuts(QKeySequence::Redo);
+    menu->addAction(undo);
+    menu->addAction(redo);
+    menu->addSeparator();
+    const auto inText = [this](auto text, auto wall) {
+        return [this, text, wall] { m_source->hasFocus() ? (m_source->*text)() : wall(); };
+    };
+    const QVector<Command> commands {
+        {tr("Cu&t"), {QKeySequence::Cut}, inText(&SourceView::cut, [this] { m_editor.Cut(); })},
+        {tr("&Copy"), {QKeySequence::Copy}, inText(&SourceView::copy, [this] { m_editor.Copy(); })},
+        {tr("&Paste"),
+         {QKeySequence::Paste},
+         inText(&SourceView::paste,
+                [this] {
+                    if (!m_editor.Paste())
+                        statusBar()->showMessage(tr("There is no clock on the clipboard"), 4000);
+                })},
+        {tr("&Duplicate"), {QKeySequence(tr("Ctrl+D"))}, [this] { m_editor.Duplicate(); }, true},
+        {tr("De&lete"), {QKeySequence::Delete}, [this] { m_editor.Delete(); }, true},
+        kSeparator,
+        {tr("Choose &all clocks"),
+         {QKeySequence::SelectAll},
+         inText(&SourceView::selectAll, [this] { m_editor.ChooseAll(); })}};
+    for (QAction *const action : AddCommands(*menu, commands)) {
+        action->setProperty("needsWall", true);
+        m_actions.append(action);
+    }
+    m_actions.append(undo);
+    m_actions.append(redo);
+}
+
+void MainWindow::MakeClockMenu()
+{
+    const auto align = [this](Alignment alignment) {
+        return [this, alignment] { m_editor.Align(alignment); };
+    };
+    AddMenu(
+        tr("&Clock"),
+        {{tr("Bring to &front"),
+          {QKeySequence(tr("Ctrl+]"))},
+          [this] { m_editor.BringToFront(); },
+          true},
+         {tr("Send to &back"),
+          {QKeySequence(tr("Ctrl+["))},
+          [this] { m_editor.SendToBack(); },
+          true},
+         kSeparator,
+         {tr("Align &left"), {QKeySequence(tr("Ctrl+Shift+L"))}, align(Alignment::Left), true},
+         {tr("Align &centre"), {QKeySequence(tr("Ctrl+Shift+C"))}, align(Alignment::Centre), true},
+         {tr("Align &right"), {QKeySequence(tr("Ctrl+Shift+R"))}, align(Alignment::Right), true},
+         {tr("Align &top"), {QKeySequence(tr("Ctrl+Shift+T"))}, align(Alignment::Top), true},
+         {tr("Align &middle"), {QKeySequence(tr("Ctrl+Shift+M"))}, align(Alignment::Middle), true},
+         {tr("Align b&ottom"), {QKeySequence(tr("Ctrl+Shift+B"))}, align(Alignment::Bottom), true},
+         kSeparator,
+         {tr("Distribute &across"),
+          {QKeySequence(tr("Ctrl+Shift+H"))},
+          [this] { m_editor.Distribute(Direction::Across); },
+          true},
+         {tr("Distribute &down"),
+          {QKeySequence(tr("Ctrl+Shift+V"))},
+          [this] { m_editor.Distribute(Direction::Down); },
+          true},
+         {tr("Stack in a ro&w"),
+          {QKeySequence(tr("Ctrl+Shift+A"))},
+          [this] { m_editor.Stack(Direction::Across); },
+          true},
+         {tr("Stack in a col&umn"),
+          {QKeySequence(tr("Ctrl+Shift+D"))},
+          [this] { m_editor.Stack(Direction::Down); },
+          true}});
+}
+
+void MainWindow::MakeViewMenu()
+{
+    QMenu *const menu = AddMenu(
+        tr("&View"),
+        {{tr("Zoom &in"),
+          {QKeySequence::ZoomIn, QKeySequence(tr("Ctrl+="))},
+          [this] { m_view->SetZoom(m_view->Zoom() + 1); }},
+         {tr("Zoom &out"),
+          {QKeySequence::ZoomOut},
+          [this] { m_view->SetZoom(m_view->Zoom() - 1); }},
+         {tr("&Fit to the window"), {QKeySequence(tr("Ctrl+0"))}, [this] { m_view->ZoomToFit(); }},
+         kSeparator});
+    QAction *const diodes = menu->addAction(tr("As &diodes"));
+    diodes->setCheckable(true);
+    diodes->setShortcut(QKeySequence(tr("Ctrl+L")));
+    connect(diodes, &QAction::toggled, this, [this](bool on) {
+        if (on && m_view->Zoom() < ClockStage::kMinimumLedPitch)
+            m_view->SetZoom(ClockStage::kMinimumLedPitch);
+        m_view->SetDiodes(on);
+    });
+    m_actions.append(diodes);
+    QMenu *const grid = menu->addMenu(tr("&Panel grid"));
+    auto *const modules = new QActionGroup(this);
+    for (const QSize &module : kModules) {
+        QAction *const action = grid->addAction(
+            module.isEmpty() ? tr("None")
+                             : QStringLiteral("%1 × %2").arg(module.width()).arg(module.height()));
+        action->setCheckable(true);
+        action->setChecked(module == m_view->Module());
+        modules->addAction(action);
+        connect(action, &QAction::triggered, this, [this, module] { m_view->SetModule(module); });
+    }
+    menu->addSeparator();
+    m_sourceDock->toggleViewAction()->setShortcut(QKeySequence(tr("F4")));
+    m_findingsDock->toggleViewAction()->setShortcut(QKeySequence(tr("F8")));
+    menu->addAction(m_sourceDock->toggleViewAction());
+    menu->addAction(m_findingsDock->toggleViewAction());
+    m_actions.append(m_sourceDock->toggleViewAction());
+    m_actions.append(m_findingsDock->toggleViewAction());
+}
+
+void MainWindow::MakeHelpMenu()
+{
+    AddMenu(tr("&Help"),
+            {{tr("&Keys"), {QKeySequence(tr("F1"))}, [this] { ShowKeys(); }},
+             {tr("&About Clock Studio"), {}, [this] { ShowAbout(); }}});
+}
+
+void MainWindow::MakeToolBar()
+{
+    struct DrawTool
+    {
+        ClockKind kind;
+        QString text;
+        QString key;
+        int type;
+    };
+    const DrawTool tools[] = {{ClockKind::Digital, tr("Digital clock"), tr("D"), 1},
+                              {ClockKind::Analog, tr("Analog clock"), tr("A"), 0},
+                              {ClockKind::Picture, tr("Picture clock"), tr("P"), 2}};
+    QToolBar *const bar = addToolBar(tr("Tools"));
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->setMovable(false);
+    bar->setIconSize({32, 22});
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_drawing = new QActionGroup(this);
+    m_drawing->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    for (const DrawTool &tool : tools) {
+        QAction *const action = bar->addAction(QIcon(KindPicture(tool.type)), tool.text);
+        action->setCheckable(true);
+        action->setShortcut(QKeySequence(tool.key));
+        action->setToolTip(tr("%1: draw its place on the wall (%2)").arg(tool.text, tool.key));
+        action->setProperty("needsWall", true);
+        action->setData(static_cast<int>(tool.kind));
+        m_drawing->addAction(action);
+        m_actions.append(action);
+        connect(action, &QAction::toggled, this, [this, tool](bool on) {
+            if (on)
+                m_view->Mouse().SetDrawing(tool.kind);
+            else if (m_view->Mouse().Drawing() == tool.kind)
+                m_view->Mouse().SetDrawing({});
+        });
+    }
+    connect(&m_view->Mouse(), &WallMouse::DrawingChanged, this, [this] {
+        for (QAction *const action : m_drawing->actions()) {
+            if (!m_view->Mouse().Drawing())
+                action->setChecked(false);
+        }
+    });
+    auto *const space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(space);
+    for (QAction *const action : qAsConst(m_actions)) {
+        if (action->text() == tr("As &diodes") || action->text() == tr("Sen&d to a wall…"))
+            bar->addAction(action);
+    }
+}
+
+void MainWindow::MakeStatus()
+{
+    m_place = new QLabel;
+    m_zoom = new QLabel;
+    auto *const findings = new QToolButton;
+    findings->setAutoRaise(true);
+    findings->setDefaultAction(m_findingsDock->toggleViewAction());
+    statusBar()->addPermanentWidget(m_place);
+    statusBar()->addPermanentWidget(m_zoom);
+    statusBar()->addPermanentWidget(findings);
+    connect(m_view, &WallView::PointedAt, this, [this](const QPoint &pixel) {
+        m_place->setText(QStringLiteral("%1, %2").arg(pixel.x()).arg(pixel.y()));
+    });
+    connect(m_view, &WallView::ZoomChanged, this,
+            [this](int zoom) { m_zoom->setText(QStringLiteral("%1×").arg(zoom)); });
+    connect(m_view, &WallView::MenuWanted, this, [this](const QPoint &place) {
+        QMenu menu;
+        for (QAction *const action : qAsConst(m_actions)) {
+            if (action->property("needsChoice").toBool())
+                menu.addAction(action);
+        }
+        menu.exec(place);
+    });
+}
+
+void MainWindow::ShowKeys()
+{
+    KeysDialog(KeysOf(m_actions), this).exec();
+}
+
+void MainWindow::ShowAbout()
+{
+    QMessageBox::about(this, tr("About Clock Studio"),
+                       tr("<h3>Clock Studio %1</h3><p>Designs walls of clocks. What it shows, the "
+                          "clocks' own code draws.</p>")
+                           .arg(QStringLiteral(CLOCK_STUDIO_VERSION)));
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,325 @@
+#include "main_window.h"
+
+#include "gallery.h"
+#include "message_bar.h"
+
+#include "findings/findings_panel.h"
+#include "panels/source_view.h"
+#include "panels/time_bar.h"
+#include "properties/property_panel.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace ClockStudio {
+
+namespace {
+
+const QString kGeometryKey = QStringLiteral("window/geometry");
+const QString kStateKey = QStringLiteral("window/state");
+const QString kFilter = QStringLiteral("*.xml");
+
+} // namespace
+
+MainWindow::MainWindow(const QString &recoveryDirectory, QWidget *parent)
+    : QMainWindow(parent), m_editor(m_document, m_wall), m_files(m_document, recoveryDirectory)
+{
+    setAcceptDrops(true);
+    MakeWall();
+    MakeDocks();
+    MakeMenus();
+    MakeToolBar();
+    MakeStatus();
+    connect(&m_files, &ProgramFiles::NameChanged, this, &MainWindow::UpdateTitle);
+    connect(&m_files, &ProgramFiles::ChangedOnDisk, this, &MainWindow::AskAboutChange);
+    connect(&m_files, &ProgramFiles::LostOnDisk, this, [this] {
+        m_messages->Ask(
+            tr("%1 is no longer on the disk. Your work is still here.").arg(m_files.Name()),
+            {{tr("Save"), [this] { Save(); }}, {tr("Dismiss"), {}}});
+    });
+    connect(&m_document, &StudioDocument::Read, this, &MainWindow::UpdateState);
+    connect(&m_editor, &WallEditor::ChoiceChanged, this, &MainWindow::UpdateCommands);
+    resize(1240, 800);
+    ReadSettings();
+    UpdateCommands();
+    ShowGallery();
+    OfferRecovery();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::MakeWall()
+{
+    m_view = new WallView(m_editor);
+    m_messages = new MessageBar;
+    m_fault = new MessageBar;
+    m_time = new TimeBar(m_wall);
+    auto *const page = new QWidget;
+    auto *const layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_fault);
+    layout->addWidget(m_view, 1);
+    layout->addWidget(m_time);
+    m_gallery = new Gallery;
+    m_pages = new QStackedWidget;
+    m_pages->addWidget(m_gallery);
+    m_pages->addWidget(page);
+    auto *const centre = new QWidget;
+    auto *const all = new QVBoxLayout(centre);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addWidget(m_messages);
+    all->addWidget(m_pages, 1);
+    setCentralWidget(centre);
+    connect(m_gallery, &Gallery::TemplateChosen, this, &MainWindow::BeginWith);
+    connect(m_gallery, &Gallery::FileChosen, this, &MainWindow::Open);
+    connect(m_gallery, &Gallery::OpenWanted, this, &MainWindow::OpenDialog);
+    connect(m_view, &WallView::FileDropped, this, &MainWindow::Open);
+    connect(m_view, &WallView::TextDropped, this,
+            [this](const QString &text) { m_editor.PasteText(text); });
+}
+
+void MainWindow::MakeDocks()
+{
+    const auto dock = [this](const QString &title, const char *name, QWidget *widget,
+                             Qt::DockWidgetArea area) {
+        auto *const made = new QDockWidget(title, this);
+        made->setObjectName(QLatin1String(name));
+        made->setWidget(widget);
+        addDockWidget(area, made);
+        return made;
+    };
+    m_properties = new PropertyPanel(m_editor);
+    m_source = new SourceView(m_editor);
+    m_findings = new FindingsPanel(m_editor);
+    m_propertyDock = dock(tr("Properties"), "properties", m_properties, Qt::RightDockWidgetArea);
+    m_propertyDock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+    m_propertyDock->setTitleBarWidget(new QWidget);
+    m_findingsDock = dock(tr("Findings"), "findings", m_findings, Qt::BottomDockWidgetArea);
+    m_sourceDock = dock(tr("Source"), "source", m_source, Qt::BottomDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    m_sourceDock->hide();
+    m_findingsDock->hide();
+    connect(m_findings, &FindingsPanel::PropertyWanted, m_properties, &PropertyPanel::Reveal);
+    connect(m_findings, &FindingsPanel::LineWanted, m_source, &SourceView::GoToLine);
+}
+
+void MainWindow::ShowGallery()
+{
+    m_gallery->Refresh(ProgramFiles::Recent());
+    m_pages->setCurrentIndex(0);
+    m_propertyDock->hide();
+    UpdateTitle();
+    UpdateCommands();
+}
+
+void MainWindow::ShowWallPage()
+{
+    m_pages->setCurrentIndex(1);
+    m_propertyDock->show();
+    m_view->ZoomToFit();
+    m_view->setFocus();
+    UpdateTitle();
+    UpdateCommands();
+}
+
+bool MainWindow::Open(const QString &path)
+{
+    if (!MayLeave())
+        return false;
+    if (const auto problem = m_files.Open(path)) {
+        SayProblem(*problem);
+        return false;
+    }
+    m_messages->hide();
+    ShowWallPage();
+    return true;
+}
+
+void MainWindow::BeginWith(const QByteArray &bytes)
+{
+    if (!MayLeave())
+        return;
+    m_files.Begin(bytes);
+    ShowWallPage();
+}
+
+void MainWindow::NewProgram()
+{
+    ShowGallery();
+}
+
+void MainWindow::OpenDialog()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open a program"), m_files.Path(),
+                                     tr("Programs (%1);;All files (*)").arg(kFilter));
+    if (!path.isEmpty())
+        Open(path);
+}
+
+bool MainWindow::Save()
+{
+    if (m_files.Path().isEmpty())
+        return SaveAs();
+    if (const auto problem = m_files.Save(m_files.Path())) {
+        SayProblem(*problem);
+        return false;
+    }
+    statusBar()->showMessage(tr("Saved"), 3000);
+    return true;
+}
+
+bool MainWindow::SaveAs()
+{
+    QString path = QFileDialog::getSaveFileName(
+        this, tr("Save the program"), m_files.Path().isEmpty() ? tr("wall.xml") : m_files.Path(),
+        tr("Programs (%1)").arg(kFilter));
+    if (path.isEmpty())
+        return false;
+    if (!path.contains(QLatin1Char('.'), Qt::CaseInsensitive))
+        path += QStringLiteral(".xml");
+    if (const auto problem = m_files.Save(path)) {
+        SayProblem(*problem);
+        return false;
+    }
+    return true;
+}
+
+bool MainWindow::MayLeave()
+{
+    if (m_files.IsSaved() || m_pages->currentIndex() == 0)
+        return true;
+    QMessageBox question(QMessageBox::Question, tr("Unsaved work"),
+                         tr("Save the changes to %1?").arg(m_files.Name()),
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    switch (question.exec()) {
+    case QMessageBox::Save:
+        return Save();
+    case QMessageBox::Discard:
+        m_files.GiveUp();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MainWindow::SayProblem(const QString &text)
+{
+    m_messages->Ask(text, {{tr("Dismiss"), {}}});
+}
+
+void MainWindow::OfferRecovery()
+{
+    const QVector<LeftWork> left = m_files.LeftWorks();
+    if (left.isEmpty())
+        return;
+    const LeftWork work = left.first();
+    const QString name = work.path.isEmpty() ? tr("a new wall") : work.path;
+    m_messages->Ask(tr("The studio ended unexpectedly. Unsaved work on %1 was kept.").arg(name),
+                    {{tr("Recover"),
+                      [this, work] {
+                          m_files.Recover(work);
+                          ShowWallPage();
+                      }},
+                     {tr("Discard"), [work] { RecoveryStore::Remove(work); }}});
+}
+
+void MainWindow::AskAboutChange()
+{
+    const QString text = tr("%1 was changed by another program.").arg(m_files.Name());
+    m_messages->Ask(text,
+                    {{tr("Load it again"),
+                      [this] {
+                          if (const auto problem = m_files.Open(m_files.Path()))
+                              SayProblem(*problem);
+                      }},
+                     {tr("Keep mine"), {}}});
+}
+
+void MainWindow::UpdateTitle()
+{
+    const QString name = m_pages->currentIndex() == 0 ? QString() : m_files.Name();
+    setWindowModified(!name.isEmpty() && !m_files.IsSaved());
+    setWindowTitle(name.isEmpty() ? tr("Clock Studio") : tr("%1[*] – Clock Studio").arg(name));
+}
+
+void MainWindow::UpdateCommands()
+{
+    const bool hasWall = m_pages->currentIndex() == 1;
+    for (QAction *const action : qAsConst(m_actions)) {
+        const bool needsChoice = action->property("needsChoice").toBool();
+        const bool needsWall = action->property("needsWall").toBool();
+        action->setEnabled((hasWall || !(needsWall || needsChoice))
+                           && (!needsChoice || !m_editor.Chosen().isEmpty()));
+    }
+}
+
+void MainWindow::UpdateState()
+{
+    if (const auto &fault = m_document.Fault()) {
+        const int line = fault->line;
+        m_fault->Ask(tr("Line %1: %2 The wall shows the last version that was right.")
+                         .arg(line)
+                         .arg(fault->reason.endsWith(QLatin1Char('.'))
+                                  ? fault->reason
+                                  : fault->reason + QLatin1Char('.')),
+                     {{tr("Show the line"), [this, line] {
+                           m_sourceDock->show();
+                           m_source->GoToLine(line);
+                           m_source->setFocus();
+                           m_fault->show();
+                       }}});
+    } else {
+        m_fault->hide();
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!MayLeave()) {
+        event->ignore();
+        return;
+    }
+    WriteSettings();
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (!urls.isEmpty() && urls.first().isLocalFile())
+        Open(urls.first().toLocalFile());
+}
+
+void MainWindow::ReadSettings()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(kGeometryKey).toByteArray());
+    restoreState(settings.value(kStateKey).toByteArray());
+}
+
+void MainWindow::WriteSettings()
+{
+    QSettings settings;
+    settings.setValue(kGeometryKey, saveGeometry());
+    settings.setValue(kStateKey, saveState());
+}
+
+} // namespace ClockStudio

@@ -1,0 +1,109 @@
+// studio/window: the window that brings everything together.
+#pragma once
+
+#include "commands.h"
+
+#include "editing/wall_editor.h"
+#include "files/program_files.h"
+#include "wall/wall_view.h"
+
+#include <QMainWindow>
+
+QT_BEGIN_NAMESPACE
+class QActionGroup;
+class QDockWidget;
+class QLabel;
+class QStackedWidget;
+QT_END_NAMESPACE
+
+namespace ClockStudio {
+
+class FindingsPanel;
+class Gallery;
+class MessageBar;
+class PropertyPanel;
+class SourceView;
+class TimeBar;
+
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Unsaved work is kept in the directory.
+    explicit MainWindow(const QString &recoveryDirectory, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /// False where the file cannot be opened, which the window says.
+    bool Open(const QString &path);
+    /// Templates and recent files to begin with.
+    void ShowGallery();
+
+    StudioDocument &Document() { return m_document; }
+    WallEditor &Editor() { return m_editor; }
+    ProgramFiles &Files() { return m_files; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void MakeWall();
+    void MakeDocks();
+    void MakeMenus();
+    void MakeFileMenu();
+    void MakeEditMenu();
+    void MakeClockMenu();
+    void MakeViewMenu();
+    void MakeHelpMenu();
+    void MakeToolBar();
+    void MakeStatus();
+    QMenu *AddMenu(const QString &title, const QVector<Command> &commands);
+    void FillRecent(QMenu &menu);
+
+    void NewProgram();
+    void OpenDialog();
+    bool Save();
+    bool SaveAs();
+    /// Whether unsaved work may be lost: it was saved, or is given up.
+    bool MayLeave();
+    void BeginWith(const QByteArray &bytes);
+    void ShowWallPage();
+    void SetUp();
+    void OfferRecovery();
+    void AskAboutChange();
+    void SayProblem(const QString &text);
+
+    void UpdateTitle();
+    void UpdateCommands();
+    void UpdateState();
+    void ShowKeys();
+    void ShowAbout();
+    void SavePicture();
+    void ReadSettings();
+    void WriteSettings();
+
+    StudioDocument m_document;
+    LiveWall m_wall;
+    WallEditor m_editor;
+    ProgramFiles m_files;
+    WallView *m_view = nullptr;
+    MessageBar *m_messages = nullptr;
+    MessageBar *m_fault = nullptr; ///< about a text that is no program
+    TimeBar *m_time = nullptr;
+    SourceView *m_source = nullptr;
+    FindingsPanel *m_findings = nullptr;
+    PropertyPanel *m_properties = nullptr;
+    Gallery *m_gallery = nullptr;
+    QStackedWidget *m_pages = nullptr;
+    QDockWidget *m_sourceDock = nullptr;
+    QDockWidget *m_findingsDock = nullptr;
+    QDockWidget *m_propertyDock = nullptr;
+    QLabel *m_place = nullptr;
+    QLabel *m_zoom = nullptr;
+    QList<QAction *> m_actions;
+    QActionGroup *m_drawing = nullptr;
+};
+
+} // namespace ClockStudio
