@@ -9,7 +9,7 @@ set(CLOCK_INSTALL_DOC share/doc/clock-player)
 # Builds what the runtime component installs, and nothing else.
 add_custom_target(clock_runtime)
 
-# clock_install_compressed(FILE FOLDER NAME)
+# clock_install_compressed(FILE FOLDER NAME [COMPONENT])
 # NAME.gz in the folder, as Debian wants changelogs and manual pages: compressed most, without a time
 # stamp.
 function(clock_install_compressed file folder name)
@@ -21,8 +21,12 @@ function(clock_install_compressed file folder name)
         DEPENDS ${file}
         VERBATIM)
     add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
-    add_dependencies(clock_runtime compressed_${name})
-    install(FILES ${compressed} DESTINATION ${folder} COMPONENT runtime)
+    set(component runtime ${ARGN})
+    list(GET component -1 component)
+    if(component STREQUAL runtime)
+        add_dependencies(clock_runtime compressed_${name})
+    endif()
+    install(FILES ${compressed} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
 # clock_install_link(LINK TO COMPONENT)
@@ -34,13 +38,18 @@ function(clock_install_link link to component)
     install(FILES ${PROJECT_BINARY_DIR}/links/${link} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
-# clock_install_program(TARGET)
+# clock_install_program(TARGET [COMPONENT])
 # The program, and a link to it in bin.
 function(clock_install_program target)
+    set(component runtime ${ARGN})
+    list(GET component -1 component)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
-    add_dependencies(clock_runtime ${target})
-    install(TARGETS ${target} RUNTIME DESTINATION ${CLOCK_INSTALL_ROOT}/bin COMPONENT runtime)
-    clock_install_link(bin/${target} ../${CLOCK_INSTALL_ROOT}/bin/${target} runtime)
+    if(component STREQUAL runtime)
+        add_dependencies(clock_runtime ${target})
+    endif()
+    install(TARGETS ${target}
+        RUNTIME DESTINATION ${CLOCK_INSTALL_ROOT}/bin COMPONENT ${component})
+    clock_install_link(bin/${target} ../${CLOCK_INSTALL_ROOT}/bin/${target} ${component})
 endfunction()
 
 # clock_install()
@@ -65,6 +74,9 @@ function(clock_install)
     install(DIRECTORY docs/ DESTINATION ${CLOCK_INSTALL_DOC} COMPONENT runtime
         FILES_MATCHING PATTERN "*.md" PATTERN "program.rng" PATTERN "*.svg" PATTERN "*.cpp")
     clock_install_host()
+    if(TARGET clock_studio)
+        clock_install_studio()
+    endif()
 endfunction()
 
 # The stand-in host's library is the programs' own, so it stays within their tree; its link for the

@@ -49,6 +49,10 @@ them.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "clock-player (= ${full_version}), qtbase5-dev (>= 5.10)")
 
+if(TARGET clock_studio)
+    clock_package_studio(${full_version})
+endif()
+
 clock_install_compressed(
     ${PROJECT_SOURCE_DIR}/packaging/debian/changelog ${CLOCK_INSTALL_DOC} changelog.Debian)
 clock_install_compressed(${PROJECT_SOURCE_DIR}/CHANGELOG.md ${CLOCK_INSTALL_DOC} changelog)

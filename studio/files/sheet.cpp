@@ -6,6 +6,7 @@
 #include "led_screen.h"
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QFile>
 #include <QLocale>
 #include <QPainter>

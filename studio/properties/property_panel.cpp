@@ -1,6 +1,7 @@
 #include "property_panel.h"
 
 #include "clock_pictures.h"
+#include "fitting_sizes.h"
 #include "section.h"
 #include "zone_section.h"
 
@@ -167,7 +168,12 @@ void PropertyPanel::MakeGroups()
     }
     place->AddLine(tr("Position"), {m_place[0], m_place[1]});
     place->AddLine(tr("Size"), {m_place[2], m_place[3]});
-    m_clock->layout()->addWidget(place);
+    auto *const fit = new QPushButton(tr("Fit sizes to the area"));
+    fit->setObjectName(QStringLiteral("FitButton"));
+    fit->setToolTip(tr("Make the texts as large as the area allows on any day of the year"));
+    connect(fit, &QPushButton::clicked, this, &PropertyPanel::FitSizes);
+    place->AddWide(fit);
+    static_cast<QVBoxLayout *>(m_clock->layout())->insertWidget(2, place);
 }
 
 Section *PropertyPanel::MakeGroup(const PropertyGroup &group)
@@ -283,52 +289,59 @@ void PropertyPanel::ShowClocks(const QVector<HClockNode *> &clocks)
     }
 }
 
-void PropertyPanel::SetValues(const QVector<StoredValue> &values, const QString &label,
-                              const QString &mergeKey)
+/// One change of the text for all chosen clocks. They are taken from the last to the first: what is
+/// changed in one does not move those before it.
+void PropertyPanel::ChangeEach(const QString &label, const QString &mergeKey,
+                               const std::function<TextEdits(const ProgramReading &, int)> &edits)
 {
     const ProgramReading *const reading = m_editor.Document().Reading();
     if (!reading)
         return;
-    // From the last area to the first: what is changed in one does not move those before it.
     QVector<int> areas = m_editor.Chosen();
     std::sort(areas.begin(), areas.end(), std::greater<int>());
-    TextEdits edits;
-    for (const int area : qAsConst(areas)) {
+    TextEdits all;
+    for (const int area : qAsConst(areas))
+        all += edits(*reading, area);
+    m_editor.Document().Change(all, label, mergeKey);
+}
+
+void PropertyPanel::SetValues(const QVector<StoredValue> &values, const QString &label,
+                              const QString &mergeKey)
+{
+    ChangeEach(label, mergeKey, [this, &values](const ProgramReading &reading, int area) {
         HClockNode *const clock = m_editor.Wall().Clock(area);
         QVector<StoredValue> used;
         for (const StoredValue &value : values) {
             if (clock && IsUsedBy(RowOf(value.attribute).clocks, clock->ClockType()))
                 used.append(value);
         }
-        edits += ValueEdits(*reading, area, used);
-    }
-    m_editor.Document().Change(edits, label, mergeKey);
+        return ValueEdits(reading, area, used);
+    });
 }
 
 void PropertyPanel::SetKind(int kind)
 {
-    const ProgramReading *const reading = m_editor.Document().Reading();
-    if (!reading)
-        return;
-    QVector<int> areas = m_editor.Chosen();
-    std::sort(areas.begin(), areas.end(), std::greater<int>());
-    TextEdits edits;
-    for (const int area : qAsConst(areas))
-        edits += KindEdits(*reading, area, kind);
-    m_editor.Document().Change(edits, tr("Kind of clock"));
+    ChangeEach(tr("Kind of clock"), {}, [kind](const ProgramReading &reading, int area) {
+        return KindEdits(reading, area, kind);
+    });
 }
 
 void PropertyPanel::Reset(Attribute attribute)
 {
-    const ProgramReading *const reading = m_editor.Document().Reading();
-    if (!reading)
-        return;
-    QVector<int> areas = m_editor.Chosen();
-    std::sort(areas.begin(), areas.end(), std::greater<int>());
-    TextEdits edits;
-    for (const int area : qAsConst(areas))
-        edits += ResetEdits(*reading, area, attribute);
-    m_editor.Document().Change(edits, tr("Reset"));
+    ChangeEach(tr("Reset"), {}, [attribute](const ProgramReading &reading, int area) {
+        return ResetEdits(reading, area, attribute);
+    });
+}
+
+void PropertyPanel::FitSizes()
+{
+    ChangeEach(tr("Fit sizes"), {}, [this](const ProgramReading &reading, int area) {
+        HClockNode *const clock = m_editor.Wall().Clock(area);
+        const QRect geometry = reading.Geometry(area);
+        const QRect visible =
+            (geometry & QRect(QPoint(), m_editor.Wall().Size())).translated(-geometry.topLeft());
+        return clock ? ValueEdits(reading, area, FittingSizes(*clock, visible)) : TextEdits();
+    });
 }
 
 void PropertyPanel::GivePlace()

@@ -10,6 +10,8 @@
 
 #include <QScrollArea>
 
+#include <functional>
+
 QT_BEGIN_NAMESPACE
 class QButtonGroup;
 class QLabel;
@@ -36,6 +38,8 @@ public:
     /// Sets values of all chosen clocks that have them.
     void SetValues(const QVector<StoredValue> &values, const QString &label,
                    const QString &mergeKey = {});
+    /// Gives the chosen clocks sizes that fill their areas.
+    void FitSizes();
 
 private:
     void Refresh();
@@ -47,6 +51,8 @@ private:
     void MakeGroups();
     Section *MakeGroup(const PropertyGroup &group);
     ValueEditor *MakeEditor(Lw::HNodeClock::Attribute attribute);
+    void ChangeEach(const QString &label, const QString &mergeKey,
+                    const std::function<TextEdits(const ProgramReading &, int)> &edits);
     void SetKind(int kind);
     void GivePlace();
     void Reset(Lw::HNodeClock::Attribute attribute);

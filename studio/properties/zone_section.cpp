@@ -81,7 +81,10 @@ void ZoneSection::Show(const QVector<HClockNode *> &clocks)
         isMixed = isMixed || settings.offset != first.offset || settings.start != first.start
             || settings.end != first.end;
     }
-    const QString city = isMixed ? QString() : CityWith(first, QDate::currentDate());
+    const bool isUtc = first.offset == 0 && !first.HasDaylightSaving();
+    const QString city = isMixed ? QString()
+        : isUtc                  ? QStringLiteral("UTC")
+                                 : CityWith(first, QDate::currentDate());
     m_city->setText(isMixed              ? tr("several")
                         : city.isEmpty() ? QStringLiteral("UTC%1").arg(first.ZoneText())
                                          : QStringLiteral("%1 (%2)").arg(city, first.ZoneText()));

@@ -1,17 +1,31 @@
-// The main window's pictures and other files made of a wall.
+// The main window's pictures, exports and what else is made of a wall.
 #include "main_window.h"
+
+#include "send_dialog.h"
+
+#include "files/preview.h"
+#include "files/sheet.h"
+#include "files/tool_run.h"
+#include "findings/findings_panel.h"
 
 #include "led_screen.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStatusBar>
+#include <QTemporaryDir>
 
 namespace ClockStudio {
 
 namespace {
 
 constexpr int kPicturePitch = 8; // pixels of a picture for one diode
+
+QString WithSuffix(const QString &path, const QString &suffix)
+{
+    return path.isEmpty() || !QFileInfo(path).suffix().isEmpty() ? path : path + suffix;
+}
 
 } // namespace
 
@@ -20,21 +34,118 @@ void MainWindow::SavePicture()
     const QString plain = tr("Picture, plain pixels (*.png)");
     const QString diodes = tr("Picture, as diodes (*.png)");
     QString chosen;
-    QString path = QFileDialog::getSaveFileName(this, tr("Picture of the wall"),
-                                                QFileInfo(m_files.Name()).completeBaseName()
-                                                    + QStringLiteral(".png"),
-                                                plain + QStringLiteral(";;") + diodes, &chosen);
+    const QString path =
+        WithSuffix(QFileDialog::getSaveFileName(this, tr("Picture of the wall"), tr("wall.png"),
+                                                plain + QStringLiteral(";;") + diodes, &chosen),
+                   QStringLiteral(".png"));
     if (path.isEmpty())
         return;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += QStringLiteral(".png");
     const QImage picture = chosen == diodes
         ? ClockStage::LedScreen(kPicturePitch).Diodes(m_wall.Screen())
         : m_wall.Screen();
-    if (picture.isNull() || !picture.save(path, "PNG"))
-        SayProblem(tr("%1 could not be written.").arg(path));
+    SayWritten(path, !picture.isNull() && picture.save(path, "PNG"));
+}
+
+void MainWindow::SaveSheet()
+{
+    const QString path = WithSuffix(QFileDialog::getSaveFileName(this, tr("Sheet for approval"),
+                                                                 tr("wall.pdf"), tr("PDF (*.pdf)")),
+                                    QStringLiteral(".pdf"));
+    if (path.isEmpty())
+        return;
+    m_findings->Check();
+    QStringList findings;
+    for (const ClockTool::Finding &finding : m_findings->Findings())
+        findings.append(finding.text);
+    SayWritten(path, WriteSheet(path, m_files.Name(), m_wall, findings));
+}
+
+void MainWindow::SavePreview()
+{
+    const QString path =
+        WithSuffix(QFileDialog::getSaveFileName(this, tr("Animated preview"), tr("wall.gif"),
+                                                tr("Animated picture (*.gif)")),
+                   QStringLiteral(".gif"));
+    if (path.isEmpty())
+        return;
+    const QTemporaryDir work;
+    const QString problem = WritePreviewFrames(m_wall, work.path());
+    const ToolResult result = problem.isEmpty()
+        ? RunBehindDialog(PreviewCommand(work.path(), path), tr("Making the preview…"), this)
+        : ToolResult {false, false, problem};
+    if (result.isCancelled)
+        QFile::remove(path);
+    else if (result.isGood)
+        SayWritten(path, true);
     else
+        SayProblem(tr("The preview could not be made: %1").arg(result.errors));
+}
+
+void MainWindow::SayWritten(const QString &path, bool isWritten)
+{
+    if (isWritten)
         statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
+    else
+        SayProblem(tr("%1 could not be written.").arg(path));
+}
+
+QString MainWindow::ProgramFileIn(const QTemporaryDir &directory)
+{
+    const QString path = directory.filePath(QStringLiteral("program.xml"));
+    const std::optional<QByteArray> bytes = m_document.Bytes();
+    QSaveFile file(path);
+    const bool isWritten = bytes && file.open(QFile::WriteOnly)
+        && file.write(*bytes) == bytes->size() && file.flush() && file.commit();
+    if (!isWritten)
+        SayProblem(tr("%1 could not be written.").arg(path));
+    return isWritten ? path : QString();
+}
+
+void MainWindow::ExportProgram()
+{
+    const QString folder = QFileDialog::getExistingDirectory(
+        this, tr("An empty folder, or one with an earlier export"));
+    if (folder.isEmpty())
+        return;
+    const QTemporaryDir work;
+    const QString program = ProgramFileIn(work);
+    if (program.isEmpty())
+        return;
+    const ToolResult result =
+        RunBehindDialog({ClockToolPath(), {QStringLiteral("export"), program, folder}},
+                        tr("Making the glyph files…"), this);
+    if (result.isGood)
+        statusBar()->showMessage(tr("Exported to %1").arg(folder), 4000);
+    else if (!result.isCancelled)
+        SayProblem(result.errors);
+}
+
+void MainWindow::ImportSdk()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Import SDK XML"), {},
+                                                      tr("SDK XML (*.xml);;All files (*)"));
+    if (path.isEmpty() || !MayLeave())
+        return;
+    const QTemporaryDir work;
+    const QString program = work.filePath(QStringLiteral("program.xml"));
+    const ToolResult result = RunBehindDialog(
+        {ClockToolPath(), {QStringLiteral("import"), path, QStringLiteral("-o"), program}},
+        tr("Importing…"), this);
+    QFile file(program);
+    if (result.isGood && file.open(QFile::ReadOnly)) {
+        m_files.Begin(file.readAll());
+        ShowWallPage();
+    }
+    if (!result.errors.isEmpty() && !result.isCancelled)
+        SayProblem(result.errors);
+}
+
+void MainWindow::Send()
+{
+    const QTemporaryDir work;
+    const QString program = ProgramFileIn(work);
+    if (!program.isEmpty())
+        SendDialog(program, this).exec();
 }
 
 } // namespace ClockStudio

@@ -51,7 +51,8 @@ void MainWindow::MakeFileMenu()
 {
     QMenu *const menu = AddMenu(tr("&File"),
                                 {{tr("&New…"), {QKeySequence::New}, [this] { NewProgram(); }},
-                                 {tr("&Open…"), {QKeySequence::Open}, [this] { OpenDialog(); }}});
+                                 {tr("&Open…"), {QKeySequence::Open}, [this] { OpenDialog(); }},
+                                 {tr("&Import SDK XML…"), {}, [this] { ImportSdk(); }}});
     QMenu *const recent = menu->addMenu(tr("Open &recent"));
     connect(recent, &QMenu::aboutToShow, this, [this, recent] { FillRecent(*recent); });
     const QVector<Command> rest {
@@ -62,6 +63,13 @@ void MainWindow::MakeFileMenu()
         {tr("&Picture of the wall…"),
          {QKeySequence(tr("Ctrl+Shift+P"))},
          [this] { SavePicture(); }},
+        {tr("Animated pre&view…"), {}, [this] { SavePreview(); }},
+        {tr("S&heet for approval…"), {QKeySequence::Print}, [this] { SaveSheet(); }},
+        kSeparator,
+        {tr("&Export with glyph files…"),
+         {QKeySequence(tr("Ctrl+E"))},
+         [this] { ExportProgram(); }},
+        {tr("Sen&d to a wall…"), {QKeySequence(tr("Ctrl+Return"))}, [this] { Send(); }},
         kSeparator,
         {tr("&Quit"), {QKeySequence(tr("Ctrl+Q"))}, [this] { close(); }}};
     for (QAction *const action : AddCommands(*menu, rest)) {

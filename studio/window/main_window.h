@@ -14,6 +14,7 @@ class QActionGroup;
 class QDockWidget;
 class QLabel;
 class QStackedWidget;
+class QTemporaryDir;
 QT_END_NAMESPACE
 
 namespace ClockStudio {
@@ -74,6 +75,7 @@ private:
     void OfferRecovery();
     void AskAboutChange();
     void SayProblem(const QString &text);
+    void SayWritten(const QString &path, bool isWritten);
 
     void UpdateTitle();
     void UpdateCommands();
@@ -81,6 +83,13 @@ private:
     void ShowKeys();
     void ShowAbout();
     void SavePicture();
+    void SaveSheet();
+    void SavePreview();
+    void ExportProgram();
+    void ImportSdk();
+    void Send();
+    /// The program as it is now in a file of its own; empty where that cannot be written.
+    QString ProgramFileIn(const QTemporaryDir &directory);
     void ReadSettings();
     void WriteSettings();
 

@@ -1,0 +1,264 @@
+// Files of programs: whole or not at all, noticed when others change them, recovered after a crash.
+#include "sample_programs.h"
+
+#include "files/program_files.h"
+#include "files/wall_target.h"
+#include "text/studio_document.h"
+
+#include <QProcess>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace ClockStudio;
+
+namespace {
+
+const QByteArray kWall = "<program width=\"8\" height=\"8\"/>\n";
+
+bool Write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+TextEdits Widened(const StudioDocument &document)
+{
+    return {{document.Text().indexOf("8"), "8", "16"}};
+}
+
+} // namespace
+
+class TestProgramFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void opensAndSaves();
+    void failedSaveKeepsTheFile();
+    void refusedFiles_data();
+    void refusedFiles();
+    void changedOnDisk();
+    void lostOnDisk();
+    void recoversAfterAKill();
+    void savedWorkIsNotRecovered();
+    void recent();
+    void sendsToAFolder();
+    void targetFaults_data();
+    void targetFaults();
+};
+
+void TestProgramFiles::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setOrganizationName("clock-studio-test");
+    QSettings().clear();
+}
+
+void TestProgramFiles::opensAndSaves()
+{
+    const QTemporaryDir work;
+    const QString path = work.filePath("wall.xml");
+    QVERIFY(Write(path, kWall));
+    StudioDocument document;
+    ProgramFiles files(document, work.filePath("recovery"));
+    QVERIFY(!files.Open(path));
+    QVERIFY(files.IsSaved());
+    document.Change(Widened(document), "wider");
+    QVERIFY(!files.IsSaved());
+    QVERIFY(!files.Save(path));
+    QVERIFY(files.IsSaved());
+    QCOMPARE(ContentsOf(path), QByteArray(kWall).replace("\"8\" h", "\"16\" h"));
+    document.History().undo();
+    QVERIFY(!files.IsSaved());
+}
+
+void TestProgramFiles::failedSaveKeepsTheFile()
+{
+    const QTemporaryDir work;
+    const QString path = work.filePath("wall.xml");
+    QVERIFY(Write(path, kWall));
+    StudioDocument document;
+    ProgramFiles files(document, work.filePath("recovery"));
+    QVERIFY(!files.Open(path));
+    document.Change(Widened(document), "wider");
+    QVERIFY(files.Save(work.filePath("no/such/folder/wall.xml")));
+    QVERIFY(files.Save("/dev/full"));
+    QVERIFY(!files.IsSaved());
+    QCOMPARE(ContentsOf(path), kWall);
+    QCOMPARE(files.Path(), path);
+}
+
+void TestProgramFiles::refusedFiles_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("missing") << "/no/such/file.xml";
+    QTest::newRow("a directory") << "/tmp";
+    QTest::newRow("endless") << "/dev/zero";
+}
+
+void TestProgramFiles::refusedFiles()
+{
+    QFETCH(QString, path);
+    const QTemporaryDir work;
+    StudioDocument document;
+    ProgramFiles files(document, work.filePath("recovery"));
+    files.Begin(kWall);
+    QVERIFY(files.Open(path));
+    QCOMPARE(document.Text().toUtf8(), kWall);
+    QVERIFY(files.Path().isEmpty());
+}
+
+void TestProgramFiles::changedOnDisk()
+{
+    const QTemporaryDir work;
+    const QString path = work.filePath("wall.xml");
+    QVERIFY(Write(path, kWall));
+    StudioDocument document;
+    ProgramFiles files(document, work.filePath("recovery"));
+    QSignalSpy changed(&files, &ProgramFiles::ChangedOnDisk);
+    QVERIFY(!files.Open(path));
+    document.Change(Widened(document), "wider");
+    QVERIFY(!files.Save(path));
+    QTest::qWait(500);
+    QCOMPARE(changed.count(), 0); // one's own saving is no news
+    QVERIFY(Write(path, "<program width=\"9\" height=\"9\"/>"));
+    QTRY_COMPARE(changed.count(), 1);
+}
+
+void TestProgramFiles::lostOnDisk()
+{
+    const QTemporaryDir work;
+    const QString path = work.filePath("wall.xml");
+    QVERIFY(Write(path, kWall));
+    StudioDocument document;
+    ProgramFiles files(document, work.filePath("recovery"));
+    QSignalSpy lost(&files, &ProgramFiles::LostOnDisk);
+    QVERIFY(!files.Open(path));
+    QVERIFY(QFile::remove(path));
+    QTRY_COMPARE(lost.count(), 1);
+    QCOMPARE(document.Text().toUtf8(), kWall);
+    QVERIFY(!files.Save(path));
+    QCOMPARE(ContentsOf(path), kWall);
+}
+
+// A child process keeps its work and is killed.
+void TestProgramFiles::recoversAfterAKill()
+{
+    const QTemporaryDir work;
+    const QString directory = work.filePath("recovery");
+    const pid_t child = fork();
+    if (child == 0) {
+        RecoveryStore store(directory);
+        store.Keep("/somewhere/wall.xml", "<kept/>");
+        for (;;)
+            pause();
+    }
+    QTRY_COMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 1);
+    RecoveryStore store(directory);
+    QVERIFY(store.Left().isEmpty()); // it still runs
+    QCOMPARE(kill(child, SIGKILL), 0);
+    QCOMPARE(waitpid(child, nullptr, 0), child);
+    const QVector<LeftWork> left = store.Left();
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(left.first().path, QString("/somewhere/wall.xml"));
+    QCOMPARE(left.first().bytes, QByteArray("<kept/>"));
+    StudioDocument document;
+    ProgramFiles files(document, directory);
+    files.Recover(left.first());
+    QCOMPARE(document.Text(), QString("<kept/>"));
+    QVERIFY(!files.IsSaved());
+    QVERIFY(store.Left().isEmpty()); // it is the work of a studio that runs
+}
+
+void TestProgramFiles::savedWorkIsNotRecovered()
+{
+    const QTemporaryDir work;
+    const QString directory = work.filePath("recovery");
+    StudioDocument document;
+    {
+        ProgramFiles files(document, directory);
+        files.Begin(kWall);
+        document.Change(Widened(document), "wider");
+        files.KeepWork();
+        QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 1);
+        QVERIFY(!files.Save(work.filePath("wall.xml")));
+        QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 0);
+    }
+    QVERIFY(Write(directory + "/broken.work", "no work"));
+    QVERIFY(RecoveryStore(directory).Left().isEmpty());
+}
+
+void TestProgramFiles::recent()
+{
+    const QTemporaryDir work;
+    StudioDocument document;
+    ProgramFiles files(document, work.filePath("recovery"));
+    for (const char *name : {"a.xml", "b.xml", "a.xml"}) {
+        QVERIFY(Write(work.filePath(name), kWall));
+        QVERIFY(!files.Open(work.filePath(name)));
+    }
+    QCOMPARE(ProgramFiles::Recent().mid(0, 2),
+             QStringList({work.filePath("a.xml"), work.filePath("b.xml")}));
+    QVERIFY(QFile::remove(work.filePath("a.xml")));
+    QCOMPARE(ProgramFiles::Recent().first(), work.filePath("b.xml"));
+}
+
+void TestProgramFiles::sendsToAFolder()
+{
+    const QTemporaryDir work;
+    QVERIFY(QDir(work.path()).mkpath("export/files"));
+    QVERIFY(Write(work.filePath("export/program.xml"), kWall));
+    const WallTarget target {"hall", {}, work.filePath("it's a wall"), {}};
+    QVERIFY(QDir().mkpath(target.folder));
+    QCOMPARE(TargetFault(target), QString());
+    for (const char *release : {"1", "2"}) {
+        for (const ToolCommand &command :
+             SendCommands(target, work.filePath("export"), QLatin1String(release)))
+            QCOMPARE(QProcess::execute(command.program, command.arguments), 0);
+        QCOMPARE(QFile::symLinkTarget(target.folder + "/current"),
+                 target.folder + "/releases/" + release);
+        QCOMPARE(ContentsOf(target.folder + "/current/program.xml"), kWall);
+    }
+    const ToolCommand back = PlayCommand(target, "1");
+    QCOMPARE(QProcess::execute(back.program, back.arguments), 0);
+    QCOMPARE(QFile::symLinkTarget(target.folder + "/current"), target.folder + "/releases/1");
+    KeepTargets({target});
+    QCOMPARE(KnownTargets().size(), 1);
+    QCOMPARE(KnownTargets().first().folder, target.folder);
+}
+
+void TestProgramFiles::targetFaults_data()
+{
+    QTest::addColumn<QString>("host");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<bool>("isGood");
+    QTest::newRow("host") << "wall"
+                          << "/srv" << true;
+    QTest::newRow("user and host") << "op@wall.example"
+                                   << "/srv" << true;
+    QTest::newRow("an option") << "-oProxyCommand=x"
+                               << "/srv" << false;
+    QTest::newRow("two words") << "wall; rm"
+                               << "/srv" << false;
+    QTest::newRow("relative folder") << "wall"
+                                     << "srv" << false;
+    QTest::newRow("no folder") << ""
+                               << "" << false;
+}
+
+void TestProgramFiles::targetFaults()
+{
+    QFETCH(QString, host);
+    QFETCH(QString, folder);
+    QFETCH(bool, isGood);
+    QCOMPARE(TargetFault({"name", host, folder, {}}).isEmpty(), isGood);
+}
+
+QTEST_GUILESS_MAIN(TestProgramFiles)
+#include "test_program_files.moc"
