@@ -67,6 +67,9 @@ std::optional<QString> ProgramFiles::Save(const QString &path)
     const std::optional<QByteArray> bytes = m_document.Bytes();
     if (!bytes)
         return tr("The encoding of the file lacks a character of this text.");
+    // Saving puts a new file in the place of the old one, which a device would not survive.
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+        return tr("%1 is not an ordinary file.").arg(path);
     QSaveFile file(path);
     // Closing the file alone does not tell whether its last bytes found room.
     if (!file.open(QFile::WriteOnly) || file.write(*bytes) != bytes->size() || !file.flush()

@@ -3,6 +3,7 @@
 #include "time_changes.h"
 
 #include "clock_node.h"
+#include "clock_status.h"
 #include "pictureplayer.h"
 #include "time_travel.h"
 
@@ -134,7 +135,7 @@ void TimeBar::SetRunning(bool runs)
 
 void TimeBar::GoToNext(int kind)
 {
-    QVector<ClockStage::ClockSettings> clocks;
+    QVector<Lw::HNodeClock::ZoneSettings> clocks;
     for (int area = 0; area < m_wall.AreaCount(); ++area) {
         if (const auto settings = ClockStage::SettingsOf(m_wall.Clock(area)))
             clocks.append(*settings);

@@ -1,6 +1,5 @@
 #include "time_changes.h"
 
-#include "calendar/clock_time.h"
 #include "calendar/lunar_calendar.h"
 
 #include <QDateTime>
@@ -11,26 +10,26 @@ namespace ClockStudio {
 
 namespace {
 
-using ClockStage::ClockSettings;
 using Lw::HNodeClock::InLunarRange;
+using Lw::HNodeClock::ZoneSettings;
 
 constexpr qint64 kSecond = 1000;
 constexpr qint64 kDay = 86400 * kSecond;
 constexpr int kLongestLunarMonth = 31; // days to look at
 
 /// A reading of a clock as a UTC time.
-QDateTime Reading(const ClockSettings &clock, qint64 instant)
+QDateTime Reading(const ZoneSettings &clock, qint64 instant)
 {
-    return QDateTime::fromMSecsSinceEpoch(instant + ClockStage::OffsetAt(clock, instant) * kSecond,
-                                          Qt::UTC);
+    return QDateTime::fromMSecsSinceEpoch(
+        instant + Lw::HNodeClock::OffsetAt(clock, instant) * kSecond, Qt::UTC);
 }
 
 /// The instant at which a clock shows the midnight that begins a date.
-qint64 MidnightOf(const ClockSettings &clock, const QDate &date)
+qint64 MidnightOf(const ZoneSettings &clock, const QDate &date)
 {
     const qint64 reading = QDateTime(date, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
-    const qint64 standard = reading - clock.offsetSeconds * kSecond;
-    const qint64 shifted = reading - ClockStage::OffsetAt(clock, standard) * kSecond;
+    const qint64 standard = reading - clock.offset * kSecond;
+    const qint64 shifted = reading - Lw::HNodeClock::OffsetAt(clock, standard) * kSecond;
     return Reading(clock, shifted).date() == date ? shifted : standard;
 }
 
@@ -63,10 +62,10 @@ QDate NextDate(ChangeKind kind, const QDate &date)
     return {};
 }
 
-std::optional<qint64> NextOf(ChangeKind kind, const ClockSettings &clock, qint64 instant)
+std::optional<qint64> NextOf(ChangeKind kind, const ZoneSettings &clock, qint64 instant)
 {
     if (kind == ChangeKind::DaylightSaving) {
-        const auto change = ClockStage::NextChange(clock, instant);
+        const auto change = Lw::HNodeClock::NextChange(clock, instant);
         return change ? std::optional<qint64>(change->instant) : std::nullopt;
     }
     const QDate date = NextDate(kind, Reading(clock, instant).date());
@@ -75,11 +74,11 @@ std::optional<qint64> NextOf(ChangeKind kind, const ClockSettings &clock, qint64
 
 } // namespace
 
-std::optional<qint64> NextChangeOf(ChangeKind kind, const QVector<ClockSettings> &clocks,
+std::optional<qint64> NextChangeOf(ChangeKind kind, const QVector<ZoneSettings> &clocks,
                                    qint64 instant)
 {
     std::optional<qint64> first;
-    for (const ClockSettings &clock : clocks) {
+    for (const ZoneSettings &clock : clocks) {
         std::optional<qint64> next = NextOf(kind, clock, instant);
         if (next && *next <= instant) // just past it by the standard time
             next = NextOf(kind, clock, instant + kDay);

@@ -2,7 +2,7 @@
 // When something that clocks show changes next. Pure.
 #pragma once
 
-#include "clock_status.h"
+#include "calendar/zone_time.h"
 
 #include <QVector>
 
@@ -15,6 +15,6 @@ enum class ChangeKind { DaylightSaving, Midnight, Month, Year, LunarMonth };
 /// The first instant (UTC milliseconds) after one at which a clock's reading changes in this way;
 /// for several clocks the first of all. Nothing where none changes.
 std::optional<qint64>
-NextChangeOf(ChangeKind kind, const QVector<ClockStage::ClockSettings> &clocks, qint64 instant);
+NextChangeOf(ChangeKind kind, const QVector<Lw::HNodeClock::ZoneSettings> &clocks, qint64 instant);
 
 } // namespace ClockStudio

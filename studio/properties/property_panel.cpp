@@ -117,7 +117,6 @@ void PropertyPanel::MakeHead()
     auto *const hint = new QLabel(
         tr("Choose a clock on the wall to change it, or add one with the buttons above the wall."));
     hint->setWordWrap(true);
-    hint->setEnabled(false);
     section->AddWide(hint);
     m_wall = section;
     m_layout->addWidget(m_wall);

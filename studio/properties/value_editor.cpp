@@ -13,6 +13,8 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QSpinBox>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 
 namespace ClockStudio {
 
@@ -48,10 +50,27 @@ private:
     QCheckBox *m_box;
 };
 
+/// Words stand beside the pictures in the list only: closed, the picture says enough.
+class PictureBox : public QComboBox
+{
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        if (currentIndex() < 0 || itemIcon(currentIndex()).isNull())
+            return QComboBox::paintEvent(event);
+        QStylePainter painter(this);
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        option.currentText.clear();
+        painter.drawComplexControl(QStyle::CC_ComboBox, option);
+        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    }
+};
+
 class CodeEditor : public ValueEditor
 {
 public:
-    explicit CodeEditor(enum Attribute attribute) : ValueEditor(attribute), m_box(new QComboBox)
+    explicit CodeEditor(enum Attribute attribute) : ValueEditor(attribute), m_box(new PictureBox)
     {
         const ValueRange &range = Row().range;
         for (int code = range.first; code <= range.last; ++code) {

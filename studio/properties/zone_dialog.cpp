@@ -32,6 +32,7 @@ ZoneDialog::ZoneDialog(QWidget *parent)
     connect(m_list, &QListWidget::itemActivated, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    m_search->setFocus();
     resize(420, 420);
     ShowMatches({});
 }

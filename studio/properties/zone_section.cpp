@@ -18,17 +18,12 @@ namespace ClockStudio {
 namespace {
 
 using namespace Lw::HNodeClock;
-using ClockTool::ZoneSettings;
 
+/// Of the zone alone, without the adjustment.
 ZoneSettings SettingsIn(HClockNode &clock)
 {
-    ZoneSettings settings;
-    const auto status = ClockStage::SettingsOf(&clock);
+    ZoneSettings settings = ClockStage::SettingsOf(&clock).value_or(ZoneSettings());
     settings.offset = ParseZoneOffset(clock.GetAttribute(Key(Attribute::TimeZone)));
-    if (status && status->savesDaylight) {
-        settings.start = status->start;
-        settings.end = status->end;
-    }
     return settings;
 }
 
@@ -101,9 +96,9 @@ QString ZoneSection::NoteOn(HClockNode &clock) const
     if (!m_warning.isEmpty())
         return m_warning;
     const auto settings = ClockStage::SettingsOf(&clock);
-    if (!settings || !settings->savesDaylight)
+    if (!settings || !settings->HasDaylightSaving())
         return tr("No daylight saving.");
-    const auto next = ClockStage::NextChange(*settings, ClockStage::StageTime::Shown());
+    const auto next = NextChange(*settings, ClockStage::StageTime::Shown());
     if (!next)
         return tr("Daylight saving without sound rules.");
     const QString date = DateText(next->instant, next->before);

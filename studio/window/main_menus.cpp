@@ -6,10 +6,13 @@
 #include "panels/source_view.h"
 #include "properties/clock_pictures.h"
 
+#include "catalogues.h"
+
 #include <QActionGroup>
 #include <QDockWidget>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStackedWidget>
@@ -197,6 +200,7 @@ void MainWindow::MakeViewMenu()
         modules->addAction(action);
         connect(action, &QAction::triggered, this, [this, module] { m_view->SetModule(module); });
     }
+    MakeLanguageMenu(*menu);
     menu->addSeparator();
     m_sourceDock->toggleViewAction()->setShortcut(QKeySequence(tr("F4")));
     m_findingsDock->toggleViewAction()->setShortcut(QKeySequence(tr("F8")));
@@ -204,6 +208,24 @@ void MainWindow::MakeViewMenu()
     menu->addAction(m_findingsDock->toggleViewAction());
     m_actions.append(m_sourceDock->toggleViewAction());
     m_actions.append(m_findingsDock->toggleViewAction());
+}
+
+/// The clocks' wording, which is apart from the window's: a wall may hang elsewhere.
+void MainWindow::MakeLanguageMenu(QMenu &view)
+{
+    QMenu *const menu = view.addMenu(tr("&Language of the clocks"));
+    auto *const languages = new QActionGroup(this);
+    const QString now = ClockCatalogues::LanguageFor(QLocale());
+    for (const QString &language : ClockCatalogues::Languages()) {
+        QAction *const action = menu->addAction(QLocale(language).nativeLanguageName());
+        action->setCheckable(true);
+        action->setChecked(language == now);
+        languages->addAction(action);
+        connect(action, &QAction::triggered, this, [this, language] {
+            ClockCatalogues::Install(language);
+            m_wall.MakeAgain();
+        });
+    }
 }
 
 void MainWindow::MakeHelpMenu()

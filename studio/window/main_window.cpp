@@ -108,8 +108,11 @@ void MainWindow::MakeDocks()
     m_findingsDock = dock(tr("Findings"), "findings", m_findings, Qt::BottomDockWidgetArea);
     m_sourceDock = dock(tr("Source"), "source", m_source, Qt::BottomDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    tabifyDockWidget(m_findingsDock, m_sourceDock);
     m_sourceDock->hide();
     m_findingsDock->hide();
+    for (QDockWidget *const shown : {m_sourceDock, m_findingsDock})
+        connect(shown->toggleViewAction(), &QAction::triggered, shown, &QWidget::raise);
     connect(m_findings, &FindingsPanel::PropertyWanted, m_properties, &PropertyPanel::Reveal);
     connect(m_findings, &FindingsPanel::LineWanted, m_source, &SourceView::GoToLine);
 }

@@ -57,6 +57,7 @@ private:
     void MakeEditMenu();
     void MakeClockMenu();
     void MakeViewMenu();
+    void MakeLanguageMenu(QMenu &view);
     void MakeHelpMenu();
     void MakeToolBar();
     void MakeStatus();

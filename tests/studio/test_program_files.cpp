@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -88,7 +89,11 @@ void TestProgramFiles::failedSaveKeepsTheFile()
     QVERIFY(!files.Open(path));
     document.Change(Widened(document), "wider");
     QVERIFY(files.Save(work.filePath("no/such/folder/wall.xml")));
-    QVERIFY(files.Save("/dev/full"));
+    QVERIFY(files.Save(work.path())); // a folder
+    const QByteArray pipe = QFile::encodeName(work.filePath("pipe"));
+    QCOMPARE(mkfifo(pipe.constData(), 0600), 0);
+    QVERIFY(files.Save(work.filePath("pipe")));
+    QVERIFY(!QFileInfo(work.filePath("pipe")).isFile());
     QVERIFY(!files.IsSaved());
     QCOMPARE(ContentsOf(path), kWall);
     QCOMPARE(files.Path(), path);

@@ -1,0 +1,1778 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fa">
+<context>
+    <name>ClockStudio::ColourButton</name>
+    <message>
+        <source>Other colour…</source>
+        <translation>رنگ دیگر…</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>رنگ</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::FamilyBox</name>
+    <message>
+        <source>Default font</source>
+        <translation>قلم پیش‌فرض</translation>
+    </message>
+    <message>
+        <source>%1 (not installed)</source>
+        <translation>%1 (نصب نیست)</translation>
+    </message>
+    <message>
+        <source>%1 (lacks %2)</source>
+        <translation>%1 (بدون %2)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::FindingsPanel</name>
+    <message>
+        <source>Mend</source>
+        <translation>اصلاح</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>چیزی پیدا نشد.</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>یافته‌ها</translation>
+    </message>
+    <message>
+        <source>Write what the finding suggests</source>
+        <translation>پیشنهاد یافته را بنویس</translation>
+    </message>
+    <message>
+        <source>Clock %1: </source>
+        <translation>ساعت %1: </translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>سطر %1</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Gallery</name>
+    <message>
+        <source>Empty wall</source>
+        <translation>دیوار خالی</translation>
+    </message>
+    <message>
+        <source>Open a file…</source>
+        <translation>باز کردن پرونده…</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>آغاز</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>اخیر</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>پرونده‌های اخیر</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>الگوها</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::KeysDialog</name>
+    <message>
+        <source>Keys</source>
+        <translation>کلیدها</translation>
+    </message>
+    <message>
+        <source>Move by one pixel</source>
+        <translation>جابه‌جایی یک پیکسل</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>کلیدهای جهت</translation>
+    </message>
+    <message>
+        <source>Move by eight pixels</source>
+        <translation>جابه‌جایی هشت پیکسل</translation>
+    </message>
+    <message>
+        <source>Shift + arrow keys</source>
+        <translation>Shift + کلیدهای جهت</translation>
+    </message>
+    <message>
+        <source>Resize by one pixel</source>
+        <translation>تغییر اندازه یک پیکسل</translation>
+    </message>
+    <message>
+        <source>Alt + arrow keys</source>
+        <translation>Alt + کلیدهای جهت</translation>
+    </message>
+    <message>
+        <source>Choose the next clock</source>
+        <translation>انتخاب ساعت بعدی</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose several clocks</source>
+        <translation>انتخاب چند ساعت</translation>
+    </message>
+    <message>
+        <source>Shift + click, or drag around them</source>
+        <translation>Shift + کلیک، یا کشیدن دور آن‌ها</translation>
+    </message>
+    <message>
+        <source>Drag without snapping</source>
+        <translation>کشیدن بدون چسبیدن</translation>
+    </message>
+    <message>
+        <source>Hold Alt</source>
+        <translation>نگه داشتن Alt</translation>
+    </message>
+    <message>
+        <source>Take back a drag, choose nothing</source>
+        <translation>لغو کشیدن، بدون انتخاب</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>بزرگ‌نمایی در محل نشانگر</translation>
+    </message>
+    <message>
+        <source>Ctrl + wheel</source>
+        <translation>Ctrl + چرخ</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::MainWindow</name>
+    <message>
+        <source>Picture, plain pixels (*.png)</source>
+        <translation>تصویر، پیکسل ساده (*.png)</translation>
+    </message>
+    <message>
+        <source>Picture, as diodes (*.png)</source>
+        <translation>تصویر، به شکل دیود (*.png)</translation>
+    </message>
+    <message>
+        <source>Picture of the wall</source>
+        <translation>تصویر دیوار</translation>
+    </message>
+    <message>
+        <source>wall.png</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sheet for approval</source>
+        <translation>برگهٔ تأیید</translation>
+    </message>
+    <message>
+        <source>wall.pdf</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Animated preview</source>
+        <translation>پیش‌نمایش متحرک</translation>
+    </message>
+    <message>
+        <source>wall.gif</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Animated picture (*.gif)</source>
+        <translation>تصویر متحرک (*.gif)</translation>
+    </message>
+    <message>
+        <source>Making the preview…</source>
+        <translation>در حال ساخت پیش‌نمایش…</translation>
+    </message>
+    <message>
+        <source>The preview could not be made: %1</source>
+        <translation>پیش‌نمایش ساخته نشد: %1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 ذخیره شد</translation>
+    </message>
+    <message>
+        <source>%1 could not be written.</source>
+        <translation>%1 نوشته نشد.</translation>
+    </message>
+    <message>
+        <source>An empty folder, or one with an earlier export</source>
+        <translation>پوشهٔ خالی، یا پوشهٔ خروجی پیشین</translation>
+    </message>
+    <message>
+        <source>Making the glyph files…</source>
+        <translation>در حال ساخت پرونده‌های نویسه…</translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation>خروجی در %1</translation>
+    </message>
+    <message>
+        <source>Import SDK XML</source>
+        <translation>ورود SDK XML</translation>
+    </message>
+    <message>
+        <source>SDK XML (*.xml);;All files (*)</source>
+        <translation>SDK XML (*.xml);;همهٔ پرونده‌ها (*)</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>در حال ورود…</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;پرونده</translation>
+    </message>
+    <message>
+        <source>&amp;New…</source>
+        <translation>&amp;نو…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;باز کردن…</translation>
+    </message>
+    <message>
+        <source>&amp;Import SDK XML…</source>
+        <translation>&amp;ورود SDK XML…</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>باز کردن &amp;اخیر</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;ذخیره</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>ذخیره با نا&amp;م…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Picture of the wall…</source>
+        <translation>&amp;تصویر دیوار…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+P</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Animated pre&amp;view…</source>
+        <translation>&amp;پیش‌نمایش متحرک…</translation>
+    </message>
+    <message>
+        <source>S&amp;heet for approval…</source>
+        <translation>ب&amp;رگهٔ تأیید…</translation>
+    </message>
+    <message>
+        <source>&amp;Export with glyph files…</source>
+        <translation>&amp;خروجی با پرونده‌های نویسه…</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sen&amp;d to a wall…</source>
+        <translation>ف&amp;رستادن به دیوار…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;خروج</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>هنوز هیچ</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;ویرایش</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;واگرد</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;ازنو</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;برش</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;رونوشت</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;چسباندن</translation>
+    </message>
+    <message>
+        <source>There is no clock on the clipboard</source>
+        <translation>در بریده‌دان ساعتی نیست</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;تکثیر</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>&amp;حذف</translation>
+    </message>
+    <message>
+        <source>Choose &amp;all clocks</source>
+        <translation>انتخاب &amp;همهٔ ساعت‌ها</translation>
+    </message>
+    <message>
+        <source>&amp;Clock</source>
+        <translation>&amp;ساعت</translation>
+    </message>
+    <message>
+        <source>Bring to &amp;front</source>
+        <translation>آوردن به &amp;جلو</translation>
+    </message>
+    <message>
+        <source>Ctrl+]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Send to &amp;back</source>
+        <translation>بردن به &amp;پشت</translation>
+    </message>
+    <message>
+        <source>Ctrl+[</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;left</source>
+        <translation>تراز &amp;چپ</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+L</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;centre</source>
+        <translation>تراز &amp;میانهٔ افقی</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;right</source>
+        <translation>تراز &amp;راست</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;top</source>
+        <translation>تراز &amp;بالا</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+T</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align &amp;middle</source>
+        <translation>تراز میانهٔ &amp;عمودی</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+M</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align b&amp;ottom</source>
+        <translation>تراز &amp;پایین</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distribute &amp;across</source>
+        <translation>پخش &amp;افقی</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+H</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distribute &amp;down</source>
+        <translation>پخش ع&amp;مودی</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stack in a ro&amp;w</source>
+        <translation>چیدن در ر&amp;دیف</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stack in a col&amp;umn</source>
+        <translation>چیدن در س&amp;تون</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+D</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;نما</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>&amp;بزرگ‌نمایی</translation>
+    </message>
+    <message>
+        <source>Ctrl+=</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>&amp;کوچک‌نمایی</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to the window</source>
+        <translation>ا&amp;ندازهٔ پنجره</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As &amp;diodes</source>
+        <translation>به شکل &amp;دیود</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Panel grid</source>
+        <translation>شبکهٔ &amp;پنل‌ها</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>هیچ</translation>
+    </message>
+    <message>
+        <source>F4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Language of the clocks</source>
+        <translation>&amp;زبان ساعت‌ها</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;راهنما</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;کلیدها</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;About Clock Studio</source>
+        <translation>&amp;دربارهٔ استودیوی ساعت</translation>
+    </message>
+    <message>
+        <source>Digital clock</source>
+        <translation>ساعت رقمی</translation>
+    </message>
+    <message>
+        <source>D</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Analog clock</source>
+        <translation>ساعت عقربه‌ای</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture clock</source>
+        <translation>ساعت تصویری</translation>
+    </message>
+    <message>
+        <source>P</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>ابزارها</translation>
+    </message>
+    <message>
+        <source>%1: draw its place on the wall (%2)</source>
+        <translation>%1: جایش را روی دیوار بکشید (%2)</translation>
+    </message>
+    <message>
+        <source>About Clock Studio</source>
+        <translation>دربارهٔ استودیوی ساعت</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;Designs walls of clocks. What it shows, the clocks&apos; own code draws.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;استودیوی ساعت %1&lt;/h3&gt;&lt;p&gt;دیوارهای ساعت را طراحی می‌کند. آنچه نشان می‌دهد را کد خود ساعت‌ها می‌کشد.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>%1 is no longer on the disk. Your work is still here.</source>
+        <translation>%1 دیگر روی دیسک نیست. کار شما هنوز اینجاست.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>ذخیره</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>بستن</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>ویژگی‌ها</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>یافته‌ها</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>متن برنامه</translation>
+    </message>
+    <message>
+        <source>Open a program</source>
+        <translation>باز کردن برنامه</translation>
+    </message>
+    <message>
+        <source>Programs (%1);;All files (*)</source>
+        <translation>برنامه‌ها (%1);;همهٔ پرونده‌ها (*)</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>ذخیره شد</translation>
+    </message>
+    <message>
+        <source>Save the program</source>
+        <translation>ذخیرهٔ برنامه</translation>
+    </message>
+    <message>
+        <source>wall.xml</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Programs (%1)</source>
+        <translation>برنامه‌ها (%1)</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>کار ذخیره‌نشده</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation>تغییرات %1 ذخیره شود؟</translation>
+    </message>
+    <message>
+        <source>a new wall</source>
+        <translation>دیوار تازه</translation>
+    </message>
+    <message>
+        <source>The studio ended unexpectedly. Unsaved work on %1 was kept.</source>
+        <translation>استودیو ناگهان بسته شد. کار ذخیره‌نشدهٔ %1 نگه داشته شد.</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>بازیابی</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>دور انداختن</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 را برنامهٔ دیگری تغییر داد.</translation>
+    </message>
+    <message>
+        <source>Load it again</source>
+        <translation>بار کردن دوباره</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>نگه داشتن کار من</translation>
+    </message>
+    <message>
+        <source>Clock Studio</source>
+        <translation>استودیوی ساعت</translation>
+    </message>
+    <message>
+        <source>%1[*] – Clock Studio</source>
+        <translation>%1[*] – استودیوی ساعت</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 The wall shows the last version that was right.</source>
+        <translation>سطر %1: %2 دیوار آخرین نسخهٔ درست را نشان می‌دهد.</translation>
+    </message>
+    <message>
+        <source>Show the line</source>
+        <translation>نمایش سطر</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::NumberEditor</name>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Preview</name>
+    <message>
+        <source>ImageMagick is not installed (package imagemagick).</source>
+        <translation>ImageMagick نصب نیست (بستهٔ imagemagick).</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>دیسک پر است.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ProgramFiles</name>
+    <message>
+        <source>Untitled</source>
+        <translation>بی‌نام</translation>
+    </message>
+    <message>
+        <source>%1 is damaged or not a text.</source>
+        <translation>%1 خراب است یا متن نیست.</translation>
+    </message>
+    <message>
+        <source>The encoding of the file lacks a character of this text.</source>
+        <translation>کدگذاری پرونده یکی از نویسه‌های این متن را ندارد.</translation>
+    </message>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <translation>%1 پروندهٔ عادی نیست.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2</source>
+        <translation>%1 ذخیره نشد: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::PropertyPanel</name>
+    <message>
+        <source>Digital</source>
+        <translation>رقمی</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>عقربه‌ای</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>تصویری</translation>
+    </message>
+    <message>
+        <source>Size of the wall</source>
+        <translation>اندازهٔ دیوار</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>پهنا به پیکسل</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>بلندی به پیکسل</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>پهنا</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>بلندی</translation>
+    </message>
+    <message>
+        <source>Choose a clock on the wall to change it, or add one with the buttons above the wall.</source>
+        <translation>برای تغییر، ساعتی را روی دیوار برگزینید، یا با دکمه‌های بالا یکی بیفزایید.</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>جا</translation>
+    </message>
+    <message>
+        <source>Left edge, pixels</source>
+        <translation>لبهٔ چپ، پیکسل</translation>
+    </message>
+    <message>
+        <source>Top edge, pixels</source>
+        <translation>لبهٔ بالا، پیکسل</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>موقعیت</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>اندازه</translation>
+    </message>
+    <message>
+        <source>Fit sizes to the area</source>
+        <translation>جور کردن اندازه‌ها با ناحیه</translation>
+    </message>
+    <message>
+        <source>Make the texts as large as the area allows on any day of the year</source>
+        <translation>متن‌ها تا جایی که ناحیه در همهٔ روزهای سال اجازه دهد بزرگ شوند</translation>
+    </message>
+    <message>
+        <source>Reset to the default</source>
+        <translation>بازگشت به پیش‌فرض</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>دیوار</translation>
+    </message>
+    <message>
+        <source>Clock %1</source>
+        <translation>ساعت %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clocks</source>
+        <translation>
+            <numerusform>%n ساعت</numerusform>
+            <numerusform>%n ساعت</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kind of clock</source>
+        <translation>نوع ساعت</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>بازنشانی</translation>
+    </message>
+    <message>
+        <source>Fit sizes</source>
+        <translation>جور کردن اندازه‌ها</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Section</name>
+    <message>
+        <source>Show</source>
+        <translation>نمایش</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::SendDialog</name>
+    <message>
+        <source>Send to a wall</source>
+        <translation>فرستادن به دیوار</translation>
+    </message>
+    <message>
+        <source>empty for this computer, or operator@wall.example</source>
+        <translation>برای این رایانه خالی، یا operator@wall.example</translation>
+    </message>
+    <message>
+        <source>/srv/wall</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the usual one</source>
+        <translation>کلید همیشگی</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>دیوار</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>میزبان</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>پوشه</translation>
+    </message>
+    <message>
+        <source>Key file</source>
+        <translation>پروندهٔ کلید</translation>
+    </message>
+    <message>
+        <source>Earlier releases</source>
+        <translation>نسخه‌های پیشین</translation>
+    </message>
+    <message>
+        <source>Play the chosen release again</source>
+        <translation>پخش دوبارهٔ نسخهٔ برگزیده</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>فرستادن</translation>
+    </message>
+    <message>
+        <source>Cancelled. The wall shows what it showed before.</source>
+        <translation>لغو شد. دیوار همان را نشان می‌دهد که بود.</translation>
+    </message>
+    <message>
+        <source>Making the glyph files…</source>
+        <translation>در حال ساخت پرونده‌های نویسه…</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>در حال فرستادن به %1…</translation>
+    </message>
+    <message>
+        <source>%1 has release %2. The one before is kept.</source>
+        <translation>%1 نسخهٔ %2 را دارد. نسخهٔ پیشین نگه داشته شد.</translation>
+    </message>
+    <message>
+        <source>There are no releases yet.</source>
+        <translation>هنوز نسخه‌ای نیست.</translation>
+    </message>
+    <message>
+        <source>Changing the release…</source>
+        <translation>در حال تعویض نسخه…</translation>
+    </message>
+    <message>
+        <source>%1 has release %2.</source>
+        <translation>%1 نسخهٔ %2 را دارد.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::SourceView</name>
+    <message>
+        <source>Program text</source>
+        <translation>متن برنامه</translation>
+    </message>
+    <message>
+        <source>The XML of the program. Changes show on the wall at once.</source>
+        <translation>XML برنامه. تغییرات بی‌درنگ روی دیوار دیده می‌شوند.</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>تایپ</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TextEditor</name>
+    <message>
+        <source>several texts</source>
+        <translation>چند متن</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TextFault</name>
+    <message>
+        <source>A program has no document type declaration.</source>
+        <translation>برنامه اعلان نوع سند ندارد.</translation>
+    </message>
+    <message>
+        <source>This is not a program.</source>
+        <translation>این برنامه نیست.</translation>
+    </message>
+    <message>
+        <source>The encoding of the file lacks a character of this text.</source>
+        <translation>کدگذاری پرونده یکی از نویسه‌های این متن را ندارد.</translation>
+    </message>
+    <message>
+        <source>This text is too long for a program.</source>
+        <translation>این متن برای برنامه بلند است.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TimeBar</name>
+    <message>
+        <source>Daylight saving</source>
+        <translation>ساعت تابستانی</translation>
+    </message>
+    <message>
+        <source>Midnight</source>
+        <translation>نیمه‌شب</translation>
+    </message>
+    <message>
+        <source>New month</source>
+        <translation>ماه نو</translation>
+    </message>
+    <message>
+        <source>New year</source>
+        <translation>سال نو</translation>
+    </message>
+    <message>
+        <source>New lunar month</source>
+        <translation>ماه قمری نو</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>اکنون</translation>
+    </message>
+    <message>
+        <source>Show the present time</source>
+        <translation>نمایش زمان اکنون</translation>
+    </message>
+    <message>
+        <source>Next change</source>
+        <translation>تغییر بعدی</translation>
+    </message>
+    <message>
+        <source>Go to shortly before the next change</source>
+        <translation>رفتن به کمی پیش از تغییر بعدی</translation>
+    </message>
+    <message>
+        <source>Date and time that the wall shows</source>
+        <translation>تاریخ و زمانی که دیوار نشان می‌دهد</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>زمان روز</translation>
+    </message>
+    <message>
+        <source>Drag through the hours of the day</source>
+        <translation>در ساعت‌های روز بکشید</translation>
+    </message>
+    <message>
+        <source>How fast the time runs</source>
+        <translation>سرعت گذر زمان</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>مکث</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>اجرا</translation>
+    </message>
+    <message>
+        <source>Hold the time</source>
+        <translation>نگه داشتن زمان</translation>
+    </message>
+    <message>
+        <source>Let the time run</source>
+        <translation>گذر زمان</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ToolRun</name>
+    <message>
+        <source>Cancel</source>
+        <translation>لغو</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallEditor</name>
+    <message>
+        <source>Move</source>
+        <translation>جابه‌جایی</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>تغییر اندازه</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>تراز</translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation>پخش</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>چیدن</translation>
+    </message>
+    <message>
+        <source>Bring to front</source>
+        <translation>آوردن به جلو</translation>
+    </message>
+    <message>
+        <source>Send to back</source>
+        <translation>بردن به پشت</translation>
+    </message>
+    <message>
+        <source>Add a clock</source>
+        <translation>افزودن ساعت</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>تکثیر</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>چسباندن</translation>
+    </message>
+    <message>
+        <source>Size of the wall</source>
+        <translation>اندازهٔ دیوار</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallMouse</name>
+    <message>
+        <source>Move</source>
+        <translation>جابه‌جایی</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>تغییر اندازه</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallTarget</name>
+    <message>
+        <source>The wall needs a name.</source>
+        <translation>دیوار نام می‌خواهد.</translation>
+    </message>
+    <message>
+        <source>The host is written as in operator@wall.example.</source>
+        <translation>میزبان مانند operator@wall.example نوشته می‌شود.</translation>
+    </message>
+    <message>
+        <source>The folder is a path that begins with /.</source>
+        <translation>پوشه مسیری است که با / آغاز می‌شود.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallView</name>
+    <message>
+        <source>Wall</source>
+        <translation>دیوار</translation>
+    </message>
+    <message>
+        <source>The clocks of the program as the wall shows them. Tab chooses the next one.</source>
+        <translation>ساعت‌های برنامه چنان که دیوار نشان می‌دهد. Tab بعدی را برمی‌گزیند.</translation>
+    </message>
+    <message>
+        <source>Choose a kind of clock above, then draw its place here</source>
+        <translation>نوع ساعت را در بالا برگزینید و جایش را اینجا بکشید</translation>
+    </message>
+    <message>
+        <source>Clock %1 of %2</source>
+        <translation>ساعت %1 از %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clock(s) chosen</source>
+        <translation>
+            <numerusform>%n ساعت برگزیده</numerusform>
+            <numerusform>%n ساعت برگزیده</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ZoneDialog</name>
+    <message>
+        <source>Choose a city</source>
+        <translation>انتخاب شهر</translation>
+    </message>
+    <message>
+        <source>City, country or offset, such as Berlin or +05:30</source>
+        <translation>شهر، کشور یا اختلاف، مانند Berlin یا +05:30</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>جست‌وجو</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>شهرها</translation>
+    </message>
+    <message>
+        <source>Use this time</source>
+        <translation>کاربرد این زمان</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ZoneSection</name>
+    <message>
+        <source>Time zone</source>
+        <translation>منطقهٔ زمانی</translation>
+    </message>
+    <message>
+        <source>City whose time is shown</source>
+        <translation>شهری که زمانش نشان داده می‌شود</translation>
+    </message>
+    <message>
+        <source>Choose the city whose time the clock shows</source>
+        <translation>شهری را برگزینید که ساعت زمانش را نشان دهد</translation>
+    </message>
+    <message>
+        <source>Adjustment</source>
+        <translation>تنظیم</translation>
+    </message>
+    <message>
+        <source>ahead</source>
+        <translation>جلو</translation>
+    </message>
+    <message>
+        <source>behind</source>
+        <translation>عقب</translation>
+    </message>
+    <message>
+        <source>Direction of the adjustment</source>
+        <translation>جهت تنظیم</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>شهر</translation>
+    </message>
+    <message>
+        <source>Adjust by</source>
+        <translation>تنظیم</translation>
+    </message>
+    <message>
+        <source>several</source>
+        <translation>چند</translation>
+    </message>
+    <message>
+        <source>No daylight saving.</source>
+        <translation>بدون ساعت تابستانی.</translation>
+    </message>
+    <message>
+        <source>Daylight saving without sound rules.</source>
+        <translation>ساعت تابستانی بدون قاعدهٔ درست.</translation>
+    </message>
+    <message>
+        <source>Daylight saving begins on %1.</source>
+        <translation>ساعت تابستانی از %1 آغاز می‌شود.</translation>
+    </message>
+    <message>
+        <source>Daylight saving ends on %1.</source>
+        <translation>ساعت تابستانی در %1 پایان می‌یابد.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A clock cannot follow this zone exactly: its daylight saving is not the same every year. It is wrong %n time(s) in ten years, first from %1 to %2.</source>
+        <translation>
+            <numerusform>ساعت نمی‌تواند این منطقه را دقیق دنبال کند: ساعت تابستانی آن هر سال یکسان نیست. در ده سال %n بار نادرست است، نخست از %1 تا %2.</numerusform>
+            <numerusform>ساعت نمی‌تواند این منطقه را دقیق دنبال کند: ساعت تابستانی آن هر سال یکسان نیست. در ده سال %n بار نادرست است، نخست از %1 تا %2.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::PropertyGroups</name>
+    <message>
+        <source>Time</source>
+        <translation>زمان</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>قالب</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>ساعت</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>قلم</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>برچسب</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>متن</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>تاریخ</translation>
+    </message>
+    <message>
+        <source>Weekday</source>
+        <translation>روز هفته</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>زبان</translation>
+    </message>
+    <message>
+        <source>Lunar date</source>
+        <translation>تاریخ قمری</translation>
+    </message>
+    <message>
+        <source>Arrangement</source>
+        <translation>چیدمان</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>آرایش</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>فاصله</translation>
+    </message>
+    <message>
+        <source>Hands</source>
+        <translation>عقربه‌ها</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>ساعت</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>دقیقه</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>ثانیه</translation>
+    </message>
+    <message>
+        <source>Dial</source>
+        <translation>صفحه</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>دقیقه</translation>
+    </message>
+    <message>
+        <source>Numerals</source>
+        <translation>اعداد</translation>
+    </message>
+    <message>
+        <source>AM and PM</source>
+        <translation>ق.ظ و ب.ظ</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>تصویرها</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>سبک</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Templates</name>
+    <message>
+        <source>Railway station</source>
+        <translation>ایستگاه راه‌آهن</translation>
+    </message>
+    <message>
+        <source>A station clock beside the time, the date and the platform</source>
+        <translation>ساعت ایستگاه کنار زمان، تاریخ و سکو</translation>
+    </message>
+    <message>
+        <source>Airport</source>
+        <translation>فرودگاه</translation>
+    </message>
+    <message>
+        <source>Local time and UTC over four cities</source>
+        <translation>زمان محلی و UTC بالای چهار شهر</translation>
+    </message>
+    <message>
+        <source>Offices of the world</source>
+        <translation>دفترهای جهان</translation>
+    </message>
+    <message>
+        <source>Five dials with their cities</source>
+        <translation>پنج صفحه با شهرهایشان</translation>
+    </message>
+    <message>
+        <source>Stock exchange</source>
+        <translation>بورس</translation>
+    </message>
+    <message>
+        <source>The time at four exchanges</source>
+        <translation>زمان چهار بورس</translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation>بانک</translation>
+    </message>
+    <message>
+        <source>A quiet dial with the date</source>
+        <translation>صفحه‌ای آرام با تاریخ</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>مدرسه</translation>
+    </message>
+    <message>
+        <source>Time, weekday and date, to be read from afar</source>
+        <translation>زمان، روز و تاریخ، خوانا از دور</translation>
+    </message>
+    <message>
+        <source>Factory shift</source>
+        <translation>نوبت کارخانه</translation>
+    </message>
+    <message>
+        <source>Seconds large, with the shift and the date</source>
+        <translation>ثانیه‌های بزرگ، با نوبت و تاریخ</translation>
+    </message>
+    <message>
+        <source>Prayer hall</source>
+        <translation>نمازخانه</translation>
+    </message>
+    <message>
+        <source>A dial with the Persian date and weekday</source>
+        <translation>صفحه با تاریخ و روز ایرانی</translation>
+    </message>
+    <message>
+        <source>Chinese and lunar date</source>
+        <translation>تاریخ چینی و قمری</translation>
+    </message>
+    <message>
+        <source>The time with the Chinese date, weekday and lunar date</source>
+        <translation>زمان با تاریخ، روز و تاریخ قمری چینی</translation>
+    </message>
+    <message>
+        <source>Hospital</source>
+        <translation>بیمارستان</translation>
+    </message>
+    <message>
+        <source>A clear dial with a second hand, and the weekday</source>
+        <translation>صفحهٔ روشن با ثانیه‌شمار و روز هفته</translation>
+    </message>
+    <message>
+        <source>Sports hall</source>
+        <translation>سالن ورزش</translation>
+    </message>
+    <message>
+        <source>Nothing but the time, with seconds</source>
+        <translation>تنها زمان، با ثانیه</translation>
+    </message>
+    <message>
+        <source>Hotel lobby</source>
+        <translation>سرسرای هتل</translation>
+    </message>
+    <message>
+        <source>Three picture clocks with their cities</source>
+        <translation>سه ساعت تصویری با شهرهایشان</translation>
+    </message>
+    <message>
+        <source>Twelve hours</source>
+        <translation>دوازده‌ساعته</translation>
+    </message>
+    <message>
+        <source>The time with AM and PM</source>
+        <translation>زمان با ق.ظ و ب.ظ</translation>
+    </message>
+    <message>
+        <source>One line</source>
+        <translation>یک سطر</translation>
+    </message>
+    <message>
+        <source>Everything on one line, for long narrow walls</source>
+        <translation>همه در یک سطر، برای دیوارهای باریک</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Sheet</name>
+    <message>
+        <source>yes</source>
+        <translation>بله</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>خیر</translation>
+    </message>
+    <message>
+        <source>Clock %1</source>
+        <translation>ساعت %1</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>یافته‌ها</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>هیچ</translation>
+    </message>
+    <message>
+        <source>Approved by ______________________   on ______________</source>
+        <translation>تأیید ______________________   تاریخ ______________</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Attributes</name>
+    <message>
+        <source>Kind of clock</source>
+        <translation>نوع ساعت</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>سبک</translation>
+    </message>
+    <message>
+        <source>Hour hand colour</source>
+        <translation>رنگ ساعت‌شمار</translation>
+    </message>
+    <message>
+        <source>Minute hand colour</source>
+        <translation>رنگ دقیقه‌شمار</translation>
+    </message>
+    <message>
+        <source>Second hand colour</source>
+        <translation>رنگ ثانیه‌شمار</translation>
+    </message>
+    <message>
+        <source>Hour mark colour</source>
+        <translation>رنگ نشان ساعت</translation>
+    </message>
+    <message>
+        <source>Minute mark colour</source>
+        <translation>رنگ نشان دقیقه</translation>
+    </message>
+    <message>
+        <source>Hour marks</source>
+        <translation>نشان‌های ساعت</translation>
+    </message>
+    <message>
+        <source>Minute marks</source>
+        <translation>نشان‌های دقیقه</translation>
+    </message>
+    <message>
+        <source>Second hand</source>
+        <translation>ثانیه‌شمار</translation>
+    </message>
+    <message>
+        <source>Minute hand</source>
+        <translation>دقیقه‌شمار</translation>
+    </message>
+    <message>
+        <source>Hour hand</source>
+        <translation>ساعت‌شمار</translation>
+    </message>
+    <message>
+        <source>Numeral font</source>
+        <translation>قلم اعداد</translation>
+    </message>
+    <message>
+        <source>Numeral size</source>
+        <translation>اندازهٔ اعداد</translation>
+    </message>
+    <message>
+        <source>Show the top text</source>
+        <translation>نمایش برچسب</translation>
+    </message>
+    <message>
+        <source>Show the date</source>
+        <translation>نمایش تاریخ</translation>
+    </message>
+    <message>
+        <source>Show the weekday</source>
+        <translation>نمایش روز هفته</translation>
+    </message>
+    <message>
+        <source>Show the time</source>
+        <translation>نمایش زمان</translation>
+    </message>
+    <message>
+        <source>Show the lunar date</source>
+        <translation>نمایش تاریخ قمری</translation>
+    </message>
+    <message>
+        <source>Show AM/PM</source>
+        <translation>نمایش ق.ظ/ب.ظ</translation>
+    </message>
+    <message>
+        <source>AM/PM font</source>
+        <translation>قلم ق.ظ/ب.ظ</translation>
+    </message>
+    <message>
+        <source>AM/PM size</source>
+        <translation>اندازهٔ ق.ظ/ب.ظ</translation>
+    </message>
+    <message>
+        <source>AM/PM colour</source>
+        <translation>رنگ ق.ظ/ب.ظ</translation>
+    </message>
+    <message>
+        <source>Top text</source>
+        <translation>برچسب</translation>
+    </message>
+    <message>
+        <source>Top text font</source>
+        <translation>قلم برچسب</translation>
+    </message>
+    <message>
+        <source>Top text size</source>
+        <translation>اندازهٔ برچسب</translation>
+    </message>
+    <message>
+        <source>Top text colour</source>
+        <translation>رنگ برچسب</translation>
+    </message>
+    <message>
+        <source>Date format</source>
+        <translation>قالب تاریخ</translation>
+    </message>
+    <message>
+        <source>Date font</source>
+        <translation>قلم تاریخ</translation>
+    </message>
+    <message>
+        <source>Date size</source>
+        <translation>اندازهٔ تاریخ</translation>
+    </message>
+    <message>
+        <source>Date colour</source>
+        <translation>رنگ تاریخ</translation>
+    </message>
+    <message>
+        <source>Weekday font</source>
+        <translation>قلم روز هفته</translation>
+    </message>
+    <message>
+        <source>Weekday size</source>
+        <translation>اندازهٔ روز هفته</translation>
+    </message>
+    <message>
+        <source>Weekday colour</source>
+        <translation>رنگ روز هفته</translation>
+    </message>
+    <message>
+        <source>Lunar date font</source>
+        <translation>قلم تاریخ قمری</translation>
+    </message>
+    <message>
+        <source>Lunar date size</source>
+        <translation>اندازهٔ تاریخ قمری</translation>
+    </message>
+    <message>
+        <source>Lunar date colour</source>
+        <translation>رنگ تاریخ قمری</translation>
+    </message>
+    <message>
+        <source>Time format</source>
+        <translation>قالب زمان</translation>
+    </message>
+    <message>
+        <source>Time font</source>
+        <translation>قلم زمان</translation>
+    </message>
+    <message>
+        <source>Time size</source>
+        <translation>اندازهٔ زمان</translation>
+    </message>
+    <message>
+        <source>Time colour</source>
+        <translation>رنگ زمان</translation>
+    </message>
+    <message>
+        <source>analog</source>
+        <translation>عقربه‌ای</translation>
+    </message>
+    <message>
+        <source>digital</source>
+        <translation>رقمی</translation>
+    </message>
+    <message>
+        <source>picture</source>
+        <translation>تصویری</translation>
+    </message>
+    <message>
+        <source>ahead</source>
+        <translation>جلو</translation>
+    </message>
+    <message>
+        <source>behind</source>
+        <translation>عقب</translation>
+    </message>
+    <message>
+        <source>lines</source>
+        <translation>خط</translation>
+    </message>
+    <message>
+        <source>dots</source>
+        <translation>نقطه</translation>
+    </message>
+    <message>
+        <source>squares</source>
+        <translation>مربع</translation>
+    </message>
+    <message>
+        <source>squares and twelve numerals</source>
+        <translation>مربع و دوازده عدد</translation>
+    </message>
+    <message>
+        <source>squares and four numerals</source>
+        <translation>مربع و چهار عدد</translation>
+    </message>
+    <message>
+        <source>bar</source>
+        <translation>میله</translation>
+    </message>
+    <message>
+        <source>arrow with a ring</source>
+        <translation>پیکان با حلقه</translation>
+    </message>
+    <message>
+        <source>year/month/day</source>
+        <translation>سال/ماه/روز</translation>
+    </message>
+    <message>
+        <source>month/day/year</source>
+        <translation>ماه/روز/سال</translation>
+    </message>
+    <message>
+        <source>day/month/year</source>
+        <translation>روز/ماه/سال</translation>
+    </message>
+    <message>
+        <source>month&apos;s name, day, year</source>
+        <translation>نام ماه، روز، سال</translation>
+    </message>
+    <message>
+        <source>day, month&apos;s name, year</source>
+        <translation>روز، نام ماه، سال</translation>
+    </message>
+    <message>
+        <source>year, month and day with labels</source>
+        <translation>سال، ماه و روز با برچسب</translation>
+    </message>
+    <message>
+        <source>month and day with labels</source>
+        <translation>ماه و روز با برچسب</translation>
+    </message>
+    <message>
+        <source>Persian year/month/day</source>
+        <translation>سال/ماه/روز ایرانی</translation>
+    </message>
+    <message>
+        <source>year-month-day</source>
+        <translation>سال-ماه-روز</translation>
+    </message>
+    <message>
+        <source>hours:minutes:seconds</source>
+        <translation>ساعت:دقیقه:ثانیه</translation>
+    </message>
+    <message>
+        <source>hours:minutes</source>
+        <translation>ساعت:دقیقه</translation>
+    </message>
+    <message>
+        <source>hours, minutes and seconds with labels</source>
+        <translation>ساعت، دقیقه و ثانیه با برچسب</translation>
+    </message>
+    <message>
+        <source>hours and minutes with labels</source>
+        <translation>ساعت و دقیقه با برچسب</translation>
+    </message>
+    <message>
+        <source>hours:minutes without a leading zero</source>
+        <translation>ساعت:دقیقه بدون صفر آغازین</translation>
+    </message>
+    <message>
+        <source>Chinese</source>
+        <translation>چینی</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>انگلیسی</translation>
+    </message>
+    <message>
+        <source>short English</source>
+        <translation>انگلیسی کوتاه</translation>
+    </message>
+    <message>
+        <source>Persian</source>
+        <translation>فارسی</translation>
+    </message>
+    <message>
+        <source>twenty-four</source>
+        <translation>بیست‌وچهار</translation>
+    </message>
+    <message>
+        <source>twelve</source>
+        <translation>دوازده</translation>
+    </message>
+    <message>
+        <source>Daylight saving</source>
+        <translation>ساعت تابستانی</translation>
+    </message>
+    <message>
+        <source>Direction of the adjustment</source>
+        <translation>جهت تنظیم</translation>
+    </message>
+    <message>
+        <source>Adjustment</source>
+        <translation>تنظیم</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>فاصله</translation>
+    </message>
+    <message>
+        <source>Row gap</source>
+        <translation>فاصلهٔ ردیف‌ها</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>ساعت</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>آرایش</translation>
+    </message>
+    <message>
+        <source>Swap date and weekday</source>
+        <translation>جابه‌جایی تاریخ و روز</translation>
+    </message>
+    <message>
+        <source>Weekday names</source>
+        <translation>نام روزها</translation>
+    </message>
+    <message>
+        <source>rows</source>
+        <translation>ردیف‌ها</translation>
+    </message>
+    <message>
+        <source>one line</source>
+        <translation>یک سطر</translation>
+    </message>
+</context>
+</TS>
