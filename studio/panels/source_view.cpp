@@ -49,6 +49,7 @@ SourceView::SourceView(WallEditor &editor, QWidget *parent)
     m_numbers = new NumberStrip(this, [this](QPaintEvent *event) { PaintNumbers(event); });
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setLineWrapMode(NoWrap);
+    setLayoutDirection(Qt::LeftToRight); // as XML is
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setAccessibleName(tr("Program text"));

@@ -53,6 +53,28 @@ private:
 /// Words stand beside the pictures in the list only: closed, the picture says enough.
 class PictureBox : public QComboBox
 {
+public:
+    explicit PictureBox(Attribute attribute) : m_attribute(attribute) { }
+
+    /// Pictures are drawn when they are first seen: all together would take as long as a start may.
+    void DrawPicture(int index)
+    {
+        if (index < 0 || !itemIcon(index).isNull())
+            return;
+        const QPixmap picture = CodePicture(m_attribute, itemData(index).toInt());
+        if (!picture.isNull())
+            setIconSize(picture.size());
+        setItemIcon(index, QIcon(picture));
+    }
+
+    void showPopup() override
+    {
+        for (int index = 0; index < count(); ++index)
+            DrawPicture(index);
+        view()->setMinimumWidth(iconSize().width() + kListWords);
+        QComboBox::showPopup();
+    }
+
 protected:
     void paintEvent(QPaintEvent *event) override
     {
@@ -65,26 +87,23 @@ protected:
         painter.drawComplexControl(QStyle::CC_ComboBox, option);
         painter.drawControl(QStyle::CE_ComboBoxLabel, option);
     }
+
+private:
+    const Attribute m_attribute;
 };
 
 class CodeEditor : public ValueEditor
 {
 public:
-    explicit CodeEditor(enum Attribute attribute) : ValueEditor(attribute), m_box(new PictureBox)
+    explicit CodeEditor(enum Attribute attribute)
+        : ValueEditor(attribute), m_box(new PictureBox(attribute))
     {
         const ValueRange &range = Row().range;
-        for (int code = range.first; code <= range.last; ++code) {
-            const QPixmap picture = CodePicture(attribute, code);
-            if (!picture.isNull())
-                m_box->setIconSize(picture.size());
-            m_box->addItem(QIcon(picture), TranslatedWords(range.NameOf(code)), code);
-            m_box->setItemData(code - range.first, TranslatedWords(range.NameOf(code)),
-                               Qt::ToolTipRole);
-        }
+        for (int code = range.first; code <= range.last; ++code)
+            m_box->addItem(TranslatedWords(range.NameOf(code)), code);
         // As wide as the panel lets it; the list below is as wide as its words.
         m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         m_box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        m_box->view()->setMinimumWidth(m_box->iconSize().width() + kListWords);
         Use(m_box);
         connect(m_box, QOverload<int>::of(&QComboBox::activated), this,
                 [this](int index) { emit Edited(m_box->itemData(index).toString()); });
@@ -92,11 +111,13 @@ public:
 
     void Show(const QString &stored, bool isMixed) override
     {
-        m_box->setCurrentIndex(isMixed ? -1 : m_box->findData(stored.toInt()));
+        const int index = isMixed ? -1 : m_box->findData(stored.toInt());
+        m_box->DrawPicture(index);
+        m_box->setCurrentIndex(index);
     }
 
 private:
-    QComboBox *m_box;
+    PictureBox *m_box;
 };
 
 class NumberEditor : public ValueEditor

@@ -24,6 +24,7 @@ WallView::WallView(WallEditor &editor, QWidget *parent)
     : QAbstractScrollArea(parent), m_editor(editor), m_mouse(editor), m_leds(m_scale.zoom)
 {
     setFrameShape(QFrame::NoFrame);
+    setLayoutDirection(Qt::LeftToRight); // walls have their origin on the left everywhere
     setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setMouseTracking(true);
