@@ -2,6 +2,7 @@
 
 #include "deadline_meter.h"
 #include "frame_writer.h"
+#include "glyph_report.h"
 #include "playback.h"
 #include "plugins.h"
 #include "process_signals.h"
@@ -175,6 +176,8 @@ MaybeFailure PlayToFiles(const Options &options, const Program &program, const W
         return failure;
     if (QuitSignals::IsRequested())
         return Interrupted();
+    if (const MaybeFailure faulty = CheckGlyphs(stage, program.path, warn))
+        return faulty;
     return PrintText(QDir(run.directory).absolutePath() + QLatin1Char('\n'));
 }
 

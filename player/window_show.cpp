@@ -1,5 +1,6 @@
 #include "window_show.h"
 
+#include "glyph_report.h"
 #include "plugins.h"
 #include "stage.h"
 
@@ -198,7 +199,14 @@ MaybeFailure WindowShow::Show(const Program &program)
     if (const MaybeFailure failure = BuildStage(*stage, program, m_options, m_warn))
         return failure;
     m_notice.reset();
+    const Stage &played = *stage;
     m_playback.Play(std::move(stage));
+    // A kiosk goes on with what there is.
+    if (const MaybeFailure faulty = CheckGlyphs(played, program.path, m_warn)) {
+        if (!m_options.isKiosk)
+            return faulty;
+        Fault(faulty->text);
+    }
     const Result<QByteArray> contents = ReadContents(program.path);
     if (const auto *bytes = std::get_if<QByteArray>(&contents))
         m_digest = QString::fromLatin1(

@@ -52,6 +52,17 @@ QStringList FilesIn(const QString &directory)
     return files;
 }
 
+QByteArray TopTextClock(const QString &text, int size, bool shown)
+{
+    return QStringLiteral("<clock type=\"digital\" timezone=\"+00:00\"><title value=\"%1\"/>"
+                          "<attribute key=\"DigitalTopTextFSize\" value=\"%2\"/>"
+                          "<attribute key=\"Digital_TopTexy_d\" value=\"%3\"/></clock>")
+        .arg(text)
+        .arg(size)
+        .arg(shown ? 1 : 0)
+        .toUtf8();
+}
+
 } // namespace
 
 class TestToolExport : public QObject
@@ -75,6 +86,7 @@ private slots:
     void RefusesToReplaceTheProgram();
     void FaultyImagesAreReported_data();
     void FaultyImagesAreReported();
+    void HiddenImageThatCannotBeMade();
     void SystemWithoutFonts();
     void FailureLeavesEarlierExport();
 
@@ -296,37 +308,49 @@ void TestToolExport::RefusesToReplaceTheProgram()
 // A wall whose images are wrong is no success.
 void TestToolExport::FaultyImagesAreReported_data()
 {
-    QTest::addColumn<QString>("clock");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("size");
     QTest::addColumn<int>("exitCode");
     QTest::addColumn<QString>("message");
-    const QString row = "<clock type=\"digital\" timezone=\"+00:00\"><title value=\"%1\"/>"
-                        "<attribute key=\"DigitalTopTextFSize\" value=\"%2\"/>"
-                        "<attribute key=\"Digital_TopTexy_d\" value=\"%3\"/></clock>";
-    const QString unknown = QString::fromUcs4(&kUnknownLetter, 1);
     QTest::newRow("letter of no font")
-        << row.arg(unknown).arg(12).arg(1) << 0 << "warning: no installed font has";
-    QTest::newRow("blank text") << row.arg(QChar(0x2800)).arg(12).arg(1) << 1
+        << QString::fromUcs4(&kUnknownLetter, 1) << 12 << 0 << "warning: no installed font has";
+    QTest::newRow("blank text") << QString(QChar(0x2800)) << 12 << 1
                                 << "the font draws nothing for the glyph image _toptext";
-    QTest::newRow("font too large")
-        << row.arg("LED").arg(30000).arg(1) << 1 << "would be larger than 32767 pixels";
-    QTest::newRow("hidden, font too large")
-        << row.arg("LED").arg(30000).arg(0) << 1 << "no image can be made for _toptext";
+    QTest::newRow("font too large") << "LED" << 30000 << 1 << "would be larger than 32767 pixels";
 }
 void TestToolExport::FaultyImagesAreReported()
 {
-    QFETCH(QString, clock);
+    QFETCH(QString, text);
+    QFETCH(int, size);
     QFETCH(int, exitCode);
     QFETCH(QString, message);
     const QTemporaryDir directory;
     const QString program = directory.filePath("in.xml");
-    const QString text = "<program width=\"64\" height=\"32\"><area x=\"0\" y=\"0\" width=\"64\" "
-                         "height=\"32\">"
-        + clock + "</area></program>";
-    QVERIFY(WriteText(program, text.toUtf8()));
-    const ProcessRun run = RunTool({"export", program, directory.filePath("out")});
-    QCOMPARE(run.exitCode, exitCode);
-    QVERIFY2(run.errors.contains(message), qPrintable(run.errors));
+    QVERIFY(WriteText(program, ProgramOf(TopTextClock(text, size, true))));
+    QStringList window {"-platform", "offscreen", program};
+    for (const ProcessRun &run :
+         {RunTool({"export", program, directory.filePath("out")}),
+          RunPlayer({program, "--output", directory.filePath("frames"), "--frames", "1"}),
+          // In a window the player would play on.
+          exitCode == 0 ? ProcessRun {0, false, {}, message} : RunPlayer(window)}) {
+        QCOMPARE(run.exitCode, exitCode);
+        QVERIFY2(run.errors.contains(message), qPrintable(run.errors));
+    }
     QCOMPARE(QFile::exists(directory.filePath("out/program.xml")), exitCode == 0);
+}
+
+// It is missing from what is carried away, and not from what is shown here.
+void TestToolExport::HiddenImageThatCannotBeMade()
+{
+    const QTemporaryDir directory;
+    const QString program = directory.filePath("in.xml");
+    QVERIFY(WriteText(program, ProgramOf(TopTextClock("LED", 30000, false))));
+    const ProcessRun run = RunTool({"export", program, directory.filePath("out")});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains("no image can be made for _toptext"), qPrintable(run.errors));
+    QCOMPARE(
+        RunPlayer({program, "--output", directory.filePath("frames"), "--frames", "1"}).exitCode,
+        0);
 }
 
 void TestToolExport::SystemWithoutFonts()
