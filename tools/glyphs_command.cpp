@@ -7,6 +7,7 @@
 
 #include "glyph/glyph_set.h"
 #include "glyph/hmd5.h"
+#include "glyph_faults.h"
 #include "happconfig.h"
 
 #include <QFileInfo>
@@ -45,12 +46,16 @@ public:
         }
         if (clock.ClockType() == PictureClock)
             return;
+        CheckWritten(clock);
         for (const GlyphImage &image : GlyphImages(GlyphOrder::Bookkeeping, clock.ClockType())) {
             const QString path = clock.GetFirstFile(image.Key());
             ImageIn(path).uses.append(QStringLiteral("%1:%2").arg(area).arg(image.Key()));
             ++m_count;
         }
     }
+
+    /// Of the first image that could not be written: without it the table is not the program's.
+    MaybeFailure Fault() const { return m_fault; }
 
     QString Table() const
     {
@@ -77,6 +82,16 @@ public:
     }
 
 private:
+    void CheckWritten(const HClockNode &clock)
+    {
+        for (const Lw::GlyphFault &fault : Lw::GlyphFaultsOf(clock)) {
+            if (fault.kind == Lw::GlyphFault::NotWritten && !m_fault)
+                m_fault = Failure {
+                    ExitCode::RuntimeFailure,
+                    QStringLiteral("%1: %2").arg(fault.path, qt_error_string(fault.error))};
+        }
+    }
+
     Image &ImageIn(const QString &path)
     {
         const QString digest = HMD5::FileDigest(path);
@@ -97,6 +112,7 @@ private:
     QVector<Image> m_images; // in order of first use
     QHash<QString, int> m_places;
     int m_count = 0;
+    MaybeFailure m_fault;
 };
 
 } // namespace
@@ -122,6 +138,8 @@ CommandResult RunGlyphs(const QStringList &arguments)
     Audit audit;
     for (int i = 0; i < clocks.Count(); ++i)
         audit.Add(i + 1, clocks.Clock(i));
+    if (const MaybeFailure failure = audit.Fault())
+        return Report(*failure);
     Say(audit.Summary());
     return Deliver(tool.Output(), audit.Table().toUtf8());
 }

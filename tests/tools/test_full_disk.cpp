@@ -62,6 +62,9 @@ private slots:
     void Lists_data();
     void Lists();
     void ReadOnlyDisk();
+    void GlyphsOnATemporaryDisk();
+    void Frames_data() { AddLimits(); }
+    void Frames();
 
 private:
     static void AddLimits();
@@ -210,6 +213,58 @@ void TestFullDisk::ReadOnlyDisk()
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains("/list: "), qPrintable(run.errors));
     QCOMPARE(ReadText(path), QByteArray("old"));
+}
+
+// The images of which the list is made have no room.
+void TestFullDisk::GlyphsOnATemporaryDisk()
+{
+    const QStringList command {"glyphs", InTree("examples/station.xml"), "--language", "en"};
+    const QString expected = RunTool(command).output;
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("TMPDIR", Disk());
+    const auto attempt = [&] {
+        const ProcessRun run = RunProcess(TOOL, command, environment);
+        if (run.exitCode == 0)
+            return Attempt {true, run.output == expected ? QString() : QStringLiteral("not whole")};
+        return Attempt {false, NothingOnFailure(run)};
+    };
+    const QString fault = Sweep(
+        Limit::Pages, [] {}, attempt);
+    QVERIFY2(fault.isEmpty(), qPrintable(fault));
+}
+
+// Those of the player, over older ones: each is old or new, and none is cut.
+void TestFullDisk::Frames()
+{
+    QFETCH(int, limit);
+    const QString program = InTree("examples/station.xml");
+    const auto play = [&](const QString &directory, const QString &second) {
+        return RunPlayer({program, "--output", directory, "--frames", "3", "--led", "3",
+                          "--language", "en", "--at", "2024-03-05T13:07:" + second + "Z"});
+    };
+    QCOMPARE(play(Roomy("old"), "10").exitCode, 0);
+    QCOMPARE(play(Roomy("new"), "40").exitCode, 0);
+    const Entries older = EntriesIn(Roomy("old"));
+    const Entries newer = EntriesIn(Roomy("new"));
+    const auto attempt = [&] {
+        const ProcessRun run = play(Disk(), "40");
+        const Entries frames = EntriesIn(Disk());
+        if (run.exitCode == 0)
+            return Attempt {true, frames == newer ? QString() : QStringLiteral("not whole")};
+        if (frames.keys() != older.keys())
+            return Attempt {false, frames.keys().join(' ')};
+        for (const QString &name : frames.keys()) {
+            if (frames[name] != older[name] && frames[name] != newer[name])
+                return Attempt {false, name + " is neither old nor new"};
+        }
+        return Attempt {false, NothingOnFailure(run)};
+    };
+    const auto prepare = [&] {
+        for (const QString &name : older.keys())
+            WriteText(Disk() + '/' + name, older[name]);
+    };
+    const QString fault = Sweep(Limit(limit), prepare, attempt);
+    QVERIFY2(fault.isEmpty(), qPrintable(fault));
 }
 
 QTEST_GUILESS_MAIN(TestFullDisk)
