@@ -64,7 +64,7 @@ function(clock_install)
     install(TARGETS clock_plugin
         LIBRARY DESTINATION ${CLOCK_INSTALL_ROOT}/plugins COMPONENT runtime NAMELINK_SKIP)
     install(DIRECTORY examples DESTINATION ${CLOCK_INSTALL_DOC} COMPONENT runtime
-        FILES_MATCHING PATTERN "*.xml")
+        USE_SOURCE_PERMISSIONS FILES_MATCHING PATTERN "*.xml" PATTERN "release")
     # bash finds the completion of a command by its name; one file has both.
     install(FILES packaging/completion/clock_player
         DESTINATION share/bash-completion/completions COMPONENT runtime)
