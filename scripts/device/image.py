@@ -1,0 +1,144 @@
+"""Makes what a device boots: a kernel, an initramfs and a squashfs, of Debian's packages and a build
+for 32-bit ARM. Nothing in it was configured by a package's scripts: files are copied."""
+
+import gzip
+import os
+import re
+import shutil
+import subprocess
+from pathlib import Path
+
+LIBRARIES = "usr/lib/arm-linux-gnueabihf"
+# In this order: later ones need earlier ones.
+MODULES = ["virtio_mmio", "virtio_blk", "virtio_dma_buf", "drm", "drm_kms_helper",
+           "drm_shmem_helper", "virtio-gpu", "squashfs"]
+# What the player opens without being linked with it.
+OPENED = [f"{LIBRARIES}/qt5/plugins/platforms/libqlinuxfb.so",
+          "usr/share/fonts/truetype/dejavu", "etc/fonts", "usr/share/fontconfig",
+          "usr/share/zoneinfo/UTC", "usr/share/zoneinfo/Europe/Berlin"]
+# Where file systems are mounted, and what is written to.
+FOLDERS = ["dev", "proc", "run", "sys", "tmp", "var/tmp"]
+
+
+def needed_libraries(file):
+    """The names of the libraries that an ELF file is linked with; none for other files."""
+    if not file.is_file() or file.read_bytes()[:4] != b"\x7fELF":
+        return []
+    listed = subprocess.run(["readelf", "--dynamic", file], capture_output=True, text=True,
+                            check=True).stdout
+    return re.findall(r"\(NEEDED\).*\[(.*)\]", listed)
+
+
+class Image:
+    """Files for a device, taken from unpacked packages."""
+
+    def __init__(self, packages, folder):
+        self.packages = Path(packages)
+        self.root = Path(folder)
+        for name in FOLDERS:
+            (self.root / name).mkdir(parents=True)
+
+    def add(self, path):
+        """A file or folder of the packages, under its own path; what links lead to, not links."""
+        source, target = self.packages / path, self.root / path
+        target.parent.mkdir(parents=True, exist_ok=True)
+        if source.is_dir():
+            shutil.copytree(source, target, dirs_exist_ok=True)
+        else:
+            shutil.copyfile(source, target)
+            shutil.copymode(source, target)
+
+    def add_libraries(self):
+        """Every library that something in the image is linked with, and the loader."""
+        waiting = [file for file in self.root.rglob("*")]
+        while waiting:
+            for name in needed_libraries(waiting.pop()):
+                if any(self.root.rglob(name)):
+                    continue
+                found = [folder for folder in ("lib/arm-linux-gnueabihf", LIBRARIES, "lib")
+                         if (self.packages / folder / name).exists()]
+                if not found:
+                    raise SystemExit(f"no package has the library {name}")
+                self.add(f"{found[0]}/{name}")
+                waiting.append(self.root / found[0] / name)
+        loader = self.root / "lib/ld-linux-armhf.so.3"
+        if not loader.exists():
+            self.add("lib/ld-linux-armhf.so.3")
+
+    def add_busybox(self, commands):
+        """busybox, and links to it with the names of commands."""
+        self.add("bin/busybox")
+        (self.root / "sbin").mkdir(exist_ok=True)
+        for name in commands:
+            (self.root / "bin" / name).symlink_to("busybox")
+
+    def add_text(self, path, text, mode=0o644):
+        target = self.root / path
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_text(text)
+        target.chmod(mode)
+
+
+def pack_initramfs(packages, script, work, target):
+    """The modules that the screen and the disk need, and a script that mounts the disk."""
+    image = Image(packages, work)
+    image.add_busybox(["sh", "mount", "insmod", "switch_root", "mkdir"])
+    for number, module in enumerate(MODULES):
+        source = next(image.packages.rglob(f"{module}.ko"))
+        shutil.copyfile(source, image.root / f"{number}-{module}.ko")
+    image.add_text("init", script, 0o755)
+    names = "\0".join(str(file.relative_to(image.root)) for file in sorted(image.root.rglob("*")))
+    packed = subprocess.run(["cpio", "--null", "--create", "--format=newc", "--quiet",
+                             "--owner=0:0"],
+                            input=names.encode(), cwd=image.root, capture_output=True, check=True)
+    Path(target).write_bytes(gzip.compress(packed.stdout, 9, mtime=0))
+
+
+def pack_root(folder, target):
+    """gzip blocks: other compressions take more memory than the smallest device has."""
+    Path(target).unlink(missing_ok=True)
+    subprocess.run(["mksquashfs", folder, target, "-comp", "gzip", "-b", "64K", "-all-root",
+                    "-no-progress", "-quiet", "-no-xattrs"], check=True, stdout=subprocess.DEVNULL)
+
+
+def unpack_packages(names, folder):
+    """Debian's packages for armhf with all that they depend on, unpacked once for these names."""
+    folder = Path(folder)
+    stamp = folder / "made-of"
+    release = "bookworm"
+    made_of = f"{release} {' '.join(names)}\n"
+    if stamp.exists() and stamp.read_text() == made_of:
+        return
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    archive = subprocess.run(
+        ["apt-get", "indextargets", "--format", "$(REPO_URI)", "Created-By: Packages",
+         "Component: main", f"Codename: {release}"],
+        capture_output=True, text=True, check=True).stdout.split("\n")[0]
+    settings = folder / "apt.conf"
+    settings.write_text(subprocess.run(["apt-config", "dump", "--format", '%F "%v";%n', "Acquire"],
+                                       capture_output=True, text=True, check=True).stdout)
+    packed = folder / "packages.tar"
+    subprocess.run(["mmdebstrap", "--quiet", "--variant=extract", "--architectures=armhf",
+                    "--include=" + ",".join(names), f"--aptopt={settings}", release, packed,
+                    f"deb {archive} {release} main"], check=True)
+    subprocess.run(["tar", "-x", "-f", packed, "-C", folder, "--no-same-owner", "--exclude=./dev/*"],
+                   check=True)
+    packed.unlink()
+    stamp.write_text(made_of)
+
+
+def kernel_of(packages):
+    return next(Path(packages, "boot").glob("vmlinuz-*"))
+
+
+def remove(*folders):
+    for folder in folders:
+        shutil.rmtree(folder, ignore_errors=True)
+
+
+def clean(folder):
+    """The folder, empty."""
+    remove(folder)
+    os.makedirs(folder)
+    return folder
