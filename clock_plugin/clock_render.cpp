@@ -27,8 +27,8 @@ constexpr int kStartingTicks = 10;
 
 // Every field but the reserved word, which stays as it was allocated: it is the host's own. So the
 // record is made where it stays, for a copy would read that word. The host may take the node away
-// as each of its questions is asked; without one, size and position are those nobody set, and
-// nobody is asked whether it blends.
+// as each of its questions is asked; without one, size and position
+// are those of a new record, and alpha blending is off.
 std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
                                               QPointer<HClockNode> node)
 {
@@ -141,7 +141,7 @@ void HClockRender::PlayNext()
         return;
     m_drawer.swap(drawer);
     m_player->UpdateImage(std::move(frame));
-    // Whoever was shown the frame may do the same.
+    // The player's slots may do the same.
     if (!self || !m_player)
         return;
     CountTick();
@@ -156,7 +156,7 @@ int HClockRender::renderState()
 void HClockRender::CleanResources()
 {
     m_drawer.reset();
-    // Whoever is asked to stop may come back here, or delete this renderer.
+    // Stopping may come back here, or delete this renderer.
     const QScopedPointer<pictureplayer> player(m_player.take());
     if (player)
         player->Stop();

@@ -1,8 +1,8 @@
 // The shapes of an analog clock as points and boxes, from the size of its area alone.
 //
 // All coordinates are pixels relative to the centre of the area, y growing downwards: 12 o'clock is
-// up, at negative y. Marks and hands are given pointing up and are turned into place by whoever
-// paints them. Where a coordinate is a whole pixel the truncation toward zero is part of the look.
+// up, at negative y. Marks and hands point up; what paints them turns them
+// into place. Where a coordinate is a whole pixel the truncation toward zero is part of the look.
 //
 // Every measure is a multiple of a = R / 27 or of b = R / 90, R being the radius.
 #pragma once

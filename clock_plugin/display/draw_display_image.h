@@ -1,8 +1,7 @@
 // Draws the frames of one clock: analog, digital or picture, once a second.
 //
-// One class in four source files: draw_display_image.cpp holds the state, the dispatch, the time
-// step and the dial cache; analog_clock.cpp, digital_clock.cpp and picture_clock.cpp draw one kind
-// of clock each.
+// draw_display_image.cpp has the dispatch and the time step; analog_clock.h, digital_clock.h and
+// picture_clock.h are the faces that draw.
 #pragma once
 
 #include "clock_export.h"
@@ -42,7 +41,7 @@ class CLOCK_EXPORT DrawDisplayImage : public QObject
     Q_OBJECT
 
 public:
-    /// The node stays its owner's; null is a node that is gone.
+    /// The node is not owned; null is a node that is gone.
     explicit DrawDisplayImage(HClockNode *node);
     ~DrawDisplayImage() override;
 
@@ -70,8 +69,8 @@ public:
     /// Works out the top edges of the text rows, which are measured for it. Draws nothing.
     void GetAngDisplayArea();
     /// Draws the frame: a copy of the dial, hands over it. The text rows go onto the dial after
-    /// that, so they show from the next frame on. The dial is made anew only when the device's
-    /// date, the node's size or the half of the day has changed.
+    /// that, so they show from the next frame on. The dial is redrawn only when the device's date,
+    /// the node's size or the half of the day has changed.
     void DrawAnalogClock();
     void DrawAnalogClockDial(); ///< marks and numerals, onto the dial that DrawAnalogClock made
     /// The AM/PM mark, likewise, where Analog_AMPM_d is 1.
@@ -99,7 +98,7 @@ public:
 
     // Picture clock.
     /// Loads the pictures of the hands and of the style that PictrueClockType names. What cannot be
-    /// read is left out. Has the next analog dial made anew.
+    /// read is left out. Forces an analog dial redraw.
     void InitClockTypePixmap();
     /// Draws the frame: dial and hands. Loads the pictures again when style or size has changed.
     void DrawPixmapClock();

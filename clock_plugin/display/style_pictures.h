@@ -1,4 +1,4 @@
-// The pictures of the picture clock: where they lie, what they are called, and how many styles of
+// The pictures of the picture clock: where they are, what they are called, and how many styles of
 // dials there are.
 #pragma once
 
@@ -20,7 +20,7 @@ inline constexpr char kMinutePicture[] = "minute.png";
 inline constexpr char kSecondPicture[] = "second.png";
 inline constexpr char kCentrePicture[] = "center.png";
 
-/// The folder of all of them, with a separator at its end. It lies beside the program's own folder
+/// The folder of all of them, with a separator at its end. It is beside the program's own folder
 /// and cannot be chosen.
 inline QString StyleFolder()
 {

@@ -11,7 +11,7 @@ bool FrameContents::Knows(const QImage &image) const
 
 bool FrameContents::Describes(const QImage &image, const Placements &placements) const
 {
-    return Knows(image) && m_shown.Are(placements);
+    return Knows(image) && m_shown.Match(placements);
 }
 
 std::optional<QRegion> FrameContents::ChangesSince(const FrameContents &before, const QImage &image,
@@ -28,7 +28,7 @@ std::optional<QRegion> FrameContents::ChangesSince(const FrameContents &before, 
 void FrameContents::Draw(QImage &image, const Placements &placements, const QColor &background)
 {
     const bool known = Knows(image);
-    ShownPlacements::Rects rects = m_shown.Take(placements);
+    ShownPlacements::Rects rects = m_shown.Replace(placements);
     if (!known) {
         image.fill(background);
         rects = {image.rect()};

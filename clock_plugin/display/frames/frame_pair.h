@@ -39,7 +39,7 @@ public:
 
 private:
     QImage m_frame;
-    QImage m_spare; // the frame before: drawn over once nobody holds it
+    QImage m_spare; // the frame before: drawn over once no one else holds it
     bool m_isRedrawn = false;
     bool m_lastIsForgotten = false; // for this frame
     bool m_forgetLast = true;       // for the next

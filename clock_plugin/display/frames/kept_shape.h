@@ -24,7 +24,7 @@ namespace Lw::HNodeClock {
 class KeptShape
 {
 public:
-    /// Not made: painted by nobody yet, or memory is lacking.
+    /// Not made: not painted yet, or without memory.
     KeptShape() = default;
     /// The top left of a premultiplied image, onto which one shape of one opaque colour was
     /// painted, as the pixels of a box in the frame.

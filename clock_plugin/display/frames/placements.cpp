@@ -14,7 +14,7 @@ QRect PieceRect(const Element &element, const QPoint &position, const Piece &pie
 
 } // namespace
 
-bool ShownPlacements::Are(const Placements &placements) const
+bool ShownPlacements::Match(const Placements &placements) const
 {
     return m_count == placements.Count()
         && std::equal(placements.begin(), placements.end(), m_shown.begin(),
@@ -47,7 +47,7 @@ void ShownPlacements::AddChanged(const Shown &before, const Placements::Placed &
     }
 }
 
-ShownPlacements::Rects ShownPlacements::Take(const Placements &placements)
+ShownPlacements::Rects ShownPlacements::Replace(const Placements &placements)
 {
     Rects changed;
     Shown *shown = m_shown.data();
@@ -74,7 +74,7 @@ ShownPlacements::Rects ShownPlacements::ChangesSince(const ShownPlacements &befo
         const Shown &shown = m_shown[static_cast<std::size_t>(i)];
         placements.Add(shown.element, shown.position);
     }
-    return ShownPlacements(before).Take(placements);
+    return ShownPlacements(before).Replace(placements);
 }
 
 } // namespace Lw::HNodeClock

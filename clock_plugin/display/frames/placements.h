@@ -44,9 +44,9 @@ class ShownPlacements
 public:
     using Rects = QVarLengthArray<QRect, 32>;
 
-    bool Are(const Placements &placements) const;
+    bool Match(const Placements &placements) const;
     /// Remembers these from now on, and returns all rectangles in which they look different.
-    Rects Take(const Placements &placements);
+    Rects Replace(const Placements &placements);
     /// All rectangles in which these look different from others.
     Rects ChangesSince(const ShownPlacements &before) const;
 

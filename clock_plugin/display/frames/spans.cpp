@@ -19,7 +19,7 @@ int Clamped(double value, int limit)
     return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(limit)));
 }
 
-// Widens the range from left to right by the part of an edge that lies between two heights.
+// Widens the range from left to right by the part of an edge between two heights.
 void WidenByEdge(QPointF a, QPointF b, double low, double high, double &left, double &right)
 {
     if (a.y() > b.y())

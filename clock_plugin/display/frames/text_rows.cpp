@@ -38,7 +38,7 @@ void PaintAll(QImage &picture, const Placements &rows)
 
 QRegion TextRows::Paint(QImage &picture, const Placements &rows)
 {
-    if (picture.isNull() || (m_painted.Are(rows) && picture.cacheKey() == m_settledKey))
+    if (picture.isNull() || (m_painted.Match(rows) && picture.cacheKey() == m_settledKey))
         return QRegion();
 
     const QVector<QRect> boxes = BoxesWithin(picture.rect(), rows);
@@ -53,7 +53,7 @@ QRegion TextRows::Paint(QImage &picture, const Placements &rows)
         if (before[i].isNull() || before[i] != after[i])
             changed += boxes[i];
     }
-    m_painted.Take(rows);
+    m_painted.Replace(rows);
     m_settledKey = changed.isEmpty() ? picture.cacheKey() : 0;
     return changed;
 }

@@ -1,4 +1,4 @@
-// Text rows on a picture that is kept: painted over what stands there, second after second.
+// Text rows on a picture that is kept: painted over what is there, second after second.
 //
 // Where a row is translucent each painting makes it a little denser, until nothing changes any
 // more. From then on, or at once where rows are opaque, painting the same rows again is left out.
