@@ -118,6 +118,14 @@ std::optional<GlyphFont> FontOf(Part part)
     return RowOfPart(part).font;
 }
 
+std::optional<Attribute> FamilyAttribute(Part part, int clockType)
+{
+    const std::optional<GlyphFont> font = FontOf(part);
+    if (!font)
+        return std::nullopt;
+    return FontAttributes(*font, clockType).family;
+}
+
 std::optional<Attribute> SizeAttribute(Part part, int clockType)
 {
     const std::optional<GlyphFont> font = FontOf(part);

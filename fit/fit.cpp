@@ -56,6 +56,8 @@ ClockFindings ClockCheck::Look(HClockNode &node, const QRect &visible)
         overlap.worst.text = Showing(clock, m_images, overlap.lower, overlap.worst.utc);
         overlap.upperText = Showing(clock, m_images, overlap.upper, overlap.worst.utc);
     }
+    findings.missing = MissingOf(clock, node, m_images);
+    findings.undrawn = UndrawnOf(node, m_images);
     findings.faint = FaintParts(node, m_ground);
     findings.sameHands = HandsOfOneColour(node);
     findings.lostMarks = MarksLost(node);

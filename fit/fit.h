@@ -34,7 +34,8 @@ enum class Part {
 
 /// As people call it: "title", "minute marks".
 QString NameOf(Part part);
-/// The attribute of its size or its colour; nothing for parts that have none.
+/// The attribute of its family, its size or its colour; nothing for parts that have none.
+std::optional<Lw::HNodeClock::Attribute> FamilyAttribute(Part part, int clockType);
 std::optional<Lw::HNodeClock::Attribute> SizeAttribute(Part part, int clockType);
 std::optional<Lw::HNodeClock::Attribute> ColourAttribute(Part part, int clockType);
 

@@ -1,5 +1,7 @@
 #include "font_check.h"
 
+#include "clock_parts.h"
+
 #include "glyph/glyph_picture.h"
 
 #include <QFontDatabase>
@@ -7,6 +9,9 @@
 #include <QRawFont>
 
 #include <algorithm>
+#include <iterator>
+#include <map>
+#include <optional>
 
 namespace ClockFit {
 
@@ -59,7 +64,7 @@ QVector<uint> Boxes(const QString &family, int points, const QVector<uint> &lack
 QStringList FamiliesWith(const QVector<uint> &characters)
 {
     QStringList families;
-    for (const QString &family : QFontDatabase().families()) {
+    for (const QString &family : InstalledFamilies()) {
         if (Lacking(family, characters).isEmpty())
             families.append(family);
     }
@@ -73,9 +78,49 @@ QString FamilyUsed(const QString &family)
     return QFontInfo(GlyphTypeface(family, kAnyPoints)).family();
 }
 
+const QStringList &InstalledFamilies()
+{
+    static const QStringList families = QFontDatabase().families();
+    return families;
+}
+
 bool IsInstalled(const QString &family)
 {
-    return QFontDatabase().families().contains(family, Qt::CaseInsensitive);
+    return InstalledFamilies().contains(family, Qt::CaseInsensitive);
+}
+
+namespace {
+
+// The characters that each part shows, each once.
+using Characters = std::map<Part, QString>;
+
+void AddNew(QString &characters, const QString &text)
+{
+    for (const QChar character : text) {
+        if (character.isSurrogate() || !characters.contains(character))
+            characters += character;
+    }
+}
+
+Characters CharactersShown(ClockYear &clock, HClockNode &node, const GlyphImages &images)
+{
+    Characters shown;
+    std::map<Part, Element> last;
+    clock.ForEachState([&](const ClockYear::State &state) {
+        for (const PlacedPart &text : state.texts) {
+            if (last[text.part] == *text.element)
+                continue;
+            last[text.part] = *text.element;
+            AddNew(shown[text.part], images.TextOf(*text.element));
+        }
+    });
+    for (const Part part : PartsShown(node)) {
+        if (part == Part::Time || part == Part::Numerals)
+            AddNew(shown[part], QStringLiteral("0123456789"));
+        else if (part == Part::Badge)
+            AddNew(shown[part], QStringLiteral("AMP"));
+    }
+    return shown;
 }
 
 std::optional<MissingCharacters> MissingOf(const QString &family, int points,
@@ -91,6 +136,36 @@ std::optional<MissingCharacters> MissingOf(const QString &family, int points,
     missing.boxes = TextOf(Boxes(family, points, lacking));
     missing.families = FamiliesWith(wanted);
     return missing;
+}
+
+} // namespace
+
+QVector<MissingCharacters> MissingOf(ClockYear &clock, HClockNode &node, const GlyphImages &images)
+{
+    QVector<MissingCharacters> all;
+    for (const auto &[part, characters] : CharactersShown(clock, node, images)) {
+        const GlyphFontAttributes font = FontAttributes(*FontOf(part), node.ClockType());
+        std::optional<MissingCharacters> missing =
+            MissingOf(node.GetAttribute(Key(font.family)), node.GetAttributeToInt(Key(font.size)),
+                      characters);
+        if (!missing)
+            continue;
+        missing->part = part;
+        all.append(*missing);
+    }
+    return all;
+}
+
+QVector<Undrawn> UndrawnOf(HClockNode &node, GlyphImages &images)
+{
+    const FontSizes sizes = SizesOf(node);
+    QVector<Undrawn> undrawn;
+    for (const Part part : PartsShown(node)) {
+        const std::optional<GlyphFont> font = FontOf(part);
+        if (font && images.LacksImages(node, sizes, *font))
+            undrawn.append({part, sizes[static_cast<std::size_t>(*font)]});
+    }
+    return undrawn;
 }
 
 } // namespace ClockFit

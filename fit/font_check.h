@@ -1,17 +1,17 @@
-// Whether the families of a clock have the characters that it shows.
+// Whether the families of a clock have the characters that it shows, and whether its texts can be
+// drawn at all.
 #pragma once
 
-#include "fit.h"
+#include "clock_year.h"
+#include "families.h"
 
 namespace ClockFit {
 
-/// The family that Qt uses in place of one; the same where it is installed. An empty one is the
-/// application's default font.
-QString FamilyUsed(const QString &family);
-bool IsInstalled(const QString &family);
+/// What the families lack of the characters that the clock shows in the year.
+QVector<MissingCharacters> MissingOf(ClockYear &clock, Lw::HNodeClock::HClockNode &node,
+                                     const GlyphImages &images);
 
-/// What the family lacks of the characters; no part is named. Nothing where it has them all.
-std::optional<MissingCharacters> MissingOf(const QString &family, int points,
-                                           const QString &characters);
+/// The texts whose images would be too large.
+QVector<Undrawn> UndrawnOf(Lw::HNodeClock::HClockNode &node, GlyphImages &images);
 
 } // namespace ClockFit

@@ -158,6 +158,22 @@ GlyphStrip GlyphImages::Draw(const QString &family, int points, const QString &t
     return strip;
 }
 
+bool GlyphImages::LacksImages(HClockNode &node, const FontSizes &sizes, GlyphFont font)
+{
+    const GlyphSource source = SourceFor(node, sizes);
+    for (const GlyphImage &image :
+         Lw::HNodeClock::GlyphImages(GlyphOrder::Generation, node.ClockType())) {
+        const GlyphRow &row = *image.row;
+        if (row.font != font || !IsNeeded(node, row.glyph))
+            continue;
+        const bool hasText =
+            row.shape == GlyphShape::DigitStrip || !WordingOf(node, image).isEmpty();
+        if (hasText && source(row.glyph, image.number).IsNull())
+            return true;
+    }
+    return false;
+}
+
 QString GlyphImages::TextOf(const Element &element) const
 {
     QString text;

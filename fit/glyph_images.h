@@ -25,6 +25,10 @@ public:
     /// the clock does not show there is none. The node and this must outlive the source.
     Lw::HNodeClock::GlyphSource SourceFor(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes);
 
+    /// Whether a text of a font that the clock shows has no image in its size.
+    bool LacksImages(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes,
+                     Lw::HNodeClock::GlyphFont font);
+
     /// What an element made of these images says.
     QString TextOf(const Lw::HNodeClock::Element &element) const;
 

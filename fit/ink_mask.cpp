@@ -17,6 +17,11 @@ int WordsFor(int width)
     return (width + kBits - 1) / kBits;
 }
 
+bool IsPainted(QRgb pixel)
+{
+    return qAlpha(pixel) != 0;
+}
+
 bool IsChosen(const QVector<bool> &chosen, int piece)
 {
     return chosen.isEmpty() || (piece < chosen.size() && chosen[piece]);
@@ -70,11 +75,17 @@ InkMask::InkMask(const QImage &image, const QPoint &topLeft, QRgb colour)
     AddImage(image, topLeft, [colour](QRgb pixel) { return pixel == colour; });
 }
 
+InkMask InkMask::OfPicture(const QImage &picture, const QPoint &topLeft)
+{
+    InkMask mask(QRect(topLeft, picture.size()));
+    mask.AddImage(picture, topLeft, IsPainted);
+    return mask;
+}
+
 void InkMask::AddStrip(const GlyphStrip &strip, const QRect &source, const QPoint &target)
 {
     if (!strip.IsInk())
-        return AddImage(strip.Pixmap().copy(source).toImage(), target,
-                        [](QRgb pixel) { return qAlpha(pixel) != 0; });
+        return AddImage(strip.Pixmap().copy(source).toImage(), target, IsPainted);
     for (int y = 0; y < source.height(); ++y) {
         quint32 *const to = m_bits.data() + (target.y() + y - m_box.top()) * m_words;
         const quint32 *const from = strip.InkRow(y);

@@ -20,6 +20,8 @@ public:
     explicit InkMask(const QRect &box);
     /// Every pixel of an image that has this colour.
     InkMask(const QImage &image, const QPoint &topLeft, QRgb colour);
+    /// Every pixel of a picture that is not fully transparent.
+    static InkMask OfPicture(const QImage &picture, const QPoint &topLeft);
     /// The ink of an element's pieces, and of no more than these where a choice is given.
     InkMask(const Lw::HNodeClock::Element &element, const QPoint &topLeft,
             const QVector<bool> &chosen = {});
@@ -33,6 +35,7 @@ public:
     int Common(const InkMask &other) const;
     /// Adds the other's ink; the box grows.
     void Unite(const InkMask &other);
+    void MoveBy(const QPoint &distance) { m_box.translate(distance); }
 
 private:
     const quint32 *Row(int y) const { return m_bits.constData() + (y - m_box.top()) * m_words; }

@@ -1,11 +1,16 @@
 // clock_tool lint: checks programs.
+#include "command_support.h"
 #include "commands.h"
+#include "lint/finding_json.h"
+#include "lint/fit_lint.h"
 #include "lint/program_lint.h"
 #include "tool_arguments.h"
 #include "xml_document.h"
+#include "year_option.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <optional>
 
 namespace ClockTool {
 
@@ -14,10 +19,16 @@ namespace {
 constexpr char kDescription[] =
     "Checks programs against the schema in docs/program.rng, and against what a clock really\n"
     "reads: unknown words, numbers, colours, time zones and daylight-saving rules that are not\n"
-    "understood, codes outside their tables, fonts that are not installed, clocks with one Id.\n"
+    "understood, codes outside their tables, fonts that are not installed, clocks sharing an Id.\n"
+    "Then it looks at every text that the clocks show in a year: what is cut or covered, when "
+    "first,\n"
+    "and which size fits; what can hardly be seen; which characters a font lacks.\n"
     "\n"
     "Each finding is a line on standard error: file:line: warning: what, and what is accepted.\n"
-    "Notes tell what is worth knowing and count for nothing.\n"
+    "Notes tell what is worth knowing and do not affect the exit code.\n"
+    "\n"
+    "With --format json each finding is a JSON object in a line on standard output: file, line,\n"
+    "clock (from 1), element, attribute, severity (warning or note), text, suggestion.\n"
     "\n"
     "Exit codes: 0 no warning, 1 warnings, 2 wrong command line, 3 a file cannot be read or is no\n"
     "XML. Of several programs each is checked, and the highest code counts.";
@@ -39,18 +50,55 @@ void Show(const Findings &findings, const QString &path)
                 .arg(path, QString::number(sorted.size() - kMostShown)));
 }
 
-CommandResult LintFile(const QString &path)
+void ShowAsJson(const Findings &findings, const QString &path)
 {
-    const Result<QByteArray> contents = ClockProgram::ReadContents(path);
-    if (const auto *failure = std::get_if<Failure>(&contents))
-        return Report(*failure);
-    const auto &bytes = std::get<QByteArray>(contents);
-    const Result<QDomDocument> document = ClockProgram::ParseDocument(bytes, path);
-    if (const auto *failure = std::get_if<Failure>(&document))
-        return Report(*failure);
-    const Findings findings = LintProgram(std::get<QDomDocument>(document), bytes, path);
-    Show(findings, path);
+    for (const Finding &finding : findings.ByLine())
+        std::fputs(FindingJson(finding, path).constData(), stdout);
+}
+
+// How programs are looked at.
+struct Choices
+{
+    std::optional<qint64> year; ///< the begin of the year to look at, UTC milliseconds
+    bool asJson = false;
+};
+
+CommandResult LintFile(const QString &path, const Choices &choices)
+{
+    const Result<QByteArray> bytes = ClockProgram::ReadContents(path);
+    if (!bytes)
+        return Report(bytes.Error());
+    const Result<QDomDocument> document = ClockProgram::ParseDocument(*bytes, path);
+    if (!document)
+        return Report(document.Error());
+    Findings findings = LintProgram(*document, *bytes, path);
+    const Result<ClockProgram::Program> program = ClockProgram::InterpretProgram(*document, path);
+    if (choices.year && program)
+        LintFit(*program, *choices.year, findings);
+    if (choices.asJson)
+        ShowAsJson(findings, path);
+    else
+        Show(findings, path);
     return findings.Warnings() == 0 ? ExitCode::Success : ExitCode::RuntimeFailure;
+}
+
+const QLatin1String kFormat("format");
+const QLatin1String kNoFit("no-fit");
+
+Result<Choices> ReadChoices(const ToolArguments &tool)
+{
+    const QString format = tool.Value(kFormat);
+    if (format != QLatin1String("text") && format != QLatin1String("json"))
+        return ClockProgram::UsageFailure(
+            QStringLiteral("no format \"%1\"; there are text and json").arg(format));
+    const Result<qint64> begin = YearOption::Read(tool);
+    if (!begin)
+        return begin.Error();
+    Choices choices;
+    choices.asJson = format == QLatin1String("json");
+    if (!tool.IsSet(kNoFit))
+        choices.year = *begin;
+    return choices;
 }
 
 } // namespace
@@ -59,12 +107,22 @@ CommandResult RunLint(const QStringList &arguments)
 {
     ToolArguments tool(QStringLiteral("lint"), QString::fromLatin1(kDescription));
     tool.AddPositional(QStringLiteral("PROGRAM.xml..."), QStringLiteral("The programs to check."));
+    tool.AddLanguage();
+    YearOption::Add(tool);
+    tool.AddFlag(kNoFit, QStringLiteral("Do not look at what the clocks show in a year."));
+    tool.AddOption({kFormat}, QStringLiteral("How findings are written: text or json."),
+                   QStringLiteral("format"), QStringLiteral("text"));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
+    if (const MaybeFailure failure = tool.InstallLanguage())
+        return Report(*failure);
+    const Result<Choices> choices = ReadChoices(tool);
+    if (!choices)
+        return Report(choices.Error());
     CommandResult worst = ExitCode::Success;
     const QStringList paths = tool.Positionals();
     for (const QString &path : paths)
-        worst = std::max(worst, LintFile(path));
+        worst = std::max(worst, LintFile(path, *choices));
     return worst;
 }
 

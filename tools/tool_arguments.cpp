@@ -27,9 +27,14 @@ void ToolArguments::AddPositional(const QString &name, const QString &descriptio
 }
 
 void ToolArguments::AddOption(const QStringList &names, const QString &description,
-                              const QString &value)
+                              const QString &value, const QString &defaultValue)
 {
-    m_parser.addOption({names, description, value});
+    m_parser.addOption({names, description, value, defaultValue});
+}
+
+void ToolArguments::AddFlag(const QString &name, const QString &description)
+{
+    m_parser.addOption({name, description});
 }
 
 void ToolArguments::AddAlternative(const QString &name, const QString &description)

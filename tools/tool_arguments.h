@@ -20,10 +20,12 @@ public:
     /// last.
     void AddPositional(const QString &name, const QString &description);
     /// An option with a value.
-    void AddOption(const QStringList &names, const QString &description, const QString &value);
+    void AddOption(const QStringList &names, const QString &description, const QString &value,
+                   const QString &defaultValue = {});
     /// An option without a value that makes the named arguments unneeded.
     void AddAlternative(const QString &name, const QString &description);
-    void AddOutput();   ///< -o FILE
+    void AddFlag(const QString &name, const QString &description); ///< an option without a value
+    void AddOutput();                                              ///< -o FILE
     void AddLanguage(); ///< --language, for commands that make glyph images
 
     /// Reads the arguments, which begin with "clock_tool NAME". Returns an exit code when nothing

@@ -60,7 +60,7 @@ private:
     {
         WriteText(m_directory.filePath("in.xml"), text);
         WriteText(m_directory.filePath("in.png"), "hello");
-        return RunTool({"lint", m_directory.filePath("in.xml")});
+        return RunTool({"lint", "--no-fit", m_directory.filePath("in.xml")});
     }
 
     QTemporaryDir m_directory;
@@ -377,7 +377,7 @@ void TestToolLint::SeveralPrograms()
     QVERIFY(WriteText(m_directory.filePath("sound.xml"), ProgramOf("<clock timezone='+01:00'/>")));
     QVERIFY(WriteText(m_directory.filePath("faulty.xml"), Digital("<weak/>")));
     QVERIFY(WriteText(m_directory.filePath("text.xml"), "text"));
-    QStringList arguments {"lint"};
+    QStringList arguments {"lint", "--no-fit"};
     for (const QString &name : names)
         arguments.append(m_directory.filePath(name));
     const ProcessRun run = RunTool(arguments);
@@ -395,7 +395,8 @@ void TestToolLint::ManyFindings()
                       Digital(QByteArray("<weak/>\n").repeated(1010))));
     QVERIFY(WriteText(m_directory.filePath("faulty.xml"), Digital("<weak/>")));
     const ProcessRun run =
-        RunTool({"lint", m_directory.filePath("many.xml"), m_directory.filePath("faulty.xml")});
+        RunTool({"lint", "--no-fit", m_directory.filePath("many.xml"),
+                 m_directory.filePath("faulty.xml")});
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(Warnings(run.errors).size(), 1001);
     QVERIFY2(run.errors.contains("/many.xml: and 10 more\n"), qPrintable(run.errors.right(300)));

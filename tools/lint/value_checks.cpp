@@ -5,10 +5,10 @@
 
 #include "calendar/clock_time.h"
 #include "clock_sdk_tables.h"
+#include "families.h"
 #include "happconfig.h"
 
 #include <QColor>
-#include <QFontDatabase>
 #include <QRegularExpression>
 
 namespace ClockTool {
@@ -100,12 +100,12 @@ QString AdjustmentFault(const QString &text)
 
 QString FamilyFault(const QString &text)
 {
-    static const QStringList families = QFontDatabase().families();
-    if (text.isEmpty() || families.contains(text, Qt::CaseInsensitive))
+    if (text.isEmpty() || ClockFit::IsInstalled(text))
         return {};
-    const QString nearest = Nearest(text, families);
-    return QStringLiteral("is not an installed font; another will be drawn%1")
-        .arg(nearest.isEmpty()
+    const QString nearest = Nearest(text, ClockFit::InstalledFamilies());
+    return QStringLiteral("is not an installed font; \"%1\" is drawn%2")
+        .arg(ClockFit::FamilyUsed(text),
+             nearest.isEmpty()
                  ? QStringLiteral("; accepted: a family that \"fc-list : family\" lists")
                  : QStringLiteral("; did you mean \"%1\"?").arg(nearest));
 }

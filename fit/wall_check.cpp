@@ -1,0 +1,149 @@
+#include "wall_check.h"
+
+#include "year_ink.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace ClockFit {
+
+using namespace Lw::HNodeClock;
+
+namespace {
+
+// What both parts have in common on the first day on which they have anything, and that day.
+struct Common
+{
+    int pixels = 0;
+    qint64 day = 0;
+};
+
+Common FirstCommon(const PartInk &one, const PartInk &other, qint64 begin)
+{
+    if (one.year.Common(other.year) == 0)
+        return {};
+    const std::vector<DayInk> always = {{begin, std::numeric_limits<qint64>::max(), {}}};
+    const std::vector<DayInk> &days = one.days.empty() ? always : one.days;
+    const std::vector<DayInk> &otherDays = other.days.empty() ? always : other.days;
+    for (std::size_t i = 0, j = 0; i < days.size() && j < otherDays.size();) {
+        const InkMask &mask = one.days.empty() ? one.year : days[i].mask;
+        const InkMask &otherMask = other.days.empty() ? other.year : otherDays[j].mask;
+        const int pixels = mask.Common(otherMask);
+        if (pixels > 0)
+            return {pixels, std::max(days[i].begin, otherDays[j].begin)};
+        ++(days[i].end <= otherDays[j].end ? i : j);
+    }
+    return {};
+}
+
+bool IsHand(const PartInk &ink)
+{
+    return ink.part == Part::SecondHand;
+}
+
+class WallCheck
+{
+public:
+    WallCheck(ClockCheck &check, const QVector<WallClock> &clocks)
+        : m_check(check), m_clocks(clocks), m_inks(static_cast<std::size_t>(clocks.size())),
+          m_isKnown(static_cast<std::size_t>(clocks.size()))
+    { }
+
+    std::vector<ClockOverlap> Overlaps()
+    {
+        std::vector<ClockOverlap> overlaps;
+        for (int upper = 0; upper < m_clocks.size(); ++upper) {
+            for (int lower = 0; lower < upper; ++lower) {
+                const ClockOverlap overlap = Look(lower, upper);
+                if (overlap.pixels > 0)
+                    overlaps.push_back(overlap);
+            }
+        }
+        return overlaps;
+    }
+
+private:
+    ClockOverlap Look(int lower, int upper)
+    {
+        ClockOverlap most;
+        if (!m_clocks[lower].area.intersects(m_clocks[upper].area))
+            return most;
+        most.lower = lower;
+        most.upper = upper;
+        most.isOfHands = true;
+        for (const PartInk &under : InkOf(lower)) {
+            for (const PartInk &over : InkOf(upper))
+                Take(most, under, over);
+        }
+        most.isPicture = IsPicture(lower) || IsPicture(upper);
+        return most;
+    }
+
+    // Whatever is more than a hand that passes counts more.
+    void Take(ClockOverlap &most, const PartInk &under, const PartInk &over)
+    {
+        const Common common = FirstCommon(under, over, m_check.Years().begin);
+        const bool isOfHands = IsHand(under) || IsHand(over);
+        const bool isMore =
+            most.isOfHands == isOfHands ? common.pixels > most.pixels : most.isOfHands;
+        if (common.pixels == 0 || !isMore)
+            return;
+        most.lowerPart = under.part;
+        most.upperPart = over.part;
+        most.pixels = common.pixels;
+        most.firstDay = common.day;
+        most.isOfHands = isOfHands;
+    }
+
+    bool IsPicture(int clock) const { return m_clocks[clock].node->ClockType() == PictureClock; }
+
+    const std::vector<PartInk> &InkOf(int clock)
+    {
+        const auto index = static_cast<std::size_t>(clock);
+        if (!m_isKnown[index]) {
+            HClockNode &node = *m_clocks[clock].node;
+            m_inks[index] = YearInkOf(node, m_check.Images().SourceFor(node, SizesOf(node)),
+                                      m_check.Years(), m_clocks[clock].area.topLeft());
+            m_isKnown[index] = true;
+        }
+        return m_inks[index];
+    }
+
+    ClockCheck &m_check;
+    const QVector<WallClock> &m_clocks;
+    std::vector<std::vector<PartInk>> m_inks;
+    std::vector<bool> m_isKnown;
+};
+
+OffScreen OffScreenOf(int clock, const QRect &area, const QSize &screen)
+{
+    OffScreen off;
+    off.clock = clock;
+    off.isWholly = !area.intersects(QRect(QPoint(0, 0), screen));
+    off.left = std::max(0, -area.left());
+    off.top = std::max(0, -area.top());
+    off.right = std::max(0, area.left() + area.width() - screen.width());
+    off.bottom = std::max(0, area.top() + area.height() - screen.height());
+    return off;
+}
+
+} // namespace
+
+QRect VisibleOf(const QRect &area, const QSize &screen)
+{
+    return (area & QRect(QPoint(0, 0), screen)).translated(-area.topLeft());
+}
+
+WallFindings LookAtWall(ClockCheck &check, const QVector<WallClock> &clocks, const QSize &screen)
+{
+    WallFindings findings;
+    const QRect whole(QPoint(0, 0), screen);
+    for (int clock = 0; clock < clocks.size(); ++clock) {
+        if (!whole.contains(clocks[clock].area))
+            findings.offScreen.append(OffScreenOf(clock, clocks[clock].area, screen));
+    }
+    findings.overlaps = WallCheck(check, clocks).Overlaps();
+    return findings;
+}
+
+} // namespace ClockFit

@@ -1,0 +1,176 @@
+// What lint finds of the year that the clocks show, and how it writes findings for programs.
+#include "tool_process.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+// A wall of one area; at 96 dots per inch a digit of DejaVu Sans Mono is 0.8 pixels wide per point.
+QByteArray Wall(const QByteArray &clock, int width = 200, int height = 60)
+{
+    const QByteArray size = " width=\"" + QByteArray::number(width) + "\" height=\""
+        + QByteArray::number(height) + "\"";
+    return "<program" + size + ">\n<area x=\"0\" y=\"0\"" + size + ">\n" + clock
+        + "\n</area>\n</program>\n";
+}
+
+QByteArray Digital(const QByteArray &content)
+{
+    return "<clock type=\"digital\" timezone=\"+00:00\">\n" + content + "\n</clock>";
+}
+
+const QByteArray kHidden =
+    "<title display=\"false\"/><date display=\"false\"/><week display=\"false\"/>\n";
+
+QByteArray Time(const QByteArray &size, const QByteArray &colour = "#ffffff")
+{
+    return kHidden + "<time display=\"true\" format=\"1\" fontName=\"DejaVu Sans Mono\" fontSize=\""
+        + size + "\" color=\"" + colour + "\"/>";
+}
+
+} // namespace
+
+class TestLintFit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void Finds_data();
+    void Finds();
+    void SaysNothingOfWhatFits();
+    void TellsTheFirstDay();
+    void WritesJson();
+    void RefusesUnknownChoices_data();
+    void RefusesUnknownChoices();
+
+private:
+    ProcessRun Lint(const QByteArray &program, const QStringList &options = {})
+    {
+        const QString path = m_directory.filePath("in.xml");
+        if (!WriteText(path, program))
+            qFatal("cannot write a program");
+        return RunTool(QStringList {"lint", "--at", "2026-08-20", "--language", "en"} + options
+                       << path);
+    }
+
+    QTemporaryDir m_directory;
+};
+
+void TestLintFit::Finds_data()
+{
+    QTest::addColumn<QByteArray>("program");
+    QTest::addColumn<QString>("severity");
+    QTest::addColumn<QString>("said");
+    const QString warning = "warning";
+    const QString note = "note";
+    QTest::newRow("cut") << Wall(Digital(Time("60"))) << warning
+                         << "in.xml:5: warning: the time is cut: ";
+    QTest::newRow("size") << Wall(Digital(Time("60"))) << warning << " points would fit; all sizes";
+    QTest::newRow("key colour") << Wall(Digital(Time("20", "#010201"))) << warning
+                                << "the time has the key colour #010201";
+    QTest::newRow("faint") << Wall(Digital(Time("20", "#202020"))) << warning
+                           << "the colour #202020 of the time has a contrast of 1.3 to #000000";
+    QTest::newRow("blue") << Wall(Digital(Time("20", "#0000ff"))) << note
+                          << "the colour #0000ff of the time has a contrast of 2.4 to #000000";
+    QTest::newRow("rows over each other")
+        << Wall(Digital("<title display=\"false\"/><week display=\"false\"/>\n"
+                        "<date display=\"true\" color=\"#ffffff\"/>\n"
+                        "<time display=\"true\"/><clockTextsSyle space=\"-20\"/>"))
+        << warning << "the time is drawn over the date: up to ";
+    QTest::newRow("not in the font")
+        << Wall(Digital("<title display=\"true\" value=\"&#x5317;\" fontName=\"DejaVu Sans\"/>\n"
+                        "<date display=\"false\"/><week display=\"false\"/>"
+                        "<time display=\"false\"/>"))
+        << note << QString::fromUtf8("the family \"DejaVu Sans\" of the title lacks \"北\": ");
+    QTest::newRow("small dial") << Wall(
+        "<clock type=\"dial\"><title display=\"false\"/><date display=\"false\"/>\n"
+        "<week display=\"false\"/><ampm display=\"false\"/></clock>",
+        60,
+        60) << note << "a dial with a radius of 30 pixels has no minute marks; from 40.5 on it has";
+    QTest::newRow("hands") << Wall("<clock type=\"dial\"><analog hourHandColor=\"#ffffff\""
+                                   " minuteHandColor=\"#ffffff\"/></clock>",
+                                   200, 200)
+                           << note << "the hour hand and the minute hand are both #ffffff";
+    QTest::newRow("off the screen") << Wall(Digital(Time("20"))).replace("x=\"0\"", "x=\"500\"")
+                                    << warning << "in.xml:2: warning: the area is off the screen";
+    QTest::newRow("cut by the screen") << Wall(Digital(Time("40"))).replace("x=\"0\"", "x=\"-60\"")
+                                       << warning << "the time is cut: ";
+    const QByteArray area = "<area x=\"0\" y=\"0\" width=\"200\" height=\"60\">";
+    QTest::newRow("clock over clock")
+        << Wall(Digital(Time("20")) + "</area>\n" + area + Digital(Time("20"))) << warning
+        << "in.xml:7: warning: the time is drawn over the time of the clock in line 3: ";
+}
+
+void TestLintFit::Finds()
+{
+    QFETCH(QByteArray, program);
+    QFETCH(QString, severity);
+    QFETCH(QString, said);
+    const ProcessRun run = Lint(program);
+    QVERIFY2(run.errors.contains(said), qPrintable(run.errors));
+    QCOMPARE(run.exitCode, run.errors.contains(": warning: ") ? 1 : 0);
+    QVERIFY(run.errors.contains(": " + severity + ": "));
+    QVERIFY(!Lint(program, {"--no-fit"}).errors.contains(said));
+}
+
+void TestLintFit::SaysNothingOfWhatFits()
+{
+    const ProcessRun run = Lint(Wall(Digital(Time("30"))));
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.exitCode, 0);
+}
+
+// "Wednesday" is the widest weekday: in a narrow area it is the only one that is cut. The first one
+// after 20 August 2026 is the 26th, which in this zone begins at 22 hours.
+void TestLintFit::TellsTheFirstDay()
+{
+    const QByteArray week =
+        "<clock type=\"digital\" timezone=\"+02:00\"><title display=\"false\"/>\n"
+        "<date display=\"false\"/><time display=\"false\"/>\n"
+        "<week display=\"true\" format=\"1\" fontName=\"DejaVu Sans\""
+        " fontSize=\"12\"/></clock>";
+    const ProcessRun run = Lint(Wall(week, 85));
+    QVERIFY2(run.errors.contains("; first 2026-08-25T22:00:00Z as \"Wednesday\"; "),
+             qPrintable(run.errors));
+}
+
+void TestLintFit::WritesJson()
+{
+    const ProcessRun run = Lint(Wall(Digital(Time("60"))), {"--format", "json"});
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.output.count('\n'), 1);
+    const QJsonObject finding = QJsonDocument::fromJson(run.output.toUtf8()).object();
+    QCOMPARE(finding["file"].toString(), m_directory.filePath("in.xml"));
+    QCOMPARE(finding["line"].toInt(), 5);
+    QCOMPARE(finding["clock"].toInt(), 1);
+    QCOMPARE(finding["element"].toString(), QString("time"));
+    QCOMPARE(finding["attribute"].toString(), QString("fontSize"));
+    QCOMPARE(finding["severity"].toString(), QString("warning"));
+    QVERIFY(finding["text"].toString().startsWith("the time is cut: "));
+    const int points = finding["suggestion"].toString().toInt();
+    QVERIFY(points > 0 && points < 60);
+    // The size that is suggested fits, and the next one does not.
+    QCOMPARE(Lint(Wall(Digital(Time(QByteArray::number(points))))).errors, QString());
+    QVERIFY(!Lint(Wall(Digital(Time(QByteArray::number(points + 1))))).errors.isEmpty());
+}
+
+void TestLintFit::RefusesUnknownChoices_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::newRow("instant") << QStringList {"--at", "soon"};
+    QTest::newRow("language") << QStringList {"--language", "xx"};
+    QTest::newRow("format") << QStringList {"--format", "xml"};
+}
+
+void TestLintFit::RefusesUnknownChoices()
+{
+    QFETCH(QStringList, options);
+    QCOMPARE(Lint(Wall(Digital(Time("20"))), options).exitCode, 2);
+}
+
+QTEST_MAIN(TestLintFit)
+
+#include "test_lint_fit.moc"

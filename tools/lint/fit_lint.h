@@ -1,0 +1,14 @@
+// Reports what of a program's clocks is cut, covered, invisible or not in its font in a year.
+#pragma once
+
+#include "finding.h"
+
+#include "program_file.h"
+
+namespace ClockTool {
+
+/// Looks at the year from an instant on, in milliseconds since 1970-01-01 UTC. A program that
+/// cannot be played has no such findings.
+void LintFit(const ClockProgram::Program &program, qint64 begin, Findings &findings);
+
+} // namespace ClockTool

@@ -1,0 +1,196 @@
+#include "fit_words.h"
+
+#include <QColor>
+#include <QDateTime>
+
+#include <cmath>
+#include <utility>
+
+namespace ClockTool {
+
+using namespace ClockFit;
+
+namespace {
+
+constexpr int kMostFamilies = 5;
+
+QString InstantText(qint64 utc)
+{
+    return QDateTime::fromMSecsSinceEpoch(utc, Qt::UTC).toString(Qt::ISODate);
+}
+
+QString SideName(Side side)
+{
+    switch (side) {
+    case Side::Left:
+        return QStringLiteral("left");
+    case Side::Top:
+        return QStringLiteral("top");
+    case Side::Right:
+        return QStringLiteral("right");
+    case Side::Bottom:
+        return QStringLiteral("bottom");
+    }
+    return {};
+}
+
+QString Pixels(int count)
+{
+    return count == 1 ? QStringLiteral("1 pixel") : QStringLiteral("%1 pixels").arg(count);
+}
+
+// ", as "Wednesday""; nothing for parts without a text.
+QString As(const QString &text)
+{
+    return text.isEmpty() ? QString() : QStringLiteral(" as \"%1\"").arg(text);
+}
+
+QString ColourText(QRgb colour)
+{
+    return QColor(colour).name();
+}
+
+QString Quoted(const QStringList &names)
+{
+    QStringList quoted;
+    for (const QString &name : names.mid(0, kMostFamilies))
+        quoted.append(QStringLiteral("\"%1\"").arg(name));
+    if (names.size() > kMostFamilies)
+        quoted.append(QStringLiteral("and %1 more").arg(names.size() - kMostFamilies));
+    return quoted.join(QStringLiteral(", "));
+}
+
+bool IsPlural(Part part)
+{
+    return part == Part::Numerals || part == Part::HourMarks || part == Part::MinuteMarks;
+}
+
+// "the date is", "the numerals are".
+QString Subject(Part part)
+{
+    const QString verb = IsPlural(part) ? QStringLiteral("are") : QStringLiteral("is");
+    return QStringLiteral("the %1 %2").arg(NameOf(part), verb);
+}
+
+// A factor that is not too large when it is read.
+QString FactorText(double factor)
+{
+    constexpr double kParts = 1000;
+    return QString::number(std::floor(factor * kParts) / kParts);
+}
+
+QString SizeWords(Part part, int points, double factor)
+{
+    QString words;
+    if (points > 0)
+        words += QStringLiteral("; %1 points would fit").arg(points);
+    else if (points == 0)
+        words += QStringLiteral("; no size of the %1 alone fits").arg(NameOf(part));
+    if (factor > 0)
+        words += QStringLiteral("; all sizes would fit at %1 of their own").arg(FactorText(factor));
+    return words;
+}
+
+} // namespace
+
+QString CutWords(const QVector<Cut> &cuts, int points, double factor)
+{
+    QStringList sides;
+    Moment first = cuts.first().first;
+    bool isGone = false;
+    for (const Cut &cut : cuts) {
+        sides.append(QStringLiteral("%1 at the %2").arg(Pixels(cut.pixels), SideName(cut.side)));
+        first = cut.first.utc < first.utc ? cut.first : first;
+        isGone = isGone || cut.isGone;
+    }
+    const Part part = cuts.first().part;
+    return QStringLiteral("%1 cut: %2%3; first %4%5%6")
+        .arg(Subject(part), sides.join(QStringLiteral(", ")),
+             isGone ? QStringLiteral(", nothing of it is seen") : QString(), InstantText(first.utc),
+             As(first.text), SizeWords(part, points, factor));
+}
+
+QString OverlapWords(const Overlap &overlap)
+{
+    if (overlap.lower == overlap.upper)
+        return QStringLiteral("the %1 cover each other: %2")
+            .arg(NameOf(overlap.lower), Pixels(overlap.pixels));
+    return QStringLiteral("%1 drawn over the %2: up to %3; first %4%5")
+        .arg(Subject(overlap.upper), NameOf(overlap.lower), Pixels(overlap.pixels),
+             InstantText(overlap.first.utc), As(overlap.upperText));
+}
+
+QString FaintWords(const Faint &faint)
+{
+    const QString part = NameOf(faint.part);
+    if (faint.isKeyColour)
+        return QStringLiteral("the %1 has the key colour %2, which the host shows through")
+            .arg(part, ColourText(faint.ink));
+    return QStringLiteral("the colour %1 of the %2 has a contrast of %3 to %4, on which it shows; "
+                          "from 3 on it is easy to see")
+        .arg(ColourText(faint.ink), part)
+        .arg(faint.contrast, 0, 'f', 1)
+        .arg(ColourText(faint.ground));
+}
+
+QString SameHandsWords(const SameHands &hands)
+{
+    return QStringLiteral("the %1 and the %2 are both %3: where one is over the other they cannot "
+                          "be told apart")
+        .arg(NameOf(hands.one), NameOf(hands.other), ColourText(hands.colour));
+}
+
+QString LostMarksWords(const LostMarks &marks)
+{
+    return QStringLiteral("a dial with a radius of %1 pixels has no %2; from %3 on it has")
+        .arg(marks.radius)
+        .arg(NameOf(marks.part))
+        .arg(marks.enough);
+}
+
+QString MissingWords(const MissingCharacters &missing)
+{
+    const QString instead = missing.boxes.isEmpty()
+        ? QStringLiteral("another family is used for them")
+        : QStringLiteral("boxes appear for \"%1\"").arg(missing.boxes);
+    const QString having = missing.families.isEmpty()
+        ? QStringLiteral("no installed family has all")
+        : QStringLiteral("%1 have all").arg(Quoted(missing.families));
+    return QStringLiteral("the family \"%1\" of the %2 lacks \"%3\": %4; %5")
+        .arg(missing.family, NameOf(missing.part), missing.characters, instead, having);
+}
+
+QString UndrawnWords(const Undrawn &undrawn)
+{
+    return QStringLiteral("%1 not drawn: at %2 points its image would be too large")
+        .arg(Subject(undrawn.part))
+        .arg(undrawn.points);
+}
+
+QString OffScreenWords(const OffScreen &off)
+{
+    if (off.isWholly)
+        return QStringLiteral("the area is off the screen");
+    QStringList sides;
+    for (const auto &[side, pixels] :
+         {std::make_pair(Side::Left, off.left), std::make_pair(Side::Top, off.top),
+          std::make_pair(Side::Right, off.right), std::make_pair(Side::Bottom, off.bottom)}) {
+        if (pixels > 0)
+            sides.append(QStringLiteral("%1 at the %2").arg(Pixels(pixels), SideName(side)));
+    }
+    return QStringLiteral("the area reaches beyond the screen: %1")
+        .arg(sides.join(QStringLiteral(", ")));
+}
+
+QString ClockOverlapWords(const ClockOverlap &overlap, int line)
+{
+    const QString what = overlap.isPicture
+        ? QStringLiteral("this clock is drawn over the clock in line %1").arg(line)
+        : QStringLiteral("%1 drawn over the %2 of the clock in line %3")
+              .arg(Subject(overlap.upperPart), NameOf(overlap.lowerPart))
+              .arg(line);
+    return QStringLiteral("%1: %2; first on the day from %3")
+        .arg(what, Pixels(overlap.pixels), InstantText(overlap.firstDay));
+}
+
+} // namespace ClockTool

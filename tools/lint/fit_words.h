@@ -1,0 +1,24 @@
+// The sentences that tell what a check of the year found.
+#pragma once
+
+#include "fit.h"
+#include "wall_check.h"
+
+#include <QString>
+
+namespace ClockTool {
+
+/// All cuts of one part, and what would fit: the largest size of the part, 0 where none was found,
+/// and the common factor of all sizes, likewise.
+QString CutWords(const QVector<ClockFit::Cut> &cuts, int points, double factor);
+QString OverlapWords(const ClockFit::Overlap &overlap);
+QString FaintWords(const ClockFit::Faint &faint);
+QString SameHandsWords(const ClockFit::SameHands &hands);
+QString LostMarksWords(const ClockFit::LostMarks &marks);
+QString MissingWords(const ClockFit::MissingCharacters &missing);
+QString UndrawnWords(const ClockFit::Undrawn &undrawn);
+QString OffScreenWords(const ClockFit::OffScreen &off);
+/// The line is that of the lower clock.
+QString ClockOverlapWords(const ClockFit::ClockOverlap &overlap, int line);
+
+} // namespace ClockTool

@@ -1,0 +1,27 @@
+// Where a program sets an attribute of a clock.
+#pragma once
+
+#include "finding.h"
+
+#include "clock_attributes.h"
+
+#include <QDomElement>
+
+namespace ClockTool {
+
+struct SettingPlace
+{
+    QDomElement element; ///< an "attribute" child, a child that is imported, or the clock itself
+    QString attribute;   ///< the XML attribute with the value; empty where nothing sets it
+
+    bool IsSet() const { return !attribute.isEmpty(); }
+};
+
+/// The place that counts: the last "attribute" child with the key, else the last element whose XML
+/// attribute is read into it. The kind is 0 analog or 1 digital. Where nothing sets it, the clock.
+SettingPlace PlaceOf(const QDomElement &clock, int clockType, Lw::HNodeClock::Attribute attribute);
+
+/// The same for a finding: an "attribute" child goes by its key.
+Place FindingPlace(const SettingPlace &place);
+
+} // namespace ClockTool
