@@ -4,7 +4,7 @@
 #include "clock_year.h"
 #include "cut_check.h"
 #include "font_check.h"
-#include "legibility.h"
+#include "visibility.h"
 #include "overlap_check.h"
 
 namespace ClockFit {
@@ -52,9 +52,8 @@ ClockFindings ClockCheck::Look(HClockNode &node, const QRect &visible)
     }
     findings.overlaps = OverlapsOf(clock);
     for (Overlap &overlap : findings.overlaps) {
-        overlap.first.text = Showing(clock, m_images, overlap.lower, overlap.first.utc);
-        overlap.worst.text = Showing(clock, m_images, overlap.lower, overlap.worst.utc);
-        overlap.upperText = Showing(clock, m_images, overlap.upper, overlap.worst.utc);
+        overlap.first.text = Showing(clock, m_images, overlap.upper, overlap.first.utc);
+        overlap.worst.text = Showing(clock, m_images, overlap.upper, overlap.worst.utc);
     }
     findings.missing = MissingOf(clock, node, m_images);
     findings.undrawn = UndrawnOf(node, m_images);

@@ -65,9 +65,8 @@ struct Overlap
     Part lower = Part::TopText;
     Part upper = Part::TopText; ///< the same for numerals over each other
     int pixels = 0;             ///< of ink that both have, at the worst
-    Moment first;               ///< what the lower shows when any is first covered
-    Moment worst;
-    QString upperText; ///< at the worst
+    Moment first;               ///< when any is first covered, and what the upper part shows
+    Moment worst;               ///< when so much is first covered, likewise
 };
 
 /// A part that can hardly be told from what it is drawn on.
@@ -179,6 +178,11 @@ QVector<PartSize> SizesOfParts(ClockCheck &check, Lw::HNodeClock::HClockNode &no
 /// Of all parts together: the largest factor below 1 at which none is cut.
 CommonSizes ShrunkSizes(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
                         const QRect &visible = {});
+
+/// Sizes at which nothing is cut, no larger than the node's: one part smaller where it alone is cut,
+/// else all by one factor. The node's own where nothing is cut; nothing where no sizes were found.
+std::optional<FontSizes> SizesThatFit(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
+                                      const QRect &visible = {});
 
 /// The largest factor from 1 on at which none is cut and no ink is covered that was not before; 0
 /// where something is cut at 1.

@@ -41,8 +41,7 @@ public:
                                  parts.second,
                                  worst.most,
                                  {worst.firstUtc, {}},
-                                 {worst.worstUtc, {}},
-                                 {}});
+                                 {worst.worstUtc, {}}});
         }
         return overlaps;
     }

@@ -146,6 +146,24 @@ CommonSizes ShrunkSizes(ClockCheck &check, HClockNode &node, const QRect &visibl
     return {steps[largest].Value(), Scaled(node, steps[largest])};
 }
 
+std::optional<FontSizes> SizesThatFit(ClockCheck &check, HClockNode &node, const QRect &visible)
+{
+    FontSizes sizes = SizesOf(node);
+    if (FitsAll(check, node, sizes, visible))
+        return sizes;
+    const QVector<PartSize> parts =
+        SizesOfParts(check, node, check.Cuts(node, sizes, visible), visible);
+    if (parts.size() == 1 && parts.first().points > 0) {
+        sizes[Index(*FontOf(parts.first().part))] = parts.first().points;
+        if (FitsAll(check, node, sizes, visible))
+            return sizes;
+    }
+    const CommonSizes common = ShrunkSizes(check, node, visible);
+    if (common.factor > 0)
+        return common.sizes;
+    return std::nullopt;
+}
+
 namespace {
 
 bool IsMore(const Overlap &overlap, const QVector<Overlap> &before)

@@ -18,6 +18,7 @@ using CommandResult = ExitCode;
 
 /// The arguments begin with "clock_tool NAME".
 CommandResult RunLint(const QStringList &arguments);
+CommandResult RunFit(const QStringList &arguments);
 CommandResult RunSdk(const QStringList &arguments);
 CommandResult RunImport(const QStringList &arguments);
 CommandResult RunExport(const QStringList &arguments);

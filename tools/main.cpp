@@ -20,6 +20,7 @@ struct Command
 
 constexpr Command kCommands[] = {
     {"lint", RunLint, "check programs, and report what their clocks would not read"},
+    {"fit", RunFit, "write a program with the text sizes that fit all year"},
     {"sdk", RunSdk, "write the SDK XML of a program's clocks"},
     {"import", RunImport, "make a program from SDK XML"},
     {"export", RunExport, "write a program with its glyph files, ready to be copied"},

@@ -25,6 +25,7 @@ const QVector<Room> kRooms = {
     {"player/", {"player/"}},
     {"studio/", {"studio/"}},
     {"tools/", {"tools/"}},
+    {"studio/text/", {"studio/text/"}},
     {"stage/", {"stage/"}},
     {"program/", {"program/"}},
     {"fit/", {"fit/"}},
@@ -56,15 +57,20 @@ const QMap<QString, QStringList> kNarrowRooms = {
 // Made by the build.
 const QStringList kGenerated = {"catalogues.h"};
 
+// The room with the longest beginning: one may be within another.
 int FloorOf(const QString &path)
 {
+    int found = -1;
+    int length = 0;
     for (int floor = 0; floor < kRooms.size(); ++floor) {
         for (const QString &begin : kRooms[floor].files) {
-            if (path.startsWith(begin))
-                return floor;
+            if (path.startsWith(begin) && begin.size() > length) {
+                found = floor;
+                length = begin.size();
+            }
         }
     }
-    return -1;
+    return found;
 }
 
 bool MayInclude(int from, int to)

@@ -117,7 +117,7 @@ QString OverlapWords(const Overlap &overlap)
             .arg(NameOf(overlap.lower), Pixels(overlap.pixels));
     return QStringLiteral("%1 drawn over the %2: up to %3; first %4%5")
         .arg(Subject(overlap.upper), NameOf(overlap.lower), Pixels(overlap.pixels),
-             InstantText(overlap.first.utc), As(overlap.upperText));
+             InstantText(overlap.first.utc), As(overlap.first.text));
 }
 
 QString FaintWords(const Faint &faint)

@@ -1,4 +1,4 @@
-#include "legibility.h"
+#include "visibility.h"
 
 #include "clock_parts.h"
 

@@ -1,0 +1,143 @@
+// clock_tool fit: text sizes that fit on every day of a year.
+#include "clock_nodes.h"
+#include "commands.h"
+#include "output.h"
+#include "size_edits.h"
+#include "tool_arguments.h"
+#include "year_option.h"
+
+#include "fit.h"
+#include "wall_check.h"
+#include "xml_document.h"
+
+namespace ClockTool {
+
+namespace {
+
+using namespace ClockFit;
+using namespace Lw::HNodeClock;
+
+constexpr char kDescription[] =
+    "Writes a program with the text sizes that fit: nothing of a text is cut on any day of a "
+    "year.\n"
+    "Where one text of a clock is cut, it gets the largest size that fits; where several are, all\n"
+    "sizes of the clock are made smaller by one factor. Nothing but these sizes changes: not a\n"
+    "blank, not a comment. Clocks that fit stay as they are.\n"
+    "\n"
+    "Each change is a line on standard error. Exit codes: 0 everything fits, 1 something is cut "
+    "at\n"
+    "every size, and is written as it was.";
+
+const QLatin1String kGrow("grow");
+
+class FitCommand
+{
+public:
+    FitCommand(const ProgramClocks &clocks, qint64 begin, bool grows)
+        : m_clocks(clocks), m_check(YearFrom(begin)), m_grows(grows)
+    { }
+
+    QVector<SizeChange> Changes()
+    {
+        QVector<SizeChange> changes;
+        for (int area = 0; area < m_clocks.Count(); ++area) {
+            HClockNode &clock = m_clocks.Clock(area);
+            const std::optional<FontSizes> sizes = SizesFor(area, clock);
+            if (!sizes) {
+                m_fits = false;
+                Tell(area, QStringLiteral("no sizes fit this clock"));
+                continue;
+            }
+            AddChanges(changes, area, clock, *sizes);
+        }
+        return changes;
+    }
+
+    bool FitsAll() const { return m_fits; }
+
+private:
+    std::optional<FontSizes> SizesFor(int area, HClockNode &clock)
+    {
+        const ClockProgram::Program &program = m_clocks.program;
+        const QRect visible = VisibleOf(program.areas[area].geometry, program.size);
+        if (visible.isEmpty())
+            return SizesOf(clock);
+        if (m_grows) {
+            const CommonSizes grown = GrownSizes(m_check, clock, visible);
+            if (grown.factor > 0)
+                return grown.sizes;
+        }
+        return SizesThatFit(m_check, clock, visible);
+    }
+
+    void AddChanges(QVector<SizeChange> &changes, int area, HClockNode &clock,
+                    const FontSizes &sizes)
+    {
+        const FontSizes own = SizesOf(clock);
+        for (int font = 0; font < kGlyphFontCount; ++font) {
+            const auto index = static_cast<std::size_t>(font);
+            if (sizes[index] == own[index])
+                continue;
+            const Attribute attribute =
+                FontAttributes(static_cast<GlyphFont>(font), clock.ClockType()).size;
+            changes.append({area, attribute, sizes[index]});
+            Tell(area,
+                 QStringLiteral("%1 is %2 points instead of %3")
+                     .arg(Key(attribute))
+                     .arg(sizes[index])
+                     .arg(own[index]));
+        }
+    }
+
+    void Tell(int area, const QString &text) const
+    {
+        Say(ClockProgram::AtElement(m_clocks.program.path, m_clocks.program.areas[area].element,
+                                    text));
+    }
+
+    const ProgramClocks &m_clocks;
+    ClockCheck m_check;
+    const bool m_grows;
+    bool m_fits = true;
+};
+
+CommandResult Fit(const ToolArguments &tool, qint64 begin)
+{
+    const QString path = tool.Positional(0);
+    const Result<QByteArray> contents = ClockProgram::ReadContents(path);
+    if (!contents)
+        return Report(contents.Error());
+    const Result<ProgramClocks> clocks = ParseClocks(*contents, path);
+    if (!clocks)
+        return Report(clocks.Error());
+    FitCommand fit(*clocks, begin, tool.IsSet(kGrow));
+    const QVector<SizeChange> changes = fit.Changes();
+    Result<QByteArray> fitted = changes.isEmpty() ? contents : WithSizes(*contents, path, changes);
+    if (!fitted)
+        return Report(fitted.Error());
+    const CommandResult delivered = Deliver(tool.Output(), *fitted);
+    return delivered == ExitCode::Success && !fit.FitsAll() ? ExitCode::RuntimeFailure : delivered;
+}
+
+} // namespace
+
+CommandResult RunFit(const QStringList &arguments)
+{
+    ToolArguments tool(QStringLiteral("fit"), QString::fromLatin1(kDescription));
+    tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to fit."));
+    tool.AddOutput();
+    tool.AddLanguage();
+    YearOption::Add(tool);
+    tool.AddFlag(kGrow,
+                 QStringLiteral("Make the sizes of clocks that fit as large as they can be."));
+    if (const auto ended = tool.Parse(arguments))
+        return *ended;
+    if (const MaybeFailure failure = tool.InstallLanguage())
+        return Report(*failure);
+    const Result<qint64> begin = YearOption::Read(tool);
+    if (!begin)
+        return Report(begin.Error());
+    return Fit(tool, *begin);
+}
+
+} // namespace ClockTool

@@ -1,0 +1,151 @@
+#include "size_edits.h"
+
+#include "clock_nodes.h"
+#include "lint/clock_words.h"
+#include "lint/setting_place.h"
+
+#include "text/program_edits.h"
+
+namespace ClockTool {
+
+namespace {
+
+using namespace ClockStudio;
+using namespace Lw::HNodeClock;
+
+// Where a size is written: an XML attribute of the clock or of one of its children.
+struct WrittenPlace
+{
+    int element = -1; ///< of the text; -1 where a new child is needed
+    QString name;
+};
+
+bool IsReadOnlyInto(Attribute attribute, int clockType, const QString &element, const QString &name)
+{
+    const QVector<Reading> readings = ReadingsOf(clockType, element, name);
+    return readings.size() == 1 && readings.first().target == attribute;
+}
+
+class SizeEdits
+{
+public:
+    SizeEdits(ProgramReading reading, const TextForm &form)
+        : m_reading(std::move(reading)), m_form(form)
+    { }
+
+    // False where the text is no program any more.
+    bool Make(const SizeChange &change, bool asSetting)
+    {
+        const WrittenPlace place = asSetting ? WrittenPlace() : PlaceOfSize(change);
+        const QString value = QString::number(change.points);
+        const int clock = m_reading.ClockElement(change.area);
+        const TextEdit edit = place.element >= 0
+            ? SetAttributeEdit(m_reading, place.element, place.name, value)
+            : AppendChildEdit(m_reading, clock,
+                              QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>")
+                                  .arg(Key(change.attribute), value));
+        QString text = m_reading.text;
+        ApplyEdits(text, {edit});
+        auto read = ReadProgramText(text, m_form);
+        auto *const next = std::get_if<ProgramReading>(&read);
+        if (next)
+            m_reading = *next;
+        return next != nullptr;
+    }
+
+    std::optional<QByteArray> Bytes() const { return EncodeText(m_reading.text, m_form); }
+
+private:
+    WrittenPlace PlaceOfSize(const SizeChange &change)
+    {
+        const QDomElement clock = m_reading.program.areas[change.area].element;
+        for (const int clockType : {AnalogClock, DigitalClock}) {
+            const SettingPlace place = PlaceOf(clock, clockType, change.attribute);
+            const bool isSetting = place.element.tagName() == ClockProgram::kAttributeTag;
+            if (place.IsSet()
+                && (isSetting
+                    || IsReadOnlyInto(change.attribute, clockType, place.element.tagName(),
+                                      place.attribute)))
+                return {ElementOf(change.area, clock, place.element), place.attribute};
+            const WrittenPlace free = FreePlace(change, clock, clockType);
+            if (!place.IsSet() && free.element >= 0)
+                return free;
+        }
+        return {};
+    }
+
+    // A child that is there and could set the size.
+    WrittenPlace FreePlace(const SizeChange &change, const QDomElement &clock, int clockType)
+    {
+        for (QDomElement child = clock.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement()) {
+            for (const QString &name : AttributesRead(clockType, child.tagName())) {
+                if (IsReadOnlyInto(change.attribute, clockType, child.tagName(), name))
+                    return {ElementOf(change.area, clock, child), name};
+            }
+        }
+        return {};
+    }
+
+    int ElementOf(int area, const QDomElement &clock, const QDomElement &child)
+    {
+        int number = 0;
+        for (QDomElement one = clock.firstChildElement(); one != child;
+             one = one.nextSiblingElement())
+            ++number;
+        return m_reading.elements[m_reading.ClockElement(area)].children[number];
+    }
+
+    ProgramReading m_reading;
+    const TextForm m_form;
+};
+
+Failure CannotBeEdited(const QString &path)
+{
+    return {ExitCode::ProgramError, QStringLiteral("%1: its text cannot be edited").arg(path)};
+}
+
+// The sizes that the clocks of a program have are the wanted ones.
+QVector<SizeChange> Missing(const QByteArray &contents, const QString &path,
+                            const QVector<SizeChange> &changes)
+{
+    const Result<ProgramClocks> clocks = ParseClocks(contents, path);
+    QVector<SizeChange> missing;
+    for (const SizeChange &change : changes) {
+        if (!clocks
+            || clocks->Clock(change.area).GetAttributeToInt(Key(change.attribute)) != change.points)
+            missing.append(change);
+    }
+    return missing;
+}
+
+} // namespace
+
+Result<QByteArray> WithSizes(const QByteArray &contents, const QString &path,
+                             const QVector<SizeChange> &changes)
+{
+    const std::optional<EncodedText> text = DecodeText(contents);
+    if (!text)
+        return CannotBeEdited(path);
+    auto read = ReadProgramText(text->text, text->form);
+    auto *const reading = std::get_if<ProgramReading>(&read);
+    if (!reading)
+        return CannotBeEdited(path);
+    SizeEdits edits(*reading, text->form);
+    QVector<SizeChange> open = changes;
+    for (const bool asSetting : {false, true}) {
+        for (const SizeChange &change : open) {
+            if (!edits.Make(change, asSetting))
+                return CannotBeEdited(path);
+        }
+        const std::optional<QByteArray> bytes = edits.Bytes();
+        if (!bytes)
+            return CannotBeEdited(path);
+        open = Missing(*bytes, path, changes);
+        if (open.isEmpty())
+            return *bytes;
+    }
+    return CannotBeEdited(path);
+}
+
+} // namespace ClockTool

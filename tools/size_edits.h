@@ -1,0 +1,27 @@
+// Changes the text sizes in a program's text, and nothing else.
+#pragma once
+
+#include "commands.h"
+
+#include "glyph/glyph_set.h"
+
+#include <QByteArray>
+#include <QVector>
+
+namespace ClockTool {
+
+/// One size of one clock.
+struct SizeChange
+{
+    int area = 0; ///< counted from 0
+    Lw::HNodeClock::Attribute attribute = Lw::HNodeClock::Attribute::AnalogDateFSize;
+    int points = 0;
+};
+
+/// A program's bytes with other sizes. A size is changed where the program sets it; where it does
+/// not, the element that could gets its attribute, else the clock an "attribute" child. Fails for
+/// a text that cannot be edited.
+Result<QByteArray> WithSizes(const QByteArray &contents, const QString &path,
+                             const QVector<SizeChange> &changes);
+
+} // namespace ClockTool
