@@ -121,8 +121,8 @@ QRect InkMask::Bounds() const
 {
     int left = m_box.width();
     int right = -1;
-    int top = -1;
-    int bottom = -1;
+    int top = m_box.bottom() + 1; // until there is ink
+    int bottom = top;
     for (int y = m_box.top(); y <= m_box.bottom(); ++y) {
         const quint32 *const row = Row(y);
         const quint32 *const end = row + m_words;
@@ -133,7 +133,7 @@ QRect InkMask::Bounds() const
         const quint32 *last = end - 1;
         while (*last == 0)
             --last;
-        top = top < 0 ? y : top;
+        top = std::min(top, y);
         bottom = y;
         left = std::min(left,
                         static_cast<int>(first - row) * kBits

@@ -62,6 +62,8 @@ void TestFit::boundsOfInk()
     QVERIFY(mask.HasInkIn(QRect(13, 22, 1, 1)));
     QVERIFY(!mask.HasInkIn(QRect(12, 22, 1, 1)));
     QCOMPARE(InkMask().Bounds(), QRect());
+    const QImage column = Picture({"#", "#", "#"});
+    QCOMPARE(InkMask::OfPicture(column, {-4, -2}).Bounds(), QRect(-4, -2, 1, 3));
 }
 
 void TestFit::inkInCommon_data()
