@@ -1,5 +1,6 @@
 """What the screen ought to show: frames of the device's own programs in user emulation."""
 
+import os
 import subprocess
 from datetime import datetime, timezone
 from pathlib import Path
@@ -38,7 +39,8 @@ class Frames:
                         self.root / "usr/lib/clock-player/bin/clock_player", self.root / program,
                         "--output", self.folder, "--frames", str(count + 1), "--language", "en",
                         "--at", before.strftime("%Y-%m-%dT%H:%M:%SZ")],
-                       check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                       env={**os.environ, "TMPDIR": str(self.folder)}, check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         for number in range(count):
             with Image.open(self.folder / f"frame_{number + 2:04}.png") as picture:
                 self.known[program, first + number] = picture.convert("RGB")
