@@ -36,29 +36,47 @@ class DialPainter
 public:
     DialPainter(const QSize &area, const QRect &canvas) : m_area(area), m_canvas(canvas) { }
 
-    // The ink of what is painted around the centre by paint(painter, radius).
+    // Painted around the centre by paint(painter, radius). The boxes are no ink.
     template<typename Paint>
     InkMask InkOf(Paint paint) const
     {
-        QImage image(m_canvas.size(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing, false);
-        painter.translate(Centre(m_area) - m_canvas.topLeft());
-        paint(painter, DialRadius(m_area));
-        painter.end();
-        // The boxes are no ink.
-        return InkMask(image, m_canvas.topLeft(), kInk.rgba());
+        return InkMask(Painted(m_canvas, paint), m_canvas.topLeft(), kInk.rgba());
     }
 
+    // Turned marks are rounded otherwise where they are moved: within the area they are painted
+    // where the clock paints them, and only what is beyond its left and top is moved.
     InkMask Marks(int hourScale, int minuteScale) const
     {
-        return InkOf([&](QPainter &painter, double radius) {
+        const auto paint = [&](QPainter &painter, double radius) {
             PaintMarks(painter, radius, {hourScale, minuteScale, kInk, kInk});
-        });
+        };
+        QImage moved = Painted(m_canvas, paint);
+        Clear(moved, QRect(-m_canvas.topLeft(), m_area));
+        InkMask ink = InkMask::OfPicture(moved, m_canvas.topLeft());
+        ink.Unite(InkMask::OfPicture(Painted(QRect(QPoint(0, 0), m_area), paint), QPoint(0, 0)));
+        return ink;
     }
 
 private:
+    template<typename Paint>
+    QImage Painted(const QRect &canvas, Paint paint) const
+    {
+        QImage image(canvas.size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.translate(Centre(m_area) - canvas.topLeft());
+        paint(painter, DialRadius(m_area));
+        return image;
+    }
+
+    static void Clear(QImage &image, const QRect &box)
+    {
+        QPainter painter(&image);
+        painter.setCompositionMode(QPainter::CompositionMode_Clear);
+        painter.fillRect(box, Qt::transparent);
+    }
+
     const QSize m_area;
     const QRect m_canvas;
 };

@@ -10,6 +10,25 @@ namespace {
 
 constexpr int kSpread = 60; // more than rows are over each other
 
+// Lines that end within a pixel may be blended onto the key colour, by a level.
+bool IsNear(QRgb pixel, QRgb colour)
+{
+    constexpr int kLevels = 2;
+    return qAbs(qRed(pixel) - qRed(colour)) <= kLevels
+        && qAbs(qGreen(pixel) - qGreen(colour)) <= kLevels
+        && qAbs(qBlue(pixel) - qBlue(colour)) <= kLevels;
+}
+
+int Count(const QImage &frame, QRgb colour)
+{
+    int pixels = 0;
+    for (int y = 0; y < frame.height(); ++y) {
+        for (int x = 0; x < frame.width(); ++x)
+            pixels += IsNear(frame.pixel(x, y), colour) ? 1 : 0;
+    }
+    return pixels;
+}
+
 // Sets attributes for as long as it lives.
 class Changed
 {
@@ -79,7 +98,8 @@ QImage LargeFrames::WithoutMarks(QImage frame)
     for (int y = 0; m_dial && y < frame.height(); ++y) {
         for (int x = 0; x < frame.width(); ++x) {
             const QRgb pixel = frame.pixel(x, y);
-            if (pixel == ColourOf(Part::HourMarks) || pixel == ColourOf(Part::MinuteMarks))
+            if (IsNear(pixel, ColourOf(Part::HourMarks))
+                || IsNear(pixel, ColourOf(Part::MinuteMarks)))
                 frame.setPixel(x, y, qRgb(1, 2, 1));
         }
     }
@@ -113,8 +133,9 @@ Inks LargeFrames::Spread(qint64 utc)
     return InkOfFrame(utc);
 }
 
-// What is not 0 or 1 counts in the layout and is not drawn.
-Inks LargeFrames::Alone(Part part, qint64 utc)
+// What is not 0 or 1 counts in the layout and is not drawn. Marks are counted in the area's own
+// frame, where they are whole.
+int LargeFrames::Alone(Part part, qint64 utc)
 {
     Changed changed(m_node);
     for (auto it = kAnalogFlags.cbegin(); it != kAnalogFlags.cend(); ++it) {
@@ -125,12 +146,20 @@ Inks LargeFrames::Alone(Part part, qint64 utc)
         changed.Set(A::HourScaleType, -1);
         changed.Set(A::MinuteScaleType, -1);
     }
-    return InkOfFrame(utc);
+    return Shown(part, utc);
+}
+
+int LargeFrames::Shown(Part part, qint64 utc)
+{
+    const QRgb colour = ColourOf(part);
+    if (part == Part::MinuteMarks)
+        return Count(OwnFrame(utc), colour);
+    return InkOfFrame(utc).value(colour).pixels;
 }
 
 int LargeFrames::Uncovered(Part part, qint64 utc)
 {
-    return (m_dial ? Alone(part, utc) : Spread(utc)).value(ColourOf(part)).pixels;
+    return m_dial ? Alone(part, utc) : Spread(utc).value(ColourOf(part)).pixels;
 }
 
 QRgb LargeFrames::ColourOf(Part part)

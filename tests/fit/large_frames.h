@@ -18,6 +18,8 @@ public:
 
     /// The ink at an instant, in pixels of the area. An analog clock has no hands there.
     Inks At(qint64 utc);
+    /// How many pixels of a part are drawn.
+    int Shown(ClockFit::Part part, qint64 utc);
     /// How many pixels of a part there would be if no other part were drawn.
     int Uncovered(ClockFit::Part part, qint64 utc);
     /// Whether the area's own frame is what lies within the area in the large one.
@@ -31,7 +33,7 @@ private:
     QImage WithoutMarks(QImage frame);
     Inks InkOfFrame(qint64 utc);
     Inks Spread(qint64 utc);
-    Inks Alone(ClockFit::Part part, qint64 utc);
+    int Alone(ClockFit::Part part, qint64 utc);
 
     MadeUpClock &m_clock;
     Lw::HNodeClock::HClockNode &m_node;

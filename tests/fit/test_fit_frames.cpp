@@ -140,8 +140,7 @@ private:
 
     int CoveredAt(Part part, qint64 utc)
     {
-        return m_frames.Uncovered(part, utc)
-            - m_frames.At(utc).value(m_frames.ColourOf(part)).pixels;
+        return m_frames.Uncovered(part, utc) - m_frames.Shown(part, utc);
     }
 
     void HoldOverlap(const Overlap &overlap)
