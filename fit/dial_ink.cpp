@@ -44,11 +44,15 @@ public:
     }
 
     // Turned marks are rounded otherwise where they are moved: within the area they are painted
-    // where the clock paints them, and only what is beyond its left and top is moved.
-    InkMask Marks(int hourScale, int minuteScale) const
+    // where the clock paints them, and only what is beyond its left and top is moved. What numerals
+    // and their boxes hide is not seen anyway.
+    template<typename PaintHiding>
+    InkMask Marks(int hourScale, int minuteScale, PaintHiding hide) const
     {
         const auto paint = [&](QPainter &painter, double radius) {
             PaintMarks(painter, radius, {hourScale, minuteScale, kInk, kInk});
+            painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+            hide(painter, radius);
         };
         QImage moved = Painted(m_canvas, paint);
         Clear(moved, QRect(-m_canvas.topLeft(), m_area));
@@ -128,13 +132,15 @@ DialInk DialInkOf(HClockNode &node, const GlyphSource &source)
     if (!ink.isDrawn)
         return ink;
     const DialPainter dial(area, canvas);
-    ink.hourMarks = dial.Marks(scale, kNoMarks);
-    ink.minuteMarks = dial.Marks(kNoMarks, Number(node, Attribute::MinuteScaleType));
+    const auto paintNumerals = [&](QPainter &painter, double radius) {
+        if (!digits.IsNull())
+            PaintNumerals(painter, scale, radius, digits.Pixmap(), kBox);
+    };
+    ink.hourMarks = dial.Marks(scale, kNoMarks, paintNumerals);
+    ink.minuteMarks = dial.Marks(kNoMarks, Number(node, Attribute::MinuteScaleType), paintNumerals);
     if (digits.IsNull())
         return ink;
-    ink.numerals = dial.InkOf([&](QPainter &painter, double radius) {
-        PaintNumerals(painter, scale, radius, digits.Pixmap(), kBox);
-    });
+    ink.numerals = dial.InkOf(paintNumerals);
     ink.coveredNumerals = InkOfNumerals(scale, DialRadius(area), digits) - ink.numerals.Count();
     return ink;
 }
