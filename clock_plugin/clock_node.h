@@ -138,8 +138,8 @@ public:
     /// AfterUpdate or an earlier call there is nothing to move, and the records lose their files.
     void ProcessFileName(QString destDir);
     /// The same for the one image called name + key. No image is lost: it goes only where the same
-    /// bytes are there under the digest's name. The record and the entries of both lists are made even
-    /// for an image that is missing or cannot be moved.
+    /// bytes are there under the digest's name. The record and the entries of both lists are made
+    /// even for an image that is missing or cannot be moved.
     void SetFileInfo(QString name, QString key, QString destDir);
     /// Records every "file" child on the node, unchanged, and appends it to files.
     void ProcFile(QDomElement &element, QList<Lw::FileInfo> &files);

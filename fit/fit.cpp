@@ -4,8 +4,8 @@
 #include "clock_year.h"
 #include "cut_check.h"
 #include "font_check.h"
-#include "visibility.h"
 #include "overlap_check.h"
+#include "visibility.h"
 
 namespace ClockFit {
 

@@ -179,8 +179,9 @@ QVector<PartSize> SizesOfParts(ClockCheck &check, Lw::HNodeClock::HClockNode &no
 CommonSizes ShrunkSizes(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
                         const QRect &visible = {});
 
-/// Sizes at which nothing is cut, no larger than the node's: one part smaller where it alone is cut,
-/// else all by one factor. The node's own where nothing is cut; nothing where no sizes were found.
+/// Sizes at which nothing is cut, no larger than the node's: one part smaller where it alone is
+/// cut, else all by one factor. The node's own where nothing is cut; nothing where no sizes were
+/// found.
 std::optional<FontSizes> SizesThatFit(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
                                       const QRect &visible = {});
 

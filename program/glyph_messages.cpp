@@ -38,10 +38,9 @@ QString Names(const Faults &faults)
 
 QString Images(const Faults &faults)
 {
-    return faults.size() == 1 ? QStringLiteral("the glyph image %1").arg(Names(faults))
-                              : QStringLiteral("%1 glyph images (%2)")
-                                    .arg(faults.size())
-                                    .arg(Names(faults));
+    return faults.size() == 1
+        ? QStringLiteral("the glyph image %1").arg(Names(faults))
+        : QStringLiteral("%1 glyph images (%2)").arg(faults.size()).arg(Names(faults));
 }
 
 Faults WithOlderFile(const Faults &faults)

@@ -115,7 +115,8 @@ QStringList Faults(const Sources &sources)
             const auto include = match.next();
             const QString name = include.captured(2);
             const QString included = Included(sources, source.key(), name);
-            if (included.isEmpty() && include.captured(1) == "\"" && !IsGenerated(source.key(), name))
+            if (included.isEmpty() && include.captured(1) == "\""
+                && !IsGenerated(source.key(), name))
                 faults.append(source.key() + " includes " + name + ", which is not in the tree");
             if (!included.isEmpty()
                 && (FloorOf(included) < 0 || !MayInclude(from, FloorOf(included))))

@@ -97,7 +97,9 @@ const Damage kDamages[] = {
          MakeLink(path, path + QStringLiteral(".next"));
      }},
     {"link to nowhere",
-     [](const QString &path, const QByteArray &) { MakeLink(QStringLiteral("/dev/null/none"), path); }},
+     [](const QString &path, const QByteArray &) {
+         MakeLink(QStringLiteral("/dev/null/none"), path);
+     }},
     {"pipe", [](const QString &path, const QByteArray &) { MakePipe(path); }},
     {"link to a pipe",
      [](const QString &path, const QByteArray &) {

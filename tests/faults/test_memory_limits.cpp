@@ -390,9 +390,9 @@ void TestMemoryLimits::PlayerUnderALimit()
     const ProcessRun run =
         RunProcess(QStringLiteral("/bin/sh"),
                    {QStringLiteral("-c"), QStringLiteral("ulimit -v 307200; exec \"$0\" \"$@\""),
-                    QStringLiteral(PLAYER), program.fileName(),
-                    QStringLiteral("--large-frames"), QStringLiteral("--output"),
-                    directory.path(), QStringLiteral("--frames"), QStringLiteral("3")});
+                    QStringLiteral(PLAYER), program.fileName(), QStringLiteral("--large-frames"),
+                    QStringLiteral("--output"), directory.path(), QStringLiteral("--frames"),
+                    QStringLiteral("3")});
     QVERIFY(!run.crashed);
     QVERIFY2(run.exitCode == exitCode, qPrintable(run.errors));
     const QImage frame(directory.filePath(QStringLiteral("frame_0003.png")));

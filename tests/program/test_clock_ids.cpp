@@ -3,8 +3,8 @@
 #include <QtTest>
 
 using ClockProgram::ClockId;
-using ClockProgram::IdOfPlace;
 using ClockProgram::DistinctIds;
+using ClockProgram::IdOfPlace;
 
 Q_DECLARE_METATYPE(QVector<ClockId>)
 

@@ -34,11 +34,12 @@ private Q_SLOTS:
 
     void OneSentencePerReason()
     {
-        const GlyphMessages messages = DescribeGlyphFaults(
-            {Fault(GlyphFault::NotWritten, "_a", ENOSPC), Fault(GlyphFault::NotWritten, "_b", EACCES),
-             Fault(GlyphFault::NotWritten, "_c", ENOSPC),
-             Fault(GlyphFault::NotWritten, "_d", ENOSPC),
-             Fault(GlyphFault::NotWritten, "_e", ENOSPC)});
+        const GlyphMessages messages =
+            DescribeGlyphFaults({Fault(GlyphFault::NotWritten, "_a", ENOSPC),
+                                 Fault(GlyphFault::NotWritten, "_b", EACCES),
+                                 Fault(GlyphFault::NotWritten, "_c", ENOSPC),
+                                 Fault(GlyphFault::NotWritten, "_d", ENOSPC),
+                                 Fault(GlyphFault::NotWritten, "_e", ENOSPC)});
         QCOMPARE(messages.failures,
                  (QStringList {"/out: cannot write the glyph image _b: Permission denied",
                                "/out: cannot write 4 glyph images (_a, _c, _d and 1 more): No "
@@ -61,9 +62,9 @@ private Q_SLOTS:
 
     void Pictures()
     {
-        const GlyphMessages messages = DescribeGlyphFaults(
-            {Fault(GlyphFault::NoInk, "_a"), Fault(GlyphFault::TooLarge, "_b"),
-             Fault(GlyphFault::NoFont, "_c"), Fault(GlyphFault::NoFont, "_d")});
+        const GlyphMessages messages =
+            DescribeGlyphFaults({Fault(GlyphFault::NoInk, "_a"), Fault(GlyphFault::TooLarge, "_b"),
+                                 Fault(GlyphFault::NoFont, "_c"), Fault(GlyphFault::NoFont, "_d")});
         QCOMPARE(messages.failures,
                  (QStringList {"no font is installed, so no text can be drawn: 2 glyph images "
                                "(_c, _d)",

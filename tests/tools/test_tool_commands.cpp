@@ -42,8 +42,8 @@ void TestToolCommands::Help_data()
     QTest::newRow("of the tool") << QStringList {"--help"} << "Usage: clock_tool COMMAND";
     QTest::newRow("of the tool, short") << QStringList {"-h"} << "Usage: clock_tool COMMAND";
     QTest::newRow("version") << QStringList {"--version"} << "clock_tool ";
-    for (const char *command :
-         {"lint", "sdk", "import", "export", "glyphs", "attributes", "fonts", "zone", "self-test"}) {
+    for (const char *command : {"lint", "sdk", "import", "export", "glyphs", "attributes", "fonts",
+                                "zone", "self-test"}) {
         QTest::addRow("of %s", command)
             << QStringList {command, "--help"} << "Usage: clock_tool " + QString(command);
         QTest::addRow("version from %s", command)
@@ -183,7 +183,8 @@ void TestToolCommands::FontsTableIsInTheDocuments()
     const ProcessRun run =
         RunTool({"fonts", "DejaVu Sans", "DejaVu Sans Mono", "WenQuanYi Micro Hei"});
     QCOMPARE(run.exitCode, 0);
-    QVERIFY2(run.output.contains("| WenQuanYi Micro Hei | 14 | 5, 9, 12 |"), qPrintable(run.output));
+    QVERIFY2(run.output.contains("| WenQuanYi Micro Hei | 14 | 5, 9, 12 |"),
+             qPrintable(run.output));
     QVERIFY2(ReadText(InTree("docs/programs.md")).contains(run.output.toUtf8()),
              qPrintable(run.output));
     const ProcessRun unknown = RunTool({"fonts", "DejaVu Snas"});

@@ -228,8 +228,9 @@ void TestToolLint::Finds_data()
     row("digits that lose strokes",
         Digital("<date display='false'/>\n"
                 "<time fontName='WenQuanYi Micro Hei' fontSize='8' format='0'/>"),
-        3, {"\"WenQuanYi Micro Hei\" lose strokes at 8 points", "0 has 0 holes instead of 1",
-            "accepted: 9"});
+        3,
+        {"\"WenQuanYi Micro Hei\" lose strokes at 8 points", "0 has 0 holes instead of 1",
+         "accepted: 9"});
     row("colon that vanishes",
         Digital("<date display='false'/><time fontName='WenQuanYi Micro Hei'/>\n"
                 "<attribute key='DigitalTimeFSize' value='7'/>"),
@@ -394,9 +395,8 @@ void TestToolLint::ManyFindings()
     QVERIFY(WriteText(m_directory.filePath("many.xml"),
                       Digital(QByteArray("<weak/>\n").repeated(1010))));
     QVERIFY(WriteText(m_directory.filePath("faulty.xml"), Digital("<weak/>")));
-    const ProcessRun run =
-        RunTool({"lint", "--no-fit", m_directory.filePath("many.xml"),
-                 m_directory.filePath("faulty.xml")});
+    const ProcessRun run = RunTool(
+        {"lint", "--no-fit", m_directory.filePath("many.xml"), m_directory.filePath("faulty.xml")});
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(Warnings(run.errors).size(), 1001);
     QVERIFY2(run.errors.contains("/many.xml: and 10 more\n"), qPrintable(run.errors.right(300)));

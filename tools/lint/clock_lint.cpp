@@ -218,10 +218,10 @@ private:
         for (const GlyphImage &image : GlyphImages(GlyphOrder::Bookkeeping, m_type))
             keys.append(image.Key());
         if (!keys.contains(key))
-            return Warn(
-                At(file, kKey),
-                QStringLiteral("this clock has no image %1%2").arg(Quoted(key), DidYouMean(key, keys)),
-                Nearest(key, keys));
+            return Warn(At(file, kKey),
+                        QStringLiteral("this clock has no image %1%2")
+                            .arg(Quoted(key), DidYouMean(key, keys)),
+                        Nearest(key, keys));
         static const QRegularExpression digestForm(QStringLiteral("^[0-9a-f]{32}$"));
         const QString digest = file.attribute(QStringLiteral("md5"));
         if (!digestForm.match(digest).hasMatch())
