@@ -6,8 +6,10 @@
 set(CLOCK_INSTALL_ROOT lib/clock-player)
 set(CLOCK_INSTALL_DOC share/doc/clock-player)
 
-# Builds what the runtime component installs, and nothing else.
+# Builds what the runtime component installs, and nothing else; and what all components install.
 add_custom_target(clock_runtime)
+add_custom_target(clock_packages)
+add_dependencies(clock_packages clock_runtime)
 
 # clock_install_compressed(FILE FOLDER NAME [COMPONENT])
 # NAME.gz in the folder, as Debian wants changelogs and manual pages: compressed most, without a time
@@ -23,6 +25,7 @@ function(clock_install_compressed file folder name)
     add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
     set(component runtime ${ARGN})
     list(GET component -1 component)
+    add_dependencies(clock_packages compressed_${name})
     if(component STREQUAL runtime)
         add_dependencies(clock_runtime compressed_${name})
     endif()
@@ -44,6 +47,7 @@ function(clock_install_program target)
     set(component runtime ${ARGN})
     list(GET component -1 component)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/../lib")
+    add_dependencies(clock_packages ${target})
     if(component STREQUAL runtime)
         add_dependencies(clock_runtime ${target})
     endif()
@@ -82,6 +86,7 @@ endfunction()
 # The stand-in host's library is the programs' own, so it stays within their tree; its link for the
 # linker, the headers and the files for find_package(clock-player) are for development.
 function(clock_install_host)
+    add_dependencies(clock_packages lw_host)
     install(TARGETS lw_host EXPORT clock-player-targets
         LIBRARY DESTINATION ${CLOCK_INSTALL_ROOT}/lib
         COMPONENT runtime NAMELINK_COMPONENT development)
