@@ -130,17 +130,22 @@ MaybeFailure ExportDirectory::Lock()
 {
     if (m_lock.tryLock())
         return std::nullopt;
+    if (m_lock.error() == QLockFile::LockFailedError)
+        return Refusal(m_directory.path(),
+                       QStringLiteral("another export writes to this directory") + LockHolder());
+    return Refusal(m_directory.path(),
+                   QStringLiteral("cannot write to this directory: no permission, or no room"));
+}
+
+/// Empty where the other export has not written its name yet, or has just ended.
+QString ExportDirectory::LockHolder() const
+{
     qint64 process = 0;
     QString host;
     QString program;
-    if (m_lock.error() == QLockFile::LockFailedError
-        && m_lock.getLockInfo(&process, &host, &program))
-        return Refusal(m_directory.path(),
-                       QStringLiteral("another export writes to this directory (process %1 on %2)")
-                           .arg(process)
-                           .arg(host));
-    return Refusal(m_directory.path(),
-                   QStringLiteral("cannot write to this directory: no permission, or no room"));
+    if (!m_lock.getLockInfo(&process, &host, &program))
+        return {};
+    return QStringLiteral(" (process %1 on %2)").arg(process).arg(host);
 }
 
 /// Nothing is in it, or only what a first export leaves that fails or is interrupted.

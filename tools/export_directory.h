@@ -44,6 +44,7 @@ private:
     MaybeFailure CheckEntries() const;
     MaybeFailure CheckKinds() const;
     MaybeFailure Lock();
+    QString LockHolder() const;
     bool IsFree() const;
     bool IsExport() const;
     QStringList Leftovers() const;

@@ -2,6 +2,7 @@
 
 #include "compose/picture_file.h"
 #include "display/style_pictures.h"
+#include "image_bounds.h"
 
 #include <algorithm>
 
@@ -46,7 +47,8 @@ void PictureFace::LoadPictures()
 
     const QSize size = m_shared.Size();
     m_size = QSize(m_shared.frameWidth, size.height());
-    const int side = std::min(size.width(), size.height());
+    // Beyond the bounds nothing is drawn, and a host's size may be any number.
+    const int side = qBound(0, std::min(size.width(), size.height()), kImageSide + 1);
     const QRect dial((size.width() - side) / 2, (m_size.height() - side) / 2, side, side);
     DrawBackground(dial, folder + DialPicture(m_shared.Number(Attribute::PictrueClockType)));
 }

@@ -30,8 +30,8 @@ bool operator==(const GlyphContent &one, const GlyphContent &other)
 
 uint qHash(const GlyphContent &content, uint seed)
 {
-    return qHash(content.text, seed) ^ qHash(content.face, seed)
-        ^ ::qHash(content.colour * 2 + static_cast<int>(content.shape), seed);
+    return qHash(content.text, seed) ^ qHash(content.face, seed) ^ ::qHash(content.colour, seed)
+        ^ ::qHash(static_cast<int>(content.shape), ~seed);
 }
 
 // A text's direction is the application's unless its letters decide, and a size in points becomes
