@@ -95,7 +95,7 @@ void WorkDirectory::EndAtSignal()
     unsigned char number = 0;
     if (read(m_ends[0], &number, 1) != 1)
         return;
-    const auto held = HoldSignals();
+    [[maybe_unused]] const auto held = HoldSignals(); // until the process ends
     constexpr int kTries = 100;
     for (int tries = 0; tries < kTries && QDir(Path()).exists(); ++tries)
         QDir(Path()).removeRecursively();
