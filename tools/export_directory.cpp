@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QThread>
 
 #include <algorithm>
 
@@ -130,6 +131,12 @@ MaybeFailure ExportDirectory::Lock()
 {
     if (m_lock.tryLock())
         return std::nullopt;
+    // An export killed before it had filled its lock is named nowhere, and only its file is left.
+    if (m_lock.error() == QLockFile::LockFailedError && LockHolder().isEmpty()) {
+        QThread::msleep(200);
+        if (LockHolder().isEmpty() && m_lock.removeStaleLockFile() && m_lock.tryLock())
+            return std::nullopt;
+    }
     if (m_lock.error() == QLockFile::LockFailedError)
         return Refusal(m_directory.path(),
                        QStringLiteral("another export writes to this directory") + LockHolder());
