@@ -74,8 +74,8 @@ void Area::StartRenderer()
     if (!player)
         return;
     connect(player, &Lw::pictureplayer::ImageUpdated, this, &Area::Show);
-    Show(player->LastImage());
     m_damage = m_render ? m_render->findChild<QObject *>(QLatin1String(kDamageName)) : nullptr;
+    Show(player->LastImage()); // who is shown it may delete this area
 }
 
 void Area::Show(const QImage &image)
