@@ -551,9 +551,8 @@ void TestClockPlayer::FullDevice()
 void TestClockPlayer::FrameBeyondTheFileSize()
 {
     const PlayerRun run =
-        RunProcess("sh",
-                   {"-c", "trap '' XFSZ; ulimit -f 0; exec \"$0\" \"$@\"", QStringLiteral(PLAYER),
-                    "--plugin-dir", kPanels, "--output", Path("out"), "--files-dir", Path("files"),
+        RunInShell("trap '' XFSZ; ulimit -f 0; exec \"$@\"", PLAYER,
+                   {"--plugin-dir", kPanels, "--output", Path("out"), "--files-dir", Path("files"),
                     WriteProgram(Area(0, "<panel/>"))});
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(run.errors,

@@ -48,6 +48,13 @@ inline ProcessRun RunProcess(const QString &program, const QStringList &argument
     return run;
 }
 
+/// Runs a shell script in which "$@" is the program's command line.
+inline ProcessRun RunInShell(const QString &script, const QString &program,
+                             const QStringList &arguments = {})
+{
+    return RunProcess("sh", QStringList {"-c", script, "sh"} + CommandLine(program, arguments));
+}
+
 /// All frames of a directory in their order.
 inline QVector<QImage> Frames(const QString &directory)
 {

@@ -21,16 +21,22 @@ inline bool IsEmulated()
     return !qEnvironmentVariableIsEmpty("CLOCK_EMULATOR");
 }
 
-/// CLOCK_EMULATOR is the emulator and its arguments, with colons between them; unset or empty
-/// where nothing is emulated.
-inline void StartProgram(QProcess &process, const QString &program, const QStringList &arguments)
+/// The command line that runs a program, with the emulator before it where it needs one.
+/// CLOCK_EMULATOR is the emulator and its arguments, separated by colons; unset or empty where
+/// nothing is emulated.
+inline QStringList CommandLine(const QString &program, const QStringList &arguments = {})
 {
     const QString emulator = qEnvironmentVariable("CLOCK_EMULATOR");
     const bool isOwn = MachineOf(program) == MachineOf(QStringLiteral("/proc/self/exe"));
     QStringList words = {program};
     if (isOwn && !emulator.isEmpty())
         words = emulator.split(':') + words;
-    words += arguments;
+    return words + arguments;
+}
+
+inline void StartProgram(QProcess &process, const QString &program, const QStringList &arguments)
+{
+    QStringList words = CommandLine(program, arguments);
     const QString first = words.takeFirst();
     process.start(first, words);
 }

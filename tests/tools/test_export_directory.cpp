@@ -234,8 +234,7 @@ void TestExportDirectory::SignalsTidyUp()
 void TestExportDirectory::IgnoredHangupIsIgnored()
 {
     const QString script = "trap '' HUP; \"$@\" & tool=$!; sleep 0.1; kill -HUP $tool; wait $tool";
-    const ProcessRun run = RunProcess(
-        "sh", QStringList {"-c", script, "sh", QStringLiteral(TOOL)} + Arguments("first", "out"));
+    const ProcessRun run = RunInShell(script, TOOL, Arguments("first", "out"));
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     QCOMPARE(FaultOf(Path("out")), QString());
 }

@@ -157,8 +157,9 @@ void TestToolTargets::StandardOutput()
 
 void TestToolTargets::StandardOutputKeepsWhatIsThere()
 {
-    const QString script = "{ echo head; \"$0\" attributes -o /dev/stdout; echo tail; } >\"$1\"";
-    const ProcessRun run = RunProcess("sh", {"-c", script, TOOL, Path("file")});
+    const QString script = "{ echo head; \"$@\"; echo tail; } >'%1'";
+    const ProcessRun run =
+        RunInShell(script.arg(Path("file")), TOOL, {"attributes", "-o", "/dev/stdout"});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(ReadText(Path("file")), "head\n" + Expected({"attributes"}) + "tail\n");
 }
@@ -205,8 +206,7 @@ void TestToolTargets::FullStandardOutput_data()
 void TestToolTargets::FullStandardOutput()
 {
     QFETCH(QString, command);
-    const ProcessRun run =
-        RunProcess("sh", {"-c", "\"$0\" " + command + " >/dev/full", QStringLiteral(TOOL)});
+    const ProcessRun run = RunInShell("\"$@\" >/dev/full", TOOL, command.split(' '));
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains("cannot write to standard output"), qPrintable(run.errors));
 }
