@@ -59,10 +59,53 @@ TimeBar::TimeBar(LiveWall &wall, QWidget *parent)
     : QWidget(parent), m_wall(wall), m_run(Button({}, {})), m_day(new QSlider(Qt::Horizontal)),
       m_date(new QDateTimeEdit), m_speed(new QComboBox)
 {
+    auto *const now = Button(tr("Now"), tr("Show the present time"));
+    connect(now, &QToolButton::clicked, this, &TimeBar::ReturnToPresent);
+    m_run->setCheckable(true);
+    SetUpDate();
+    SetUpDay();
+    SetUpSpeed();
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 12, 6);
     layout->setSpacing(8);
-    auto *const now = Button(tr("Now"), tr("Show the present time"));
+    layout->addWidget(m_run);
+    layout->addWidget(now);
+    layout->addWidget(m_date);
+    layout->addWidget(m_day, 1);
+    layout->addWidget(m_speed);
+    layout->addWidget(NextChangeButton());
+    FollowControls();
+    connect(&m_refresh, &QTimer::timeout, this, &TimeBar::ShowTime);
+    m_refresh.start(kRefresh);
+    ShowTime();
+}
+
+void TimeBar::SetUpDate()
+{
+    m_date->setCalendarPopup(true);
+    m_date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    m_date->setAccessibleName(tr("Date and time that the wall shows"));
+    m_date->setToolTip(m_date->accessibleName());
+}
+
+void TimeBar::SetUpDay()
+{
+    m_day->setRange(0, kMinutesPerDay - 1);
+    m_day->setPageStep(60);
+    m_day->setAccessibleName(tr("Time of day"));
+    m_day->setToolTip(tr("Drag through the hours of the day"));
+}
+
+void TimeBar::SetUpSpeed()
+{
+    m_speed->setToolTip(tr("How fast the time runs"));
+    m_speed->setAccessibleName(m_speed->toolTip());
+    for (const double speed : kSpeeds)
+        m_speed->addItem(QStringLiteral("%1×").arg(speed), speed);
+}
+
+QToolButton *TimeBar::NextChangeButton()
+{
     auto *const next = Button(tr("Next change"), tr("Go to shortly before the next change"));
     auto *const changes = new QMenu(next);
     for (const ChangeName &change : kChanges)
@@ -70,25 +113,11 @@ TimeBar::TimeBar(LiveWall &wall, QWidget *parent)
                            [this, change] { GoToNext(static_cast<int>(change.kind)); });
     next->setMenu(changes);
     next->setPopupMode(QToolButton::InstantPopup);
-    m_run->setCheckable(true);
-    m_date->setCalendarPopup(true);
-    m_date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-    m_date->setAccessibleName(tr("Date and time that the wall shows"));
-    m_date->setToolTip(m_date->accessibleName());
-    m_day->setRange(0, kMinutesPerDay - 1);
-    m_day->setPageStep(60);
-    m_day->setAccessibleName(tr("Time of day"));
-    m_day->setToolTip(tr("Drag through the hours of the day"));
-    m_speed->setToolTip(tr("How fast the time runs"));
-    m_speed->setAccessibleName(m_speed->toolTip());
-    for (const double speed : kSpeeds)
-        m_speed->addItem(QStringLiteral("%1×").arg(speed), speed);
-    for (QWidget *const control : std::initializer_list<QWidget *> {m_run, now, m_date})
-        layout->addWidget(control);
-    layout->addWidget(m_day, 1);
-    layout->addWidget(m_speed);
-    layout->addWidget(next);
-    connect(now, &QToolButton::clicked, this, &TimeBar::ReturnToPresent);
+    return next;
+}
+
+void TimeBar::FollowControls()
+{
     connect(m_run, &QToolButton::toggled, this, [this](bool runs) {
         if (!m_shows)
             SetRunning(runs);
@@ -106,9 +135,6 @@ TimeBar::TimeBar(LiveWall &wall, QWidget *parent)
         StageTime::Travel().SetSpeed(kSpeeds[index], StageTime::Real());
         TimeChanged();
     });
-    connect(&m_refresh, &QTimer::timeout, this, &TimeBar::ShowTime);
-    m_refresh.start(kRefresh);
-    ShowTime();
 }
 
 void TimeBar::GoTo(qint64 instant)

@@ -27,6 +27,11 @@ public:
     void SetRunning(bool runs);
 
 private:
+    void SetUpDate();
+    void SetUpDay();
+    void SetUpSpeed();
+    QToolButton *NextChangeButton();
+    void FollowControls();
     void GoToNext(int kind);
     void ShowTime();
     void TimeChanged();

@@ -46,6 +46,17 @@ QPixmap Card(const QImage &wall)
     return card;
 }
 
+/// Calls the handler with the data of each item that is clicked or activated.
+template<typename Handler>
+void WhenChosen(QListWidget &list, const Handler &handler)
+{
+    const auto chosen = [handler](QListWidgetItem *item) {
+        handler(item->data(Qt::UserRole).toString());
+    };
+    QObject::connect(&list, &QListWidget::itemActivated, &list, chosen);
+    QObject::connect(&list, &QListWidget::itemClicked, &list, chosen);
+}
+
 } // namespace
 
 Gallery::Gallery(QWidget *parent)
@@ -55,24 +66,45 @@ Gallery::Gallery(QWidget *parent)
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(36, 28, 36, 28);
     layout->setSpacing(36);
-    auto *const left = new QVBoxLayout;
+    layout->addLayout(BeginningPart(), 1);
+    layout->addLayout(TemplatesPart(), 4);
+    AddTemplates();
+}
+
+/// Buttons and recent files.
+QLayout *Gallery::BeginningPart()
+{
+    auto *const part = new QVBoxLayout;
     auto *const empty = new QPushButton(tr("Empty wall"));
     auto *const open = new QPushButton(tr("Open a file…"));
-    left->addWidget(Heading(tr("Begin")));
-    left->addWidget(empty);
-    left->addWidget(open);
-    auto *const recentLayout = new QVBoxLayout(m_recentPart);
-    recentLayout->setContentsMargins(0, 20, 0, 0);
-    recentLayout->addWidget(Heading(tr("Recent")));
-    recentLayout->addWidget(m_recent);
+    connect(empty, &QPushButton::clicked, this, &Gallery::BeginEmpty);
+    connect(open, &QPushButton::clicked, this, &Gallery::OpenWanted);
+    part->addWidget(Heading(tr("Begin")));
+    part->addWidget(empty);
+    part->addWidget(open);
+    SetUpRecentPart();
+    part->addWidget(m_recentPart, 1);
+    part->addStretch(0);
+    return part;
+}
+
+void Gallery::SetUpRecentPart()
+{
+    auto *const layout = new QVBoxLayout(m_recentPart);
+    layout->setContentsMargins(0, 20, 0, 0);
+    layout->addWidget(Heading(tr("Recent")));
+    layout->addWidget(m_recent);
     m_recent->setFrameShape(QFrame::NoFrame);
     m_recent->viewport()->setAutoFillBackground(false);
     m_recent->setAccessibleName(tr("Recent files"));
-    left->addWidget(m_recentPart, 1);
-    left->addStretch(0);
-    auto *const right = new QVBoxLayout;
-    right->addWidget(Heading(tr("Templates")));
-    right->addWidget(m_templates, 1);
+    WhenChosen(*m_recent, [this](const QString &path) { emit FileChosen(path); });
+}
+
+QLayout *Gallery::TemplatesPart()
+{
+    auto *const part = new QVBoxLayout;
+    part->addWidget(Heading(tr("Templates")));
+    part->addWidget(m_templates, 1);
     m_templates->setViewMode(QListView::IconMode);
     m_templates->setIconSize(kPicture);
     m_templates->setGridSize(kPicture + QSize(20, 44));
@@ -82,21 +114,9 @@ Gallery::Gallery(QWidget *parent)
     m_templates->setSpacing(8);
     m_templates->viewport()->setAutoFillBackground(false);
     m_templates->setAccessibleName(tr("Templates"));
-    layout->addLayout(left, 1);
-    layout->addLayout(right, 4);
-    connect(empty, &QPushButton::clicked, this, &Gallery::BeginEmpty);
-    connect(open, &QPushButton::clicked, this, &Gallery::OpenWanted);
-    const auto chosen = [this](QListWidgetItem *item) {
-        emit TemplateChosen(TemplateBytes(item->data(Qt::UserRole).toString()));
-    };
-    connect(m_templates, &QListWidget::itemActivated, this, chosen);
-    connect(m_templates, &QListWidget::itemClicked, this, chosen);
-    const auto opened = [this](QListWidgetItem *item) {
-        emit FileChosen(item->data(Qt::UserRole).toString());
-    };
-    connect(m_recent, &QListWidget::itemActivated, this, opened);
-    connect(m_recent, &QListWidget::itemClicked, this, opened);
-    AddTemplates();
+    WhenChosen(*m_templates,
+               [this](const QString &name) { emit TemplateChosen(TemplateBytes(name)); });
+    return part;
 }
 
 void Gallery::AddTemplates()

@@ -6,8 +6,6 @@
 
 QT_BEGIN_NAMESPACE
 class QListWidget;
-class QListWidgetItem;
-class QVBoxLayout;
 QT_END_NAMESPACE
 
 namespace ClockStudio {
@@ -27,6 +25,9 @@ Q_SIGNALS:
     void OpenWanted();
 
 private:
+    QLayout *BeginningPart();
+    void SetUpRecentPart();
+    QLayout *TemplatesPart();
     void AddTemplates();
     void DrawNextPicture();
     void BeginEmpty();

@@ -31,6 +31,24 @@ const Command kSeparator {};
 /// Panels that walls are made of, in pixels; the first shows no grid.
 constexpr QSize kModules[] = {{0, 0}, {32, 16}, {32, 32}, {64, 32}, {64, 64}, {128, 64}};
 
+/// Draws a new clock's place on the wall.
+struct DrawingTool
+{
+    ClockKind kind;
+    const char *text;
+    const char *key;
+    int type; ///< as in the attribute
+};
+
+constexpr DrawingTool kDrawingTools[] = {
+    {ClockKind::Digital, QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "Digital clock"),
+     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "D"), 1},
+    {ClockKind::Analog, QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "Analog clock"),
+     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "A"), 0},
+    {ClockKind::Picture, QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "Picture clock"),
+     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "P"), 2},
+};
+
 } // namespace
 
 QMenu *MainWindow::AddMenu(const QString &title, const QVector<Command> &commands)
@@ -237,36 +255,40 @@ void MainWindow::MakeHelpMenu()
 
 void MainWindow::MakeToolBar()
 {
-    struct DrawTool
-    {
-        ClockKind kind;
-        QString text;
-        QString key;
-        int type;
-    };
-    const DrawTool tools[] = {{ClockKind::Digital, tr("Digital clock"), tr("D"), 1},
-                              {ClockKind::Analog, tr("Analog clock"), tr("A"), 0},
-                              {ClockKind::Picture, tr("Picture clock"), tr("P"), 2}};
     QToolBar *const bar = addToolBar(tr("Tools"));
     bar->setObjectName(QStringLiteral("tools"));
     bar->setMovable(false);
     bar->setIconSize({32, 22});
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    AddDrawingTools(*bar);
+    auto *const space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(space);
+    for (QAction *const action : qAsConst(m_actions)) {
+        if (action->text() == tr("As &diodes") || action->text() == tr("Sen&d to a wall…"))
+            bar->addAction(action);
+    }
+}
+
+void MainWindow::AddDrawingTools(QToolBar &bar)
+{
     m_drawing = new QActionGroup(this);
     m_drawing->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
-    for (const DrawTool &tool : tools) {
-        QAction *const action = bar->addAction(QIcon(KindPicture(tool.type)), tool.text);
+    for (const DrawingTool &tool : kDrawingTools) {
+        const QString text = tr(tool.text);
+        const QString key = tr(tool.key);
+        QAction *const action = bar.addAction(QIcon(KindPicture(tool.type)), text);
         action->setCheckable(true);
-        action->setShortcut(QKeySequence(tool.key));
-        action->setToolTip(tr("%1: draw its place on the wall (%2)").arg(tool.text, tool.key));
+        action->setShortcut(QKeySequence(key));
+        action->setToolTip(tr("%1: draw its place on the wall (%2)").arg(text, key));
         action->setProperty("needsWall", true);
         action->setData(static_cast<int>(tool.kind));
         m_drawing->addAction(action);
         m_actions.append(action);
-        connect(action, &QAction::toggled, this, [this, tool](bool on) {
+        connect(action, &QAction::toggled, this, [this, kind = tool.kind](bool on) {
             if (on)
-                m_view->Mouse().SetDrawing(tool.kind);
-            else if (m_view->Mouse().Drawing() == tool.kind)
+                m_view->Mouse().SetDrawing(kind);
+            else if (m_view->Mouse().Drawing() == kind)
                 m_view->Mouse().SetDrawing({});
         });
     }
@@ -276,13 +298,6 @@ void MainWindow::MakeToolBar()
                 action->setChecked(false);
         }
     });
-    auto *const space = new QWidget;
-    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    bar->addWidget(space);
-    for (QAction *const action : qAsConst(m_actions)) {
-        if (action->text() == tr("As &diodes") || action->text() == tr("Sen&d to a wall…"))
-            bar->addAction(action);
-    }
 }
 
 void MainWindow::MakeStatus()

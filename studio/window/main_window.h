@@ -60,6 +60,7 @@ private:
     void MakeLanguageMenu(QMenu &view);
     void MakeHelpMenu();
     void MakeToolBar();
+    void AddDrawingTools(QToolBar &bar);
     void MakeStatus();
     QMenu *AddMenu(const QString &title, const QVector<Command> &commands);
     void FillRecent(QMenu &menu);
