@@ -26,6 +26,42 @@ void CountMessage(QtMsgType, const QMessageLogContext &, const QString &)
 
 constexpr QRgb kKeyColour = 0xff010201;
 
+struct SettingChange
+{
+    int second;
+    const char *key;
+    int value;
+};
+
+constexpr SettingChange kSettingChanges[] = {
+    {10, "AnalogSpace", 7},          {20, "AnalogSwapArea", 1},  {30, "Analog_Date_d", 0},
+    {40, "Analog_Date_d", 2},        {50, "Analog_Lunar_d", 1},  {60, "AnalogSpace", -5},
+    {70, "HourHandColor", 0x00ffff}, {80, "SecondRectType", 1},  {90, "HourScaleType", 1},
+    {130, "ClockType", 2},           {135, "ClockType", 0},      {140, "ClockType", 3},
+    {145, "ClockType", 0},           {150, "AnalogSwapArea", 2}, {250, "SecondRectType", 9},
+};
+
+struct SizeChange
+{
+    int second;
+    QSize size;
+};
+
+constexpr SizeChange kSizeChanges[] = {
+    {100, {111, 130}}, {110, {120, 110}}, {160, {}}, {165, {64, 64}}};
+
+void ChangeSettings(Clock &clock, int second)
+{
+    for (const SettingChange &change : kSettingChanges) {
+        if (change.second == second)
+            clock.Set(change.key, change.value);
+    }
+    for (const SizeChange &change : kSizeChanges) {
+        if (change.second == second)
+            clock.node.SetSize(change.size);
+    }
+}
+
 } // namespace
 
 class TestAnalogFrames : public QObject
@@ -141,70 +177,9 @@ void TestAnalogFrames::ChangingSettings()
     PlainClock plain(&clock.node);
     QImage held;
     for (int i = 0; i < 300; ++i, AdvanceSecond()) {
-        switch (i) {
-        case 10:
-            clock.Set("AnalogSpace", 7);
-            break;
-        case 20:
-            clock.Set("AnalogSwapArea", 1);
-            break;
-        case 30:
-            clock.Set("Analog_Date_d", 0);
-            break;
-        case 40:
-            clock.Set("Analog_Date_d", 2);
-            break;
-        case 50:
-            clock.Set("Analog_Lunar_d", 1);
-            break;
-        case 60:
-            clock.Set("AnalogSpace", -5);
-            break;
-        case 70:
-            clock.Set("HourHandColor", 0x00ffff);
-            break;
-        case 80:
-            clock.Set("SecondRectType", 1);
-            break;
-        case 90:
-            clock.Set("HourScaleType", 1);
-            break;
-        case 100:
-            clock.node.SetSize(QSize(111, 130));
-            break;
-        case 110:
-            clock.node.SetSize(QSize(120, 110));
-            break;
-        case 120:
+        ChangeSettings(clock, i);
+        if (i == 120)
             Lw::HAppConfig::SetRenderImageFormat(format == 5 ? 4 : 5);
-            break;
-        case 130:
-            clock.Set("ClockType", 2);
-            break;
-        case 135:
-            clock.Set("ClockType", 0);
-            break;
-        case 140:
-            clock.Set("ClockType", 3);
-            break;
-        case 145:
-            clock.Set("ClockType", 0);
-            break;
-        case 150:
-            clock.Set("AnalogSwapArea", 2);
-            break;
-        case 160:
-            clock.node.SetSize(QSize());
-            break;
-        case 165:
-            clock.node.SetSize(QSize(64, 64));
-            break;
-        case 250:
-            clock.Set("SecondRectType", 9);
-            break;
-        default:
-            break;
-        }
         const QImage frame = drawer.DrawClockDisplayImage();
         const QImage expected = plain.Frame();
         if (!clock.node.Size().isEmpty())

@@ -34,6 +34,70 @@ using LayOut = void (*)(const DigitalArea &, Rows &);
 constexpr LayOut kByCount[] = {nullptr,         LayOutOneRow,   LayOutTwoRows,
                                LayOutThreeRows, LayOutFourRows, LayOutFiveRows};
 
+// Rows as letters: top text, date, week, time (hour), lunar date.
+struct LayoutCase
+{
+    const char *shown;
+    int height;
+    int space;
+    int swap;
+    const char *tops;
+};
+
+constexpr LayoutCase kLayouts[] = {
+    // One row positions all five.
+    {"h", 100, 5, 0, "t45 d44 w43 h40 l42"},
+    {"h", 101, 5, 1, "t45 d44 w43 h40 l42"},
+    // Two rows: the centre is 50, half of 5 is 2; week and time take the odd pixel above.
+    {"dw", 100, 5, 0, "d36 w52"},
+    {"dw", 100, 5, 1, "d52 w34"},
+    {"dw", 100, 5, 2, "d36 w52"},
+    {"td", 100, 5, 0, "t38 d52"},
+    {"tw", 100, 5, 1, "t38 w52"},
+    {"th", 100, 5, 0, "t38 h52"},
+    {"tl", 100, 5, 0, "t38 l52"},
+    {"dh", 100, 5, 0, "d36 h52"},
+    {"dl", 100, 5, 0, "d36 l52"},
+    {"wh", 100, 5, 0, "w33 h52"},
+    {"wh", 100, 5, 1, "w33 h52"},
+    {"wl", 100, 5, 0, "w33 l52"},
+    {"hl", 100, 5, 0, "h27 l52"},
+    {"hl", 100, 4, 0, "h28 l52"},
+    // Half of -3 is -1, and it is odd.
+    {"hl", 100, -3, 0, "h30 l49"},
+    {"hl", 100, -4, 0, "h32 l48"},
+    // Three rows: the middle one is centred.
+    {"tdw", 100, 5, 0, "t28 d62 w43"},
+    {"tdw", 100, 5, 1, "t29 d44 w61"},
+    {"tdw", 100, 5, 2, "t28 d62 w43"},
+    {"tdh", 100, 5, 0, "t29 d44 h61"},
+    {"tdl", 100, 5, 0, "t29 d44 l61"},
+    {"twh", 100, 5, 1, "t28 w43 h62"},
+    {"twl", 100, 5, 1, "t28 w43 l62"},
+    {"thl", 100, 5, 0, "t25 h40 l65"},
+    {"dwh", 100, 5, 0, "d44 w25 h61"},
+    {"dwh", 100, 5, 1, "d26 w43 h62"},
+    {"dwl", 100, 5, 0, "d44 w25 l61"},
+    {"dwl", 100, 5, 1, "d26 w43 l62"},
+    {"dhl", 100, 5, 0, "d23 h40 l65"},
+    {"whl", 100, 5, 0, "w21 h40 l65"},
+    // Four rows: the gap between the middle two is centred, without an odd pixel.
+    {"tdwh", 100, 5, 0, "t19 d52 w34 h69"},
+    {"tdwh", 100, 5, 1, "t21 d36 w52 h71"},
+    {"tdwl", 100, 5, 0, "t19 d52 w34 l69"},
+    {"tdwl", 100, 5, 1, "t21 d36 w52 l71"},
+    {"tdhl", 100, 5, 0, "t21 d36 h52 l77"},
+    {"twhl", 100, 5, 1, "t19 w34 h52 l77"},
+    {"dwhl", 100, 5, 0, "d36 w17 h52 l77"},
+    {"dwhl", 100, 5, 1, "d17 w34 h52 l77"},
+    {"dwhl", 100, -3, 1, "d28 w37 h49 l66"},
+    // Five rows.
+    {"tdwhl", 200, 5, 0, "t60 d94 w75 h111 l136"},
+    {"tdwhl", 200, 5, 1, "t61 d76 w93 h112 l137"},
+    {"tdwhl", 200, 5, 2, "t60 d94 w75 h111 l136"},
+    {"tdwhl", 200, 0, 0, "t70 d94 w80 h106 l126"},
+};
+
 } // namespace
 
 class TestRowLayout : public QObject
@@ -58,61 +122,11 @@ void TestRowLayout::Digital_data()
     QTest::addColumn<int>("space");
     QTest::addColumn<int>("swap");
     QTest::addColumn<QString>("tops");
-    const auto row = [](const char *shown, int height, int space, int swap, const char *tops) {
-        QTest::addRow("%s in %d, space %d, swap %d", shown, height, space, swap)
-            << QString(shown) << height << space << swap << QString(tops);
-    };
-    // One row positions all five.
-    row("h", 100, 5, 0, "t45 d44 w43 h40 l42");
-    row("h", 101, 5, 1, "t45 d44 w43 h40 l42");
-    // Two rows: the centre is 50, half of 5 is 2; week and time take the odd pixel above.
-    row("dw", 100, 5, 0, "d36 w52");
-    row("dw", 100, 5, 1, "d52 w34");
-    row("dw", 100, 5, 2, "d36 w52");
-    row("td", 100, 5, 0, "t38 d52");
-    row("tw", 100, 5, 1, "t38 w52");
-    row("th", 100, 5, 0, "t38 h52");
-    row("tl", 100, 5, 0, "t38 l52");
-    row("dh", 100, 5, 0, "d36 h52");
-    row("dl", 100, 5, 0, "d36 l52");
-    row("wh", 100, 5, 0, "w33 h52");
-    row("wh", 100, 5, 1, "w33 h52");
-    row("wl", 100, 5, 0, "w33 l52");
-    row("hl", 100, 5, 0, "h27 l52");
-    row("hl", 100, 4, 0, "h28 l52");
-    // Half of -3 is -1, and it is odd.
-    row("hl", 100, -3, 0, "h30 l49");
-    row("hl", 100, -4, 0, "h32 l48");
-    // Three rows: the middle one is centred.
-    row("tdw", 100, 5, 0, "t28 d62 w43");
-    row("tdw", 100, 5, 1, "t29 d44 w61");
-    row("tdw", 100, 5, 2, "t28 d62 w43");
-    row("tdh", 100, 5, 0, "t29 d44 h61");
-    row("tdl", 100, 5, 0, "t29 d44 l61");
-    row("twh", 100, 5, 1, "t28 w43 h62");
-    row("twl", 100, 5, 1, "t28 w43 l62");
-    row("thl", 100, 5, 0, "t25 h40 l65");
-    row("dwh", 100, 5, 0, "d44 w25 h61");
-    row("dwh", 100, 5, 1, "d26 w43 h62");
-    row("dwl", 100, 5, 0, "d44 w25 l61");
-    row("dwl", 100, 5, 1, "d26 w43 l62");
-    row("dhl", 100, 5, 0, "d23 h40 l65");
-    row("whl", 100, 5, 0, "w21 h40 l65");
-    // Four rows: the gap between the middle two is centred, without an odd pixel.
-    row("tdwh", 100, 5, 0, "t19 d52 w34 h69");
-    row("tdwh", 100, 5, 1, "t21 d36 w52 h71");
-    row("tdwl", 100, 5, 0, "t19 d52 w34 l69");
-    row("tdwl", 100, 5, 1, "t21 d36 w52 l71");
-    row("tdhl", 100, 5, 0, "t21 d36 h52 l77");
-    row("twhl", 100, 5, 1, "t19 w34 h52 l77");
-    row("dwhl", 100, 5, 0, "d36 w17 h52 l77");
-    row("dwhl", 100, 5, 1, "d17 w34 h52 l77");
-    row("dwhl", 100, -3, 1, "d28 w37 h49 l66");
-    // Five rows.
-    row("tdwhl", 200, 5, 0, "t60 d94 w75 h111 l136");
-    row("tdwhl", 200, 5, 1, "t61 d76 w93 h112 l137");
-    row("tdwhl", 200, 5, 2, "t60 d94 w75 h111 l136");
-    row("tdwhl", 200, 0, 0, "t70 d94 w80 h106 l126");
+    for (const LayoutCase &layout : kLayouts)
+        QTest::addRow("%s in %d, space %d, swap %d", layout.shown, layout.height, layout.space,
+                      layout.swap)
+            << QString(layout.shown) << layout.height << layout.space << layout.swap
+            << QString(layout.tops);
 }
 
 void TestRowLayout::Digital()

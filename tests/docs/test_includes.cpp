@@ -147,6 +147,53 @@ Sources SourcesOfTheTree()
     return sources;
 }
 
+// An include in a file, and what is wrong with it; nothing by default.
+struct IncludeCase
+{
+    const char *name;
+    const char *path;
+    const char *include;
+    const char *fault = "";
+};
+
+constexpr IncludeCase kIncludes[] = {
+    {"down", "clock_plugin/display/a.cpp", "\"glyph/glyph_set.h\""},
+    {"two rooms of the plugin's root", "clock_plugin/clock_node_sdk.cpp", "\"clock_node.h\""},
+    {"same room", "clock_plugin/glyph/a.cpp", "\"glyph/glyph_set.h\""},
+    {"same folder", "clock_plugin/glyph/a.cpp", "\"glyph_set.h\""},
+    {"to the host", "program/a.cpp", "\"hnode.h\""},
+    {"a library's", "clock_plugin/calendar/a.cpp", "<QString>"},
+    {"generated", "tools/a.cpp", "\"catalogues.h\""},
+    {"its own meta-objects", "tools/a.cpp", "\"a.moc\""},
+
+    {"those of another file", "tools/a.cpp", "\"b.moc\"",
+     "tools/a.cpp includes b.moc, which is not in the tree"},
+    {"up", "clock_plugin/clock_node_sdk.cpp", "\"glyph/glyph_set.h\"",
+     "clock_plugin/clock_node_sdk.cpp includes clock_plugin/glyph/glyph_set.h"},
+    {"up within the plugin's root", "clock_plugin/clock_node.cpp", "\"clock_sdk_tables.h\"",
+     "clock_plugin/clock_node.cpp includes clock_plugin/clock_sdk_tables.h"},
+    {"up from the host", "host/a.cpp", "\"clock_node.h\"",
+     "host/a.cpp includes clock_plugin/clock_node.h"},
+    {"up by a path", "clock_plugin/glyph/a.cpp", "\"../../tools/tool.h\"",
+     "clock_plugin/glyph/a.cpp includes tools/tool.h"},
+    {"up in angles", "clock_plugin/glyph/a.cpp", "<display/row_layout.h>",
+     "clock_plugin/glyph/a.cpp includes clock_plugin/display/row_layout.h"},
+    {"out of a pure room", "clock_plugin/calendar/a.cpp", "\"hnode.h\"",
+     "clock_plugin/calendar/a.cpp includes host/hnode.h"},
+    {"a player that knows the plugin", "player/a.cpp", "\"clock_node.h\"",
+     "player/a.cpp includes clock_plugin/clock_node.h"},
+    {"a stage that knows its plugin", "stage/a.cpp", "\"clock_node.h\"",
+     "stage/a.cpp includes clock_plugin/clock_node.h"},
+    {"a stage that knows the player", "stage/a.cpp", "\"../player/player.h\"",
+     "stage/a.cpp includes player/player.h"},
+    {"a program that knows the plugin", "program/a.cpp", "\"clock_attributes.h\"",
+     "program/a.cpp includes clock_plugin/clock_attributes.h"},
+    {"nowhere", "program/a.cpp", "\"nowhere.h\"",
+     "program/a.cpp includes nowhere.h, which is not in the tree"},
+    {"in no room", "clock_plugin/attic.cpp", "<QString>",
+     "clock_plugin/attic.cpp stands in no room"},
+};
+
 } // namespace
 
 class TestIncludes : public QObject
@@ -165,45 +212,8 @@ void TestIncludes::rooms_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("include");
     QTest::addColumn<QString>("fault");
-    const auto row = [](const char *name, const char *path, const char *include,
-                        const char *fault = "") {
-        QTest::newRow(name) << path << include << fault;
-    };
-    row("down", "clock_plugin/display/a.cpp", "\"glyph/glyph_set.h\"");
-    row("two rooms of the plugin's root", "clock_plugin/clock_node_sdk.cpp", "\"clock_node.h\"");
-    row("same room", "clock_plugin/glyph/a.cpp", "\"glyph/glyph_set.h\"");
-    row("same folder", "clock_plugin/glyph/a.cpp", "\"glyph_set.h\"");
-    row("to the host", "program/a.cpp", "\"hnode.h\"");
-    row("a library's", "clock_plugin/calendar/a.cpp", "<QString>");
-    row("generated", "tools/a.cpp", "\"catalogues.h\"");
-    row("its own meta-objects", "tools/a.cpp", "\"a.moc\"");
-    row("those of another file", "tools/a.cpp", "\"b.moc\"",
-        "tools/a.cpp includes b.moc, which is not in the tree");
-
-    row("up", "clock_plugin/clock_node_sdk.cpp", "\"glyph/glyph_set.h\"",
-        "clock_plugin/clock_node_sdk.cpp includes clock_plugin/glyph/glyph_set.h");
-    row("up within the plugin's root", "clock_plugin/clock_node.cpp", "\"clock_sdk_tables.h\"",
-        "clock_plugin/clock_node.cpp includes clock_plugin/clock_sdk_tables.h");
-    row("up from the host", "host/a.cpp", "\"clock_node.h\"",
-        "host/a.cpp includes clock_plugin/clock_node.h");
-    row("up by a path", "clock_plugin/glyph/a.cpp", "\"../../tools/tool.h\"",
-        "clock_plugin/glyph/a.cpp includes tools/tool.h");
-    row("up in angles", "clock_plugin/glyph/a.cpp", "<display/row_layout.h>",
-        "clock_plugin/glyph/a.cpp includes clock_plugin/display/row_layout.h");
-    row("out of a pure room", "clock_plugin/calendar/a.cpp", "\"hnode.h\"",
-        "clock_plugin/calendar/a.cpp includes host/hnode.h");
-    row("a player that knows the plugin", "player/a.cpp", "\"clock_node.h\"",
-        "player/a.cpp includes clock_plugin/clock_node.h");
-    row("a stage that knows its plugin", "stage/a.cpp", "\"clock_node.h\"",
-        "stage/a.cpp includes clock_plugin/clock_node.h");
-    row("a stage that knows the player", "stage/a.cpp", "\"../player/player.h\"",
-        "stage/a.cpp includes player/player.h");
-    row("a program that knows the plugin", "program/a.cpp", "\"clock_attributes.h\"",
-        "program/a.cpp includes clock_plugin/clock_attributes.h");
-    row("nowhere", "program/a.cpp", "\"nowhere.h\"",
-        "program/a.cpp includes nowhere.h, which is not in the tree");
-    row("in no room", "clock_plugin/attic.cpp", "<QString>",
-        "clock_plugin/attic.cpp stands in no room");
+    for (const IncludeCase &one : kIncludes)
+        QTest::newRow(one.name) << one.path << one.include << one.fault;
 }
 
 void TestIncludes::rooms()

@@ -63,6 +63,52 @@ QStringList ShownKeys(HClockNode &node)
     return keys;
 }
 
+// A setting of a new clock, and the images that it shows then; of a series the first.
+struct ShownCase
+{
+    const char *name;
+    int clockType;
+    QString key;
+    int value;
+    QStringList expected;
+};
+
+const QStringList kDate {"_dateChar", "_dateNumber"};
+const QStringList kBadge {"_AnalogAM", "_AnalogPM"};
+const QStringList kTime {"_timeChar", "_timeNumber"};
+const QStringList kAnalog = QStringList {"_toptext", "_chWeek_"} + kDate + kBadge;
+const QStringList kDigital = QStringList {"_toptext", "_chWeek_"} + kDate + kTime;
+
+QStringList Without(QStringList keys, const QStringList &gone)
+{
+    for (const QString &key : gone)
+        keys.removeAll(key);
+    return keys;
+}
+
+const ShownCase kShownCases[] = {
+    {"new analog clock", 0, "Id", 7, kAnalog},
+    {"numerals", 0, "HourScaleType", 4,
+     Without(kAnalog, kBadge) + QStringList {"_hourhandNumber"} + kBadge},
+    {"squares without numerals", 0, "HourScaleType", 2, kAnalog},
+    {"no badge", 0, "Analog_AMPM_d", 0, Without(kAnalog, kBadge)},
+    {"no top text", 0, "Analog_TopTexy_d", 0, Without(kAnalog, {"_toptext"})},
+    {"no date", 0, "Analog_Date_d", 0, Without(kAnalog, kDate)},
+    {"new digital clock", 1, "Id", 7, kDigital},
+    {"Persian week", 1, "DigitalWeekType", 3,
+     QStringList {"_toptext", "_PersiaWeek_"} + kDate + kTime},
+    {"lunar", 1, "Digital_Lunar_d", 1,
+     QStringList {"_toptext", "_chWeek_", "_lunar"} + kDate + kTime},
+    {"labelled time", 1, "DigitalTimeType", 3,
+     Without(kDigital, kTime) + QStringList {"_timeCh", "_timeNumber"}},
+    {"twelve hours", 1, "DigitalMode", 1, kDigital + QStringList {"_timeAM", "_timePM"}},
+    {"minus", 1, "DigitalDateType", 8,
+     QStringList {"_toptext", "_chWeek_", "_dateNumber", "_Minus"} + kTime},
+    {"month's name", 1, "DigitalDateType", 3,
+     QStringList {"_toptext", "_chWeek_", "_dateEnMonth_", "_space", "_dateNumber"} + kTime},
+    {"picture clock", 2, "Id", 7, {}},
+};
+
 } // namespace
 
 class TestGlyphCheck : public QObject
@@ -246,46 +292,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("key");
         QTest::addColumn<int>("value");
         QTest::addColumn<QStringList>("expected");
-        const QStringList date {"_dateChar", "_dateNumber"};
-        const auto row = [](const char *name, int type, const char *key, int value,
-                            const QStringList &expected) {
-            QTest::newRow(name) << type << QString(key) << value << expected;
-        };
-        const QStringList analog =
-            QStringList {"_toptext", "_chWeek_"} + date + QStringList {"_AnalogAM", "_AnalogPM"};
-        const auto without = [](QStringList keys, const QStringList &gone) {
-            for (const QString &key : gone)
-                keys.removeAll(key);
-            return keys;
-        };
-        row("new analog clock", 0, "Id", 7, analog);
-        row("numerals", 0, "HourScaleType", 4,
-            without(analog, {"_AnalogAM", "_AnalogPM"})
-                + QStringList {"_hourhandNumber", "_AnalogAM", "_AnalogPM"});
-        row("squares without numerals", 0, "HourScaleType", 2, analog);
-        row("no badge", 0, "Analog_AMPM_d", 0, without(analog, {"_AnalogAM", "_AnalogPM"}));
-        row("no top text", 0, "Analog_TopTexy_d", 0, without(analog, {"_toptext"}));
-        row("no date", 0, "Analog_Date_d", 0, without(analog, date));
-        const QStringList digital =
-            QStringList {"_toptext", "_chWeek_"} + date + QStringList {"_timeChar", "_timeNumber"};
-        row("new digital clock", 1, "Id", 7, digital);
-        row("Persian week", 1, "DigitalWeekType", 3,
-            QStringList {"_toptext", "_PersiaWeek_"} + date
-                + QStringList {"_timeChar", "_timeNumber"});
-        row("lunar", 1, "Digital_Lunar_d", 1,
-            QStringList {"_toptext", "_chWeek_", "_lunar"} + date
-                + QStringList {"_timeChar", "_timeNumber"});
-        row("labelled time", 1, "DigitalTimeType", 3,
-            without(digital, {"_timeChar", "_timeNumber"})
-                + QStringList {"_timeCh", "_timeNumber"});
-        row("twelve hours", 1, "DigitalMode", 1, digital + QStringList {"_timeAM", "_timePM"});
-        row("minus", 1, "DigitalDateType", 8,
-            QStringList {"_toptext", "_chWeek_", "_dateNumber", "_Minus", "_timeChar",
-                         "_timeNumber"});
-        row("month's name", 1, "DigitalDateType", 3,
-            QStringList {"_toptext", "_chWeek_", "_dateEnMonth_", "_space", "_dateNumber",
-                         "_timeChar", "_timeNumber"});
-        row("picture clock", 2, "Id", 7, {});
+        for (const ShownCase &one : kShownCases)
+            QTest::newRow(one.name) << one.clockType << one.key << one.value << one.expected;
     }
     void shownImages()
     {

@@ -53,56 +53,53 @@ const QStringList kAnalogOnly {"_hourhandNumber", "_AnalogAM", "_AnalogPM"};
 const QStringList kDigitalOnly {"_timeCh", "_timeChar", "_timeNumber", "_timeAM", "_timePM"};
 
 // What is drawn, each after its key; "tr:" where the text is looked up in a catalogue.
-QStringList CommonTexts()
-{
-    return {
-        "_chWeek_1=tr:Monday",
-        "_chWeek_2=tr:Tuesday",
-        "_chWeek_3=tr:Wednesday",
-        "_chWeek_4=tr:Thursday",
-        "_chWeek_5=tr:Friday",
-        "_chWeek_6=tr:Saturday",
-        "_chWeek_7=tr:Sunday",
-        "_enWeek_1=Monday",
-        "_enWeek_2=Tuesday",
-        "_enWeek_3=Wednesday",
-        "_enWeek_4=Thursday",
-        "_enWeek_5=Friday",
-        "_enWeek_6=Saturday",
-        "_enWeek_7=Sunday",
-        "_enWeekSim_1=Mon.",
-        "_enWeekSim_2=Tues.",
-        "_enWeekSim_3=Wed.",
-        "_enWeekSim_4=Thurs.",
-        "_enWeekSim_5=Fri.",
-        "_enWeekSim_6=Sat.",
-        "_enWeekSim_7=Sun.",
-        "_PersiaWeek_1=tr:PersiaMonday",
-        "_PersiaWeek_2=tr:PersiaTuesday",
-        "_PersiaWeek_3=tr:PersiaWednesday",
-        "_PersiaWeek_4=tr:PersiaThursday",
-        "_PersiaWeek_5=tr:PersiaFriday",
-        "_PersiaWeek_6=tr:PersiaSaturday",
-        "_PersiaWeek_7=tr:PersiaSunday",
-        "_lunar=tr:lunarString",
-        "_dateEnMonth_1=Jan.",
-        "_dateEnMonth_2=Feb.",
-        "_dateEnMonth_3=Mar.",
-        "_dateEnMonth_4=Apr.",
-        "_dateEnMonth_5=May",
-        "_dateEnMonth_6=Jun.",
-        "_dateEnMonth_7=Jul.",
-        "_dateEnMonth_8=Aug.",
-        "_dateEnMonth_9=Sep.",
-        "_dateEnMonth_10=Oct.",
-        "_dateEnMonth_11=Nov.",
-        "_dateEnMonth_12=Dec.",
-        "_dateCh=tr:DateString",
-        "_dateChar=,/",
-        "_space= ",
-        "_Minus=-",
-    };
-}
+const QStringList kCommonTexts {
+    "_chWeek_1=tr:Monday",
+    "_chWeek_2=tr:Tuesday",
+    "_chWeek_3=tr:Wednesday",
+    "_chWeek_4=tr:Thursday",
+    "_chWeek_5=tr:Friday",
+    "_chWeek_6=tr:Saturday",
+    "_chWeek_7=tr:Sunday",
+    "_enWeek_1=Monday",
+    "_enWeek_2=Tuesday",
+    "_enWeek_3=Wednesday",
+    "_enWeek_4=Thursday",
+    "_enWeek_5=Friday",
+    "_enWeek_6=Saturday",
+    "_enWeek_7=Sunday",
+    "_enWeekSim_1=Mon.",
+    "_enWeekSim_2=Tues.",
+    "_enWeekSim_3=Wed.",
+    "_enWeekSim_4=Thurs.",
+    "_enWeekSim_5=Fri.",
+    "_enWeekSim_6=Sat.",
+    "_enWeekSim_7=Sun.",
+    "_PersiaWeek_1=tr:PersiaMonday",
+    "_PersiaWeek_2=tr:PersiaTuesday",
+    "_PersiaWeek_3=tr:PersiaWednesday",
+    "_PersiaWeek_4=tr:PersiaThursday",
+    "_PersiaWeek_5=tr:PersiaFriday",
+    "_PersiaWeek_6=tr:PersiaSaturday",
+    "_PersiaWeek_7=tr:PersiaSunday",
+    "_lunar=tr:lunarString",
+    "_dateEnMonth_1=Jan.",
+    "_dateEnMonth_2=Feb.",
+    "_dateEnMonth_3=Mar.",
+    "_dateEnMonth_4=Apr.",
+    "_dateEnMonth_5=May",
+    "_dateEnMonth_6=Jun.",
+    "_dateEnMonth_7=Jul.",
+    "_dateEnMonth_8=Aug.",
+    "_dateEnMonth_9=Sep.",
+    "_dateEnMonth_10=Oct.",
+    "_dateEnMonth_11=Nov.",
+    "_dateEnMonth_12=Dec.",
+    "_dateCh=tr:DateString",
+    "_dateChar=,/",
+    "_space= ",
+    "_Minus=-",
+};
 const QStringList kAnalogTexts {"_AnalogAM=AM", "_AnalogPM=PM"};
 const QStringList kDigitalTexts {"_timeCh=tr:TimeString", "_timeChar=:", "_timeAM= AM",
                                  "_timePM= PM"};
@@ -184,9 +181,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("clockType");
         QTest::addColumn<QStringList>("expected");
-        QTest::newRow("analog") << 0 << CommonTexts() + kAnalogTexts;
-        QTest::newRow("digital") << 1 << CommonTexts() + kDigitalTexts;
-        QTest::newRow("unknown") << 3 << CommonTexts();
+        QTest::newRow("analog") << 0 << kCommonTexts + kAnalogTexts;
+        QTest::newRow("digital") << 1 << kCommonTexts + kDigitalTexts;
+        QTest::newRow("unknown") << 3 << kCommonTexts;
     }
     void texts()
     {

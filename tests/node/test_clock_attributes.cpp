@@ -116,6 +116,61 @@ public:
     }
 };
 
+/// An operation "Set" + key, and how many redraws it asks for.
+template<typename Value>
+struct Setter
+{
+    const char *key;
+    void (HClockNode::*set)(Value);
+    int emissions;
+};
+
+// clang-format off
+constexpr Setter<QString> kTextSetters[] = {
+    {"TimeZone", &HClockNode::SetTimeZone, 1},
+    {"DaylightSavingTimeStart", &HClockNode::SetDaylightSavingTimeStart, 0},
+    {"DaylightSavingTimeEnd", &HClockNode::SetDaylightSavingTimeEnd, 0},
+    {"HourScaleFName", &HClockNode::SetHourScaleFName, 1},
+    {"AnalogAMPMFName", &HClockNode::SetAnalogAMPMFName, 1},
+    {"AnalogTopText", &HClockNode::SetAnalogTopText, 1},
+    {"AnalogTopTextFName", &HClockNode::SetAnalogTopTextFName, 1},
+    {"AnalogDateFName", &HClockNode::SetAnalogDateFName, 1},
+    {"AnalogWeekFName", &HClockNode::SetAnalogWeekFName, 1},
+    {"AnalogLunarFName", &HClockNode::SetAnalogLunarFName, 1},
+    {"DigitalTopText", &HClockNode::SetDigitalTopText, 1},
+    {"DigitalDateFName", &HClockNode::SetDigitalDateFName, 1},
+    {"DigitalTimeFName", &HClockNode::SetDigitalTimeFName, 1},
+    {"DigitalWeekFName", &HClockNode::SetDigitalWeekFName, 1},
+    {"DigitalLunarFName", &HClockNode::SetDigitalLunarFName, 1},
+};
+
+constexpr Setter<int> kNumberSetters[] = {
+    {"HourScaleFSize", &HClockNode::SetHourScaleFSize, 1},
+    {"Analog_AMPM_d", &HClockNode::SetAnalog_AMPM_d, 1},
+    {"AnalogAMPMFSize", &HClockNode::SetAnalogAMPMFSize, 1},
+    {"AnalogAMPMColor", &HClockNode::SetAnalogAMPMColor, 1},
+    {"AnalogTopTextFSize", &HClockNode::SetAnalogTopTextFSize, 1},
+    {"AnalogTopTextColor", &HClockNode::SetAnalogTopTextColor, 1},
+    {"AnalogDateType", &HClockNode::SetAnalogDateType, 1},
+    {"AnalogDateFSize", &HClockNode::SetAnalogDateFSize, 1},
+    {"AnalogDateColor", &HClockNode::SetAnalogDateColor, 1},
+    {"AnalogWeekType", &HClockNode::SetAnalogWeekType, 1},
+    {"AnalogWeekFSize", &HClockNode::SetAnalogWeekFSize, 1},
+    {"AnalogWeekColor", &HClockNode::SetAnalogWeekColor, 1},
+    {"AnalogLunarFSize", &HClockNode::SetAnalogLunarFSize, 1},
+    {"AnalogLunarColor", &HClockNode::SetAnalogLunarColor, 1},
+    {"DigitalDisplayMode", &HClockNode::SetDigitalDisplayMode, 0},
+    {"DigitalTopTextColor", &HClockNode::SetDigitalTopTextColor, 1},
+    {"DigitalDateType", &HClockNode::SetDigitalDateType, 1},
+    {"DigitalDateColor", &HClockNode::SetDigitalDateColor, 1},
+    {"DigitalTimeType", &HClockNode::SetDigitalTimeType, 1},
+    {"DigitalTimeColor", &HClockNode::SetDigitalTimeColor, 1},
+    {"DigitalWeekType", &HClockNode::SetDigitalWeekType, 1},
+    {"DigitalWeekColor", &HClockNode::SetDigitalWeekColor, 1},
+    {"DigitalLunarColor", &HClockNode::SetDigitalLunarColor, 1},
+};
+// clang-format on
+
 } // namespace
 
 class TestClockAttributes : public QObject
@@ -331,56 +386,21 @@ private Q_SLOTS:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
         QTest::addColumn<int>("emissions");
-#define CLOCK_SETTER_ROW(setter, argument, key, count) \
-    QTest::newRow(#setter) << std::function<void(HClockNode &)>( \
-        [](HClockNode &node) { node.setter(argument); }) \
-                           << QString::fromLatin1(key) << QVariant(argument).toString() << count
-        CLOCK_SETTER_ROW(SetTimeZone, QStringLiteral("x y"), "TimeZone", 1);
-        CLOCK_SETTER_ROW(SetDaylightSavingTimeStart, QStringLiteral("x y"),
-                         "DaylightSavingTimeStart", 0);
-        CLOCK_SETTER_ROW(SetDaylightSavingTimeEnd, QStringLiteral("x y"), "DaylightSavingTimeEnd",
-                         0);
-        CLOCK_SETTER_ROW(SetHourScaleFName, QStringLiteral("x y"), "HourScaleFName", 1);
-        CLOCK_SETTER_ROW(SetHourScaleFSize, 7, "HourScaleFSize", 1);
-        CLOCK_SETTER_ROW(SetAnalog_AMPM_d, 7, "Analog_AMPM_d", 1);
-        CLOCK_SETTER_ROW(SetAnalogAMPMFName, QStringLiteral("x y"), "AnalogAMPMFName", 1);
-        CLOCK_SETTER_ROW(SetAnalogAMPMFSize, 7, "AnalogAMPMFSize", 1);
-        CLOCK_SETTER_ROW(SetAnalogAMPMColor, 7, "AnalogAMPMColor", 1);
-        CLOCK_SETTER_ROW(SetAnalogTopText, QStringLiteral("x y"), "AnalogTopText", 1);
-        CLOCK_SETTER_ROW(SetAnalogTopTextFName, QStringLiteral("x y"), "AnalogTopTextFName", 1);
-        CLOCK_SETTER_ROW(SetAnalogTopTextFSize, 7, "AnalogTopTextFSize", 1);
-        CLOCK_SETTER_ROW(SetAnalogTopTextColor, 7, "AnalogTopTextColor", 1);
-        CLOCK_SETTER_ROW(SetAnalogDateType, 7, "AnalogDateType", 1);
-        CLOCK_SETTER_ROW(SetAnalogDateFName, QStringLiteral("x y"), "AnalogDateFName", 1);
-        CLOCK_SETTER_ROW(SetAnalogDateFSize, 7, "AnalogDateFSize", 1);
-        CLOCK_SETTER_ROW(SetAnalogDateColor, 7, "AnalogDateColor", 1);
-        CLOCK_SETTER_ROW(SetAnalogWeekType, 7, "AnalogWeekType", 1);
-        CLOCK_SETTER_ROW(SetAnalogWeekFName, QStringLiteral("x y"), "AnalogWeekFName", 1);
-        CLOCK_SETTER_ROW(SetAnalogWeekFSize, 7, "AnalogWeekFSize", 1);
-        CLOCK_SETTER_ROW(SetAnalogWeekColor, 7, "AnalogWeekColor", 1);
-        CLOCK_SETTER_ROW(SetAnalogLunarFName, QStringLiteral("x y"), "AnalogLunarFName", 1);
-        CLOCK_SETTER_ROW(SetAnalogLunarFSize, 7, "AnalogLunarFSize", 1);
-        CLOCK_SETTER_ROW(SetAnalogLunarColor, 7, "AnalogLunarColor", 1);
-        CLOCK_SETTER_ROW(SetDigitalDisplayMode, 7, "DigitalDisplayMode", 0);
-        CLOCK_SETTER_ROW(SetDigitalTopText, QStringLiteral("x y"), "DigitalTopText", 1);
-        CLOCK_SETTER_ROW(SetDigitalTopTextColor, 7, "DigitalTopTextColor", 1);
-        CLOCK_SETTER_ROW(SetDigitalDateType, 7, "DigitalDateType", 1);
-        CLOCK_SETTER_ROW(SetDigitalDateFName, QStringLiteral("x y"), "DigitalDateFName", 1);
-        CLOCK_SETTER_ROW(SetDigitalDateColor, 7, "DigitalDateColor", 1);
-        CLOCK_SETTER_ROW(SetDigitalTimeType, 7, "DigitalTimeType", 1);
-        CLOCK_SETTER_ROW(SetDigitalTimeFName, QStringLiteral("x y"), "DigitalTimeFName", 1);
-        CLOCK_SETTER_ROW(SetDigitalTimeColor, 7, "DigitalTimeColor", 1);
-        CLOCK_SETTER_ROW(SetDigitalWeekType, 7, "DigitalWeekType", 1);
-        CLOCK_SETTER_ROW(SetDigitalWeekFName, QStringLiteral("x y"), "DigitalWeekFName", 1);
-        CLOCK_SETTER_ROW(SetDigitalWeekColor, 7, "DigitalWeekColor", 1);
-        CLOCK_SETTER_ROW(SetDigitalLunarFName, QStringLiteral("x y"), "DigitalLunarFName", 1);
-        CLOCK_SETTER_ROW(SetDigitalLunarColor, 7, "DigitalLunarColor", 1);
-#undef CLOCK_SETTER_ROW
+        const auto addRow = [](const auto &row, const auto &value) {
+            QTest::addRow("Set%s", row.key)
+                << std::function<void(HClockNode &)>(
+                       [set = row.set, value](HClockNode &node) { (node.*set)(value); })
+                << QString::fromLatin1(row.key) << QVariant(value).toString() << row.emissions;
+        };
+        for (const Setter<QString> &row : kTextSetters)
+            addRow(row, QStringLiteral("x y"));
+        for (const Setter<int> &row : kNumberSetters)
+            addRow(row, 7);
     }
     void Setters()
     {
-        using Setter = std::function<void(HClockNode &)>;
-        QFETCH(Setter, set);
+        using Set = std::function<void(HClockNode &)>;
+        QFETCH(Set, set);
         QFETCH(QString, key);
         QFETCH(QString, value);
         QFETCH(int, emissions);

@@ -209,6 +209,43 @@ QString Clock(const QString &children)
     return QStringLiteral("<clock>") + children + QStringLiteral("</clock>");
 }
 
+constexpr const char *kRoundTripParts[] = {"TopText", "Date", "Week", "Lunar"};
+
+/// A clock whose settings differ from the defaults.
+void SetUnusual(HClockNode &node, int clockType, const QString &prefix)
+{
+    node.InitData();
+    node.SetAttribute(QStringLiteral("ClockType"), clockType, false);
+    for (const char *part : kRoundTripParts) {
+        const QString key = prefix + QLatin1String(part);
+        node.SetAttribute(key + QStringLiteral("Color"), 0x123456, false);
+        node.SetAttribute(key + QStringLiteral("FName"), QStringLiteral("F"), false);
+        node.SetAttribute(key + QStringLiteral("FSize"), 33, false);
+    }
+    node.SetAttribute(prefix + QStringLiteral("TopText"), QStringLiteral("Bahnhof"), false);
+    node.SetAttribute(prefix + QStringLiteral("DateType"), 6, false);
+    node.SetAttribute(prefix + QStringLiteral("WeekType"), 3, false);
+    node.SetAttribute(prefix + QStringLiteral("Space"), 5, false);
+    node.SetAttribute(prefix + QStringLiteral("_Date_d"), 0, false);
+    node.SetAttribute(prefix + QStringLiteral("_Lunar_d"), 1, false);
+    node.SetTimeZone(QStringLiteral("-03:30"));
+    node.SetTimeAdjust(-3725);
+}
+
+/// What the exported form does not carry: codes (written as value, read as format or type), fonts,
+/// sizes and spacing. The importing node keeps its own.
+void ResetWhatIsNotCarried(QMap<QString, QString> &attributes, const QString &prefix)
+{
+    for (const char *part : kRoundTripParts) {
+        const QString key = prefix + QLatin1String(part);
+        attributes[key + QStringLiteral("FName")] = QString();
+        attributes[key + QStringLiteral("FSize")] = QStringLiteral("12");
+    }
+    attributes[prefix + QStringLiteral("DateType")] = QStringLiteral("0");
+    attributes[prefix + QStringLiteral("WeekType")] = QStringLiteral("0");
+    attributes[prefix + QStringLiteral("Space")] = QStringLiteral("0");
+}
+
 } // namespace
 
 class TestClockSdkImport : public QObject
@@ -388,23 +425,7 @@ private Q_SLOTS:
         QFETCH(int, clockType);
         const QString prefix = QLatin1String(clockType == 0 ? "Analog" : "Digital");
         HClockNode first;
-        first.InitData();
-        first.SetAttribute(QStringLiteral("ClockType"), clockType, false);
-        for (const char *part : {"TopText", "Date", "Week", "Lunar"}) {
-            const QString key = prefix + QLatin1String(part);
-            first.SetAttribute(key + QStringLiteral("Color"), 0x123456, false);
-            first.SetAttribute(key + QStringLiteral("FName"), QStringLiteral("F"), false);
-            first.SetAttribute(key + QStringLiteral("FSize"), 33, false);
-        }
-        first.SetAttribute(prefix + QStringLiteral("TopText"), QStringLiteral("Bahnhof"), false);
-        first.SetAttribute(prefix + QStringLiteral("DateType"), 6, false);
-        first.SetAttribute(prefix + QStringLiteral("WeekType"), 3, false);
-        first.SetAttribute(prefix + QStringLiteral("Space"), 5, false);
-        first.SetAttribute(prefix + QStringLiteral("_Date_d"), 0, false);
-        first.SetAttribute(prefix + QStringLiteral("_Lunar_d"), 1, false);
-        first.SetTimeZone(QStringLiteral("-03:30"));
-        first.SetTimeAdjust(-3725);
-
+        SetUnusual(first, clockType, prefix);
         QDomDocument document;
         QDomElement parent = document.createElement(QStringLiteral("area"));
         document.appendChild(parent);
@@ -417,16 +438,7 @@ private Q_SLOTS:
 
         auto expected = AttributesOf(first);
         expected[QStringLiteral("Id")] = second.GetAttribute(QStringLiteral("Id"));
-        // What that form does not carry: codes (written as value, read as format or type), fonts,
-        // sizes and spacing. They keep what the reading node had.
-        for (const char *part : {"TopText", "Date", "Week", "Lunar"}) {
-            const QString key = prefix + QLatin1String(part);
-            expected[key + QStringLiteral("FName")] = QString();
-            expected[key + QStringLiteral("FSize")] = QStringLiteral("12");
-        }
-        expected[prefix + QStringLiteral("DateType")] = QStringLiteral("0");
-        expected[prefix + QStringLiteral("WeekType")] = QStringLiteral("0");
-        expected[prefix + QStringLiteral("Space")] = QStringLiteral("0");
+        ResetWhatIsNotCarried(expected, prefix);
         QCOMPARE(AttributesOf(second), expected);
     }
 

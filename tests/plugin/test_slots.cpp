@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <cstring>
+#include <iterator>
 
 using Lw::HNode;
 using Lw::HSendFileInfo;
@@ -21,6 +22,8 @@ namespace {
 // QObject's own entries: meta-object, cast, call, two destructors, event, filter, timer, child,
 // custom event, connect and disconnect notification.
 constexpr int kQObjectSlots = 12;
+
+constexpr int kFirstPluginSlot = 2; // after the destructor, which takes two
 
 /// The entry of a virtual operation in its class's table, read from the pointer to member as the
 /// Itanium C++ ABI lays it out. The signature is spelled by the caller, so that it is checked too.
@@ -42,15 +45,107 @@ int SlotOf(Signature Class::*operation)
     return static_cast<int>(offset / std::ptrdiff_t(sizeof(void *)));
 }
 
-void AddRow(const char *name, int slot, int expected)
+struct Operation
 {
-    QTest::newRow(name) << slot << expected;
-}
+    const char *name;
+    int slot;
+};
 
-void AddColumns()
+// In the order of their table, one slot after the other.
+// clang-format off
+using P = INodePlugin;
+const Operation kPluginOperations[] = {
+    {"name", SlotOf<QString()>(&P::name)},
+    {"PluginMatch", SlotOf<bool(QDomElement &)>(&P::PluginMatch)},
+    {"level", SlotOf<int()>(&P::level)},
+    {"type", SlotOf<QString()>(&P::type)},
+    {"icon", SlotOf<QIcon()>(&P::icon)},
+    {"Create", SlotOf<HNode *()>(&P::Create)},
+    {"Create named", SlotOf<HNode *(QString, HNode *)>(&P::Create)},
+    {"CreateAreaRender", SlotOf<IContentRender *(HNode *)>(&P::CreateAreaRender)},
+    {"CreateFrameRender", SlotOf<IContentRender *(HNode *)>(&P::CreateFrameRender)},
+    {"AddFile", SlotOf<bool(Lw::HModel *, QModelIndex &, int)>(&P::AddFile)},
+    {"OverrideNewFile", SlotOf<bool()>(&P::OverrideNewFile)},
+    {"NewFile", SlotOf<bool(Lw::HModel *, QModelIndex &, int)>(&P::NewFile)},
+    {"AppQuit", SlotOf<void()>(&P::AppQuit)},
+    {"AddFileBasisSuffix",
+     SlotOf<bool(QString, Lw::HModel *, QModelIndex &, int)>(&P::AddFileBasisSuffix)},
+    {"AddFileBasisSupport",
+     SlotOf<bool(QString, Lw::HModel *, QModelIndex &, int)>(&P::AddFileBasisSupport)},
+    {"SupportSuffix", SlotOf<QStringList()>(&P::SupportSuffix)},
+    {"SuportController", SlotOf<bool(QString &)>(&P::SuportController)},
+    {"ConvertVersion", SlotOf<bool(HNode *, Lw::HVersion &)>(&P::ConvertVersion)},
+    {"D3DLoseDevice", SlotOf<void()>(&P::D3DLoseDevice)},
+};
+
+using R = IContentRender;
+const Operation kRenderOperations[] = {
+    {"Start", SlotOf<void(unsigned int, long long)>(&R::Start)},
+    {"Pause", SlotOf<void()>(&R::Pause)},
+    {"Stop", SlotOf<void()>(&R::Stop)},
+    {"Remove", SlotOf<void()>(&R::Remove)},
+    {"PlayNext", SlotOf<void()>(&R::PlayNext)},
+    {"renderState", SlotOf<int()>(&R::renderState)},
+    {"PrepareData", SlotOf<void()>(&R::PrepareData)},
+    {"Seek", SlotOf<void(long long)>(&R::Seek)},
+    {"AreaFinish", SlotOf<bool()>(&R::AreaFinish)},
+    {"SetVideoNotClear", SlotOf<void(bool)>(&R::SetVideoNotClear)},
+};
+
+using N = HNode;
+using Sent = QList<HSendFileInfo>;
+const Operation kNodeOperations[] = {
+    {"Type", SlotOf<QString()>(&N::Type)},
+    {"Level", SlotOf<int()>(&N::Level)},
+    {"GetAllFileList", SlotOf<void(Sent &)>(&N::GetAllFileList)},
+    {"SetGuid", SlotOf<void(QString)>(&N::SetGuid)},
+    {"GetGuid", SlotOf<QString()>(&N::GetGuid)},
+    {"HaveSourcFile", SlotOf<bool()>(&N::HaveSourcFile)},
+    {"NodeMatch", SlotOf<bool(QDomElement &)>(&N::NodeMatch)},
+    {"UpdateNode", SlotOf<bool(QDomElement, QList<Lw::FileInfo> &)>(&N::UpdateNode)},
+    {"CoverToSDKFormate", SlotOf<void(QDomElement &, Lw::GetProgramModel)>(&N::CoverToSDKFormate)},
+    {"AfterUpdate", SlotOf<void(bool)>(&N::AfterUpdate)},
+    {"AddChild", SlotOf<bool(HNode *)>(&N::AddChild)},
+    {"InsertChild", SlotOf<bool(int, HNode *)>(&N::InsertChild)},
+    {"Copy", SlotOf<HNode *()>(&N::Copy)},
+    {"ReloadAttribute", SlotOf<void()>(&N::ReloadAttribute)},
+    {"Delete", SlotOf<void()>(&N::Delete)},
+    {"Close", SlotOf<bool(bool)>(&N::Close)},
+    {"Generator", SlotOf<bool(QString, Sent &, int)>(&N::Generator)},
+    {"Export", SlotOf<bool(Sent &)>(&N::Export)},
+    {"Import", SlotOf<bool(QString)>(&N::Import)},
+    {"NodeAlready", SlotOf<bool(int)>(&N::NodeAlready)},
+    {"UsbExport", SlotOf<bool()>(&N::UsbExport)},
+    {"AllFileExists", SlotOf<bool()>(&N::AllFileExists)},
+    {"ControllerChange", SlotOf<void()>(&N::ControllerChange)},
+    {"InitData", SlotOf<void()>(&N::InitData)},
+    {"SDKInitData", SlotOf<bool(void *)>(&N::SDKInitData)},
+    {"ReloadAttrbute", SlotOf<void(HNode *)>(&N::ReloadAttrbute)},
+    {"Duration", SlotOf<int()>(&N::Duration)},
+    {"TotalFile", SlotOf<int()>(&N::TotalFile)},
+    {"GeneratorFinish", SlotOf<void()>(&N::GeneratorFinish)},
+    {"RebuildNode", SlotOf<void()>(&N::RebuildNode)},
+    {"RebuildNode from", SlotOf<void(HNode *)>(&N::RebuildNode)},
+    {"GetThumbnail", SlotOf<QImage()>(&N::GetThumbnail)},
+    {"Editable", SlotOf<bool()>(&N::Editable)},
+    {"GetSDKTempFile", SlotOf<void(QList<QFileInfo> &)>(&N::GetSDKTempFile)},
+    {"TranscodeFinish", SlotOf<bool()>(&N::TranscodeFinish)},
+    {"Size", SlotOf<QSize()>(&N::Size)},
+    {"FrameHeight", SlotOf<int()>(&N::FrameHeight)},
+    {"Pos", SlotOf<QPoint()>(&N::Pos)},
+    {"ON_SizeChange", SlotOf<void(QSize)>(&N::ON_SizeChange)},
+    {"UseInternalBorder", SlotOf<bool()>(&N::UseInternalBorder)},
+    {"SourcNode", SlotOf<HNode *()>(&N::SourcNode)},
+};
+// clang-format on
+
+template<std::size_t count>
+void AddRows(const Operation (&operations)[count], int firstSlot)
 {
     QTest::addColumn<int>("slot");
     QTest::addColumn<int>("expected");
+    for (const Operation &operation : operations)
+        QTest::newRow(operation.name) << operation.slot << firstSlot++;
 }
 
 void CheckRow()
@@ -78,103 +173,17 @@ private Q_SLOTS:
 
 void TestSlots::NodePlugin_data()
 {
-    AddColumns();
-    using P = INodePlugin;
-    int n = 2; // after the destructor, which takes two entries
-    // clang-format off
-    AddRow("name", SlotOf<QString()>(&P::name), n++);
-    AddRow("PluginMatch", SlotOf<bool(QDomElement &)>(&P::PluginMatch), n++);
-    AddRow("level", SlotOf<int()>(&P::level), n++);
-    AddRow("type", SlotOf<QString()>(&P::type), n++);
-    AddRow("icon", SlotOf<QIcon()>(&P::icon), n++);
-    AddRow("Create", SlotOf<HNode *()>(&P::Create), n++);
-    AddRow("Create named", SlotOf<HNode *(QString, HNode *)>(&P::Create), n++);
-    AddRow("CreateAreaRender", SlotOf<IContentRender *(HNode *)>(&P::CreateAreaRender), n++);
-    AddRow("CreateFrameRender", SlotOf<IContentRender *(HNode *)>(&P::CreateFrameRender), n++);
-    AddRow("AddFile", SlotOf<bool(Lw::HModel *, QModelIndex &, int)>(&P::AddFile), n++);
-    AddRow("OverrideNewFile", SlotOf<bool()>(&P::OverrideNewFile), n++);
-    AddRow("NewFile", SlotOf<bool(Lw::HModel *, QModelIndex &, int)>(&P::NewFile), n++);
-    AddRow("AppQuit", SlotOf<void()>(&P::AppQuit), n++);
-    AddRow("AddFileBasisSuffix",
-           SlotOf<bool(QString, Lw::HModel *, QModelIndex &, int)>(&P::AddFileBasisSuffix), n++);
-    AddRow("AddFileBasisSupport",
-           SlotOf<bool(QString, Lw::HModel *, QModelIndex &, int)>(&P::AddFileBasisSupport), n++);
-    AddRow("SupportSuffix", SlotOf<QStringList()>(&P::SupportSuffix), n++);
-    AddRow("SuportController", SlotOf<bool(QString &)>(&P::SuportController), n++);
-    AddRow("ConvertVersion", SlotOf<bool(HNode *, Lw::HVersion &)>(&P::ConvertVersion), n++);
-    AddRow("D3DLoseDevice", SlotOf<void()>(&P::D3DLoseDevice), n++);
-    // clang-format on
+    AddRows(kPluginOperations, kFirstPluginSlot);
 }
 
 void TestSlots::ContentRender_data()
 {
-    AddColumns();
-    using R = IContentRender;
-    int n = kQObjectSlots;
-    // clang-format off
-    AddRow("Start", SlotOf<void(unsigned int, long long)>(&R::Start), n++);
-    AddRow("Pause", SlotOf<void()>(&R::Pause), n++);
-    AddRow("Stop", SlotOf<void()>(&R::Stop), n++);
-    AddRow("Remove", SlotOf<void()>(&R::Remove), n++);
-    AddRow("PlayNext", SlotOf<void()>(&R::PlayNext), n++);
-    AddRow("renderState", SlotOf<int()>(&R::renderState), n++);
-    AddRow("PrepareData", SlotOf<void()>(&R::PrepareData), n++);
-    AddRow("Seek", SlotOf<void(long long)>(&R::Seek), n++);
-    AddRow("AreaFinish", SlotOf<bool()>(&R::AreaFinish), n++);
-    AddRow("SetVideoNotClear", SlotOf<void(bool)>(&R::SetVideoNotClear), n++);
-    // clang-format on
+    AddRows(kRenderOperations, kQObjectSlots);
 }
 
 void TestSlots::Node_data()
 {
-    AddColumns();
-    using N = HNode;
-    using Sent = QList<HSendFileInfo>;
-    int n = kQObjectSlots;
-    // clang-format off
-    AddRow("Type", SlotOf<QString()>(&N::Type), n++);
-    AddRow("Level", SlotOf<int()>(&N::Level), n++);
-    AddRow("GetAllFileList", SlotOf<void(Sent &)>(&N::GetAllFileList), n++);
-    AddRow("SetGuid", SlotOf<void(QString)>(&N::SetGuid), n++);
-    AddRow("GetGuid", SlotOf<QString()>(&N::GetGuid), n++);
-    AddRow("HaveSourcFile", SlotOf<bool()>(&N::HaveSourcFile), n++);
-    AddRow("NodeMatch", SlotOf<bool(QDomElement &)>(&N::NodeMatch), n++);
-    AddRow("UpdateNode", SlotOf<bool(QDomElement, QList<Lw::FileInfo> &)>(&N::UpdateNode), n++);
-    AddRow("CoverToSDKFormate",
-           SlotOf<void(QDomElement &, Lw::GetProgramModel)>(&N::CoverToSDKFormate), n++);
-    AddRow("AfterUpdate", SlotOf<void(bool)>(&N::AfterUpdate), n++);
-    AddRow("AddChild", SlotOf<bool(HNode *)>(&N::AddChild), n++);
-    AddRow("InsertChild", SlotOf<bool(int, HNode *)>(&N::InsertChild), n++);
-    AddRow("Copy", SlotOf<HNode *()>(&N::Copy), n++);
-    AddRow("ReloadAttribute", SlotOf<void()>(&N::ReloadAttribute), n++);
-    AddRow("Delete", SlotOf<void()>(&N::Delete), n++);
-    AddRow("Close", SlotOf<bool(bool)>(&N::Close), n++);
-    AddRow("Generator", SlotOf<bool(QString, Sent &, int)>(&N::Generator), n++);
-    AddRow("Export", SlotOf<bool(Sent &)>(&N::Export), n++);
-    AddRow("Import", SlotOf<bool(QString)>(&N::Import), n++);
-    AddRow("NodeAlready", SlotOf<bool(int)>(&N::NodeAlready), n++);
-    AddRow("UsbExport", SlotOf<bool()>(&N::UsbExport), n++);
-    AddRow("AllFileExists", SlotOf<bool()>(&N::AllFileExists), n++);
-    AddRow("ControllerChange", SlotOf<void()>(&N::ControllerChange), n++);
-    AddRow("InitData", SlotOf<void()>(&N::InitData), n++);
-    AddRow("SDKInitData", SlotOf<bool(void *)>(&N::SDKInitData), n++);
-    AddRow("ReloadAttrbute", SlotOf<void(HNode *)>(&N::ReloadAttrbute), n++);
-    AddRow("Duration", SlotOf<int()>(&N::Duration), n++);
-    AddRow("TotalFile", SlotOf<int()>(&N::TotalFile), n++);
-    AddRow("GeneratorFinish", SlotOf<void()>(&N::GeneratorFinish), n++);
-    AddRow("RebuildNode", SlotOf<void()>(&N::RebuildNode), n++);
-    AddRow("RebuildNode from", SlotOf<void(HNode *)>(&N::RebuildNode), n++);
-    AddRow("GetThumbnail", SlotOf<QImage()>(&N::GetThumbnail), n++);
-    AddRow("Editable", SlotOf<bool()>(&N::Editable), n++);
-    AddRow("GetSDKTempFile", SlotOf<void(QList<QFileInfo> &)>(&N::GetSDKTempFile), n++);
-    AddRow("TranscodeFinish", SlotOf<bool()>(&N::TranscodeFinish), n++);
-    AddRow("Size", SlotOf<QSize()>(&N::Size), n++);
-    AddRow("FrameHeight", SlotOf<int()>(&N::FrameHeight), n++);
-    AddRow("Pos", SlotOf<QPoint()>(&N::Pos), n++);
-    AddRow("ON_SizeChange", SlotOf<void(QSize)>(&N::ON_SizeChange), n++);
-    AddRow("UseInternalBorder", SlotOf<bool()>(&N::UseInternalBorder), n++);
-    AddRow("SourcNode", SlotOf<HNode *()>(&N::SourcNode), n++);
-    // clang-format on
+    AddRows(kNodeOperations, kQObjectSlots);
 }
 
 void TestSlots::ContentNodeAddsNone()
@@ -183,7 +192,7 @@ void TestSlots::ContentNodeAddsNone()
     {
         virtual void More() { }
     };
-    QCOMPARE(SlotOf<void()>(&OneMore::More), kQObjectSlots + 41);
+    QCOMPARE(SlotOf<void()>(&OneMore::More), kQObjectSlots + int(std::size(kNodeOperations)));
 }
 
 QTEST_GUILESS_MAIN(TestSlots)

@@ -40,6 +40,115 @@ QByteArray ManyAttributes(int count)
     return attributes;
 }
 
+// A text that is refused, and how the message begins.
+struct BadProgram
+{
+    const char *name;
+    QByteArray contents;
+    const char *message;
+};
+
+// Texts that are not well-formed XML.
+const QVector<BadProgram> kBrokenTexts {
+    {"empty", "", "p.xml:1:"},
+    {"not XML", "hello", "p.xml:1:"},
+    {"binary", QByteArray(100, '\0'), "p.xml:1:"},
+    {"cut off", "<program width='1' height='1'>\n<area", "p.xml:2:"},
+    {"wrong end tag", "<program>\n\n</prog>",
+     "p.xml:3: </prog> does not match <program> of line 1"},
+    {"no end tag", "<program>\n<area>\n", "p.xml:3: <area> of line 2 is never closed"},
+    {"end tag without a start", "<program/>\n</area>", "p.xml:2: </area> has no start tag"},
+    {"tag without its end", "<program width='1'\n<area/>",
+     "p.xml:2: the tag <program> has no \">\""},
+    {"end tag without its end", "<program></program", "p.xml:1: \"</program\" has no"},
+    {"value without quotation marks", "<program\n width=1/>",
+     "p.xml:2: the attribute width of <program> needs a value in quotation marks"},
+    {"attribute without a value", "<program width/>",
+     "p.xml:1: the attribute width of <program> needs a value"},
+    {"quotation mark missing in the middle", "<program width='1 height='1'/>",
+     "p.xml:1: a space or a quotation mark is missing in <program>"},
+    {"quotation mark missing at the end", "<program width='1>\n<area/></program>",
+     "p.xml:1: the value of width of <program> has no closing quotation mark"},
+    {"lone ampersand", AreaWith("<panel>\n<title value='a & b'/></panel>"),
+     "p.xml:2: \"&\" in a text is written as &amp;"},
+    {"name of another language", "<program>&nbsp;</program>", "p.xml:1: \"&\" in a text"},
+    {"lone less-than sign", "<program>1 < 2</program>", "p.xml:1: \"<\" in a text"},
+    {"two roots", Screen(kArea) + "\n<clock/>",
+     "p.xml:2: <clock> follows the end of the outermost element"},
+    {"text at the end", Screen(kArea) + "\nend", "p.xml:2: there is text after"},
+    {"comment without an end", "<program>\n<!-- ", "p.xml:2: a comment is never closed"},
+    {"encoding that nobody knows", "<?xml version='1.0' encoding='klingon'?><program/>",
+     "p.xml:1: the encoding \"klingon\" is not known"},
+    {"bytes of another encoding", "<program>\n\xff\xfe</program>",
+     "p.xml:2: these bytes are not a text in UTF-8"},
+    {"one attribute twice", "<program width='1' width='1'/>",
+     "p.xml:1: <program> has two attributes width"},
+    {"second root", Screen(kArea) + "\n<program/>", "p.xml:2:"},
+};
+
+// More than is read: definitions, depth, counts and sizes.
+const QVector<BadProgram> kTooMuch {
+    {"document type definition", "<?xml version='1.0'?>\n<!DOCTYPE program>\n<program/>",
+     "p.xml:2: document type definitions (<!DOCTYPE>) are not accepted"},
+    {"entities that multiply",
+     "<!DOCTYPE p [<!ENTITY a "
+     "'aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa'>"
+     "<!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
+     "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'>"
+     "<!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>"
+     "]>\n<program>&d;</program>",
+     "p.xml:1: document type definitions"},
+    {"attributes of one tag", Screen("\n<area" + ManyAttributes(257) + "/>"),
+     "p.xml:2: <area> has more than 256 attributes"},
+    {"attributes in all", Screen(("<a" + ManyAttributes(256) + "/>").repeated(513)),
+     "p.xml:1: more than 131072 attributes"},
+    {"elements", Screen(QByteArray("<a/>").repeated(1 << 16)), "p.xml:1: more than 65536 elements"},
+    {"text of another kind of file, larger", QByteArray((4 << 20) + 1, ' '),
+     "p.xml: larger than 4194304 bytes"},
+    {"nested too deep", Screen(Nested(100000)), "p.xml:1:"},
+    {"nested too deep and cut off", QByteArray("<a>").repeated(1000000), "p.xml:1:"},
+    {"too many pixels", "<program width='32767' height='32767'/>",
+     "p.xml:1: the screen has more than"},
+    {"one area too many", Screen(kArea.repeated(kMaximumAreas) + "\n" + kArea),
+     "p.xml:2: too many areas"},
+    {"areas of too many pixels together",
+     Screen(
+         QByteArray("<area x='0' y='0' width='32767' height='1000'><panel/></area>\n").repeated(2)),
+     "p.xml:2: too many areas"},
+};
+
+const QVector<BadProgram> kBadScreens {
+    {"other root", "<!-- -->\n<clock/>", "p.xml:2: the root element is <clock>"},
+    {"no size", "<program>" + kArea + "</program>", "p.xml:1: <program> needs width"},
+    {"width zero", "<program width='0' height='1'/>", "p.xml:1: <program> needs width"},
+    {"height negative", "<program width='1' height='-1'/>", "p.xml:1: <program> needs height"},
+    {"height a fraction", "<program width='1' height='1.5'/>", "p.xml:1: <program> needs height"},
+    {"side too long", "<program width='32768' height='1'/>", "p.xml:1: <program> needs width"},
+    {"side beyond 32 bits", "<program width='4294967297' height='1'/>",
+     "p.xml:1: <program> needs width"},
+    {"no area", Screen(""), "p.xml:1: the program has no <area>"},
+    {"other element", Screen("\n<clock/>"), "p.xml:2: unexpected element <clock>"},
+};
+
+const QVector<BadProgram> kBadAreas {
+    {"area without x", Screen("\n<area y='0' width='8' height='8'><panel/></area>"),
+     "p.xml:2: <area> needs x"},
+    {"area with y too small",
+     Screen("\n<area x='0' y='-32768' width='8' height='8'><panel/></area>"),
+     "p.xml:2: <area> needs y"},
+    {"area of no width", Screen("\n<area x='0' y='0' width='0' height='8'><panel/></area>"),
+     "p.xml:2: <area> needs width"},
+    {"area with nothing in it", AreaWith("\n"), "p.xml:1: an <area> holds exactly one element"},
+    {"area with two elements", AreaWith("<panel/><panel/>"),
+     "p.xml:1: an <area> holds exactly one element"},
+    {"attribute without key", AreaWith("<panel>\n<attribute value='1'/></panel>"),
+     "p.xml:2: an <attribute> needs"},
+    {"attribute with empty key", AreaWith("<panel>\n<attribute key='' value='1'/></panel>"),
+     "p.xml:2: an <attribute> needs"},
+    {"attribute without value", AreaWith("<panel>\n<attribute key='Id'/></panel>"),
+     "p.xml:2: an <attribute> needs"},
+};
+
 } // namespace
 
 class TestProgramFile : public QObject
@@ -135,98 +244,10 @@ void TestProgramFile::Refused_data()
 {
     QTest::addColumn<QByteArray>("contents");
     QTest::addColumn<QString>("message"); // what it begins with
-    const auto row = [](const char *name, const QByteArray &contents, const char *message) {
-        QTest::newRow(name) << contents << QString::fromLatin1(message);
-    };
-    row("empty", "", "p.xml:1:");
-    row("not XML", "hello", "p.xml:1:");
-    row("binary", QByteArray(100, '\0'), "p.xml:1:");
-    row("cut off", "<program width='1' height='1'>\n<area", "p.xml:2:");
-    row("wrong end tag", "<program>\n\n</prog>",
-        "p.xml:3: </prog> does not match <program> of line 1");
-    row("no end tag", "<program>\n<area>\n", "p.xml:3: <area> of line 2 is never closed");
-    row("end tag without a start", "<program/>\n</area>", "p.xml:2: </area> has no start tag");
-    row("tag without its end", "<program width='1'\n<area/>",
-        "p.xml:2: the tag <program> has no \">\"");
-    row("end tag without its end", "<program></program", "p.xml:1: \"</program\" has no");
-    row("value without quotation marks", "<program\n width=1/>",
-        "p.xml:2: the attribute width of <program> needs a value in quotation marks");
-    row("attribute without a value", "<program width/>",
-        "p.xml:1: the attribute width of <program> needs a value");
-    row("quotation mark missing in the middle", "<program width='1 height='1'/>",
-        "p.xml:1: a space or a quotation mark is missing in <program>");
-    row("quotation mark missing at the end", "<program width='1>\n<area/></program>",
-        "p.xml:1: the value of width of <program> has no closing quotation mark");
-    row("lone ampersand", AreaWith("<panel>\n<title value='a & b'/></panel>"),
-        "p.xml:2: \"&\" in a text is written as &amp;");
-    row("name of another language", "<program>&nbsp;</program>", "p.xml:1: \"&\" in a text");
-    row("lone less-than sign", "<program>1 < 2</program>", "p.xml:1: \"<\" in a text");
-    row("two roots", Screen(kArea) + "\n<clock/>",
-        "p.xml:2: <clock> follows the end of the outermost element");
-    row("text at the end", Screen(kArea) + "\nend", "p.xml:2: there is text after");
-    row("comment without an end", "<program>\n<!-- ", "p.xml:2: a comment is never closed");
-    row("encoding that nobody knows", "<?xml version='1.0' encoding='klingon'?><program/>",
-        "p.xml:1: the encoding \"klingon\" is not known");
-    row("bytes of another encoding", "<program>\n\xff\xfe</program>",
-        "p.xml:2: these bytes are not a text in UTF-8");
-    row("document type definition", "<?xml version='1.0'?>\n<!DOCTYPE program>\n<program/>",
-        "p.xml:2: document type definitions (<!DOCTYPE>) are not accepted");
-    row("attributes of one tag", Screen("\n<area" + ManyAttributes(257) + "/>"),
-        "p.xml:2: <area> has more than 256 attributes");
-    row("attributes in all", Screen(("<a" + ManyAttributes(256) + "/>").repeated(513)),
-        "p.xml:1: more than 131072 attributes");
-    row("elements", Screen(QByteArray("<a/>").repeated(1 << 16)),
-        "p.xml:1: more than 65536 elements");
-    row("text of another kind of file, larger", QByteArray((4 << 20) + 1, ' '),
-        "p.xml: larger than 4194304 bytes");
-    row("one attribute twice", "<program width='1' width='1'/>",
-        "p.xml:1: <program> has two attributes width");
-    row("second root", Screen(kArea) + "\n<program/>", "p.xml:2:");
-    row("nested too deep", Screen(Nested(100000)), "p.xml:1:");
-    row("nested too deep and cut off", QByteArray("<a>").repeated(1000000), "p.xml:1:");
-    row("entities that multiply",
-        "<!DOCTYPE p [<!ENTITY a "
-        "'aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa'>"
-        "<!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
-        "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'>"
-        "<!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>"
-        "]>\n<program>&d;</program>",
-        "p.xml:1: document type definitions");
-    row("other root", "<!-- -->\n<clock/>", "p.xml:2: the root element is <clock>");
-    row("no size", "<program>" + kArea + "</program>", "p.xml:1: <program> needs width");
-    row("width zero", "<program width='0' height='1'/>", "p.xml:1: <program> needs width");
-    row("height negative", "<program width='1' height='-1'/>", "p.xml:1: <program> needs height");
-    row("height a fraction", "<program width='1' height='1.5'/>",
-        "p.xml:1: <program> needs height");
-    row("side too long", "<program width='32768' height='1'/>", "p.xml:1: <program> needs width");
-    row("side beyond 32 bits", "<program width='4294967297' height='1'/>",
-        "p.xml:1: <program> needs width");
-    row("too many pixels", "<program width='32767' height='32767'/>",
-        "p.xml:1: the screen has more than");
-    row("no area", Screen(""), "p.xml:1: the program has no <area>");
-    row("other element", Screen("\n<clock/>"), "p.xml:2: unexpected element <clock>");
-    row("area without x", Screen("\n<area y='0' width='8' height='8'><panel/></area>"),
-        "p.xml:2: <area> needs x");
-    row("area with y too small",
-        Screen("\n<area x='0' y='-32768' width='8' height='8'><panel/></area>"),
-        "p.xml:2: <area> needs y");
-    row("area of no width", Screen("\n<area x='0' y='0' width='0' height='8'><panel/></area>"),
-        "p.xml:2: <area> needs width");
-    row("area with nothing in it", AreaWith("\n"), "p.xml:1: an <area> holds exactly one element");
-    row("area with two elements", AreaWith("<panel/><panel/>"),
-        "p.xml:1: an <area> holds exactly one element");
-    row("attribute without key", AreaWith("<panel>\n<attribute value='1'/></panel>"),
-        "p.xml:2: an <attribute> needs");
-    row("attribute with empty key", AreaWith("<panel>\n<attribute key='' value='1'/></panel>"),
-        "p.xml:2: an <attribute> needs");
-    row("attribute without value", AreaWith("<panel>\n<attribute key='Id'/></panel>"),
-        "p.xml:2: an <attribute> needs");
-    row("one area too many", Screen(kArea.repeated(kMaximumAreas) + "\n" + kArea),
-        "p.xml:2: too many areas");
-    row("areas of too many pixels together",
-        Screen(QByteArray("<area x='0' y='0' width='32767' height='1000'><panel/></area>\n")
-                   .repeated(2)),
-        "p.xml:2: too many areas");
+    for (const auto &programs : {kBrokenTexts, kTooMuch, kBadScreens, kBadAreas}) {
+        for (const BadProgram &program : programs)
+            QTest::newRow(program.name) << program.contents << QString::fromLatin1(program.message);
+    }
 }
 
 void TestProgramFile::Refused()

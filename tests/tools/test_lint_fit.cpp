@@ -31,6 +31,57 @@ QByteArray Time(const QByteArray &size, const QByteArray &colour = "#ffffff")
         + size + "\" color=\"" + colour + "\"/>";
 }
 
+// What lint says of a program, as a warning or a note.
+struct Finding
+{
+    const char *name;
+    QByteArray program;
+    QString severity;
+    QString said;
+};
+
+const QString kWarning = "warning";
+const QString kNote = "note";
+
+const Finding kFindings[] = {
+    {"cut", Wall(Digital(Time("60"))), kWarning, "in.xml:5: warning: the time is cut: "},
+    {"size", Wall(Digital(Time("60"))), kWarning, " points would fit; all sizes"},
+    {"key colour", Wall(Digital(Time("20", "#010201"))), kWarning,
+     "the time has the key colour #010201"},
+    {"faint", Wall(Digital(Time("20", "#202020"))), kWarning,
+     "the colour #202020 of the time has a contrast of 1.3 to #000000"},
+    {"blue", Wall(Digital(Time("20", "#0000ff"))), kNote,
+     "the colour #0000ff of the time has a contrast of 2.4 to #000000"},
+    {"rows over each other",
+     Wall(Digital("<title display=\"false\"/><week display=\"false\"/>\n"
+                  "<date display=\"true\" color=\"#ffffff\"/>\n"
+                  "<time display=\"true\"/><clockTextsSyle space=\"-20\"/>")),
+     kWarning, "the time is drawn over the date: up to "},
+    {"not in the font",
+     Wall(Digital("<title display=\"true\" value=\"&#x5317;\" fontName=\"DejaVu Sans\"/>\n"
+                  "<date display=\"false\"/><week display=\"false\"/>"
+                  "<time display=\"false\"/>")),
+     kNote, QString::fromUtf8("the family \"DejaVu Sans\" of the title lacks \"北\": ")},
+    {"small dial",
+     Wall("<clock type=\"dial\"><title display=\"false\"/><date display=\"false\"/>\n"
+          "<week display=\"false\"/><ampm display=\"false\"/></clock>",
+          60, 60),
+     kNote, "a dial with a radius of 30 pixels has no minute marks; from 40.5 on it has"},
+    {"hands",
+     Wall("<clock type=\"dial\"><analog hourHandColor=\"#ffffff\""
+          " minuteHandColor=\"#ffffff\"/></clock>",
+          200, 200),
+     kNote, "the hour hand and the minute hand are both #ffffff"},
+    {"off the screen", Wall(Digital(Time("20"))).replace("x=\"0\"", "x=\"500\""), kWarning,
+     "in.xml:2: warning: the area is off the screen"},
+    {"cut by the screen", Wall(Digital(Time("40"))).replace("x=\"0\"", "x=\"-60\""), kWarning,
+     "the time is cut: "},
+    {"clock over clock",
+     Wall(Digital(Time("20")) + "</area>\n<area x=\"0\" y=\"0\" width=\"200\" height=\"60\">"
+          + Digital(Time("20"))),
+     kWarning, "in.xml:7: warning: the time is drawn over the time of the clock in line 3: "},
+};
+
 } // namespace
 
 class TestLintFit : public QObject
@@ -64,44 +115,8 @@ void TestLintFit::Finds_data()
     QTest::addColumn<QByteArray>("program");
     QTest::addColumn<QString>("severity");
     QTest::addColumn<QString>("said");
-    const QString warning = "warning";
-    const QString note = "note";
-    QTest::newRow("cut") << Wall(Digital(Time("60"))) << warning
-                         << "in.xml:5: warning: the time is cut: ";
-    QTest::newRow("size") << Wall(Digital(Time("60"))) << warning << " points would fit; all sizes";
-    QTest::newRow("key colour") << Wall(Digital(Time("20", "#010201"))) << warning
-                                << "the time has the key colour #010201";
-    QTest::newRow("faint") << Wall(Digital(Time("20", "#202020"))) << warning
-                           << "the colour #202020 of the time has a contrast of 1.3 to #000000";
-    QTest::newRow("blue") << Wall(Digital(Time("20", "#0000ff"))) << note
-                          << "the colour #0000ff of the time has a contrast of 2.4 to #000000";
-    QTest::newRow("rows over each other")
-        << Wall(Digital("<title display=\"false\"/><week display=\"false\"/>\n"
-                        "<date display=\"true\" color=\"#ffffff\"/>\n"
-                        "<time display=\"true\"/><clockTextsSyle space=\"-20\"/>"))
-        << warning << "the time is drawn over the date: up to ";
-    QTest::newRow("not in the font")
-        << Wall(Digital("<title display=\"true\" value=\"&#x5317;\" fontName=\"DejaVu Sans\"/>\n"
-                        "<date display=\"false\"/><week display=\"false\"/>"
-                        "<time display=\"false\"/>"))
-        << note << QString::fromUtf8("the family \"DejaVu Sans\" of the title lacks \"北\": ");
-    QTest::newRow("small dial") << Wall(
-        "<clock type=\"dial\"><title display=\"false\"/><date display=\"false\"/>\n"
-        "<week display=\"false\"/><ampm display=\"false\"/></clock>",
-        60,
-        60) << note << "a dial with a radius of 30 pixels has no minute marks; from 40.5 on it has";
-    QTest::newRow("hands") << Wall("<clock type=\"dial\"><analog hourHandColor=\"#ffffff\""
-                                   " minuteHandColor=\"#ffffff\"/></clock>",
-                                   200, 200)
-                           << note << "the hour hand and the minute hand are both #ffffff";
-    QTest::newRow("off the screen") << Wall(Digital(Time("20"))).replace("x=\"0\"", "x=\"500\"")
-                                    << warning << "in.xml:2: warning: the area is off the screen";
-    QTest::newRow("cut by the screen") << Wall(Digital(Time("40"))).replace("x=\"0\"", "x=\"-60\"")
-                                       << warning << "the time is cut: ";
-    const QByteArray area = "<area x=\"0\" y=\"0\" width=\"200\" height=\"60\">";
-    QTest::newRow("clock over clock")
-        << Wall(Digital(Time("20")) + "</area>\n" + area + Digital(Time("20"))) << warning
-        << "in.xml:7: warning: the time is drawn over the time of the clock in line 3: ";
+    for (const Finding &finding : kFindings)
+        QTest::newRow(finding.name) << finding.program << finding.severity << finding.said;
 }
 
 void TestLintFit::Finds()

@@ -34,6 +34,259 @@ QStringList Warnings(const QString &errors)
     return errors.split(QLatin1Char('\n')).filter(QStringLiteral(": warning: "));
 }
 
+// A program with one fault, and the warning that it gets.
+struct Finding
+{
+    const char *name;
+    QByteArray text;
+    int line;
+    QStringList words; // of the warning
+};
+
+// Elements, attributes and keys that are not read.
+const QVector<Finding> kNames {
+    {"misspelt element", Digital("<weak/>"), 2, {"<weak>", "did you mean \"week\"?"}},
+    {"unknown element", Digital("<xyzzyplugh/>"), 2, {"<xyzzyplugh>", "accepted: ", "week"}},
+    {"element of the other kind", Digital("<analog/>"), 2, {"<analog>", "type \"dial\""}},
+    {"second element", Digital("<date/><date/>"), 2, {"only the first <date>"}},
+    {"shadowed element",
+     Digital("<title/><fixedText/>"),
+     2,
+     {"<title> is not read beside <fixedText>"}},
+    {"misspelt attribute",
+     Digital("<time fontsize='3'/>"),
+     2,
+     {"\"fontsize\" of <time>", "did you mean \"fontSize\"?"}},
+    {"code that the exported form has not",
+     Analog("<time value='3'/>"),
+     2,
+     {"<time>", "type \"digital\""}},
+    {"code of a lunar row", Digital("<lunarCalendar value='3'/>"), 2, {"\"value\""}},
+    {"attribute of the clock",
+     ProgramOf("<clock timeZone='+01:00'/>"),
+     1,
+     {"\"timeZone\"", "did you mean \"timezone\"?"}},
+    {"misspelt key",
+     Setting("DigitalSpase", "1"),
+     2,
+     {"\"DigitalSpase\"", "did you mean \"DigitalSpace\"?"}},
+    {"unknown key", Setting("xyzzyplugh", "1"), 2, {"\"xyzzyplugh\"", "clock_tool attributes"}},
+    {"a key twice",
+     Digital("<attribute key='Id' value='1'/>\n<attribute key='Id' value='2'/>"),
+     3,
+     {"Id is set again"}},
+    {"other element", ProgramOf("\n<clok/>"), 2, {"<clok>", "<clock>"}},
+    {"setting without a value",
+     Digital("<date/>\n<attribute key='Id'/>"),
+     3,
+     {"needs a key and a value"}},
+    {"text where none is read", Digital("<date/>12:00"), 1, {"docs/program.rng"}},
+};
+
+const QVector<Finding> kValues {
+    {"display as number",
+     Digital("<date display='1'/>"),
+     2,
+     {"display=\"1\" counts as \"false\"", "\"true\""}},
+    {"display in capitals", Digital("<date display='True'/>"), 2, {"display=\"True\""}},
+    {"colour", Digital("<date color='#ff'/>"), 2, {"color=\"#ff\"", "black", "#rrggbb"}},
+    {"misspelt colour", Digital("<date color='purpel'/>"), 2, {"did you mean \"purple\"?"}},
+    {"colour of the font", Digital("<font color='redd'/>"), 2, {"did you mean \"red\"?"}},
+    // Red is 255, green 128 and blue 0: 255 + 256 * 128.
+    {"stored colour as name", Setting("DigitalTimeColor", "#ff8000"), 2, {"33023"}},
+    {"stored colour too large", Setting("DigitalTimeColor", "16777216"), 2, {"16777215"}},
+    {"number with a unit",
+     Digital("<time fontSize='12pt'/>"),
+     2,
+     {"fontSize=\"12pt\"", "counts as 0"}},
+    {"number too large", Digital("<clockTextsSyle space='4294967297'/>"), 2, {"counts as 0"}},
+    {"flag that is no number", Setting("Digital_Date_d", "true"), 2, {"counts as 0"}},
+    {"date code", Digital("<date format='9'/>"), 2, {"format=\"9\"", "0 to 8"}},
+    {"negative code", Digital("<week format='-1'/>"), 2, {"0 to 3"}},
+    {"time code", Setting("DigitalTimeType", "5"), 2, {"0 to 4"}},
+    {"hour marks", Analog("<analog hourScaleType='5'/>"), 2, {"0 to 4"}},
+    {"minute marks", Analog("<analog minuteScaleType='3'/>"), 2, {"0 to 2"}},
+    {"kind", Setting("ClockType", "3"), 2, {"0 to 2"}},
+    {"font size", Digital("<time fontSize='0'/>"), 2, {"1 to 32767"}},
+    {"tag of several lines", Digital("<date\n  format='9'\n/>"), 4, {"0 to 8"}},
+    {"opacity behind the colour",
+     Digital("<date color='#11223344'/>"),
+     2,
+     {"#aarrggbb, which is the colour #223344", "#rrggbbaa: #112233"}},
+};
+
+// Zones, adjustments and rules of daylight saving.
+const QVector<Finding> kTimes {
+    {"zone without a sign", ProgramOf("<clock timezone='19:00'/>"), 1, {"+09:00", "a sign"}},
+    {"zone that is a name", ProgramOf("<clock timezone='Europe/Berlin'/>"), 1, {"+00:00"}},
+    {"zone of the older form",
+     Digital("<clockCom clockType='1' timeZone='UTC'/>"),
+     2,
+     {"timeZone=\"UTC\""}},
+    {"stored zone", Setting("TimeZone", "+1"), 2, {"TimeZone=\"+1\""}},
+    {"adjustment",
+     ProgramOf("<clock adjust='01:30:00'/>"),
+     1,
+     {"adjust=\"01:30:00\"", "changes nothing", "hh:mm:ss"}},
+    {"adjustment of two days",
+     Digital("<clockCom clockType='1' timeAdjust='172800'/>"),
+     2,
+     {"86399"}},
+    {"stored adjustment", Setting("TimeAdjust", "01:30:00"), 2, {"hhAmmBss"}},
+    {"rule",
+     Setting("DaylightSavingTimeStart", "13.1.7.02:00:00"),
+     2,
+     {"never in force", "3.Last.7.02:00:00"}},
+    {"rule of a fifth Sunday",
+     Setting("DaylightSavingTimeEnd", "10.5.7.02:00:00"),
+     2,
+     {"fifth", "Last"}},
+    {"rule missing", Setting("UseDaylightSavingTime", "1"), 1, {"without a rule"}},
+    {"rules alike",
+     ProgramOf("<clock><clockCom clockType='1' isDaylightSavingTime='1' "
+               "Start='3.1.7.02:00:00' End='3.1.7.02:00:00'/></clock>"),
+     1,
+     {"at the same time"}},
+    {"rules that are not used",
+     Digital("<attribute key='DaylightSavingTimeStart' value='3.Last.7.02:00:00'/>"
+             "<attribute key='DaylightSavingTimeEnd' value='10.Last.7.02:00:00'/>"),
+     1,
+     {"not used", "UseDaylightSavingTime is 0", "accepted: 1"}},
+    {"rules with a flag of another number",
+     Digital("<clockCom clockType='1' timeZone='+01:00' isDaylightSavingTime='0' "
+             "Start='3.Last.7.02:00:00' End='10.Last.7.02:00:00'/>"),
+     1,
+     {"not used"}},
+    {"end as published",
+     Digital("<attribute key='TimeZone' value='+01:00'/>"
+             "<attribute key='UseDaylightSavingTime' value='1'/>"
+             "<attribute key='DaylightSavingTimeStart' value='3.Last.7.02:00:00'/>"
+             "<attribute key='DaylightSavingTimeEnd' value='10.Last.7.03:00:00'/>"),
+     1,
+     {"an hour late for Europe/Berlin", "accepted: 10.Last.7.02:00:00"}},
+};
+
+const QVector<Finding> kFonts {
+    {"font",
+     Digital("<time fontName='DejaVu Snas'/>"),
+     2,
+     {"not an installed font", "did you mean \"DejaVu Sans\"?"}},
+    {"stored font", Setting("DigitalTimeFName", "Xyzzy Plugh"), 2, {"fc-list"}},
+    {"digits that lose strokes",
+     Digital("<date display='false'/>\n"
+             "<time fontName='WenQuanYi Micro Hei' fontSize='8' format='0'/>"),
+     3,
+     {"\"WenQuanYi Micro Hei\" lose strokes at 8 points", "0 has 0 holes instead of 1",
+      "accepted: 9"}},
+    {"colon that vanishes",
+     Digital("<date display='false'/><time fontName='WenQuanYi Micro Hei'/>\n"
+             "<attribute key='DigitalTimeFSize' value='7'/>"),
+     3,
+     {"\":\" is not drawn", "accepted: 9"}},
+    {"numerals that lose strokes",
+     Analog("<date display='false'/><analog hourScaleType='4' hourScaleFontName='DejaVu Serif' "
+            "hourScaleFontSize='6'/>"),
+     2,
+     {"lose strokes at 6 points", "accepted: 7"}},
+};
+
+// What does not suit the kind of clock, or hides all of it.
+const QVector<Finding> kKinds {
+    {"type", ProgramOf("<clock type='round'/>"), 1, {"type=\"round\"", "\"digital\""}},
+    {"type in capitals",
+     ProgramOf("<clock\n type='Digital'>\n<digital/><time/></clock>"),
+     2,
+     {"type=\"Digital\"", "\"digital\""}},
+    {"older form without a type", Digital("<clockCom/>"), 1, {"clockType", "1 digital"}},
+    {"all rows hidden",
+     Digital("<title display='false'/><date display='false'/><week display='false'/>"
+             "<time display='false'/>"),
+     1,
+     {"all rows of this clock are hidden", "display=\"true\""}},
+    {"only an empty label shown",
+     Digital("<title value='' display='true'/><date display='false'/>"
+             "<week display='false'/><time display='false'/>"),
+     1,
+     {"all rows"}},
+    {"label of a picture clock",
+     ProgramOf("<clock type='picture'>\n<title value='x'/></clock>"),
+     2,
+     {"<title> has no effect", "picture clock"}},
+    {"hands of a picture clock",
+     ProgramOf("<clock>\n<analog hourHandColor='red'/>"
+               "<attribute key='ClockType' value='2'/></clock>"),
+     2,
+     {"<analog> has no effect"}},
+};
+
+// Files that travel with a program.
+const QVector<Finding> kFiles {
+    {"image that the clock has not",
+     Digital("<file key='_AnalogAM' md5='0123456789abcdef0123456789abcdef' size='1' path='a'/>"),
+     2,
+     {"\"_AnalogAM\""}},
+    {"file without a digest",
+     Digital("<file key='_timeNumber' path='a' size='1'/>"),
+     2,
+     {"<file> needs the attribute md5"}},
+    {"file with a digest of another form",
+     Digital("<file key='_timeNumber' md5='x' path='a' size='1'/>"),
+     2,
+     {"<file>", "docs/program.rng"}},
+    {"file that is missing",
+     Carried("none.png", "0123456789abcdef0123456789abcdef", 1),
+     2,
+     {"the file \"none.png\" is missing"}},
+    {"file of other bytes",
+     Carried("in.png", "0123456789abcdef0123456789abcdef", 5),
+     2,
+     {"the file \"in.png\" has the digest 5d41402abc4b2a76b9719d911017c592"}},
+    {"file of another size",
+     Carried("in.png", "5d41402abc4b2a76b9719d911017c592", 6),
+     2,
+     {"has 5 bytes, expected 6"}},
+};
+
+// Screens, areas and what clocks make together.
+const QVector<Finding> kAreas {
+    {"area without a width",
+     "<program width='1' height='1'>\n<area x='0' y='0' height='1'><clock/></area></program>",
+     2,
+     {"width", "1 to 32767"}},
+    {"program without areas", "<program width='1' height='1'/>", 1, {"no <area>"}},
+    {"area misspelt",
+     "<program width='1' height='1'><area x='0' y='0' width='1' height='1'><clock/></area>\n"
+     "<aera/></program>",
+     2,
+     {"aera"}},
+    {"unknown attribute of the area",
+     "<program width='1' height='1'>\n<area x='0' y='0' z='1' width='1' height='1'><clock/>"
+     "</area></program>",
+     2,
+     {"z"}},
+    {"frames of more than is usual",
+     "<program width='32767' height='410'>\n<area x='0' y='0' width='32767' height='410'>"
+     "<clock/></area></program>",
+     1,
+     {"257 MiB", "more than 256"}},
+    {"area outside the screen",
+     "<program width='64' height='32'>\n<area x='64' y='0' width='8' height='8'><clock/></area>"
+     "</program>",
+     2,
+     {"outside the screen of 64 x 32"}},
+    {"screen without a size",
+     "<program><area x='0' y='0' width='1' height='1'><clock/></area></program>",
+     1,
+     {"width from 1 to 32767, height from 1 to 32767"}},
+    {"two clocks with one Id",
+     "<program width='1' height='1'>"
+     "<area x='0' y='0' width='1' height='1'><clock>\n<attribute key='Id' value='7'/></clock>"
+     "</area><area x='0' y='0' width='1' height='1'>\n<clock>"
+     "<attribute key='Id' value='7'/></clock></area></program>",
+     3,
+     {"Id 7", "line 1"}},
+};
+
 } // namespace
 
 class TestToolLint : public QObject
@@ -118,164 +371,10 @@ void TestToolLint::Finds_data()
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<int>("line");
     QTest::addColumn<QStringList>("words");
-    const auto row = [](const char *name, const QByteArray &text, int line,
-                        const QStringList &words) { QTest::newRow(name) << text << line << words; };
-    row("misspelt element", Digital("<weak/>"), 2, {"<weak>", "did you mean \"week\"?"});
-    row("unknown element", Digital("<xyzzyplugh/>"), 2, {"<xyzzyplugh>", "accepted: ", "week"});
-    row("element of the other kind", Digital("<analog/>"), 2, {"<analog>", "type \"dial\""});
-    row("second element", Digital("<date/><date/>"), 2, {"only the first <date>"});
-    row("shadowed element", Digital("<title/><fixedText/>"), 2,
-        {"<title> is not read beside <fixedText>"});
-    row("misspelt attribute", Digital("<time fontsize='3'/>"), 2,
-        {"\"fontsize\" of <time>", "did you mean \"fontSize\"?"});
-    row("code that the exported form has not", Analog("<time value='3'/>"), 2,
-        {"<time>", "type \"digital\""});
-    row("code of a lunar row", Digital("<lunarCalendar value='3'/>"), 2, {"\"value\""});
-    row("attribute of the clock", ProgramOf("<clock timeZone='+01:00'/>"), 1,
-        {"\"timeZone\"", "did you mean \"timezone\"?"});
-    row("misspelt key", Setting("DigitalSpase", "1"), 2,
-        {"\"DigitalSpase\"", "did you mean \"DigitalSpace\"?"});
-    row("unknown key", Setting("xyzzyplugh", "1"), 2, {"\"xyzzyplugh\"", "clock_tool attributes"});
-    row("a key twice", Digital("<attribute key='Id' value='1'/>\n<attribute key='Id' value='2'/>"),
-        3, {"Id is set again"});
-    row("display as number", Digital("<date display='1'/>"), 2,
-        {"display=\"1\" counts as \"false\"", "\"true\""});
-    row("display in capitals", Digital("<date display='True'/>"), 2, {"display=\"True\""});
-    row("colour", Digital("<date color='#ff'/>"), 2, {"color=\"#ff\"", "black", "#rrggbb"});
-    row("misspelt colour", Digital("<date color='purpel'/>"), 2, {"did you mean \"purple\"?"});
-    row("colour of the font", Digital("<font color='redd'/>"), 2, {"did you mean \"red\"?"});
-    // Red is 255, green 128 and blue 0: 255 + 256 * 128.
-    row("stored colour as name", Setting("DigitalTimeColor", "#ff8000"), 2, {"33023"});
-    row("stored colour too large", Setting("DigitalTimeColor", "16777216"), 2, {"16777215"});
-    row("number with a unit", Digital("<time fontSize='12pt'/>"), 2,
-        {"fontSize=\"12pt\"", "counts as 0"});
-    row("number too large", Digital("<clockTextsSyle space='4294967297'/>"), 2, {"counts as 0"});
-    row("flag that is no number", Setting("Digital_Date_d", "true"), 2, {"counts as 0"});
-    row("date code", Digital("<date format='9'/>"), 2, {"format=\"9\"", "0 to 8"});
-    row("negative code", Digital("<week format='-1'/>"), 2, {"0 to 3"});
-    row("time code", Setting("DigitalTimeType", "5"), 2, {"0 to 4"});
-    row("hour marks", Analog("<analog hourScaleType='5'/>"), 2, {"0 to 4"});
-    row("minute marks", Analog("<analog minuteScaleType='3'/>"), 2, {"0 to 2"});
-    row("kind", Setting("ClockType", "3"), 2, {"0 to 2"});
-    row("font size", Digital("<time fontSize='0'/>"), 2, {"1 to 32767"});
-    row("zone without a sign", ProgramOf("<clock timezone='19:00'/>"), 1, {"+09:00", "a sign"});
-    row("zone that is a name", ProgramOf("<clock timezone='Europe/Berlin'/>"), 1, {"+00:00"});
-    row("zone of the older form", Digital("<clockCom clockType='1' timeZone='UTC'/>"), 2,
-        {"timeZone=\"UTC\""});
-    row("stored zone", Setting("TimeZone", "+1"), 2, {"TimeZone=\"+1\""});
-    row("adjustment", ProgramOf("<clock adjust='01:30:00'/>"), 1,
-        {"adjust=\"01:30:00\"", "changes nothing", "hh:mm:ss"});
-    row("adjustment of two days", Digital("<clockCom clockType='1' timeAdjust='172800'/>"), 2,
-        {"86399"});
-    row("stored adjustment", Setting("TimeAdjust", "01:30:00"), 2, {"hhAmmBss"});
-    row("rule", Setting("DaylightSavingTimeStart", "13.1.7.02:00:00"), 2,
-        {"never in force", "3.Last.7.02:00:00"});
-    row("rule of a fifth Sunday", Setting("DaylightSavingTimeEnd", "10.5.7.02:00:00"), 2,
-        {"fifth", "Last"});
-    row("rule missing", Setting("UseDaylightSavingTime", "1"), 1, {"without a rule"});
-    row("rules alike",
-        ProgramOf("<clock><clockCom clockType='1' isDaylightSavingTime='1' "
-                  "Start='3.1.7.02:00:00' End='3.1.7.02:00:00'/></clock>"),
-        1, {"at the same time"});
-    row("font", Digital("<time fontName='DejaVu Snas'/>"), 2,
-        {"not an installed font", "did you mean \"DejaVu Sans\"?"});
-    row("stored font", Setting("DigitalTimeFName", "Xyzzy Plugh"), 2, {"fc-list"});
-    row("type", ProgramOf("<clock type='round'/>"), 1, {"type=\"round\"", "\"digital\""});
-    row("older form without a type", Digital("<clockCom/>"), 1, {"clockType", "1 digital"});
-    row("image that the clock has not",
-        Digital("<file key='_AnalogAM' md5='0123456789abcdef0123456789abcdef' size='1' path='a'/>"),
-        2, {"\"_AnalogAM\""});
-    row("file without a digest", Digital("<file key='_timeNumber' path='a' size='1'/>"), 2,
-        {"<file> needs the attribute md5"});
-    row("file with a digest of another form",
-        Digital("<file key='_timeNumber' md5='x' path='a' size='1'/>"), 2,
-        {"<file>", "docs/program.rng"});
-    row("setting without a value", Digital("<date/>\n<attribute key='Id'/>"), 3,
-        {"needs a key and a value"});
-    row("text where none is read", Digital("<date/>12:00"), 1, {"docs/program.rng"});
-    row("tag of several lines", Digital("<date\n  format='9'\n/>"), 4, {"0 to 8"});
-    row("other element", ProgramOf("\n<clok/>"), 2, {"<clok>", "<clock>"});
-    row("area without a width",
-        "<program width='1' height='1'>\n<area x='0' y='0' height='1'><clock/></area></program>", 2,
-        {"width", "1 to 32767"});
-    row("program without areas", "<program width='1' height='1'/>", 1, {"no <area>"});
-    row("area misspelt",
-        "<program width='1' height='1'><area x='0' y='0' width='1' height='1'><clock/></area>\n"
-        "<aera/></program>",
-        2, {"aera"});
-    row("unknown attribute of the area",
-        "<program width='1' height='1'>\n<area x='0' y='0' z='1' width='1' height='1'><clock/>"
-        "</area></program>",
-        2, {"z"});
-    row("frames of more than is usual",
-        "<program width='32767' height='410'>\n<area x='0' y='0' width='32767' height='410'>"
-        "<clock/></area></program>",
-        1, {"257 MiB", "more than 256"});
-    row("rules that are not used",
-        Digital("<attribute key='DaylightSavingTimeStart' value='3.Last.7.02:00:00'/>"
-                "<attribute key='DaylightSavingTimeEnd' value='10.Last.7.02:00:00'/>"),
-        1, {"not used", "UseDaylightSavingTime is 0", "accepted: 1"});
-    row("rules with a flag of another number",
-        Digital("<clockCom clockType='1' timeZone='+01:00' isDaylightSavingTime='0' "
-                "Start='3.Last.7.02:00:00' End='10.Last.7.02:00:00'/>"),
-        1, {"not used"});
-    row("end as published",
-        Digital("<attribute key='TimeZone' value='+01:00'/>"
-                "<attribute key='UseDaylightSavingTime' value='1'/>"
-                "<attribute key='DaylightSavingTimeStart' value='3.Last.7.02:00:00'/>"
-                "<attribute key='DaylightSavingTimeEnd' value='10.Last.7.03:00:00'/>"),
-        1, {"an hour late for Europe/Berlin", "accepted: 10.Last.7.02:00:00"});
-    row("digits that lose strokes",
-        Digital("<date display='false'/>\n"
-                "<time fontName='WenQuanYi Micro Hei' fontSize='8' format='0'/>"),
-        3,
-        {"\"WenQuanYi Micro Hei\" lose strokes at 8 points", "0 has 0 holes instead of 1",
-         "accepted: 9"});
-    row("colon that vanishes",
-        Digital("<date display='false'/><time fontName='WenQuanYi Micro Hei'/>\n"
-                "<attribute key='DigitalTimeFSize' value='7'/>"),
-        3, {"\":\" is not drawn", "accepted: 9"});
-    row("numerals that lose strokes",
-        Analog("<date display='false'/><analog hourScaleType='4' hourScaleFontName='DejaVu Serif' "
-               "hourScaleFontSize='6'/>"),
-        2, {"lose strokes at 6 points", "accepted: 7"});
-    row("all rows hidden",
-        Digital("<title display='false'/><date display='false'/><week display='false'/>"
-                "<time display='false'/>"),
-        1, {"all rows of this clock are hidden", "display=\"true\""});
-    row("only an empty label shown",
-        Digital("<title value='' display='true'/><date display='false'/>"
-                "<week display='false'/><time display='false'/>"),
-        1, {"all rows"});
-    row("label of a picture clock", ProgramOf("<clock type='picture'>\n<title value='x'/></clock>"),
-        2, {"<title> has no effect", "picture clock"});
-    row("hands of a picture clock",
-        ProgramOf("<clock>\n<analog hourHandColor='red'/>"
-                  "<attribute key='ClockType' value='2'/></clock>"),
-        2, {"<analog> has no effect"});
-    row("opacity behind the colour", Digital("<date color='#11223344'/>"), 2,
-        {"#aarrggbb, which is the colour #223344", "#rrggbbaa: #112233"});
-    row("area outside the screen",
-        "<program width='64' height='32'>\n<area x='64' y='0' width='8' height='8'><clock/></area>"
-        "</program>",
-        2, {"outside the screen of 64 x 32"});
-    row("type in capitals", ProgramOf("<clock\n type='Digital'>\n<digital/><time/></clock>"), 2,
-        {"type=\"Digital\"", "\"digital\""});
-    row("file that is missing", Carried("none.png", "0123456789abcdef0123456789abcdef", 1), 2,
-        {"the file \"none.png\" is missing"});
-    row("file of other bytes", Carried("in.png", "0123456789abcdef0123456789abcdef", 5), 2,
-        {"the file \"in.png\" has the digest 5d41402abc4b2a76b9719d911017c592"});
-    row("file of another size", Carried("in.png", "5d41402abc4b2a76b9719d911017c592", 6), 2,
-        {"has 5 bytes, expected 6"});
-    row("screen without a size",
-        "<program><area x='0' y='0' width='1' height='1'><clock/></area></program>", 1,
-        {"width from 1 to 32767, height from 1 to 32767"});
-    row("two clocks with one Id",
-        "<program width='1' height='1'>"
-        "<area x='0' y='0' width='1' height='1'><clock>\n<attribute key='Id' value='7'/></clock>"
-        "</area><area x='0' y='0' width='1' height='1'>\n<clock>"
-        "<attribute key='Id' value='7'/></clock></area></program>",
-        3, {"Id 7", "line 1"});
+    for (const auto &findings : {kNames, kValues, kTimes, kFonts, kKinds, kFiles, kAreas}) {
+        for (const Finding &finding : findings)
+            QTest::newRow(finding.name) << finding.text << finding.line << finding.words;
+    }
 }
 
 void TestToolLint::Finds()
