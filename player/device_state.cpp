@@ -1,8 +1,9 @@
 #include "device_state.h"
 
+#include "whole_file.h"
+
 #include <QFile>
 #include <QJsonDocument>
-#include <QSaveFile>
 
 #include <csignal>
 #include <cstring>
@@ -18,6 +19,8 @@
 #include <unistd.h>
 
 namespace ClockPlayer {
+
+using namespace ClockProgram;
 
 namespace {
 
@@ -65,14 +68,9 @@ void NotifyService(const char *state)
 #endif
 }
 
-std::optional<QString> WriteStatus(const QString &path, const QJsonObject &status)
+MaybeFailure WriteStatus(const QString &path, const QJsonObject &status)
 {
-    QSaveFile file(path);
-    const QByteArray text = QJsonDocument(status).toJson();
-    if (file.open(QFile::WriteOnly) && file.write(text) == text.size() && file.flush()
-        && file.commit())
-        return std::nullopt;
-    return QStringLiteral("%1: cannot be written: %2").arg(path, file.errorString());
+    return WriteFile(path, QJsonDocument(status).toJson(), Targets::OrdinaryFiles);
 }
 
 QuietConsole::QuietConsole() : m_terminal(::open("/dev/tty", O_RDWR | O_NOCTTY | O_CLOEXEC))

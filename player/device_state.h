@@ -2,6 +2,8 @@
 // status.
 #pragma once
 
+#include "failure.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
@@ -21,8 +23,8 @@ bool IsTimeSet();
 /// Tells the service manager, where one started the process: "READY=1", "WATCHDOG=1", "STATUS=...".
 void NotifyService(const char *state);
 
-/// Replaces a file with a JSON object, whole or not at all. Returns why it could not.
-std::optional<QString> WriteStatus(const QString &path, const QJsonObject &status);
+/// Replaces a file with a JSON object, whole or not at all. What is not an ordinary file fails.
+ClockProgram::MaybeFailure WriteStatus(const QString &path, const QJsonObject &status);
 
 /// Hides the text cursor of the console that the process was started on, and what is typed there,
 /// as long as one lives.

@@ -6,10 +6,10 @@
 #include "screen_composer.h"
 #include "stage.h"
 #include "time_travel.h"
+#include "whole_file.h"
 
 #include <QBuffer>
 #include <QDir>
-#include <QSaveFile>
 
 namespace ClockPlayer {
 
@@ -20,22 +20,13 @@ namespace {
 
 constexpr int kNameDigits = 4;
 
-// The file is not touched unless all of it can be written. It is flushed before it is committed: a
-// full disk shows only then.
 MaybeFailure SaveFrame(const QImage &screen, const QString &path)
 {
     QBuffer png;
-    const auto failure = [&path](const QString &reason) {
-        return Failure {ExitCode::RuntimeFailure,
-                        QStringLiteral("%1: cannot be written: %2").arg(path, reason)};
-    };
-    if (!screen.save(&png, "PNG"))
-        return failure(QStringLiteral("no memory for a PNG file of it"));
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(png.data()) == png.size() && file.flush()
-        && file.commit())
-        return std::nullopt;
-    return failure(file.errorString());
+    if (screen.save(&png, "PNG"))
+        return WriteFile(path, png.data(), Targets::OrdinaryFiles);
+    return Failure {ExitCode::RuntimeFailure,
+                    QStringLiteral("%1: no memory for a PNG file of the frame").arg(path)};
 }
 
 Failure TooLarge(const FrameRun &run)

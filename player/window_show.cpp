@@ -262,8 +262,8 @@ void WindowShow::KeepStatus()
     m_sinceStatus.start();
     if (m_options.statusFile.isEmpty())
         return;
-    if (const std::optional<QString> failure = WriteStatus(m_options.statusFile, Status()))
-        m_warn(*failure);
+    if (const MaybeFailure failure = WriteStatus(m_options.statusFile, Status()))
+        m_warn(failure->text);
 }
 
 QJsonObject WindowShow::Status()

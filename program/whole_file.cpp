@@ -19,7 +19,8 @@ constexpr int kMostLinks = 40; // as many as the system follows
 
 Failure WriteFailure(const QString &path, const QString &reason)
 {
-    return {ExitCode::RuntimeFailure, QStringLiteral("%1: %2").arg(path, reason)};
+    return {ExitCode::RuntimeFailure,
+            QStringLiteral("%1: cannot be written: %2").arg(path, reason)};
 }
 
 QString LastError()
@@ -98,11 +99,14 @@ bool IsStandardOutput(const struct stat &status)
 
 } // namespace
 
-MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Links links)
+MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets targets)
 {
-    if (links == Links::Refuse && QFileInfo(path).isSymLink())
-        return WriteFailure(path, QStringLiteral("this is a link; it is not written through"));
     struct stat status = {};
+    if (targets == Targets::OrdinaryFiles
+        && lstat(QFile::encodeName(path).constData(), &status) == 0 && !S_ISREG(status.st_mode))
+        return WriteFailure(path,
+                            S_ISLNK(status.st_mode) ? QStringLiteral("this is a link")
+                                                    : QStringLiteral("this is not a file"));
     if (stat(QFile::encodeName(path).constData(), &status) != 0)
         return Replace(path, contents);
     if (IsStandardOutput(status))
@@ -117,7 +121,8 @@ MaybeFailure WriteStandardOutput(const QByteArray &contents)
 {
     if (std::fflush(stdout) == 0 && WriteAll(STDOUT_FILENO, contents))
         return std::nullopt;
-    return WriteFailure(QStringLiteral("cannot write to standard output"), LastError());
+    return Failure {ExitCode::RuntimeFailure,
+                    QStringLiteral("cannot write to standard output: ") + LastError()};
 }
 
 } // namespace ClockProgram

@@ -7,15 +7,15 @@
 
 namespace ClockProgram {
 
-enum class Links {
-    Follow, ///< write what a link names; that need not exist yet
-    Refuse, ///< fail: in a directory of results a link leads to somebody else's file
+enum class Targets {
+    Any,           ///< what a link names, which need not exist yet; devices and FIFOs
+    OrdinaryFiles, ///< a link, device or FIFO fails: among results it belongs to somebody else
 };
 
 /// Writes a file. An ordinary file is replaced once the new one is complete on the disk, and stays
-/// as it was after a failure. Anything else that exists, such as a device, a FIFO or standard
-/// output by its name, is written to directly. The failure has the path and the system's reason.
-MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Links links);
+/// as it was after a failure. Another target, such as a device, a FIFO or standard output by its
+/// name, is written to directly. The failure has the path and the system's reason.
+MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets targets);
 
 /// Writes to standard output, so that nothing is left in a buffer.
 MaybeFailure WriteStandardOutput(const QByteArray &contents);

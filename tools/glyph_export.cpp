@@ -188,6 +188,9 @@ private:
     void WriteProgramAndList(WorkDirectory &work)
     {
         const QByteArray program = WriteXml(m_program);
+        m_failure = CheckReadable(program);
+        if (m_failure)
+            return;
         const QByteArray digest = QCryptographicHash::hash(program, QCryptographicHash::Md5);
         m_files.insert(kExportedProgram, {QString::fromLatin1(digest.toHex()), program.size()});
         m_failure = Stage(work, kExportedProgram, program);
@@ -200,10 +203,23 @@ private:
         }
     }
 
+    /// Every setting and image has an element of its own: a program near the bounds would be beyond
+    /// them.
+    MaybeFailure CheckReadable(const QByteArray &program) const
+    {
+        const auto read = ClockProgram::ParseProgram(program, QLatin1String(kExportedProgram));
+        if (read)
+            return std::nullopt;
+        return Failure {read.Error().code,
+                        QStringLiteral("%1: the exported program could not be read again: %2")
+                            .arg(m_clocks.program.path, read.Error().text)};
+    }
+
     static MaybeFailure Stage(const WorkDirectory &work, const char *name,
                               const QByteArray &contents)
     {
-        return ClockProgram::WriteFile(work.FilePath(name), contents, ClockProgram::Links::Refuse);
+        return ClockProgram::WriteFile(work.FilePath(name), contents,
+                                       ClockProgram::Targets::OrdinaryFiles);
     }
 
     MaybeFailure Publish(const WorkDirectory &work, const char *name) const

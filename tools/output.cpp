@@ -12,7 +12,7 @@ CommandResult Deliver(const QString &path, const QByteArray &contents)
 {
     using namespace ClockProgram;
     const MaybeFailure failure =
-        path.isEmpty() ? WriteStandardOutput(contents) : WriteFile(path, contents, Links::Follow);
+        path.isEmpty() ? WriteStandardOutput(contents) : WriteFile(path, contents, Targets::Any);
     return failure ? Report(*failure) : ExitCode::Success;
 }
 

@@ -46,6 +46,8 @@ private slots:
     void FramesFurtherApart();
     void StatsOfFrames();
     void OldFramesAreReplaced();
+    void ForeignEntriesAreNoFrames_data();
+    void ForeignEntriesAreNoFrames();
     void RedrawRequestsAreGathered();
     void NodeDiesWhilePlaying();
 
@@ -270,6 +272,38 @@ void TestClockPlayer::OldFramesAreReplaced()
     QVERIFY(!QImage(Path("out/frame_0001.png")).isNull());
     QVERIFY(QFile::exists(Path("out/other.txt")));
     QCOMPARE(QDir(Path("out")).entryList(QDir::Files).size(), 2);
+}
+
+void TestClockPlayer::ForeignEntriesAreNoFrames_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("link") << "ln -s ../other"
+                          << "this is a link";
+    QTest::newRow("link to nothing") << "ln -s nowhere"
+                                     << "this is a link";
+    QTest::newRow("pipe") << "mkfifo"
+                          << "this is not a file";
+    QTest::newRow("directory") << "mkdir"
+                               << "this is not a file";
+}
+
+void TestClockPlayer::ForeignEntriesAreNoFrames()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, reason);
+    const QString other = Write("other", "not a frame");
+    QVERIFY(QDir(m_directory->path()).mkdir("out"));
+    const QString frame = Path("out/frame_0001.png");
+    QCOMPARE(QProcess::execute("sh", {"-c", command + " \"$0\"", frame}), 0);
+    const PlayerRun run = Play({WriteProgram(Area(0, "<panel/>")), "--frames", "1"});
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.errors,
+             QStringLiteral("clock_player: %1: cannot be written: %2\n").arg(frame, reason));
+    QFile unchanged(other);
+    QVERIFY(unchanged.open(QFile::ReadOnly));
+    QCOMPARE(unchanged.readAll(), QByteArray("not a frame"));
+    QVERIFY(!QFileInfo(frame).isFile() || QFileInfo(frame).isSymLink());
 }
 
 // The third picture asks seven times; from the fourth on there is a new renderer, once.

@@ -1,9 +1,12 @@
 // The parts of a kiosk: the turned picture, the notices, and the guard of the screen.
+#include "device_state.h"
 #include "notice.h"
 #include "screen_guard.h"
 #include "wall_view.h"
 
+#include <QJsonDocument>
 #include <QSemaphore>
+#include <QTemporaryDir>
 #include <QTransform>
 #include <QtTest>
 
@@ -41,6 +44,7 @@ private slots:
     void GuardIsQuietWhileSecondsCome();
     void GuardEndsAtOnce();
     void Framebuffers();
+    void StatusReplacesFilesOnly();
 };
 
 void TestKiosk::TurnedPicture_data()
@@ -172,6 +176,23 @@ void TestKiosk::Framebuffers()
     QCOMPARE(FramebufferOf(""), QString());
     QVERIFY(!BlankFramebuffer("/dev/null"));
     QVERIFY(!BlankFramebuffer("/dev/there/is/none"));
+}
+
+void TestKiosk::StatusReplacesFilesOnly()
+{
+    const QTemporaryDir directory;
+    const QString file = directory.filePath("status");
+    const QString link = directory.filePath("link");
+    QVERIFY(!WriteStatus(file, {{"frames", 7}}));
+    QVERIFY(!WriteStatus(file, {{"frames", 8}}));
+    QVERIFY(QFile::link(file, link));
+    QCOMPARE(WriteStatus(link, {{"frames", 9}})->text,
+             link + ": cannot be written: this is a link");
+    QCOMPARE(WriteStatus(directory.path(), {})->text,
+             directory.path() + ": cannot be written: this is not a file");
+    QFile written(file);
+    QVERIFY(written.open(QFile::ReadOnly));
+    QCOMPARE(QJsonDocument::fromJson(written.readAll()).object(), QJsonObject({{"frames", 8}}));
 }
 
 QTEST_GUILESS_MAIN(TestKiosk)

@@ -98,6 +98,7 @@ private slots:
     void Bounds();
     void DocumentTypesAreRefused_data();
     void DocumentTypesAreRefused();
+    void ExportWritesNothingBeyondTheBounds();
     void OddTextsSurviveExport();
 };
 
@@ -209,6 +210,24 @@ void TestToolHostile::DocumentTypesAreRefused()
                  qPrintable(run.errors));
     }
     QCOMPARE(RunPlayer({path, "--output", directory.filePath("frames")}).exitCode, 3);
+}
+
+// Exported, a clock has an element for each of its own settings too.
+void TestToolHostile::ExportWritesNothingBeyondTheBounds()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("in.xml");
+    QByteArray settings;
+    for (int i = 0; i < 65500; ++i)
+        settings += "<attribute key='k" + QByteArray::number(i) + "' value=''/>";
+    QVERIFY(WriteText(path, ProgramOf("<clock type='digital'>" + settings + "</clock>")));
+    const ProcessRun run = RunTool(CommandLine("export", path, directory.path()));
+    QCOMPARE(run.exitCode, 3);
+    const QString refusal = path + ": the exported program could not be read again: program.xml:";
+    QVERIFY2(run.errors.contains(refusal), qPrintable(run.errors));
+    QVERIFY2(run.errors.endsWith("more than 131072 attributes\n"), qPrintable(run.errors));
+    QVERIFY(!QFile::exists(directory.filePath("out/program.xml")));
+    QVERIFY(!QFile::exists(directory.filePath("out/files.tsv")));
 }
 
 // White space, quotation marks, right-to-left marks and characters beyond the first plane.
