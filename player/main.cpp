@@ -152,9 +152,6 @@ int Run(int argc, char **argv)
 
 int main(int argc, char **argv)
 {
-    FixFontResolution();
-    // What has changed is shown at once, not gathered for five milliseconds.
-    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
-        qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    PrepareEnvironment();
     return Run(argc, argv);
 }

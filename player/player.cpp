@@ -183,6 +183,14 @@ MaybeFailure PlayToFiles(const Options &options, const Program &program, const W
 
 } // namespace
 
+void PrepareEnvironment()
+{
+    FixFontResolution();
+    // What has changed is shown at once, not gathered for five milliseconds.
+    if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
+        qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+}
+
 MaybeFailure Play(const Options &options, const Result<Program> &program,
                   const FileSignature &signature, const Warn &warn)
 {

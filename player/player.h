@@ -8,6 +8,9 @@
 
 namespace ClockPlayer {
 
+/// How Qt measures fonts and presents windows. To be called before the application is constructed.
+void PrepareEnvironment();
+
 /// Plays on the display until the window is closed or the process is asked to end; or writes the
 /// frames. Only a kiosk takes a program that could not be read. The signature is the program file's
 /// before it was read. Needs a QGuiApplication.

@@ -1,0 +1,232 @@
+// clock_player_seconds: steady seconds of the whole player, from its timer to the screen, and what
+// each of them takes of the process. With --floor the pictures are drawn and what changed in them
+// is copied, without a player, an event loop or a window: no player can take less.
+#include "player.h"
+#include "plugins.h"
+#include "process_counts.h"
+#include "window_show.h"
+
+#include "happconfig.h"
+#include "pictureplayer.h"
+#include "stage.h"
+#include "time_travel.h"
+
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <cstring>
+
+#include <sys/resource.h>
+#include <time.h>
+
+namespace {
+
+using namespace ClockPlayer;
+using namespace ClockProgram;
+using namespace ClockStage;
+
+constexpr qint64 kFirstInstant = 1709632800000; // 2024-03-05T10:00:00Z: no date changes
+constexpr int kFirstSeconds = 70;               // hands are kept within the first minute
+constexpr int kFirstSpeed = 50;
+constexpr int kSecond = 1000; // milliseconds
+constexpr long long kFrameBytes = 64 << 10;
+
+/// What the process has taken since it began.
+struct Taken
+{
+    ProcessCounts counts = CountsNow();
+    double processor; // milliseconds of this thread
+    long wakeUps;
+    double steady = StageTime::Steady();
+
+    Taken()
+    {
+        timespec time {};
+        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        processor = double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+        rusage used {};
+        ::getrusage(RUSAGE_THREAD, &used);
+        wakeUps = used.ru_nvcsw;
+    }
+};
+
+void Print(const char *name, double number)
+{
+    std::printf("%s: %.4g\n", name, number);
+}
+
+// The counts of the start show that counting works.
+void Print(const Taken &begun, const Taken &ended, int presentations, double speed)
+{
+    const ProcessCounts &from = begun.counts;
+    const ProcessCounts &to = ended.counts;
+    const double seconds = (ended.steady - begun.steady) * speed / kSecond;
+    Print("presentations a second", presentations / seconds);
+    Print("wake-ups a second", double(ended.wakeUps - begun.wakeUps) / seconds);
+    Print("processor ms a second", (ended.processor - begun.processor) / seconds);
+    Print("allocations a second", double(to.allocations - from.allocations) / seconds);
+    Print("bytes allocated a second", double(to.bytes - from.bytes) / seconds);
+    Print("frame-sized allocations before", double(from.frameSized));
+    Print("frame-sized allocations", double(to.frameSized - from.frameSized));
+    Print("files opened before", double(from.filesOpened));
+    Print("files opened", double(to.filesOpened - from.filesOpened));
+}
+
+void Complain(const QString &text)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+void SetSpeed(double speed)
+{
+    StageTime::Travel().SetSpeed(speed, StageTime::Real());
+    Lw::pictureplayer::SetTimeScale(speed);
+}
+
+void Present(int presentations)
+{
+    QEventLoop loop;
+    auto *const window = qobject_cast<PlayerWindow *>(QGuiApplication::topLevelWindows().value(0));
+    QObject::connect(window, &PlayerWindow::Painted, &loop, [&loop, &presentations] {
+        if (--presentations <= 0)
+            loop.quit();
+    });
+    loop.exec();
+}
+
+// By their names scripts/check-instructions knows what to count.
+__attribute__((noinline)) void PresentSteadySeconds(int seconds)
+{
+    Present(seconds);
+}
+
+MaybeFailure MeasurePlayer(const Options &options, int seconds)
+{
+    StageTime::RunFrom(kFirstInstant);
+    SetSpeed(kFirstSpeed);
+    WindowShow show(options, Playback::Travelling::Possible, Complain);
+    const Result<Program> program = ReadProgram(options.programPath);
+    if (const MaybeFailure failure = show.Play(program, SignatureOf(options.programPath)))
+        return failure;
+    Present(kFirstSeconds);
+    SetSpeed(options.speed);
+    Present(1);
+    const Taken begun;
+    PresentSteadySeconds(seconds);
+    Print(begun, Taken(), seconds, options.speed);
+    show.PrintStats();
+    return std::nullopt;
+}
+
+void CopyRows(QImage &screen, const Layer &layer, const QRect &rect)
+{
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        const QPoint from = QPoint(rect.left(), y) - layer.geometry.topLeft();
+        std::memcpy(screen.scanLine(y) + rect.left() * sizeof(QRgb),
+                    layer.image.constScanLine(from.y()) + from.x() * int(sizeof(QRgb)),
+                    std::size_t(rect.width()) * sizeof(QRgb));
+    }
+}
+
+/// Draws the next pictures of a stage, and copies what changed in them.
+class BareScreen
+{
+public:
+    explicit BareScreen(Stage &stage) : m_stage(stage), m_screen(BlackScreen(stage.Size()))
+    {
+        QObject::connect(&stage, &Stage::Changed,
+                         [this](const QRegion &region) { m_changed.append(region); });
+    }
+
+    void Show(qint64 instant)
+    {
+        StageTime::HoldAt(instant);
+        m_changed.clear();
+        m_stage.PlayNext();
+        const QVector<Layer> layers = m_stage.Layers();
+        for (int i = 0; i < qMin(layers.size(), m_changed.size()); ++i) {
+            for (const QRect &rect : m_changed[i])
+                CopyRows(m_screen, layers[i], rect & m_screen.rect());
+        }
+    }
+
+private:
+    Stage &m_stage;
+    QImage m_screen;
+    QVector<QRegion> m_changed; // by each area in its turn
+};
+
+__attribute__((noinline)) void DrawSteadySeconds(BareScreen &screen, int seconds, double speed)
+{
+    const auto wait = static_cast<long>(1e9 / speed);
+    for (int i = 1; i <= seconds; ++i) {
+        const timespec time {wait / 1000000000, wait % 1000000000};
+        ::nanosleep(&time, nullptr);
+        screen.Show(kFirstInstant + qint64(kFirstSeconds + i) * kSecond);
+    }
+}
+
+MaybeFailure MeasureFloor(const Options &options, int seconds)
+{
+    Lw::pictureplayer::SetTimeScale(0);
+    StageTime::HoldAt(kFirstInstant);
+    const Result<Program> program = ReadProgram(options.programPath);
+    if (const auto *failure = std::get_if<Failure>(&program))
+        return *failure;
+    Stage stage;
+    if (const MaybeFailure failure =
+            BuildStage(stage, std::get<Program>(program), options, Complain))
+        return failure;
+    stage.Start();
+    BareScreen screen(stage);
+    for (int i = 1; i <= kFirstSeconds; ++i)
+        screen.Show(kFirstInstant + qint64(i) * kSecond);
+    const Taken begun;
+    DrawSteadySeconds(screen, seconds, options.speed);
+    Print(begun, Taken(), seconds, options.speed);
+    return std::nullopt;
+}
+
+MaybeFailure Measure(const QString &program, const QString &seconds, const QString &speed,
+                     bool isFloor)
+{
+    Options options;
+    options.programPath = program;
+    options.speed = qBound(kMinimumSpeed, speed.toDouble(), double(kMaximumSpeed));
+    QStringList warnings;
+    if (const MaybeFailure failure = LoadPlugins(
+            QCoreApplication::applicationDirPath() + QStringLiteral("/../plugins"), warnings))
+        return failure;
+    if (const MaybeFailure failure = SetTimeSource(&StageTime::TellPlugin))
+        return failure;
+    const QTemporaryDir directory;
+    Lw::HAppConfig::SetClockOutputPath(directory.path());
+    SetFrameBytes(kFrameBytes);
+    return isFloor ? MeasureFloor(options, seconds.toInt())
+                   : MeasurePlayer(options, seconds.toInt());
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    PrepareEnvironment();
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.addPositionalArgument(QStringLiteral("PROGRAM SECONDS SPEED"), {});
+    const QCommandLineOption floor(QStringLiteral("floor"));
+    parser.addOption(floor);
+    parser.process(application);
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.size() != 3)
+        parser.showHelp(2);
+    const MaybeFailure failure =
+        Measure(arguments[0], arguments[1], arguments[2], parser.isSet(floor));
+    if (failure)
+        Complain(failure->text);
+    return failure ? 1 : 0;
+}
