@@ -24,6 +24,24 @@ namespace {
 constexpr int kMostSteps = 64;
 constexpr int kMostSets = 1; // of glyph images: they take longer than all else together
 
+/// The corpus knows these by their places.
+using DrawerOperation = void (*)(DrawDisplayImage &drawer, int space);
+constexpr std::array<DrawerOperation, 13> kDrawerOperations = {
+    [](DrawDisplayImage &drawer, int) { drawer.GetAngDisplayArea(); },
+    [](DrawDisplayImage &drawer, int) { drawer.DrawAnalogClock(); },
+    [](DrawDisplayImage &drawer, int) { drawer.DrawAnalogClockDial(); },
+    [](DrawDisplayImage &drawer, int space) { drawer.SetHandSize(space); },
+    [](DrawDisplayImage &drawer, int) { drawer.GetDigitalDisplayArea(); },
+    [](DrawDisplayImage &drawer, int) { drawer.Computations1Count(); },
+    [](DrawDisplayImage &drawer, int space) { drawer.Computations2Count(space); },
+    [](DrawDisplayImage &drawer, int space) { drawer.Computations3Count(space); },
+    [](DrawDisplayImage &drawer, int space) { drawer.Computations4Count(space); },
+    [](DrawDisplayImage &drawer, int space) { drawer.Computations5Count(space); },
+    [](DrawDisplayImage &drawer, int) { drawer.DrawDigitalClock(); },
+    [](DrawDisplayImage &drawer, int) { drawer.InitClockTypePixmap(); },
+    [](DrawDisplayImage &drawer, int) { drawer.DrawPixmapClock(); },
+};
+
 class Player
 {
 public:
@@ -142,52 +160,12 @@ private:
 
     void CallDrawer()
     {
-        DrawDisplayImage &drawer = *m_drawer;
         const int space = m_input.Number();
-        switch (m_input.Choice(14)) {
-        case 0:
-            drawer.GetAngDisplayArea();
-            break;
-        case 1:
-            drawer.DrawAnalogClock();
-            break;
-        case 2:
-            drawer.DrawAnalogClockDial();
-            break;
-        case 3:
-            drawer.SetHandSize(space);
-            break;
-        case 4:
-            drawer.GetDigitalDisplayArea();
-            break;
-        case 5:
-            drawer.Computations1Count();
-            break;
-        case 6:
-            drawer.Computations2Count(space);
-            break;
-        case 7:
-            drawer.Computations3Count(space);
-            break;
-        case 8:
-            drawer.Computations4Count(space);
-            break;
-        case 9:
-            drawer.Computations5Count(space);
-            break;
-        case 10:
-            drawer.DrawDigitalClock();
-            break;
-        case 11:
-            drawer.InitClockTypePixmap();
-            break;
-        case 12:
-            drawer.DrawPixmapClock();
-            break;
-        default:
+        const auto choice = static_cast<std::size_t>(m_input.Choice(kDrawerOperations.size() + 1));
+        if (choice < kDrawerOperations.size())
+            kDrawerOperations[choice](*m_drawer, space);
+        else
             ComposeElements();
-            break;
-        }
     }
 
     void ComposeElements()

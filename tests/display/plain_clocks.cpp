@@ -60,7 +60,7 @@ QImage PlainClock::NewImage()
 QImage PlainClock::Frame()
 {
     ReadTime();
-    m_frame = m_frame.copy(); // the frame before stays with whoever has it
+    m_frame = m_frame.copy(); // its holder keeps the frame before
     if (Number("ClockType") == 0) {
         PlaceTexts();
         DrawAnalog();
@@ -244,14 +244,7 @@ void PlainClock::DrawHands()
     const int hour = m_hourShown;
     const int minute = m_minuteShown;
     const int second = m_secondShown;
-    struct
-    {
-        const char *type;
-        const char *colour;
-        double angle, bar, k, m, w;
-        QPointF ringCentre;
-        double ring;
-    } hands[] = {
+    const Hand hands[] = {
         {"HourRectType", "HourHandColor", (hour + minute / 60.0 + second / 3600.0) * 30, 0.5, 0.5,
          0.25, 1.5 * a, QPointF(0, Trunc(3 * a)), a},
         {"MinuteRectType", "MinuteHandColor", (minute + second / 60) * 6.0, 0.75, 0.75, 0.5,
@@ -262,44 +255,53 @@ void PlainClock::DrawHands()
     QPainter painter(&m_frame);
     painter.setRenderHint(QPainter::Antialiasing, Smooth());
     painter.translate(m_frame.width() / 2, m_frame.height() / 2);
-    for (const auto &hand : hands) {
-        const double k = hand.k;
-        const double m = hand.m * 23 * a;
-        painter.save();
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(Colour(hand.colour));
-        painter.rotate(hand.angle);
-        if (Number(hand.type) == 0) {
-            const double tip = -hand.bar * 23 * a;
-            const QPointF bar[] = {{-a, 0}, {a, 0}, {a, tip}, {-a, tip}};
-            painter.drawConvexPolygon(bar, 4);
-        } else if (Number(hand.type) == 1) {
-            const QPointF arrow[] = {{-hand.w, -k * 7.5 * a},
-                                     {-a / 2, -k * 3 * a},
-                                     {-a / 2, k * 4 * a},
-                                     {a / 2, k * 4 * a},
-                                     {a / 2, -k * 3 * a},
-                                     {hand.w, -k * 7.5 * a},
-                                     {a / 4, -m},
-                                     {a, -m},
-                                     {0, -k * 25 * a},
-                                     {-a, -m},
-                                     {-a / 4, -m}};
-            painter.drawConvexPolygon(arrow, 11);
-            QPen pen(Colour(hand.colour));
-            pen.setWidth(Trunc(a / 2));
-            painter.setPen(pen);
-            painter.setBrush(Qt::NoBrush);
-            painter.drawEllipse(hand.ringCentre, hand.ring, hand.ring);
-        }
-        painter.restore();
-    }
+    for (const Hand &hand : hands)
+        DrawHand(painter, hand, a);
     const bool arrow = Number("HourRectType") == 1 || Number("MinuteRectType") == 1
         || Number("SecondRectType") == 1;
     const int cap = arrow ? Trunc(a) : Trunc(2 * a);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Colour("SecondHandColor"));
     painter.drawEllipse(QRect(QPoint(-cap, -cap), QPoint(cap - 1, cap - 1)));
+}
+
+void PlainClock::DrawHand(QPainter &painter, const Hand &hand, double a)
+{
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Colour(hand.colour));
+    painter.rotate(hand.angle);
+    if (Number(hand.type) == 0) {
+        const double tip = -hand.bar * 23 * a;
+        const QPointF bar[] = {{-a, 0}, {a, 0}, {a, tip}, {-a, tip}};
+        painter.drawConvexPolygon(bar, 4);
+    } else if (Number(hand.type) == 1) {
+        DrawArrow(painter, hand, a);
+    }
+    painter.restore();
+}
+
+void PlainClock::DrawArrow(QPainter &painter, const Hand &hand, double a)
+{
+    const double k = hand.k;
+    const double m = hand.m * 23 * a;
+    const QPointF arrow[] = {{-hand.w, -k * 7.5 * a},
+                             {-a / 2, -k * 3 * a},
+                             {-a / 2, k * 4 * a},
+                             {a / 2, k * 4 * a},
+                             {a / 2, -k * 3 * a},
+                             {hand.w, -k * 7.5 * a},
+                             {a / 4, -m},
+                             {a, -m},
+                             {0, -k * 25 * a},
+                             {-a, -m},
+                             {-a / 4, -m}};
+    painter.drawConvexPolygon(arrow, 11);
+    QPen pen(Colour(hand.colour));
+    pen.setWidth(Trunc(a / 2));
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(hand.ringCentre, hand.ring, hand.ring);
 }
 
 void PlainClock::PlaceTexts()

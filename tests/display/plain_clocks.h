@@ -22,6 +22,20 @@ public:
     QImage Dial(int margin);
 
 private:
+    /// A hand as fractions of the dial; k, m, w and the ring are an arrow's.
+    struct Hand
+    {
+        const char *type;
+        const char *colour;
+        double angle;
+        double bar;
+        double k;
+        double m;
+        double w;
+        QPointF ringCentre;
+        double ring;
+    };
+
     int Number(const char *key) { return m_node->GetAttributeToInt(QLatin1String(key)); }
     QColor Colour(const char *key);
     QImage NewImage();
@@ -34,6 +48,8 @@ private:
     void DrawNumerals(QPainter &painter, double r, double a);
     void DrawBadge();
     void DrawHands();
+    void DrawHand(QPainter &painter, const Hand &hand, double a);
+    void DrawArrow(QPainter &painter, const Hand &hand, double a);
     void DrawTexts();
     void PlaceTexts();
     void DrawPicture();

@@ -42,6 +42,13 @@ enum Victim { WholeArea, NodeOnly, NodeThenArea, VictimCount };
 const char *const kVictims[] = {"area", "node", "node then area"};
 static_assert(std::size(kVictims) == VictimCount);
 
+QImage NextPicture(Area &area)
+{
+    area.PlayNext();
+    area.PlayNext();
+    return area.Picture().image.copy();
+}
+
 } // namespace
 
 class TestAreaDeletions : public QObject
@@ -57,6 +64,8 @@ private Q_SLOTS:
 private:
     std::unique_ptr<Area> NewArea(unsigned int identifier, int kind);
     void At(Step step);
+    void Live();
+    void PlaySecond();
 
     QTemporaryDir m_files;
     Lw::INodePlugin *m_plugin = nullptr;
@@ -100,6 +109,39 @@ void TestAreaDeletions::At(Step step)
         m_area.reset();
 }
 
+/// The area's life, step by step.
+void TestAreaDeletions::Live()
+{
+    bool first = true;
+    connect(m_area.get(), &Area::PictureChanged, this,
+            [this, &first] { At(first ? FirstPicture : LaterPicture); });
+    At(Made);
+    if (m_area)
+        m_area->Start();
+    first = false;
+    At(Started);
+    PlaySecond();
+    At(Between);
+    PlaySecond();
+    QTest::qWait(10);
+    At(Ticking);
+    QTest::qWait(10);
+    if (m_area && m_area->Node())
+        QVERIFY(QMetaObject::invokeMethod(m_area->Node(), "ReDrawSourceImage"));
+    At(RedrawDue);
+    QTest::qWait(10);
+    PlaySecond();
+    if (m_area)
+        m_area->disconnect(this);
+}
+
+void TestAreaDeletions::PlaySecond()
+{
+    g_now += 1000;
+    if (m_area)
+        m_area->PlayNext();
+}
+
 void TestAreaDeletions::AtEveryStep_data()
 {
     QTest::addColumn<int>("kind");
@@ -125,31 +167,7 @@ void TestAreaDeletions::AtEveryStep()
     const auto beside = NewArea(kBesideId, kind);
     beside->Start();
     m_area = NewArea(kId, kind);
-    bool first = true;
-    connect(m_area.get(), &Area::PictureChanged, this,
-            [this, &first] { At(first ? FirstPicture : LaterPicture); });
-    const auto play = [this] {
-        g_now += 1000;
-        if (m_area)
-            m_area->PlayNext();
-    };
-
-    At(Made);
-    if (m_area)
-        m_area->Start();
-    first = false;
-    At(Started);
-    play();
-    At(Between);
-    play();
-    QTest::qWait(10);
-    At(Ticking);
-    QTest::qWait(10);
-    if (m_area && m_area->Node())
-        QVERIFY(QMetaObject::invokeMethod(m_area->Node(), "ReDrawSourceImage"));
-    At(RedrawDue);
-    QTest::qWait(10);
-    play();
+    Live();
 
     QVERIFY(m_fell);
     QCOMPARE(m_area == nullptr, m_victim != NodeOnly);
@@ -160,19 +178,16 @@ void TestAreaDeletions::AtEveryStep()
     m_area.reset();
     QVERIFY(!Lw::pictureplayer::ForIdentifier(kId));
     g_now += 1000;
-    beside->PlayNext();
-    beside->PlayNext();
-    const QImage shown = beside->Picture().image.copy();
+    const QImage shown = NextPicture(*beside);
     QCOMPARE(shown.size(), kSize);
 
-    // Where it was, another is started, and shows the same.
+    // Another area is started in the same place, and shows the same.
     const auto again = NewArea(kId, kind);
     again->Start();
-    again->PlayNext();
-    again->PlayNext();
+    const QImage shownAgain = NextPicture(*again);
     if (kind != 0) // an analog dial keeps what was written on it before
-        QCOMPARE(again->Picture().image, shown);
-    QCOMPARE(again->Picture().image.size(), kSize);
+        QCOMPARE(shownAgain, shown);
+    QCOMPARE(shownAgain.size(), kSize);
 }
 
 QTEST_MAIN(TestAreaDeletions)

@@ -68,6 +68,8 @@ public:
 private:
     void At(Step step);
     void Watch();
+    void MakeGlyphs();
+    void PlayTillTicking();
     void Play();
 
     int m_kind;
@@ -119,16 +121,38 @@ void Life::Lead()
 {
     m_node = new HClockNode;
     At(NodeMade);
-    if (m_node) {
-        m_node->InitData();
-        m_node->SetAttribute(Key(Attribute::ClockType), m_kind, false);
-        m_node->SetSize({60, 40});
-        m_node->NodeAlready(0);
-    }
+    MakeGlyphs();
     At(GlyphsMade);
     m_render = new HClockRender(m_node);
     pictureplayer::Register(kId, m_render);
     At(RenderMade);
+    PlayTillTicking();
+    if (m_render)
+        m_render->Stop();
+    At(Stopped);
+    if (m_render)
+        m_render->Start(kId, 0);
+    At(StartedAgain);
+    Play();
+    if (m_render)
+        m_render->Remove();
+    At(Removed);
+    Play();
+    QTest::qWait(10);
+}
+
+void Life::MakeGlyphs()
+{
+    if (!m_node)
+        return;
+    m_node->InitData();
+    m_node->SetAttribute(Key(Attribute::ClockType), m_kind, false);
+    m_node->SetSize({60, 40});
+    m_node->NodeAlready(0);
+}
+
+void Life::PlayTillTicking()
+{
     // A start that is cut short by Stop makes the player known without a tick to come.
     if (m_render) {
         m_render->Start(kId, 0);
@@ -145,18 +169,6 @@ void Life::Lead()
     Play();
     QTest::qWait(10); // ticks at 200 times the speed
     At(Ticking);
-    QTest::qWait(10);
-    if (m_render)
-        m_render->Stop();
-    At(Stopped);
-    if (m_render)
-        m_render->Start(kId, 0);
-    At(StartedAgain);
-    Play();
-    if (m_render)
-        m_render->Remove();
-    At(Removed);
-    Play();
     QTest::qWait(10);
 }
 

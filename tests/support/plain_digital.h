@@ -1,6 +1,6 @@
-// The digital clock drawn the plain way: every glyph file read anew, every element composed on a
-// canvas of its own, every frame filled and drawn whole. Slow and simple; what the plugin draws is
-// compared with it.
+// The digital clock drawn the plain way: every glyph file loaded each time, every element composed
+// on a canvas of its own, every frame filled and drawn whole. Slow and simple; what the plugin
+// draws is compared with it.
 #pragma once
 
 #include "clock_node.h"
@@ -38,6 +38,18 @@ public:
     QImage Frame(const Shown &shown);
 
 private:
+    struct DateDigits
+    {
+        QPixmap year;
+        QPixmap month;
+        QPixmap day;
+    };
+
+    DateDigits DigitsOf(const Shown &shown);
+    QPixmap DateWithMonthName(const Shown &shown);
+    QPixmap DateWithLabels(const Shown &shown);
+    QPixmap DateWithSeparators(const Shown &shown);
+    QPixmap TimeOfDay(int hour, int minute, int second);
     QPixmap File(const char *key);
     int Number(const char *key);
 
