@@ -173,11 +173,10 @@ MaybeFailure MeasureFloor(const Options &options, int seconds)
     Lw::pictureplayer::SetTimeScale(0);
     StageTime::HoldAt(kFirstInstant);
     const Result<Program> program = ReadProgram(options.programPath);
-    if (const auto *failure = std::get_if<Failure>(&program))
-        return *failure;
+    if (!program)
+        return program.Error();
     Stage stage;
-    if (const MaybeFailure failure =
-            BuildStage(stage, std::get<Program>(program), options, Complain))
+    if (const MaybeFailure failure = BuildStage(stage, *program, options, Complain))
         return failure;
     stage.Start();
     BareScreen screen(stage);

@@ -50,7 +50,7 @@ ClockScene::ClockScene(HClockNode &node, const GlyphSource &source) : m_node(nod
 std::vector<PlacedPart> ClockScene::TextsAt(qint64 utc)
 {
     const HeldReading then(utc);
-    const Composer::ReadingScope oneReading(m_composer);
+    const Composer::FrameScope oneReading(m_composer);
     Placements placements;
     if (m_digital) {
         LayOutDigital(*m_digital, CountRows(m_digital->flags), m_digital->space, m_composer,

@@ -2,7 +2,7 @@
 
 #include "clock_parts.h"
 
-#include "compose/glyph_reading.h"
+#include "compose/picture_file.h"
 #include "display/analog_geometry.h"
 #include "display/style_pictures.h"
 #include "image_bounds.h"

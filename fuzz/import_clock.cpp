@@ -124,8 +124,7 @@ QDomElement MakeClock(QDomDocument &document, Fuzz::Input &input)
 
 void ImportDocument(const QByteArray &contents)
 {
-    const auto read = ClockProgram::ParseDocument(contents, QStringLiteral("fuzz"));
-    const auto *const document = std::get_if<QDomDocument>(&read);
+    const auto document = ClockProgram::ParseDocument(contents, QStringLiteral("fuzz"));
     if (!document)
         return;
     const QDomNodeList clocks = document->elementsByTagName(QLatin1String(Sdk::kClock));

@@ -142,9 +142,8 @@ int Run(int argc, char **argv)
         return RunOnDisplay(argc, argv, options, Program(), FileSignature());
     const FileSignature signature = SignatureOf(options.programPath);
     const Result<Program> program = ReadProgram(options.programPath);
-    const auto *const failure = std::get_if<Failure>(&program);
-    if (failure && !options.isKiosk)
-        return Report(*failure);
+    if (!program && !options.isKiosk)
+        return Report(program.Error());
     return RunOnDisplay(argc, argv, options, program, signature);
 }
 

@@ -62,9 +62,9 @@ MaybeFailure PrepareFiles(const Options &options)
     QString directory = options.filesDirectory;
     if (directory.isEmpty()) {
         const Result<QString> made = MakeWorkDirectory();
-        if (const auto *failure = std::get_if<Failure>(&made))
-            return *failure;
-        directory = std::get<QString>(made);
+        if (!made)
+            return made.Error();
+        directory = *made;
     } else if (const MaybeFailure failure = PrepareDirectory(directory)) {
         return failure;
     }
@@ -205,7 +205,7 @@ MaybeFailure Play(const Options &options, const Result<Program> &program,
         return failure;
     if (const MaybeFailure failure = PrepareFiles(options))
         return failure;
-    return options.WritesFrames() ? PlayToFiles(options, std::get<Program>(program), warn)
+    return options.WritesFrames() ? PlayToFiles(options, *program, warn)
                                   : PlayInWindow(options, program, signature, travelling, warn);
 }
 

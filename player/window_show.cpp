@@ -79,16 +79,15 @@ WindowShow::WindowShow(const Options &options, Playback::Travelling travelling, 
 MaybeFailure WindowShow::Play(const Result<Program> &program, const FileSignature &signature)
 {
     m_watch = ProgramWatch(signature);
-    const auto *const unread = std::get_if<Failure>(&program);
     if (m_options.isKiosk)
         BeginKiosk();
-    const MaybeFailure failure = unread ? *unread : Show(std::get<Program>(program));
+    const MaybeFailure failure = program ? Show(*program) : program.Error();
     if (failure && !m_options.isKiosk)
         return failure;
     if (failure) {
         Fault(failure->text);
-        ShowNotice(unread && signature == FileSignature() ? Notice::NoProgram
-                                                          : Notice::WrongProgram);
+        ShowNotice(!program && signature == FileSignature() ? Notice::NoProgram
+                                                            : Notice::WrongProgram);
     }
     if (!m_options.isKiosk)
         m_window.show();
@@ -182,9 +181,7 @@ void WindowShow::ReadAgain()
 MaybeFailure WindowShow::Read()
 {
     const Result<Program> program = ReadProgram(m_options.programPath);
-    if (const auto *failure = std::get_if<Failure>(&program))
-        return *failure;
-    return Show(std::get<Program>(program));
+    return program ? Show(*program) : program.Error();
 }
 
 MaybeFailure WindowShow::Show(const Program &program)
@@ -207,10 +204,9 @@ MaybeFailure WindowShow::Show(const Program &program)
             return faulty;
         Fault(faulty->text);
     }
-    const Result<QByteArray> contents = ReadContents(program.path);
-    if (const auto *bytes = std::get_if<QByteArray>(&contents))
+    if (const Result<QByteArray> contents = ReadContents(program.path))
         m_digest = QString::fromLatin1(
-            QCryptographicHash::hash(*bytes, QCryptographicHash::Sha256).toHex());
+            QCryptographicHash::hash(*contents, QCryptographicHash::Sha256).toHex());
     const QSize display = QGuiApplication::primaryScreen()->size();
     const QRect picture = m_window.Picture();
     if (m_options.isKiosk && !QRect(QPoint(), display).contains(picture))

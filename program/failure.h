@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
 #include <variant>
 
 namespace ClockProgram {
@@ -32,21 +33,26 @@ using MaybeFailure = std::optional<Failure>;
 ///         return program.Error();
 ///     Play(*program);
 template<typename T>
-class Result : public std::variant<T, Failure>
+class Result
 {
 public:
-    using std::variant<T, Failure>::variant;
+    Result(const T &value) : m_either(value) { }
+    Result(T &&value) : m_either(std::move(value)) { }
+    Result(const Failure &failure) : m_either(failure) { }
 
-    explicit operator bool() const { return this->index() == 0; }
+    explicit operator bool() const { return std::holds_alternative<T>(m_either); }
 
     // Only where there is a value.
-    const T &operator*() const { return *std::get_if<T>(this); }
-    T &operator*() { return *std::get_if<T>(this); }
-    const T *operator->() const { return std::get_if<T>(this); }
-    T *operator->() { return std::get_if<T>(this); }
+    const T &operator*() const { return *std::get_if<T>(&m_either); }
+    T &operator*() { return *std::get_if<T>(&m_either); }
+    const T *operator->() const { return std::get_if<T>(&m_either); }
+    T *operator->() { return std::get_if<T>(&m_either); }
 
     /// Only where there is none.
-    const Failure &Error() const { return *std::get_if<Failure>(this); }
+    const Failure &Error() const { return *std::get_if<Failure>(&m_either); }
+
+private:
+    std::variant<T, Failure> m_either;
 };
 
 } // namespace ClockProgram

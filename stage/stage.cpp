@@ -21,14 +21,13 @@ MaybeFailure Stage::Build(const Program &program, const PluginFinder &findPlugin
                           GlyphFiles glyphFiles)
 {
     m_size = program.size;
-    Result<MadeNodes> result = MakeNodes(program, findPlugin);
-    if (const auto *failure = std::get_if<Failure>(&result))
-        return *failure;
-    auto &made = std::get<MadeNodes>(result);
-    m_warnings = made.warnings;
+    Result<MadeNodes> made = MakeNodes(program, findPlugin);
+    if (!made)
+        return made.Error();
+    m_warnings = made->warnings;
     if (glyphFiles == GlyphFiles::Carried)
-        m_warnings += ResolveCarriedFiles(program, made);
-    for (MadeNode &node : made.nodes)
+        m_warnings += ResolveCarriedFiles(program, *made);
+    for (MadeNode &node : made->nodes)
         AddArea(node.plugin, std::move(node.node), glyphFiles);
     return std::nullopt;
 }

@@ -90,9 +90,9 @@ CommandResult RunExport(const QStringList &arguments)
     if (const MaybeFailure failure = tool.InstallLanguage())
         return Report(*failure);
     const Result<ProgramClocks> read = ReadClocks(tool.Positional(0));
-    if (const auto *failure = std::get_if<Failure>(&read))
-        return Report(*failure);
-    const auto &clocks = std::get<ProgramClocks>(read);
+    if (!read)
+        return Report(read.Error());
+    const ProgramClocks &clocks = *read;
     const QString directory = QFileInfo(tool.Positional(1)).absoluteFilePath();
     if (const MaybeFailure failure = CheckProgramStays(directory, clocks.program.path))
         return Report(*failure);

@@ -127,17 +127,16 @@ CommandResult RunGlyphs(const QStringList &arguments)
         return *ended;
     if (const MaybeFailure failure = tool.InstallLanguage())
         return Report(*failure);
-    const Result<ProgramClocks> read = ReadClocks(tool.Positional(0));
-    if (const auto *failure = std::get_if<Failure>(&read))
-        return Report(*failure);
+    const Result<ProgramClocks> clocks = ReadClocks(tool.Positional(0));
+    if (!clocks)
+        return Report(clocks.Error());
     const WorkDirectory work;
     if (const MaybeFailure failure = work.Fault())
         return Report(*failure);
     Lw::HAppConfig::SetClockOutputPath(work.Path());
-    const auto &clocks = std::get<ProgramClocks>(read);
     Audit audit;
-    for (int i = 0; i < clocks.Count(); ++i)
-        audit.Add(i + 1, clocks.Clock(i));
+    for (int i = 0; i < clocks->Count(); ++i)
+        audit.Add(i + 1, clocks->Clock(i));
     if (const MaybeFailure failure = audit.Fault())
         return Report(*failure);
     Say(audit.Summary());

@@ -59,7 +59,6 @@ public:
     private:
         ElementComposer &m_composer;
     };
-    using ReadingScope = FrameScope;
 
 private:
     // Keeps the pixmap of an element until the element changes.

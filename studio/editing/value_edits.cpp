@@ -245,8 +245,7 @@ std::unique_ptr<HClockNode> ClockOf(const ProgramReading &reading, int area)
 {
     ClockProgram::Program alone = reading.program;
     alone.areas = {reading.program.areas[area]};
-    auto result = ClockProgram::MakeNodes(alone, FindClockPlugin);
-    auto *const made = std::get_if<ClockProgram::MadeNodes>(&result);
+    auto made = ClockProgram::MakeNodes(alone, FindClockPlugin);
     if (!made)
         return nullptr;
     Lw::HNode *const node = made->nodes.front().node.release();

@@ -50,14 +50,13 @@ bool ProgramFiles::IsSaved() const
 
 std::optional<QString> ProgramFiles::Open(const QString &path)
 {
-    const auto read = ClockProgram::ReadContents(path);
-    if (const auto *const failure = std::get_if<ClockProgram::Failure>(&read))
-        return failure->text;
-    const QByteArray &contents = std::get<QByteArray>(read);
-    if (!m_document.Load(contents))
+    const auto contents = ClockProgram::ReadContents(path);
+    if (!contents)
+        return contents.Error().text;
+    if (!m_document.Load(*contents))
         return tr("%1 is damaged or not a text.").arg(path);
     m_isRecovered = false;
-    SetPath(QFileInfo(path).absoluteFilePath(), contents);
+    SetPath(QFileInfo(path).absoluteFilePath(), *contents);
     m_store.Forget();
     return std::nullopt;
 }
@@ -95,8 +94,7 @@ void ProgramFiles::Recover(const LeftWork &work)
 {
     m_document.Load(work.bytes);
     m_isRecovered = true;
-    const auto there = ClockProgram::ReadContents(work.path);
-    const auto *const contents = std::get_if<QByteArray>(&there);
+    const auto contents = ClockProgram::ReadContents(work.path);
     SetPath(work.path, contents ? *contents : QByteArray());
     if (m_store.Keep(work.path, work.bytes))
         RecoveryStore::Remove(work);
@@ -136,8 +134,7 @@ void ProgramFiles::LookAtDisk()
     }
     if (!m_watcher.files().contains(m_path))
         m_watcher.addPath(m_path); // a file that was replaced is another one
-    const auto read = ClockProgram::ReadContents(m_path);
-    const auto *const contents = std::get_if<QByteArray>(&read);
+    const auto contents = ClockProgram::ReadContents(m_path);
     if (!contents || DigestOf(*contents) == m_digest)
         return;
     m_digest = DigestOf(*contents);

@@ -40,8 +40,7 @@ std::optional<Program> ReadEmptyProgram(const QString &text, const XmlElements &
     const QString whole = tag
         + QStringLiteral("><area x=\"0\" y=\"0\" width=\"1\" height=\"1\"><clock/></area>"
                          "</program>");
-    Result<Program> read = ParseProgram(whole.toUtf8(), QString());
-    auto *const program = std::get_if<Program>(&read);
+    Result<Program> program = ParseProgram(whole.toUtf8(), QString());
     if (!program)
         return std::nullopt;
     program->areas.clear();
@@ -90,9 +89,9 @@ std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, con
     if (contents->size() > ClockProgram::kMaximumFileSize)
         return TextFault {Translated(
             QT_TRANSLATE_NOOP("ClockStudio::TextFault", "This text is too long for a program."))};
-    const Result<Program> read = ParseProgram(*contents, QString());
+    const Result<Program> program = ParseProgram(*contents, QString());
     const std::optional<XmlElements> elements = FindElements(text);
-    if (const auto *program = std::get_if<Program>(&read)) {
+    if (program) {
         if (!elements)
             return NoElements(text);
         return ProgramReading {text, form, *elements, *program};
@@ -101,7 +100,7 @@ std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, con
         if (const std::optional<Program> empty = ReadEmptyProgram(text, *elements))
             return ProgramReading {text, form, *elements, *empty};
     }
-    return FaultOf(std::get<Failure>(read));
+    return FaultOf(program.Error());
 }
 
 } // namespace ClockStudio

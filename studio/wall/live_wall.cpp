@@ -120,11 +120,11 @@ void LiveWall::Make(Slot &slot)
     ClockProgram::Program alone = m_program;
     alone.areas = {m_program.areas[slot.area]};
     auto result = ClockProgram::MakeNodes(alone, FindClockPlugin);
-    if (const auto *const failure = std::get_if<ClockProgram::Failure>(&result)) {
-        slot.refusal = failure->text;
+    if (!result) {
+        slot.refusal = result.Error().text;
         return;
     }
-    auto &made = std::get<ClockProgram::MadeNodes>(result).nodes.front();
+    auto &made = result->nodes.front();
     made.node->SetAttribute(ClockProgram::kIdKey, slot.identity, false);
     slot.clock = std::make_unique<ClockStage::Area>(++m_plays, made.plugin, std::move(made.node),
                                                     ClockStage::GlyphFiles::Made);

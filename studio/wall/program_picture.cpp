@@ -9,15 +9,13 @@ namespace ClockStudio {
 
 QImage PictureOfProgram(const QByteArray &bytes)
 {
-    const auto read = ClockProgram::ParseProgram(bytes, QString());
-    const auto *const program = std::get_if<ClockProgram::Program>(&read);
+    const auto program = ClockProgram::ParseProgram(bytes, QString());
     if (!program)
         return {};
     // Under identities and play numbers that the clocks on the wall do not use.
     constexpr int kFirstIdentity = 90000;
     constexpr unsigned int kFirstPlay = 0xf0000000U;
-    auto result = ClockProgram::MakeNodes(*program, FindClockPlugin);
-    auto *const made = std::get_if<ClockProgram::MadeNodes>(&result);
+    auto made = ClockProgram::MakeNodes(*program, FindClockPlugin);
     if (!made)
         return {};
     QVector<ClockStage::Layer> layers;

@@ -44,7 +44,7 @@ void TestPlayerWindow::initTestCase()
     Lw::HAppConfig::SetClockOutputPath(m_files.path());
     Lw::pictureplayer::SetTimeScale(0);
     StageTime::HoldAt(7000);
-    m_program = std::get<Program>(ParseProgram(kProgram, QStringLiteral("p.xml")));
+    m_program = *ParseProgram(kProgram, QStringLiteral("p.xml"));
 }
 
 void TestPlayerWindow::ShowsTheScreen()

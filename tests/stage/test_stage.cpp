@@ -18,9 +18,8 @@ namespace {
 
 Program ProgramOf(const QByteArray &areas)
 {
-    const Result<Program> result = ParseProgram(
-        "<program width='8' height='4'>" + areas + "</program>", QStringLiteral("p.xml"));
-    return std::get<Program>(result);
+    return *ParseProgram("<program width='8' height='4'>" + areas + "</program>",
+                         QStringLiteral("p.xml"));
 }
 
 Lw::INodePlugin *FindPanel(QDomElement &element)

@@ -42,8 +42,8 @@ void TestToolCommands::Help_data()
     QTest::newRow("of the tool") << QStringList {"--help"} << "Usage: clock_tool COMMAND";
     QTest::newRow("of the tool, short") << QStringList {"-h"} << "Usage: clock_tool COMMAND";
     QTest::newRow("version") << QStringList {"--version"} << "clock_tool ";
-    for (const char *command : {"lint", "sdk", "import", "export", "glyphs", "attributes", "fonts",
-                                "zone", "self-test"}) {
+    for (const char *command : {"lint", "fit", "sdk", "import", "export", "glyphs", "attributes",
+                                "fonts", "zone", "self-test"}) {
         QTest::addRow("of %s", command)
             << QStringList {command, "--help"} << "Usage: clock_tool " + QString(command);
         QTest::addRow("version from %s", command)
@@ -70,6 +70,7 @@ void TestToolCommands::Usage_data()
     QTest::newRow("unknown command") << QStringList {"lynt"} << "no command \"lynt\"";
     QTest::newRow("misspelt command") << QStringList {"exprot"} << "did you mean \"export\"?";
     QTest::newRow("no program") << QStringList {"lint"} << "needs PROGRAM.xml";
+    QTest::newRow("nothing to fit") << QStringList {"fit"} << "needs PROGRAM.xml";
     QTest::newRow("no directory") << QStringList {"export", example} << "needs DIR";
     QTest::newRow("too much") << QStringList {"sdk", example, "b.xml"} << "\"b.xml\"";
     QTest::newRow("unknown option") << QStringList {"sdk", example, "--frames"} << "frames";
@@ -102,7 +103,7 @@ void TestToolCommands::UnreadableInput_data()
     QTest::addColumn<QString>("command");
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("message");
-    for (const char *command : {"lint", "sdk", "import", "export", "glyphs"}) {
+    for (const char *command : {"lint", "fit", "sdk", "import", "export", "glyphs"}) {
         QTest::addRow("%s, missing", command) << command << QByteArray() << "/in.xml: ";
         QTest::addRow("%s, no XML", command) << command << QByteArray("text") << "/in.xml:1:";
         QTest::addRow("%s, not closed", command)
