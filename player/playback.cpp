@@ -36,6 +36,7 @@ void Playback::Play(std::unique_ptr<Stage> stage)
     stage->Start();
     m_window.SetStage(*stage);
     m_stage = std::move(stage); // the one before is deleted last: the window showed it
+    ReadClocks();
     ShowStatus();
 }
 
@@ -44,6 +45,7 @@ void Playback::Clear()
     m_meter.Jumped();
     m_drawn.reset();
     m_stage.reset();
+    m_clocks.clear();
 }
 
 void Playback::Obey(const Command &command)
@@ -166,29 +168,25 @@ void Playback::ShowOverlay()
 QString Playback::Status()
 {
     const TimeTravel &travel = StageTime::Travel();
-    const QVector<Lw::HNodeClock::ZoneSettings> clocks = Clocks();
     ClockStage::Status status;
     status.instant = StageTime::Shown();
     status.paused = travel.IsPaused();
     status.speed = travel.Speed();
-    if (!clocks.isEmpty()) {
-        status.clockCount = clocks.size();
-        status.clockNumber = m_clock % clocks.size() + 1;
-        status.clock = clocks[status.clockNumber - 1];
+    if (!m_clocks.isEmpty()) {
+        status.clockCount = m_clocks.size();
+        status.clockNumber = m_clock % m_clocks.size() + 1;
+        status.clock = m_clocks[status.clockNumber - 1];
     }
     return StatusText(status, m_zoneMemory);
 }
 
-QVector<Lw::HNodeClock::ZoneSettings> Playback::Clocks() const
+void Playback::ReadClocks()
 {
-    QVector<Lw::HNodeClock::ZoneSettings> clocks;
-    if (!m_stage)
-        return clocks;
+    m_clocks.clear();
     for (Lw::HNode *const node : m_stage->Nodes()) {
         if (const std::optional<Lw::HNodeClock::ZoneSettings> settings = SettingsOf(node))
-            clocks.append(*settings);
+            m_clocks.append(*settings);
     }
-    return clocks;
 }
 
 } // namespace ClockPlayer

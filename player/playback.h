@@ -56,7 +56,7 @@ private:
     void ShowTitle();
     void ShowOverlay();
     QString Status();
-    QVector<Lw::HNodeClock::ZoneSettings> Clocks() const;
+    void ReadClocks();
 
     std::unique_ptr<ClockStage::Stage> m_stage;
     PlayerWindow &m_window;
@@ -66,6 +66,7 @@ private:
     std::optional<SeenFrame> m_drawn; ///< on its way to the display
     ClockStage::ClockSteps m_clockSteps;
     ClockStage::ZoneMemory m_zoneMemory;
+    QVector<Lw::HNodeClock::ZoneSettings> m_clocks; ///< of the stage; they stay as it began
     QElapsedTimer m_sinceTitle;
     int m_clock = 0; ///< that the status tells of
     bool m_showsStatus = false;

@@ -5,11 +5,11 @@
 #include "clock_attributes.h"
 #include "hnode.h"
 
-#include <QDateTime>
 #include <QStringList>
-#include <QVector>
 
-#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <utility>
 
 namespace ClockStage {
 
@@ -23,26 +23,67 @@ QString KeyOf(Attribute attribute)
     return QString::fromLatin1(RowOf(attribute).key);
 }
 
-QDateTime Utc(qint64 milliseconds)
+// With zeros before it up to a width.
+void AppendNumber(QString &text, int number, int width)
 {
-    return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC);
+    char digits[16];
+    const auto length =
+        static_cast<int>(std::to_chars(digits, digits + sizeof digits, number).ptr - digits);
+    for (int i = length; i < width; ++i)
+        text += QLatin1Char('0');
+    text += QLatin1String(digits, length);
+}
+
+// Date and time with a character between them, such as "2024-03-31T00:59:58". It is done each
+// second, so without QDateTime, which also asks for the system's zone.
+QString ReadingText(qint64 reading, char between)
+{
+    const DisplayedFields fields = SplitReading(reading);
+    QString text;
+    text.reserve(32);
+    if (fields.year < 0)
+        text += QLatin1Char('-');
+    AppendNumber(text, std::abs(fields.year), 4);
+    for (const auto &[separator, number] :
+         {std::pair('-', fields.month), std::pair('-', fields.day), std::pair(between, fields.hour),
+          std::pair(':', fields.minute), std::pair(':', fields.second)}) {
+        text += QLatin1Char(separator);
+        AppendNumber(text, number, 2);
+    }
+    return text;
 }
 
 QString InstantText(qint64 instant)
 {
-    return PlainText(Utc(instant), "yyyy-MM-dd'T'HH:mm:ss'Z'");
+    return ReadingText(instant, 'T') + QLatin1Char('Z');
 }
 
 // Whole minutes as "+01:00"; an adjusted clock may also have seconds.
 QString OffsetText(int seconds)
 {
-    const int size = qAbs(seconds);
-    const auto field = [](int number) {
-        return QStringLiteral(":%1").arg(number, 2, 10, QLatin1Char('0'));
+    const int size = std::abs(seconds);
+    QString text(QLatin1Char(seconds < 0 ? '-' : '+'));
+    AppendNumber(text, size / kSecondsPerHour, 2);
+    text += QLatin1Char(':');
+    AppendNumber(text, size / kSecondsPerMinute % 60, 2);
+    if (size % kSecondsPerMinute) {
+        text += QLatin1Char(':');
+        AppendNumber(text, size % kSecondsPerMinute, 2);
+    }
+    return text;
+}
+
+QString ChangeText(const std::optional<ZoneChange> &change)
+{
+    if (!change)
+        return QStringLiteral("no daylight saving");
+    const auto timeOfDay = [&change](int offset) {
+        const QString text = ReadingText(change->instant + offset * kMillisecondsPerSecond, 'T');
+        return text.section(QLatin1Char('T'), 1);
     };
-    return QLatin1Char(seconds < 0 ? '-' : '+') + field(size / kSecondsPerHour).mid(1)
-        + field(size / kSecondsPerMinute % 60)
-        + (size % kSecondsPerMinute ? field(size % kSecondsPerMinute) : QString());
+    return QStringLiteral("daylight saving %1 %2: %3 becomes %4")
+        .arg(change->after > change->before ? QStringLiteral("begins") : QStringLiteral("ends"),
+             InstantText(change->instant), timeOfDay(change->before), timeOfDay(change->after));
 }
 
 QString TravelText(const Status &status)
@@ -58,28 +99,12 @@ QString TravelText(const Status &status)
 QString ClockText(const Status &status, ZoneMemory &memory)
 {
     const int offset = memory.OffsetAt(*status.clock, status.instant);
-    const QString reading =
-        PlainText(Utc(status.instant + offset * kMillisecondsPerSecond), "yyyy-MM-dd HH:mm:ss ")
-        + OffsetText(offset);
+    const QString reading = ReadingText(status.instant + offset * kMillisecondsPerSecond, ' ')
+        + QLatin1Char(' ') + OffsetText(offset);
     if (status.clockCount == 1)
         return reading;
-    return QStringLiteral("clock %1 of %2: %3")
-        .arg(status.clockNumber)
-        .arg(status.clockCount)
-        .arg(reading);
-}
-
-QString ChangeText(const Status &status, ZoneMemory &memory)
-{
-    const std::optional<ZoneChange> change = memory.NextChange(*status.clock, status.instant);
-    if (!change)
-        return QStringLiteral("no daylight saving");
-    const auto timeOfDay = [&change](int offset) {
-        return PlainText(Utc(change->instant + offset * kMillisecondsPerSecond), "HH:mm:ss");
-    };
-    return QStringLiteral("daylight saving %1 %2: %3 becomes %4")
-        .arg(change->after > change->before ? QStringLiteral("begins") : QStringLiteral("ends"),
-             InstantText(change->instant), timeOfDay(change->before), timeOfDay(change->after));
+    return QStringLiteral("clock ") + QString::number(status.clockNumber) + QStringLiteral(" of ")
+        + QString::number(status.clockCount) + QStringLiteral(": ") + reading;
 }
 
 } // namespace
@@ -111,6 +136,12 @@ std::optional<ZoneChange> ZoneMemory::NextChange(const ZoneSettings &zone, qint6
     return m_change;
 }
 
+QString ZoneMemory::ChangeText(const ZoneSettings &zone, qint64 instant)
+{
+    Learn(zone, instant);
+    return m_changeText;
+}
+
 void ZoneMemory::Learn(const ZoneSettings &zone, qint64 instant)
 {
     const bool isKnown = zone.offset == m_zone.offset && zone.start == m_zone.start
@@ -120,6 +151,7 @@ void ZoneMemory::Learn(const ZoneSettings &zone, qint64 instant)
     m_zone = zone;
     m_offset = Lw::HNodeClock::OffsetAt(zone, instant);
     m_change = Lw::HNodeClock::NextChange(zone, instant);
+    m_changeText = ClockStage::ChangeText(m_change);
     m_from = instant;
     m_until = m_change ? m_change->instant : instant + kMillisecondsPerDay;
 }
@@ -128,7 +160,7 @@ QString StatusText(const Status &status, ZoneMemory &memory)
 {
     QStringList parts {TravelText(status)};
     if (status.clock)
-        parts += {ClockText(status, memory), ChangeText(status, memory)};
+        parts += {ClockText(status, memory), memory.ChangeText(*status.clock, status.instant)};
     return parts.join(QStringLiteral(" | "));
 }
 

@@ -27,6 +27,8 @@ public:
     int OffsetAt(const Lw::HNodeClock::ZoneSettings &zone, qint64 instant);
     std::optional<Lw::HNodeClock::ZoneChange> NextChange(const Lw::HNodeClock::ZoneSettings &zone,
                                                          qint64 instant);
+    /// What the status says of it.
+    QString ChangeText(const Lw::HNodeClock::ZoneSettings &zone, qint64 instant);
 
 private:
     void Learn(const Lw::HNodeClock::ZoneSettings &zone, qint64 instant);
@@ -36,6 +38,7 @@ private:
     qint64 m_until = 0; ///< m_from where nothing is known
     int m_offset = 0;
     std::optional<Lw::HNodeClock::ZoneChange> m_change;
+    QString m_changeText;
 };
 
 struct Status

@@ -71,6 +71,22 @@ void TestClockStatus::StatusTexts_data()
         << Status {night, false, 1, kBerlin, 1, 1}
         << "2024-03-31T00:59:58Z | 2024-03-31 01:59:58 +01:00 | daylight saving begins "
            "2024-03-31T01:00:00Z: 02:00:00 becomes 03:00:00";
+    QTest::newRow("before the year 1, as there is no year 0")
+        << Status {Instant("0001-01-01T00:00:00"),
+                   false,
+                   1,
+                   ZoneSettings {-3600, QString(), QString()},
+                   1,
+                   1}
+        << "0001-01-01T00:00:00Z | -0001-12-31 23:00:00 -01:00 | no daylight saving";
+    QTest::newRow("after the year 9999, adjusted by more than 99 hours")
+        << Status {Instant("9999-12-31T00:00:00"),
+                   false,
+                   1,
+                   ZoneSettings {113 * 3600, QString(), QString()},
+                   1,
+                   1}
+        << "9999-12-31T00:00:00Z | 10000-01-04 17:00:00 +113:00 | no daylight saving";
     QTest::newRow("before it ends")
         << Status {night + 2000, false, 1, kBerlin, 2, 4}
         << "2024-03-31T01:00:00Z | clock 2 of 4: 2024-03-31 03:00:00 +02:00 | daylight saving ends "
