@@ -6,9 +6,10 @@
 
 #include <QFont>
 #include <QKeyEvent>
-#include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
+
+#include <utility>
 
 namespace ClockPlayer {
 
@@ -33,8 +34,6 @@ QFont OverlayFont()
 // At the bottom of the window, wrapped to its width; what does not fit is cut at the end.
 void PaintOverlay(QPainter &painter, QSize window, const QString &text)
 {
-    if (text.isEmpty())
-        return;
     painter.setFont(OverlayFont());
     const QRect room = QRect(QPoint(0, 0), window).adjusted(kMargin, kMargin, -kMargin, -kMargin);
     QRect lines = painter.boundingRect(room, kFlags, text);
@@ -43,6 +42,18 @@ void PaintOverlay(QPainter &painter, QSize window, const QString &text)
     painter.fillRect(paper, kPaper);
     painter.setPen(kInk);
     painter.drawText(lines, kFlags, text);
+}
+
+// Null for what has other pixels than the window, or other words than screens.
+QImage *PlainPicture(QPaintDevice &device)
+{
+    if (device.devType() != QInternal::Image)
+        return nullptr;
+    auto *const image = static_cast<QImage *>(&device);
+    const bool isPlain = image->devicePixelRatio() == 1
+        && (image->format() == QImage::Format_RGB32
+            || image->format() == QImage::Format_ARGB32_Premultiplied);
+    return isPlain ? image : nullptr;
 }
 
 } // namespace
@@ -58,12 +69,12 @@ void PlayerWindow::SetStage(const Stage &stage)
         disconnect(m_stage, nullptr, this, nullptr);
     m_stage = &stage;
     m_notice.reset();
-    m_screen = BlackScreen(stage.Size());
+    m_screen = QImage();
     m_view.SetScreenSize(stage.Size());
     const QRect picture = m_view.Whole();
     SetContentSize({picture.right() + 1, picture.bottom() + 1});
     connect(&stage, &Stage::Changed, this, &PlayerWindow::Change);
-    update();
+    Renew();
 }
 
 void PlayerWindow::SetContentSize(QSize size)
@@ -81,7 +92,7 @@ void PlayerWindow::ShowNotice(Notice notice)
         disconnect(m_stage, nullptr, this, nullptr);
     m_stage = nullptr;
     m_notice = notice;
-    update();
+    Renew();
 }
 
 void PlayerWindow::ShowAlone()
@@ -98,7 +109,16 @@ void PlayerWindow::Change(const QRegion &region)
     if (region.isEmpty())
         requestUpdate();
     for (const QRect &rect : region)
-        update(m_view.Placed(rect));
+        Renew(m_view.Placed(rect));
+}
+
+// A window that cannot be seen is painted whole when it appears.
+void PlayerWindow::Renew(const QRegion &region)
+{
+    if (!isExposed())
+        return;
+    m_changed += region;
+    requestUpdate();
 }
 
 void PlayerWindow::SetOverlay(const QString &text)
@@ -106,20 +126,26 @@ void PlayerWindow::SetOverlay(const QString &text)
     if (text == m_overlay)
         return;
     m_overlay = text;
-    update();
+    Renew();
 }
 
-// The base class paints and brings the picture to the display within this event.
 bool PlayerWindow::event(QEvent *event)
 {
+    if (event->type() != QEvent::UpdateRequest)
+        return QWindow::event(event);
     const double begun = StageTime::Steady();
-    const bool isPaint = event->type() == QEvent::UpdateRequest;
-    if (isPaint)
-        emit AboutToPaint();
-    const bool accepted = QRasterWindow::event(event);
-    if (isPaint)
-        emit Painted(begun);
-    return accepted;
+    emit AboutToPaint();
+    Present();
+    emit Painted(begun);
+    return true;
+}
+
+void PlayerWindow::exposeEvent(QExposeEvent *)
+{
+    if (!isExposed())
+        return;
+    m_changed = QRect(QPoint(), size());
+    Present();
 }
 
 void PlayerWindow::keyPressEvent(QKeyEvent *event)
@@ -132,28 +158,63 @@ void PlayerWindow::keyPressEvent(QKeyEvent *event)
         emit Commanded(*command);
 }
 
-void PlayerWindow::paintEvent(QPaintEvent *event)
+void PlayerWindow::Present()
 {
-    QPainter painter(this);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    PaintScreen(painter, event->region());
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.setClipRegion(event->region());
+    if (m_store.size() != size()) {
+        m_store.resize(size());
+        m_changed = QRect(QPoint(), size());
+    }
+    const QRegion region = std::exchange(m_changed, QRegion());
+    if (region.isEmpty() || !isExposed())
+        return;
+    m_store.beginPaint(region);
+    Paint(*m_store.paintDevice(), region);
+    m_store.endPaint();
+    m_store.flush(region);
+}
+
+void PlayerWindow::Paint(QPaintDevice &device, const QRegion &region)
+{
+    if (m_notice)
+        QPainter(&device).drawImage(QPoint(), NoticePicture(*m_notice, size()));
+    else
+        PaintScreen(device, region);
+    if (m_overlay.isEmpty())
+        return;
+    QPainter painter(&device);
+    painter.setClipRegion(region);
     PaintOverlay(painter, size(), m_overlay);
 }
 
-void PlayerWindow::PaintScreen(QPainter &painter, const QRegion &region)
+void PlayerWindow::PaintScreen(QPaintDevice &device, const QRegion &region)
 {
-    if (m_notice) {
-        painter.drawImage(QPoint(), NoticePicture(*m_notice, size()));
-        return;
-    }
     const QRect picture = m_view.Whole();
     // Some platforms make the window larger than the screen that plays.
-    for (const QRect &outside : region - picture)
-        painter.fillRect(outside, Qt::black);
-    const QVector<Layer> layers = m_stage ? m_stage->Layers() : QVector<Layer>();
-    for (const QRect &rect : region &picture) {
+    if (!picture.contains(region.boundingRect())) {
+        QPainter painter(&device);
+        for (const QRect &outside : region - picture)
+            painter.fillRect(outside, Qt::black);
+    }
+    QImage *const plain = m_view.IsPlain() ? PlainPicture(device) : nullptr;
+    if (!plain || !m_stage) {
+        PaintThroughScreen(device, region & picture);
+        return;
+    }
+    const QVector<Layer> layers = m_stage->Layers();
+    for (const QRect &rect : region)
+        ComposeScreen(*plain, layers, m_view.Origin(rect), picture.topLeft());
+}
+
+void PlayerWindow::PaintThroughScreen(QPaintDevice &device, const QRegion &region)
+{
+    if (!m_stage)
+        return;
+    if (m_screen.isNull())
+        m_screen = BlackScreen(m_stage->Size());
+    QPainter painter(&device);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    const QVector<Layer> layers = m_stage->Layers();
+    for (const QRect &rect : region) {
         const QRect pixels = m_view.Origin(rect);
         ComposeScreen(m_screen, layers, pixels);
         if (m_view.IsPlain())

@@ -5,8 +5,10 @@
 #include "notice.h"
 #include "wall_view.h"
 
+#include <QBackingStore>
 #include <QImage>
-#include <QRasterWindow>
+#include <QRegion>
+#include <QWindow>
 
 #include <optional>
 
@@ -16,8 +18,9 @@ class Stage;
 
 namespace ClockPlayer {
 
-/// As large as the stage's screen, pixel for pixel or diode for pixel; or the whole display.
-class PlayerWindow : public QRasterWindow
+/// As large as the stage's screen, pixel for pixel or diode for pixel; or the whole display. What
+/// changed is composed straight into the picture that the platform brings to the display.
+class PlayerWindow : public QWindow
 {
     Q_OBJECT
 
@@ -30,6 +33,8 @@ public:
     void ShowNotice(Notice notice);
     /// The whole display, without a cursor, and keys do nothing.
     void ShowAlone();
+    /// Paints all of the window again, soon.
+    void Renew() { Renew(QRect(QPoint(), size())); }
     /// What the stage covers of the window.
     QRect Picture() const { return m_view.Whole(); }
 
@@ -44,19 +49,25 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
+    void exposeEvent(QExposeEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     void Change(const QRegion &region);
+    void Renew(const QRegion &region);
     void SetContentSize(QSize size);
-    void PaintScreen(QPainter &painter, const QRegion &region);
+    void Present();
+    void Paint(QPaintDevice &device, const QRegion &region);
+    void PaintScreen(QPaintDevice &device, const QRegion &region);
+    void PaintThroughScreen(QPaintDevice &device, const QRegion &region);
 
+    QBackingStore m_store {this};
+    QRegion m_changed; ///< of the window, not painted yet
     const ClockStage::Stage *m_stage = nullptr;
     std::optional<Notice> m_notice;
     WallView m_view;
     bool m_isAlone = false;
-    QImage m_screen;
+    QImage m_screen; ///< composed apart where its pixels are not the window's; else null
     QString m_overlay;
 };
 

@@ -116,7 +116,7 @@ void WindowShow::FollowSecond()
     if (m_guard) {
         m_guard->Feed();
         if (m_guard->TakeBlanked())
-            m_window.update();
+            m_window.Renew();
     }
     NotifyService("WATCHDOG=1");
     KeepTimeRequired();

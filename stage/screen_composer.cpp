@@ -8,36 +8,72 @@ namespace {
 
 constexpr QRgb kBlack = qRgb(0, 0, 0);
 
-QRgb *RowOf(QImage &screen, int y, int x)
+/// The rows of a picture, whose memory is asked for once.
+class Rows
 {
-    return reinterpret_cast<QRgb *>(screen.scanLine(y)) + x;
-}
+public:
+    Rows(QImage &picture, QPoint origin)
+        : m_first(reinterpret_cast<QRgb *>(picture.bits())),
+          m_length(picture.bytesPerLine() / int(sizeof(QRgb))), m_origin(origin)
+    { }
+
+    QRgb *At(int x, int y) const
+    {
+        return m_first + qptrdiff(m_length) * (y + m_origin.y()) + x + m_origin.x();
+    }
+
+private:
+    QRgb *const m_first;
+    const int m_length;
+    const QPoint m_origin;
+};
 
 bool HasColourWords(const QImage &image)
 {
     return image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32;
 }
 
-void ComposeLayer(QImage &screen, const Layer &layer, const QRect &region)
+// Without a branch, so that it is done for several pixels at once.
+void CoverBlack(const QRgb *from, QRgb *to, int count)
 {
-    const QRect shown =
-        QRect(layer.geometry.topLeft(), layer.image.size()) & layer.geometry & region;
-    if (shown.isEmpty())
-        return;
+    for (int i = 0; i < count; ++i) {
+        const QRgb pixel = from[i] | 0xff000000U;
+        to[i] = pixel ^ (pixel == kKeyColour ? kKeyColour ^ kBlack : 0);
+    }
+}
+
+void CoverOthers(const QRgb *from, QRgb *to, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        const QRgb pixel = from[i] | 0xff000000U;
+        to[i] = pixel != kKeyColour ? pixel : to[i];
+    }
+}
+
+void FillBlack(const Rows &screen, const QRect &region)
+{
+    for (int y = region.top(); y <= region.bottom(); ++y) {
+        QRgb *const row = screen.At(region.x(), y);
+        std::fill(row, row + region.width(), kBlack);
+    }
+}
+
+void CoverWith(const Layer &layer, const Rows &screen, const QRect &region,
+               void (*coverRow)(const QRgb *, QRgb *, int))
+{
     const QImage image = HasColourWords(layer.image)
         ? layer.image
         : layer.image.convertToFormat(QImage::Format_ARGB32);
-    const QPoint source = shown.topLeft() - layer.geometry.topLeft();
-    for (int row = 0; row < shown.height(); ++row) {
-        const auto *from =
-            reinterpret_cast<const QRgb *>(image.constScanLine(source.y() + row)) + source.x();
-        QRgb *to = RowOf(screen, shown.y() + row, shown.x());
-        // Without a branch, so that it is done for several pixels at once.
-        for (int column = 0; column < shown.width(); ++column) {
-            const QRgb pixel = from[column] | 0xff000000U;
-            to[column] = pixel != kKeyColour ? pixel : to[column];
-        }
+    const QPoint source = region.topLeft() - layer.geometry.topLeft();
+    for (int row = 0; row < region.height(); ++row) {
+        const auto *from = reinterpret_cast<const QRgb *>(image.constScanLine(source.y() + row));
+        coverRow(from + source.x(), screen.At(region.x(), region.y() + row), region.width());
     }
+}
+
+QRect ShownPart(const Layer &layer, const QRect &region)
+{
+    return QRect(layer.geometry.topLeft(), layer.image.size()) & layer.geometry & region;
 }
 
 } // namespace
@@ -49,15 +85,25 @@ QImage BlackScreen(QSize size)
     return screen;
 }
 
-void ComposeScreen(QImage &screen, const QVector<Layer> &layers, const QRect &region)
+void ComposeScreen(QImage &picture, const QVector<Layer> &layers, const QRect &region,
+                   QPoint origin)
 {
-    const QRect visible = region & screen.rect();
-    for (int y = visible.top(); y <= visible.bottom(); ++y) {
-        QRgb *const row = RowOf(screen, y, visible.x());
-        std::fill(row, row + visible.width(), kBlack);
+    const QRect visible = region & picture.rect().translated(-origin);
+    if (visible.isEmpty())
+        return;
+    const Rows screen(picture, origin);
+    bool isBegun = false; // most regions have one layer, and are touched once
+    for (const Layer &layer : layers) {
+        const QRect shown = ShownPart(layer, visible);
+        if (shown.isEmpty())
+            continue;
+        if (!isBegun && shown != visible)
+            FillBlack(screen, visible);
+        CoverWith(layer, screen, shown, isBegun || shown != visible ? CoverOthers : CoverBlack);
+        isBegun = true;
     }
-    for (const Layer &layer : layers)
-        ComposeLayer(screen, layer, visible);
+    if (!isBegun)
+        FillBlack(screen, visible);
 }
 
 QImage Magnified(const QImage &screen, int times)

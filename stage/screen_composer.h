@@ -20,8 +20,10 @@ struct Layer
 QImage BlackScreen(QSize size);
 
 /// Draws the layers in their order, the last one on top, over black. Only the pixels of the region
-/// are touched. Every pixel but those of the key colour covers what lies below it.
-void ComposeScreen(QImage &screen, const QVector<Layer> &layers, const QRect &region);
+/// are touched. Every pixel but those of the key colour covers what lies below it. The picture has
+/// 32 bits per pixel without alpha, and the screen's top left at the origin.
+void ComposeScreen(QImage &picture, const QVector<Layer> &layers, const QRect &region,
+                   QPoint origin = QPoint());
 
 /// Pixels that a magnified screen may have: 256 MiB.
 constexpr qint64 kMaximumMagnifiedPixels = 64LL << 20;

@@ -54,6 +54,8 @@ private slots:
     void OtherFormats();
     void OnlyTheRegionIsTouched();
     void OldPictureIsErased();
+    void KeyColourErasesToo();
+    void AnywhereInAPicture();
     void Magnified_data();
     void Magnified();
     void TooLargeToMagnify();
@@ -170,6 +172,32 @@ void TestScreenComposer::OldPictureIsErased()
     ComposeScreen(screen, {{{0, 0, 3, 1}, picture}}, screen.rect());
     ComposeScreen(screen, {{{0, 0, 3, 1}, Plain(3, 1, kKeyColour)}}, screen.rect());
     QCOMPARE(Count(screen, kBlack), 3);
+}
+
+// A single picture over all of the region: nothing of the one before shines through.
+void TestScreenComposer::KeyColourErasesToo()
+{
+    QImage screen = Plain(3, 2, kBlue).convertToFormat(QImage::Format_RGB32);
+    QImage picture = Plain(3, 2, kKeyColour);
+    picture.setPixel(1, 1, kRed);
+    ComposeScreen(screen, {{{0, 0, 3, 2}, picture}}, screen.rect());
+    QCOMPARE(Count(screen, kBlack), 5);
+    QCOMPARE(screen.pixel(1, 1), kRed);
+}
+
+// The screen may be moved, and partly outside.
+void TestScreenComposer::AnywhereInAPicture()
+{
+    QImage picture = Plain(5, 4, kBlue).convertToFormat(QImage::Format_RGB32);
+    const QVector<Layer> layers {{{1, 0, 2, 2}, Plain(2, 2, kRed)}};
+    ComposeScreen(picture, layers, {0, 0, 3, 2}, {1, 2});
+    QCOMPARE(Count(picture, kBlue), 14);
+    QCOMPARE(Count(picture, kBlack), 2); // at 1,2 and 1,3
+    QCOMPARE(picture.pixel(1, 3), kBlack);
+    QCOMPARE(Count(picture.copy(2, 2, 2, 2), kRed), 4);
+    ComposeScreen(picture, layers, {0, 0, 3, 2}, {-2, -1});
+    QCOMPARE(picture.pixel(0, 0), kRed);
+    QCOMPARE(Count(picture, kBlue), 13);
 }
 
 void TestScreenComposer::Magnified_data()
