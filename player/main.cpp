@@ -141,7 +141,8 @@ int Run(int argc, char **argv)
     if (options.checkDisplay)
         return RunOnDisplay(argc, argv, options, Program(), FileSignature());
     const FileSignature signature = SignatureOf(options.programPath);
-    const Result<Program> program = ReadProgram(options.programPath);
+    const Result<Program> program = options.isKiosk ? ReadOrdinaryProgram(options.programPath)
+                                                    : ReadProgram(options.programPath);
     if (!program && !options.isKiosk)
         return Report(program.Error());
     return RunOnDisplay(argc, argv, options, program, signature);

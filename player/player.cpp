@@ -1,6 +1,7 @@
 #include "player.h"
 
 #include "deadline_meter.h"
+#include "device_state.h"
 #include "frame_writer.h"
 #include "glyph_report.h"
 #include "playback.h"
@@ -18,6 +19,7 @@
 #include "pictureplayer.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -77,9 +79,16 @@ Failure Interrupted()
     return RuntimeFailure(QStringLiteral("interrupted"));
 }
 
-// To make the images of large texts takes seconds, in which no event is handled.
-void QuitBetweenImages()
+// To make the images of large texts takes seconds, in which no event is handled: the service
+// manager is told that the process is alive, and may go on.
+void GoOnBetweenImages()
 {
+    constexpr int kNotifyInterval = 1000; // milliseconds
+    static QElapsedTimer sinceNotified;
+    if (!sinceNotified.isValid() || sinceNotified.hasExpired(kNotifyInterval)) {
+        sinceNotified.start();
+        NotifyService("EXTEND_TIMEOUT_USEC=60000000\nWATCHDOG=1");
+    }
     if (!QuitSignals::IsRequested())
         return;
     RemoveWorkDirectory();
@@ -116,7 +125,7 @@ MaybeFailure PlayInWindow(const Options &options, const Result<Program> &program
                           const FileSignature &signature, Playback::Travelling travelling,
                           const Warn &warn)
 {
-    Lw::HData::SetRecordObserver(QuitBetweenImages);
+    Lw::HData::SetRecordObserver(GoOnBetweenImages);
     QuitSignals quitSignals(options.isKiosk ? QuitSignals::Losses::Ignore
                                             : QuitSignals::Losses::End);
     QObject::connect(&quitSignals, &QuitSignals::Requested, qApp, &QCoreApplication::quit);

@@ -9,6 +9,8 @@
 
 namespace ClockPlayer {
 
+using namespace ClockProgram;
+
 namespace {
 
 qint64 Nanoseconds(const timespec &time)
@@ -34,6 +36,15 @@ FileSignature SignatureOf(const QString &path)
         return {};
     return {found.st_dev, found.st_ino, found.st_size, Nanoseconds(found.st_mtim),
             Nanoseconds(found.st_ctim)};
+}
+
+Result<Program> ReadOrdinaryProgram(const QString &path)
+{
+    struct stat found = {};
+    if (::stat(QFile::encodeName(path).constData(), &found) == 0 && !S_ISREG(found.st_mode))
+        return Failure {ExitCode::ProgramError,
+                        QStringLiteral("%1: is not an ordinary file").arg(path)};
+    return ReadProgram(path);
 }
 
 ProgramWatch::Step ProgramWatch::Check(const FileSignature &now)

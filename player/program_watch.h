@@ -1,5 +1,8 @@
-// player/: notices that a file was changed, replaced, or put behind another link.
+// player/: notices that a program file was changed, replaced, or put behind another link, and reads
+// it.
 #pragma once
+
+#include "program_file.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -22,6 +25,10 @@ struct FileSignature
 
 /// Links are followed.
 FileSignature SignatureOf(const QString &path);
+
+/// Reads a program beside one that plays, or where a notice can be shown: what is not an ordinary
+/// file is refused, for to open a pipe would wait for its writer.
+ClockProgram::Result<ClockProgram::Program> ReadOrdinaryProgram(const QString &path);
 
 /// Decides when a watched file is to be read again. Pure.
 class ProgramWatch

@@ -180,7 +180,7 @@ void WindowShow::ReadAgain()
 
 MaybeFailure WindowShow::Read()
 {
-    const Result<Program> program = ReadProgram(m_options.programPath);
+    const Result<Program> program = ReadOrdinaryProgram(m_options.programPath);
     return program ? Show(*program) : program.Error();
 }
 
