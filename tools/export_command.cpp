@@ -50,6 +50,8 @@ MaybeFailure CheckProgramStays(const QString &directory, const QString &program)
                         .arg(directory)};
 }
 
+const QLatin1String kProgress("progress");
+
 int DateTypeOf(HClockNode &clock)
 {
     const bool isDigital = clock.ClockType() == DigitalClock;
@@ -77,6 +79,13 @@ void ShowProgress(int clock, int count)
         std::fputc('\n', stderr);
 }
 
+/// For programs that show it as a bar.
+void SayPercentage(int clock, int count)
+{
+    std::printf("%d%%\n", 100 * clock / count);
+    std::fflush(stdout);
+}
+
 } // namespace
 
 CommandResult RunExport(const QStringList &arguments)
@@ -85,6 +94,7 @@ CommandResult RunExport(const QStringList &arguments)
     tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to export."));
     tool.AddPositional(QStringLiteral("DIR"), QStringLiteral("The directory to write to."));
     tool.AddLanguage();
+    tool.AddFlag(kProgress, QStringLiteral("Say on standard output how much is done, in percent."));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
     if (const MaybeFailure failure = tool.InstallLanguage())
@@ -97,7 +107,10 @@ CommandResult RunExport(const QStringList &arguments)
     if (const MaybeFailure failure = CheckProgramStays(directory, clocks.program.path))
         return Report(*failure);
     SayWhatStaysBehind(clocks);
-    const auto progress = [&clocks](int clock) { ShowProgress(clock, clocks.Count()); };
+    const bool saysPercentage = tool.IsSet(kProgress);
+    const auto progress = [&clocks, saysPercentage](int clock) {
+        saysPercentage ? SayPercentage(clock, clocks.Count()) : ShowProgress(clock, clocks.Count());
+    };
     const MaybeFailure failure = ExportProgram(clocks, directory, progress);
     return failure ? Report(*failure) : ExitCode::Success;
 }

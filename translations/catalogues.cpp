@@ -30,6 +30,13 @@ QString LanguageFor(const QLocale &locale)
     return Languages().contains(language) ? language : QStringLiteral("en");
 }
 
+static QString s_installed; // the code of the language
+
+QString Installed()
+{
+    return s_installed;
+}
+
 bool Install(const QString &language)
 {
     static QPointer<QTranslator> installed;
@@ -46,6 +53,7 @@ bool Install(const QString &language)
     }
     delete installed;
     installed = translator;
+    s_installed = language;
     return true;
 }
 

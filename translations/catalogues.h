@@ -23,4 +23,7 @@ bool Install(const QString &language);
 /// The same for a choice that was left open where it is empty: the locale's language then.
 bool InstallChosen(const QString &language);
 
+/// The code of the language that was installed last; empty where none was.
+QString Installed();
+
 } // namespace ClockCatalogues

@@ -1,10 +1,11 @@
 #include "program_files.h"
 
+#include "whole_file.h"
+
 #include "xml_document.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QSettings>
 
 namespace ClockStudio {
@@ -66,14 +67,8 @@ std::optional<QString> ProgramFiles::Save(const QString &path)
     const std::optional<QByteArray> bytes = m_document.Bytes();
     if (!bytes)
         return tr("The encoding of the file lacks a character of this text.");
-    // Saving puts a new file in the place of the old one, which a device would not survive.
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        return tr("%1 is not an ordinary file.").arg(path);
-    QSaveFile file(path);
-    // Closing the file alone does not tell whether its last bytes found room.
-    if (!file.open(QFile::WriteOnly) || file.write(*bytes) != bytes->size() || !file.flush()
-        || !file.commit())
-        return tr("%1 could not be saved: %2").arg(path, file.errorString());
+    if (const auto problem = WriteWhole(path, *bytes))
+        return problem;
     m_isRecovered = false;
     m_document.EndMerging();
     m_document.History().setClean();
@@ -102,11 +97,12 @@ void ProgramFiles::Recover(const LeftWork &work)
 
 void ProgramFiles::KeepWork()
 {
-    if (IsSaved() || m_keptIndex == m_document.History().index())
+    // Typing on is one step of the history, so only the text tells what is new.
+    if (IsSaved() || m_keptText == m_document.Text())
         return;
     if (const auto bytes = m_document.Bytes()) {
         if (m_store.Keep(m_path, *bytes))
-            m_keptIndex = m_document.History().index();
+            m_keptText = m_document.Text();
     }
 }
 
@@ -116,7 +112,7 @@ void ProgramFiles::SetPath(const QString &path, const QByteArray &contents)
         m_watcher.removePaths(m_watcher.files());
     m_path = path;
     m_digest = DigestOf(contents);
-    m_keptIndex = -1;
+    m_keptText.clear();
     if (!path.isEmpty()) {
         m_watcher.addPath(path);
         NoteRecent(path);

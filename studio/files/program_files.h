@@ -60,7 +60,7 @@ private:
     QString m_path;
     QByteArray m_digest;        ///< of the file as it was read or written here
     bool m_isRecovered = false; ///< the text was never saved, though the history is clean
-    int m_keptIndex = -1;
+    QString m_keptText;         ///< as it was kept last
     QFileSystemWatcher m_watcher;
     QTimer m_looking;
     QTimer m_keeping;

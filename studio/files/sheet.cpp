@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 #include <QDate>
-#include <QFile>
 #include <QLocale>
 #include <QPainter>
 #include <QPdfWriter>
@@ -111,27 +110,21 @@ QString SheetText(const QString &title, LiveWall &wall, const QStringList &findi
 
 } // namespace
 
-bool WriteSheet(const QString &path, const QString &title, LiveWall &wall,
+bool WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
                 const QStringList &findings)
 {
-    QFile file(path);
-    if (!file.open(QFile::WriteOnly))
-        return false;
-    {
-        QPdfWriter writer(&file);
-        writer.setResolution(kResolution);
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin),
-                              QPageLayout::Millimeter);
-        writer.setTitle(title);
-        QTextDocument document;
-        QImage picture = ClockStage::LedScreen(kPitch).Diodes(wall.Screen());
-        document.addResource(QTextDocument::ImageResource, QUrl(QStringLiteral("wall")),
-                             picture.isNull() ? wall.Screen() : picture);
-        document.setHtml(SheetText(title, wall, findings));
-        document.print(&writer);
-    }
-    return file.flush() && file.error() == QFile::NoError;
+    QPdfWriter writer(&device);
+    writer.setResolution(kResolution);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
+    writer.setTitle(title);
+    QTextDocument document;
+    const QImage picture = ClockStage::LedScreen(kPitch).Diodes(wall.Screen());
+    document.addResource(QTextDocument::ImageResource, QUrl(QStringLiteral("wall")),
+                         picture.isNull() ? wall.Screen() : picture);
+    document.setHtml(SheetText(title, wall, findings));
+    document.print(&writer);
+    return true;
 }
 
 } // namespace ClockStudio

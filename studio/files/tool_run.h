@@ -2,13 +2,10 @@
 // Runs clock_tool and other programs while the window stays alive.
 #pragma once
 
-#include <QObject>
-#include <QProcess>
+#include <QByteArray>
+#include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
-
-#include <functional>
-#include <optional>
+#include <QVector>
 
 QT_BEGIN_NAMESPACE
 class QWidget;
@@ -25,15 +22,20 @@ struct ToolCommand
 
 /// The tree's own tool, beside this program.
 QString ClockToolPath();
+/// Its export of a program to a folder, in the language that the clocks have now.
+ToolCommand ExportCommand(const QString &program, const QString &folder);
 
 struct ToolResult
 {
     bool isCancelled = false;
     bool isGood = false;
-    QString errors; ///< what it wrote on standard error, or why it did not start
+    QByteArray output; ///< standard output of all commands, as far as it is kept
+    QString errors;    ///< what the last one wrote on standard error, or why it did not start
 };
 
-/// Runs a command behind a dialog that can be cancelled: it is asked to end, and cleans up itself.
-ToolResult RunBehindDialog(const ToolCommand &command, const QString &what, QWidget *parent);
+/// Runs commands, each when the one before it went well, behind a dialog that can be cancelled: the
+/// command is asked to end, and cleans up itself. Percentages in the output move the dialog's bar.
+ToolResult RunBehindDialog(const QVector<ToolCommand> &commands, const QString &what,
+                           QWidget *parent);
 
 } // namespace ClockStudio

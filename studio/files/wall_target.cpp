@@ -10,6 +10,7 @@ namespace ClockStudio {
 namespace {
 
 const QString kGroup = QStringLiteral("targets");
+constexpr int kMostStatus = 1 << 20; // bytes of a status file
 
 QString Translated(const char *text)
 {
@@ -23,11 +24,15 @@ QString Quoted(QString word)
         + QLatin1Char('\'');
 }
 
-/// Never asks for anything: a window has no terminal to answer in.
+/// Never asks for anything: a window has no terminal to answer in. A host that is seen for the
+/// first time is remembered, one whose key has changed is refused.
 QStringList SshOptions(const WallTarget &target)
 {
     QStringList options {QStringLiteral("-o"), QStringLiteral("BatchMode=yes"),
-                         QStringLiteral("-o"), QStringLiteral("ConnectTimeout=10")};
+                         QStringLiteral("-o"), QStringLiteral("ConnectTimeout=10"),
+                         QStringLiteral("-o"), QStringLiteral("StrictHostKeyChecking=accept-new")};
+    if (!target.Port().isEmpty())
+        options += {QStringLiteral("-p"), target.Port()};
     if (!target.key.isEmpty())
         options += {QStringLiteral("-i"), target.key};
     return options;
@@ -39,7 +44,7 @@ ToolCommand ScriptAt(const WallTarget &target, const QString &script)
     if (!target.IsRemote())
         return {QStringLiteral("/bin/sh"), {QStringLiteral("-c"), script}};
     return {QStringLiteral("ssh"),
-            SshOptions(target) << QStringLiteral("--") << target.host << script};
+            SshOptions(target) << QStringLiteral("--") << target.Login() << script};
 }
 
 QString SshForRsync(const WallTarget &target)
@@ -50,12 +55,62 @@ QString SshForRsync(const WallTarget &target)
     return words.join(QLatin1Char(' '));
 }
 
-QString FolderOf(const WallTarget &target, const QString &release)
+QString ReleasePath(const QString &release)
 {
-    return QStringLiteral("%1/%2/%3").arg(target.folder, QLatin1String(kReleases), release);
+    return QLatin1String(kReleases) + QLatin1Char('/') + release;
+}
+
+/// Where a release is while it is not complete; lists leave it out.
+QString PartPath(const QString &release)
+{
+    return ReleasePath(QStringLiteral(".%1.part").arg(release));
+}
+
+/// A script in the target's folder.
+ToolCommand ScriptInFolder(const WallTarget &target, const QString &script)
+{
+    return ScriptAt(target, QStringLiteral("cd -- %1 && %2").arg(Quoted(target.folder), script));
+}
+
+/// The link is made beside the old one and takes its place at once: there is always one.
+QString SwapScript(const QString &release)
+{
+    return QStringLiteral("ln -sfn -- %1 .%2.new && mv -T -- .%2.new %2")
+        .arg(Quoted(ReleasePath(release)), QLatin1String(kCurrentLink));
+}
+
+/// Images that the release that plays has too are linked to, not sent.
+ToolCommand CopyCommand(const WallTarget &target, const QString &exportFolder,
+                        const QString &release)
+{
+    QStringList arguments {
+        QStringLiteral("--recursive"),
+        QStringLiteral("--checksum"),
+        QStringLiteral("--perms"),
+        QStringLiteral("--chmod=D755,F644"),
+        QStringLiteral("--protect-args"),
+        QStringLiteral("--info=progress2"),
+        QStringLiteral("--exclude=.*"),
+        QStringLiteral("--link-dest=../../%1/").arg(QLatin1String(kCurrentLink))};
+    if (target.IsRemote())
+        arguments += {QStringLiteral("-e"), SshForRsync(target)};
+    const QString folder = QStringLiteral("%1/%2/").arg(target.folder, PartPath(release));
+    arguments += {QStringLiteral("--"), exportFolder + QLatin1Char('/'),
+                  target.IsRemote() ? target.Login() + QLatin1Char(':') + folder : folder};
+    return {QStringLiteral("rsync"), arguments};
 }
 
 } // namespace
+
+QString WallTarget::Login() const
+{
+    return host.section(QLatin1Char(':'), 0, 0);
+}
+
+QString WallTarget::Port() const
+{
+    return host.section(QLatin1Char(':'), 1);
+}
 
 QVector<WallTarget> KnownTargets()
 {
@@ -67,7 +122,7 @@ QVector<WallTarget> KnownTargets()
         const auto text = [&settings](const char *key) {
             return settings.value(QLatin1String(key)).toString();
         };
-        targets.append({text("name"), text("host"), text("folder"), text("key")});
+        targets.append({text("name"), text("host"), text("folder"), text("key"), text("status")});
     }
     settings.endArray();
     return targets;
@@ -84,56 +139,85 @@ void KeepTargets(const QVector<WallTarget> &targets)
         settings.setValue(QStringLiteral("host"), targets[i].host);
         settings.setValue(QStringLiteral("folder"), targets[i].folder);
         settings.setValue(QStringLiteral("key"), targets[i].key);
+        settings.setValue(QStringLiteral("status"), targets[i].statusFile);
     }
     settings.endArray();
 }
 
 QString TargetFault(const WallTarget &target)
 {
-    static const QRegularExpression host(
-        QStringLiteral(R"(\A(?:[A-Za-z0-9_][A-Za-z0-9_.-]*@)?[A-Za-z0-9][A-Za-z0-9.-]*\z)"));
+    static const QRegularExpression host(QStringLiteral(
+        R"(\A(?:[A-Za-z0-9_][A-Za-z0-9_.-]*@)?[A-Za-z0-9][A-Za-z0-9.-]*(?::[0-9]{1,5})?\z)"));
     if (target.name.trimmed().isEmpty())
         return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallTarget", "The wall needs a name."));
     if (target.IsRemote() && !host.match(target.host).hasMatch())
         return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallTarget",
                                             "The host is written as in operator@wall.example."));
-    if (!target.folder.startsWith(QLatin1Char('/')) || target.folder.contains(QLatin1Char('\n')))
+    const auto isPath = [](const QString &text) {
+        return text.startsWith(QLatin1Char('/')) && !text.contains(QLatin1Char('\n'));
+    };
+    if (!isPath(target.folder))
         return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallTarget",
                                             "The folder is a path that begins with /."));
+    if (!target.statusFile.isEmpty() && !isPath(target.statusFile))
+        return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallTarget",
+                                            "The status file is a path that begins with /."));
     return {};
 }
 
 QVector<ToolCommand> SendCommands(const WallTarget &target, const QString &exportFolder,
                                   const QString &release)
 {
-    const QString folder = FolderOf(target, release);
-    const ToolCommand make = ScriptAt(target, QStringLiteral("mkdir -p -- %1").arg(Quoted(folder)));
-    QStringList copy {QStringLiteral("-a"), QStringLiteral("--protect-args"),
-                      QStringLiteral("--exclude=.*")};
-    if (target.IsRemote())
-        copy += {QStringLiteral("-e"), SshForRsync(target)};
-    copy += {QStringLiteral("--"), exportFolder + QLatin1Char('/'),
-             (target.IsRemote() ? target.host + QLatin1Char(':') : QString()) + folder
-                 + QLatin1Char('/')};
-    return {make, {QStringLiteral("rsync"), copy}, PlayCommand(target, release)};
+    const QString part = PartPath(release);
+    return {
+        ScriptAt(
+            target,
+            QStringLiteral("mkdir -p -- %1").arg(Quoted(target.folder + QLatin1Char('/') + part))),
+        CopyCommand(target, exportFolder, release),
+        ScriptInFolder(target,
+                       QStringLiteral("mv -T -- %1 %2 && %3")
+                           .arg(Quoted(part), Quoted(ReleasePath(release)), SwapScript(release)))};
 }
 
-/// The link is made beside the old one and takes its place at once: there is always one.
+ToolCommand DiscardCommand(const WallTarget &target, const QString &release)
+{
+    return ScriptInFolder(target, QStringLiteral("rm -rf -- %1").arg(Quoted(PartPath(release))));
+}
+
 ToolCommand PlayCommand(const WallTarget &target, const QString &release)
 {
-    const QString script =
-        QStringLiteral("cd -- %1 && ln -sfn -- %2 .%3.new && mv -T -- .%3.new %3")
-            .arg(Quoted(target.folder),
-                 Quoted(QLatin1String(kReleases) + QLatin1Char('/') + release),
-                 QLatin1String(kCurrentLink));
-    return ScriptAt(target, script);
+    return ScriptInFolder(
+        target,
+        QStringLiteral("test -d %1 && %2").arg(Quoted(ReleasePath(release)), SwapScript(release)));
 }
 
 ToolCommand ListCommand(const WallTarget &target)
 {
-    return ScriptAt(
-        target,
-        QStringLiteral("ls -1 -- %1/%2").arg(Quoted(target.folder), QLatin1String(kReleases)));
+    return ScriptInFolder(target,
+                          QStringLiteral("ls -1 -- %1 && { readlink -- %2 || true; }")
+                              .arg(QLatin1String(kReleases), QLatin1String(kCurrentLink)));
+}
+
+ReleaseList ReleasesIn(const QString &listed)
+{
+    ReleaseList list;
+    const QString link = ReleasePath({});
+    for (const QString &line : listed.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        if (line.startsWith(link))
+            list.current = line.mid(link.size());
+        else
+            list.releases.prepend(line);
+    }
+    return list;
+}
+
+ToolCommand WordCommand(const WallTarget &target)
+{
+    return ScriptInFolder(target,
+                          QStringLiteral("sha256sum <%1/program.xml && head -c %2 -- %3")
+                              .arg(QLatin1String(kCurrentLink))
+                              .arg(kMostStatus)
+                              .arg(Quoted(target.statusFile)));
 }
 
 } // namespace ClockStudio

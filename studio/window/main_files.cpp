@@ -6,13 +6,13 @@
 #include "files/preview.h"
 #include "files/sheet.h"
 #include "files/tool_run.h"
+#include "files/whole_file.h"
 #include "findings/findings_panel.h"
 
 #include "led_screen.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStatusBar>
 #include <QTemporaryDir>
 
@@ -43,7 +43,9 @@ void MainWindow::SavePicture()
     const QImage picture = chosen == diodes
         ? ClockStage::LedScreen(kPicturePitch).Diodes(m_wall.Screen())
         : m_wall.Screen();
-    SayWritten(path, !picture.isNull() && picture.save(path, "PNG"));
+    SayWritten(path, WriteWhole(path, [&picture](QIODevice &file) {
+                   return !picture.isNull() && picture.save(&file, "PNG");
+               }));
 }
 
 void MainWindow::SaveSheet()
@@ -57,7 +59,9 @@ void MainWindow::SaveSheet()
     QStringList findings;
     for (const ClockTool::Finding &finding : m_findings->Findings())
         findings.append(finding.text);
-    SayWritten(path, WriteSheet(path, m_files.Name(), m_wall, findings));
+    SayWritten(path, WriteWhole(path, [&](QIODevice &file) {
+                   return WriteSheet(file, m_files.Name(), m_wall, findings);
+               }));
 }
 
 void MainWindow::SavePreview()
@@ -69,36 +73,38 @@ void MainWindow::SavePreview()
     if (path.isEmpty())
         return;
     const QTemporaryDir work;
-    const QString problem = WritePreviewFrames(m_wall, work.path());
-    const ToolResult result = problem.isEmpty()
-        ? RunBehindDialog(PreviewCommand(work.path(), path), tr("Making the preview…"), this)
-        : ToolResult {false, false, problem};
-    if (result.isCancelled)
-        QFile::remove(path);
-    else if (result.isGood)
-        SayWritten(path, true);
-    else
+    const QString made = work.filePath(QStringLiteral("preview.gif"));
+    if (const QString problem = WritePreviewFrames(m_wall, work.path()); !problem.isEmpty()) {
+        SayProblem(problem);
+        return;
+    }
+    const ToolResult result =
+        RunBehindDialog({PreviewCommand(work.path(), made)}, tr("Making the preview…"), this);
+    QFile file(made);
+    if (result.isGood && file.open(QFile::ReadOnly))
+        SayWritten(path, WriteWhole(path, file.readAll()));
+    else if (!result.isCancelled)
         SayProblem(tr("The preview could not be made: %1").arg(result.errors));
 }
 
-void MainWindow::SayWritten(const QString &path, bool isWritten)
+void MainWindow::SayWritten(const QString &path, const std::optional<QString> &problem)
 {
-    if (isWritten)
-        statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
+    if (problem)
+        SayProblem(*problem);
     else
-        SayProblem(tr("%1 could not be written.").arg(path));
+        statusBar()->showMessage(tr("Saved %1").arg(path), 4000);
 }
 
 QString MainWindow::ProgramFileIn(const QTemporaryDir &directory)
 {
     const QString path = directory.filePath(QStringLiteral("program.xml"));
     const std::optional<QByteArray> bytes = m_document.Bytes();
-    QSaveFile file(path);
-    const bool isWritten = bytes && file.open(QFile::WriteOnly)
-        && file.write(*bytes) == bytes->size() && file.flush() && file.commit();
-    if (!isWritten)
-        SayProblem(tr("%1 could not be written.").arg(path));
-    return isWritten ? path : QString();
+    const std::optional<QString> problem = bytes
+        ? WriteWhole(path, *bytes)
+        : tr("The file's encoding lacks a character of this text.");
+    if (problem)
+        SayProblem(*problem);
+    return problem ? QString() : path;
 }
 
 void MainWindow::ExportProgram()
@@ -112,8 +118,7 @@ void MainWindow::ExportProgram()
     if (program.isEmpty())
         return;
     const ToolResult result =
-        RunBehindDialog({ClockToolPath(), {QStringLiteral("export"), program, folder}},
-                        tr("Making the glyph files…"), this);
+        RunBehindDialog({ExportCommand(program, folder)}, tr("Making the glyph files…"), this);
     if (result.isGood)
         statusBar()->showMessage(tr("Exported to %1").arg(folder), 4000);
     else if (!result.isCancelled)
@@ -129,7 +134,7 @@ void MainWindow::ImportSdk()
     const QTemporaryDir work;
     const QString program = work.filePath(QStringLiteral("program.xml"));
     const ToolResult result = RunBehindDialog(
-        {ClockToolPath(), {QStringLiteral("import"), path, QStringLiteral("-o"), program}},
+        {{ClockToolPath(), {QStringLiteral("import"), path, QStringLiteral("-o"), program}}},
         tr("Importing…"), this);
     QFile file(program);
     if (result.isGood && file.open(QFile::ReadOnly)) {

@@ -146,6 +146,7 @@ bool MainWindow::Open(const QString &path)
     }
     m_messages->hide();
     ShowWallPage();
+    OfferRecovery();
     return true;
 }
 
@@ -229,13 +230,21 @@ void MainWindow::OfferRecovery()
         return;
     const LeftWork work = left.first();
     const QString name = work.path.isEmpty() ? tr("a new wall") : work.path;
-    m_messages->Ask(tr("The studio ended unexpectedly. Unsaved work on %1 was kept.").arg(name),
-                    {{tr("Recover"),
-                      [this, work] {
-                          m_files.Recover(work);
-                          ShowWallPage();
-                      }},
-                     {tr("Discard"), [work] { RecoveryStore::Remove(work); }}});
+    m_messages->Ask(
+        tr("The studio ended unexpectedly. Unsaved work on %1 was kept.").arg(name),
+        {{tr("Recover"), [this, work] { Recover(work); }}, {tr("Discard"), [this, work] {
+                                                                RecoveryStore::Remove(work);
+                                                                OfferRecovery();
+                                                            }}});
+}
+
+void MainWindow::Recover(const LeftWork &work)
+{
+    if (MayLeave()) {
+        m_files.Recover(work);
+        ShowWallPage();
+    }
+    OfferRecovery();
 }
 
 void MainWindow::AskAboutChange()

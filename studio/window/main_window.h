@@ -74,10 +74,12 @@ private:
     void BeginWith(const QByteArray &bytes);
     void ShowWallPage();
     void SetUp();
+    /// One after the other, what studios that ended unexpectedly left.
     void OfferRecovery();
+    void Recover(const LeftWork &work);
     void AskAboutChange();
     void SayProblem(const QString &text);
-    void SayWritten(const QString &path, bool isWritten);
+    void SayWritten(const QString &path, const std::optional<QString> &problem);
 
     void UpdateTitle();
     void UpdateCommands();

@@ -3,76 +3,152 @@
 #include <QComboBox>
 #include <QDateTime>
 #include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QProcess>
 #include <QPushButton>
+#include <QTemporaryDir>
+#include <QToolButton>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace ClockStudio {
 
+namespace {
+
+constexpr int kWidth = 500; // pixels
+
+/// One that Return does not press.
+QPushButton *Button(const QString &text)
+{
+    auto *const button = new QPushButton(text);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QLabel *Line()
+{
+    auto *const label = new QLabel;
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+} // namespace
+
 SendDialog::SendDialog(const QString &program, QWidget *parent)
     : QDialog(parent), m_program(program), m_targets(KnownTargets()), m_name(new QComboBox),
-      m_host(new QLineEdit), m_folder(new QLineEdit), m_key(new QLineEdit),
-      m_releases(new QListWidget), m_said(new QLabel)
+      m_host(new QLineEdit), m_folder(new QLineEdit), m_key(new QLineEdit), m_status(new QLineEdit),
+      m_said(Line()), m_word(Line()), m_releases(new QListWidget),
+      m_again(Button(tr("Play the chosen release again")))
 {
     setWindowTitle(tr("Send to a wall"));
     auto *const layout = new QVBoxLayout(this);
     auto *const form = new QFormLayout;
-    m_name->setEditable(true);
-    m_host->setPlaceholderText(tr("empty for this computer, or operator@wall.example"));
-    m_folder->setPlaceholderText(tr("/srv/wall"));
-    m_key->setPlaceholderText(tr("the usual one"));
-    form->addRow(tr("Wall"), m_name);
-    form->addRow(tr("Host"), m_host);
-    form->addRow(tr("Folder"), m_folder);
-    form->addRow(tr("Key file"), m_key);
+    AddFields(*form);
     layout->addLayout(form);
-    m_said->setWordWrap(true);
     layout->addWidget(m_said);
-    auto *const earlier = new QPushButton(tr("Earlier releases"));
-    auto *const again = new QPushButton(tr("Play the chosen release again"));
-    layout->addWidget(earlier);
-    layout->addWidget(m_releases);
-    layout->addWidget(again);
-    m_releases->hide();
-    again->hide();
-    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    QPushButton *const send = buttons->addButton(tr("Send"), QDialogButtonBox::AcceptRole);
-    send->setDefault(true);
-    layout->addWidget(buttons);
-    connect(send, &QPushButton::clicked, this, &SendDialog::Send);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(earlier, &QPushButton::clicked, this, [this, again] {
-        ListReleases();
-        m_releases->show();
-        again->show();
-    });
-    connect(again, &QPushButton::clicked, this, &SendDialog::PlayRelease);
-    connect(m_name, QOverload<int>::of(&QComboBox::activated), this, &SendDialog::ShowTarget);
+    layout->addWidget(m_word);
+    AddReleases();
+    AddButtons();
+    connect(&m_watch, &WallWatch::Heard, this,
+            [this](const WallWord &word) { m_word->setText(WordText(word)); });
     for (const WallTarget &target : qAsConst(m_targets))
         m_name->addItem(target.name);
     ShowTarget(0);
-    setMinimumWidth(460);
+    setMinimumWidth(kWidth);
+}
+
+void SendDialog::AddFields(QFormLayout &form)
+{
+    m_name->setEditable(true);
+    m_name->setObjectName(QStringLiteral("wall"));
+    m_host->setObjectName(QStringLiteral("host"));
+    m_host->setPlaceholderText(tr("empty for this computer, or operator@wall.example:22"));
+    m_folder->setObjectName(QStringLiteral("folder"));
+    m_folder->setPlaceholderText(tr("/srv/wall"));
+    m_status->setObjectName(QStringLiteral("status"));
+    m_status->setPlaceholderText(tr("none, or /run/clock-player/status.json"));
+    m_status->setToolTip(tr("The player's status file on the wall. It tells whether the wall plays "
+                            "what was sent."));
+    form.addRow(tr("Wall"), m_name);
+    form.addRow(tr("Host"), m_host);
+    form.addRow(tr("Folder"), m_folder);
+    form.addRow(tr("Key file"), KeyField());
+    form.addRow(tr("Status file"), m_status);
+    connect(m_name, QOverload<int>::of(&QComboBox::activated), this, &SendDialog::ShowTarget);
+}
+
+QWidget *SendDialog::KeyField()
+{
+    auto *const field = new QWidget;
+    auto *const layout = new QHBoxLayout(field);
+    layout->setContentsMargins(0, 0, 0, 0);
+    m_key->setObjectName(QStringLiteral("key"));
+    m_key->setPlaceholderText(tr("the usual one"));
+    auto *const browse = new QToolButton;
+    browse->setText(QStringLiteral("…"));
+    browse->setAccessibleName(tr("Choose the key file"));
+    layout->addWidget(m_key);
+    layout->addWidget(browse);
+    connect(browse, &QToolButton::clicked, this, [this] {
+        const QString path = QFileDialog::getOpenFileName(this, tr("Key file"), m_key->text());
+        if (!path.isEmpty())
+            m_key->setText(path);
+    });
+    return field;
+}
+
+void SendDialog::AddReleases()
+{
+    QPushButton *const earlier = Button(tr("Earlier releases"));
+    earlier->setObjectName(QStringLiteral("earlier"));
+    m_releases->setObjectName(QStringLiteral("releases"));
+    m_releases->setAccessibleName(earlier->text());
+    m_again->setObjectName(QStringLiteral("again"));
+    m_again->setEnabled(false);
+    for (QWidget *const widget : std::initializer_list<QWidget *> {earlier, m_releases, m_again})
+        layout()->addWidget(widget);
+    m_releases->hide();
+    m_again->hide();
+    connect(earlier, &QPushButton::clicked, this, &SendDialog::ListReleases);
+    connect(m_again, &QPushButton::clicked, this, &SendDialog::PlayRelease);
+    connect(m_releases, &QListWidget::currentRowChanged, this,
+            [this](int row) { m_again->setEnabled(row >= 0); });
+}
+
+void SendDialog::AddButtons()
+{
+    auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    QPushButton *const send = buttons->addButton(tr("Send"), QDialogButtonBox::AcceptRole);
+    send->setObjectName(QStringLiteral("send"));
+    layout()->addWidget(buttons);
+    send->setDefault(true); // which counts within the dialog only
+    connect(send, &QPushButton::clicked, this, &SendDialog::Send);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
 
 WallTarget SendDialog::Target() const
 {
     return {m_name->currentText().trimmed(), m_host->text().trimmed(), m_folder->text().trimmed(),
-            m_key->text().trimmed()};
+            m_key->text().trimmed(), m_status->text().trimmed()};
 }
 
 void SendDialog::ShowTarget(int index)
 {
     if (index < 0 || index >= m_targets.size())
         return;
-    m_host->setText(m_targets[index].host);
-    m_folder->setText(m_targets[index].folder);
-    m_key->setText(m_targets[index].key);
+    const WallTarget &target = m_targets[index];
+    m_host->setText(target.host);
+    m_folder->setText(target.folder);
+    m_key->setText(target.key);
+    m_status->setText(target.statusFile);
+    m_said->clear();
+    m_word->clear();
+    m_watch.Stop();
+    m_releases->clear();
 }
 
 void SendDialog::KeepTarget()
@@ -90,13 +166,14 @@ void SendDialog::KeepTarget()
 
 bool SendDialog::IsComplete()
 {
+    m_watch.Stop();
+    m_word->clear();
     m_said->setText(TargetFault(Target()));
     return m_said->text().isEmpty();
 }
 
-bool SendDialog::Run(const ToolCommand &command, const QString &what)
+bool SendDialog::TellOf(const ToolResult &result)
 {
-    const ToolResult result = RunBehindDialog(command, what, this);
     if (!result.isGood)
         m_said->setText(result.isCancelled ? tr("Cancelled. The wall shows what it showed before.")
                                            : result.errors);
@@ -110,41 +187,68 @@ void SendDialog::Send()
     KeepTarget();
     const QTemporaryDir work;
     const QString folder = work.filePath(QStringLiteral("export"));
-    if (!Run({ClockToolPath(), {QStringLiteral("export"), m_program, folder}},
-             tr("Making the glyph files…")))
+    if (!TellOf(RunBehindDialog({ExportCommand(m_program, folder)}, tr("Making the glyph files…"),
+                                this)))
         return;
     const QString release =
         QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-    for (const ToolCommand &command : SendCommands(Target(), folder, release)) {
-        if (!Run(command, tr("Sending to %1…").arg(Target().name)))
-            return;
-    }
-    m_said->setText(tr("%1 has release %2. The one before is kept.").arg(Target().name, release));
+    if (Bring(folder, release))
+        Follow(tr("%1 has release %2. The one before is kept.").arg(Target().name, release));
+}
+
+/// Nothing half is left where that can still be reached.
+bool SendDialog::Bring(const QString &folder, const QString &release)
+{
+    const QString what = tr("Sending to %1…").arg(Target().name);
+    const bool isBrought =
+        TellOf(RunBehindDialog(SendCommands(Target(), folder, release), what, this));
+    if (!isBrought)
+        RunBehindDialog({DiscardCommand(Target(), release)}, tr("Removing what was sent…"), this);
+    return isBrought;
+}
+
+void SendDialog::Follow(const QString &said)
+{
+    m_said->setText(said);
+    if (!Target().statusFile.isEmpty())
+        m_word->setText(tr("Waiting for the wall to play it…"));
+    m_watch.Follow(Target());
+    if (m_releases->isVisible())
+        ListReleases();
 }
 
 void SendDialog::ListReleases()
 {
-    if (!IsComplete())
+    const QString said = m_said->text();
+    if (!TargetFault(Target()).isEmpty()) {
+        IsComplete();
         return;
-    const ToolCommand command = ListCommand(Target());
-    QProcess process;
-    process.start(command.program, command.arguments);
-    process.waitForFinished();
+    }
+    const ToolResult result =
+        RunBehindDialog({ListCommand(Target())}, tr("Asking %1…").arg(Target().name), this);
     m_releases->clear();
-    QStringList releases = QString::fromUtf8(process.readAllStandardOutput())
-                               .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    std::reverse(releases.begin(), releases.end());
-    m_releases->addItems(releases);
-    if (releases.isEmpty())
+    const ReleaseList list = ReleasesIn(QString::fromUtf8(result.output));
+    for (const QString &release : list.releases) {
+        const QString text = release == list.current ? tr("%1 (plays now)").arg(release) : release;
+        auto *const item = new QListWidgetItem(text, m_releases);
+        item->setData(Qt::UserRole, release);
+    }
+    m_releases->setVisible(result.isGood);
+    m_again->setVisible(result.isGood);
+    m_said->setText(said);
+    if (TellOf(result) && list.releases.isEmpty())
         m_said->setText(tr("There are no releases yet."));
 }
 
 void SendDialog::PlayRelease()
 {
     const QListWidgetItem *const item = m_releases->currentItem();
-    if (item && IsComplete()
-        && Run(PlayCommand(Target(), item->text()), tr("Changing the release…")))
-        m_said->setText(tr("%1 has release %2.").arg(Target().name, item->text()));
+    if (!item || !IsComplete())
+        return;
+    const QString release = item->data(Qt::UserRole).toString();
+    if (TellOf(
+            RunBehindDialog({PlayCommand(Target(), release)}, tr("Changing the release…"), this)))
+        Follow(tr("%1 has release %2.").arg(Target().name, release));
 }
 
 } // namespace ClockStudio

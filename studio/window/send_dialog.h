@@ -2,12 +2,15 @@
 // Sending the program to a wall, and letting an earlier release play again.
 #pragma once
 
+#include "files/tool_run.h"
 #include "files/wall_target.h"
+#include "files/wall_watch.h"
 
 #include <QDialog>
 
 QT_BEGIN_NAMESPACE
 class QComboBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QListWidget;
@@ -25,14 +28,20 @@ public:
     SendDialog(const QString &program, QWidget *parent);
 
 private:
+    void AddFields(QFormLayout &form);
+    QWidget *KeyField();
+    void AddReleases();
+    void AddButtons();
     WallTarget Target() const;
     void ShowTarget(int index);
     void KeepTarget();
     void Send();
+    bool Bring(const QString &folder, const QString &release);
+    void Follow(const QString &said);
     void ListReleases();
     void PlayRelease();
-    bool Run(const ToolCommand &command, const QString &what);
     bool IsComplete();
+    bool TellOf(const ToolResult &result);
 
     const QString m_program;
     QVector<WallTarget> m_targets;
@@ -40,8 +49,12 @@ private:
     QLineEdit *m_host;
     QLineEdit *m_folder;
     QLineEdit *m_key;
-    QListWidget *m_releases;
+    QLineEdit *m_status;
     QLabel *m_said;
+    QLabel *m_word;
+    QListWidget *m_releases;
+    QPushButton *m_again;
+    WallWatch m_watch;
 };
 
 } // namespace ClockStudio

@@ -1,11 +1,10 @@
 // Files of programs: whole or not at all, noticed when others change them, recovered after a crash.
 #include "sample_programs.h"
+#include "small_disk.h"
 
 #include "files/program_files.h"
-#include "files/wall_target.h"
 #include "text/studio_document.h"
 
-#include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -49,9 +48,9 @@ private slots:
     void recoversAfterAKill();
     void savedWorkIsNotRecovered();
     void recent();
-    void sendsToAFolder();
-    void targetFaults_data();
-    void targetFaults();
+    void keepsWhatIsTypedOn();
+    void fullDiskKeepsFileAndWork();
+    void readOnlyDiskKeepsFileAndWork();
 };
 
 void TestProgramFiles::initTestCase()
@@ -214,55 +213,72 @@ void TestProgramFiles::recent()
     QCOMPARE(ProgramFiles::Recent().first(), work.filePath("b.xml"));
 }
 
-void TestProgramFiles::sendsToAFolder()
+void TestProgramFiles::keepsWhatIsTypedOn()
 {
     const QTemporaryDir work;
-    QVERIFY(QDir(work.path()).mkpath("export/files"));
-    QVERIFY(Write(work.filePath("export/program.xml"), kWall));
-    const WallTarget target {"hall", {}, work.filePath("it's a wall"), {}};
-    QVERIFY(QDir().mkpath(target.folder));
-    QCOMPARE(TargetFault(target), QString());
-    for (const char *release : {"1", "2"}) {
-        for (const ToolCommand &command :
-             SendCommands(target, work.filePath("export"), QLatin1String(release)))
-            QCOMPARE(QProcess::execute(command.program, command.arguments), 0);
-        QCOMPARE(QFile::symLinkTarget(target.folder + "/current"),
-                 target.folder + "/releases/" + release);
-        QCOMPARE(ContentsOf(target.folder + "/current/program.xml"), kWall);
+    const QString directory = work.filePath("recovery");
+    StudioDocument document;
+    ProgramFiles files(document, directory);
+    files.Begin(kWall);
+    for (const char *text : {"16", "32"}) {
+        // One step of the history, as typing is.
+        const int place = document.Text().indexOf("width=\"") + 7;
+        const int end = document.Text().indexOf('"', place);
+        document.Change({{place, document.Text().mid(place, end - place), text}}, "typing",
+                        "typing");
+        files.KeepWork();
+        const QStringList kept = QDir(directory).entryList({"*.work"}, QDir::Files);
+        QCOMPARE(kept.size(), 1);
+        QVERIFY(ContentsOf(directory + '/' + kept.first()).contains(document.Text().toUtf8()));
     }
-    const ToolCommand back = PlayCommand(target, "1");
-    QCOMPARE(QProcess::execute(back.program, back.arguments), 0);
-    QCOMPARE(QFile::symLinkTarget(target.folder + "/current"), target.folder + "/releases/1");
-    KeepTargets({target});
-    QCOMPARE(KnownTargets().size(), 1);
-    QCOMPARE(KnownTargets().first().folder, target.folder);
+    QCOMPARE(document.History().count(), 1);
 }
 
-void TestProgramFiles::targetFaults_data()
+void TestProgramFiles::fullDiskKeepsFileAndWork()
 {
-    QTest::addColumn<QString>("host");
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<bool>("isGood");
-    QTest::newRow("host") << "wall"
-                          << "/srv" << true;
-    QTest::newRow("user and host") << "op@wall.example"
-                                   << "/srv" << true;
-    QTest::newRow("an option") << "-oProxyCommand=x"
-                               << "/srv" << false;
-    QTest::newRow("two words") << "wall; rm"
-                               << "/srv" << false;
-    QTest::newRow("relative folder") << "wall"
-                                     << "srv" << false;
-    QTest::newRow("no folder") << ""
-                               << "" << false;
+    const QTemporaryDir work;
+    const SmallDisk disk(work.path(), 2);
+    if (!disk.IsThere())
+        QSKIP("no disk can be mounted");
+    const QString path = work.filePath("wall.xml");
+    QVERIFY(Write(path, kWall));
+    const QTemporaryDir elsewhere;
+    StudioDocument document;
+    ProgramFiles files(document, elsewhere.filePath("recovery"));
+    QVERIFY(!files.Open(path));
+    document.Change({{0, "", QString(3 * SmallDisk::kPage, ' ')}}, "longer");
+    QVERIFY(files.Save(path));
+    QCOMPARE(ContentsOf(path), kWall);
+    QCOMPARE(QDir(work.path()).entryList(QDir::Files | QDir::Hidden), QStringList("wall.xml"));
+    QVERIFY(!files.IsSaved());
+    files.KeepWork();
+    QCOMPARE(QDir(elsewhere.filePath("recovery")).entryList({"*.work"}, QDir::Files).size(), 1);
+    QVERIFY(disk.Resize(20));
+    QVERIFY(!files.Save(path));
+    QVERIFY(ContentsOf(path).endsWith(kWall));
 }
 
-void TestProgramFiles::targetFaults()
+void TestProgramFiles::readOnlyDiskKeepsFileAndWork()
 {
-    QFETCH(QString, host);
-    QFETCH(QString, folder);
-    QFETCH(bool, isGood);
-    QCOMPARE(TargetFault({"name", host, folder, {}}).isEmpty(), isGood);
+    const QTemporaryDir work;
+    const SmallDisk disk(work.path(), 20);
+    if (!disk.IsThere())
+        QSKIP("no disk can be mounted");
+    const QString path = work.filePath("wall.xml");
+    QVERIFY(Write(path, kWall));
+    QVERIFY(disk.MakeReadOnly());
+    const QTemporaryDir elsewhere;
+    StudioDocument document;
+    ProgramFiles files(document, elsewhere.filePath("recovery"));
+    QVERIFY(!files.Open(path));
+    document.Change(Widened(document), "wider");
+    const auto problem = files.Save(path);
+    QVERIFY(problem);
+    QVERIFY2(problem->contains(path), qPrintable(*problem));
+    QVERIFY(!files.IsSaved());
+    QVERIFY(!files.Save(elsewhere.filePath("wall.xml")));
+    QCOMPARE(files.Path(), elsewhere.filePath("wall.xml"));
+    QCOMPARE(ContentsOf(path), kWall);
 }
 
 QTEST_GUILESS_MAIN(TestProgramFiles)

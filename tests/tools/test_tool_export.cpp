@@ -76,6 +76,7 @@ private slots:
     void ExportedProgramIsClean();
     void NothingIsMadeFromCarriedFiles();
     void ClocksWithoutFilesAreReported();
+    void SaysHowMuchIsDone();
     void MinusStaysBehind();
     void FaultyFilesAreReported_data();
     void FaultyFilesAreReported();
@@ -199,6 +200,15 @@ void TestToolExport::ClocksWithoutFilesAreReported()
         QVERIFY2(run.errors.contains("in.xml:" + QString(line) + text), qPrintable(run.errors));
     QCOMPARE(run.errors.count('\n'), 2); // a picture clock has none
     QCOMPARE(Play(Path("in.xml"), Path("made")).errors, QString());
+}
+
+void TestToolExport::SaysHowMuchIsDone()
+{
+    const QString original = InTree("examples/station.xml");
+    const ProcessRun exported =
+        RunTool({"export", "--progress", original, Path("out"), "--language", "en"});
+    QCOMPARE(exported.exitCode, 0);
+    QCOMPARE(exported.output, QString("50%\n100%\n"));
 }
 
 void TestToolExport::MinusStaysBehind()

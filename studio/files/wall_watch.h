@@ -1,0 +1,41 @@
+// studio/files: where programs come from and go to.
+// Asks a wall what it plays until it plays what was sent.
+#pragma once
+
+#include "wall_target.h"
+#include "wall_word.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QProcess>
+#include <QTimer>
+
+namespace ClockStudio {
+
+class WallWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit WallWatch(QObject *parent = nullptr);
+    ~WallWatch() override;
+
+    /// Asks now and every few seconds, for a few minutes. Only a target with a status file is
+    /// asked.
+    void Follow(const WallTarget &target);
+    void Stop();
+
+Q_SIGNALS:
+    void Heard(const ClockStudio::WallWord &word);
+
+private:
+    void Ask();
+    void Take();
+
+    WallTarget m_target;
+    QProcess m_process;
+    QTimer m_again;
+    QElapsedTimer m_since;
+};
+
+} // namespace ClockStudio

@@ -1,0 +1,32 @@
+// studio/files: where programs come from and go to.
+// What the player of a wall says in its status file about the program that was sent.
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+
+namespace ClockStudio {
+
+struct WallWord
+{
+    enum class State {
+        Unknown,    ///< no status that can be read
+        Plays,      ///< the current release is on the wall
+        PlaysOther, ///< something else is
+        Notice,     ///< a notice is on the wall instead of a program
+        Outdated    ///< the status is too old to tell: the player does not run
+    };
+
+    State state = State::Unknown;
+    QString notice;    ///< its code
+    QDateTime written; ///< when the status was written
+};
+
+/// Reads what WordCommand writes: a line with the digest of the current release's program, then the
+/// status.
+WallWord ReadWallWord(const QByteArray &output, const QDateTime &now);
+
+/// The same for people.
+QString WordText(const WallWord &word);
+
+} // namespace ClockStudio
