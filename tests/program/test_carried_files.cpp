@@ -133,7 +133,7 @@ void TestCarriedFiles::SwappedForAPipe()
     int wrong = 0;
     QElapsedTimer timer;
     timer.start();
-    while (std::min(right, wrong) < 5000 && !timer.hasExpired(5000))
+    while (std::min(right, wrong) < 1000 && !timer.hasExpired(60000))
         ++(WarningsOf(Path("swapped"), kDigest, 12).isEmpty() ? right : wrong);
     ends = true;
     swapper.join();
