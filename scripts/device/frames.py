@@ -10,37 +10,39 @@ from PIL import Image
 import image
 
 
-class Frames:
-    """Frames of programs in the device's file system, by the second of their time."""
+# Drawn at a time: to start a program in the emulator takes longer than to draw seconds more.
+AT_ONCE = 40
 
-    def __init__(self, packages, root, folder):
-        self.packages = Path(packages)
+
+class Frames:
+    """Frames of programs in the device's file system. The platform plugins are for programs without a
+    screen, which a device has no use for."""
+
+    def __init__(self, root, platform_plugins, folder):
         self.root = Path(root)
+        self.platform_plugins = Path(platform_plugins)
         self.folder = Path(folder)
         self.known = {}
 
-    def between(self, program, first, last):
-        """The frames of a program, by its path on the device, from one second since 1970 to
-        another."""
-        seconds = range(first, last + 1)
-        if any((program, second) not in self.known for second in seconds):
-            self.draw(program, first, len(seconds))
-        return [self.known[program, second] for second in seconds]
+    def at(self, program, second):
+        """The frame of a program, by its path on the device, at a second since 1970."""
+        if (program, second) not in self.known:
+            self.draw(program, second)
+        return self.known[program, second]
 
-    def draw(self, program, first, count):
+    def draw(self, program, first):
         # The texts of a dial appear in the second frame.
         before = datetime.fromtimestamp(first - 1, timezone.utc)
         image.clean(self.folder)
-        # Paths that exist in the device's file system are read there: its fonts, its settings. The
-        # device has no platform plugin for programs without a screen.
-        plugins = self.packages / image.LIBRARIES / "qt5/plugins/platforms"
-        subprocess.run(["qemu-arm", "-L", self.root, "-E", f"QT_QPA_PLATFORM_PLUGIN_PATH={plugins}",
+        # Paths that exist in the device's file system are read there: its fonts, its settings.
+        subprocess.run(["qemu-arm", "-L", self.root,
+                        "-E", f"QT_QPA_PLATFORM_PLUGIN_PATH={self.platform_plugins}",
                         "-E", "QT_QPA_PLATFORM=offscreen",
                         self.root / "usr/lib/clock-player/bin/clock_player", self.root / program,
-                        "--output", self.folder, "--frames", str(count + 1), "--language", "en",
+                        "--output", self.folder, "--frames", str(AT_ONCE + 1), "--language", "en",
                         "--at", before.strftime("%Y-%m-%dT%H:%M:%SZ")],
                        env={**os.environ, "TMPDIR": str(self.folder)}, check=True,
-                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        for number in range(count):
+                       stdout=subprocess.DEVNULL)
+        for number in range(AT_ONCE):
             with Image.open(self.folder / f"frame_{number + 2:04}.png") as picture:
                 self.known[program, first + number] = picture.convert("RGB")

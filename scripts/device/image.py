@@ -9,13 +9,11 @@ import subprocess
 from pathlib import Path
 
 LIBRARIES = "usr/lib/arm-linux-gnueabihf"
+LIBRARY_FOLDERS = ["lib/arm-linux-gnueabihf", LIBRARIES, "lib", "lib/systemd",
+                   "usr/lib/arm-linux-gnueabihf/systemd"]
 # In this order: later ones need earlier ones.
 MODULES = ["virtio_mmio", "virtio_blk", "virtio_dma_buf", "drm", "drm_kms_helper",
            "drm_shmem_helper", "virtio-gpu", "squashfs"]
-# What the player opens without being linked with it.
-OPENED = [f"{LIBRARIES}/qt5/plugins/platforms/libqlinuxfb.so",
-          "usr/share/fonts/truetype/dejavu", "etc/fonts", "usr/share/fontconfig",
-          "usr/share/zoneinfo/UTC", "usr/share/zoneinfo/Europe/Berlin"]
 # Where file systems are mounted, and what is written to.
 FOLDERS = ["dev", "proc", "run", "sys", "tmp", "var/tmp"]
 
@@ -30,23 +28,36 @@ def needed_libraries(file):
 
 
 class Image:
-    """Files for a device, taken from unpacked packages."""
+    """Files for a device, taken from folders of unpacked packages; earlier folders first."""
 
-    def __init__(self, packages, folder):
-        self.packages = Path(packages)
+    def __init__(self, sources, folder):
+        self.sources = [Path(source) for source in sources]
         self.root = Path(folder)
         for name in FOLDERS:
             (self.root / name).mkdir(parents=True)
 
-    def add(self, path):
-        """A file or folder of the packages, under its own path; what links lead to, not links."""
-        source, target = self.packages / path, self.root / path
+    def add(self, path, links=False):
+        """A file or folder of the packages, under its own path; what links lead to, or the links."""
+        source, target = self.source_of(self.path_of([path])), self.root / path
         target.parent.mkdir(parents=True, exist_ok=True)
         if source.is_dir():
-            shutil.copytree(source, target, dirs_exist_ok=True)
+            shutil.copytree(source, target, symlinks=links, dirs_exist_ok=True)
         else:
             shutil.copyfile(source, target)
             shutil.copymode(source, target)
+
+    def source_of(self, path):
+        for source in self.sources:
+            if (source / path).exists():
+                return source / path
+        return None
+
+    def path_of(self, paths):
+        """The first of these that a package has."""
+        for path in paths:
+            if self.source_of(path):
+                return path
+        raise SystemExit(f"no package has {paths[0]}")
 
     def add_libraries(self):
         """Every library that something in the image is linked with, and the loader."""
@@ -55,12 +66,9 @@ class Image:
             for name in needed_libraries(waiting.pop()):
                 if any(self.root.rglob(name)):
                     continue
-                found = [folder for folder in ("lib/arm-linux-gnueabihf", LIBRARIES, "lib")
-                         if (self.packages / folder / name).exists()]
-                if not found:
-                    raise SystemExit(f"no package has the library {name}")
-                self.add(f"{found[0]}/{name}")
-                waiting.append(self.root / found[0] / name)
+                path = self.path_of([f"{folder}/{name}" for folder in LIBRARY_FOLDERS])
+                self.add(path)
+                waiting.append(self.root / path)
         loader = self.root / "lib/ld-linux-armhf.so.3"
         if not loader.exists():
             self.add("lib/ld-linux-armhf.so.3")
@@ -68,9 +76,13 @@ class Image:
     def add_busybox(self, commands):
         """busybox, and links to it with the names of commands."""
         self.add("bin/busybox")
-        (self.root / "sbin").mkdir(exist_ok=True)
         for name in commands:
-            (self.root / "bin" / name).symlink_to("busybox")
+            self.add_link(f"bin/{name}", "busybox")
+
+    def add_link(self, path, target):
+        link = self.root / path
+        link.parent.mkdir(parents=True, exist_ok=True)
+        link.symlink_to(target)
 
     def add_text(self, path, text, mode=0o644):
         target = self.root / path
@@ -79,19 +91,19 @@ class Image:
         target.chmod(mode)
 
 
-def pack_initramfs(packages, script, work, target):
+def pack_initramfs(packed, script, target):
     """The modules that the screen and the disk need, and a script that mounts the disk."""
-    image = Image(packages, work)
-    image.add_busybox(["sh", "mount", "insmod", "switch_root", "mkdir"])
+    packed.add_busybox(["cat", "insmod", "mkdir", "mount", "sh", "switch_root"])
     for number, module in enumerate(MODULES):
-        source = next(image.packages.rglob(f"{module}.ko"))
-        shutil.copyfile(source, image.root / f"{number}-{module}.ko")
-    image.add_text("init", script, 0o755)
-    names = "\0".join(str(file.relative_to(image.root)) for file in sorted(image.root.rglob("*")))
-    packed = subprocess.run(["cpio", "--null", "--create", "--format=newc", "--quiet",
-                             "--owner=0:0"],
-                            input=names.encode(), cwd=image.root, capture_output=True, check=True)
-    Path(target).write_bytes(gzip.compress(packed.stdout, 9, mtime=0))
+        source = next(packed.source_of("lib/modules").rglob(f"{module}.ko"))
+        shutil.copyfile(source, packed.root / f"{number}-{module}.ko")
+    packed.add_text("init", script, 0o755)
+    names = "\0".join(str(file.relative_to(packed.root)) for file in sorted(packed.root.rglob("*")))
+    archive = subprocess.run(["cpio", "--null", "--create", "--format=newc", "--quiet",
+                              "--owner=0:0"],
+                             input=names.encode(), cwd=packed.root, capture_output=True, check=True)
+    Path(target).write_bytes(gzip.compress(archive.stdout, 9, mtime=0))
+    return target
 
 
 def pack_root(folder, target):
@@ -99,6 +111,7 @@ def pack_root(folder, target):
     Path(target).unlink(missing_ok=True)
     subprocess.run(["mksquashfs", folder, target, "-comp", "gzip", "-b", "64K", "-all-root",
                     "-no-progress", "-quiet", "-no-xattrs"], check=True, stdout=subprocess.DEVNULL)
+    return target
 
 
 def unpack_packages(names, folder):

@@ -1,23 +1,31 @@
 #!/bin/sh
 # First process of the small image: plays one program for ever. A player that ends, for whatever
-# reason, leaves a dark screen and comes back.
-export PATH=/bin TMPDIR=/run/tmp LC_ALL=C QT_QPA_PLATFORM=linuxfb:fb=/dev/fb0
+# reason, leaves a dark screen and comes back. PLAYER_OPTIONS on the kernel's command line are the
+# player's.
+export PATH=/bin:/usr/bin LC_ALL=C TMPDIR=/run/tmp RUNTIME_DIRECTORY=/run/clock
 mount -t proc proc /proc
 mount -t sysfs sys /sys
 mount -t tmpfs -o mode=0755,size=24m run /run
-mkdir -p /run/tmp /run/clock
-cp /etc/clock-player/program.xml /run/clock/program.xml
+mkdir -p "$TMPDIR" "$RUNTIME_DIRECTORY"
+cp /usr/share/wall.xml /run/clock/program.xml
 
-# A shell for whoever holds the serial line.
-while :; do setsid sh -c 'stty -echo; echo shell is ready; exec sh'  </dev/ttyAMA0 >/dev/ttyAMA0 2>&1; done &
+# What the player says; logread tells it.
+syslogd -C64
+mkfifo /run/said
+logger -t clock_player </run/said &
+exec 3>/run/said
 
-blank() { [ ! -e /dev/fb0 ] || cat /dev/zero >/dev/fb0 2>/dev/null; }
+# A shell on the serial line.
+while :; do setsid sh -c 'stty -echo; echo shell is ready; exec sh' </dev/ttyAMA0 >/dev/ttyAMA0 2>&1; done &
+
 starts=0
 while :; do
     starts=$((starts + 1))
     echo "$starts" >/run/starts
-    /usr/lib/clock-player/bin/clock_player /run/clock/program.xml >>/run/log 2>&1
-    echo "ended with $?" >>/run/log
-    blank
+    # shellcheck disable=SC2086 # words
+    clock_player --kiosk --watch --files-dir /run/glyphs -platform linuxfb $PLAYER_OPTIONS \
+        /run/clock/program.xml >&3 2>&1
+    echo "clock_player ended with $?" >&3
+    [ ! -e /dev/fb0 ] || cat /dev/zero >/dev/fb0 2>/dev/null
     sleep 1
 done

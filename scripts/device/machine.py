@@ -1,4 +1,4 @@
-"""A device in the emulator: its screen by the monitor, its shell by the serial line."""
+"""A device in the emulator: its screen through the monitor, its shell through the serial line."""
 
 import json
 import re
@@ -9,58 +9,61 @@ from pathlib import Path
 
 from PIL import Image
 
+# Time on the device is counted in instructions, 4 ns each: what it takes does not depend on how busy
+# this machine is.
+ICOUNT = "shift=2,sleep=on"
+
+
+class Failed(Exception):
+    """The device did not do what it must."""
+
 
 class Machine:
-    """Runs until it is closed. Sockets and logs are in the folder."""
+    """Runs until it is closed. What the emulator and the serial line say is kept in the folder."""
 
     def __init__(self, kernel, initramfs, disk, folder, memory=128, size=(320, 160), clock=None,
                  screen=True, words=""):
         self.folder = Path(folder)
-        self.began = time.monotonic()
         command = ["qemu-system-arm", "-M", "virt", "-m", str(memory), "-display", "none",
                    "-nodefaults", "-no-reboot", "-global", "virtio-mmio.force-legacy=false",
-                   # The device's time goes by its instructions, 250 million a second, so that it is
-                   # as fast as itself where this machine does something else besides.
-                   "-icount", "shift=2,sleep=on",
-                   "-kernel", str(kernel), "-initrd", str(initramfs),
+                   "-icount", ICOUNT, "-kernel", str(kernel), "-initrd", str(initramfs),
                    "-append", f"console=ttyAMA0 quiet loglevel=3 vt.global_cursor_default=0 {words}",
                    "-drive", f"file={disk},format=raw,if=none,id=disk,readonly=on",
-                   "-device", "virtio-blk-device,drive=disk",
-                   "-qmp", f"unix:{self.folder}/monitor,server=on,wait=off",
-                   "-serial", f"unix:{self.folder}/serial,server=on,wait=off"]
+                   "-device", "virtio-blk-device,drive=disk"]
         if screen:
             command += ["-device", f"virtio-gpu-device,xres={size[0]},yres={size[1]}"]
         if clock:
             command += ["-rtc", f"base={clock},clock=vm"]
-        self.log = open(self.folder / "emulator.log", "w")
-        self.process = subprocess.Popen(command, stdout=self.log, stderr=self.log)
-        self.monitor = self.connect("monitor").makefile("rw")
-        self.monitor.readline()
-        self.ask("qmp_capabilities")
-        self.serial = self.connect("serial")
+        monitor, its_monitor = socket.socketpair()
+        self.serial, its_serial = socket.socketpair()
+        command += ["-chardev", f"socket,id=monitor,fd={its_monitor.fileno()}",
+                    "-mon", "chardev=monitor,mode=control",
+                    "-chardev", f"socket,id=serial,fd={its_serial.fileno()}",
+                    "-serial", "chardev:serial"]
         self.serial.settimeout(1)
-        self.heard = b""
+        self.heard = b""  # and not yet understood
+        self.console = open(self.folder / "console.log", "wb")
+        with its_monitor, its_serial, open(self.folder / "emulator.log", "w") as log:
+            self.process = subprocess.Popen(command, stdout=log, stderr=log,
+                                            pass_fds=[its_monitor.fileno(), its_serial.fileno()])
+        self.monitor = monitor.makefile("rw")
+        self.answer()
+        self.ask("qmp_capabilities")
 
-    def connect(self, name):
-        while True:
-            if self.process.poll() is not None:
-                raise SystemExit((self.folder / "emulator.log").read_text())
-            try:
-                line = socket.socket(socket.AF_UNIX)
-                line.connect(str(self.folder / name))
-                return line
-            except OSError:
-                line.close()
-                time.sleep(0.05)
+    def answer(self):
+        line = self.monitor.readline()
+        if not line:
+            raise Failed("the emulator ended: " + (self.folder / "emulator.log").read_text())
+        return json.loads(line)
 
     def ask(self, command, **arguments):
         """The monitor's answer to a command."""
         self.monitor.write(json.dumps({"execute": command, "arguments": arguments}) + "\n")
         self.monitor.flush()
         while True:
-            answer = json.loads(self.monitor.readline())
+            answer = self.answer()
             if "error" in answer:
-                raise SystemExit(f"{command}: {answer['error']['desc']}")
+                raise Failed(f"{command}: {answer['error']['desc']}")
             if "return" in answer:
                 return answer["return"]
 
@@ -71,32 +74,38 @@ class Machine:
         with Image.open(path) as picture:
             return picture.convert("RGB")
 
+    def hear(self):
+        try:
+            said = self.serial.recv(65536)
+        except TimeoutError:
+            return
+        if not said:
+            raise Failed("the emulator ended: " + (self.folder / "emulator.log").read_text())
+        self.heard += said
+        self.console.write(said)
+        self.console.flush()
+
     def listen(self, pattern, seconds):
-        """What the serial line says, up to what matches; nothing where it does not come in time."""
+        """What the serial line says, up to what matches."""
         end = time.monotonic() + seconds
         while time.monotonic() < end:
             found = re.search(pattern, self.heard, re.DOTALL)
             if found:
                 self.heard = self.heard[found.end():]
                 return found
-            try:
-                self.heard += self.serial.recv(65536)
-            except TimeoutError:
-                pass
-        return None
+            self.hear()
+        raise Failed(f"nothing like {pattern.decode()!r} on the serial line in {seconds} s")
 
-    def run(self, command, seconds=120):
+    def run(self, command, seconds=240):
         """What a command on the device writes."""
         # The line repeats what is sent: the marks are put together only where the command runs.
         self.serial.sendall(f"echo be''gin; {command}; echo e''nd\n".encode())
         found = self.listen(rb"begin\r?\n(.*?)end\r?\n", seconds)
-        if not found:
-            raise SystemExit(f"the device did not answer: {command}\n{self.heard.decode()}")
-        return found.group(1).decode().replace("\r", "").strip()
+        return found.group(1).decode(errors="replace").replace("\r", "").strip()
 
     def close(self):
         self.process.kill()
         self.process.wait()
         self.serial.close()
         self.monitor.close()
-        self.log.close()
+        self.console.close()

@@ -1,0 +1,83 @@
+"""Holds a device's screen against the frames of its program."""
+
+import time
+
+from PIL import ImageChops
+
+from machine import Failed
+
+# Part of a second of the device's clock after which the screen shows that second: drawing takes up to
+# a tenth, and the framebuffer is brought to the screen twenty times a second.
+SHOWN_AFTER = 0.35
+SETTLE_SECONDS = 300  # on a machine that is busy with something else
+NOTICE_COLOURS = {(0, 0, 64), (255, 255, 255)}  # player/notice.cpp
+
+
+class Screen:
+    """Pictures that fail are saved in the folder."""
+
+    def __init__(self, machine, frames, folder):
+        self.machine = machine
+        self.frames = frames
+        self.folder = folder
+
+    def now(self):
+        """Seconds since 1970 by the device's clock."""
+        return float(self.machine.run("/bin/date +%s.%N"))
+
+    def picture(self):
+        """A picture that was taken within one second of the device's clock, and that second."""
+        end = time.monotonic() + SETTLE_SECONDS
+        while time.monotonic() < end:
+            before = self.now()
+            if not SHOWN_AFTER <= before % 1 < 0.9:
+                time.sleep((1 + SHOWN_AFTER - before % 1) % 1)
+                continue
+            picture = self.machine.screen()
+            if int(self.now()) == int(before):
+                return picture, int(before)
+        raise Failed("no picture could be taken within one second of the device's clock")
+
+    def compare(self, program):
+        """Whether all pixels are those of the second's frame, and the picture."""
+        picture, second = self.picture()
+        frame = self.frames.at(program, second)
+        return not ImageChops.difference(picture, frame).getbbox(), picture, frame
+
+    def await_right(self, program):
+        """Until the screen is as it must be; then the uptime of the device, in seconds."""
+        end = time.monotonic() + SETTLE_SECONDS
+        while time.monotonic() < end:
+            is_right, picture, frame = self.compare(program)
+            if is_right:
+                return float(self.machine.run("cat /proc/uptime").split()[0])
+        raise self.wrong(f"the screen does not show {program}", picture, frame)
+
+    def expect_right(self, program, count):
+        """In so many samples."""
+        for sample in range(count):
+            is_right, picture, frame = self.compare(program)
+            if not is_right:
+                raise self.wrong(f"sample {sample + 1} of the screen is not {program}", picture, frame)
+
+    def await_dark(self):
+        self.await_picture("dark", lambda picture: not picture.getbbox())
+
+    def await_notice(self, code):
+        self.await_picture(f"a notice {code}", lambda picture: {
+            colour for _, colour in picture.getcolors(65536) or []} == NOTICE_COLOURS)
+
+    def await_picture(self, what, is_shown):
+        end = time.monotonic() + SETTLE_SECONDS
+        while time.monotonic() < end:
+            picture = self.machine.screen()
+            if is_shown(picture):
+                return
+            time.sleep(0.1)
+        raise self.wrong(f"the screen does not become {what}", picture)
+
+    def wrong(self, what, picture, expected=None):
+        picture.save(self.folder / "screen.png")
+        if expected:
+            expected.save(self.folder / "expected.png")
+        return Failed(f"{what}: see {self.folder}/screen.png")
