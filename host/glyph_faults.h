@@ -1,5 +1,6 @@
-// What went wrong when the glyph images of a clock were made, told on its node. Hosts that want to
-// know ask for it after NodeAlready() or AfterUpdate(); all others need not know of it.
+// What went wrong when the glyph images of a clock were made or loaded, told on its node. Hosts that
+// want to know ask for it after NodeAlready(), AfterUpdate() or CreateAreaRender(); all others need
+// not know of it.
 #pragma once
 
 #include <QObject>
@@ -18,6 +19,7 @@ struct GlyphFault
         NoFont,     ///< no font is installed at all
         NoLetters,  ///< no installed font has some of its letters: boxes are drawn for them
         NoInk,      ///< it was made, and shows nothing although its text should
+        NotKept,    ///< not shown: the images of its clock, or of all, would take too much memory
     };
 
     Kind kind = NotWritten;
@@ -27,13 +29,13 @@ struct GlyphFault
     QString letters; ///< of NoLetters, those that are lacking
 };
 
-/// The dynamic property of a node that holds the faults of its last generation, as a list of maps.
-/// A node without faults does not have it.
+/// The dynamic property of a node that holds the faults of its images, as a list of maps. A node
+/// without faults does not have it.
 inline constexpr char kGlyphFaults[] = "glyphFaults";
 
 /// The faults of the node's last generation: of all images for what was not written, of those that
-/// the clock shows for the rest. Empty for a node that had none made, and for nodes of plugins that
-/// do not tell.
+/// the clock shows for the rest. And what its last renderer does not keep. Empty for a node that
+/// had none made and has no renderer, and for nodes of plugins that do not tell.
 inline QVector<GlyphFault> GlyphFaultsOf(const QObject &node)
 {
     QVector<GlyphFault> faults;

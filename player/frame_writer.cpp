@@ -76,6 +76,8 @@ MaybeFailure WriteFrames(Stage &stage, const FrameRun &run)
     for (int number = 1; number <= run.count; ++number) {
         const QString path = directory.filePath(FrameName(number, run.count));
         const QImage frame = DrawFrame(stage, number, run);
+        if (number == 1)
+            run.begun();
         if (frame.isNull())
             return TooLarge(run);
         if (const MaybeFailure failure = SaveFrame(frame, path))

@@ -22,6 +22,7 @@ struct FrameRun
     double speed = 1;               ///< seconds of the clocks from frame to frame
     qint64 start = 0;               ///< UTC milliseconds; the first frame shows its whole second
     DeadlineMeter *meter = nullptr; ///< told how long the frames took to draw, if any
+    std::function<void()> begun;    ///< called when the first frame is drawn, before it is written
     std::function<bool()> isEnded;  ///< asked after each frame; true ends the run early
 };
 

@@ -2,7 +2,6 @@
 
 #include "glyph_messages.h"
 #include "node_keys.h"
-#include "stage.h"
 
 #include "hnode.h"
 
@@ -22,11 +21,11 @@ QString OfClock(const QString &programPath, Lw::HNode &node, const QString &text
 
 } // namespace
 
-MaybeFailure CheckGlyphs(const ClockStage::Stage &stage, const QString &programPath,
+MaybeFailure CheckGlyphs(const QVector<Lw::HNode *> &nodes, const QString &programPath,
                          const Warn &warn)
 {
     QStringList failures;
-    for (Lw::HNode *const node : stage.Nodes()) {
+    for (Lw::HNode *const node : nodes) {
         const GlyphMessages messages = DescribeGlyphFaults(Lw::GlyphFaultsOf(*node));
         for (const QString &text : messages.warnings)
             warn(OfClock(programPath, *node, QStringLiteral("warning: ") + text));

@@ -5,15 +5,18 @@
 #include "plugins.h"
 #include "program_file.h"
 
-namespace ClockStage {
-class Stage;
+#include <QVector>
+
+namespace Lw {
+class HNode;
 }
 
 namespace ClockPlayer {
 
-/// For a stage that was started. Warns of letters that no font has; fails where images are blank,
-/// or could not be written, so that nothing or something older is shown.
-ClockProgram::MaybeFailure CheckGlyphs(const ClockStage::Stage &stage, const QString &programPath,
-                                       const Warn &warn);
+/// For nodes whose images are loaded. Warns of letters that no font has, and of images that are
+/// left out for their memory; fails where images are blank, or could not be written, so that nothing
+/// or something older is shown.
+ClockProgram::MaybeFailure CheckGlyphs(const QVector<Lw::HNode *> &nodes,
+                                       const QString &programPath, const Warn &warn);
 
 } // namespace ClockPlayer

@@ -178,6 +178,8 @@ MaybeFailure PlayToFiles(const Options &options, const Program &program, const W
     Lw::pictureplayer::SetTimeScale(0);
     FrameRun run = FrameRunOf(options);
     run.meter = &meter;
+    MaybeFailure faulty;
+    run.begun = [&] { faulty = CheckGlyphs(stage.Nodes(), program.path, warn); };
     const MaybeFailure failure = WriteFrames(stage, run);
     if (options.printsStats)
         print();
@@ -185,7 +187,7 @@ MaybeFailure PlayToFiles(const Options &options, const Program &program, const W
         return failure;
     if (QuitSignals::IsRequested())
         return Interrupted();
-    if (const MaybeFailure faulty = CheckGlyphs(stage, program.path, warn))
+    if (faulty)
         return faulty;
     return PrintText(QDir(run.directory).absolutePath() + QLatin1Char('\n'));
 }

@@ -88,6 +88,10 @@ MaybeFailure WindowShow::Play(const Result<Program> &program, const FileSignatur
         Fault(failure->text);
         ShowNotice(!program && signature == FileSignature() ? Notice::NoProgram
                                                             : Notice::WrongProgram);
+    } else if (const MaybeFailure faulty = CheckGlyphs()) {
+        if (!m_options.isKiosk)
+            return faulty;
+        Fault(faulty->text); // a kiosk goes on with what there is
     }
     if (!m_options.isKiosk)
         m_window.show();
@@ -181,7 +185,24 @@ void WindowShow::ReadAgain()
 MaybeFailure WindowShow::Read()
 {
     const Result<Program> program = ReadOrdinaryProgram(m_options.programPath);
-    return program ? Show(*program) : program.Error();
+    if (!program)
+        return program.Error();
+    if (const MaybeFailure failure = Show(*program))
+        return failure;
+    if (const MaybeFailure faulty = CheckGlyphs())
+        Fault(faulty->text);
+    return std::nullopt;
+}
+
+MaybeFailure WindowShow::CheckGlyphs() const
+{
+    return ClockPlayer::CheckGlyphs(m_playback.Playing()->Nodes(), m_options.programPath, m_warn);
+}
+
+void WindowShow::CheckRestarted(Lw::HNode *node)
+{
+    if (const MaybeFailure faulty = ClockPlayer::CheckGlyphs({node}, m_options.programPath, m_warn))
+        Fault(faulty->text);
 }
 
 MaybeFailure WindowShow::Show(const Program &program)
@@ -196,14 +217,8 @@ MaybeFailure WindowShow::Show(const Program &program)
     if (const MaybeFailure failure = BuildStage(*stage, program, m_options, m_warn))
         return failure;
     m_notice.reset();
-    const Stage &played = *stage;
+    connect(stage.get(), &Stage::Restarted, this, &WindowShow::CheckRestarted);
     m_playback.Play(std::move(stage));
-    // A kiosk goes on with what there is.
-    if (const MaybeFailure faulty = CheckGlyphs(played, program.path, m_warn)) {
-        if (!m_options.isKiosk)
-            return faulty;
-        Fault(faulty->text);
-    }
     if (const Result<QByteArray> contents = ReadContents(program.path))
         m_digest = QString::fromLatin1(
             QCryptographicHash::hash(*contents, QCryptographicHash::Sha256).toHex());

@@ -19,6 +19,10 @@
 
 #include <memory>
 
+namespace Lw {
+class HNode;
+}
+
 namespace ClockPlayer {
 
 class WindowShow : public QObject
@@ -44,6 +48,8 @@ private:
     void Report();
     ClockProgram::MaybeFailure Read();
     ClockProgram::MaybeFailure Show(const ClockProgram::Program &program);
+    ClockProgram::MaybeFailure CheckGlyphs() const;
+    void CheckRestarted(Lw::HNode *node);
     void ShowNotice(Notice notice);
     void Fault(const QString &text);
     void KeepStatus();

@@ -113,6 +113,9 @@ GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults)
         messages.warnings.append(
             QStringLiteral("no installed font has \"%1\" of %2; boxes are drawn instead")
                 .arg(Letters(lacking), Images(lacking)));
+    AppendIfAny(messages.warnings, OfKind(faults, GlyphFault::NotKept),
+                QStringLiteral("%1 not shown: the images of a clock may take 64 MiB of memory, "
+                               "those of all clocks 256 MiB"));
     return messages;
 }
 

@@ -13,12 +13,11 @@ struct GlyphMessages
 {
     /// For exit code 1: images that are missing, older than what they should show, or blank.
     QStringList failures;
-    /// The clock plays, and shows boxes for some letters.
+    /// The clock plays, with boxes for some letters or without some images.
     QStringList warnings;
 };
 
-/// Nothing at all for a clock without faults. Faults are those of a node after NodeAlready()
-/// (Lw::GlyphFaultsOf), or foreseen ones.
+/// Nothing at all for a clock without faults.
 GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults);
 
 } // namespace ClockProgram

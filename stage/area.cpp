@@ -20,7 +20,7 @@ Area::Area(unsigned int playIdentifier, Lw::INodePlugin *plugin, std::unique_ptr
       m_glyphFiles(glyphFiles), m_node(node.release())
 {
     m_redraw.setSingleShot(true);
-    connect(&m_redraw, &QTimer::timeout, this, &Area::Restart);
+    connect(&m_redraw, &QTimer::timeout, this, &Area::RestartOnRequest);
 }
 
 Area::~Area()
@@ -60,6 +60,14 @@ void Area::Restart()
         m_node->NodeAlready(0);
     RemoveRenderer();
     StartRenderer();
+}
+
+void Area::RestartOnRequest()
+{
+    const QPointer<Area> guarded(this); // who is shown the first picture may delete this area
+    Restart();
+    if (guarded && m_node)
+        emit Restarted(m_node);
 }
 
 void Area::StartRenderer()

@@ -51,12 +51,14 @@ public:
 
 Q_SIGNALS:
     void PictureChanged(QRegion region); ///< of the screen; empty where the picture is the same
+    void Restarted(Lw::HNode *node);     ///< on its request, with new glyph images
 
 private:
     void ListenToNode();
     void StartRenderer();
     void RemoveRenderer();
     void Restart();
+    void RestartOnRequest();
     void Show(const QImage &image);
     QRegion Damage() const;
 

@@ -36,6 +36,7 @@ void Stage::AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, Gl
 {
     m_areas.push_back(std::make_unique<Area>(NewIdentifier(), plugin, std::move(node), glyphFiles));
     connect(m_areas.back().get(), &Area::PictureChanged, this, &Stage::Changed);
+    connect(m_areas.back().get(), &Area::Restarted, this, &Stage::Restarted);
 }
 
 void Stage::Start()

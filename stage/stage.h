@@ -38,6 +38,9 @@ Q_SIGNALS:
     /// These pixels of the screen must be composed again. Empty where an area shows the same
     /// picture for another second.
     void Changed(QRegion region);
+    /// A node asked for new glyph images while it played. They are made, unless they were carried,
+    /// and loaded.
+    void Restarted(Lw::HNode *node);
 
 private:
     void AddArea(Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node, GlyphFiles glyphFiles);

@@ -1,6 +1,6 @@
 #include "clock_nodes.h"
 
-#include "clock_plugin.h"
+#include "clock_finder.h"
 
 namespace ClockTool {
 
@@ -9,19 +9,13 @@ namespace {
 using ClockProgram::MadeNodes;
 using ClockProgram::Program;
 
-Lw::INodePlugin *FindPlugin(QDomElement &element)
-{
-    static Lw::HNodeClock::HNodeClock plugin;
-    return plugin.PluginMatch(element) ? &plugin : nullptr;
-}
-
 Result<ProgramClocks> MakeClocks(const Result<Program> &program)
 {
     if (!program)
         return program.Error();
     ProgramClocks clocks;
     clocks.program = *program;
-    Result<MadeNodes> made = ClockProgram::MakeNodes(clocks.program, FindPlugin);
+    Result<MadeNodes> made = ClockProgram::MakeNodes(clocks.program, FindClockPlugin);
     if (!made)
         return made.Error();
     clocks.made = std::move(*made);

@@ -8,6 +8,7 @@
 #include "xml_writing.h"
 
 #include "clock_sdk_tables.h"
+#include "compose/glyph_bounds.h"
 #include "glyph/glyph_set.h"
 #include "glyph/hmd5.h"
 #include "happconfig.h"
@@ -131,7 +132,8 @@ private:
 
     void CheckMade(HClockNode &clock)
     {
-        const auto messages = ClockProgram::DescribeGlyphFaults(Lw::GlyphFaultsOf(clock));
+        const auto messages = ClockProgram::DescribeGlyphFaults(Lw::GlyphFaultsOf(clock)
+                                                                + m_account.AddFiles(clock));
         for (const QString &warning : messages.warnings)
             Say(OfClock(clock, QStringLiteral("warning: ") + warning));
         if (!messages.failures.isEmpty())
@@ -237,6 +239,7 @@ private:
     ExportDirectory m_taken;
     QDomDocument m_document;
     QDomElement m_program;
+    GlyphAccount m_account;
     SentFiles m_files;
     MaybeFailure m_failure;
 };

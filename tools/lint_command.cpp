@@ -1,12 +1,16 @@
 // clock_tool lint: checks programs.
+#include "clock_finder.h"
 #include "command_support.h"
 #include "commands.h"
 #include "lint/finding_json.h"
 #include "lint/fit_lint.h"
+#include "lint/glyph_lint.h"
 #include "lint/program_lint.h"
 #include "tool_arguments.h"
 #include "xml_document.h"
 #include "year_option.h"
+
+#include "hnode.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -63,6 +67,21 @@ struct Choices
     bool asJson = false;
 };
 
+/// A program that cannot be played has none of these findings.
+void LintClocks(const QDomDocument &document, const QString &path, const Choices &choices,
+                Findings &findings)
+{
+    const Result<ClockProgram::Program> program = ClockProgram::InterpretProgram(document, path);
+    if (!program)
+        return;
+    const Result<ClockProgram::MadeNodes> made = ClockProgram::MakeNodes(*program, FindClockPlugin);
+    if (!made)
+        return;
+    LintGlyphs(*program, *made, findings);
+    if (choices.year)
+        LintFit(*program, *made, *choices.year, findings);
+}
+
 CommandResult LintFile(const QString &path, const Choices &choices)
 {
     const Result<QByteArray> bytes = ClockProgram::ReadContents(path);
@@ -72,9 +91,7 @@ CommandResult LintFile(const QString &path, const Choices &choices)
     if (!document)
         return Report(document.Error());
     Findings findings = LintProgram(*document, *bytes, path);
-    const Result<ClockProgram::Program> program = ClockProgram::InterpretProgram(*document, path);
-    if (choices.year && program)
-        LintFit(*program, *choices.year, findings);
+    LintClocks(*document, path, choices, findings);
     if (choices.asJson)
         ShowAsJson(findings, path);
     else

@@ -105,7 +105,7 @@ bool ClockGlyphs::HasRoom(const GlyphStrip &loaded, qint64 bytes) const
         || (process <= kProcessGlyphBytes && Bytes() + bytes <= kClockGlyphBytes);
 }
 
-GlyphStrip ClockGlyphs::LoadFile(const QString &path) const
+std::optional<GlyphStrip> ClockGlyphs::LoadWithinBounds(const QString &path) const
 {
     PictureFile file(path);
     if (file.IsNull())
@@ -117,15 +117,25 @@ GlyphStrip ClockGlyphs::LoadFile(const QString &path) const
         CountLoadedGlyphsExactly();
         bytes = isLoaded ? loaded.Bytes() : file.GlyphBytes();
         if (!HasRoom(loaded, bytes))
-            return GlyphStrip();
+            return std::nullopt;
     }
     return isLoaded ? loaded : GlyphStrip::OfFile(file, bytes);
 }
 
-GlyphSource ClockGlyphs::RecordedFiles(HClockNode &node) const
+GlyphStrip ClockGlyphs::LoadFile(const QString &path) const
 {
-    return [this, &node](Glyph glyph, int number) {
-        return LoadFile(node.GetFirstFile(GlyphKey(glyph, number)));
+    return LoadWithinBounds(path).value_or(GlyphStrip());
+}
+
+GlyphSource ClockGlyphs::RecordedFiles(HClockNode &node, QVector<Lw::GlyphFault> *lost) const
+{
+    return [this, &node, lost](Glyph glyph, int number) {
+        const QString &key = GlyphKey(glyph, number);
+        const QString path = node.GetFirstFile(key);
+        const std::optional<GlyphStrip> strip = LoadWithinBounds(path);
+        if (!strip && lost)
+            lost->append(NotKept(key, path));
+        return strip.value_or(GlyphStrip());
     };
 }
 

@@ -5,9 +5,12 @@
 #include "compose/glyph_strip.h"
 #include "glyph/glyph_set.h"
 
+#include "glyph_faults.h"
+
 #include <QVector>
 
 #include <functional>
+#include <optional>
 
 namespace Lw::HNodeClock {
 
@@ -57,10 +60,13 @@ struct ClockGlyphs
     /// than the bounds for all their glyph images (image_bounds.h). That is known from the file's
     /// size and kind, before it is decoded.
     GlyphStrip LoadFile(const QString &path) const;
-    /// The files recorded on a node, loaded in this way. Node and glyphs must outlive the source.
-    GlyphSource RecordedFiles(HClockNode &node) const;
+    /// The files recorded on a node, loaded in this way; those that the bounds leave out are added
+    /// to the list, if there is one. All of them must outlive the source.
+    GlyphSource RecordedFiles(HClockNode &node, QVector<Lw::GlyphFault> *lost = nullptr) const;
 
 private:
+    /// Nothing where there is no room.
+    std::optional<GlyphStrip> LoadWithinBounds(const QString &path) const;
     QVector<const GlyphStrip *> All() const;
     qint64 Bytes() const;
     bool Has(const GlyphStrip &strip) const;

@@ -27,6 +27,16 @@ QPixmap Drawn(const Element &element)
     return QPixmap::fromImage(image, Qt::NoOpaqueDetection);
 }
 
+void TellLost(HClockNode &node, const QVector<Lw::GlyphFault> &lost)
+{
+    QVector<Lw::GlyphFault> faults;
+    for (const Lw::GlyphFault &fault : Lw::GlyphFaultsOf(node)) {
+        if (fault.kind != Lw::GlyphFault::NotKept)
+            faults.append(fault);
+    }
+    Lw::SetGlyphFaults(node, faults + lost);
+}
+
 } // namespace
 
 ElementComposer::FrameScope::FrameScope(ElementComposer &composer) : m_composer(composer)
@@ -51,7 +61,9 @@ bool ElementComposer::Replace(Shown &shown, const Shown &wanted)
 void ElementComposer::SetUp(HClockNode &node)
 {
     m_givenMarks.reset();
-    SetUp(node, node.ClockType(), m_glyphs.RecordedFiles(node));
+    QVector<Lw::GlyphFault> lost;
+    SetUp(node, node.ClockType(), m_glyphs.RecordedFiles(node, &lost));
+    TellLost(node, lost);
 }
 
 void ElementComposer::SetUp(HClockNode &node, const GlyphSource &source)

@@ -1,7 +1,7 @@
 #include "compose/glyph_bounds.h"
 
+#include "clock_node.h"
 #include "compose/picture_file.h"
-#include "hnode.h"
 #include "image_bounds.h"
 
 #include <iterator>
@@ -15,13 +15,13 @@ constexpr Glyph kWeekFamilies[] = {Glyph::ChWeek, Glyph::EnWeek, Glyph::EnWeekSi
                                    Glyph::PersiaWeek};
 
 // As the setting is read: the text of an attribute that may be missing.
-int Number(Lw::HNode &clock, Attribute attribute)
+int Number(HClockNode &clock, Attribute attribute)
 {
     return clock.GetAttributeToInt(Key(attribute));
 }
 
 // The marks of the twelve-hour display are loaded when they are first shown.
-QVector<LoadedGlyph> GlyphsOf(Lw::HNode &clock)
+QVector<LoadedGlyph> GlyphsOf(HClockNode &clock)
 {
     const int type = Number(clock, Attribute::ClockType);
     const bool analog = type == AnalogClock;
@@ -30,22 +30,6 @@ QVector<LoadedGlyph> GlyphsOf(Lw::HNode &clock)
     if (type == DigitalClock && Number(clock, Attribute::DigitalMode) == 1)
         glyphs += {{Glyph::TimeAM, 0}, {Glyph::TimePM, 0}};
     return glyphs;
-}
-
-QString Mebibytes(qint64 bytes)
-{
-    return QStringLiteral("%1 MiB").arg((bytes + (1 << 20) - 1) >> 20);
-}
-
-QString WhyLost(const QSize &size, qint64 bytes, bool isOfClock)
-{
-    return QStringLiteral("is %1 x %2 pixels, %3; with it the glyph images of %4 would take more "
-                          "than %5")
-        .arg(size.width())
-        .arg(size.height())
-        .arg(Mebibytes(bytes),
-             isOfClock ? QStringLiteral("the clock") : QStringLiteral("all clocks"),
-             Mebibytes(isOfClock ? kClockGlyphBytes : kProcessGlyphBytes));
 }
 
 } // namespace
@@ -71,30 +55,58 @@ QVector<LoadedGlyph> GlyphsLoaded(int clockType, int weekType)
     return glyphs;
 }
 
-QVector<LostGlyph> GlyphAccount::Add(Lw::HNode &clock)
+Lw::GlyphFault NotKept(const QString &key, const QString &path)
 {
-    QVector<LostGlyph> lost;
-    QHash<QByteArray, qint64> ofClock;
-    qint64 clockTotal = 0;
+    Lw::GlyphFault fault;
+    fault.kind = Lw::GlyphFault::NotKept;
+    fault.key = key;
+    fault.path = path;
+    return fault;
+}
+
+QVector<Lw::GlyphFault> GlyphAccount::AddFiles(HClockNode &clock)
+{
+    QVector<Lw::GlyphFault> lost;
+    OfClock kept;
     for (const LoadedGlyph &glyph : GlyphsOf(clock)) {
         const QString &key = GlyphKey(glyph.glyph, glyph.number);
-        PictureFile file(clock.GetFirstFile(key));
-        const QByteArray digest = file.Digest();
-        if (file.IsNull() || ofClock.contains(digest))
-            continue;
-        const bool isLoaded = m_bytes.contains(digest);
-        const qint64 bytes = isLoaded ? m_bytes.value(digest) : file.GlyphBytes();
-        const bool fitsClock = clockTotal + bytes <= kClockGlyphBytes;
-        if (!fitsClock || (!isLoaded && m_total + bytes > kProcessGlyphBytes)) {
-            lost.append({key, clock.GetFirstFile(key), WhyLost(file.Size(), bytes, !fitsClock)});
-            continue;
-        }
-        ofClock.insert(digest, bytes);
-        clockTotal += bytes;
-        m_total += isLoaded ? 0 : bytes;
-        m_bytes.insert(digest, bytes);
+        const QString path = clock.GetFirstFile(key);
+        PictureFile file(path);
+        if (!file.IsNull() && !Keep(kept, file.Digest(), [&file] { return file.GlyphBytes(); }))
+            lost.append(NotKept(key, path));
     }
     return lost;
+}
+
+QVector<Lw::GlyphFault> GlyphAccount::AddPlanned(HClockNode &clock,
+                                                 const QHash<QString, PlannedImage> &planned)
+{
+    QVector<Lw::GlyphFault> lost;
+    OfClock kept;
+    for (const LoadedGlyph &glyph : GlyphsOf(clock)) {
+        const QString &key = GlyphKey(glyph.glyph, glyph.number);
+        const auto image = planned.constFind(key);
+        if (image != planned.constEnd()
+            && !Keep(kept, image->identity, [&image] { return InkBytes(image->size); }))
+            lost.append(NotKept(key, QString()));
+    }
+    return lost;
+}
+
+bool GlyphAccount::Keep(OfClock &clock, const QByteArray &identity,
+                        const std::function<qint64()> &bytes)
+{
+    if (clock.bytes.contains(identity))
+        return true;
+    const bool isLoaded = m_bytes.contains(identity);
+    const qint64 size = isLoaded ? m_bytes.value(identity) : bytes();
+    if (clock.total + size > kClockGlyphBytes || (!isLoaded && m_total + size > kProcessGlyphBytes))
+        return false;
+    clock.bytes.insert(identity, size);
+    clock.total += size;
+    m_total += isLoaded ? 0 : size;
+    m_bytes.insert(identity, size);
+    return true;
 }
 
 } // namespace Lw::HNodeClock

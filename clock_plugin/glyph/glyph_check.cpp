@@ -2,9 +2,7 @@
 
 #include "clock_node.h"
 #include "glyph/draw_source_image.h"
-#include "glyph/glyph_picture.h"
 #include "glyph/shown_glyphs.h"
-#include "image_bounds.h"
 
 #include <algorithm>
 
@@ -51,29 +49,6 @@ std::optional<Lw::GlyphFault> PictureFault(const GlyphImage &image, const GlyphO
     return std::nullopt;
 }
 
-bool FitsAnImage(const QFontMetrics &metrics, const GlyphImage &image, const QString &text)
-{
-    const int width = image.row->shape == GlyphShape::DigitStrip
-        ? kDigitCells * WidestDigit(metrics)
-        : GlyphTextWidth(metrics, text);
-    return width <= 0 || WithinBounds({width, metrics.height()}, kGlyphBytes);
-}
-
-std::optional<Lw::GlyphFault> FontFaultOf(const GlyphImage &image, HClockNode &node)
-{
-    const GlyphFontAttributes font = FontAttributes(image.row->font, node.ClockType());
-    const int size = node.GetAttributeToInt(Key(font.size));
-    const QString text = GlyphText(image, TopTextOf(node));
-    if (text.isEmpty())
-        return std::nullopt;
-    if (size > kLargestFontSize)
-        return Fault(Lw::GlyphFault::TooLarge, image);
-    const QFontMetrics metrics(GlyphTypeface(node.GetAttribute(Key(font.family)), size));
-    if (!FitsAnImage(metrics, image, text))
-        return Fault(Lw::GlyphFault::TooLarge, image);
-    return FontFault(image, LackingLetters(metrics, text));
-}
-
 } // namespace
 
 std::optional<Lw::GlyphFault> FaultOf(const GlyphImage &image, const GlyphOutcome &outcome,
@@ -116,17 +91,6 @@ QString GlyphText(const GlyphImage &image, const QString &topText)
         break;
     }
     return QString::fromLatin1(image.Text());
-}
-
-QVector<Lw::GlyphFault> FontFaults(HClockNode &node)
-{
-    QVector<Lw::GlyphFault> faults;
-    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, node.ClockType())) {
-        const auto fault = IsShown(image, node) ? FontFaultOf(image, node) : std::nullopt;
-        if (fault)
-            faults.append(*fault);
-    }
-    return faults;
 }
 
 } // namespace Lw::HNodeClock

@@ -6,8 +6,6 @@
 
 #include "glyph_faults.h"
 
-#include <QVector>
-
 #include <optional>
 
 namespace Lw::HNodeClock {
@@ -34,9 +32,5 @@ QString TopTextOf(HClockNode &node);
 
 /// The text of an image: the node's own, that of the table or its translation, or the ten digits.
 QString GlyphText(const GlyphImage &image, const QString &topText);
-
-/// What fonts will do to the images that the clock shows, found without making any: sizes beyond
-/// the bounds, no font at all, letters that no font has. In the order of making.
-QVector<Lw::GlyphFault> FontFaults(HClockNode &node);
 
 } // namespace Lw::HNodeClock

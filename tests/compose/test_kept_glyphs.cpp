@@ -1,6 +1,9 @@
 // How much memory glyph images take: bounded for a clock and for the process, whatever the files.
+#include "tiny_gif.h"
+
 #include "clock_node.h"
 #include "compose/clock_glyphs.h"
+#include "compose/element_composer.h"
 #include "compose/glyph_bounds.h"
 #include "compose/picture_file.h"
 
@@ -23,21 +26,6 @@ void Append(const QString &path, const QByteArray &bytes)
     QFile file(path);
     if (!file.open(QFile::WriteOnly | QFile::Append) || file.write(bytes) != bytes.size())
         qFatal("cannot write %s", qPrintable(path));
-}
-
-// 4096 by 4096 pixels of which it has one.
-QByteArray TinyGif()
-{
-    return QByteArray::fromHex("474946383961"
-                               "00100010"
-                               "800000"
-                               "ff00000000ff"
-                               "2c0000000000100010"
-                               "00"
-                               "02"
-                               "024401"
-                               "00"
-                               "3b");
 }
 
 // Transparent, with a last pixel of that colour.
@@ -121,6 +109,8 @@ private Q_SLOTS:
     void setUpAgainFindsRoom();
     void markOfTheTwelveHoursCounts();
     void unreadableFilesAreNotReported();
+    void nodeTellsWhatIsLost();
+    void plannedImagesCountLikeFiles();
 
 private:
     // A file of its own for a key, told apart by what follows its end.
@@ -130,10 +120,10 @@ private:
         Append(path, content + QByteArray::number(m_files));
         node.SetFilePath(key, path, QString(), -1, 3);
     }
-    static QStringList Keys(const QVector<LostGlyph> &lost)
+    static QStringList Keys(const QVector<Lw::GlyphFault> &lost)
     {
         QStringList keys;
-        for (const LostGlyph &glyph : lost)
+        for (const Lw::GlyphFault &glyph : lost)
             keys.append(glyph.key);
         return keys;
     }
@@ -158,9 +148,9 @@ void TestKeptGlyphs::foreignFilesStayWithinTheBound()
     for (const char *const key : {"_timeNumber", "_toptext", "_lunar", "_chWeek_3"})
         Record(*m_node, QString::fromLatin1(key), content);
     GlyphAccount account;
-    const QVector<LostGlyph> lost = account.Add(*m_node);
+    const QVector<Lw::GlyphFault> lost = account.AddFiles(*m_node);
     QCOMPARE(Keys(lost), QStringList({"_lunar", "_chWeek_3", "_timeNumber"}));
-    QVERIFY(lost.first().why.startsWith("is 4096 x 4096 pixels, 64 MiB; "));
+    QCOMPARE(int(lost.first().kind), int(Lw::GlyphFault::NotKept));
     QCOMPARE(lost.first().path, m_node->GetFirstFile("_lunar"));
 
     content = QByteArray();
@@ -192,7 +182,7 @@ void TestKeptGlyphs::largeInkCountsWithItsInk()
     const QByteArray content = file.readAll();
     for (const LoadedGlyph &each : GlyphsLoaded(kDigital, kChineseWeek))
         Record(*m_node, GlyphKey(each.glyph, each.number), content);
-    QVERIFY(GlyphAccount().Add(*m_node).isEmpty());
+    QVERIFY(GlyphAccount().AddFiles(*m_node).isEmpty());
     ClockGlyphs glyphs;
     glyphs.Load(glyphs.RecordedFiles(*m_node), kDigital, kChineseWeek);
     CountLoadedGlyphsExactly();
@@ -213,7 +203,7 @@ void TestKeptGlyphs::boundOfTheProcess()
         nodes.push_back(std::make_unique<HClockNode>());
         nodes.back()->SetAttribute("ClockType", kDigital, false);
         Record(*nodes.back(), "_toptext", soft);
-        const QVector<LostGlyph> lost = account.Add(*nodes.back());
+        const QVector<Lw::GlyphFault> lost = account.AddFiles(*nodes.back());
         QCOMPARE(Keys(lost), i < 4 ? QStringList() : QStringList("_toptext"));
         ClockGlyphs &glyphs = clocks[static_cast<std::size_t>(i)];
         glyphs.Load(glyphs.RecordedFiles(*nodes.back()), kDigital, kChineseWeek);
@@ -235,7 +225,7 @@ void TestKeptGlyphs::equalFilesCountOnce()
     for (const LoadedGlyph &each : GlyphsLoaded(kDigital, kChineseWeek))
         m_node->SetFilePath(GlyphKey(each.glyph, each.number), each.number % 2 ? copy : path,
                             QString(), -1, 3);
-    QVERIFY(GlyphAccount().Add(*m_node).isEmpty());
+    QVERIFY(GlyphAccount().AddFiles(*m_node).isEmpty());
     const qint64 before = GlyphBytesInProcess();
     std::vector<ClockGlyphs> clocks(10);
     for (ClockGlyphs &glyphs : clocks) {
@@ -262,9 +252,9 @@ void TestKeptGlyphs::markOfTheTwelveHoursCounts()
     const QByteArray &soft = SoftPng();
     Record(*m_node, "_toptext", soft);
     Record(*m_node, "_timeAM", soft);
-    QVERIFY(GlyphAccount().Add(*m_node).isEmpty()); // 24 hours have no mark
+    QVERIFY(GlyphAccount().AddFiles(*m_node).isEmpty()); // 24 hours have no mark
     m_node->SetAttribute("DigitalMode", 1, false);
-    QCOMPARE(Keys(GlyphAccount().Add(*m_node)), QStringList("_timeAM"));
+    QCOMPARE(Keys(GlyphAccount().AddFiles(*m_node)), QStringList("_timeAM"));
     ClockGlyphs glyphs;
     glyphs.Load(glyphs.RecordedFiles(*m_node), kDigital, kChineseWeek);
     QVERIFY(glyphs.LoadFile(m_node->GetFirstFile("_timeAM")).IsNull());
@@ -275,11 +265,49 @@ void TestKeptGlyphs::unreadableFilesAreNotReported()
 {
     Record(*m_node, "_toptext", "no picture");
     m_node->SetFilePath("_lunar", "/nowhere.png", QString(), -1, 3);
-    QVERIFY(GlyphAccount().Add(*m_node).isEmpty());
+    QVERIFY(GlyphAccount().AddFiles(*m_node).isEmpty());
     m_node->SetAttribute("ClockType", 2, false);
     Record(*m_node, "_toptext", SoftPng());
     Record(*m_node, "_lunar", SoftPng());
-    QVERIFY(GlyphAccount().Add(*m_node).isEmpty());
+    QVERIFY(GlyphAccount().AddFiles(*m_node).isEmpty());
+}
+
+// Until the next set-up finds room; faults of the making stay.
+void TestKeptGlyphs::nodeTellsWhatIsLost()
+{
+    Lw::GlyphFault blank;
+    blank.kind = Lw::GlyphFault::NoInk;
+    blank.key = "_space";
+    Lw::SetGlyphFaults(*m_node, {blank});
+    Record(*m_node, "_toptext", SoftPng());
+    Record(*m_node, "_lunar", SoftPng());
+    ElementComposer composer;
+    composer.SetUp(*m_node);
+    QCOMPARE(Keys(Lw::GlyphFaultsOf(*m_node)), QStringList({"_space", "_lunar"}));
+    composer.SetUp(*m_node);
+    QCOMPARE(Keys(Lw::GlyphFaultsOf(*m_node)), QStringList({"_space", "_lunar"}));
+    m_node->SetFilePath("_lunar", m_node->GetFirstFile("_toptext"), QString(), -1, 3);
+    composer.SetUp(*m_node);
+    QCOMPARE(Keys(Lw::GlyphFaultsOf(*m_node)), QStringList("_space"));
+}
+
+// Eight images of 8 MiB of ink fill a clock, four such clocks the process.
+void TestKeptGlyphs::plannedImagesCountLikeFiles()
+{
+    const auto planOf = [](int clock) {
+        QHash<QString, PlannedImage> planned;
+        for (int month = 1; month <= 9; ++month)
+            planned.insert(GlyphKey(Glyph::EnMonth, month),
+                           {QByteArray::number(clock * 12 + month), {32000, 2097}});
+        planned.insert(GlyphKey(Glyph::EnMonth, 10), planned.value(GlyphKey(Glyph::EnMonth, 1)));
+        return planned;
+    };
+    GlyphAccount account;
+    for (int clock = 0; clock < 4; ++clock)
+        QCOMPARE(Keys(account.AddPlanned(*m_node, planOf(clock))), QStringList("_dateEnMonth_9"));
+    QVERIFY(account.AddPlanned(*m_node, planOf(3)).size() == 1);
+    QCOMPARE(account.AddPlanned(*m_node, planOf(4)).size(), 10);
+    QVERIFY(account.AddPlanned(*m_node, {}).isEmpty());
 }
 
 QTEST_MAIN(TestKeptGlyphs)

@@ -137,7 +137,6 @@ private Q_SLOTS:
         Generate(node);
         QVERIFY(GlyphFaultsOf(node).isEmpty());
         QVERIFY(node.dynamicPropertyNames().isEmpty());
-        QVERIFY(FontFaults(node).isEmpty());
     }
 
     void nodeWithoutAGenerationTellsNothing()
@@ -214,7 +213,6 @@ private Q_SLOTS:
         SetTopText(node, QString());
         Generate(node);
         QVERIFY(GlyphFaultsOf(node).isEmpty());
-        QVERIFY(FontFaults(node).isEmpty());
     }
 
     void badTopText_data()
@@ -240,16 +238,14 @@ private Q_SLOTS:
         SetTopText(node, text);
         SetInt(node, Attribute::DigitalTopTextFSize, size);
         Generate(node);
-        for (const QVector<GlyphFault> &faults : {GlyphFaultsOf(node), FontFaults(node)}) {
-            QCOMPARE(faults.size(), 1);
-            QCOMPARE(faults[0].key, QString("_toptext"));
-            QCOMPARE(int(faults[0].kind), kind);
-            QCOMPARE(faults[0].letters, letters);
-        }
+        const QVector<GlyphFault> faults = GlyphFaultsOf(node);
+        QCOMPARE(faults.size(), 1);
+        QCOMPARE(faults[0].key, QString("_toptext"));
+        QCOMPARE(int(faults[0].kind), kind);
+        QCOMPARE(faults[0].letters, letters);
         SetInt(node, Attribute::Digital_TopTexy_d, 0);
         Generate(node);
         QVERIFY2(GlyphFaultsOf(node).isEmpty(), "told of a row that is hidden");
-        QVERIFY2(FontFaults(node).isEmpty(), "told of a row that is hidden");
     }
 
     void textWithoutInk()
@@ -271,7 +267,6 @@ private Q_SLOTS:
         SetInt(node, Attribute::DigitalTimeFSize, 2000);
         Generate(node);
         QCOMPARE(Keys(GlyphFaultsOf(node), GlyphFault::TooLarge), QStringList("_timeNumber"));
-        QCOMPARE(Keys(FontFaults(node), GlyphFault::TooLarge), QStringList("_timeNumber"));
     }
 
     void pictureClocksAndOthersHaveNone()
@@ -282,7 +277,6 @@ private Q_SLOTS:
             SetTopText(node, QString(10000, 'W'));
             Generate(node);
             QVERIFY(GlyphFaultsOf(node).isEmpty());
-            QVERIFY(FontFaults(node).isEmpty());
         }
     }
 

@@ -17,6 +17,10 @@
 namespace {
 
 const QString kPanels = QStringLiteral(PANEL_PLUGINS "/good");
+// What follows the name of a program whose panel could not write its image.
+const QString kUnwritten =
+    QStringLiteral(": clock 1000: /none: cannot write the glyph image image: "
+                   "No space left on device\n");
 const QString kForeign = QStringLiteral(PANEL_PLUGINS "/foreign");
 
 QString Area(int x, const QString &element)
@@ -86,6 +90,8 @@ private slots:
     void SignalEndsTheMakingOfImages();
     void SignalEndsTheFrames();
     void WatchedProgram();
+    void ImagesThatCannotBeWritten();
+    void ImagesMadeAgainAreChecked();
     void KioskWaitsForItsProgram();
 
 private:
@@ -707,6 +713,40 @@ void TestClockPlayer::WatchedProgram()
     WriteProgram(panel(3));
     QTRY_VERIFY_WITH_TIMEOUT(played(3), 20000);
     QVERIFY(!played(2));
+    process.terminate();
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitCode(), 0);
+}
+
+void TestClockPlayer::ImagesThatCannotBeWritten()
+{
+    const QString program = WriteProgram(Area(0, "<panel unwritten=\"1\"/>"));
+    for (const QStringList &arguments :
+         {QStringList {"--output", Path("out")}, QStringList {"-platform", "offscreen"}}) {
+        const PlayerRun run = RunPlayer(QStringList {"--plugin-dir", kPanels, program} + arguments);
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.errors, "clock_player: " + program + kUnwritten);
+    }
+}
+
+// For a changed setting, and for a changed program; each is told once, and the window plays on.
+void TestClockPlayer::ImagesMadeAgainAreChecked()
+{
+    const QString program = WriteProgram(Area(0, "<panel redraws=\"2\" unwritten=\"2\"/>"));
+    QProcess process;
+    process.setProcessEnvironment(DisplaylessEnvironment());
+    StartProgram(process, QStringLiteral(PLAYER),
+                 {"--plugin-dir", kPanels, "-platform", "offscreen", "--watch", program});
+    QByteArray errors;
+    const auto isTold = [&](int times) {
+        errors += process.readAllStandardError();
+        return errors.count((program + kUnwritten).toUtf8()) == times;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isTold(1), 20000);
+    WriteProgram(Area(0, "<panel unwritten=\"1\"/>"));
+    QTRY_VERIFY_WITH_TIMEOUT(isTold(2), 20000);
+    QTest::qWait(3000); // two more looks at the program
+    QVERIFY(isTold(2));
     process.terminate();
     QVERIFY(process.waitForFinished(20000));
     QCOMPARE(process.exitCode(), 0);

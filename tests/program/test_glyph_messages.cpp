@@ -85,6 +85,16 @@ private Q_SLOTS:
                  QStringList("no installed font has \"" + one + two
                              + "\" of 2 glyph images (_lunar, _toptext); boxes are drawn instead"));
     }
+
+    void ImagesLeftOutAreAWarning()
+    {
+        const GlyphMessages messages = DescribeGlyphFaults(
+            {Fault(GlyphFault::NotKept, "_lunar"), Fault(GlyphFault::NotKept, "_timeCh")});
+        QVERIFY(messages.failures.isEmpty());
+        QCOMPARE(messages.warnings,
+                 QStringList("2 glyph images (_lunar, _timeCh) not shown: the images of a clock "
+                             "may take 64 MiB of memory, those of all clocks 256 MiB"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TestGlyphMessages)

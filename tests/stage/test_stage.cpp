@@ -101,6 +101,8 @@ void TestStage::RedrawReplacesTheRendererOnce()
     QVERIFY(!stage.Build(ProgramOf("<area x='4' y='1' width='3' height='2'>"
                                    "<panel redraws='58'/></area>"),
                          FindPanel, GlyphFiles::Made));
+    QVector<Lw::HNode *> restarted;
+    connect(&stage, &Stage::Restarted, [&restarted](Lw::HNode *node) { restarted.append(node); });
     stage.Start();
     stage.PlayNext();
     stage.PlayNext();
@@ -108,6 +110,7 @@ void TestStage::RedrawReplacesTheRendererOnce()
     QTRY_COMPARE(stage.Screen().pixel(5, 1), qRgb(7, 2, 100));
     QTest::qWait(20);
     QCOMPARE(stage.Screen().pixel(5, 1), qRgb(7, 2, 100));
+    QCOMPARE(restarted, stage.Nodes());
 }
 
 QTEST_MAIN(TestStage)

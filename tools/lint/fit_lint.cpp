@@ -4,9 +4,7 @@
 #include "setting_place.h"
 
 #include "clock_node.h"
-#include "clock_plugin.h"
 #include "glyph/glyph_set.h"
-#include "node_maker.h"
 #include "wall_check.h"
 
 namespace ClockTool {
@@ -15,12 +13,6 @@ namespace {
 
 using namespace ClockFit;
 using Lw::HNodeClock::HClockNode;
-
-Lw::INodePlugin *FindPlugin(QDomElement &element)
-{
-    static Lw::HNodeClock::HNodeClock plugin;
-    return plugin.PluginMatch(element) ? &plugin : nullptr;
-}
 
 constexpr double kBarelySeen = 2; // contrasts below are warned of
 
@@ -172,12 +164,10 @@ private:
 
 } // namespace
 
-void LintFit(const ClockProgram::Program &program, qint64 begin, Findings &findings)
+void LintFit(const ClockProgram::Program &program, const ClockProgram::MadeNodes &made,
+             qint64 begin, Findings &findings)
 {
-    const ClockProgram::Result<ClockProgram::MadeNodes> made =
-        ClockProgram::MakeNodes(program, FindPlugin);
-    if (made)
-        FitLint(program, *made, begin, findings).Run();
+    FitLint(program, made, begin, findings).Run();
 }
 
 } // namespace ClockTool

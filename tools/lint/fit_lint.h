@@ -3,12 +3,12 @@
 
 #include "finding.h"
 
-#include "program_file.h"
+#include "node_maker.h"
 
 namespace ClockTool {
 
-/// Looks at the year from an instant on, in milliseconds since 1970-01-01 UTC. A program that
-/// cannot be played has no such findings.
-void LintFit(const ClockProgram::Program &program, qint64 begin, Findings &findings);
+/// Looks at the year from an instant on, in milliseconds since 1970-01-01 UTC.
+void LintFit(const ClockProgram::Program &program, const ClockProgram::MadeNodes &made,
+             qint64 begin, Findings &findings);
 
 } // namespace ClockTool

@@ -1,10 +1,13 @@
 #include "panel_plugin.h"
 
+#include "glyph_faults.h"
 #include "happconfig.h"
 
 #include <QDomElement>
 #include <QFile>
 #include <QThread>
+
+#include <cerrno>
 
 namespace {
 
@@ -24,6 +27,7 @@ bool PanelNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &)
 {
     SetAttribute("redraws", element.attribute("redraws"), false);
     SetAttribute("images", element.attribute("images"), false);
+    SetAttribute("unwritten", element.attribute("unwritten"), false);
     SetAttribute("dies", element.attribute("dies"), false);
     return element.attribute("accept") != "no";
 }
@@ -35,6 +39,9 @@ bool PanelNode::NodeAlready(int)
         QThread::msleep(10);
         SetFilePath("image", QString(), QString(), -1, 0);
     }
+    if (readied == GetAttributeToInt("unwritten"))
+        Lw::SetGlyphFaults(*this,
+                           {{Lw::GlyphFault::NotWritten, "image", "/none/image.png", ENOSPC, {}}});
     QFile file(Lw::HAppConfig::ClockOutputPath() + "panel_" + GetAttribute("Id"));
     return file.open(QIODevice::WriteOnly);
 }
