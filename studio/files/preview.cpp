@@ -39,7 +39,7 @@ QString WritePreviewFrames(LiveWall &wall, const QString &folder)
     clock_set_time_source(ClockStage::StageTime::TellPlugin);
     wall.PlayNext();
     return isWritten ? QString()
-                     : QCoreApplication::translate("ClockStudio::Preview", "The disk is full.");
+                     : QCoreApplication::translate("ClockStudio::Preview", "The pictures of the preview could not be written.");
 }
 
 ToolCommand PreviewCommand(const QString &folder, const QString &path)

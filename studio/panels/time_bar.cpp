@@ -139,7 +139,8 @@ void TimeBar::FollowControls()
 
 void TimeBar::GoTo(qint64 instant)
 {
-    StageTime::HoldAt(instant);
+    StageTime::Travel().GoTo(instant, StageTime::Real());
+    StageTime::Travel().SetPaused(true, StageTime::Real());
     TimeChanged();
 }
 

@@ -23,7 +23,7 @@ public:
     void AddSwitch(const QString &explanation);
     void SetSwitch(Qt::CheckState state);
 
-    /// A line of controls; with a button that resets them where that is given.
+    /// Adds a labelled row of controls.
     void AddLine(const QString &label, const QVector<QWidget *> &controls);
     void AddWide(QWidget *control);
 

@@ -57,6 +57,10 @@
 <context>
     <name>ClockStudio::Gallery</name>
     <message>
+        <source>Back to the wall</source>
+        <translation>بازگشت به دیوار</translation>
+    </message>
+    <message>
         <source>Empty wall</source>
         <translation>دیوار خالی</translation>
     </message>
@@ -681,8 +685,8 @@
         <translation>ImageMagick نصب نیست (بستهٔ imagemagick).</translation>
     </message>
     <message>
-        <source>The disk is full.</source>
-        <translation>دیسک پر است.</translation>
+        <source>The pictures of the preview could not be written.</source>
+        <translation>تصویرهای پیش‌نمایش نوشته نشدند.</translation>
     </message>
 </context>
 <context>

@@ -57,6 +57,10 @@
 <context>
     <name>ClockStudio::Gallery</name>
     <message>
+        <source>Back to the wall</source>
+        <translation>返回墙面</translation>
+    </message>
+    <message>
         <source>Empty wall</source>
         <translation>空白墙</translation>
     </message>
@@ -681,8 +685,8 @@
         <translation>未安装 ImageMagick（软件包 imagemagick）。</translation>
     </message>
     <message>
-        <source>The disk is full.</source>
-        <translation>磁盘已满。</translation>
+        <source>The pictures of the preview could not be written.</source>
+        <translation>无法写入预览图片。</translation>
     </message>
 </context>
 <context>

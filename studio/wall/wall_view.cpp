@@ -183,11 +183,13 @@ void WallView::scrollContentsBy(int, int)
 
 void WallView::mousePressEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton
-        || (event->button() == Qt::RightButton && !m_mouse.IsDragging() && m_mouse.Hovered() >= 0
-            && !m_editor.Chosen().contains(m_mouse.Hovered())))
+    // The right button opens a menu, for a clock that it selects first.
+    const bool selects = event->button() == Qt::RightButton && !m_mouse.IsDragging()
+        && !m_mouse.Drawing() && m_mouse.Hovered() >= 0
+        && !m_editor.Chosen().contains(m_mouse.Hovered());
+    if (event->button() == Qt::LeftButton || selects)
         m_mouse.Press(m_scale, {event->pos(), event->modifiers(), m_module});
-    if (event->button() == Qt::RightButton)
+    if (selects)
         m_mouse.Release(m_scale, {event->pos(), event->modifiers(), m_module});
 }
 

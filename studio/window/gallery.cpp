@@ -60,8 +60,8 @@ void WhenChosen(QListWidget &list, const Handler &handler)
 } // namespace
 
 Gallery::Gallery(QWidget *parent)
-    : QWidget(parent), m_templates(new QListWidget), m_recent(new QListWidget),
-      m_recentPart(new QWidget)
+    : QWidget(parent), m_return(new QPushButton(tr("Back to the wall"))),
+      m_templates(new QListWidget), m_recent(new QListWidget), m_recentPart(new QWidget)
 {
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(36, 28, 36, 28);
@@ -79,9 +79,13 @@ QLayout *Gallery::BeginningPart()
     auto *const open = new QPushButton(tr("Open a file…"));
     connect(empty, &QPushButton::clicked, this, &Gallery::BeginEmpty);
     connect(open, &QPushButton::clicked, this, &Gallery::OpenWanted);
+    connect(m_return, &QPushButton::clicked, this, &Gallery::ReturnWanted);
+    m_return->setObjectName(QStringLiteral("return"));
+    m_return->setShortcut(Qt::Key_Escape);
     part->addWidget(Heading(tr("Begin")));
     part->addWidget(empty);
     part->addWidget(open);
+    part->addWidget(m_return);
     SetUpRecentPart();
     part->addWidget(m_recentPart, 1);
     part->addStretch(0);
@@ -142,8 +146,9 @@ void Gallery::DrawNextPicture()
     QTimer::singleShot(isVisible() ? 0 : 200, this, &Gallery::DrawNextPicture);
 }
 
-void Gallery::Refresh(const QStringList &recent)
+void Gallery::Refresh(const QStringList &recent, bool isOpen)
 {
+    m_return->setVisible(isOpen);
     m_recent->clear();
     for (const QString &path : recent) {
         auto *const item = new QListWidgetItem(QFileInfo(path).fileName(), m_recent);

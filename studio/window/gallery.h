@@ -6,6 +6,7 @@
 
 QT_BEGIN_NAMESPACE
 class QListWidget;
+class QPushButton;
 QT_END_NAMESPACE
 
 namespace ClockStudio {
@@ -17,12 +18,14 @@ class Gallery : public QWidget
 public:
     explicit Gallery(QWidget *parent = nullptr);
 
-    void Refresh(const QStringList &recent);
+    /// Updates the recent files. With a program open, the gallery can be left for its wall.
+    void Refresh(const QStringList &recent, bool isOpen);
 
 Q_SIGNALS:
     void TemplateChosen(const QByteArray &bytes);
     void FileChosen(const QString &path);
     void OpenWanted();
+    void ReturnWanted();
 
 private:
     QLayout *BeginningPart();
@@ -32,6 +35,7 @@ private:
     void DrawNextPicture();
     void BeginEmpty();
 
+    QPushButton *m_return;
     QListWidget *m_templates;
     QListWidget *m_recent;
     QWidget *m_recentPart;

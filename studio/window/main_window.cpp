@@ -84,6 +84,7 @@ void MainWindow::MakeWall()
     connect(m_gallery, &Gallery::TemplateChosen, this, &MainWindow::BeginWith);
     connect(m_gallery, &Gallery::FileChosen, this, &MainWindow::Open);
     connect(m_gallery, &Gallery::OpenWanted, this, &MainWindow::OpenDialog);
+    connect(m_gallery, &Gallery::ReturnWanted, this, &MainWindow::ShowWallPage);
     connect(m_view, &WallView::FileDropped, this, &MainWindow::Open);
     connect(m_view, &WallView::TextDropped, this,
             [this](const QString &text) { m_editor.PasteText(text); });
@@ -119,7 +120,7 @@ void MainWindow::MakeDocks()
 
 void MainWindow::ShowGallery()
 {
-    m_gallery->Refresh(ProgramFiles::Recent());
+    m_gallery->Refresh(ProgramFiles::Recent(), !m_document.Text().isEmpty());
     m_pages->setCurrentIndex(0);
     m_propertyDock->hide();
     UpdateTitle();
@@ -191,7 +192,7 @@ bool MainWindow::SaveAs()
         tr("Programs (%1)").arg(kFilter));
     if (path.isEmpty())
         return false;
-    if (!path.contains(QLatin1Char('.'), Qt::CaseInsensitive))
+    if (QFileInfo(path).suffix().isEmpty())
         path += QStringLiteral(".xml");
     if (const auto problem = m_files.Save(path)) {
         SayProblem(*problem);
@@ -202,7 +203,7 @@ bool MainWindow::SaveAs()
 
 bool MainWindow::MayLeave()
 {
-    if (m_files.IsSaved() || m_pages->currentIndex() == 0)
+    if (m_files.IsSaved())
         return true;
     QMessageBox question(QMessageBox::Question, tr("Unsaved work"),
                          tr("Save the changes to %1?").arg(m_files.Name()),

@@ -73,7 +73,6 @@ private:
     bool MayLeave();
     void BeginWith(const QByteArray &bytes);
     void ShowWallPage();
-    void SetUp();
     /// One after the other, what studios that ended unexpectedly left.
     void OfferRecovery();
     void Recover(const LeftWork &work);

@@ -1,5 +1,7 @@
 #include "send_dialog.h"
 
+#include "calendar/clock_time.h"
+
 #include <QComboBox>
 #include <QDateTime>
 #include <QDialogButtonBox>
@@ -191,7 +193,7 @@ void SendDialog::Send()
                                 this)))
         return;
     const QString release =
-        QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+        Lw::HNodeClock::PlainText(QDateTime::currentDateTimeUtc(), "yyyyMMdd-HHmmss");
     if (Bring(folder, release))
         Follow(tr("%1 has release %2. The one before is kept.").arg(Target().name, release));
 }

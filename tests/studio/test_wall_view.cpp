@@ -1,0 +1,80 @@
+// The mouse on the wall, and the time bar below it.
+#include "studio_under_test.h"
+
+#include "panels/time_bar.h"
+#include "wall/wall_view.h"
+
+#include "time_travel.h"
+
+#include <QComboBox>
+
+using namespace ClockStudio;
+
+namespace {
+
+const QByteArray kClock = "<program width=\"64\" height=\"64\">\n"
+                          "<area x=\"16\" y=\"16\" width=\"32\" height=\"32\">"
+                          "<clock type=\"analog\" timezone=\"+00:00\"/></area>\n</program>\n";
+
+class TestWallView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void RightButtonSelects();
+    void RightButtonDrawsNothing();
+    void GoingToATimeKeepsTheSpeed();
+};
+
+/// Presses and releases a button at a pixel of the wall.
+void Click(WallView &view, Qt::MouseButton button, QPoint pixel)
+{
+    const QPoint point = view.Scale().ToView({pixel, QSize(1, 1)}).center();
+    QTest::mouseMove(view.viewport(), point);
+    QTest::mouseClick(view.viewport(), button, {}, point);
+}
+
+void TestWallView::RightButtonSelects()
+{
+    StudioUnderTest studio(kClock);
+    WallView view(studio.editor);
+    view.resize(200, 200);
+    view.show();
+    studio.WaitForClocks();
+    Click(view, Qt::RightButton, {32, 32});
+    QCOMPARE(studio.editor.Chosen(), QVector<int> {0});
+}
+
+void TestWallView::RightButtonDrawsNothing()
+{
+    StudioUnderTest studio(kClock);
+    WallView view(studio.editor);
+    view.resize(200, 200);
+    view.show();
+    studio.WaitForClocks();
+    view.Mouse().SetDrawing(ClockKind::Digital);
+    Click(view, Qt::RightButton, {32, 32});
+    QCOMPARE(studio.document.Text(), QString::fromUtf8(kClock));
+}
+
+// Times are stopped at: the speed that the bar shows must be the one they run on with.
+void TestWallView::GoingToATimeKeepsTheSpeed()
+{
+    StudioUnderTest studio(kClock);
+    TimeBar bar(studio.wall);
+    auto *const speed = bar.findChild<QComboBox *>();
+    speed->setCurrentIndex(speed->count() - 1);
+    emit speed->activated(speed->count() - 1);
+    const double chosen = ClockStage::StageTime::Travel().Speed();
+    QVERIFY(chosen > 1);
+    bar.GoTo(0);
+    QCOMPARE(ClockStage::StageTime::Travel().Speed(), chosen);
+    QVERIFY(ClockStage::StageTime::Travel().IsPaused());
+    bar.ReturnToPresent();
+}
+
+} // namespace
+
+QTEST_MAIN(TestWallView)
+
+#include "test_wall_view.moc"
