@@ -212,7 +212,7 @@ void TestDisplayedTime::DaylightSaving()
     SetText("TimeZone", "+01:00");
     SetDaylightSaving(start, end);
     SetUp();
-    ChosenTime::Set(qPrintable(instant));
+    ChosenTime::Set(instant);
     QCOMPARE(Reading(), Utc(reading));
 }
 
@@ -355,7 +355,7 @@ void TestDisplayedTime::HalvesOfTheDay()
     QFETCH(QString, instant);
     QFETCH(QString, half);
     SetUp();
-    ChosenTime::Set(qPrintable(instant));
+    ChosenTime::Set(instant);
     Reading();
     QCOMPARE(m_composer->GetTimeAP(), half);
     // It answers from the last update of the time.

@@ -178,7 +178,7 @@ void TestElements::TimeFormats()
     QFETCH(int, type);
     QFETCH(QString, instant);
     QFETCH(QString, columns);
-    ChosenTime::Set(qPrintable(instant));
+    ChosenTime::Set(instant);
     const QPixmap time = Time(type);
     QCOMPARE(LetteredGlyphs::Read(time), columns);
     QCOMPARE(time.height(), 6);
@@ -206,7 +206,7 @@ void TestElements::TwelveHours()
     QFETCH(QString, instant);
     QFETCH(int, type);
     QFETCH(QString, columns);
-    ChosenTime::Set(qPrintable(instant));
+    ChosenTime::Set(instant);
     m_node->SetAttribute("DigitalMode", 1, false);
     QCOMPARE(LetteredGlyphs::Read(Time(type)), columns);
 }
@@ -290,7 +290,7 @@ void TestElements::Weekdays()
     QFETCH(int, code);
     QFETCH(QString, instant);
     QFETCH(QString, columns);
-    ChosenTime::Set(qPrintable(instant));
+    ChosenTime::Set(instant);
     m_node->SetAttribute("DigitalWeekType", code, false);
     m_composer->InitParameters(m_node.data());
     QCOMPARE(LetteredGlyphs::Read(m_composer->GetWeeKPixmap()), columns);
@@ -342,7 +342,7 @@ void TestElements::LunarDates()
     QFETCH(QString, instant);
     QFETCH(QString, cells);
     m_composer->InitParameters(m_node.data());
-    ChosenTime::Set(qPrintable(instant));
+    ChosenTime::Set(instant);
     const QPixmap lunar = m_composer->GetLunarPixmap();
     QCOMPARE(LetteredGlyphs::Read(lunar), LetteredGlyphs::Cells(cells, 2));
     QCOMPARE(lunar.height(), cells.isEmpty() ? 0 : 9);

@@ -1,7 +1,9 @@
 // Frames of the analog clock: equal to the plain way in every pixel, second by second; and what
 // they show when.
+#include "chosen_time.h"
+#include "clock_under_test.h"
+#include "messages.h"
 #include "plain_clocks.h"
-#include "plain_fixture.h"
 
 #include "display/draw_display_image.h"
 
@@ -10,19 +12,8 @@
 #include <QtTest>
 
 using namespace Lw::HNodeClock;
-using PlainFixture::AdvanceSecond;
-using PlainFixture::Clock;
-using PlainFixture::SetTime;
 
 namespace {
-
-// Any message is one too many: a clock draws once a second for years.
-int messages = 0;
-
-void CountMessage(QtMsgType, const QMessageLogContext &, const QString &)
-{
-    ++messages;
-}
 
 constexpr QRgb kKeyColour = 0xff010201;
 
@@ -50,7 +41,7 @@ struct SizeChange
 constexpr SizeChange kSizeChanges[] = {
     {100, {111, 130}}, {110, {120, 110}}, {160, {}}, {165, {64, 64}}};
 
-void ChangeSettings(Clock &clock, int second)
+void ChangeSettings(ClockUnderTest &clock, int second)
 {
     for (const SettingChange &change : kSettingChanges) {
         if (change.second == second)
@@ -93,7 +84,6 @@ private Q_SLOTS:
 
 void TestAnalogFrames::cleanup()
 {
-    qInstallMessageHandler(nullptr);
     clock_set_time_source(nullptr);
     Lw::HAppConfig::SetRenderImageFormat(5);
 }
@@ -130,8 +120,8 @@ void TestAnalogFrames::EqualsThePlainWay()
     QFETCH(int, scales);
     QFETCH(int, hands);
     QFETCH(int, held);
-    SetTime(from);
-    Clock clock(size);
+    ChosenTime::Set(from);
+    ClockUnderTest clock(AnalogClock, size);
     clock.Set("HourScaleType", scales);
     clock.Set("MinuteScaleType", scales % 3);
     clock.Set("HourRectType", hands);
@@ -143,10 +133,9 @@ void TestAnalogFrames::EqualsThePlainWay()
     Lw::HAppConfig::SetRenderImageFormat(format);
     DrawDisplayImage drawer(&clock.node);
     PlainClock plain(&clock.node);
-    qInstallMessageHandler(CountMessage);
-    messages = 0;
+    const CollectedMessages messages;
     QList<QImage> shown;
-    for (int i = 0; i < 240; ++i, AdvanceSecond()) {
+    for (int i = 0; i < 240; ++i, ChosenTime::Advance(1000)) {
         QImage frame = drawer.DrawClockDisplayImage();
         QVERIFY2(frame == plain.Frame(), qPrintable(QStringLiteral("second %1").arg(i)));
         shown.append(frame);
@@ -154,7 +143,7 @@ void TestAnalogFrames::EqualsThePlainWay()
         while (shown.size() > held)
             shown.removeFirst();
     }
-    QCOMPARE(messages, 0);
+    QCOMPARE(messages.Lines(), QStringList());
 }
 
 void TestAnalogFrames::ChangingSettings_data()
@@ -168,15 +157,15 @@ void TestAnalogFrames::ChangingSettings_data()
 void TestAnalogFrames::ChangingSettings()
 {
     QFETCH(int, format);
-    SetTime(QStringLiteral("2024-12-31T23:57:00"));
-    Clock clock(QSize(120, 110));
+    ChosenTime::Set("2024-12-31T23:57:00");
+    ClockUnderTest clock(AnalogClock, QSize(120, 110));
     clock.MakeGlyphs();
     clock.SoftenGlyphs();
     Lw::HAppConfig::SetRenderImageFormat(format);
     DrawDisplayImage drawer(&clock.node);
     PlainClock plain(&clock.node);
     QImage held;
-    for (int i = 0; i < 300; ++i, AdvanceSecond()) {
+    for (int i = 0; i < 300; ++i, ChosenTime::Advance(1000)) {
         ChangeSettings(clock, i);
         if (i == 120)
             Lw::HAppConfig::SetRenderImageFormat(format == 5 ? 4 : 5);
@@ -191,13 +180,13 @@ void TestAnalogFrames::ChangingSettings()
 // A frame that was handed out never changes, however long it is kept.
 void TestAnalogFrames::HeldFramesStay()
 {
-    SetTime(QStringLiteral("2024-03-05T10:20:30"));
-    Clock clock(QSize(64, 64));
+    ChosenTime::Set("2024-03-05T10:20:30");
+    ClockUnderTest clock(AnalogClock, QSize(64, 64));
     clock.MakeGlyphs();
     DrawDisplayImage drawer(&clock.node);
     QList<QImage> frames;
     QList<QImage> copies;
-    for (int i = 0; i < 10; ++i, AdvanceSecond()) {
+    for (int i = 0; i < 10; ++i, ChosenTime::Advance(1000)) {
         frames.append(drawer.DrawClockDisplayImage());
         copies.append(frames.last().copy());
     }
@@ -208,12 +197,12 @@ namespace {
 
 // Whether texts of one colour are seen, second by second; empty where a frame is not as the plain
 // way draws it.
-QList<bool> SecondsWithColour(Clock &clock, QRgb colour, int count)
+QList<bool> SecondsWithColour(ClockUnderTest &clock, QRgb colour, int count)
 {
     DrawDisplayImage drawer(&clock.node);
     PlainClock plain(&clock.node);
     QList<bool> seen;
-    for (int i = 0; i < count; ++i, AdvanceSecond()) {
+    for (int i = 0; i < count; ++i, ChosenTime::Advance(1000)) {
         const QImage frame = drawer.DrawClockDisplayImage();
         const QImage expected = plain.Frame();
         bool found = false;
@@ -232,8 +221,8 @@ QList<bool> SecondsWithColour(Clock &clock, QRgb colour, int count)
 
 void TestAnalogFrames::TextsOneFrameLate()
 {
-    SetTime(QStringLiteral("2024-03-05T11:59:55"));
-    Clock clock(QSize(200, 200));
+    ChosenTime::Set("2024-03-05T11:59:55");
+    ClockUnderTest clock(AnalogClock, QSize(200, 200));
     clock.Set("AnalogTopTextColor", 0xf00ff0); // a colour that nothing else has
     clock.Set("Analog_AMPM_d", 0);
     clock.MakeGlyphs();
@@ -248,8 +237,8 @@ void TestAnalogFrames::TextsOneFrameLate()
 // drawn before the next layout stands where it would stand alone.
 void TestAnalogFrames::SingleRowPlacesAllThree()
 {
-    SetTime("2024-03-05T13:07:42");
-    Clock clock({128, 128});
+    ChosenTime::Set("2024-03-05T13:07:42");
+    ClockUnderTest clock(AnalogClock, {128, 128});
     clock.Set("AnalogDateFSize", 20);
     clock.MakeGlyphs();
     const auto showOnly = [&clock](const char *shown, int flag) {
@@ -273,14 +262,14 @@ void TestAnalogFrames::SingleRowPlacesAllThree()
 
 void TestAnalogFrames::DialIsRedrawnAtTheDevicesMidnight()
 {
-    SetTime(QStringLiteral("2024-03-05T23:59:57"));
-    Clock clock(QSize(200, 200));
+    ChosenTime::Set("2024-03-05T23:59:57");
+    ClockUnderTest clock(AnalogClock, QSize(200, 200));
     clock.Set("TimeZone", QStringLiteral("+08:00"));
     clock.Set("AnalogTopTextColor", 0xf00ff0);
     clock.MakeGlyphs();
     QCOMPARE(SecondsWithColour(clock, QColor(0xf0, 0x0f, 0xf0).rgb(), 6),
              QList<bool>({false, true, true, false, true, true}));
-    SetTime(QStringLiteral("2024-03-05T15:59:57"));
+    ChosenTime::Set("2024-03-05T15:59:57");
     QCOMPARE(SecondsWithColour(clock, QColor(0xf0, 0x0f, 0xf0).rgb(), 6),
              QList<bool>({false, true, true, false, true, true}));
 }
@@ -288,8 +277,8 @@ void TestAnalogFrames::DialIsRedrawnAtTheDevicesMidnight()
 // The text of the half of the day is kept also where the badge is hidden.
 void TestAnalogFrames::DialIsRedrawnAtNoonWithoutBadge()
 {
-    SetTime(QStringLiteral("2024-03-05T11:59:58"));
-    Clock clock(QSize(100, 100));
+    ChosenTime::Set("2024-03-05T11:59:58");
+    ClockUnderTest clock(AnalogClock, QSize(100, 100));
     clock.Set("Analog_AMPM_d", 0);
     for (const char *row : {"Analog_TopTexy_d", "Analog_Date_d", "Analog_Week_d"})
         clock.Set(row, 0);
@@ -299,9 +288,9 @@ void TestAnalogFrames::DialIsRedrawnAtNoonWithoutBadge()
     const QPoint twelve(50, 5); // within the mark at the top
     QCOMPARE(drawer.DrawClockDisplayImage().pixelColor(twelve), QColor(Qt::red));
     clock.Set("HourScaleColor", 0xffffff);
-    AdvanceSecond();
+    ChosenTime::Advance(1000);
     QCOMPARE(drawer.DrawClockDisplayImage().pixelColor(twelve), QColor(Qt::red));
-    AdvanceSecond(); // noon: the minute and second hands point up, below the mark
+    ChosenTime::Advance(1000); // noon: the minute and second hands point up, below the mark
     clock.Set("SecondRectType", 7);
     clock.Set("MinuteRectType", 7);
     QCOMPARE(drawer.DrawClockDisplayImage().pixelColor(twelve), QColor(Qt::white));
@@ -309,8 +298,8 @@ void TestAnalogFrames::DialIsRedrawnAtNoonWithoutBadge()
 
 void TestAnalogFrames::DialStyleWaits()
 {
-    SetTime(QStringLiteral("2024-03-05T10:10:30"));
-    Clock clock(QSize(100, 100));
+    ChosenTime::Set("2024-03-05T10:10:30");
+    ClockUnderTest clock(AnalogClock, QSize(100, 100));
     clock.MakeGlyphs();
     DrawDisplayImage drawer(&clock.node);
     drawer.DrawClockDisplayImage();
@@ -319,14 +308,14 @@ void TestAnalogFrames::DialStyleWaits()
     clock.Set("MinuteScaleColor", 0xffffff);
     clock.Set("Analog_AMPM_d", 0);
     QCOMPARE(drawer.DrawClockDisplayImage(), before);
-    PlainFixture::now += 24 * 3600 * 1000; // the next day
+    ChosenTime::Advance(24 * 3600 * 1000); // the next day
     QVERIFY(drawer.DrawClockDisplayImage() != before);
 }
 
 void TestAnalogFrames::HandTypesAtOnce()
 {
-    SetTime(QStringLiteral("2024-03-05T10:10:30"));
-    Clock clock(QSize(100, 100));
+    ChosenTime::Set("2024-03-05T10:10:30");
+    ClockUnderTest clock(AnalogClock, QSize(100, 100));
     clock.MakeGlyphs();
     DrawDisplayImage drawer(&clock.node);
     drawer.DrawClockDisplayImage();
@@ -354,8 +343,8 @@ void TestAnalogFrames::HandTables()
     QFETCH(int, hour);
     QFETCH(int, minute);
     QFETCH(int, second);
-    SetTime(QStringLiteral("2024-03-05T10:10:30"));
-    Clock clock(size);
+    ChosenTime::Set("2024-03-05T10:10:30");
+    ClockUnderTest clock(AnalogClock, size);
     DrawDisplayImage drawer(&clock.node);
     drawer.DrawClockDisplayImage();
     const QPoint *const tables[] = {hourHand, minuteHand, secondHand};
@@ -387,27 +376,26 @@ void TestAnalogFrames::OddAreas()
 {
     QFETCH(QSize, size);
     QFETCH(bool, drawn);
-    SetTime(QStringLiteral("2024-03-05T10:10:30"));
-    Clock clock(size);
+    ChosenTime::Set("2024-03-05T10:10:30");
+    ClockUnderTest clock(AnalogClock, size);
     clock.Set("HourScaleType", 3);
     clock.Set("SecondRectType", 1);
     clock.MakeGlyphs();
     DrawDisplayImage drawer(&clock.node);
-    qInstallMessageHandler(CountMessage);
-    messages = 0;
-    for (int i = 0; i < 3; ++i, AdvanceSecond()) {
+    const CollectedMessages messages;
+    for (int i = 0; i < 3; ++i, ChosenTime::Advance(1000)) {
         const QImage frame = drawer.DrawClockDisplayImage();
         QCOMPARE(frame.isNull(), !drawn);
         if (drawn)
             QCOMPARE(frame.size(), size);
     }
-    QCOMPARE(messages, 0);
+    QCOMPARE(messages.Lines(), QStringList());
 }
 
 void TestAnalogFrames::OddTypes()
 {
-    SetTime(QStringLiteral("2024-03-05T10:10:30"));
-    Clock clock(QSize(90, 90));
+    ChosenTime::Set("2024-03-05T10:10:30");
+    ClockUnderTest clock(AnalogClock, QSize(90, 90));
     for (const char *type :
          {"HourScaleType", "MinuteScaleType", "HourRectType", "MinuteRectType", "SecondRectType"})
         clock.Set(type, QStringLiteral("99"));
@@ -447,8 +435,8 @@ void TestAnalogFrames::MissingAndOddGlyphs_data()
 void TestAnalogFrames::MissingAndOddGlyphs()
 {
     QFETCH(QByteArray, content);
-    SetTime(QStringLiteral("2024-03-05T10:10:30"));
-    Clock clock(QSize(90, 90));
+    ChosenTime::Set("2024-03-05T10:10:30");
+    ClockUnderTest clock(AnalogClock, QSize(90, 90));
     clock.Set("HourScaleType", 3);
     clock.Set("Analog_Lunar_d", 1);
     clock.MakeGlyphs();
@@ -462,20 +450,19 @@ void TestAnalogFrames::MissingAndOddGlyphs()
         }
     }
     DrawDisplayImage drawer(&clock.node);
-    qInstallMessageHandler(CountMessage);
     drawer.DrawClockDisplayImage();
-    messages = 0;
+    const CollectedMessages messages;
     QImage frame;
-    for (int i = 0; i < 5; ++i, AdvanceSecond())
+    for (int i = 0; i < 5; ++i, ChosenTime::Advance(1000))
         frame = drawer.DrawClockDisplayImage();
     QCOMPARE(frame.size(), QSize(90, 90));
-    QCOMPARE(messages, 0);
+    QCOMPARE(messages.Lines(), QStringList());
 }
 
 void TestAnalogFrames::NodeGone()
 {
-    SetTime(QStringLiteral("2024-03-05T10:10:30"));
-    QScopedPointer<Clock> clock(new Clock(QSize(90, 90)));
+    ChosenTime::Set("2024-03-05T10:10:30");
+    QScopedPointer<ClockUnderTest> clock(new ClockUnderTest(AnalogClock, QSize(90, 90)));
     clock->MakeGlyphs();
     DrawDisplayImage drawer(&clock->node);
     const QImage frame = drawer.DrawClockDisplayImage();

@@ -1,6 +1,7 @@
 // The analog clock as pictures: every mark, numeral and hand at the sizes where they change, and
 // whole clocks. Variants of one size stand side by side in one reference picture.
-#include "plain_fixture.h"
+#include "chosen_time.h"
+#include "clock_under_test.h"
 #include "reference_picture.h"
 
 #include "display/draw_display_image.h"
@@ -9,15 +10,14 @@
 #include <QtTest>
 
 using namespace Lw::HNodeClock;
-using PlainFixture::Clock;
-using PlainFixture::SetTime;
 
 class TestAnalogPictures : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { SetTime(QStringLiteral("2024-03-05T10:08:37")); }
+    void initTestCase() { ChosenTime::Set("2024-03-05T10:08:37"); }
+    void cleanup() { Lw::HAppConfig::SetRenderImageFormat(5); }
     void cleanupTestCase() { clock_set_time_source(nullptr); }
     void HourMarks_data();
     void HourMarks();
@@ -33,7 +33,7 @@ namespace {
 
 constexpr int kNoHand = 9;
 
-QImage SecondFrame(Clock &clock)
+QImage SecondFrame(ClockUnderTest &clock)
 {
     clock.MakeGlyphs();
     DrawDisplayImage drawer(&clock.node);
@@ -41,19 +41,19 @@ QImage SecondFrame(Clock &clock)
     return drawer.DrawClockDisplayImage();
 }
 
-void HideTexts(Clock &clock)
+void HideTexts(ClockUnderTest &clock)
 {
     for (const char *text : {"Analog_TopTexy_d", "Analog_Date_d", "Analog_Week_d", "Analog_AMPM_d"})
         clock.Set(text, 0);
 }
 
-void HideHands(Clock &clock)
+void HideHands(ClockUnderTest &clock)
 {
     for (const char *hand : {"HourRectType", "MinuteRectType", "SecondRectType"})
         clock.Set(hand, kNoHand);
 }
 
-void HideMarks(Clock &clock)
+void HideMarks(ClockUnderTest &clock)
 {
     clock.Set("HourScaleType", kNoHand);
     clock.Set("MinuteScaleType", kNoHand);
@@ -89,7 +89,7 @@ void TestAnalogPictures::HourMarks()
     QFETCH(int, size);
     QList<QImage> images;
     for (int type = 0; type <= 5; ++type) {
-        Clock clock(QSize(size, size));
+        ClockUnderTest clock(AnalogClock, QSize(size, size));
         HideTexts(clock);
         HideHands(clock);
         clock.Set("HourScaleType", type);
@@ -111,7 +111,7 @@ void TestAnalogPictures::MinuteMarks()
     QFETCH(int, size);
     QList<QImage> images;
     for (int type = 0; type <= 3; ++type) {
-        Clock clock(QSize(size, size));
+        ClockUnderTest clock(AnalogClock, QSize(size, size));
         HideTexts(clock);
         HideHands(clock);
         clock.Set("MinuteScaleType", type);
@@ -137,7 +137,7 @@ void TestAnalogPictures::Hands()
     QList<QImage> images;
     for (const int type : {0, 1}) {
         for (const char *only : {"HourRectType", "MinuteRectType", "SecondRectType"}) {
-            Clock clock(QSize(size, size));
+            ClockUnderTest clock(AnalogClock, QSize(size, size));
             HideTexts(clock);
             HideMarks(clock);
             HideHands(clock);
@@ -166,7 +166,8 @@ void TestAnalogPictures::Clocks()
     QFETCH(QSize, size);
     QFETCH(int, scale);
     QFETCH(int, hands);
-    Clock clock(size);
+    ClockUnderTest clock(AnalogClock, size);
+    clock.Set("AnalogWeekType", 2);
     clock.Set("HourScaleType", scale);
     for (const char *hand : {"HourRectType", "MinuteRectType", "SecondRectType"})
         clock.Set(hand, hands);

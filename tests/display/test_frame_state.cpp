@@ -4,6 +4,7 @@
 #include "chosen_time.h"
 #include "clock_under_test.h"
 #include "display/draw_display_image.h"
+#include "messages.h"
 #include "plain_digital.h"
 
 #include "happconfig.h"
@@ -12,19 +13,13 @@
 
 #include <climits>
 #include <memory>
+#include <optional>
 
 using namespace Lw::HNodeClock;
 
 namespace {
 
 constexpr int kTypes[] = {AnalogClock, DigitalClock, PictureClock};
-
-QStringList g_messages;
-
-void Collect(QtMsgType, const QMessageLogContext &, const QString &text)
-{
-    g_messages << text;
-}
 
 void SwitchTo(ClockUnderTest &clock, int type)
 {
@@ -150,21 +145,24 @@ private Q_SLOTS:
     void OperationsByThemselves();
     void AnyNumberInAnySetting_data();
     void AnyNumberInAnySetting();
+
+private:
+    std::optional<CollectedMessages> m_messages;
 };
 
 // Whatever a test does, the drawer tells nothing.
 void TestFrameState::init()
 {
     ChosenTime::Set("2024-03-05T13:07:40");
-    g_messages.clear();
-    qInstallMessageHandler(&Collect);
+    m_messages.emplace();
 }
 
 void TestFrameState::cleanup()
 {
-    qInstallMessageHandler(nullptr);
     clock_set_time_source(nullptr);
-    QCOMPARE(g_messages, QStringList());
+    const QStringList logged = m_messages->Lines();
+    m_messages.reset();
+    QCOMPARE(logged, QStringList());
 }
 
 void TestFrameState::StartTimeIsTheSecondFrames()
@@ -360,7 +358,7 @@ void TestFrameState::DialIsKept()
     drawer.DrawClockDisplayImage();
     clock->Set("HourScaleColor", 0x123456);
     clock->node.SetSize(size);
-    ChosenTime::Set(qPrintable(instant));
+    ChosenTime::Set(instant);
     QCOMPARE(Count(drawer.DrawClockDisplayImage(), qRgb(0x56, 0x34, 0x12)) > 0, redrawn);
 }
 

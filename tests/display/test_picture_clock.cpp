@@ -1,7 +1,9 @@
 // The picture clock. Its pictures stand beside the executable's folder, so the program runs a copy
 // of itself in a folder of its own, and that copy makes the pictures it needs.
+#include "chosen_time.h"
+#include "clock_under_test.h"
+#include "messages.h"
 #include "plain_clocks.h"
-#include "plain_fixture.h"
 #include "start_program.h"
 
 #include "display/draw_display_image.h"
@@ -11,22 +13,12 @@
 #include <QtTest>
 
 using namespace Lw::HNodeClock;
-using PlainFixture::AdvanceSecond;
-using PlainFixture::Clock;
-using PlainFixture::SetTime;
 
 namespace {
 
 constexpr char kChildMark[] = "CLOCK_PICTURE_TEST_CHILD";
 constexpr int kPicture = 2;
 constexpr QRgb kKeyColour = 0xff010201;
-
-int messages = 0;
-
-void CountMessage(QtMsgType, const QMessageLogContext &, const QString &)
-{
-    ++messages;
-}
 
 QString Folder()
 {
@@ -112,12 +104,11 @@ void TestPictureClock::init()
 {
     QDir(Folder()).removeRecursively();
     QVERIFY(QDir().mkpath(Folder()));
-    SetTime(QStringLiteral("2024-03-05T09:30:30"));
+    ChosenTime::Set("2024-03-05T09:30:30");
 }
 
 void TestPictureClock::cleanup()
 {
-    qInstallMessageHandler(nullptr);
     clock_set_time_source(nullptr);
     Lw::HAppConfig::SetRenderImageFormat(5);
 }
@@ -148,15 +139,14 @@ void TestPictureClock::EqualsThePlainWay()
     QFETCH(QString, from);
     QFETCH(int, held);
     SaveFancyPictures();
-    SetTime(from);
-    Clock clock(size, kPicture);
+    ChosenTime::Set(from);
+    ClockUnderTest clock(kPicture, size);
     Lw::HAppConfig::SetRenderImageFormat(format);
     DrawDisplayImage drawer(&clock.node);
     PlainClock plain(&clock.node);
-    qInstallMessageHandler(CountMessage);
-    messages = 0;
+    const CollectedMessages messages;
     QList<QImage> shown;
-    for (int i = 0; i < 150; ++i, AdvanceSecond()) {
+    for (int i = 0; i < 150; ++i, ChosenTime::Advance(1000)) {
         QImage frame = drawer.DrawClockDisplayImage();
         QVERIFY2(frame == plain.Frame(), qPrintable(QStringLiteral("second %1").arg(i)));
         shown.append(frame);
@@ -164,19 +154,19 @@ void TestPictureClock::EqualsThePlainWay()
         while (shown.size() > held)
             shown.removeFirst();
     }
-    QCOMPARE(messages, 0);
+    QCOMPARE(messages.Lines(), QStringList());
 }
 
 void TestPictureClock::ChangingSettings()
 {
     SaveFancyPictures();
     Save(Fancy(QSize(20, 30), Qt::cyan), "picbutton2.png");
-    Clock clock(QSize(100, 90), kPicture);
+    ClockUnderTest clock(kPicture, QSize(100, 90));
     clock.MakeGlyphs();
     DrawDisplayImage drawer(&clock.node);
     PlainClock plain(&clock.node);
     QImage held;
-    for (int i = 0; i < 60; ++i, AdvanceSecond()) {
+    for (int i = 0; i < 60; ++i, ChosenTime::Advance(1000)) {
         switch (i) {
         case 10:
             clock.Set("PictrueClockType", 2);
@@ -211,7 +201,7 @@ void TestPictureClock::ChangingSettings()
 void TestPictureClock::HandsPointAtTheTime()
 {
     SaveHands();
-    Clock clock(QSize(300, 300), kPicture);
+    ClockUnderTest clock(kPicture, QSize(300, 300));
     const QImage frame = DrawDisplayImage(&clock.node).DrawClockDisplayImage();
     QCOMPARE(frame.pixelColor(102, 137), QColor(Qt::red));   // 50 units out
     QCOMPARE(frame.pixelColor(89, 133), QColor(Qt::red));    // 63 units
@@ -239,7 +229,7 @@ void TestPictureClock::DialIsCentred()
     QFETCH(QSize, size);
     QFETCH(QRect, dial);
     Save(Plain(QSize(300, 100), Qt::yellow), "picbutton1.png"); // made square
-    Clock clock(size, kPicture);
+    ClockUnderTest clock(kPicture, size);
     const QImage frame = DrawDisplayImage(&clock.node).DrawClockDisplayImage();
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x)
@@ -250,7 +240,7 @@ void TestPictureClock::DialIsCentred()
 void TestPictureClock::HandsFollowTheSmallerSide()
 {
     SaveHands();
-    Clock clock(QSize(150, 600), kPicture);
+    ClockUnderTest clock(kPicture, QSize(150, 600));
     const QImage frame = DrawDisplayImage(&clock.node).DrawClockDisplayImage();
     QCOMPARE(frame.pixelColor(75, 300 + 53), QColor(Qt::blue)); // 106 units at half the size
     QCOMPARE(frame.pixel(75, 300 + 57), kKeyColour);
@@ -260,7 +250,7 @@ void TestPictureClock::StyleChangesAtTheNextFrame()
 {
     Save(Plain(QSize(10, 10), Qt::yellow), "picbutton1.png");
     Save(Plain(QSize(10, 10), Qt::magenta), "picbutton12.png");
-    Clock clock(QSize(40, 40), kPicture);
+    ClockUnderTest clock(kPicture, QSize(40, 40));
     DrawDisplayImage drawer(&clock.node);
     drawer.InitClockTypePixmap();
     QCOMPARE(drawer.DrawClockDisplayImage().pixelColor(5, 5), QColor(Qt::yellow));
@@ -272,7 +262,7 @@ void TestPictureClock::PicturesAreKept()
 {
     SaveHands();
     Save(Plain(QSize(10, 10), Qt::yellow), "picbutton1.png");
-    Clock clock(QSize(100, 100), kPicture);
+    ClockUnderTest clock(kPicture, QSize(100, 100));
     DrawDisplayImage drawer(&clock.node);
     const QImage first = drawer.DrawClockDisplayImage();
     QVERIFY(QDir(Folder()).removeRecursively());
@@ -283,7 +273,7 @@ void TestPictureClock::PicturesAreKept()
 void TestPictureClock::MissingDialShowsHands()
 {
     SaveHands();
-    Clock clock(QSize(300, 300), kPicture);
+    ClockUnderTest clock(kPicture, QSize(300, 300));
     clock.Set("PictrueClockType", 7);
     const QImage frame = DrawDisplayImage(&clock.node).DrawClockDisplayImage();
     QCOMPARE(frame.pixel(10, 10), kKeyColour);
@@ -293,16 +283,15 @@ void TestPictureClock::MissingDialShowsHands()
 void TestPictureClock::MissingHandsShowDial()
 {
     Save(Plain(QSize(10, 10), Qt::yellow), "picbutton1.png");
-    Clock clock(QSize(30, 30), kPicture);
+    ClockUnderTest clock(kPicture, QSize(30, 30));
     DrawDisplayImage drawer(&clock.node);
-    qInstallMessageHandler(CountMessage);
-    messages = 0;
+    const CollectedMessages messages;
     drawer.InitClockTypePixmap();
     QImage frame;
-    for (int i = 0; i < 3; ++i, AdvanceSecond())
+    for (int i = 0; i < 3; ++i, ChosenTime::Advance(1000))
         frame = drawer.DrawClockDisplayImage();
     QCOMPARE(frame, Plain(QSize(30, 30), Qt::yellow));
-    QCOMPARE(messages, 0);
+    QCOMPARE(messages.Lines(), QStringList());
 }
 
 void TestPictureClock::OddFiles_data()
@@ -326,14 +315,13 @@ void TestPictureClock::OddFiles()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(content);
     }
-    Clock clock(QSize(30, 20), kPicture);
+    ClockUnderTest clock(kPicture, QSize(30, 20));
     DrawDisplayImage drawer(&clock.node);
     QCOMPARE(drawer.DrawClockDisplayImage(), Plain(QSize(30, 20), QColor(1, 2, 1)));
-    qInstallMessageHandler(CountMessage);
-    messages = 0;
-    AdvanceSecond();
+    const CollectedMessages messages;
+    ChosenTime::Advance(1000);
     QCOMPARE(drawer.DrawClockDisplayImage(), Plain(QSize(30, 20), QColor(1, 2, 1)));
-    QCOMPARE(messages, 0);
+    QCOMPARE(messages.Lines(), QStringList());
 }
 
 void TestPictureClock::OddStyleNumbers_data()
@@ -352,7 +340,7 @@ void TestPictureClock::OddStyleNumbers()
     QFETCH(QString, type);
     QFETCH(QByteArray, file);
     Save(Plain(QSize(10, 10), Qt::yellow), file.constData());
-    Clock clock(QSize(20, 20), kPicture);
+    ClockUnderTest clock(kPicture, QSize(20, 20));
     clock.Set("PictrueClockType", type);
     QCOMPARE(DrawDisplayImage(&clock.node).DrawClockDisplayImage(),
              Plain(QSize(20, 20), Qt::yellow));
@@ -375,18 +363,17 @@ void TestPictureClock::OddAreas()
     QFETCH(QSize, size);
     QFETCH(bool, drawn);
     SaveFancyPictures();
-    Clock clock(size, kPicture);
+    ClockUnderTest clock(kPicture, size);
     DrawDisplayImage drawer(&clock.node);
-    qInstallMessageHandler(CountMessage);
-    messages = 0;
+    const CollectedMessages messages;
     drawer.InitClockTypePixmap();
-    for (int i = 0; i < 3; ++i, AdvanceSecond()) {
+    for (int i = 0; i < 3; ++i, ChosenTime::Advance(1000)) {
         const QImage frame = drawer.DrawClockDisplayImage();
         QCOMPARE(frame.isNull(), !drawn);
         if (drawn)
             QCOMPARE(frame.size(), size);
     }
-    QCOMPARE(messages, 0);
+    QCOMPARE(messages.Lines(), QStringList());
 }
 
 // The width is read at the start of a frame, the height while drawing: when they belong to two
@@ -394,7 +381,7 @@ void TestPictureClock::OddAreas()
 void TestPictureClock::SizeChangedBetweenCalls()
 {
     SaveFancyPictures();
-    Clock clock(QSize(40, 40), kPicture);
+    ClockUnderTest clock(kPicture, QSize(40, 40));
     DrawDisplayImage drawer(&clock.node);
     drawer.DrawClockDisplayImage();
     clock.node.SetSize(QSize(90, 70));
@@ -407,7 +394,7 @@ void TestPictureClock::SizeChangedBetweenCalls()
 // shows at once.
 void TestPictureClock::AnalogDialIsRedrawnAfterwards()
 {
-    Clock clock(QSize(100, 100), 0);
+    ClockUnderTest clock(AnalogClock, QSize(100, 100));
     clock.Set("HourScaleColor", 0x0000ff);
     clock.MakeGlyphs();
     DrawDisplayImage drawer(&clock.node);
@@ -424,7 +411,7 @@ void TestPictureClock::AnalogDialIsRedrawnAfterwards()
 void TestPictureClock::NodeGone()
 {
     SaveFancyPictures();
-    QScopedPointer<Clock> clock(new Clock(QSize(40, 40), kPicture));
+    QScopedPointer<ClockUnderTest> clock(new ClockUnderTest(kPicture, QSize(40, 40)));
     DrawDisplayImage drawer(&clock->node);
     const QImage frame = drawer.DrawClockDisplayImage();
     clock.reset();

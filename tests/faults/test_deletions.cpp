@@ -3,6 +3,7 @@
 // comes for what is gone.
 #include "clock_render.h"
 #include "fault_support.h"
+#include "messages.h"
 
 #include "pictureplayer.h"
 
@@ -200,10 +201,7 @@ void TestDeletions::initTestCase()
     Lw::HAppConfig::SetClockOutputPath(m_directory.path());
     pictureplayer::SetTimeScale(200);
     // The refusal of a renderer without a node is logged each time; other tests look at that line.
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-        if (type == QtCriticalMsg || type == QtFatalMsg)
-            std::fprintf(stderr, "%s\n", qPrintable(text));
-    });
+    SilenceMessages();
 }
 
 void TestDeletions::AtEveryStep_data()

@@ -2,6 +2,7 @@
 // out of the plugin: for the time, for the size, for attributes and files.
 #include "clock_render.h"
 #include "fault_support.h"
+#include "messages.h"
 
 #include "pictureplayer.h"
 
@@ -103,7 +104,7 @@ void TestDrawingDeletions::initTestCase()
     pictureplayer::SetTimeScale(0);
     // The refusal of a renderer that was removed is logged each time; other tests look at that
     // line.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    SilenceMessages();
 }
 
 void TestDrawingDeletions::init()

@@ -6,6 +6,7 @@
 #include "compose/glyph_strip.h"
 #include "failing_memory.h"
 #include "fault_support.h"
+#include "messages.h"
 #include "process_run.h"
 
 #include "pictureplayer.h"
@@ -84,10 +85,7 @@ void TestMemoryLimits::initTestCase()
     if (!FailingMemory::Available())
         QSKIP("the allocator cannot be limited under a sanitizer");
     // Painters on null images warn at each call.
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-        if (type == QtFatalMsg)
-            std::fprintf(stderr, "%s\n", qPrintable(text));
-    });
+    SilenceMessages();
     pictureplayer::SetTimeScale(0);
 }
 

@@ -3,6 +3,7 @@
 // room again everything is made.
 #include "fault_support.h"
 #include "file_size_limit.h"
+#include "messages.h"
 #include "node/node_test_support.h"
 #include "small_disk.h"
 #include "without_privileges.h"
@@ -54,10 +55,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         // What cannot be read is logged, image by image.
-        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-            if (type == QtFatalMsg)
-                std::fprintf(stderr, "%s\n", qPrintable(text));
-        });
+        SilenceMessages();
     }
     void init() { ChosenTime::Set("2026-11-21T11:59:50"); }
     void cleanup() { clock_set_time_source(nullptr); }

@@ -1,5 +1,7 @@
 // The renderer: when it starts, what it hands to the player, and when it asks for the next frame.
-#include "calendar/device_clock.h"
+#include "chosen_time.h"
+#include "messages.h"
+
 #include "clock_node.h"
 #include "clock_render.h"
 
@@ -12,6 +14,7 @@
 #include <functional>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <utility>
 
 using Lw::HPluginManager;
@@ -28,27 +31,19 @@ constexpr int kDigital = 1;
 // 2024-03-05 12:00:00 UTC.
 constexpr long long kNoon = 1709640000000LL;
 
-long long g_now = kNoon;
 int g_readings = 0;
 
 long long Now()
 {
     ++g_readings;
-    return g_now;
+    return ChosenTime::Milliseconds();
 }
 
 // A millisecond passes with each reading.
 long long RunningNow()
 {
     ++g_readings;
-    return g_now++;
-}
-
-QStringList g_messages; // type, category and text of each message
-
-void Collect(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    g_messages << QStringLiteral("%1 %2 %3").arg(type).arg(context.category, text);
+    return ChosenTime::Milliseconds()++;
 }
 
 const char kRefusalLine[] = "0 default Enter:[clock_render.cpp::PlayNext::135]";
@@ -166,11 +161,12 @@ private:
 
     std::unique_ptr<HClockNode> m_node;
     std::unique_ptr<CountingRender> m_render;
+    std::optional<CollectedMessages> m_messages;
 };
 
 void TestClockRender::init()
 {
-    g_now = kNoon;
+    ChosenTime::Milliseconds() = kNoon;
     clock_set_time_source(&Now);
     pictureplayer::SetTimeScale(0);
     HPluginManager::instance()->SetAlphaBlend(false);
@@ -180,13 +176,12 @@ void TestClockRender::init()
     m_node->SetPos(QPoint(5, 6));
     m_render.reset(new CountingRender(m_node.get()));
     pictureplayer::Register(kId, m_render.get());
-    g_messages.clear();
-    qInstallMessageHandler(&Collect);
+    m_messages.emplace();
 }
 
 void TestClockRender::cleanup()
 {
-    qInstallMessageHandler(nullptr);
+    m_messages.reset();
     m_render.reset();
     m_node.reset();
     pictureplayer::Register(kId, nullptr);
@@ -235,7 +230,7 @@ void TestClockRender::StartIsRefused()
     QCOMPARE(m_render->renderState(), 2);
     QVERIFY(!pictureplayer::ForIdentifier(playIdentifier));
     QCOMPARE(m_render->calls, QStringList());
-    QCOMPARE(g_messages, QStringList());
+    QCOMPARE(m_messages->Lines(), QStringList());
 }
 
 void TestClockRender::StartStopsFirst()
@@ -297,7 +292,7 @@ void TestClockRender::DelayToTheNextSecond()
     QFETCH(int, millisecond);
     m_render->Start(kId, 0);
     QSignalSpy delays(Player(), &pictureplayer::EffectUpdated);
-    g_now = kNoon + millisecond;
+    ChosenTime::Milliseconds() = kNoon + millisecond;
     m_render->PlayNext();
     QCOMPARE(delays.size(), 1);
     QTEST(delays.at(0).at(0).toInt(), "delay");
@@ -308,7 +303,7 @@ void TestClockRender::FrameHasOneReading()
     m_render->Start(kId, 0);
     QSignalSpy delays(Player(), &pictureplayer::EffectUpdated);
     clock_set_time_source(&RunningNow);
-    g_now = kNoon + 999;
+    ChosenTime::Milliseconds() = kNoon + 999;
     g_readings = 0;
     qint64 whileShown = 0;
     connect(Player(), &pictureplayer::ImageUpdated, this,
@@ -390,7 +385,7 @@ void TestClockRender::OrdinaryFrameLogsNothing()
 {
     m_render->Start(kId, 0);
     m_render->PlayNext();
-    QVERIFY(g_messages.filter("Enter:").isEmpty());
+    QVERIFY(m_messages->Lines().filter("Enter:").isEmpty());
 }
 
 void TestClockRender::DeadNodeLogsAndRequestsNothing()
@@ -399,9 +394,9 @@ void TestClockRender::DeadNodeLogsAndRequestsNothing()
     QSignalSpy images(Player(), &pictureplayer::ImageUpdated);
     QSignalSpy delays(Player(), &pictureplayer::EffectUpdated);
     m_node.reset();
-    g_messages.clear();
+    m_messages->Clear();
     m_render->PlayNext();
-    QCOMPARE(g_messages, QStringList(kRefusalLine));
+    QCOMPARE(m_messages->Lines(), QStringList(kRefusalLine));
     QCOMPARE(images.size() + delays.size(), 0);
     QCOMPARE(m_render->renderState(), 1);
 }
@@ -412,9 +407,9 @@ void TestClockRender::NodeDeletedWhilePlayingEndsTheTicks()
     m_render->Start(kId, 0);
     QTRY_VERIFY_WITH_TIMEOUT(m_render->calls.count("PlayNext") >= 3, 5000);
     m_node.reset();
-    QTRY_COMPARE_WITH_TIMEOUT(g_messages.count(kRefusalLine), 1, 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_messages->Lines().count(kRefusalLine), 1, 5000);
     QTest::qWait(50);
-    QCOMPARE(g_messages.count(kRefusalLine), 1);
+    QCOMPARE(m_messages->Lines().count(kRefusalLine), 1);
 }
 
 void TestClockRender::RendererWithoutANode()
@@ -423,7 +418,7 @@ void TestClockRender::RendererWithoutANode()
     render.Start(kId, 0);
     QCOMPARE(render.renderState(), 2);
     render.PlayNext();
-    QCOMPARE(g_messages, QStringList(kRefusalLine));
+    QCOMPARE(m_messages->Lines(), QStringList(kRefusalLine));
 }
 
 void TestClockRender::RemovedRenderer()
@@ -434,7 +429,7 @@ void TestClockRender::RemovedRenderer()
     QCOMPARE(m_render->calls, QStringList("Stop"));
     QVERIFY(!Player());
     m_render->PlayNext();
-    QCOMPARE(g_messages.count(kRefusalLine), 1);
+    QCOMPARE(m_messages->Lines().count(kRefusalLine), 1);
     m_render->Stop();
     m_render->Remove();
     m_render->Start(kId, 0);
@@ -448,7 +443,7 @@ void TestClockRender::CleanResourcesTwice()
     QVERIFY(!Player());
     m_render->CleanResources();
     m_render->PlayNext();
-    QCOMPARE(g_messages.count(kRefusalLine), 1);
+    QCOMPARE(m_messages->Lines().count(kRefusalLine), 1);
 }
 
 void TestClockRender::DestructionTakesThePlayerAlong()
@@ -483,7 +478,7 @@ void TestClockRender::NodeDeletedByTheFramesReceiver()
     connect(Player(), &pictureplayer::ImageUpdated, this, [this] { m_node.reset(); });
     m_render->PlayNext();
     m_render->PlayNext();
-    QCOMPARE(g_messages.count(kRefusalLine), 1);
+    QCOMPARE(m_messages->Lines().count(kRefusalLine), 1);
 }
 
 void TestClockRender::RendererRemovedByTheFramesReceiver()
@@ -535,7 +530,7 @@ void TestClockRender::NodeDeletedByStop()
     QCOMPARE(player->Parameter().position, QPoint(0, 0));
     QCOMPARE(player->Parameter().size, QSize(-1, -1));
     QVERIFY(player->LastImage().isNull());
-    QCOMPARE(g_messages, QStringList(kRefusalLine));
+    QCOMPARE(m_messages->Lines(), QStringList(kRefusalLine));
 }
 
 void TestClockRender::RendererRemovedByStop()
@@ -548,7 +543,7 @@ void TestClockRender::RendererRemovedByStop()
     render.Start(kId + 1, 0);
     QVERIFY(!pictureplayer::ForIdentifier(kId + 1));
     QVERIFY(!isAsked);
-    QCOMPARE(g_messages, QStringList());
+    QCOMPARE(m_messages->Lines(), QStringList());
 }
 
 void TestClockRender::RendererDeletedByStop()
@@ -584,7 +579,7 @@ void TestClockRender::NodeDeletedAsItsSizeIsAsked()
     QVERIFY(player);
     QCOMPARE(player->Parameter().size, QSize(64, 32));
     QCOMPARE(player->Parameter().position, QPoint(0, 0));
-    QCOMPARE(g_messages, QStringList(kRefusalLine));
+    QCOMPARE(m_messages->Lines(), QStringList(kRefusalLine));
 }
 
 void TestClockRender::RendererGoneAsTheSizeIsAsked_data()
@@ -603,7 +598,7 @@ void TestClockRender::RendererGoneAsTheSizeIsAsked()
     render->Start(kId + 1, 0);
     QCOMPARE(!render, isDeleted);
     QVERIFY(!pictureplayer::ForIdentifier(kId + 1));
-    QCOMPARE(g_messages, QStringList());
+    QCOMPARE(m_messages->Lines(), QStringList());
 }
 
 // The frame is counted after it was shown and before the delay is told: at the tenth, whoever is

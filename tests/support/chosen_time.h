@@ -13,7 +13,7 @@ inline long long &Milliseconds()
     return milliseconds;
 }
 
-/// Every reading is this instant from now on, until the next call.
+/// The plugin reads this instant from now on.
 inline void Set(const QDateTime &instant)
 {
     Milliseconds() = instant.toMSecsSinceEpoch();
@@ -21,12 +21,17 @@ inline void Set(const QDateTime &instant)
 }
 
 /// "2024-03-05T13:07:42", in UTC.
-inline void Set(const char *instant)
+inline void Set(const QString &instant)
 {
-    QDateTime utc = QDateTime::fromString(QString::fromLatin1(instant), Qt::ISODateWithMs);
+    QDateTime utc = QDateTime::fromString(instant, Qt::ISODateWithMs);
     utc.setTimeSpec(Qt::UTC);
     Q_ASSERT(utc.isValid());
     Set(utc);
+}
+
+inline void Set(const char *instant)
+{
+    Set(QString::fromLatin1(instant));
 }
 
 inline void Advance(int milliseconds)

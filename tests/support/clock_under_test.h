@@ -7,6 +7,7 @@
 
 #include "happconfig.h"
 
+#include <QImage>
 #include <QTemporaryDir>
 
 class ClockUnderTest
@@ -33,7 +34,29 @@ public:
     {
         node.SetAttribute(QString::fromLatin1(key), QString::fromUtf8(value), false);
     }
+    void Set(const char *key, const QString &value)
+    {
+        node.SetAttribute(QString::fromLatin1(key), value, false);
+    }
     void MakeGlyphs() { Lw::HNodeClock::DrwSourceIMage().DrawClockSourceImage(&node); }
+
+    /// Makes every inked pixel of the glyph images translucent, in levels that differ from place
+    /// to place.
+    void SoftenGlyphs()
+    {
+        for (const Lw::FileRecord &record : node.FileRecords()) {
+            QImage image = QImage(record.path).convertToFormat(QImage::Format_ARGB32);
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x) {
+                    const QRgb pixel = image.pixel(x, y);
+                    const int alpha = qAlpha(pixel) * (1 + (x * 7 + y * 13) % 255) / 255;
+                    image.setPixel(x, y, (pixel & 0xffffff) | static_cast<QRgb>(alpha) << 24);
+                }
+            }
+            image.save(record.path, "PNG");
+        }
+    }
+
     QString Directory() const { return m_directory.path(); }
 
     Lw::HNodeClock::HClockNode node;

@@ -1,4 +1,5 @@
 // The library file in a host that shares nothing with the stand-ins but the declarations.
+#include "messages.h"
 #include "minimal_host.h"
 
 #include "hcontentnode.h"
@@ -33,13 +34,6 @@ long long g_now = 0;
 long long Now()
 {
     return g_now;
-}
-
-QStringList g_messages;
-
-void Collect(QtMsgType, const QMessageLogContext &, const QString &text)
-{
-    g_messages << text;
 }
 
 Lw::INodePlugin *Plugin()
@@ -320,11 +314,9 @@ void TestMinimalHost::RendererGoneByInitialising()
     MinimalHost::whenInitialised = [&render, isDeleted] {
         isDeleted ? render.reset() : render->Remove();
     };
-    g_messages.clear();
-    const QtMessageHandler before = qInstallMessageHandler(&Collect);
+    const CollectedMessages messages;
     render->Start(81, 0);
-    qInstallMessageHandler(before);
-    QCOMPARE(g_messages, QStringList());
+    QCOMPARE(messages.Lines(), QStringList());
     QCOMPARE(!render, isDeleted);
     QCOMPARE(MinimalHost::Calls(), calls);
 }
