@@ -21,6 +21,8 @@ namespace {
 
 const char kPrefix[] = "clock_player-";
 const char kPattern[] = "clock_player-??????"; // as mkdtemp fills it in
+// Players before this one used such names without a lock.
+const char kMark[] = "/.locked_while_in_use";
 
 // Not QDir::tempPath(), which falls back to other places.
 QDir TemporaryRoot()
@@ -67,15 +69,29 @@ int LockDirectory(const QByteArray &path)
     return -1;
 }
 
+bool Mark(const QByteArray &path)
+{
+    const int mark =
+        ::open((path + kMark).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    return mark >= 0 && ::close(mark) == 0;
+}
+
+bool IsMarked(const QByteArray &path)
+{
+    struct stat mark = {};
+    return ::lstat((path + kMark).constData(), &mark) == 0 && S_ISREG(mark.st_mode);
+}
+
 void RemoveAbandoned()
 {
     const QDir temporary = TemporaryRoot();
     const QStringList names = temporary.entryList({QLatin1String(kPattern)},
                                                   QDir::Dirs | QDir::NoSymLinks | QDir::Hidden);
     for (const QString &name : names) {
+        const QByteArray path = QFile::encodeName(temporary.filePath(name));
         LockedDirectory abandoned;
-        abandoned.path = temporary.filePath(name);
-        abandoned.lock = LockDirectory(QFile::encodeName(abandoned.path));
+        abandoned.path = QFile::decodeName(path);
+        abandoned.lock = IsMarked(path) ? LockDirectory(path) : -1;
     }
 }
 
@@ -93,22 +109,18 @@ Result<QString> MakeWorkDirectory()
     RemoveAbandoned();
     const QString form =
         TemporaryRoot().filePath(QLatin1String(kPrefix) + QStringLiteral("XXXXXX"));
-    constexpr int kAttempts = 10;
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        QByteArray path = QFile::encodeName(form);
-        if (!::mkdtemp(path.data()))
-            return CannotMake(form);
-        // Until it is locked, another player may take it for an abandoned one.
-        const int lock = LockDirectory(path);
-        if (lock >= 0 && QFileInfo::exists(QFile::decodeName(path))) {
-            Current().path = QFile::decodeName(path);
-            Current().lock = lock;
-            return Current().path;
-        }
-        if (lock >= 0)
-            ::close(lock);
-    }
-    return CannotMake(form);
+    QByteArray path = QFile::encodeName(form);
+    if (!::mkdtemp(path.data()))
+        return CannotMake(form);
+    LockedDirectory &current = Current();
+    current.path = QFile::decodeName(path);
+    current.lock = LockDirectory(path);
+    // The mark comes last: what has none is never taken for abandoned.
+    if (current.lock >= 0 && Mark(path))
+        return current.path;
+    const Failure failure = CannotMake(form);
+    ::rmdir(path.constData());
+    return failure;
 }
 
 void RemoveWorkDirectory()

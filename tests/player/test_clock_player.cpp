@@ -79,6 +79,7 @@ private slots:
     void TemporaryFilesAreRemoved();
 
     void AbandonedFilesAreRemoved();
+    void FilesOfAKilledPlayerAreRemoved();
     void UnusableTemporaryDirectory();
     void FullDevice();
     void FrameBeyondTheFileSize();
@@ -540,12 +541,17 @@ void TestClockPlayer::TemporaryFilesAreRemoved()
     QVERIFY(QDir(Path("tmp")).isEmpty());
 }
 
-// Only what a killed player left is removed: not what lives, nor what only has such a name.
+// Only what a killed player left is removed: not what lives, nor what only has such a name, nor the
+// files of an older player, which had no lock and may still play.
 void TestClockPlayer::AbandonedFilesAreRemoved()
 {
     QVERIFY(QDir(m_directory->path()).mkpath("tmp/clock_player-aaaaaa/inner"));
     QVERIFY(QDir(m_directory->path()).mkpath("tmp/clock_player-locked"));
+    QVERIFY(QDir(m_directory->path()).mkpath("tmp/clock_player-older1"));
     QVERIFY(QDir(m_directory->path()).mkpath("tmp/other"));
+    Write("tmp/clock_player-aaaaaa/.locked_while_in_use", QString());
+    Write("tmp/clock_player-locked/.locked_while_in_use", QString());
+    Write("tmp/clock_player-older1/digital_1_toptext.png", "shown");
     Write("tmp/clock_player-aaaaaa/inner/file", "left behind");
     QVERIFY(QFile::link(Path("tmp/other"), Path("tmp/clock_player-linked")));
     const int lock = ::open(qPrintable(Path("tmp/clock_player-locked")), O_RDONLY | O_DIRECTORY);
@@ -559,7 +565,39 @@ void TestClockPlayer::AbandonedFilesAreRemoved()
     ::close(lock);
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(QDir(Path("tmp")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-             QStringList({"clock_player-linked", "clock_player-locked", "other"}));
+             QStringList(
+                 {"clock_player-linked", "clock_player-locked", "clock_player-older1", "other"}));
+    QVERIFY(QFile::exists(Path("tmp/clock_player-older1/digital_1_toptext.png")));
+}
+
+// A killed player leaves what the next one knows and removes.
+void TestClockPlayer::FilesOfAKilledPlayerAreRemoved()
+{
+    QVERIFY(QDir(m_directory->path()).mkdir("tmp"));
+    const auto left = [this] {
+        return QDir(Path("tmp")).entryList({"clock_player-*"}, QDir::Dirs);
+    };
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("TMPDIR", Path("tmp"));
+    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    StartProgram(
+        process, QStringLiteral(PLAYER),
+        {"--plugin-dir", kPanels, "-platform", "offscreen", WriteProgram(Area(0, "<panel/>"))});
+    const auto plays = [&] {
+        return left().size() == 1 && QFile::exists(Path("tmp/" + left()[0] + "/panel_1000"));
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(plays(), 20000);
+    const QStringList arguments {"--plugin-dir", kPanels, "--output",         Path("out"),
+                                 "--frames",     "1",     Path("program.xml")};
+    QCOMPARE(RunPlayer(arguments, environment).exitCode, 0);
+    QVERIFY(plays());
+    process.kill();
+    QVERIFY(process.waitForFinished(20000));
+    QVERIFY(plays());
+    QCOMPARE(RunPlayer(arguments, environment).exitCode, 0);
+    QCOMPARE(left(), QStringList());
 }
 
 void TestClockPlayer::UnusableTemporaryDirectory()

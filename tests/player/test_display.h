@@ -30,6 +30,13 @@ public:
         return m_name.size() > 1;
     }
 
+    /// As when the X server crashes.
+    void Kill()
+    {
+        m_server.kill();
+        m_server.waitForFinished();
+    }
+
     ~TestDisplay()
     {
         m_server.terminate();

@@ -71,6 +71,8 @@ private slots:
     void SteppedSystemClock_data();
     void SteppedSystemClock();
 
+    void DisplayGoesAway();
+
 private:
     QString Write(const QString &contents);
     void StartSpeeds();
@@ -403,6 +405,25 @@ void TestWindow::SteppedSystemClock()
     const QRegularExpressionMatch missed =
         QRegularExpression("missed seconds: (\\d+)").match(errors);
     QVERIFY2(missed.hasMatch() && missed.captured(1).toInt() < 60, qPrintable(errors));
+}
+
+// The player ends as where it reaches none, and tidies up.
+void TestWindow::DisplayGoesAway()
+{
+    TestDisplay display;
+    QVERIFY(display.Start());
+    const QTemporaryDir temporary;
+    QProcessEnvironment environment = display.Environment();
+    environment.insert("XDG_RUNTIME_DIR", m_directory.path());
+    environment.insert("TMPDIR", temporary.path());
+    Player player(display, {Write(kClocks)}, environment);
+    QVERIFY(player.IsOpen());
+    const QDir directory(temporary.path());
+    QTRY_COMPARE_WITH_TIMEOUT(directory.entryList({"clock_player-*"}, QDir::Dirs).size(), 1, 30000);
+    display.Kill();
+    QCOMPARE(player.Finish(), 1);
+    QVERIFY2(player.Errors().contains("X11 connection broke"), qPrintable(player.Errors()));
+    QVERIFY2(directory.isEmpty(), qPrintable(directory.entryList().join(' ')));
 }
 
 QTEST_GUILESS_MAIN(TestWindow)
