@@ -1,6 +1,7 @@
 #include "clock_lint.h"
 
 #include "clock_words.h"
+#include "kind_check.h"
 #include "suggestion.h"
 #include "value_checks.h"
 #include "whole_clock.h"
@@ -52,8 +53,8 @@ public:
         m_node.InitData();
         m_understood = ClockProgram::ReadElement(m_node, clock);
         // What picture clocks read is read as of an analog clock.
-        m_type = m_understood ? m_node.ClockType() : MeantType();
-        m_type = m_type == DigitalClock ? DigitalClock : AnalogClock;
+        m_kind = m_understood ? m_node.ClockType() : MeantKind(clock);
+        m_type = m_kind == DigitalClock ? DigitalClock : AnalogClock;
         for (QDomElement setting = clock.firstChildElement(ClockProgram::kAttributeTag);
              !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag))
             m_node.SetAttribute(setting.attribute(kKey), setting.attribute(kValue), false);
@@ -67,26 +68,14 @@ public:
         for (QDomElement child = m_clock.firstChildElement(); !child.isNull();
              child = child.nextSiblingElement())
             CheckChild(child);
-        CheckType();
+        if (m_understood)
+            LintKinds(m_clock, m_kind, m_node.ClockType(), m_findings);
+        else
+            LintUnreadKind(m_clock, m_findings);
         LintWhole(m_clock, m_node, m_findings);
     }
 
 private:
-    static QStringList TypeWords()
-    {
-        QStringList words;
-        for (const char *name : Sdk::kTypeNames)
-            words.append(QLatin1String(name));
-        return words;
-    }
-
-    /// The kind that a word was to name, so that the children are judged by it.
-    int MeantType() const
-    {
-        const QStringList words = TypeWords();
-        return words.indexOf(Nearest(m_clock.attribute(QLatin1String(Sdk::kType)), words));
-    }
-
     void CheckChild(const QDomElement &child)
     {
         const QString name = child.tagName();
@@ -242,23 +231,6 @@ private:
         return !fault.isEmpty();
     }
 
-    void CheckType()
-    {
-        if (m_understood)
-            return;
-        const bool isOldForm = !m_clock.firstChildElement(QLatin1String(Sdk::kClockCom)).isNull();
-        if (isOldForm)
-            return Warn(At(m_clock),
-                        QStringLiteral("the clockType of <clockCom> cannot be read; accepted: 0 "
-                                       "analog, 1 digital, 2 picture"));
-        const QString word = m_clock.attribute(QLatin1String(Sdk::kType));
-        const QStringList words = TypeWords();
-        Warn(At(m_clock, QLatin1String(Sdk::kType)),
-             QStringLiteral("type=%1 cannot be read; accepted: \"%2\"")
-                 .arg(Quoted(word), words.join(QStringLiteral("\", \""))),
-             Nearest(word, words));
-    }
-
     void Warn(const Place &place, const QString &text, const QString &suggestion = {})
     {
         m_findings.Warn(place, text, suggestion);
@@ -269,7 +241,8 @@ private:
     Findings &m_findings;
     HClockNode m_node;
     bool m_understood = false;
-    int m_type = AnalogClock; // by which the element is read
+    int m_kind = AnalogClock; // that the element names
+    int m_type = AnalogClock; // by which it is read
     QSet<QString> m_present;
     QSet<QString> m_seen;
     QSet<QString> m_settings;
