@@ -12,6 +12,7 @@ enum class Notice {
     NoProgram,    ///< P1: the program file cannot be read
     WrongProgram, ///< P2: the program cannot be played
     NoPlugin,     ///< P3: no plugin could be loaded, or no directory for the glyph images made
+    NoGlyphs,     ///< G1: glyph images are missing, and the clocks would lack texts
     TimeNotSet,   ///< T1: the device's clock is not set
 };
 

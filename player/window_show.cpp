@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <algorithm>
 #include <csignal>
 
 namespace ClockPlayer {
@@ -51,6 +52,13 @@ QJsonObject ClockObject(Lw::HNode *node, qint64 instant)
         change ? QJsonValue(TimeText(QDateTime::fromMSecsSinceEpoch(change->instant, Qt::UTC)))
                : QJsonValue());
     return clock;
+}
+
+bool LacksFiles(const Stage &stage)
+{
+    const QVector<Lw::HNode *> nodes = stage.Nodes();
+    return !std::all_of(nodes.begin(), nodes.end(),
+                        [](Lw::HNode *node) { return node->AllFileExists(); });
 }
 
 QJsonObject SpreadObject(const Spread &spread)
@@ -93,6 +101,7 @@ MaybeFailure WindowShow::Play(const Result<Program> &program, const FileSignatur
             return faulty;
         Fault(faulty->text); // a kiosk goes on with what there is
     }
+    RequireGlyphs();
     if (!m_options.isKiosk)
         m_window.show();
     KeepTimeRequired();
@@ -126,7 +135,11 @@ void WindowShow::FollowSecond()
     KeepTimeRequired();
     if (m_options.watchesProgram || m_notice)
         CheckProgram();
-    if (m_sinceStatus.hasExpired(kStatusInterval))
+    if (!m_sinceStatus.hasExpired(kStatusInterval))
+        return;
+    if (m_notice == Notice::NoGlyphs) // there may be room on the disk by now
+        ReadAgain();
+    else
         KeepStatus();
 }
 
@@ -191,7 +204,14 @@ MaybeFailure WindowShow::Read()
         return failure;
     if (const MaybeFailure faulty = CheckGlyphs())
         Fault(faulty->text);
+    RequireGlyphs();
     return std::nullopt;
+}
+
+void WindowShow::RequireGlyphs()
+{
+    if (m_options.isKiosk && m_playback.Playing() && LacksFiles(*m_playback.Playing()))
+        ShowNotice(Notice::NoGlyphs);
 }
 
 MaybeFailure WindowShow::CheckGlyphs() const

@@ -49,6 +49,7 @@ private:
     ClockProgram::MaybeFailure Read();
     ClockProgram::MaybeFailure Show(const ClockProgram::Program &program);
     ClockProgram::MaybeFailure CheckGlyphs() const;
+    void RequireGlyphs();
     void CheckRestarted(Lw::HNode *node);
     void ShowNotice(Notice notice);
     void Fault(const QString &text);

@@ -120,7 +120,7 @@ void TestKiosk::NoticesFitTheirPicture()
 void TestKiosk::NoticesDiffer()
 {
     const QVector<Notice> all {Notice::NoProgram, Notice::WrongProgram, Notice::NoPlugin,
-                               Notice::TimeNotSet};
+                               Notice::NoGlyphs, Notice::TimeNotSet};
     QVector<QImage> pictures;
     for (const Notice notice : all) {
         const QImage picture = NoticePicture(notice, {128, 64});
@@ -128,6 +128,7 @@ void TestKiosk::NoticesDiffer()
         pictures.append(picture);
     }
     QCOMPARE(NoticeCode(Notice::NoProgram), QString("P1"));
+    QCOMPARE(NoticeCode(Notice::NoGlyphs), QString("G1"));
     QCOMPARE(NoticeCode(Notice::TimeNotSet), QString("T1"));
     QVERIFY(NoticePicture(Notice::NoProgram, {}).isNull());
 }

@@ -1,5 +1,6 @@
 // The real player with the real clock as a service: what it tells the service manager, and programs
 // that are spoiled while they play.
+#include "file_size_limit.h"
 #include "player_process.h"
 
 #include <QJsonDocument>
@@ -8,6 +9,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <csignal>
+
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -74,6 +78,7 @@ private slots:
     void ManagerIsTold();
     void SpoiledProgram_data();
     void SpoiledProgram();
+    void MissingGlyphs();
 
 private:
     QString Path(const QString &name) const { return m_directory->filePath(name); }
@@ -182,6 +187,29 @@ void TestService::SpoiledProgram()
              0);
     QTRY_VERIFY_WITH_TIMEOUT(Status()["program_sha256"] != played, kPatience);
     QVERIFY(Status()["notice"].isNull());
+}
+
+// A clock without its texts is not a clock: until there is room for them the notice is shown.
+void TestService::MissingGlyphs()
+{
+    constexpr int kRoom = 4096; // for the status, not for digits of this size
+    Write("program.xml",
+          ClockProgramText("first").replace(
+              "fontSize=\"8\"/>",
+              "fontSize=\"8\"/>"
+              "<time display=\"true\" fontName=\"DejaVu Sans\" fontSize=\"400\"/>"));
+    rlimit unlimited {};
+    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &unlimited), 0);
+    {
+        const FileSizeLimit limit(kRoom);
+        Start();
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(Status()["notice"].toString(), QString("G1"), kPatience);
+    const auto pid = static_cast<pid_t>(m_process.processId());
+    QCOMPARE(::prlimit(pid, RLIMIT_FSIZE, &unlimited, nullptr), 0);
+    QCOMPARE(::kill(pid, SIGHUP), 0);
+    QTRY_VERIFY_WITH_TIMEOUT(Status()["notice"].isNull(), kPatience);
+    QVERIFY(QFile::exists(Path("glyphs/digital_1000_timeNumber.png")));
 }
 
 QTEST_GUILESS_MAIN(TestService)
