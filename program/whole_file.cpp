@@ -33,9 +33,13 @@ bool WriteAll(int file, const QByteArray &contents)
     for (int at = 0; at < contents.size();) {
         const auto rest = static_cast<std::size_t>(contents.size() - at);
         const ssize_t written = write(file, contents.constData() + at, rest);
-        if (written < 0 && errno != EINTR)
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0) {
+            errno = written == 0 ? ENOSPC : errno;
             return false;
-        at += static_cast<int>(qMax<ssize_t>(written, 0));
+        }
+        at += static_cast<int>(written);
     }
     return true;
 }
