@@ -39,10 +39,21 @@ void Note(int number)
         errno = error;
 }
 
+bool IsIgnored(int number)
+{
+    struct sigaction action = {};
+    return ::sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+std::vector<int> LossSignals()
+{
+    return IsIgnored(SIGHUP) ? std::vector<int> {SIGPIPE} : std::vector<int> {SIGHUP, SIGPIPE};
+}
+
 } // namespace
 
-SignalPipe::SignalPipe(std::initializer_list<int> numbers, Times times, QObject *parent)
-    : QObject(parent), m_numbers(numbers)
+SignalPipe::SignalPipe(const std::vector<int> &numbers, Times times, QObject *parent)
+    : QObject(parent)
 {
     if (::pipe2(m_ends, O_CLOEXEC | O_NONBLOCK) != 0)
         return;
@@ -56,17 +67,19 @@ SignalPipe::SignalPipe(std::initializer_list<int> numbers, Times times, QObject 
     action.sa_flags = SA_RESTART;
     if (times == Times::Once)
         action.sa_flags |= static_cast<int>(SA_RESETHAND);
-    for (const int number : m_numbers) {
+    for (const int number : numbers) {
         RouteOf(number).writeEnd = m_ends[1];
-        ::sigaction(number, &action, nullptr);
+        Caught caught = {number, {}};
+        if (::sigaction(number, &action, &caught.before) == 0)
+            m_caught.push_back(caught);
     }
 }
 
 SignalPipe::~SignalPipe()
 {
-    for (const int number : m_numbers) {
-        std::signal(number, SIG_DFL);
-        RouteOf(number).writeEnd = -1;
+    for (const Caught &caught : m_caught) {
+        ::sigaction(caught.number, &caught.before, nullptr);
+        RouteOf(caught.number).writeEnd = -1;
     }
     for (const int end : m_ends)
         ::close(end);
@@ -93,8 +106,7 @@ QuitSignals::QuitSignals(Losses losses, QObject *parent)
         return;
     }
     // They may come several times.
-    m_losses = std::make_unique<SignalPipe>(std::initializer_list<int> {SIGHUP, SIGPIPE},
-                                            SignalPipe::Times::Always);
+    m_losses = std::make_unique<SignalPipe>(LossSignals(), SignalPipe::Times::Always);
     connect(m_losses.get(), &SignalPipe::Received, this, &QuitSignals::Requested);
 }
 

@@ -3,13 +3,14 @@
 
 #include <QObject>
 
-#include <initializer_list>
+#include <csignal>
 #include <memory>
 #include <vector>
 
 namespace ClockPlayer {
 
-/// While one lives, its signals arrive as Received(). There may be one for each signal at a time.
+/// While one exists, its signals arrive as Received(); afterwards they do what they did before.
+/// There may be one for each signal at a time.
 class SignalPipe : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,7 @@ public:
         Always,
     };
 
-    SignalPipe(std::initializer_list<int> numbers, Times times, QObject *parent = nullptr);
+    SignalPipe(const std::vector<int> &numbers, Times times, QObject *parent = nullptr);
     ~SignalPipe() override;
 
     /// Whether this number has ever arrived at a pipe, even if no event loop has run since.
@@ -32,7 +33,14 @@ Q_SIGNALS:
 private:
     void Empty();
 
-    std::vector<int> m_numbers;
+    /// A signal, and what the process did with it before.
+    struct Caught
+    {
+        int number;
+        struct sigaction before;
+    };
+
+    std::vector<Caught> m_caught;
     int m_ends[2] = {-1, -1};
 };
 
@@ -44,7 +52,10 @@ class QuitSignals : public QObject
 
 public:
     enum class Losses {
-        End,    ///< SIGHUP and SIGPIPE emit Requested() too: the terminal or a reader has gone
+        /// SIGHUP and SIGPIPE emit Requested() too: the terminal or a reader has gone. A SIGHUP
+        /// that
+        /// is ignored at the start, as by nohup, stays ignored.
+        End,
         Ignore, ///< SIGPIPE does nothing, and SIGHUP is somebody else's
     };
 
