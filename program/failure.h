@@ -1,5 +1,5 @@
-// How the player ends when something is wrong: a sentence for the person at the shell, and the
-// exit code that scripts test.
+// program/: errors as values, for player, tools and studio: a message for the user, and the exit
+// code of a program that ends with it.
 #pragma once
 
 #include <QString>

@@ -97,7 +97,7 @@ double Steady();
 /// Runs from this instant in real time, whatever happens to the system's clock.
 void RunFrom(qint64 utcMilliseconds);
 
-/// Pauses at this instant.
+/// Pauses at this instant, at the speed of real time.
 void HoldAt(qint64 utcMilliseconds);
 
 } // namespace StageTime

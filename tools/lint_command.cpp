@@ -76,10 +76,12 @@ void LintClocks(const QDomDocument &document, const QString &path, const Choices
         return;
     const Result<ClockProgram::MadeNodes> made = ClockProgram::MakeNodes(*program, FindClockPlugin);
     if (!made)
-        return;
+        return LintAreas(*program, findings);
     LintGlyphs(*program, *made, findings);
     if (choices.year)
         LintFit(*program, *made, *choices.year, findings);
+    else
+        LintAreas(*program, findings);
 }
 
 CommandResult LintFile(const QString &path, const Choices &choices)

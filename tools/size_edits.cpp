@@ -105,7 +105,7 @@ Failure CannotBeEdited(const QString &path)
     return {ExitCode::ProgramError, QStringLiteral("%1: its text cannot be edited").arg(path)};
 }
 
-// The sizes that the clocks of a program have are the wanted ones.
+// The changes that did not take effect in a program.
 QVector<SizeChange> Missing(const QByteArray &contents, const QString &path,
                             const QVector<SizeChange> &changes)
 {

@@ -33,7 +33,6 @@ constexpr char kDescription[] =
     "Exit codes: 0 exact, 1 not exact, or not known, 2 wrong command line, 3 no such zone.";
 
 constexpr int kFirstYear = 1970;
-constexpr int kLastYear = 2027;
 
 const QString kList = QStringLiteral("list");
 const QString kYear = QStringLiteral("year");
@@ -137,7 +136,7 @@ QDate FirstDay(const ToolArguments &tool)
     if (!tool.IsSet(kYear))
         return Lw::HNodeClock::SystemDate();
     const int year = tool.Value(kYear).toInt();
-    return year >= kFirstYear && year <= kLastYear ? QDate(year, 1, 1) : QDate();
+    return year >= kFirstYear && year <= kLastListedYear ? QDate(year, 1, 1) : QDate();
 }
 
 CommandResult ListZones(const ToolArguments &tool)
@@ -178,7 +177,7 @@ CommandResult RunZone(const QStringList &arguments)
     tool.AddOption({kYear},
                    QStringLiteral("The ten years begin with <year>, %1 to %2 (default: today).")
                        .arg(kFirstYear)
-                       .arg(kLastYear),
+                       .arg(kLastListedYear),
                    kYear);
     tool.AddOutput();
     tool.AddAlternative(kList, QStringLiteral("List the system's zones, one per line."));
@@ -188,8 +187,9 @@ CommandResult RunZone(const QStringList &arguments)
         return ListZones(tool);
     const QDate first = FirstDay(tool);
     if (!first.isValid())
-        return Report(ClockProgram::UsageFailure(
-            QStringLiteral("--year needs a year from %1 to %2").arg(kFirstYear).arg(kLastYear)));
+        return Report(ClockProgram::UsageFailure(QStringLiteral("--year needs a year from %1 to %2")
+                                                     .arg(kFirstYear)
+                                                     .arg(kLastListedYear)));
     return WriteSettings(tool, TenYearsFrom(first));
 }
 

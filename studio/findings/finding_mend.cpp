@@ -49,7 +49,11 @@ QVector<Finding> FindingsIn(const ProgramReading &reading)
     const std::optional<QByteArray> contents = EncodeText(reading.text, reading.form);
     if (!contents)
         return {};
-    return ClockTool::LintProgram(reading.program.document, *contents, QString()).ByLine();
+    const QDomDocument &document = reading.program.document;
+    ClockTool::Findings findings = ClockTool::LintProgram(document, *contents, QString());
+    if (const auto program = ClockProgram::InterpretProgram(document, QString()))
+        ClockTool::LintAreas(*program, findings);
+    return findings.ByLine();
 }
 
 int ElementOf(const ProgramReading &reading, const Finding &finding)

@@ -18,6 +18,7 @@ private slots:
     void nearest();
     void largeSizesAreNotLookedAt();
     void everySizeIsRightOrHasAReason();
+    void noSizeThatIsNotLookedAtIsNamed();
 };
 
 void TestLegibleSizes::initTestCase()
@@ -92,6 +93,14 @@ void TestLegibleSizes::everySizeIsRightOrHasAReason()
     QVERIFY(!right.isEmpty());
     for (int points = 1; points <= kLargestLookedAt; ++points)
         QCOMPARE(right.contains(points), LegibilityFault("DejaVu Sans", points, ":").isEmpty());
+}
+
+// At one bit per pixel its strokes run together at all sizes that are checked.
+void TestLegibleSizes::noSizeThatIsNotLookedAtIsNamed()
+{
+    const QString dense = QString::fromUtf8("鬱");
+    QVERIFY(LegibleSizes("DejaVu Sans", dense).isEmpty());
+    QCOMPARE(NearestLegibleSize("DejaVu Sans", kLargestLookedAt, dense), 0);
 }
 
 QTEST_MAIN(TestLegibleSizes)

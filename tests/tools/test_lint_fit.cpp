@@ -47,7 +47,7 @@ const Finding kFindings[] = {
     {"cut", Wall(Digital(Time("60"))), kWarning, "in.xml:5: warning: the time is cut: "},
     {"size", Wall(Digital(Time("60"))), kWarning, " points would fit; all sizes"},
     {"key colour", Wall(Digital(Time("20", "#010201"))), kWarning,
-     "the time has the key colour #010201"},
+     "the colour of the time is the key colour #010201"},
     {"faint", Wall(Digital(Time("20", "#202020"))), kWarning,
      "the colour #202020 of the time has a contrast of 1.3 to #000000"},
     {"blue", Wall(Digital(Time("20", "#0000ff"))), kNote,
@@ -91,6 +91,8 @@ class TestLintFit : public QObject
 private slots:
     void Finds_data();
     void Finds();
+    void ReportsAnAreaOnce_data();
+    void ReportsAnAreaOnce();
     void SaysNothingOfWhatFits();
     void TellsTheFirstDay();
     void WritesJson();
@@ -129,6 +131,32 @@ void TestLintFit::Finds()
     QCOMPARE(run.exitCode, run.errors.contains(": warning: ") ? 1 : 0);
     QVERIFY(run.errors.contains(": " + severity + ": "));
     QVERIFY(!Lint(program, {"--no-fit"}).errors.contains(said));
+}
+
+void TestLintFit::ReportsAnAreaOnce_data()
+{
+    QTest::addColumn<QByteArray>("x");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("off") << QByteArray("500") << QStringList() << "the area is off the screen";
+    QTest::newRow("off, no fit") << QByteArray("500") << QStringList {"--no-fit"}
+                                 << "the area is outside the screen of 200 x 60 pixels";
+    QTest::newRow("partly") << QByteArray("100") << QStringList()
+                            << "the area reaches beyond the screen: 100 pixels at the right";
+    QTest::newRow("partly, no fit")
+        << QByteArray("100") << QStringList {"--no-fit"} << "the area extends beyond the screen";
+}
+
+void TestLintFit::ReportsAnAreaOnce()
+{
+    QFETCH(QByteArray, x);
+    QFETCH(QStringList, options);
+    QFETCH(QString, said);
+    const ProcessRun run =
+        Lint(Wall(Digital(Time("10"))).replace("x=\"0\"", "x=\"" + x + "\""), options);
+    QVERIFY2(run.errors.contains("in.xml:2: "), qPrintable(run.errors));
+    QVERIFY2(run.errors.contains(said), qPrintable(run.errors));
+    QCOMPARE(run.errors.count("the area "), 1);
 }
 
 void TestLintFit::SaysNothingOfWhatFits()

@@ -23,6 +23,9 @@ void TestToolLater::zoneData_data()
     QTest::addColumn<QString>("said");
     QTest::newRow("ten years from today")
         << QDate(2026, 5, 4) << QStringList() << 0 << "exact from 2026-05-04 to 2036-05-04";
+    QTest::newRow("a later year, up to the last listed one")
+        << QDate(2026, 5, 4) << QStringList {"--year", "2030"} << 0
+        << "exact from 2030-01-01 to 2038-01-01";
     QTest::newRow("the last year")
         << QDate(2037, 3, 1) << QStringList() << 0 << "exact from 2037-03-01 to 2038-01-01";
     QTest::newRow("later") << QDate(2040, 6, 1) << QStringList() << 1

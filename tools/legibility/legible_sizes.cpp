@@ -134,7 +134,8 @@ int NearestLegibleSize(const QString &family, int points, const QString &separat
 {
     for (int away = 1; away <= kLargestLookedAt; ++away) {
         for (const int size : {points + away, points - away}) {
-            if (size > 0 && LegibilityFault(family, size, separators).isEmpty())
+            if (size > 0 && size <= kLargestLookedAt
+                && LegibilityFault(family, size, separators).isEmpty())
                 return size;
         }
     }

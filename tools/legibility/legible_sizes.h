@@ -14,7 +14,8 @@ constexpr int kLargestLookedAt = 60; // points
 /// empty when nothing is. The separators are characters that a strip has besides, such as ":".
 QString LegibilityFault(const QString &family, int points, const QString &separators);
 
-/// The nearest size at which nothing is wrong, the larger of two; 0 where there is none.
+/// The nearest size up to kLargestLookedAt at which nothing is wrong, the larger of two; 0 where
+/// there is none.
 int NearestLegibleSize(const QString &family, int points, const QString &separators);
 
 /// All sizes from 1 to kLargestLookedAt at which nothing is wrong.

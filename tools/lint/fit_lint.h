@@ -7,7 +7,7 @@
 
 namespace ClockTool {
 
-/// Looks at the year from an instant on, in milliseconds since 1970-01-01 UTC.
+/// Checks the year that begins at an instant, in milliseconds since 1970-01-01 UTC.
 void LintFit(const ClockProgram::Program &program, const ClockProgram::MadeNodes &made,
              qint64 begin, Findings &findings);
 

@@ -124,7 +124,8 @@ QString FaintWords(const Faint &faint)
 {
     const QString part = NameOf(faint.part);
     if (faint.isKeyColour)
-        return QStringLiteral("the %1 has the key colour %2, which the host shows through")
+        return QStringLiteral("the colour of the %1 is the key colour %2, which the host makes "
+                              "transparent")
             .arg(part, ColourText(faint.ink));
     return QStringLiteral("the colour %1 of the %2 has a contrast of %3 to %4, on which it shows; "
                           "from 3 on it is easy to see")
@@ -154,8 +155,8 @@ QString MissingWords(const MissingCharacters &missing)
         ? QStringLiteral("another family is used for them")
         : QStringLiteral("boxes appear for \"%1\"").arg(missing.boxes);
     const QString having = missing.families.isEmpty()
-        ? QStringLiteral("no installed family has all")
-        : QStringLiteral("%1 have all").arg(Quoted(missing.families));
+        ? QStringLiteral("no installed family has all of them")
+        : QStringLiteral("families with all of them: %1").arg(Quoted(missing.families));
     return QStringLiteral("the family \"%1\" of the %2 lacks \"%3\": %4; %5")
         .arg(missing.family, NameOf(missing.part), missing.characters, instead, having);
 }

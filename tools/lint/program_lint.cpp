@@ -16,29 +16,11 @@ namespace {
 
 using namespace ClockProgram;
 
-/// Areas that are not seen, or not whole.
-void CheckPlaces(const Program &program, Findings &findings)
-{
-    const QRect screen(QPoint(0, 0), program.size);
-    for (const ProgramArea &area : program.areas) {
-        const QDomElement element = area.element.parentNode().toElement();
-        if (!screen.intersects(area.geometry))
-            findings.Warn(At(element),
-                          QStringLiteral("the area is outside the screen of %1 x %2 pixels")
-                              .arg(program.size.width())
-                              .arg(program.size.height()));
-        else if (!screen.contains(area.geometry))
-            findings.Note(At(element), QStringLiteral("the area extends beyond the screen"));
-    }
-}
-
 /// What keeps the program from being played, or from a small device. The failure's text begins with
 /// path and line.
 void CheckStructure(const QDomDocument &document, const QString &path, Findings &findings)
 {
     const Result<Program> program = InterpretProgram(document, path);
-    if (program)
-        CheckPlaces(*program, findings);
     const MaybeFailure failure = program ? CheckFrameBytes(*program) : program.Error();
     if (!failure)
         return;
@@ -125,6 +107,21 @@ Findings LintProgram(const QDomDocument &document, const QByteArray &contents, c
     CheckClocks(document, path, findings);
     CheckSchema(contents, findings);
     return findings;
+}
+
+void LintAreas(const Program &program, Findings &findings)
+{
+    const QRect screen(QPoint(0, 0), program.size);
+    for (const ProgramArea &area : program.areas) {
+        const QDomElement element = area.element.parentNode().toElement();
+        if (!screen.intersects(area.geometry))
+            findings.Warn(At(element),
+                          QStringLiteral("the area is outside the screen of %1 x %2 pixels")
+                              .arg(program.size.width())
+                              .arg(program.size.height()));
+        else if (!screen.contains(area.geometry))
+            findings.Note(At(element), QStringLiteral("the area extends beyond the screen"));
+    }
 }
 
 } // namespace ClockTool

@@ -27,7 +27,7 @@ QString ImportFault(Lw::HNodeClock::Attribute target, Lw::HNodeClock::Conversion
 /// For the value of an "attribute" child.
 QString StoredFault(Lw::HNodeClock::Attribute attribute, const QString &text);
 
-/// For two daylight-saving rules, each of which is sound.
+/// For two daylight-saving rules that are valid or empty.
 QString RulePairFault(const QString &start, const QString &end);
 
 } // namespace ClockTool

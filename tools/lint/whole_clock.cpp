@@ -1,7 +1,7 @@
 #include "whole_clock.h"
 
-#include "clock_words.h"
 #include "legibility/legible_sizes.h"
+#include "setting_place.h"
 #include "suggestion.h"
 #include "value_checks.h"
 #include "zones/rule_note.h"
@@ -11,10 +11,9 @@
 #include "clock_node.h"
 #include "clock_sdk_tables.h"
 #include "compose/element_layout.h"
+#include "display/analog_geometry.h"
 #include "glyph/glyph_set.h"
 #include "program_file.h"
-
-#include <algorithm>
 
 namespace ClockTool {
 
@@ -22,12 +21,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-// Codes of the attribute table, by what they show.
-constexpr int kLabelledTime = 2;
-constexpr int kLabelledShortTime = 3;
-constexpr int kTwelveNumerals = 3;
-constexpr int kFourNumerals = 4;
-constexpr int kUnsetPoints = 12; // of a size of 0
+constexpr int kUnsetPoints = 12; // for a size of 0
 
 class WholeClock
 {
@@ -63,8 +57,8 @@ private:
     {
         const QDomElement older = m_clock.firstChildElement(QLatin1String(Sdk::kClockCom));
         const QString zone = QLatin1String(Sdk::kTimezone);
-        if (!m_clock.hasAttribute(zone) && !older.hasAttribute(Key(Attribute::TimeZone))
-            && !older.hasAttribute(QStringLiteral("timeZone")) && !HasSetting(Attribute::TimeZone))
+        if (!m_clock.hasAttribute(zone) && !older.hasAttribute(QStringLiteral("timeZone"))
+            && !HasSetting(Attribute::TimeZone))
             m_findings.Note(At(m_clock, zone),
                             QStringLiteral("the clock names no time zone and shows the player's, "
                                            "which is UTC; accepted: timezone=\"+01:00\", say"));
@@ -141,13 +135,13 @@ private:
             CheckStrip(Attribute::AnalogDateFName, Attribute::AnalogDateFSize,
                        DateSeparators(Number(Attribute::AnalogDateType)));
         const int marks = Number(Attribute::HourScaleType);
-        if (type == AnalogClock && (marks == kTwelveNumerals || marks == kFourNumerals))
+        if (type == AnalogClock && (marks == TwelveNumerals || marks == FourNumerals))
             CheckStrip(Attribute::HourScaleFName, Attribute::HourScaleFSize, "");
     }
 
     static bool HasColons(int timeType)
     {
-        return timeType != kLabelledTime && timeType != kLabelledShortTime;
+        return timeType != TimeLabelled && timeType != TimeLabelledToMinute;
     }
 
     static const char *DateSeparators(int dateType)
@@ -168,7 +162,7 @@ private:
             return;
         const int right = NearestLegibleSize(name, points, marks);
         m_findings.Warn(
-            PlaceOf(size),
+            PlaceInClock(size),
             QStringLiteral("the digits of %1 lose strokes at %2 points: %3%4")
                 .arg(name.isEmpty() ? QStringLiteral("the default font") : Quoted(name))
                 .arg(points)
@@ -176,34 +170,10 @@ private:
             right > 0 ? QString::number(right) : QString());
     }
 
-    /// The last place that sets an attribute; the clock where it has its default.
-    Place PlaceOf(Attribute attribute) const
+    Place PlaceInClock(Attribute attribute) const
     {
-        Place place = At(m_clock, Key(attribute));
-        bool isSetting = false;
-        const int type = m_node.ClockType() == DigitalClock ? DigitalClock : AnalogClock;
-        for (QDomElement child = m_clock.firstChildElement(); !child.isNull();
-             child = child.nextSiblingElement()) {
-            if (child.tagName() == ClockProgram::kAttributeTag) {
-                if (child.attribute(QStringLiteral("key")) != Key(attribute))
-                    continue;
-                place = At(child, Key(attribute));
-                isSetting = true;
-            } else if (!isSetting) {
-                for (const QString &name : AttributesRead(type, child.tagName()))
-                    if (child.hasAttribute(name) && Sets(type, child.tagName(), name, attribute))
-                        place = At(child, name);
-            }
-        }
-        return place;
-    }
-
-    static bool Sets(int type, const QString &element, const QString &name, Attribute attribute)
-    {
-        const QVector<Reading> readings = ReadingsOf(type, element, name);
-        return std::any_of(readings.cbegin(), readings.cend(), [attribute](const Reading &reading) {
-            return reading.target == attribute;
-        });
+        const SettingPlace place = PlaceOf(m_clock, m_node.ClockType(), attribute);
+        return place.IsSet() ? FindingPlace(place) : At(m_clock, Key(attribute));
     }
 
     const QDomElement m_clock;

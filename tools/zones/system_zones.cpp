@@ -17,9 +17,6 @@ namespace ClockTool {
 namespace {
 
 constexpr int kYears = 10;
-// The system's data list every change up to 2037. What goes on as a rule after it, Qt 5 misreads
-// where a rule names an hour before the day's begin or after its end.
-constexpr int kListedUpTo = 2038;
 
 /// Named first where several zones have one time.
 constexpr const char *kMuchUsed[] = {
@@ -85,12 +82,13 @@ QString CityOf(const QString &zone)
 
 Span TenYearsFrom(const QDate &first)
 {
-    return {MidnightOf(first), MidnightOf(qMin(first.addYears(kYears), QDate(kListedUpTo, 1, 1)))};
+    return {MidnightOf(first),
+            MidnightOf(qMin(first.addYears(kYears), QDate(kLastListedYear + 1, 1, 1)))};
 }
 
 Span ListedAfter(const Span &span)
 {
-    return {span.end, qMax(span.end, MidnightOf(QDate(kListedUpTo, 1, 1)))};
+    return {span.end, qMax(span.end, MidnightOf(QDate(kLastListedYear + 1, 1, 1)))};
 }
 
 QString DateOf(qint64 utc)

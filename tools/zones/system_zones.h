@@ -11,6 +11,10 @@
 
 namespace ClockTool {
 
+/// The system's data list each change up to the end of this year. The rules for later years are not
+/// used: Qt 5 misreads those with an hour before the day's beginning or after its end.
+constexpr int kLastListedYear = 2037;
+
 /// A span in milliseconds since 1970-01-01 UTC, without its end.
 struct Span
 {
@@ -18,11 +22,11 @@ struct Span
     qint64 end;
 };
 
-/// The ten years from a day, as far as the system's data list the changes of zones: to the end of
-/// 2037. It ends before it begins for a later day.
+/// The ten years from a day, or fewer up to the end of kLastListedYear. The span ends before it
+/// begins for a later day.
 Span TenYearsFrom(const QDate &first);
 
-/// What comes after a span, as far as the system's data list the changes of zones; may be empty.
+/// What follows a span, to the end of kLastListedYear; may be empty.
 Span ListedAfter(const Span &span);
 
 /// "2026-03-29", in UTC.

@@ -62,8 +62,9 @@ QVector<int> PossibleOffsets(const CivilTime &civil)
     return offsets;
 }
 
-/// The reading itself, and the nearest midnight where it lies within two hours of one: a change at
-/// midnight by one reading falls on the other day by the other, where no rule may name it.
+/// The reading itself and, for midnight, the last second of the day before, or from 22:00 on, the
+/// next midnight: a change at midnight before the shift is on another day after it, and a rule can
+/// name only one of the two.
 QVector<qint64> ReadingsNear(qint64 reading)
 {
     const QDateTime exact = Utc(reading);
