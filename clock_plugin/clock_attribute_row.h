@@ -1,5 +1,5 @@
-// What the table of a clock's attributes is made of: their names, the row that describes one, and
-// the makers of rows.
+// clock_plugin/: the building blocks of the attribute table: the attribute names, the row type, and
+// the functions that make rows.
 #pragma once
 
 #include "image_bounds.h"
@@ -101,7 +101,7 @@ enum class ValueKind {
     Colour, ///< stored as the host's colour int; the table gives 0xRRGGBB
 };
 
-/// What a value is, to those who show, check or edit it.
+/// The meaning of a value, for display, checks and editing.
 enum class ValueRole {
     Number,     ///< any integer
     Code,       ///< one of the integers of the row's range, each of which has a name
@@ -115,25 +115,25 @@ enum class ValueRole {
     Rule,       ///< of daylight saving: "month.occurrence.weekday.hh:mm:ss"
 };
 
-/// The clocks that an attribute means something to.
+/// The kinds of clock that use an attribute.
 enum class ClockKinds { All, Analog, Digital, Picture };
 
 /// Where the value of a new clock comes from.
 enum class Default {
     Stored,     ///< the row's number or text
     Translated, ///< the translation of the row's text
-    Computed,   ///< made by the node: the identity, and what the host says of the device's zone
+    Computed,   ///< computed by the node: the Id, and the device's zone as given by the host
     Absent,     ///< a new clock does not have the key; only imports and editors write it
 };
 
-/// Whether a write asks for the glyph images to be regenerated.
+/// Whether writing the attribute requires the glyph images to be regenerated.
 enum class Redraw { No, Yes };
 
-/// The numbers that mean something; where a switch takes any number, the two that are documented.
+/// The valid numbers; for a switch that accepts any number, the two documented ones.
 struct ValueRange
 {
     int first = 0;
-    int last = -1;                      ///< below the first where any number means something
+    int last = -1;                      ///< less than `first` if any number is valid
     const char *const *names = nullptr; ///< of the codes from first to last; null for other roles
 
     constexpr bool TakesAll() const { return last < first; }
@@ -161,15 +161,15 @@ struct AttributeRow
     ValueRole role = ValueRole::Text;
     ClockKinds clocks = ClockKinds::All;
     ValueRange range = {};
-    const char *label = ""; ///< a few words that tell it from the clock's other attributes
+    const char *label = ""; ///< a short name, unique within a kind of clock
 };
 
-/// No font above this size, in points, has a line that fits an image. From about twice as much on
-/// Qt draws boxes of a fixed size instead of glyphs, which must not pass for the text.
+/// The largest font size, in points, whose line of text can fit in an image. From about twice this
+/// size Qt draws boxes of a fixed size instead of glyphs, which must not be mistaken for text.
 inline constexpr int kLargestFontSize = kImageSide;
 
-// Makers of rows. Each takes the attribute, its key and the clocks it is for, then what only it
-// needs, then label and meaning.
+// Functions that make rows. Each takes the attribute, its key and the kinds of clock, then its own
+// parameters, then label and meaning.
 
 constexpr AttributeRow NumberAttribute(Attribute attribute, const char *key, ClockKinds clocks,
                                        int value, Redraw redraw, const char *label,
@@ -179,7 +179,7 @@ constexpr AttributeRow NumberAttribute(Attribute attribute, const char *key, Clo
             redraw,    meaning, ValueRole::Number,  clocks,          ValueRange {}, label};
 }
 
-/// The names are those of the codes from first on.
+/// names[i] is the name of code first + i.
 template<int count>
 constexpr AttributeRow CodeAttribute(Attribute attribute, const char *key, ClockKinds clocks,
                                      const char *const (&names)[count], int first, Redraw redraw,
@@ -191,7 +191,7 @@ constexpr AttributeRow CodeAttribute(Attribute attribute, const char *key, Clock
     return row;
 }
 
-/// A switch. The host stores those that hide or show something as flags, the others as numbers.
+/// A switch, stored as a number. ShownAttribute() makes those that are stored as flags.
 constexpr AttributeRow SwitchAttribute(Attribute attribute, const char *key, ClockKinds clocks,
                                        int value, Redraw redraw, const char *label,
                                        const char *meaning)

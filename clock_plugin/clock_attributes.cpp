@@ -1,4 +1,4 @@
-// Finding the keys and rows of the attribute table.
+// Look-up of keys and rows in the attribute table.
 #include "clock_attributes.h"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
-// The attributes of a clock: one row per key, in the order in which a new clock is filled.
+// clock_plugin/: the attribute table of a clock: one row per key, in the order in which InitData
+// writes them.
 //
 // The node's defaults and setters, the reference page and the checks of programs are made from this
 // table. Irregular spellings are part of the contract with the host.
@@ -12,7 +13,7 @@
 
 namespace Lw::HNodeClock {
 
-/// The names of codes, from the first of their range.
+/// The names of the codes, in order.
 namespace CodeNames {
 inline constexpr const char *kClockTypes[] = {"analog", "digital", "picture"};
 inline constexpr const char *kDirections[] = {"ahead", "behind"};
@@ -26,8 +27,8 @@ inline constexpr const char *kHands[] = {"bar", "arrow with a ring"};
 inline constexpr const char *kDates[] = {"year/month/day",
                                          "month/day/year",
                                          "day/month/year",
-                                         "month's name, day, year",
-                                         "day, month's name, year",
+                                         "month name, day, year",
+                                         "day, month name, year",
                                          "year, month and day with labels",
                                          "month and day with labels",
                                          "Persian year/month/day",
@@ -36,24 +37,24 @@ inline constexpr const char *kTimes[] = {
     "hours:minutes:seconds", "hours:minutes", "hours, minutes and seconds with labels",
     "hours and minutes with labels", "hours:minutes without a leading zero"};
 inline constexpr const char *kWeeks[] = {"Chinese", "English", "short English", "Persian"};
-inline constexpr const char *kHours[] = {"twenty-four", "twelve"};
+inline constexpr const char *kHours[] = {"twenty-four hours", "twelve hours"};
 inline constexpr const char *kLayouts[] = {"rows", "one line"};
 } // namespace CodeNames
 
 // clang-format off
 inline constexpr AttributeRow kAttributeTable[] = {
     ComputedDefault(NumberAttribute(Attribute::Id, "Id", ClockKinds::All, 0, Redraw::Yes, "Identity",
-        "Number of the clock in the names of its glyph files; a new clock draws one from 1000 to 1999.")),
+        "Number of the clock in the names of its glyph files; a new clock gets a random one from 1000 to 1999.")),
     CodeAttribute(Attribute::ClockType, "ClockType", ClockKinds::All, CodeNames::kClockTypes, 0, Redraw::Yes, "Kind of clock",
         "Whether the clock is analog, digital or made of pictures."),
     CodeAttribute(Attribute::AdjustType, "AdjustType", ClockKinds::All, CodeNames::kDirections, 0, Redraw::Yes, "Direction of the adjustment",
         "Whether the clock runs ahead of or behind its zone by the adjustment."),
     TextAttribute(Attribute::TimeAdjust, "TimeAdjust", ClockKinds::All, ValueRole::Adjustment, "00A00B00", Redraw::Yes, "Adjustment",
-        "By how much the clock is off its zone: hours, \"A\", minutes, \"B\" and seconds, of two digits each."),
+        "How far the clock is off its zone: hours, \"A\", minutes, \"B\", seconds, two digits each."),
     ComputedDefault(TextAttribute(Attribute::TimeZone, "TimeZone", ClockKinds::All, ValueRole::Zone, "", Redraw::Yes, "Time zone",
         "Offset from UTC: a sign, then \"hh:mm\" or \"h:mm\". The first character always counts as the sign.")),
     ComputedDefault(SwitchAttribute(Attribute::UseDaylightSavingTime, "UseDaylightSavingTime", ClockKinds::All, 0, Redraw::No, "Daylight saving",
-        "Whether the clock goes one hour ahead between the start and the end of daylight saving.")),
+        "Whether the clock is one hour ahead between the start and the end of daylight saving.")),
     RuleAttribute(Attribute::DaylightSavingTimeStart, "DaylightSavingTimeStart", "Start of daylight saving",
         "When daylight saving starts, in standard time: month.occurrence.weekday.hh:mm:ss."),
     RuleAttribute(Attribute::DaylightSavingTimeEnd, "DaylightSavingTimeEnd", "End of daylight saving",
@@ -63,7 +64,7 @@ inline constexpr AttributeRow kAttributeTable[] = {
     NumberAttribute(Attribute::TimeZoneIndex, "TimeZoneIndex", ClockKinds::All, -1, Redraw::No, "Zone choice",
         "The zone chosen in the editor's list; stored only."),
     CodeAttribute(Attribute::PictrueClockType, "PictrueClockType", ClockKinds::Picture, CodeNames::kStyles, 1, Redraw::No, "Style",
-        "Style of the pictures that the clock is made of."),
+        "Picture style of the clock."),
     ColourAttribute(Attribute::HourHandColor, "HourHandColor", ClockKinds::Analog, 0xff0000, "Hour hand colour",
         "Colour of the hour hand."),
     ColourAttribute(Attribute::MinuteHandColor, "MinuteHandColor", ClockKinds::Analog, 0x00ff00, "Minute hand colour",
@@ -136,13 +137,13 @@ inline constexpr AttributeRow kAttributeTable[] = {
     NumberAttribute(Attribute::AnalogSpace, "AnalogSpace", ClockKinds::Analog, 0, Redraw::No, "Row gap",
         "Gap between the text rows in pixels; may be negative."),
     SwitchAttribute(Attribute::AnalogSwapArea, "AnalogSwapArea", ClockKinds::Analog, 0, Redraw::No, "Swap date and weekday",
-        "Whether date and weekday exchange their places."),
+        "Whether the date and the weekday swap places."),
     SwitchAttribute(Attribute::DigitalSwapArea, "DigitalSwapArea", ClockKinds::Digital, 0, Redraw::No, "Swap date and weekday",
-        "Whether date and weekday exchange their places."),
+        "Whether the date and the weekday swap places."),
     NumberAttribute(Attribute::DigitalSpace, "DigitalSpace", ClockKinds::Digital, 0, Redraw::No, "Gap",
         "Gap between the rows, or between the texts on one line, in pixels; may be negative."),
     CodeAttribute(Attribute::DigitalMode, "DigitalMode", ClockKinds::Digital, CodeNames::kHours, 0, Redraw::No, "Hours",
-        "Whether the day has twenty-four hours or twice twelve with an AM/PM mark."),
+        "Whether hours are shown in 24-hour or 12-hour form with an AM/PM mark."),
     CodeAttribute(Attribute::DigitalDisplayMode, "DigitalDisplayMode", ClockKinds::Digital, CodeNames::kLayouts, 0, Redraw::No, "Layout",
         "Whether each text has a row of its own or all are on one line."),
     ShownAttribute(Attribute::Digital_TopTexy_d, "Digital_TopTexy_d", ClockKinds::Digital, Redraw::No, "Show the top text",
@@ -155,7 +156,7 @@ inline constexpr AttributeRow kAttributeTable[] = {
         "Whether the time is shown."),
     TranslatedDefault(TextAttribute(Attribute::DigitalTopText, "DigitalTopText", ClockKinds::Digital, ValueRole::Text,
         QT_TRANSLATE_NOOP("Lw::HNodeClock::HClockNode", "LED"), Redraw::Yes, "Top text",
-        "The fixed text; it comes first.")),
+        "The fixed text in the first position.")),
     FamilyAttribute(Attribute::DigitalTopTextFName, "DigitalTopTextFName", ClockKinds::Digital, "Top text font",
         "Font family of the top text; empty is the default font."),
     SizeAttribute(Attribute::DigitalTopTextFSize, "DigitalTopTextFSize", ClockKinds::Digital, 12, "Top text size",
@@ -197,9 +198,9 @@ inline constexpr AttributeRow kAttributeTable[] = {
     AbsentDefault(ShownAttribute(Attribute::Digital_Lunar_d, "Digital_Lunar_d", ClockKinds::Digital, Redraw::No, "Show the lunar date",
         "Whether the Chinese lunar date is shown.")),
     AbsentDefault(ShownAttribute(Attribute::DigitalDispAMPM, "DigitalDispAMPM", ClockKinds::Digital, Redraw::No, "Show AM/PM",
-        "Whether the AM/PM mark of twelve hours is shown; it is shown where the key is absent.")),
+        "Whether the AM/PM mark of the 12-hour form is shown; shown if the key is absent.")),
     AbsentDefault(TextAttribute(Attribute::Guid, "__GUID__", ClockKinds::All, ValueRole::Text, "", Redraw::No, "GUID",
-        "Its presence makes the SDK export write the node's identifier.")),
+        "If present, the SDK export writes the node's GUID.")),
 };
 // clang-format on
 
@@ -220,10 +221,10 @@ constexpr const AttributeRow &RowOf(Attribute attribute)
     return kAttributeTable[static_cast<int>(attribute)];
 }
 
-/// The key of an attribute as the host's store wants it, made once for the process.
+/// The key of an attribute as a QString, created once per process.
 const QString &Key(Attribute attribute);
 
-/// Null for a key that no attribute has.
+/// The row with a key; null if there is none.
 const AttributeRow *RowNamed(const QString &key);
 
 } // namespace Lw::HNodeClock

@@ -1,4 +1,4 @@
-// What the library shows to programs that load it or link against it. Everything else is hidden.
+// clock_plugin/: CLOCK_EXPORT marks the symbols that the library exports; all others are hidden.
 #pragma once
 
 #include <QtGlobal>

@@ -13,7 +13,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-/// The mean of two draws from 0 to 999: numbers in the middle are more frequent.
+/// 1000 plus the mean of two random numbers from 0 to 999, so middle values are more frequent.
 int DrawIdentity()
 {
     const auto draw = [] {
@@ -64,7 +64,7 @@ int HClockNode::Duration()
     return 6000;
 }
 
-// A listener of the redraws may delete the node while it is filled.
+// A slot connected to ReDrawSourceImage() may delete the node meanwhile.
 void HClockNode::InitData()
 {
     const QPointer<HClockNode> self(this);
@@ -104,9 +104,9 @@ void HClockNode::StoreComputedDefault(Attribute attribute)
     // UseDaylightSavingTime is stored along with the zone.
 }
 
-// Both are of one answer, for a listener of the zone may change what the host answers next. The
-// zone carries no sign, unlike those that editors store, and one west of Greenwich appears as the
-// time of day that it is there at midnight UTC: -5 hours as "19:00".
+// Both come from one call, as a slot may change what the host returns next. The zone has no sign,
+// unlike those that editors store; one west of Greenwich is stored as the local time there at
+// midnight UTC: -5 hours as "19:00".
 void HClockNode::StoreHostTime()
 {
     int offsetSeconds = 0;
@@ -153,7 +153,7 @@ int HClockNode::Digital_Lunar_d()
     return GetAttributeToInt(Key(Attribute::Digital_Lunar_d));
 }
 
-// Widened before its sign is taken off: the smallest int has no positive counterpart.
+// Widened first, as the smallest int has no positive counterpart.
 void HClockNode::SetTimeAdjust(int seconds)
 {
     constexpr qint64 kSecondsOfDay = 24 * 60 * 60;

@@ -1,5 +1,5 @@
-// The content node of one clock: its settings as attributes in the host's store, their conversion
-// to and from SDK XML, and the bookkeeping of its glyph files.
+// clock_plugin/: the content node of one clock: its settings as attributes in the host's store,
+// their conversion to and from SDK XML, and the bookkeeping of its glyph files.
 #pragma once
 
 #include "clock_attributes.h"
@@ -30,7 +30,7 @@ extern CLOCK_EXPORT QStringList fileMd5List;
 /// The type of the node and of the plugin that makes it.
 inline constexpr char kNodeType[] = "LW_Clock_Plugin";
 
-/// What the host calls a recorded image.
+/// The host's number for the kind "image" of a recorded file.
 inline constexpr int kImageFileKind = 3;
 
 namespace Sdk {
@@ -38,7 +38,7 @@ namespace Sdk {
 inline constexpr char kClock[] = "clock";
 } // namespace Sdk
 
-/// The constructor writes no attribute: InitData fills a new clock, UpdateNode one that is read.
+/// The constructor sets no attributes: InitData() sets the defaults, UpdateNode() reads an element.
 class CLOCK_EXPORT HClockNode : public Lw::HContentNode
 {
     Q_OBJECT
@@ -50,19 +50,20 @@ public:
     // The host's operations.
     QString Type() override;                       ///< kNodeType
     bool NodeMatch(QDomElement &element) override; ///< whether the tag is Sdk::kClock
-    /// Takes over what an SDK clock element says; what it does not mention stays. False for a null
-    /// element and for a type that is neither analog nor digital: then only its font was taken.
+    /// Reads an SDK clock element; settings it does not mention are kept. False for a null element
+    /// and for a type that is neither analog nor digital: then only its font is read.
     bool UpdateNode(QDomElement element, QList<Lw::FileInfo> &files) override;
     /// Appends the clock's element to the parent. Fonts, sizes, spacing and layout are not part of
-    /// that form, nor is anything of a picture clock but its zone and adjustment.
+    /// that form; of a picture clock only zone and adjustment are written.
     void CoverToSDKFormate(QDomElement &parent, Lw::GetProgramModel model) override;
-    /// Makes the digest-named glyph images of a node that has no files yet.
+    /// Generates the glyph images under their digest names if the node has no files yet.
     void AfterUpdate(bool isTemp) override;
-    bool NodeAlready(int reason) override; ///< makes the plainly named glyph images; always true
-    bool AllFileExists() override;         ///< a picture clock needs none
+    /// Generates the glyph images under their plain names. Always true.
+    bool NodeAlready(int reason) override;
+    bool AllFileExists() override; ///< always true for a picture clock, which needs none
     void InitData() override; ///< writes the default of every row of the attribute table, in order
     int Duration() override;  ///< 6000 milliseconds
-    /// Appends the node's files that lie in a temporary program's directory; prints the others.
+    /// Appends the node's files in a temporary program's directory; prints the others.
     void GetSDKTempFile(QList<QFileInfo> &out) override;
 
     // Getters.
@@ -118,28 +119,29 @@ public:
     void SetDigitalLunarColor(int colour);
 
     int CovertDisplay(QString text); ///< the SDK's "true" and "false" as 1 and 0
-    /// The stored int of a packed colour; its top byte is ignored.
+    /// Converts a packed colour to the stored int; its top byte is ignored.
     int LWColorToInt(LWColor colour);
 
-    // SDK XML. The keys are of attributes; what the node does not have is not written.
+    // SDK XML. The arguments are attribute keys; absent attributes are not written.
     void ClockSubnodeCoverToSDK(QDomElement &element, QString valueKey, QString colorKey,
                                 QString displayKey);
     void LunarCoverToSDK(QDomElement &element, QString colorKey, QString displayKey);
-    /// Copies what an SDK clock element says into the attributes of an analog, a digital clock.
-    /// What it does not mention stays. Always true.
+    /// Imports the settings of an SDK clock element into the attributes of an analog or a digital
+    /// clock. Attributes it does not mention keep their values. Always true.
     bool PatchAnalog(QDomElement &element);
     bool PatchDigital(QDomElement &element);
 
     // Glyph files.
-    /// Whether a file exists for every key; prints the first that has none.
+    /// Whether every key's file exists; prints the first one that does not.
     bool CheckFileExists(QStringList keys);
     /// Moves the node's glyph images under their digests' names into destDir, which ends in a
-    /// separator, and records them there. The images must carry their plain names: after an
-    /// AfterUpdate or an earlier call there is nothing to move, and the records lose their files.
+    /// separator, and records the new paths. The images must still have their plain names: after an
+    /// AfterUpdate or an earlier call there is nothing to move, and the records then point to
+    /// missing files.
     void ProcessFileName(QString destDir);
-    /// The same for the one image called name + key. No image is lost: it goes only where the same
-    /// bytes are there under the digest's name. The record and the entries of both lists are made
-    /// even for an image that is missing or cannot be moved.
+    /// The same for the one image called name + key. No image is lost: the source is removed only
+    /// when the same bytes exist under the digest's name. The record and the entries in both lists
+    /// are added even for an image that is missing or cannot be moved.
     void SetFileInfo(QString name, QString key, QString destDir);
     /// Records every "file" child on the node, unchanged, and appends it to files.
     void ProcFile(QDomElement &element, QList<Lw::FileInfo> &files);
@@ -149,8 +151,8 @@ Q_SIGNALS:
     void SizeChanged(QSize size); ///< declared for the host; never emitted here
 
 private:
-    // Write one attribute and emit ReDrawSourceImage() where its row of the table says so. A
-    // listener may have deleted the node by the time they return.
+    // Write one attribute and emit ReDrawSourceImage() if its row of the table says so. A slot may
+    // have deleted the node by the time they return.
     Q_DECL_HIDDEN void Store(Attribute attribute, int value);
     Q_DECL_HIDDEN void Store(Attribute attribute, const QString &value);
     Q_DECL_HIDDEN void StoreDefault(const AttributeRow &row);
@@ -163,7 +165,8 @@ private:
     Q_DECL_HIDDEN QString SdkAdjust(); // the stored adjustment as the SDK writes it
     Q_DECL_HIDDEN void CoverChildToSDK(QDomElement &child, const ExportSource &source);
 
-    // True once the analog spacing or swap was written. Kept for the host; nothing here reads it.
+    // True once the analog spacing or swap was written. Nothing reads it, but it is part of the
+    // object's size, which hosts may rely on.
     bool m_analogRowsWritten = false;
 };
 

@@ -1,4 +1,5 @@
-// The node's side of its glyph files: when they are made, whether they are there, how they travel.
+// clock_plugin/: HClockNode's glyph files: generating them, checking that they exist, exporting
+// them.
 #include "clock_node.h"
 
 #include "glyph/draw_source_image.h"
@@ -20,13 +21,13 @@ QStringList fileMd5List;
 
 namespace {
 
-// The host's logs are searched for these lines, so their source and numbers do not follow ours.
+// Host-side tools search the log for these lines, so file name and line numbers are fixed.
 constexpr char kLogSource[] = "clock_node.cpp";
 constexpr int kMissingFileLine = 790;
 constexpr int kMovedFileLine = 839;
 constexpr int kNotTemporaryLine = 827;
 
-// Where programs lie that are only tried out, on the controller and on the editor's machine.
+// Directories of temporary programs, on the controller and on the editor's machine.
 constexpr char kControllerTempFolder[] = "/root/Box/project/temp/project/";
 constexpr char kEditorTempFolder[] = "/tmp/lwTempProgram/";
 
@@ -54,7 +55,7 @@ void HClockNode::AfterUpdate(bool isTemp)
     if (!files.isEmpty())
         return;
     DrwSourceIMage().DrawClockSourceImage(this, true, isTemp);
-    GetAllFileList(files); // lets the host take notice of the new files
+    GetAllFileList(files); // some hosts update their file list here
 }
 
 bool HClockNode::AllFileExists()

@@ -1,4 +1,4 @@
-// SDK XML, out and in, and what is read back of an exported clock.
+// clock_plugin/: HClockNode: writes and reads SDK XML.
 #include "clock_node.h"
 
 #include "calendar/clock_time.h"
@@ -41,7 +41,7 @@ int ParsedColour(const QString &name)
     return Lw::HAppConfig::ColorToInt(colour);
 }
 
-/// Seconds of a sign and "hh:mm:ss"; nothing for a text that is not just that.
+/// Parses a sign and "hh:mm:ss" into seconds; nullopt for any other text.
 std::optional<int> SignedSeconds(const QString &text)
 {
     const QTime time = ParseTimeOfDay(text.mid(1));
@@ -55,7 +55,7 @@ std::optional<int> SignedSeconds(const QString &text)
     return {};
 }
 
-/// The clock type that an element names; nothing where its type is a word of no kind of clock.
+/// The clock type that an element names; nullopt for an unknown type.
 std::optional<int> ClockTypeIn(const QDomElement &element)
 {
     const QDomElement clockCom = element.firstChildElement(QLatin1String(Sdk::kClockCom));
@@ -147,8 +147,8 @@ void HClockNode::LunarCoverToSDK(QDomElement &element, QString colorKey, QString
     }
 }
 
-// The font takes effect before the type is judged: an element that is refused for its type has
-// set its font all the same.
+// The font is read before the type is checked: an element rejected for its type has set its font
+// nevertheless.
 bool HClockNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &files)
 {
     if (element.isNull())
@@ -211,7 +211,6 @@ void HClockNode::Import(const QDomElement &clock, const ImportElement *begin,
     }
 }
 
-// The attribute table says whether a write asks for the glyph images to be regenerated.
 void HClockNode::Apply(Attribute target, Conversion conversion, const QString &text)
 {
     switch (conversion) {

@@ -1,4 +1,4 @@
-// The library's front door: the object that Qt's plugin loader hands to the host.
+// clock_plugin/: the plugin's root object, which Qt's plugin loader returns to the host.
 #pragma once
 
 #include "clock_export.h"
@@ -9,8 +9,8 @@
 
 namespace Lw::HNodeClock {
 
-// The base is spelled "INodePlugin" and the interface "Lw::INodePlugin" on purpose: a cast by name
-// then answers "INodePlugin" and the interface string, and nothing else.
+// Base "INodePlugin" and interface "Lw::INodePlugin" are deliberately different: qt_metacast() then
+// accepts "INodePlugin" and the interface's IID, and no other name.
 class CLOCK_EXPORT HNodeClock : public QObject, public INodePlugin
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     QString type() override;                         ///< as HClockNode::Type() says
     Lw::HNode *Create() override; ///< a clock node without attributes; the caller owns it
     using INodePlugin::Create;
-    /// A renderer for a clock node; the caller owns it. A node of another class counts as none.
+    /// A renderer for a clock node; the caller owns it. A node of another class is treated as null.
     Lw::IContentRender *CreateAreaRender(Lw::HNode *node) override;
 };
 

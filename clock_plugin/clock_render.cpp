@@ -22,13 +22,13 @@ constexpr int kIdle = 0;
 constexpr int kStarted = 1;
 constexpr int kRefused = 2;
 
-// The state returns to 0 when the tick counter passes this.
+// The state returns to kIdle once this many ticks were counted.
 constexpr int kStartingTicks = 10;
 
-// Every field but the reserved word, which stays as it was allocated: it is the host's own. So the
-// record is made where it stays, for a copy would read that word. The host may take the node away
-// as each of its questions is asked; without one, size and position
-// are those of a new record, and alpha blending is off.
+// Sets every field except the reserved word, which belongs to the host and stays uninitialised. The
+// record is therefore never copied, as a copy would read that word. The host may delete the node
+// during any of these calls; without a node, size and position are those of a default record and
+// alpha blending is off.
 std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
                                               QPointer<HClockNode> node)
 {
@@ -45,7 +45,7 @@ std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
     return record;
 }
 
-// The renderer has no properties of its own, so what hosts may ask of a frame is a child object's.
+// Hosts read the frame damage as a property of this child: the renderer itself must not get any.
 class FrameDamage : public QObject
 {
     Q_OBJECT
@@ -77,8 +77,8 @@ HClockRender::~HClockRender()
     CleanResources();
 }
 
-// What is called here is the host's, or a derived renderer's, and may remove this renderer, or
-// delete it or its node.
+// The calls below go to the host or a derived renderer, which may remove this renderer, or delete
+// it or its node.
 void HClockRender::Start(unsigned int playIdentifier, long long)
 {
     if (!m_node || playIdentifier == 0 || !m_player) {
@@ -119,12 +119,12 @@ void HClockRender::Remove()
         CleanResources();
 }
 
-// While a frame is drawn the host is asked for the time, sizes and attributes, and may remove this
-// renderer, or delete it. So the drawer is held here until it has returned.
+// Drawing a frame calls the host for the time, sizes and attributes; it may remove or delete this
+// renderer. The drawer is therefore held here until it returns.
 void HClockRender::PlayNext()
 {
     if (!m_node || !m_drawer) {
-        // The host's logs are searched for this line, so its number does not follow the source.
+        // Host-side tools search the log for this line, so its number is fixed.
         qDebug("Enter:[%s::%s::%d]", "clock_render.cpp", "PlayNext", 135);
         return;
     }
@@ -141,7 +141,7 @@ void HClockRender::PlayNext()
         return;
     m_drawer.swap(drawer);
     m_player->UpdateImage(std::move(frame));
-    // The player's slots may do the same.
+    // UpdateImage() may remove or delete this renderer too.
     if (!self || !m_player)
         return;
     CountTick();
@@ -156,7 +156,7 @@ int HClockRender::renderState()
 void HClockRender::CleanResources()
 {
     m_drawer.reset();
-    // Stopping may come back here, or delete this renderer.
+    // Stop() may re-enter this function or delete this renderer.
     const QScopedPointer<pictureplayer> player(m_player.take());
     if (player)
         player->Stop();

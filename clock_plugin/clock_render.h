@@ -1,4 +1,4 @@
-// Plays one clock: has a frame drawn each second and hands it to the host's player.
+// clock_plugin/: plays one clock: draws a frame each second and passes it to the host's player.
 #pragma once
 
 #include "clock_export.h"
@@ -17,8 +17,8 @@ namespace Lw::HNodeClock {
 
 class DrawDisplayImage;
 
-/// Owns the frame drawer and the player; holds the node guarded. The renderer has no timer: the
-/// player calls PlayNext again when the time given by UpdateEffect has run out.
+/// Owns the frame drawer and the player; holds the node in a QPointer. The renderer has no timer:
+/// the player calls PlayNext again after the time passed to UpdateEffect.
 class CLOCK_EXPORT HClockRender : public Lw::IContentRender
 {
     Q_OBJECT
@@ -27,10 +27,10 @@ public:
     explicit HClockRender(HClockNode *node);
     ~HClockRender() override;
 
-    /// Shows the first frame at once. Refused (state 2) without a living node or with identifier 0.
-    /// So is a renderer that was removed: the host must not start it again.
+    /// Shows the first frame at once. Refused (state 2) if the node is gone, the identifier is 0,
+    /// or the renderer was removed.
     void Start(unsigned int playIdentifier, long long position) override;
-    void Pause() override; ///< nothing: a clock cannot pause
+    void Pause() override; ///< does nothing
     void Stop() override;
     void Remove() override; ///< stops, then releases drawer and player
     void PlayNext() override;
@@ -46,7 +46,7 @@ private:
     int m_state;
     unsigned int m_playIdentifier = 0;
     int m_tickCounter = 0;
-    QScopedPointer<DrawDisplayImage> m_drawer; // null once removed, as the player
+    QScopedPointer<DrawDisplayImage> m_drawer; // like the player, null once removed
     QScopedPointer<Lw::pictureplayer> m_player;
 };
 

@@ -1,5 +1,6 @@
-// The SDK's XML form of a clock: what is read from it, in the order in which it takes effect, and
-// what is written into it. Irregular spellings are part of the contract with the controller.
+// clock_plugin/: the SDK's XML form of a clock as tables: what is imported, in the order in which
+// it is applied, and what is exported. Irregular spellings are part of the contract with the
+// controller.
 #pragma once
 
 #include "clock_attributes.h"
@@ -27,13 +28,13 @@ inline constexpr const char *kTypeNames[] = {"dial", "digital", "picture"};
 /// How the text of an XML attribute becomes the value of a clock's attribute.
 enum class Conversion {
     Text,           ///< unchanged
-    Number,         ///< the whole text as a decimal; 0 when it is none
+    Number,         ///< the whole text as a decimal integer; 0 if it is not one
     InvertedNumber, ///< 1 when the number is 0, else 0
     Flag,           ///< the words "true" and "false"
-    Colour,         ///< the host's reading of a colour name
-    ParsedColour,   ///< Qt's reading of a colour name, then the host's int of that colour
+    Colour,         ///< a colour name, converted by the host
+    ParsedColour,   ///< a colour name parsed by QColor, then the host's int of that colour
     AdjustSeconds,  ///< a number of seconds, stored as sign and magnitude
-    AdjustTime,     ///< a sign and "hh:mm:ss", likewise; every other text changes nothing
+    AdjustTime,     ///< a sign and "hh:mm:ss", stored in the same way; any other text is ignored
 };
 
 struct ImportSource
@@ -42,7 +43,7 @@ struct ImportSource
     Conversion conversion = Conversion::Text;
 };
 
-/// One setting. Presence decides: an attribute that is there wins over the fallback, even empty.
+/// One setting. If the source attribute is present, even empty, the fallback is not read.
 struct ImportRow
 {
     Attribute target;
@@ -52,8 +53,8 @@ struct ImportRow
 
 inline constexpr int kMaxImportRows = 10;
 
-/// The settings of one child element; without a name, of the clock element itself. The fallback
-/// is read only when there is no element of the name.
+/// The settings of one child element; without a name, of the clock element itself. The fallback is
+/// read only if there is no element with the name.
 struct ImportElement
 {
     const char *name = nullptr;
@@ -104,7 +105,7 @@ inline constexpr ImportElement kAnalogImport[] = {
         {Attribute::HourScaleColor, {"hourScaleColor", Conversion::Colour}},
         {Attribute::MinuteScaleType, {"minuteScaleType", Conversion::Number}},
         {Attribute::MinuteScaleColor, {"minuteScaleColor", Conversion::Colour}}}},
-    // The exported form of the lunar row; it comes last and so wins over "lunar".
+    // The exported form of the lunar row; being last, it wins over "lunar".
     {"lunarCalendar", nullptr, {
         {Attribute::AnalogLunarColor, {Sdk::kColor, Conversion::Colour}},
         {Attribute::Analog_Lunar_d, {Sdk::kDisplay, Conversion::Flag}}}},
@@ -194,7 +195,8 @@ inline constexpr ImportElement kTimeImport[] = {
         {Attribute::TimeAdjust, {Sdk::kAdjust, Conversion::AdjustTime}}}},
 };
 
-/// What a child element of the exported clock says; without a colour it stays empty.
+/// The attributes written to a child element of an exported clock; without a colour the element is
+/// empty.
 struct ExportSource
 {
     std::optional<Attribute> value = {};

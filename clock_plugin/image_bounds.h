@@ -1,5 +1,5 @@
-// How large an image may be. The raster engine paints nothing beyond 32767 pixels, and the device
-// has little memory: whatever a program asks for, nothing larger is made.
+// clock_plugin/: limits of image sizes. The raster engine paints nothing beyond 32767 pixels, and
+// the device has little memory: larger images are never created.
 #pragma once
 
 #include <QSize>
@@ -7,13 +7,14 @@
 
 namespace Lw::HNodeClock {
 
-constexpr int kImageSide = 32767;
+constexpr int kImageSide = 32767;          ///< pixels
 constexpr qint64 kGlyphBytes = 64LL << 20; ///< a glyph image, written or read, or an element
 constexpr qint64 kFrameBytes = 256LL << 20;
-constexpr qint64 kClockGlyphBytes = 64LL << 20;    ///< what the glyph images of a clock take
-constexpr qint64 kProcessGlyphBytes = 256LL << 20; ///< and those of all clocks
+constexpr qint64 kClockGlyphBytes = 64LL << 20; ///< all glyph images of one clock
+constexpr qint64 kProcessGlyphBytes = 256LL
+    << 20; ///< all glyph images of all clocks of the process
 
-/// Whether an image of 32 bits a pixel has pixels at all and stays within the bounds.
+/// Whether an image of 32 bits per pixel is not empty and within the bounds.
 inline bool WithinBounds(const QSize &size, qint64 bytes)
 {
     return !size.isEmpty() && size.width() <= kImageSide && size.height() <= kImageSide

@@ -1,6 +1,6 @@
-// What went wrong when the glyph images of a clock were made or loaded, told on its node. Hosts that
-// want to know ask for it after NodeAlready(), AfterUpdate() or CreateAreaRender(); all others need
-// not know of it.
+// host/: faults found while a clock's glyph images are generated or loaded, stored as a property of
+// its node. Hosts that want them call GlyphFaultsOf() after NodeAlready(), AfterUpdate() or
+// CreateAreaRender(); others can ignore them.
 #pragma once
 
 #include <QObject>
@@ -14,18 +14,18 @@ namespace Lw {
 struct GlyphFault
 {
     enum Kind {
-        NotWritten, ///< it could not be written; an older one of that name stays
-        TooLarge,   ///< beyond 32767 pixels a side or 64 MiB; an older one of that name stays
+        NotWritten, ///< it could not be written; an older file of that name is kept
+        TooLarge,   ///< above 32767 pixels per side or 64 MiB; an older file is kept
         NoFont,     ///< no font is installed at all
         NoLetters,  ///< no installed font has some of its letters: boxes are drawn for them
-        NoInk,      ///< it was made, and shows nothing although its text should
+        NoInk,      ///< it was generated but is blank although its text is not
         NotKept,    ///< not shown: the images of its clock, or of all, would take too much memory
     };
 
     Kind kind = NotWritten;
     QString key;     ///< of the image
-    QString path;    ///< where it was written, or should have been, under its plain name
-    int error = 0;   ///< of NotWritten, the system's number
+    QString path;    ///< the path under its plain name, whether or not it was written
+    int error = 0;   ///< for NotWritten: the value of errno
     QString letters; ///< of NoLetters, those that are lacking
 };
 
@@ -34,8 +34,8 @@ struct GlyphFault
 inline constexpr char kGlyphFaults[] = "glyphFaults";
 
 /// The faults of the node's last generation: of all images for what was not written, of those that
-/// the clock shows for the rest. And what its last renderer does not keep. Empty for a node that
-/// had none made and has no renderer, and for nodes of plugins that do not tell.
+/// the clock shows for the rest, and of those that its last renderer could not load. Empty for a
+/// node without generated images and renderer, and for nodes of plugins that do not report faults.
 inline QVector<GlyphFault> GlyphFaultsOf(const QObject &node)
 {
     QVector<GlyphFault> faults;
@@ -50,7 +50,7 @@ inline QVector<GlyphFault> GlyphFaultsOf(const QObject &node)
     return faults;
 }
 
-/// For plugins: replaces what the node tells.
+/// For plugins: replaces the faults stored on the node.
 inline void SetGlyphFaults(QObject &node, const QVector<GlyphFault> &faults)
 {
     QVariantList list;
@@ -60,8 +60,8 @@ inline void SetGlyphFaults(QObject &node, const QVector<GlyphFault> &faults)
                                  {QStringLiteral("path"), fault.path},
                                  {QStringLiteral("error"), fault.error},
                                  {QStringLiteral("letters"), fault.letters}});
-    const bool tells = node.property(kGlyphFaults).isValid();
-    if (tells || !list.isEmpty())
+    const bool hasFaults = node.property(kGlyphFaults).isValid();
+    if (hasFaults || !list.isEmpty())
         node.setProperty(kGlyphFaults, list.isEmpty() ? QVariant() : QVariant(list));
 }
 

@@ -1,4 +1,4 @@
-// The application's configuration, one for the process.
+// host/: the application's configuration, one per process.
 #pragma once
 
 #include <QColor>
@@ -25,8 +25,8 @@ public:
     /// The device's offset from UTC in seconds, and whether daylight saving is on.
     void GetTimeInfo(int &utcOffsetSeconds, bool &daylightSaving);
 
-    // Beyond what plugins call, for players and tests. The two directories are created where
-    // missing and given their trailing separator.
+    // Not called by plugins; for players and tests. The two directories are created if missing and
+    // given their trailing separator.
     static void SetClockOutputPath(QString directory);
     static void SetTempProgramImagePath(QString directory);
     static void SetTimeInfo(int utcOffsetSeconds, bool daylightSaving);
@@ -37,7 +37,7 @@ private:
     ~HAppConfig();
     Q_DISABLE_COPY(HAppConfig)
     class Private;
-    Private *d; // plain: a host with settings of its own need not say what it is
+    Private *d; // a raw pointer, so that other hosts can define their own Private
 };
 
 } // namespace Lw

@@ -1,4 +1,4 @@
-// A node that shows something in an area of the display.
+// host/: a node that shows content in an area of the display.
 #pragma once
 
 #include "hnode.h"

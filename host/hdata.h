@@ -1,4 +1,4 @@
-// The attribute store that every node is: settings by key, and files by file key.
+// host/: the base class of every node: a store of settings by key and of files by file key.
 #pragma once
 
 #include "lw_types.h"
@@ -18,7 +18,7 @@ struct FileRecord
     int kind = 0;
 };
 
-/// Attributes and file records are two name spaces: one key may stand in both.
+/// Attributes and file records are separate namespaces: the same key may be used in both.
 class HData
 {
 public:
@@ -26,13 +26,13 @@ public:
 
     QString GetAttribute(QString key);  ///< the value as text; empty when absent
     int GetAttributeToInt(QString key); ///< the value as int; 0 when absent or not a number
-    /// Creates or replaces. A host may tell others of it where asked to; this one never does.
+    /// Creates or replaces. With `notify` a host may notify others; this one never does.
     void SetAttribute(QString key, int value, bool notify);
     void SetAttribute(QString key, QString value, bool notify);
     bool HaveAttribute(QString key);
 
     QString GetFirstFile(QString key); ///< the path recorded under a file key; empty when none
-    /// Records a file. A record of the same key is replaced in its place.
+    /// Records a file. An existing record with the same key is replaced and keeps its position.
     void SetFilePath(QString key, QString path, QString name, long long size, int kind);
 
     QString GetGuid(); ///< the node's identifier; empty until it is set
@@ -42,8 +42,8 @@ public:
     // Beyond what plugins call, for players and tests.
     QStringList AttributeKeys();     ///< in order of first writing
     QList<FileRecord> FileRecords(); ///< in order of first recording
-    /// Called after each SetFilePath of any node; null: nothing is called. A plugin records each
-    /// glyph image once it is written, so a program can look up between two images.
+    /// Sets a function called after each SetFilePath of any node; null for none. A plugin records
+    /// each glyph image once it is written, so a program can check for signals between two images.
     static void SetRecordObserver(void (*observer)());
 
 protected:

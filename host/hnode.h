@@ -1,4 +1,4 @@
-// A node of the program tree.
+// host/: a node of the program tree.
 #pragma once
 
 #include "hdata.h"
@@ -17,12 +17,12 @@ QT_END_NAMESPACE
 
 namespace Lw {
 
-/// The virtual operations stand in the order of their slots, which plugins built elsewhere rely
-/// on: never reorder them, add only at the end.
+/// The order of the virtual functions is the vtable layout, which plugins built elsewhere rely on:
+/// never reorder them, add only at the end.
 ///
-/// A comment says what an operation is for and, after "here", what this class does, for kinds of
-/// nodes that do not override it. Where it says only "here", hosts give the operation its meaning
-/// and no plugin of ours relies on one. Lists are appended to, never cleared.
+/// Comments say what a function is for and, after "here", what this base class does for kinds of
+/// nodes that do not override it. If a comment has only the "here" part, the meaning is defined by
+/// the host and our plugin does not depend on it. Lists are appended to, never cleared.
 class HNode : public QObject, public HData
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     explicit HNode(QObject *parent = nullptr);
     ~HNode() override;
 
-    virtual QString Type(); ///< the type of the plugin that makes such nodes; here empty
+    virtual QString Type(); ///< INodePlugin::type() of its plugin; here empty
     virtual int Level();    ///< here 0
     /// Lists the recorded files, in order of first recording.
     virtual void GetAllFileList(QList<Lw::HSendFileInfo> &files);
@@ -39,34 +39,35 @@ public:
     virtual QString GetGuid();
     virtual bool HaveSourcFile();
     virtual bool NodeMatch(QDomElement &element); ///< whether it describes such a node; here false
-    /// Takes over what an element says and lists its files. False where it describes no such node;
-    /// here always, and nothing is taken.
+    /// Reads the element's settings and appends its files. False if it does not describe such a
+    /// node; here always false.
     virtual bool UpdateNode(QDomElement element, QList<Lw::FileInfo> &files);
     /// Appends the node's element in the SDK's form to the parent; here nothing.
     virtual void CoverToSDKFormate(QDomElement &parent, Lw::GetProgramModel model);
-    /// Told when the node's program was updated, and whether that is a temporary one; here nothing.
+    /// Called after the node's program was updated; isTemp if it is a temporary one. Here nothing.
     virtual void AfterUpdate(bool isTemp);
-    /// Takes ownership. False for null, and for a node that this one lies within.
+    /// Takes ownership. False for null, for this node itself and for its ancestors.
     virtual bool AddChild(Lw::HNode *child);
-    /// The same; false for a negative index too. The stand-in keeps no order.
+    /// The same; also false for a negative index. The order is not kept here.
     virtual bool InsertChild(int index, Lw::HNode *child);
-    virtual Lw::HNode *Copy();      ///< a new node, the caller's; here null
+    virtual Lw::HNode *Copy();      ///< a new node owned by the caller; here null
     virtual void ReloadAttribute(); ///< here nothing
-    virtual void Delete();          ///< deleted when control is back in the event loop
+    virtual void Delete();          ///< deletes the node later, from the event loop
     virtual bool Close(bool save);  ///< whether it may be closed; here true
-    /// Makes the files to be sent in a directory and lists them; false on failure; here always.
+    /// Generates the files to be sent in a directory and appends them; false on failure; here
+    /// always false.
     virtual bool Generator(QString directory, QList<Lw::HSendFileInfo> &files, int model);
     virtual bool Export(QList<Lw::HSendFileInfo> &files); ///< here false
     virtual bool Import(QString path);                    ///< here false
-    /// Told that the node's attributes are complete; false where it cannot be shown; here true.
+    /// Called when the node's attributes are complete; false if it cannot be shown; here true.
     virtual bool NodeAlready(int reason);
     virtual bool UsbExport();                      ///< here false
-    virtual bool AllFileExists();                  ///< whether it lacks no file; here true
+    virtual bool AllFileExists();                  ///< whether all its files exist; here true
     virtual void ControllerChange();               ///< here nothing
     virtual void InitData();                       ///< fills a new node; here nothing
     virtual bool SDKInitData(void *data);          ///< here false
     virtual void ReloadAttrbute(Lw::HNode *other); ///< here nothing
-    virtual int Duration();                        ///< of one showing, milliseconds; here 0
+    virtual int Duration();                        ///< of one presentation, in milliseconds; here 0
     virtual int TotalFile();                       ///< how many files are recorded
     virtual void GeneratorFinish();                ///< here nothing
     virtual void RebuildNode();                    ///< here nothing

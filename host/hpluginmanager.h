@@ -1,4 +1,4 @@
-// Loads content plugins and knows which one an element of a program belongs to.
+// host/: loads content plugins and finds the one that claims an element of a program.
 #pragma once
 
 #include <QScopedPointer>
@@ -26,11 +26,11 @@ public:
     // Beyond what plugins call, for players and tests.
     void SetAlphaBlend(bool supported);
     /// Loads every library of the directory that is not loaded yet; a file reached through several
-    /// links is loaded once. Returns the number of plugins added; Refusals() says the rest.
+    /// links is loaded once. Returns the number of plugins added; Refusals() lists the others.
     int LoadDirectory(QString directory);
-    /// Loads one library. Returns whether it is loaded now; the reason when not is in Refusals().
+    /// Loads one library. False if it could not be loaded, with the reason in Refusals().
     bool LoadFile(QString path);
-    /// One sentence, with its path, for each file refused since the process began.
+    /// "path: reason" for each file refused since the process started.
     QStringList Refusals();
     int PluginCount();
     QString PluginPath(int index); ///< of the plugin at an index below PluginCount()

@@ -1,4 +1,4 @@
-// The door of a content plugin: what the host asks of the object that a plugin library hands out.
+// host/: the interface of a content plugin's root object, through which the host uses it.
 #pragma once
 
 #include "icontentrender.h"
@@ -18,15 +18,15 @@ namespace Lw {
 
 class HNode;
 
-/// The virtual operations stand in the order of their slots; see HNode.
+/// The order of the virtual functions is fixed; see HNode.
 class INodePlugin
 {
 public:
     virtual ~INodePlugin() = default;
-    virtual QString name() { return QString(); }        ///< for people; empty where there is none
+    virtual QString name() { return QString(); }        ///< display name; may be empty
     virtual bool PluginMatch(QDomElement &element) = 0; ///< whether the element is this plugin's
     virtual int level() = 0;    ///< plugins of lower levels are asked first; a clock's is 4
-    virtual QString type() = 0; ///< what HNode::Type says of its nodes
+    virtual QString type() = 0; ///< equals HNode::Type() of its nodes
     virtual QIcon icon()
     {
         static QIcon none;

@@ -1,4 +1,4 @@
-// The host's small shared types: what travels through its lists and calls.
+// host/: small types shared by the host's interfaces: colours, file lists, program kinds.
 #pragma once
 
 #include <QString>
@@ -10,8 +10,8 @@ namespace Lw {
 class HModel;
 class HVersion;
 
-/// A packed colour: red in bits 0-7, green in bits 8-15, blue in bits 16-23 (0x00BBGGRR).
-/// The top byte carries nothing.
+/// A packed colour: red in bits 0-7, green in bits 8-15, blue in bits 16-23 (0x00BBGGRR). The top
+/// byte is unused.
 using LWColor = quint32;
 
 /// The packed colour of three channels from 0 to 255, and the channels of one.
@@ -32,7 +32,7 @@ constexpr int BlueOf(LWColor color)
     return static_cast<int>(color >> 16 & 0xff);
 }
 
-/// The kind of program being exported. Nodes hand it on without looking at it.
+/// The kind of program being exported. Nodes pass it on unchanged.
 enum GetProgramModel {
     ProgramForController = 0,
     ProgramForPreview = 1,
@@ -55,7 +55,7 @@ struct HSendFileInfo
     QStringList companions; ///< files that must travel with this one
 };
 
-/// The boolean words of SDK XML: "true" is 1; "false" and every other text are 0.
+/// The SDK's boolean words as an int: "true" is 1, any other text 0.
 int BooleanToInt(QString text);
 
 } // namespace Lw

@@ -1,5 +1,5 @@
-// The host's image player: shows the frames that a renderer hands it, and calls the renderer back
-// when the time for the next one has come.
+// host/: the host's image player: shows the frames of a renderer and calls the renderer back when
+// the next frame is due.
 #pragma once
 
 #include <QImage>
@@ -21,25 +21,25 @@ enum EffectType {
     EffectNone = 0,
 };
 
-/// The start record. Its fields lie without holes on the 32-bit device; fill it by name. This
-/// player keeps it whole and reads only the identifier.
+/// The start record. It has no padding on the 32-bit device; set fields by name. This player stores
+/// all of it and uses only the identifier.
 struct SessionParameter
 {
     QString name;            ///< a clock has none
     quint32 playIdentifier;  ///< as given to IContentRender::Start
     QPoint position;         ///< of the area, pixels from the screen's top left
     QSize size;              ///< of the area, pixels
-    quint32 reservedWord;    ///< the host's own: a clock leaves it unwritten
+    quint32 reservedWord;    ///< reserved for the host; a clock leaves it uninitialised
     quint32 words[5];        ///< 0 for a clock
-    quint16 timing;          ///< 1000 for a clock, which has a frame every thousand milliseconds
+    quint16 timing;          ///< frame interval in milliseconds: 1000 for a clock
     quint8 reservedBytes[2]; ///< 0 for a clock
     quint8 effectBytes[4];   ///< 0 for a clock: no effects
-    bool alphaBlend;         ///< whether the output can blend this node; HPluginManager says it
+    bool alphaBlend;         ///< HPluginManager::SuportAlphaBlend() of the node
     bool lastFlag;           ///< true for a clock
 };
 
 #if defined(__arm__) && QT_POINTER_SIZE == 4
-static_assert(offsetof(SessionParameter, lastFlag) == 57, "the start record must have no holes");
+static_assert(offsetof(SessionParameter, lastFlag) == 57, "the start record must have no padding");
 #endif
 
 class pictureplayer : public QObject
@@ -50,24 +50,25 @@ public:
     explicit pictureplayer(QObject *parent); ///< idle, without an image
     ~pictureplayer() override;
 
-    /// Prepares output and ends the wait for PlayNext. The record is copied; the caller keeps its
-    /// own. Null only ends the wait.
+    /// Prepares output and cancels a pending PlayNext call. The record is copied; the caller keeps
+    /// its own. Null only cancels.
     void Init(const SessionParameter *parameter);
-    void UpdateImage(QImage image); ///< shows it until the next one; a null one too
-    /// The next call of the renderer's PlayNext comes after that many milliseconds; with 0 or less
-    /// when control returns to the event loop. The effect is not shown.
+    void UpdateImage(QImage image); ///< shown until the next one; may be null
+    /// Schedules the renderer's next PlayNext() after so many milliseconds; with 0 or less, when
+    /// control returns to the event loop. The effect is ignored.
     void UpdateEffect(int milliseconds, EffectType effect);
-    void Stop(); ///< ends the wait; the last image stays
+    void Stop(); ///< cancels the pending call; the last image stays
 
     // Beyond what plugins call, for players and tests.
     SessionParameter Parameter(); ///< a copy of the last record; all 0 before Init
     QImage LastImage();           ///< the one given last to UpdateImage; null before
-    /// Whose PlayNext the player of this identifier calls. Null unregisters. The renderer is held
-    /// guarded: one that is deleted is simply no longer called.
+    /// Sets the renderer whose PlayNext the player with this identifier calls. Null unregisters.
+    /// The renderer is held by a guarded pointer: once deleted, it is no longer called.
     static void Register(unsigned int playIdentifier, Lw::IContentRender *render);
-    /// The player that was last initialised with this identifier; null when none lives.
+    /// The player last initialised with this identifier; null if there is none.
     static pictureplayer *ForIdentifier(unsigned int playIdentifier);
-    /// Divides all waits by the scale. With 0 nothing is waited for: the program calls PlayNext.
+    /// Divides all waits by the scale. With 0 there are no timers: the program calls PlayNext
+    /// itself.
     static void SetTimeScale(double scale);
 
 Q_SIGNALS:
@@ -81,6 +82,7 @@ private:
 
 } // namespace Lw
 
+// Hosts and plugins also use these names without the namespace.
 using Lw::EffectType;
 using Lw::pictureplayer;
 using Lw::SessionParameter;

@@ -20,7 +20,7 @@ constexpr qint64 kMillisecond = 1000000; // nanoseconds
 constexpr qint64 kSecond = 1000 * kMillisecond;
 constexpr double kLongestWait = 1e12; // milliseconds; some thirty years
 constexpr qint64 kTogether = 2 * kMillisecond;
-// After so long with frames to draw still, the event loop may show those that are drawn.
+// If drawing takes longer than this, return to the event loop so that finished frames are shown.
 constexpr qint64 kLongestTurn = 20 * kMillisecond;
 
 qint64 Now()
@@ -67,7 +67,7 @@ void PlaySchedule::Cancel(const void *waiter)
     m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), isOf), m_entries.end());
 }
 
-// A wait of nothing that a callback begins ends in the next turn, not in this one.
+// A wait of 0 ms started by a callback fires in the next turn, not in this one.
 void PlaySchedule::Fire()
 {
     quint64 expirations = 0;

@@ -1,4 +1,4 @@
-// host/: when the image players call their renderers. Private to the stand-in.
+// host/: the shared timer by which the image players call their renderers. Private to the stand-in.
 #pragma once
 
 #include <QObject>
@@ -8,7 +8,7 @@
 
 namespace Lw {
 
-/// The waits of all image players, on one timer of the kernel. Waits that end within two
+/// The waits of all image players on one kernel timer (timerfd). Waits that end within two
 /// milliseconds of each other end together with the last of them, so that clocks which show the
 /// same second wake the process once. No wait ends early.
 class PlaySchedule : public QObject

@@ -6,7 +6,7 @@
 #include <QPointer>
 #include <QTranslator>
 
-// The resources of a static library are registered by hand, and outside any namespace.
+// Q_INIT_RESOURCE is needed for resources in a static library, and must be outside any namespace.
 static void RegisterCatalogues()
 {
     Q_INIT_RESOURCE(clock_catalogues);

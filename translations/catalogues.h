@@ -1,4 +1,4 @@
-// The catalogues that come with the clock: wording for the texts it translates, in a few languages.
+// translations/: installs the shipped translation catalogues of the clock's texts.
 #pragma once
 
 #include <QStringList>
@@ -12,7 +12,7 @@ namespace ClockCatalogues {
 /// The codes of the languages shipped, in alphabetical order.
 QStringList Languages();
 
-/// The shipped language of a locale; English where there is none.
+/// The shipped language for a locale; English if there is none.
 QString LanguageFor(const QLocale &locale);
 
 /// Installs a language's catalogue on the application, which owns it from then on, in place of the
@@ -20,7 +20,7 @@ QString LanguageFor(const QLocale &locale);
 /// an application.
 bool Install(const QString &language);
 
-/// The same for a choice that was left open where it is empty: the locale's language then.
+/// The same; an empty language means that of the system locale.
 bool InstallChosen(const QString &language);
 
 /// The code of the language that was installed last; empty where none was.

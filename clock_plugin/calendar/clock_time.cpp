@@ -18,8 +18,8 @@ bool IsAscii(const QString &text)
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 128; });
 }
 
-// Texts come from outside and may have any size, so the length is checked first. Qt also accepts
-// the digits of the program's locale; a text must mean the same on every device.
+// Untrusted texts may have any size, so the length is checked first. QTime::fromString() also
+// accepts the locale's digits; a text must mean the same on every device.
 QTime TimeFromText(const QString &text, const QString &pattern, int longest)
 {
     return text.size() <= longest && IsAscii(text) ? QTime::fromString(text, pattern) : QTime();

@@ -1,5 +1,5 @@
-// calendar/: the displayed time as fields and texts, and the texts that set it. Pure functions of
-// their arguments.
+// calendar/: splits the displayed time into fields, formats it, and parses zones and adjustments.
+// Pure functions of their arguments.
 #pragma once
 
 #include "calendar/daylight_saving.h" // for programs that expect all clock settings here
@@ -23,11 +23,11 @@ struct DisplayedFields
     int dayOfWeek = 0; ///< 1 Monday to 7 Sunday
 };
 
-/// The fields of a reading in milliseconds since 1970-01-01 UTC, for every value: what a QDateTime
-/// tagged UTC would answer, without making one.
+/// The fields of a reading, in milliseconds since 1970-01-01 00:00, for every value. The same
+/// fields as of a QDateTime with Qt::UTC, but without constructing one.
 DisplayedFields SplitReading(qint64 reading);
 
-/// A date, a time of day or both by one of Qt's formats, in ASCII digits: for every text that is
+/// Formats a date, a time of day or both in Qt's format syntax with ASCII digits, for text that is
 /// stored, exported or read by a program. (Their own toString() writes the system locale's digits.)
 /// Empty for an invalid one.
 QString PlainText(const QDate &date, const char *format);

@@ -17,7 +17,7 @@ qint64 MillisecondsOfDate(const QDate &date)
     return QDateTime(date, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
 }
 
-// A number of 1 to highest; 0 for every other text.
+// A number from 1 to highest; 0 for any other text.
 int NumberUpTo(int highest, const QStringRef &text)
 {
     const int number = text.toInt();

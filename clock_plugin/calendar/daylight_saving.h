@@ -1,5 +1,5 @@
-// calendar/: daylight saving, rule texts, the boundaries that they name, and the shift of a
-// reading. Pure.
+// calendar/: daylight saving: parses rules, finds the boundaries they name, and shifts a reading.
+// Pure.
 //
 // A reading is what a clock shows, in milliseconds since 1970-01-01 00:00 on that clock. All
 // boundaries are readings of the zone's standard time, the end of the period included.
@@ -24,7 +24,7 @@ struct DaylightRule
     QTime time;         ///< of the zone's standard time
 };
 
-/// Reads a rule, or nothing from any other text:
+/// Parses a rule; nothing for any other text:
 ///
 ///     rule       = month "." occurrence "." weekday "." time
 ///     month      = 1 to 12
@@ -32,9 +32,9 @@ struct DaylightRule
 ///     weekday    = 1 (Monday) to 7 (Sunday)
 ///     time       = hh ":" mm ":" ss
 ///
-/// Numbers are decimal integers as QString::toInt reads them: white space around them, a sign and
-/// leading zeros are accepted. "Last" is case-sensitive; the time has two ASCII digits per field.
-/// A rule may name a day that the month does not have in every year, such as a fifth Sunday.
+/// Numbers are decimal integers as QString::toInt() parses them: surrounding white space, a sign
+/// and leading zeros are accepted. "Last" is case-sensitive; the time has two ASCII digits per
+/// field. A rule may name a day that the month does not have in every year, such as a fifth Sunday.
 std::optional<DaylightRule> ParseDaylightRule(const QString &text);
 
 /// The reading that a rule names in a year, tagged UTC; invalid when that year has no such day, for
@@ -45,9 +45,8 @@ QDateTime BoundaryInYear(const DaylightRule &rule, int year);
 /// start wraps the new year; equal boundaries are no period.
 bool InDaylightPeriod(qint64 reading, qint64 start, qint64 end);
 
-/// Answers from frame to frame whether daylight saving is in force. Parses the rules again only
-/// when a text changes and finds the boundaries only when the year changes; otherwise it does not
-/// allocate.
+/// Says for each frame whether daylight saving is in force. Parses the rules again only when a text
+/// changes and finds the boundaries only when the year changes; otherwise it does not allocate.
 class DaylightSaving
 {
 public:
@@ -66,7 +65,7 @@ private:
     QString m_endText;
     std::optional<DaylightRule> m_startRule;
     std::optional<DaylightRule> m_endRule;
-    // The readings of the current year, without the end; no year while both are equal.
+    // The current year as readings, end exclusive; equal while there is none.
     qint64 m_yearBegin = 0;
     qint64 m_yearEnd = 0;
     bool m_hasPeriod = false;

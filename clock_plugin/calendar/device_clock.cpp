@@ -36,8 +36,8 @@ struct KnownDate
 };
 thread_local KnownDate t_date;
 
-// A source may answer anything. Within these bounds, some 285 million years either way, zones
-// and seconds are added without overflow.
+// A source may return any value. Within these bounds, about 285 million years either way, zones and
+// seconds are added without overflow.
 constexpr qint64 kFurthest = Q_INT64_C(9000000000000000000);
 
 qint64 ReadSource()

@@ -1,4 +1,4 @@
-// calendar/: the device's clock, the one place where the clocks read the system's time.
+// calendar/: the device clock, the only place where clocks read the system time.
 #pragma once
 
 #include "clock_export.h"
@@ -14,14 +14,14 @@ CLOCK_EXPORT void clock_set_time_source(long long (*utcMilliseconds)(void));
 
 namespace Lw::HNodeClock {
 
-/// Stops the time of this thread while it exists, so that all parts of a frame show one instant. An
-/// inner one keeps the outer one's instant.
+/// Freezes the time of this thread during its lifetime, so that all parts of a frame show one
+/// instant. A nested one keeps the outer one's instant.
 class HeldReading
 {
 public:
     HeldReading();
-    /// The reading is this instant, also within an outer one, whose reading comes back afterwards.
-    /// For asking what a clock will show.
+    /// Freezes the time at this instant, even when nested; the outer instant is restored
+    /// afterwards. Used to find out what a clock shows at another time.
     explicit HeldReading(qint64 utcMilliseconds);
     ~HeldReading();
     Q_DISABLE_COPY(HeldReading)

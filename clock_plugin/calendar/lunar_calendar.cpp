@@ -12,7 +12,7 @@
 #include <limits>
 
 // clang-format off
-// Written as bytes: in another encoding the characters would not fit their slots.
+// Written as bytes, as the slots fit GB2312 only.
 constexpr char Gan[10][3] = {
     "\xBC\xD7", "\xD2\xD2", "\xB1\xFB", "\xB6\xA1", "\xCE\xEC", "\xBC\xBA",
     "\xB8\xFD", "\xD0\xC1", "\xC8\xC9", "\xB9\xEF",
@@ -45,8 +45,8 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-// Numbers of the cycles: 31 January 1900 is in the month of number 14, ten days of the day cycle
-// had passed on 1 January 1900, and the year of number 0 is 1864.
+// Cycle numbers: the month of 31 January 1900 has number 14, ten days of the day cycle had passed
+// on 1 January 1900, and the year with number 0 is 1864.
 constexpr int kFirstYear = 1900;
 constexpr int kFirstMonthCycle = 14;
 constexpr int kFirstDayCycle = 10;
@@ -65,7 +65,7 @@ constexpr int SolarMonthDays(int year, int month)
     return kDays[month - 1] + (month == 2 && IsLeapYear(year) ? 1 : 0);
 }
 
-// Days from 1 January of the year 1 to that of another.
+// Days from 1 January of the year 1 to 1 January of another year.
 constexpr std::int64_t DaysBeforeYear(std::int64_t year)
 {
     const std::int64_t past = year - 1;

@@ -1,5 +1,6 @@
-// calendar/: the Chinese lunar calendar as its host calls it, over the pure lunar_date. The
-// functions outside the namespace keep the query and the last answer in globals: one thread only.
+// calendar/: the host's C interface to the Chinese lunar calendar, a wrapper of the pure
+// lunar_date. The functions outside the namespace keep query and result in globals, so they are not
+// thread-safe.
 #pragma once
 
 #include "clock_export.h"
@@ -15,7 +16,7 @@ struct Lunar_info
     int isLeap;    ///< 1 while the month is the leap month
 };
 
-/// Numbers of the sixty-part cycles.
+/// Positions in the sexagenary cycles.
 struct Chinese_era
 {
     int year;
@@ -34,8 +35,8 @@ extern CLOCK_EXPORT const char Animals[12][3];
 extern CLOCK_EXPORT const char chinese_month[12][5];
 extern CLOCK_EXPORT const char chinese_day[30][5];
 
-// The Gregorian year and month of the current query, a day that nothing here sets, and the last
-// answer.
+// The Gregorian year and month of the current query, a day that is never set here, and the last
+// result.
 extern CLOCK_EXPORT int s_year;
 extern CLOCK_EXPORT int s_month;
 extern CLOCK_EXPORT int s_day;
@@ -43,9 +44,9 @@ extern CLOCK_EXPORT char returnstr[20];
 
 /// The lunar date as "month$day", the day with two digits ("3$05", "12$29"), in returnstr, which
 /// the next call overwrites. Empty before 1 February 1900 and after 10 February 2051. A day outside
-/// its month leaves the previous answer.
+/// its month leaves the previous result.
 CLOCK_EXPORT char *LunarCalendarSetup(int year, int month, int day);
-/// Writes the answer for a day of s_year and s_month into returnstr.
+/// Writes the result for a day of s_year and s_month into returnstr.
 CLOCK_EXPORT void sub_menue(int day);
 /// The lunar date of the first day of a Gregorian month; all zero for a month outside February 1900
 /// to February 2051.
@@ -61,8 +62,7 @@ CLOCK_EXPORT int get_solar_total(int year, int month);
 /// The weekday of the first of a Gregorian month: 1 Sunday to 7 Saturday.
 CLOCK_EXPORT int get_week(int year, int month);
 
-// Years outside the table have no leap month, and every month has 29 days, as have months outside
-// 1 to 12.
+// Outside the table years have no leap month, and months 29 days, as have months outside 1 to 12.
 
 /// The leap month of a lunar year, 0 for none.
 CLOCK_EXPORT int get_leap_month(int year);
@@ -73,7 +73,7 @@ CLOCK_EXPORT int get_lunar_month_total(int year, int month);
 /// Days of a lunar year, the leap month included.
 CLOCK_EXPORT int get_lunar_year_total(int year);
 
-/// The two characters of a cycle number in GB2312: four bytes and a zero.
+/// The stem and branch of a sexagenary number in GB2312: four bytes and a terminating zero.
 CLOCK_EXPORT void get_chinese_era(int cycle, char *out);
 /// The day of a lunar date as two digits and a zero; empty for a day outside 1 to 30.
 CLOCK_EXPORT void out_chinese(Lunar_info *info, char *out);

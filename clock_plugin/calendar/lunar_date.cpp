@@ -33,7 +33,7 @@ constexpr int kYears = 151;
 
 constexpr qint64 kFirstNewYear = 2415051; // Julian day of 31 January 1900, lunar new year
 
-// Outside the table: a year without leap month and 30-day months.
+// 0 outside the table: no leap month, and every month has 29 days.
 constexpr unsigned int Entry(int year)
 {
     return year >= kFirstYear && year < kFirstYear + kYears ? lunar_info[year - kFirstYear] : 0;
@@ -123,8 +123,8 @@ LunarDate DateInYear(int year, int daysSinceNewYear)
 
 LunarDate LunarDateOf(const QDate &date)
 {
-    // 31 January 1900 has an entry but no answer: days of January 1900 are counted from its first,
-    // which the table does not reach.
+    // 31 January 1900 is in the table but gives no lunar date: days of January 1900 are counted
+    // from the 1st, which the table does not reach.
     if (!date.isValid() || date.toJulianDay() <= kFirstNewYear
         || date.toJulianDay() >= kFirstNewYear + kNewYears.back())
         return {};

@@ -12,16 +12,16 @@ constexpr qint64 kAnchorJulianDay = 2449068; // 21 March 1993
 constexpr int kCycleYears = 128;
 constexpr int kLeapYears = 31;
 constexpr qint64 kCycleDays = kCycleYears * 365 + kLeapYears;
-// Cycles whose years all fit an int; QDate reaches a little further.
+// The number of cycles whose years fit an int; QDate's range is slightly larger.
 constexpr qint64 kCycles = (std::numeric_limits<int>::max() - kAnchorYear) / kCycleYears;
 
 constexpr int kLongMonths = 6; // of 31 days; the others have 30, the last one 29 in common years
 constexpr int kLongMonthsDays = kLongMonths * 31;
 
-// Each year adds 31/128 of a day to 365 whole ones; it is leap where the sum passes a whole day.
+// Each year adds 31/128 of a day to 365 whole ones; a year is leap when the sum passes a whole day.
 // 31/128 is a convergent of the fraction of the mean tropical year, 365.2422 days (after 1/4, 7/29
 // and 8/33); the 38 places the cycle so that 1375 is leap, as in Iran. Years up to -38 are all
-// leap: the rule was first computed with fractions that keep their sign, and its answers are fixed.
+// leap: the rule is defined with fractions that keep their sign.
 constexpr bool IsLeap(int year)
 {
     constexpr int kPhase = 38;

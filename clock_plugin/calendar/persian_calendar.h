@@ -1,8 +1,8 @@
-// calendar/: the Persian (Solar Hijri) calendar, counted from one fixed anchor. Pure.
+// calendar/: the Persian (Solar Hijri) calendar, computed from a fixed anchor date. Pure.
 //
-// Leap years follow an arithmetic rule of 31 in 128 years, not the equinox. From 1993 to 2060
-// the two differ twice: from 20 March 2025 to 20 March 2026, and from 20 March 2058 to 20 March
-// 2059, the rule is one day ahead of the calendar of Iran.
+// Leap years follow an arithmetic rule (31 in 128 years), not the equinox. From 1993 to 2060 the
+// two differ twice: from 20 March 2025 to 20 March 2026, and from 20 March 2058 to 20 March 2059,
+// the rule is one day ahead of the calendar of Iran.
 #pragma once
 
 #include <QDate>

@@ -1,4 +1,4 @@
-// calendar/: units of time, and the division that counts them before an epoch as after it.
+// calendar/: units of time, and division rounding down, which also works before the epoch.
 #pragma once
 
 #include <QtGlobal>
@@ -19,7 +19,7 @@ constexpr qint64 FloorDivide(qint64 value, qint64 divisor)
     return value / divisor - (value % divisor < 0 ? 1 : 0);
 }
 
-/// What that division leaves: 0 to divisor - 1.
+/// The remainder of that division: 0 to divisor - 1.
 constexpr qint64 FloorModulo(qint64 value, qint64 divisor)
 {
     const qint64 rest = value % divisor;

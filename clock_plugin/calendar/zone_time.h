@@ -1,6 +1,5 @@
-// calendar/: zone arithmetic, what a clock adds to UTC at an instant, and when that changes. Pure.
-// Instants are milliseconds since 1970-01-01 UTC, far enough from the ends of their type to add a
-// day.
+// calendar/: zone arithmetic: what a clock adds to UTC at an instant, and when that changes. Pure.
+// Instants are UTC milliseconds, at least a day from the limits of qint64.
 #pragma once
 
 #include "calendar/daylight_saving.h"
@@ -12,7 +11,7 @@
 
 namespace Lw::HNodeClock {
 
-/// What decides the time that a clock shows.
+/// The settings that determine the time a clock shows.
 struct ZoneSettings
 {
     int offset = 0; ///< zone and adjustment: seconds to add to UTC, daylight saving apart
@@ -25,18 +24,18 @@ struct ZoneSettings
 
 /// Seconds that a clock adds to UTC at an instant.
 int OffsetAt(const ZoneSettings &zone, qint64 utc);
-/// The same, with the daylight saving that the caller keeps for one clock: see there.
+/// The same with a DaylightSaving cache, which the caller keeps per clock.
 int OffsetAt(const ZoneSettings &zone, qint64 utc, DaylightSaving &daylight);
 
 /// The instants, in order, at which the offset may change in a range of years of the zone's
-/// standard time: what the rules name in each year, and each new year, when the boundaries of
-/// another year apply. Empty without daylight saving.
+/// standard time: the rules' boundaries in each year, and each new year, when the boundaries of the
+/// next year take effect. Empty without daylight saving.
 QVector<qint64> PossibleChanges(const ZoneSettings &zone, int firstYear, int lastYear);
 
 struct ZoneChange
 {
-    qint64 instant; ///< the first with the new offset
-    int before;     ///< seconds added to UTC up to it
+    qint64 instant; ///< the first instant with the new offset
+    int before;     ///< seconds added to UTC before it
     int after;      ///< and from it on
 };
 

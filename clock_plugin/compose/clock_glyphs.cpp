@@ -58,7 +58,7 @@ void ClockGlyphs::Load(const GlyphSource &source, int clockType, int weekType)
 {
     months = QVector<GlyphStrip>(13);
     const QVector<LoadedGlyph> glyphs = GlyphsLoaded(clockType, weekType);
-    // All go first, so that the new ones find room.
+    // All are released first, so that the new ones fit within the bounds.
     for (const LoadedGlyph &each : glyphs)
         Strip(each.glyph, each.number) = GlyphStrip();
     for (const LoadedGlyph &each : glyphs)
@@ -79,7 +79,7 @@ QVector<const GlyphStrip *> ClockGlyphs::All() const
     return strips;
 }
 
-// Each image once.
+// Shared images are counted once.
 qint64 ClockGlyphs::Bytes() const
 {
     QHash<quint32, qint64> kept;
@@ -95,12 +95,12 @@ bool ClockGlyphs::Has(const GlyphStrip &strip) const
                        [&](const GlyphStrip *each) { return each->Key() == strip.Key(); });
 }
 
-// Whether a further image fits: one that other clocks have loaded, or none and so many bytes.
+// Whether one more image fits: `loaded` if other clocks share it, else a new one of `bytes`.
 bool ClockGlyphs::HasRoom(const GlyphStrip &loaded, qint64 bytes) const
 {
     const bool isLoaded = loaded.Key() != 0;
     const qint64 process = GlyphBytesInProcess() + (isLoaded ? 0 : bytes);
-    // Usually all clocks together stay within what one may have.
+    // Shortcut: usually all clocks together stay within the bound for one.
     return process <= kClockGlyphBytes || (isLoaded && Has(loaded))
         || (process <= kProcessGlyphBytes && Bytes() + bytes <= kClockGlyphBytes);
 }

@@ -1,4 +1,4 @@
-// compose/: the glyph images of one clock, loaded within bounds of memory.
+// compose/: the glyph images of one clock, loaded within memory limits.
 #pragma once
 
 #include "clock_node.h"
@@ -14,15 +14,15 @@
 
 namespace Lw::HNodeClock {
 
-/// Gives a glyph image; the number counts within a series from 1, and is 0 for a single image.
+/// Returns a glyph image; `number` is the place in a series, from 1, or 0 for a single image.
 using GlyphSource = std::function<GlyphStrip(Glyph glyph, int number)>;
 
-/// One image that is looked up while the clock plays: loaded again only when its recorded path or
-/// the file's size or time of change differ from the last time.
+/// An image that is checked during playback and reloaded only when its recorded path or the file's
+/// size or modification time has changed.
 class LiveGlyph
 {
 public:
-    /// The file is loaded by the source, which is given its path.
+    /// `source` loads a file by its path.
     const GlyphStrip &Load(const QString &path,
                            const std::function<GlyphStrip(const QString &)> &source);
     const GlyphStrip &Image() const { return m_image; } ///< as loaded last
@@ -34,11 +34,11 @@ private:
     GlyphStrip m_image;
 };
 
-/// Strips without pixels stand for files that are not recorded, missing, damaged or too large.
+/// A strip is null if its file is not recorded, missing, damaged or too large.
 struct ClockGlyphs
 {
     GlyphStrip lunar;
-    QVector<GlyphStrip> weeks; ///< seven, Monday first; empty until a known week code was loaded
+    QVector<GlyphStrip> weeks; ///< seven, Monday first; empty until a valid week code was loaded
     GlyphStrip topText;
     GlyphStrip timeNumber;
     GlyphStrip timeCh;
@@ -52,20 +52,20 @@ struct ClockGlyphs
     LiveGlyph morningMark;
     LiveGlyph afternoonMark;
 
-    /// Loads what a clock of that type shows; the rest stays. A week code outside 0 to 3 leaves
-    /// the week images as they were.
+    /// Loads the images for a clock type; others are kept. A week code outside 0 to 3 leaves the
+    /// week images as they were.
     void Load(const GlyphSource &source, int clockType, int weekType);
 
-    /// The image in a file; one without pixels where this clock or the process would then keep more
-    /// than the bounds for all their glyph images (image_bounds.h). That is known from the file's
-    /// size and kind, before it is decoded.
+    /// The image in a file; without pixels if the glyph images of this clock, or of the process,
+    /// would then exceed their limits (image_bounds.h). This is decided from the file's size and
+    /// kind, before it is decoded.
     GlyphStrip LoadFile(const QString &path) const;
-    /// The files recorded on a node, loaded in this way; those that the bounds leave out are added
-    /// to the list, if there is one. All of them must outlive the source.
+    /// A source that loads the files recorded on a node with LoadFile(). Images that exceed the
+    /// limits are appended to `lost`, if given. Node, glyphs and list must outlive the source.
     GlyphSource RecordedFiles(HClockNode &node, QVector<Lw::GlyphFault> *lost = nullptr) const;
 
 private:
-    /// Nothing where there is no room.
+    /// nullopt if the limits do not allow it.
     std::optional<GlyphStrip> LoadWithinBounds(const QString &path) const;
     QVector<const GlyphStrip *> All() const;
     qint64 Bytes() const;

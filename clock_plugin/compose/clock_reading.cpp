@@ -47,7 +47,7 @@ void ClockReading::Update(HClockNode *node)
         TakePersianDate();
 }
 
-// A date without a Persian one stays Gregorian.
+// A date that cannot be converted stays Gregorian.
 void ClockReading::TakePersianDate()
 {
     const QDate date(m_gregorian.year, m_gregorian.month, m_gregorian.day);

@@ -1,5 +1,5 @@
-// compose/: the displayed reading of one clock, from the device's time, zone, adjustment, daylight
-// saving, and the Persian date where the clock shows one.
+// compose/: the time and date that one clock shows, from the device's time, zone, adjustment,
+// daylight saving, and the Persian date where the clock shows one.
 #pragma once
 
 #include "calendar/clock_time.h"
@@ -15,10 +15,10 @@ namespace Lw::HNodeClock {
 class ClockReading
 {
 public:
-    /// Takes zone and adjustment from the node; they hold until the next set-up.
+    /// Reads zone and adjustment from the node; they are kept until the next SetUp().
     void SetUp(HClockNode &node);
-    /// Reads the time and the attributes that are read live. Without a node there is no daylight
-    /// saving and no Persian date.
+    /// Reads the time and the attributes that may change while playing. Without a node there is no
+    /// daylight saving and no Persian date.
     void Update(HClockNode *node);
 
     /// What the clock shows. Year, month and day are Persian for a clock that shows the Persian

@@ -1,4 +1,4 @@
-// compose/: dates, which pieces in which order on a canvas of which width.
+// compose/: lays out dates: pieces, their order and the width of the canvas.
 #include "clock_attributes.h"
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
@@ -9,7 +9,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// The parts of a date, in the units that an order is written in.
+// The parts a date format is composed of.
 enum class Part { Year, Month, MonthName, Day, Separator, Minus, Space, Label0, Label1, Label2 };
 
 /// What reserves the width of a date.
@@ -46,9 +46,9 @@ public:
           m_label(glyphs.dateCh.Width() / kLabelCells)
     { }
 
-    // Formats with separators reserve the whole comma-and-slash image for their two separators,
-    // also where the minus is drawn instead; those with a month's name reserve half of it and a
-    // second blank, which stay empty at the right.
+    // Formats with separators reserve the width of the whole comma-and-slash image for their two
+    // separators, also if hyphens are drawn instead; those with a month name reserve half of it and
+    // a second space, which remain empty at the right.
     long long CanvasWidth(Canvas canvas) const
     {
         const long long digits = 4LL * m_digit + 2LL * m_digit;

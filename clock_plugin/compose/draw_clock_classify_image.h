@@ -1,5 +1,5 @@
-// compose/: the elements of a clock (date, time, week, lunar date, top text) as pixmaps, composed
-// of the node's glyph images for the time in its own zone.
+// compose/: the host's class for the elements of a clock (date, time, week, lunar date, top text)
+// as pixmaps, composed from the node's glyph images for the current time in its zone.
 #pragma once
 
 #include "calendar/persian_calendar.h"
@@ -36,8 +36,8 @@ public:
     /// The instant that a daylight-saving rule names in the year of a date, as a standard-time
     /// reading tagged UTC; invalid for a rule that is empty, malformed or names no day.
     QDateTime AnalyzeDaylightSavingTime(QDate date, QString rule);
-    /// "AM" or "PM" by the stored hour, which a twelve-hour time pixmap lowers until the next
-    /// time update.
+    /// "AM" or "PM" by the stored hour, which GetTimePixmap() reduces by 12 in 12-hour mode until
+    /// the next time update.
     QString GetTimeAP();
     int CountLeapYear(int year); ///< 1 for a Persian leap year, else 0
     PersianDate CountPersianDate(QDate date);
@@ -49,7 +49,7 @@ public:
     QPixmap GetTopTextPixmap();
     void GetLunarDate(); ///< stores the lunar month and day, without daylight saving
 
-    /// The same elements as views on the images, for drawing frames. Owned by this object.
+    /// The same elements as pieces of glyph strips, for drawing frames. Owned by this object.
     ElementComposer &Elements();
 
 private:

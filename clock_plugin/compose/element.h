@@ -1,4 +1,4 @@
-// compose/: an element of a clock, a canvas composed of pieces of glyph strips.
+// compose/: an element of a clock: a canvas composed of pieces of glyph strips.
 #pragma once
 
 #include "compose/glyph_strip.h"
@@ -12,11 +12,11 @@
 
 namespace Lw::HNodeClock {
 
-/// A part of a strip, full height, and the place of its left edge in the element.
+/// A full-height part of a strip and the x of its left edge in the element, in pixels.
 struct Piece
 {
-    const GlyphStrip *strip = nullptr; ///< valid until the composer that gave it is set up again
-    quint32 stripKey = 0;              ///< tells two strips' contents apart, also after a set-up
+    const GlyphStrip *strip = nullptr; ///< valid until the next SetUp() of its composer
+    quint32 stripKey = 0;              ///< identifies the strip's contents, also after a set-up
     int sourceX = 0;
     int width = 0;
     int x = 0;
@@ -34,7 +34,7 @@ class Element
 {
 public:
     Element() = default;
-    /// A canvas beyond the bounds of images becomes an empty one.
+    /// A canvas larger than an image may be is empty instead.
     Element(long long width, int height)
     {
         if (width > 0 && width <= kImageSide
@@ -73,7 +73,7 @@ public:
         Add(strip, cell < 0 ? -1 : cell * cellWidth, cellWidth);
     }
     void Skip(int width) { m_end += width; }
-    /// Cuts off what is past x and continues there.
+    /// Clips the element at x and continues there.
     void ContinueAt(long long x)
     {
         m_end = x;

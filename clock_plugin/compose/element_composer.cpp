@@ -20,7 +20,7 @@ QPixmap Drawn(const Element &element)
     if (element.Size().isEmpty())
         return QPixmap();
     QImage image(element.Size(), QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull()) // there is no memory
+    if (image.isNull()) // out of memory
         return QPixmap();
     image.fill(Qt::transparent);
     PieceCanvas(image).Draw(element, QPoint(0, 0), image.rect());
@@ -119,8 +119,8 @@ const Element &ElementComposer::Date()
     return m_date;
 }
 
-// Unlike all other images, the mark of the twelve-hour display is looked up while playing: once per
-// frame scope, and at each call outside one. Midnight and noon keep their hour.
+// Unlike all other images, the AM/PM mark is checked during playback: once per frame scope, and at
+// each call outside one. Midnight and noon keep their hour.
 const GlyphStrip &ElementComposer::AmPmMark(bool twelveHours)
 {
     static const GlyphStrip none;
@@ -179,7 +179,7 @@ QDate ElementComposer::StandardDate() const
     return QDate(now.year, now.month, now.day);
 }
 
-// An answer of another length than "m$dd" or "mm$dd" leaves the numbers as they were.
+// An answer that is not "m$dd" or "mm$dd" leaves the numbers unchanged.
 void ElementComposer::UpdateLunarDate()
 {
     const QDate date = StandardDate();

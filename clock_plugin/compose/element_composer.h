@@ -1,4 +1,4 @@
-// compose/: puts the elements of one clock together and keeps each until what it shows changes.
+// compose/: composes the elements of one clock and caches each until its content changes.
 #pragma once
 
 #include "compose/clock_glyphs.h"
@@ -14,23 +14,22 @@
 
 namespace Lw::HNodeClock {
 
-/// The elements are views on the loaded images, valid until the next set-up. Each is updated when
+/// Elements refer to the loaded images and are valid until the next SetUp(). Each is updated when
 /// it is asked for; within one FrameScope the time is read once for all.
 class ElementComposer
 {
 public:
-    /// With the files recorded on the node, which are read now. The node's settings count.
+    /// Reads the node's settings, and its glyph images from the files recorded on it.
     void SetUp(HClockNode &node);
-    /// With other images than the node's files: those that the source gives now.
+    /// The same with images from `source` instead of the node's files.
     void SetUp(HClockNode &node, const GlyphSource &source);
 
-    /// Reads the time and the settings that it depends on.
+    /// Updates and returns the reading.
     const ClockReading &UpdateReading();
-    /// The hour as the last time element showed it: lowered in twelve-hour mode until the next
-    /// update of the reading.
+    /// The hour as the last time element showed it: reduced in 12-hour mode until the next update
+    /// of the reading.
     int ShownHour() const { return m_shownHour; }
-    /// Asks the lunar calendar's entry point for the day of the reading without daylight saving.
-    /// Frames do so once per day.
+    /// Calls LunarCalendarSetup() for the standard-time date. Frames do so once per day.
     void UpdateLunarDate();
 
     const Element &Date();
@@ -44,7 +43,7 @@ public:
     QPixmap DatePixmap() { return m_datePixmap.Of(Date()); }
     QPixmap TimePixmap() { return m_timePixmap.Of(Time()); }
     QPixmap WeekPixmap();
-    QPixmap LunarPixmap(); ///< asks the entry point at each call
+    QPixmap LunarPixmap(); ///< calls LunarCalendarSetup() each time
     QPixmap TopTextPixmap() { return m_glyphs.topText.Pixmap(); }
 
     /// While one exists, the elements show one instant: the time and the settings that it depends
@@ -74,7 +73,7 @@ private:
 
     // What an element was composed for: its format, numbers and images; nothing before the first.
     using Shown = std::optional<std::array<qint64, 5>>;
-    static bool Replace(Shown &shown, const Shown &wanted); ///< whether they differed
+    static bool Replace(Shown &shown, const Shown &wanted); ///< returns whether they differed
 
     int Number(Attribute attribute) const;
     void SetUp(HClockNode &node, int clockType, const GlyphSource &source);

@@ -1,5 +1,5 @@
-// compose/: which pieces make up a date, a time or a lunar date, and their places. Pure functions
-// of the images and the numbers shown.
+// compose/: composes dates, times and lunar dates from glyph pieces. Pure functions of the images
+// and the numbers shown.
 #pragma once
 
 #include "compose/clock_glyphs.h"
@@ -20,8 +20,8 @@ enum DateType {
     DateWithMinus = 8,
 };
 
-/// The time formats. Codes above show hours, label, minutes and seconds; negative ones the
-/// separator for the label.
+/// The time formats. Larger codes show hours, label, minutes and seconds; negative ones a separator
+/// instead of the label.
 enum TimeType {
     TimeToSecond = 0,
     TimeToMinute = 1,
@@ -34,12 +34,12 @@ enum TimeType {
 /// for formats that show no label.
 Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month, int day);
 
-/// The digits of the time, with the AM/PM mark after them (null for none); empty where the time
-/// itself has no width.
+/// The digits of the time followed by the AM/PM mark (null for none); empty if the time itself has
+/// no width.
 Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minute, int second,
                     const GlyphStrip &mark);
 
-/// The lunar date in Chinese numerals; empty for a month outside 1 to 12.
+/// The lunar date in Chinese numerals; empty for a month outside 1 to 12 or a day outside 1 to 30.
 Element LunarElement(const GlyphStrip &strip, int month, int day);
 
 } // namespace Lw::HNodeClock

@@ -14,13 +14,13 @@ namespace {
 constexpr Glyph kWeekFamilies[] = {Glyph::ChWeek, Glyph::EnWeek, Glyph::EnWeekSim,
                                    Glyph::PersiaWeek};
 
-// As the setting is read: the text of an attribute that may be missing.
+// 0 for an attribute that is missing.
 int Number(HClockNode &clock, Attribute attribute)
 {
     return clock.GetAttributeToInt(Key(attribute));
 }
 
-// The marks of the twelve-hour display are loaded when they are first shown.
+// The AM/PM marks, which are loaded lazily, are counted as well.
 QVector<LoadedGlyph> GlyphsOf(HClockNode &clock)
 {
     const int type = Number(clock, Attribute::ClockType);

@@ -1,5 +1,4 @@
-// compose/: which glyph images a clock loads, and which of them it would lose to the bounds of
-// memory.
+// compose/: which glyph images a clock loads, and which of them would exceed the memory limits.
 #pragma once
 
 #include "glyph/glyph_plan.h"
@@ -26,22 +25,22 @@ struct LoadedGlyph
 /// a code outside 0 to 3.
 QVector<LoadedGlyph> GlyphsLoaded(int clockType, int weekType);
 
-/// The fault of an image that the bounds leave out.
+/// The fault of an image that exceeds the limits.
 Lw::GlyphFault NotKept(const QString &key, const QString &path);
 
-/// Tells which glyph images the clocks of a program would lose, before they play: where those of a
-/// clock exceed 64 MiB, or those of all clocks 256 MiB, the next ones are left out. Equal images
-/// count once. No image is kept.
+/// Reports in advance which glyph images the clocks of a program cannot load: if those of a clock
+/// exceed 64 MiB, or those of all clocks 256 MiB, further images are not loaded. Equal images count
+/// once. No image is kept.
 class GlyphAccount
 {
 public:
-    // Each adds the images of one clock, in the order of the program, and tells those that it would
-    // lose; nothing for a picture clock.
+    // Each adds the images of one clock, in program order, and returns those that it would drop;
+    // none for a picture clock.
 
-    /// As they are in the files recorded on it. Files that cannot be read at all are not reported;
-    /// of the others only PNGs are decoded, one at a time.
+    /// The images in the files recorded on the clock. Unreadable files are not reported; of the
+    /// others only PNGs are decoded, one at a time.
     QVector<Lw::GlyphFault> AddFiles(HClockNode &clock);
-    /// As they are planned; the faults have no path.
+    /// The images as planned; the faults have no path.
     QVector<Lw::GlyphFault> AddPlanned(HClockNode &clock,
                                        const QHash<QString, PlannedImage> &planned);
 

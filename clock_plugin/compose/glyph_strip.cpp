@@ -38,7 +38,7 @@ QVector<quint32> NoInk(const QSize &size)
     return QVector<quint32>(WordsFor(size.width()) * size.height() + 1);
 }
 
-// Entries whose pixels are gone are removed when their number has doubled.
+// Expired entries are removed each time the table has doubled in size.
 void Remember(const QByteArray &digest, const std::shared_ptr<GlyphPixels> &pixels)
 {
     thread_local int t_limit = 128;
@@ -111,8 +111,8 @@ void GlyphPixels::Take(QImage image)
     m_pixmap = QPixmap::fromImage(std::move(image));
 }
 
-// Only of the formats in which transparent glyphs are read: in them a pixel of alpha 0 or 255 is
-// the same before and after it becomes part of a pixmap.
+// Only for the formats in which transparent glyphs are decoded: in these a pixel of alpha 0 or 255
+// is the same before and after it becomes part of a pixmap.
 bool GlyphPixels::TakeInk(const QImage &image)
 {
     if (image.format() != QImage::Format_ARGB32
@@ -166,7 +166,7 @@ GlyphStrip GlyphStrip::OfFile(const QString &path)
     return loaded.m_pixels ? loaded : OfFile(file, file.MostBytes());
 }
 
-// An image that could not be decoded is not shared: memory may have been short.
+// A failed decode is not cached: memory may only have been short.
 GlyphStrip GlyphStrip::OfFile(PictureFile &file, qint64 bytes)
 {
     const QByteArray digest = file.Digest();

@@ -1,9 +1,9 @@
-// compose/: one glyph image, kept small and shared by the clocks of a thread that show equal files.
+// compose/: one glyph image, stored compactly and shared by all clocks of a thread whose files are
+// equal.
 //
-// Glyph images are drawn in one colour without antialiasing: such an image is kept as its ink, one
-// bit per pixel. Any other, made by another program, is kept as a pixmap. A file of up to 64 KiB is
-// read at once but decoded only when its size or pixels are needed: a clock shows few of its
-// images.
+// Glyph images are drawn in one colour without antialiasing, so they are stored as ink, one bit per
+// pixel. Images made by other programs are stored as pixmaps. A file of up to 64 KiB is read
+// immediately but decoded lazily: a clock shows few of its images.
 #pragma once
 
 #include <QByteArray>
@@ -19,12 +19,12 @@ namespace Lw::HNodeClock {
 
 class PictureFile;
 
-/// The pixels of a glyph image. Counts what it takes against the process.
+/// The pixels of a glyph image. Its bytes count towards GlyphBytesInProcess().
 class GlyphPixels
 {
 public:
     explicit GlyphPixels(const QImage &image);
-    /// An undecoded PNG, which takes that many bytes at most.
+    /// An undecoded PNG that takes at most this many bytes once decoded.
     GlyphPixels(const QByteArray &png, qint64 bytes);
     ~GlyphPixels();
     Q_DISABLE_COPY(GlyphPixels)
@@ -69,41 +69,40 @@ private:
     const quint32 m_key;
     QByteArray m_encoded; // null once it is decoded
     qint64 m_bytes = 0;
-    bool m_isExact = false; // the bytes; else they are the most that an undecoded image takes
+    bool m_isExact = false; // whether m_bytes is exact, or an upper bound for an undecoded image
     QSize m_size {0, 0};
     int m_wordsPerRow = 0; // of the ink; 0 where the image is not kept as ink
     QRgb m_colour = 0;
     QVector<quint32> m_ink;
-    QPixmap m_pixmap; // of ink made when it is first asked for
+    QPixmap m_pixmap; // created on first use for ink
 };
 
 class GlyphStrip
 {
 public:
-    GlyphStrip() = default; ///< null, as for a file that is missing or damaged
+    GlyphStrip() = default; ///< null, like the strip of a missing or damaged file
     explicit GlyphStrip(const QImage &image);
     /// The content of the file now; later changes of the file have no effect.
     static GlyphStrip OfFile(const QString &path);
     static GlyphStrip OfFile(PictureFile &file,
-                             qint64 bytes);     ///< which takes at most so many bytes
+                             qint64 bytes);     ///< `bytes`: upper bound of its size in memory
     static GlyphStrip Blank(const QSize &size); ///< transparent; null for an empty size
-    /// The strip of a file of this digest that is loaded already; one without pixels if there is
-    /// none.
+    /// The strip of an already loaded file with this digest; null if there is none.
     static GlyphStrip Loaded(const QByteArray &digest);
 
     bool IsNull() const { return Width() == 0; }
     int Width() const { return Size().width(); }
     int Height() const { return Size().height(); }
     QSize Size() const { return m_pixels ? m_pixels->Size() : QSize(0, 0); }
-    /// Equal for strips of the same pixels, and 0 for one without.
+    /// Identifies the pixels; strips that share them have the same key. 0 without pixels.
     quint32 Key() const { return m_pixels ? m_pixels->Key() : 0; }
-    /// What the image takes in memory; of an undecoded one at most. Copies share it.
+    /// Bytes in memory, shared by copies; an upper bound for an undecoded image.
     qint64 Bytes() const { return m_pixels ? m_pixels->Bytes() : 0; }
-    /// From now on Bytes() is exact.
+    /// Makes Bytes() exact, if necessary by decoding.
     void CountExactly() const;
 
     bool IsInk() const { return m_pixels && m_pixels->IsInk(); }
-    const GlyphPixels &Pixels() const { return *m_pixels; } ///< of one with pixels, decoded
+    const GlyphPixels &Pixels() const { return *m_pixels; } ///< not for a null strip
     const quint32 *InkRow(int y) const { return m_pixels->InkRow(y); }
 
     /// The image as a pixmap, the same one at each call.
@@ -115,9 +114,9 @@ private:
     std::shared_ptr<GlyphPixels> m_pixels;
 };
 
-/// What all glyph images of the process take in memory, equal files of a thread once.
+/// Bytes of all glyph images of the process; equal files of a thread count once.
 qint64 GlyphBytesInProcess();
-/// From now on the images of this thread count exactly.
+/// Makes the bytes of all images of this thread exact.
 void CountLoadedGlyphsExactly();
 
 } // namespace Lw::HNodeClock

@@ -1,4 +1,4 @@
-// compose/: lunar dates in Chinese numerals.
+// compose/: composes lunar dates in Chinese numerals.
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 
@@ -7,7 +7,7 @@ namespace Lw::HNodeClock {
 namespace {
 
 // Cells of the lunar strip. Numeral n is cell n - 1, for n from one to ten.
-constexpr int kLeadWord = 10; ///< two cells
+constexpr int kLeadWord = 10; ///< "lunar calendar", two cells
 constexpr int kMonthWord = 13;
 constexpr int kEarlyDay = 15; ///< before days 1 to 10
 constexpr int kFirstMonth = 16;

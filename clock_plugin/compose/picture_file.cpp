@@ -20,13 +20,14 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// Of a picture within the bounds: 64 bits per pixel, uncompressed, and an eighth for the rest.
+// The largest file of a picture within the bounds: 64 bits per pixel uncompressed, plus overhead.
 constexpr qint64 kLongest = 2 * kGlyphBytes + kGlyphBytes / 8;
-// A longer PNG hardly has one colour; it counts with 32 bits per pixel unread.
+// A longer PNG is unlikely to have only one colour; it is counted as 32 bits per pixel without
+// decoding.
 constexpr qint64 kLongestInk = 4 << 20;
 
-// Their headers tell the size of what is decoded, that of a GIF only of its first picture. Others
-// do not: an icon names sizes of its own for the pictures in it, and a drawing can have any.
+// Formats whose header gives the decoded size (of a GIF, only of its first frame). Others do not:
+// an icon states its own sizes for the pictures in it, and a vector drawing can have any size.
 constexpr const char *kTrustedFormats[] = {"bmp", "gif",    "jpeg", "jpg",    "pbm", "pbmraw",
                                            "pgm", "pgmraw", "ppm",  "ppmraw", "xbm", "xpm"};
 
@@ -36,7 +37,7 @@ bool IsTrusted(const QByteArray &format)
         != std::end(kTrustedFormats);
 }
 
-// The canvas of an animation, width and height as two bytes each, the lower one first.
+// The logical screen size of a GIF: width and height as little-endian 16-bit numbers.
 QSize CanvasOfGif(QIODevice &gif)
 {
     constexpr int kWidthAt = 6;
@@ -48,20 +49,21 @@ QSize CanvasOfGif(QIODevice &gif)
             qFromLittleEndian<quint16>(head.constData() + kHeightAt)};
 }
 
-// A few bytes of a JPEG can make the decoder go over its whole area again, any number of times.
-// Ordinary ones have some ten scans. The mark of a scan does not occur within its data.
+// Each scan of a progressive JPEG makes the decoder process the whole image again, so a small file
+// could take very long. Usual ones have about ten scans. The start-of-scan marker does not occur
+// within scan data.
 bool HasFewScans(QIODevice &jpeg)
 {
     constexpr int kBlock = 64 << 10;
-    constexpr int kMostScans = 100;
+    constexpr int kMaxScans = 100;
     int scans = 0;
-    for (QByteArray block = jpeg.read(kBlock); !block.isEmpty() && scans <= kMostScans;
+    for (QByteArray block = jpeg.read(kBlock); !block.isEmpty() && scans <= kMaxScans;
          block = block.right(1) + jpeg.read(kBlock)) {
         if (block.size() == 1)
             break;
         scans += block.count("\xff\xda");
     }
-    return jpeg.seek(0) && scans <= kMostScans;
+    return jpeg.seek(0) && scans <= kMaxScans;
 }
 
 QImage ReadWithinBounds(QImageReader &reader)
@@ -79,8 +81,8 @@ QImage ReadPng(QIODevice &png)
     return ReadWithinBounds(reader);
 }
 
-/// Opens without waiting for a pipe's writer and then checks the open file, as its name may have
-/// been given to another. A file of size 0 may be endless where the system makes it up.
+/// Opens without blocking on a FIFO and then checks the open file, as its name may have been given
+/// to another. A file of size 0 may be endless, as in /proc.
 bool OpenOrdinary(QFile &file, const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
@@ -188,7 +190,7 @@ QImage DecodePng(const QByteArray &png)
     return ReadPng(buffer);
 }
 
-// The pixels tell, and are dropped again.
+// Decodes the image only to count its colours.
 qint64 GlyphBytesOfPng(const QByteArray &png)
 {
     const QSize size = SizeOfPng(png);

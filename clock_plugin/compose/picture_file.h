@@ -1,4 +1,4 @@
-// compose/: reads picture files made by others: bounded, and never anything but an ordinary file.
+// compose/: reads untrusted picture files: only regular files, within bounds.
 #pragma once
 
 #include <QByteArray>
@@ -18,8 +18,8 @@ namespace Lw::HNodeClock {
 
 /// A picture file, opened and identified; its pixels are decoded when asked for.
 ///
-/// Null for a path that is empty or does not name an ordinary file (a device or a pipe could block
-/// for ever), for an unknown format, and for a picture of more than 32767 pixels a side or 64 MiB
+/// Null for a path that is empty or does not name a regular file (a device or a pipe could block
+/// for ever), for an unknown format, and for a picture of more than 32767 pixels per side or 64 MiB
 /// by its header. Only formats whose headers can be trusted are read: PNG, BMP, GIF, JPEG, the PBM
 /// family, XBM and XPM.
 class PictureFile
@@ -30,15 +30,15 @@ public:
     Q_DISABLE_COPY(PictureFile)
 
     bool IsNull() const { return m_size.isEmpty(); }
-    /// By the header. The pixels may turn out to be damaged, which makes a null image.
+    /// The size in the header. Damaged pixels give a null image in Read().
     const QSize &Size() const { return m_size; }
-    /// Equal for files of equal content, and for no others in practice.
+    /// MD5 of the content; empty if reading fails.
     QByteArray Digest();
 
-    /// What the image takes at most as a glyph: 32 bits per pixel.
+    /// Upper bound of the bytes that the image takes as a glyph: 32 bits per pixel.
     qint64 MostBytes() const;
-    /// What it takes: one bit per pixel for a PNG that has one colour, else the same. Only a PNG
-    /// that may have one is decoded for it, and dropped again.
+    /// The exact bytes: one bit per pixel for a PNG with one colour, else MostBytes(). Only a PNG
+    /// that may have one colour is decoded for this, temporarily.
     qint64 GlyphBytes();
 
     /// The content of a file of at most 64 KiB that is a PNG; null for any other.
@@ -50,26 +50,26 @@ private:
     void Open(const QString &path);
 
     QByteArray m_png;
-    std::unique_ptr<QFile> m_file; ///< null where the content was read at once
+    std::unique_ptr<QFile> m_file; ///< null if the whole content is in m_png
     bool m_isPng = false;
     std::unique_ptr<QImageReader> m_reader; ///< of other formats
     QSize m_size {0, 0};
 };
 
-/// The picture in a file; null as PictureFile says.
+/// The picture in a file; null on the conditions given at PictureFile.
 QImage ReadImageFile(const QString &path);
 QPixmap ReadPixmapFile(const QString &path);
 
-/// The picture in the content of a PNG; null as for the file.
+/// Decodes a PNG in memory; null for a damaged one or one beyond the bounds.
 QImage DecodePng(const QByteArray &png);
 
-/// What a PNG takes as a glyph, from its content; see PictureFile::GlyphBytes().
+/// The memory a PNG takes as a glyph, in bytes; see PictureFile::GlyphBytes().
 qint64 GlyphBytesOfPng(const QByteArray &png);
 
 /// Whether every pixel is transparent or of one opaque colour; false without alpha.
 bool HasOneColour(const QImage &image);
 
-/// What a glyph image that is kept as ink takes, one bit per pixel.
+/// The memory of a glyph image stored as ink, in bytes: one bit per pixel, rows padded to words.
 qint64 InkBytes(const QSize &size);
 
 } // namespace Lw::HNodeClock

@@ -1,7 +1,8 @@
 // compose/: draws parts of glyph strips into an image of 32 bits per pixel.
 //
-// Ink is written row by row, which for the small cells of a clock costs a tenth of a painter's
-// call; the rest is drawn by a painter, created lazily. The pixels are those that a painter makes.
+// Ink is written row by row, which for the small cells of a clock takes a tenth of the time of a
+// QPainter call; everything else is drawn by a QPainter, created lazily. The result is identical to
+// QPainter's.
 #pragma once
 
 #include "compose/element.h"
@@ -19,8 +20,8 @@ namespace Lw::HNodeClock {
 class PieceCanvas
 {
 public:
-    /// For ARGB32 images whose pixels are opaque, and for premultiplied ones. Nothing else may
-    /// write the image while the canvas exists.
+    /// For opaque ARGB32 images, and for premultiplied ones. Nothing else may write the image while
+    /// the canvas exists.
     explicit PieceCanvas(QImage &image)
         : m_image(image), m_pixels(image.bits()), m_line(image.bytesPerLine())
     { }

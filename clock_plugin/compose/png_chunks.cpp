@@ -22,7 +22,7 @@ constexpr int kSignatureLength = sizeof kPngSignature - 1;
 // A PNG ends with this chunk, which is always the same.
 constexpr char kLastChunk[] = "IEND\xae\x42\x60\x82";
 
-// Those that bear on the pixels, of the chunks that a reader may leave out.
+// The ancillary chunks that affect the pixels.
 constexpr const char *kKept[] = {"tRNS", "bKGD", "sBIT", "gAMA", "cHRM", "sRGB"};
 
 template<std::size_t count>
@@ -33,8 +33,8 @@ bool IsAmong(const char *const (&names)[count], const char *name)
     });
 }
 
-// Names are of letters. One that begins with a small letter says that the picture is the same
-// without the chunk; a reader that does not know any other must not show the picture.
+// Names consist of letters. A lower-case first letter marks an ancillary chunk, without which the
+// picture can be shown; all others are critical.
 bool IsAncillary(const char *name)
 {
     const auto isLetter = [](char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; };

@@ -1,5 +1,5 @@
-// compose/: looks into PNG files without decoding them: the chunks that their pixels are made from,
-// their size and kind.
+// compose/: inspects PNG files without decoding them: the chunks that affect the pixels, their size
+// and their pixel format.
 #pragma once
 
 #include <QByteArray>
@@ -12,16 +12,16 @@ QT_END_NAMESPACE
 namespace Lw::HNodeClock {
 
 inline constexpr char kPngSignature[] = "\x89PNG\r\n\x1a\n";
-/// How much of a file SizeOfPng() looks at.
+/// The number of bytes of a file that SizeOfPng() needs.
 inline constexpr int kPngHeaderEnd = 29;
 
-/// A PNG without its texts, profiles and all else that does not affect its pixels: unpacked, these
-/// could be any number of times as long as the file. Critical chunks stay, known or not: the
-/// decoder refuses what it does not know. Read from where the device is, its signature first, to
-/// the last chunk or the end.
+/// A PNG without text, profile and other chunks that do not affect its pixels: decompressed, these
+/// could be arbitrarily larger than the file. Critical chunks are kept, known or not: the decoder
+/// rejects unknown ones. Reads from the device's current position, where the signature is, to the
+/// last chunk or the end.
 QByteArray PixelChunks(QIODevice &png);
 
-/// The size in the header of a PNG, true or not; empty where the file does not begin with one.
+/// The size stated in a PNG's header; empty if the data does not start with a PNG header.
 QSize SizeOfPng(const QByteArray &png);
 
 /// Whether a PNG has 8-bit colours with alpha, as glyph images have, by its header.

@@ -1,4 +1,4 @@
-// compose/: times of a digital clock, to the second or to the minute, with the AM/PM mark.
+// compose/: composes the time of a digital clock, with or without seconds and AM/PM mark.
 #include "compose/element_layout.h"
 #include "glyph/glyph_set.h"
 
@@ -42,8 +42,8 @@ public:
           m_label(glyphs.timeCh.Width() / kLabelCells)
     { }
 
-    // Formats outside the list have room for two separators. Those above it use some of it for
-    // their label, so that the end of their seconds may be cut off.
+    // Codes outside the list reserve the width of two separators. Codes above it use part of that
+    // for their label, so that the end of their seconds may be cut off.
     long long Width() const
     {
         const long long digit = m_digit;

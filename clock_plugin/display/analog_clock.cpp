@@ -31,14 +31,14 @@ constexpr HandRow kHandRows[] = {
     {Hand::Second, Attribute::SecondRectType, Attribute::SecondHandColor},
 };
 
-// The host's image format that asks for smooth hands.
+// The host asks for antialiased hands by its image format.
 bool Antialiasing()
 {
     return HAppConfig::instance()->RenderImageFormat() == QImage::Format_ARGB32;
 }
 
-// The outline as the rasteriser sees it: it rounds coordinates to a sixty-fourth of a pixel. In
-// many a second the hour hand moves less than that.
+// The outline as the rasteriser sees it, rounded to 1/64 pixel. In most seconds the hour hand moves
+// less than that.
 void AppendRasterised(KeptHand::Look &look, const QPolygonF &outline)
 {
     constexpr int kGrid = 64;
@@ -81,7 +81,7 @@ void AnalogFace::RefreshDial(const QSize &size)
     m_dial = FramePair::NewImage(size);
     DrawDial();
     DrawBadge();
-    // A copy leaves the paint engine, which takes its memory, behind.
+    // Copying drops the paint engine and its memory.
     const QImage lean = m_dial.copy();
     if (!lean.isNull())
         m_dial = lean;
@@ -167,7 +167,7 @@ int AnalogFace::DrawHand(int index, double radius, FrameMemory::Painting &painti
     flat.degrees = HandAngle(row.hand, now.hour, now.minute, now.second);
     flat.colour = m_shared.Colour(row.colour);
     PutShape(flat, m_hands[index], row.hand == Hand::Second ? now.second : 0, painting);
-    // A thin pen paints some pixels of a ring twice, so what it adds cannot be kept.
+    // A thin pen paints some pixels of a ring twice, so the ring cannot be cached.
     if (shape.ring.radius > 0)
         painting.Covers(PaintRing(Painter(), shape.ring, flat.degrees, flat.colour));
     return type;
@@ -203,7 +203,7 @@ void AnalogFace::PutShape(const FlatShape &shape, KeptHand &kept, int position,
     }
 }
 
-// Begun when the first part is painted.
+// Begun lazily.
 QPainter &AnalogFace::Painter()
 {
     QPainter &painter = m_shared.painter;

@@ -1,5 +1,6 @@
-// The face of an analog clock: a dial that is drawn rarely, the hands over it every second, and
-// text rows that are drawn onto the dial, so that a frame shows them from the next second on.
+// display/: the face of an analog clock: a dial that is redrawn rarely, the hands over it every
+// second, and text rows that are drawn onto the dial after the frame, so they appear one second
+// later.
 #pragma once
 
 #include "display/analog_painting.h"
@@ -31,8 +32,8 @@ public:
     void DrawHands();
     void DrawTexts();
 
-    void RedrawDial() { m_dialHalf.clear(); } ///< with the next frame
-    /// Where the frame differs from the one before; no answer where either is not of this face.
+    void InvalidateDial() { m_dialHalf.clear(); } ///< the next frame redraws the dial
+    /// Where the frame differs from the previous one; nullopt if either was not drawn by this face.
     std::optional<QRegion> Changes() const
     {
         return m_memory.ChangesSince(m_shared.frames.FrameBefore(), m_shared.frames.Frame());
@@ -59,7 +60,8 @@ private:
     KeptHand m_cap;
     ColourCanvas m_canvas;
     int m_lastSecond = -1;
-    int m_repeatedSeconds = 0; // frames that showed the second of the frame before
+    // Diagnostics, for a debugger: frames that showed the same second as the previous one.
+    int m_repeatedSeconds = 0;
 };
 
 } // namespace Lw::HNodeClock

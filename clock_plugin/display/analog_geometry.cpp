@@ -20,7 +20,7 @@ double UnitB(double radius)
 
 // Above this radius marks are slender; below it they are kept large enough to be seen.
 constexpr double kLargeDial = 100;
-// Up to this radius minute marks would run into each other.
+// Up to this radius minute marks would touch each other.
 constexpr double kSmallestMinuteDial = 40;
 
 QRect SquareFromCorners(int x1, int y1, int x2, int y2)

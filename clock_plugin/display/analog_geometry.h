@@ -1,8 +1,9 @@
-// The shapes of an analog clock as points and boxes, from the size of its area alone.
+// display/: the shapes of an analog clock as points and boxes, computed from the size of its area
+// alone.
 //
 // All coordinates are pixels relative to the centre of the area, y growing downwards: 12 o'clock is
-// up, at negative y. Marks and hands point up; what paints them turns them
-// into place. Where a coordinate is a whole pixel the truncation toward zero is part of the look.
+// up, at negative y. Marks and hands point up; the painting code rotates them into place.
+// Truncation of coordinates toward zero is intended.
 //
 // Every measure is a multiple of a = R / 27 or of b = R / 90, R being the radius.
 #pragma once
@@ -20,7 +21,7 @@
 
 namespace Lw::HNodeClock {
 
-/// Half of the smaller side: real for the dial, a whole number of pixels for the hands.
+/// Half of the smaller side in pixels: exact for the dial, rounded down for the hands.
 double DialRadius(const QSize &area);
 double HandRadius(const QSize &area);
 /// What the dial and the hands are centred on.
@@ -45,9 +46,10 @@ struct Mark
     QRect square;
 };
 
-/// Small dials, up to a radius of 100, have longer lines, larger dots and fixed squares.
+/// Small dials, up to a radius of 100 pixels, have longer lines, larger dots and squares of fixed
+/// size.
 Mark HourMark(int scale, double radius);
-/// Dials up to a radius of 40 have no minute marks.
+/// Dials with a radius of up to 40 pixels have no minute marks.
 Mark MinuteMark(int scale, double radius);
 /// Width of the pen of all marks; 0 is the thinnest line of one pixel.
 int MarkPenWidth(double radius);
@@ -61,7 +63,7 @@ struct DigitCells
 
     int width;  ///< of one digit
     int height; ///< of the strip
-    int half;   ///< a twentieth of the strip: what moves a single digit onto its place's middle
+    int half;   ///< half a digit's width, by which a single digit is centred on its place
 };
 
 struct Numeral
@@ -71,7 +73,7 @@ struct Numeral
 };
 
 /// The numerals of a dial: twelve, or 12, 3, 6 and 9 only, or none, by the hour scale. "10" and
-/// "11" are placed by half a digit like single digits, so they stand right of their middle.
+/// "11" are offset by half a digit like single digits, so they are too far to the right.
 QVector<Numeral> Numerals(int hourScale, double radius, const DigitCells &cells);
 
 // Hands.
@@ -109,7 +111,7 @@ QRect CentreCap(double radius, bool anyArrow);
 /// Top left corner of the AM/PM badge within the area: centred, at three eighths of the height.
 QPoint BadgePlace(const QSize &area, const QSize &badge);
 
-/// The classic hands as triangles: two points beside the centre and the tip.
+/// The classic hands as triangles: two points beside the centre, and the tip.
 struct HandTriangles
 {
     std::array<QPoint, 3> hour;

@@ -1,5 +1,5 @@
-// Paints the parts of an analog clock: marks, numerals, hands. All painters are active and have
-// their origin at the centre of the clock; their state is the same before and after.
+// display/: paints the parts of an analog clock: marks, numerals, hands. All painters must be
+// active with their origin at the centre of the clock; their state is restored.
 #pragma once
 
 #include "display/analog_geometry.h"
@@ -26,8 +26,8 @@ struct MarkStyle
 void PaintMarks(QPainter &painter, double radius, const MarkStyle &style);
 
 /// The numerals from a strip of ten digits. "10" and "11" are on a box of the key colour, which
-/// hides the marks and digits under it. Nothing for a strip that is null or has no whole pixel for
-/// a digit.
+/// hides the marks and digits under it. Paints nothing if the strip is null or narrower than one
+/// pixel per digit.
 void PaintNumerals(QPainter &painter, int hourScale, double radius, const QPixmap &strip,
                    const QColor &keyColour);
 
@@ -46,13 +46,13 @@ struct FlatShape
 QPolygonF OutlineOn(const QPoint &centre, const FlatShape &shape);
 
 void PaintFlat(QPainter &painter, const FlatShape &shape);
-/// The same onto an image that begins at another place: its painter has its origin there, a brush
-/// and no pen. The outline is the one above.
+/// The same onto an image whose top left is at `place`; its painter has a brush and no pen.
+/// `outline` is that of OutlineOn().
 void PaintFlatFrom(QPainter &painter, const QPoint &place, const QPoint &centre,
                    const FlatShape &shape, const QPolygonF &outline);
 
-/// The ring on a hand's tail, turned as the hand. Returns an outline around all pixels that it may
-/// touch, in pixels of the painted image.
+/// Paints the ring on a hand's tail, rotated with the hand. Returns an outline around all pixels
+/// that it may touch, in pixels of the painted image.
 QPolygonF PaintRing(QPainter &painter, const Ring &ring, double degrees, const QColor &colour);
 
 } // namespace Lw::HNodeClock

@@ -1,5 +1,5 @@
-// What the faces of a drawer share: the node and its settings, the elements, the displayed time and
-// the two frames.
+// display/: what the faces of a drawer share: the node and its settings, the elements, the
+// displayed time and the two frames.
 #pragma once
 
 #include "calendar/clock_time.h"
@@ -23,8 +23,8 @@ inline QColor ColourOf(int stored)
     return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
 }
 
-/// The host answers what is asked about the node, and may delete it meanwhile: of a node that is
-/// gone every number is 0, there is no size and no file.
+/// The host may delete the node during any of these calls: for a deleted node every number is 0,
+/// and size and file are empty.
 struct SharedByFaces
 {
     QSize Size() { return node ? node->Size() : QSize(); }
@@ -38,7 +38,7 @@ struct SharedByFaces
     DrawClockClassifyImage composer;
     QPainter painter; // destroyed before the composer
 
-    /// What the clock shows: Gregorian, and twenty-four hours, in every mode.
+    /// The displayed time: always Gregorian and in 24-hour form.
     DisplayedFields now {0, 0, 0, 0, 0, -1, 0};
     int frameWidth = 0; ///< of the node when the frame was begun
     Rows tops;          ///< top edges of the text rows

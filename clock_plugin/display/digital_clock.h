@@ -1,4 +1,4 @@
-// The face of a digital clock: up to five elements on one line or in rows.
+// display/: the face of a digital clock: up to five elements on one line or in rows.
 #pragma once
 
 #include "display/clock_face.h"
@@ -16,18 +16,18 @@ public:
     explicit DigitalFace(SharedByFaces &shared) : m_shared(shared) { }
     Q_DISABLE_COPY(DigitalFace)
 
-    /// As the layout of that many rows.
+    /// Places the rows with the layout for `count` rows.
     void PlaceRows(const DigitalSettings &settings, int count, int space);
-    /// As the settings ask for.
+    /// Places the rows as the settings say.
     void PlaceRows(const DigitalSettings &settings);
     void Draw(const DigitalSettings &settings);
-    /// Where the frame differs from the one before; no answer where either is not of this face.
+    /// Where the frame differs from the previous one; nullopt if either was not drawn by this face.
     std::optional<QRegion> Changes() const;
 
 private:
     SharedByFaces &m_shared;
-    std::array<FrameContents, 2> m_contents; // of the frame and of the one before, or the reverse
-    bool m_secondIsCurrent = false;
+    std::array<FrameContents, 2> m_contents; // of the frame and of the one before it
+    bool m_secondIsCurrent = false;          // which of the two is the frame's
 };
 
 } // namespace Lw::HNodeClock

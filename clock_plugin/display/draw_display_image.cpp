@@ -1,5 +1,5 @@
-// The drawer's state, the choice of the face, and the time step. What the operations draw is in the
-// files of the faces.
+// display/: DrawDisplayImage: state, dispatch to a face, and time step. The drawing is in the files
+// of the faces.
 #include "display/draw_display_image.h"
 
 #include "calendar/clock_time.h"
@@ -109,8 +109,7 @@ void DrawDisplayImage::Private::TakeFields(const DisplayedFields &fields)
     shared.now = fields;
 }
 
-// The first frame after construction does not count: the start time is the second frame's, and
-// never replaced.
+// The start time is that of the second frame after construction, and never replaced.
 void DrawDisplayImage::Private::RecordStartTime()
 {
     const DisplayedFields &now = shared.now;
@@ -236,7 +235,7 @@ void DrawDisplayImage::InitClockTypePixmap()
         return;
     d->Picture().LoadPictures();
     if (d->analog)
-        d->analog->RedrawDial();
+        d->analog->InvalidateDial();
 }
 
 void DrawDisplayImage::DrawPixmapClock()

@@ -1,4 +1,4 @@
-// The state of a frame drawer: what its three faces share, and the faces.
+// display/: the private state of DrawDisplayImage: the three faces and what they share.
 #pragma once
 
 #include "display/analog_clock.h"
@@ -20,10 +20,10 @@ public:
     void TakeFields(const DisplayedFields &fields);
     void RecordStartTime();
     void DrawDigitalFrame();
-    /// Where the frame differs from the one drawn before it, as the face knows that drew both.
+    /// Where the frame differs from the previous one, according to the face that drew both.
     QRegion Changes() const;
 
-    /// The faces are made when they are first drawn: a clock hardly ever has more than one.
+    /// Faces are created lazily: a clock rarely uses more than one.
     AnalogFace &Analog() { return Made(analog); }
     DigitalFace &Digital() { return Made(digital); }
     PictureFace &Picture() { return Made(picture); }
@@ -33,7 +33,7 @@ public:
     std::unique_ptr<DigitalFace> digital;
     std::unique_ptr<PictureFace> picture;
 
-    QString dateText;     ///< yyyy/MM/dd
+    QString dateText;     ///< the displayed date as yyyy/MM/dd; diagnostics, for a debugger
     int millisecond = 0;  ///< of the device's clock
     int startCounter = 0; ///< calls of CalculateTimeZone before the start time was recorded
     std::optional<QTime> startTime;

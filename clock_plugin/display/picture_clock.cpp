@@ -10,7 +10,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// The face that the hand pictures are laid out on, in units around its centre.
+// The side of the face in units; the places of the pictures are relative to its centre.
 constexpr int kFace = 300;
 constexpr QRect kHourPlace(-12, -65, 24, 70);
 constexpr QRect kMinutePlace(-10, -85, 20, 90);
@@ -47,7 +47,7 @@ void PictureFace::LoadPictures()
 
     const QSize size = m_shared.Size();
     m_size = QSize(m_shared.frameWidth, size.height());
-    // Beyond the bounds nothing is drawn, and a host's size may be any number.
+    // Clamped, as a host's size may be any number; beyond the bounds nothing is drawn.
     const int side = qBound(0, std::min(size.width(), size.height()), kImageSide + 1);
     const QRect dial((size.width() - side) / 2, (m_size.height() - side) / 2, side, side);
     DrawBackground(dial, folder + DialPicture(m_shared.Number(Attribute::PictrueClockType)));
@@ -67,7 +67,7 @@ void PictureFace::DrawBackground(const QRect &dial, const QString &file)
     const QImage scaled =
         picture.scaled(dial.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation);
     if (scaled.isNull()) {
-        m_background = QImage(); // out of memory: tried again with the next frame
+        m_background = QImage(); // out of memory: retried with the next frame
         return;
     }
     m_shared.painter.begin(&m_background);
@@ -107,7 +107,7 @@ void PictureFace::Draw()
     FrameMemory::Painting painting(m_memory, frame);
     m_shared.painter.begin(&frame);
     Put({m_hour, (now.hour + now.minute / 60.0) * 30, kHourPlace}, m_keptHour, 0, painting);
-    // There are 3600 positions of the minute hand: too many to keep.
+    // The minute hand has 3600 positions: too many to cache.
     Paint({m_minute, (now.minute + now.second / 60.0) * 6, kMinutePlace}, painting);
     Put({m_second, now.second * 6.0, kSecondPlace}, m_keptSecond, now.second, painting);
     Put({m_centre, 0, kCentrePlace}, m_keptCentre, 0, painting);
@@ -124,7 +124,7 @@ void PictureFace::Paint(const TurnedPicture &part, FrameMemory::Painting &painti
     painting.Covers(m_shared.painter.transform().map(QPolygonF(QRectF(part.place))));
 }
 
-// The hour hand is put onto the bare background.
+// The hour hand is the lowest part, so its shape is cached together with the background under it.
 void PictureFace::Put(const TurnedPicture &part, KeptHand &kept, int position,
                       FrameMemory::Painting &painting)
 {

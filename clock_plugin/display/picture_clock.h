@@ -1,5 +1,5 @@
-// The face of a picture clock: a dial picture of a chosen style, and hand pictures that all styles
-// share.
+// display/: the face of a picture clock: a dial picture of the chosen style, and hand pictures that
+// all styles share.
 #pragma once
 
 #include "display/clock_face.h"
@@ -18,18 +18,19 @@ public:
     explicit PictureFace(SharedByFaces &shared) : m_shared(shared) { }
     Q_DISABLE_COPY(PictureFace)
 
-    /// Whether the pictures are to be loaded first: style or size has changed, or memory lacked.
+    /// Whether the pictures must be (re)loaded: style or size has changed, or memory ran out
+    /// before.
     bool NeedsPictures();
     void LoadPictures();
     void Draw();
-    /// Where the frame differs from the one before; no answer where either is not of this face.
+    /// Where the frame differs from the previous one; nullopt if either was not drawn by this face.
     std::optional<QRegion> Changes() const
     {
         return m_memory.ChangesSince(m_shared.frames.FrameBefore(), m_shared.frames.Frame());
     }
 
 private:
-    // A picture stretched into its place on the face and turned clockwise about the centre.
+    // A picture scaled to its place on the face and rotated clockwise about the centre.
     struct TurnedPicture
     {
         const QPixmap &picture;

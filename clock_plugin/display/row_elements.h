@@ -1,4 +1,4 @@
-// The element that each text row of a clock shows.
+// display/: the element that each text row of a clock shows.
 #pragma once
 
 #include "compose/element_composer.h"
@@ -23,8 +23,8 @@ inline const Element &ElementIn(Row row, ElementComposer &elements)
     return elements.Lunar();
 }
 
-/// The heights of the rows that are measured: the non-zero ones. The others are 0, and their
-/// elements are not composed at all.
+/// The heights of the rows whose entry in `measured` is not 0. The others are 0, and their elements
+/// are not composed at all.
 inline Rows HeightsOf(ElementComposer &elements, const Rows &measured)
 {
     Rows heights;

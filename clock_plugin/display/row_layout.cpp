@@ -33,8 +33,8 @@ int OddPixel(int space)
     return space % 2 != 0 ? 1 : 0;
 }
 
-// The extra pixel of an odd gap is above the centre line for week and time as upper row; the top
-// text, the date and a week that was swapped upwards do not take it.
+// The extra pixel of an odd gap is above the centre line if the upper row is week or time; the top
+// text, the date and a week moved up by the swap do not get it.
 int UpperRowPixel(Row upper, bool swapped, int space)
 {
     const bool takesIt = (upper == Row::Week && !swapped) || upper == Row::Time;

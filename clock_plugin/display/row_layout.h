@@ -1,6 +1,6 @@
-// Layout of the text rows of a clock: the y of each row's top edge, from heights, gap and order.
-// Pure functions of their arguments; pixels, y grows downwards. All halves are integer halves
-// rounded toward zero. Sums are taken in 64 bits and clamped, so that no spacing overflows.
+// display/: layout of a clock's text rows: the y of each row's top edge from heights, gap and
+// order. Pure functions; in pixels, y grows downwards. All divisions by two round toward zero. Sums
+// are computed in 64 bits and clamped, so that no gap overflows.
 #pragma once
 
 #include <array>
@@ -72,8 +72,8 @@ int CountRows(const Rows &flags);
 
 /// The rows of a digital clock around the middle of the area. The positions of rows that do not
 /// take part stay as they are, except that a single row positions all five. The date is above the
-/// week with two rows and below it with more; a swap of exactly 1 exchanges them. Nothing changes
-/// when another number of rows takes part than the function is for (one and five rows do not ask).
+/// week with two rows and below it with more; a swap of exactly 1 exchanges them. LayOutTwoRows to
+/// LayOutFourRows do nothing if a different number of rows takes part.
 void LayOutOneRow(const DigitalArea &area, Rows &positions);
 void LayOutTwoRows(const DigitalArea &area, Rows &positions);
 void LayOutThreeRows(const DigitalArea &area, Rows &positions);
@@ -93,12 +93,12 @@ constexpr Rows LowerRows(Rows rows)
 /// it is exactly 1, with three when it is not 0. The time row stays as it is.
 void LayOutAnalogRows(const AnalogArea &area, Rows &positions);
 
-/// The left edge of the first element on one line, given the sum of the widths of the elements
-/// that count and their number. However far outside that is, an element in the middle of others may
-/// be within the area: positions are clamped one by one.
+/// The left edge of the first element on one line, given the sum of the widths of the elements that
+/// take part and their number. Not clamped: even if it is far outside, a later element may be
+/// within the area.
 long long LineStart(int areaWidth, int space, long long widths, int count);
 
-/// A position plus distances, clamped to where nothing is drawn any more.
+/// A position, clamped far outside every frame so that sums cannot overflow.
 int ClampPosition(long long position);
 
 } // namespace Lw::HNodeClock

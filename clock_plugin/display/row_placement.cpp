@@ -8,7 +8,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// The host may delete the node as it is asked something. All numbers are 0 then.
+// The host may delete the node during a call. All numbers are 0 then.
 using AskedNode = QPointer<HClockNode>;
 
 int Number(const AskedNode &node, Attribute attribute)

@@ -1,5 +1,5 @@
-// Where the texts of a clock stand in its frame, from its settings and its elements. The drawers
-// paint what these place, and checks look at the same.
+// display/: positions of a clock's texts in its frame, from its settings and elements. Used by the
+// drawers and by the checks in fit/.
 #pragma once
 
 #include "clock_node.h"
@@ -11,21 +11,21 @@
 
 namespace Lw::HNodeClock {
 
-/// What a digital clock is drawn by, read from its node once for all uses in a frame.
+/// The settings of a digital clock, read from its node once per frame.
 struct DigitalSettings
 {
     explicit DigitalSettings(HClockNode &node);
 
     QSize area;
-    /// An element counts in the layout when its flag is not 0; it is drawn when it is 1.
+    /// An element takes part in the layout if its flag is not 0, and is drawn if it is 1.
     Rows flags;
     int space = 0;
     int swap = 0;
     bool onOneLine = false;
 };
 
-/// Works out the top edges of a digital clock's rows as the layout of that many rows, 0 to 5, with
-/// the gap given. Tops that the layout leaves alone stay.
+/// Computes the top edges of a digital clock's rows with the layout for `count` rows, 0 to 5, and
+/// the given gap. Tops that the layout does not set are unchanged.
 void LayOutDigital(const DigitalSettings &settings, int count, int space, ElementComposer &elements,
                    Rows &tops);
 /// The elements that are drawn, in the order of drawing: on one line, or at the tops given.

@@ -1,5 +1,4 @@
-// The pictures of the picture clock: where they are, what they are called, and how many styles of
-// dials there are.
+// display/: the files of the picture clock: folder, names, and the number of dial styles.
 #pragma once
 
 #include "clock_attributes.h"
@@ -9,7 +8,7 @@
 
 namespace Lw::HNodeClock {
 
-/// The styles that have a picture of their dial: 1 to this. image/CMakeLists.txt reads this line.
+/// Styles 1 to kStyleCount have a dial picture. image/CMakeLists.txt parses this line.
 inline constexpr int kStyleCount = 10;
 static_assert(RowOf(Attribute::PictrueClockType).range.last == kStyleCount,
               "the attribute table names the styles");
@@ -27,7 +26,7 @@ inline QString StyleFolder()
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../image/ClockType/");
 }
 
-/// The name of a dial's picture. Every number makes one; there need not be such a file.
+/// The file name of a dial's picture, for any number; the file may not exist.
 inline QString DialPicture(int style)
 {
     return QStringLiteral("picbutton%1.png").arg(style);

@@ -15,7 +15,7 @@
 
 namespace Lw::HNodeClock {
 
-/// A font, by the settings that it is made of.
+/// A font and the settings it was made from.
 struct GlyphFace
 {
     QString family;
@@ -85,7 +85,8 @@ void DrwSourceIMage::ReadFont(HClockNode *node, GlyphFont font)
                                        node->GetAttributeToInt(Key(attributes.colour))};
 }
 
-// The host is called for every image. Should it delete the node there, the rest is not made.
+// The host is called for every image. If it deletes the node there, the remaining images are
+// skipped.
 void DrwSourceIMage::DrawClockSourceImage(HClockNode *node, bool calcMD5, bool isTempUpdate)
 {
     if (!node)
@@ -134,7 +135,7 @@ void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, 
          {GlyphShape::DigitStrip, QLatin1String(kDigits), family, size, colour, path, false});
 }
 
-// Strips are always in the regular directory: a program and its temporary updates share them.
+// Digit strips are always in the regular directory, shared by a program and its temporary updates.
 QString DrwSourceIMage::PathOf(GlyphShape shape, const QString &id, const QString &suffix) const
 {
     const bool isTemporary = m_isTempUpdate && shape == GlyphShape::Text;
@@ -142,7 +143,7 @@ QString DrwSourceIMage::PathOf(GlyphShape shape, const QString &id, const QStrin
         + m_typePrefix + id + suffix;
 }
 
-// An empty top text has to clear the wall: without a removal the text before it would stay there.
+// An empty top text removes its file, or the previous text would stay on the wall.
 GlyphOutcome DrwSourceIMage::Make(HClockNode *node, const QString &key, const GlyphRequest &request)
 {
     GlyphOutcome outcome = Deliver(request);
@@ -154,7 +155,7 @@ GlyphOutcome DrwSourceIMage::Make(HClockNode *node, const QString &key, const Gl
     return outcome;
 }
 
-/// Draws what is not remembered, and writes what the file does not hold.
+/// Draws the image unless it is cached, and writes it unless the file already has it.
 GlyphOutcome DrwSourceIMage::Deliver(const GlyphRequest &request)
 {
     GlyphOutcome outcome;
@@ -175,13 +176,14 @@ GlyphOutcome DrwSourceIMage::Deliver(const GlyphRequest &request)
     if (!isThere && glyph.state == GlyphState::Drawn)
         // A file under its digest's name is never written again, so it must be complete on disk.
         outcome.error = WriteImageFile(request.path, glyph.file,
-                                       m_calcMd5 ? Durability::Forced : Durability::Ordinary);
+                                       m_calcMd5 ? Durability::Synced : Durability::Ordinary);
     outcome.state = glyph.state;
     outcome.facts = glyph.facts;
     return outcome;
 }
 
-// Looking a font up costs as much as drawing with it, and up to twelve images in turn use one.
+// Looking up a font costs as much as drawing with it, and up to twelve consecutive images use the
+// same one.
 const GlyphFace &DrwSourceIMage::FaceFor(const QString &family, int size)
 {
     if (!m_face || m_face->family != family || m_face->size != size) {

@@ -1,4 +1,5 @@
-// Makes the glyph images of a node: transparent PNG strips of every text that its clock can show.
+// glyph/: generates the glyph images of a node: transparent PNG strips of every text that its clock
+// can show.
 #pragma once
 
 #include "clock_export.h"
@@ -21,16 +22,16 @@ struct GlyphFace;
 struct GlyphOutcome;
 struct GlyphRequest;
 
-/// Lives for one generation: made, called once, deleted.
+/// Use one object per generation.
 ///
-/// Failures are not reported, but told on the node (host/glyph_faults.h). An image that cannot be
-/// made or written leaves the file of its name as it was, and is recorded all the same. That is one
-/// of width 0, one above 32767 pixels a side or 64 MiB, and any of a font above 32767 points. The
-/// one exception is a top text of width 0: the file of its plain name is removed, so that a cleared
+/// Failures are recorded on the node (host/glyph_faults.h). An image that cannot be made or written
+/// leaves an existing file unchanged, and is recorded nevertheless. It cannot be made if it has
+/// width 0, exceeds 32767 pixels per side or 64 MiB, or has a font above 32767 points. The one
+/// exception is a top text of width 0: the file of its plain name is removed, so that a cleared
 /// text no longer shows.
 ///
-/// Only what changed is drawn: an image that the process has drawn lately is not drawn again, and a
-/// file that holds the right bytes already is not touched.
+/// Only changed images are drawn: recently drawn images are cached per process, and a file that
+/// already has the right bytes is not written.
 class CLOCK_EXPORT DrwSourceIMage : public QObject
 {
     Q_OBJECT
@@ -39,8 +40,8 @@ public:
     DrwSourceIMage();
     ~DrwSourceIMage() override;
 
-    /// Takes type, top text and fonts of the node. Of a clock that is neither analog nor digital
-    /// only the type is taken.
+    /// Reads type, top text and fonts from the node. Of a clock that is neither analog nor digital
+    /// only the type is read.
     void InitParameters(HClockNode *node);
     /// Writes one text in an image as wide as its advance and as high as its font, and records the
     /// file on the node under the key. An empty family is the application's default font; a size
@@ -67,7 +68,7 @@ private:
         int colour = 0;
     };
 
-    // The class is shown to programs; how it works inside is not.
+    // The class is exported; its private functions are not.
     Q_DECL_HIDDEN void ReadFont(HClockNode *node, GlyphFont font);
     Q_DECL_HIDDEN GlyphOutcome DrawGlyph(HClockNode *node, const GlyphImage &image,
                                          const QString &id);

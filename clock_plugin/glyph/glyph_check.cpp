@@ -35,7 +35,7 @@ std::optional<Lw::GlyphFault> FontFault(const GlyphImage &image, const QString &
     return fault;
 }
 
-/// Of an image that is shown and not empty.
+/// For an image that is shown and not empty.
 std::optional<Lw::GlyphFault> PictureFault(const GlyphImage &image, const GlyphOutcome &outcome)
 {
     if (outcome.state == GlyphState::TooLarge)

@@ -1,5 +1,5 @@
-// Whether the glyph images of a clock show what they should, as far as fonts and the making of the
-// images decide it.
+// glyph/: checks whether the glyph images of a clock show what they should: font, size, ink and
+// writing.
 #pragma once
 
 #include "glyph/glyph_drawing.h"
@@ -12,18 +12,18 @@ namespace Lw::HNodeClock {
 
 class HClockNode;
 
-/// How the making of one image ended.
+/// The result of generating one image.
 struct GlyphOutcome
 {
     QString path; ///< under its plain name
     QString text;
     GlyphState state = GlyphState::TooLarge;
-    int error = 0;    ///< of writing it; the system's number, or 0
+    int error = 0;    ///< errno of writing it, or 0
     GlyphFacts facts; ///< where it was drawn
 };
 
-/// What is wrong with an image that was made. Of one that the clock does not show, only that it
-/// could not be written.
+/// What is wrong with a generated image. For one that the clock does not show, only that it could
+/// not be written.
 std::optional<Lw::GlyphFault> FaultOf(const GlyphImage &image, const GlyphOutcome &outcome,
                                       HClockNode &node);
 

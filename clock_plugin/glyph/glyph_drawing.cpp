@@ -48,7 +48,7 @@ DrawnGlyph Encoded(const QPixmap &picture)
     return drawn;
 }
 
-/// Encoded while the painter is still at work on it; a strip, after it has ended.
+/// The picture is encoded while the painter is still active; a strip after painter.end().
 DrawnGlyph DrawText(QPainter &painter, const QFont &font, const QString &text, const QColor &colour)
 {
     const int width = GlyphTextWidth(QFontMetrics(font), text);
@@ -73,7 +73,7 @@ DrawnGlyph DrawStrip(QPainter &painter, const QFont &font, const QColor &colour)
     return Encoded(picture);
 }
 
-/// Letters that are seen, and so can be seen to be lacking.
+/// Whether a character is visible, so that its absence matters.
 bool IsSeen(uint letter)
 {
     const QChar::Category category = QChar::category(letter);

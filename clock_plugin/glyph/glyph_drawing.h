@@ -1,4 +1,4 @@
-// Glyph images as the files that they become, and what is known of them.
+// glyph/: draws a glyph image and encodes it as a PNG file in memory.
 #pragma once
 
 #include "glyph/glyph_memory.h"
@@ -14,10 +14,10 @@ namespace Lw::HNodeClock {
 /// What a digit strip shows.
 inline constexpr char kDigits[] = "0123456789";
 
-/// Those letters of a text that no installed font has, each once; boxes are drawn for them.
+/// The distinct characters of a text that no installed font has; boxes are drawn for them.
 QString LackingLetters(const QFontMetrics &metrics, const QString &text);
 
-/// The painter must not be at work.
+/// Draws and encodes one image. The painter must not be active.
 DrawnGlyph DrawGlyphImage(QPainter &painter, const GlyphContent &content, const QFont &font);
 
 } // namespace Lw::HNodeClock

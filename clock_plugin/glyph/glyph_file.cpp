@@ -23,7 +23,7 @@ QByteArray Sha1(const QByteArray &bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
 }
 
-/// The content of an ordinary file of that size; null for any other.
+/// The content of a regular file of that size; null for any other.
 QByteArray ReadFileOfSize(const QString &path, qint64 size)
 {
     if (size <= kSmall)
@@ -34,7 +34,8 @@ QByteArray ReadFileOfSize(const QString &path, qint64 size)
     return fits ? file.readAll() : QByteArray();
 }
 
-/// Leftovers of a power failure, FIFOs and links are removed first. A filled directory refuses.
+/// Leftovers of a power failure, FIFOs and links are removed first. Fails for a non-empty
+/// directory.
 int OpenNew(const QByteArray &name)
 {
     const auto open = [&name] {
@@ -46,7 +47,7 @@ int OpenNew(const QByteArray &name)
     return handle;
 }
 
-// These give 0 or the system's number of the error.
+// These return 0 or an errno value.
 
 int WriteAll(int handle, const QByteArray &bytes)
 {
@@ -65,14 +66,14 @@ int WriteAll(int handle, const QByteArray &bytes)
 int WriteAndClose(int handle, const QByteArray &bytes, Durability durability)
 {
     int error = WriteAll(handle, bytes);
-    if (error == 0 && durability == Durability::Forced && fsync(handle) != 0)
+    if (error == 0 && durability == Durability::Synced && fsync(handle) != 0)
         error = errno;
     if (close(handle) != 0 && error == 0)
         error = errno;
     return error;
 }
 
-/// Within one directory a rename replaces the older file in one step.
+/// Writes next to the target and renames: a rename within one directory is atomic.
 int WriteAsideAndRename(const QByteArray &to, const QByteArray &bytes, Durability durability)
 {
     const QByteArray aside = to + ".part";
@@ -95,20 +96,20 @@ bool IsWriteProtected(const QString &path)
 
 } // namespace
 
-// A set is some fifty files: the system is asked directly, which takes half the time of QFile.
+// A set has about fifty files; direct system calls take half the time of QFile.
 QByteArray ReadSmallFile(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status
     { };
-    // The system ends a path at its first character 0 and would take another file for it.
+    // The system ends a path at its first NUL and would open another file.
     if (name.isEmpty() || name.contains('\0') || stat(name.constData(), &status) != 0
         || !S_ISREG(status.st_mode) || status.st_size > kSmall)
         return QByteArray();
     const int file = open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (file < 0)
         return QByteArray();
-    // Its name may stand for another file by now.
+    // The path may name another file by now.
     if (fstat(file, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > kSmall)
         status.st_size = 0;
     QByteArray content(static_cast<int>(status.st_size), Qt::Uninitialized);

@@ -9,13 +9,13 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// In bytes. A set of 48 points has some 75 KB of files, and its facts some 20 KB.
+// Cache limits in bytes. A set at 48 points takes about 75 KB of files and 20 KB of facts.
 constexpr int kMostFiles = 1 << 20;
 constexpr int kMostFacts = 1 << 20;
 
 int CostOf(const GlyphContent &content, const GlyphFacts &facts)
 {
-    constexpr int kOverhead = 150; // of an entry, whatever it holds
+    constexpr int kOverhead = 150; // bytes per entry
     return kOverhead + content.face.size()
         + static_cast<int>(sizeof(QChar)) * (content.text.size() + facts.lackingLetters.size());
 }
@@ -34,8 +34,8 @@ uint qHash(const GlyphContent &content, uint seed)
         ^ ::qHash(static_cast<int>(content.shape), ~seed);
 }
 
-// A text's direction is the application's unless its letters decide, and a size in points becomes
-// pixels by the first screen's resolution.
+// Text without strong directional letters follows the application's layout direction, and points
+// become pixels by the first screen's resolution.
 QByteArray FaceOf(const QFont &font)
 {
     QByteArray face;
@@ -97,7 +97,7 @@ void GlyphMemory::Forget()
     m_hasFonts.reset();
 }
 
-// Qt lists families of its own where the system has none.
+// QFontDatabase is no help: Qt lists its own families even if no font is installed.
 bool GlyphMemory::HasFonts()
 {
     if (!m_hasFonts)

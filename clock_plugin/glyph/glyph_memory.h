@@ -1,9 +1,8 @@
-// The glyph images that the process has drawn lately, so that an image that is asked for again, for
-// this clock or for another, is neither drawn nor encoded again.
+// glyph/: a cache of recently drawn glyph images, so that an image needed again, for the same clock
+// or another, is neither drawn nor encoded again.
 //
-// An image is known by all that its pixels depend on. Of each the facts are remembered, of most the
-// encoded file too; both are bounded, and the least lately used go first. Fonts that are added or
-// removed make everything forgotten.
+// The key is everything the pixels depend on. For each image the facts are cached, for most also
+// the encoded file; both caches are bounded (LRU). Adding or removing fonts clears them.
 #pragma once
 
 #include "glyph/glyph_set.h"
@@ -34,7 +33,8 @@ struct GlyphContent
 bool operator==(const GlyphContent &one, const GlyphContent &other);
 uint qHash(const GlyphContent &content, uint seed);
 
-/// A font and what else its glyphs depend on: resolution, substitutes, direction of text.
+/// Serialises a font and everything else its glyphs depend on: resolution, substitutes, text
+/// direction.
 QByteArray FaceOf(const QFont &font);
 
 /// What is known of an image that was drawn.
@@ -49,30 +49,31 @@ struct GlyphFacts
 enum class GlyphState {
     Drawn,
     Nothing,  ///< the text has no width
-    TooLarge, ///< for an image, or for the memory that is left
+    TooLarge, ///< too large for an image or for the available memory
 };
 
 struct DrawnGlyph
 {
     GlyphState state = GlyphState::TooLarge;
     GlyphFacts facts;
-    QByteArray file; ///< the PNG; null unless drawn, and where it is forgotten
+    QByteArray file; ///< the PNG; null if not drawn or no longer cached
 };
 
-/// Not for use by several threads.
+/// Not thread-safe.
 class GlyphMemory
 {
 public:
-    /// The one of the process; empty again where the application is another than before.
+    /// The process-wide cache; cleared when there is a new application object.
     static GlyphMemory &Shared();
 
-    /// Not drawn where it is forgotten; drawn without a file where only that is.
+    /// State is not Drawn if the image is not cached; Drawn without a file if only the facts are
+    /// cached.
     DrawnGlyph Find(const GlyphContent &content);
-    /// Does nothing with a glyph that was not drawn.
+    /// Caches a glyph; ignores one that was not drawn.
     void Keep(const GlyphContent &content, const DrawnGlyph &glyph);
     void Forget();
 
-    /// Whether any font is installed; one without digits is as good as none.
+    /// Whether any font with digits is installed.
     bool HasFonts();
 
     /// How many images the process has drawn and encoded.

@@ -26,8 +26,8 @@ bool AreOneFile(const struct stat &file, const struct stat &other)
     return file.st_dev == other.st_dev && file.st_ino == other.st_ino;
 }
 
-/// Whether both paths lead to one entry of one directory, by what the file system says, for an
-/// entry has many spellings: links, "..", bind mounts. Hard links are entries of their own.
+/// Whether both paths name the same directory entry, according to the file system, as an entry has
+/// many spellings: links, "..", bind mounts. Hard links are distinct entries.
 bool AreOneEntry(const QString &path, const QString &other)
 {
     struct stat status;
@@ -43,14 +43,14 @@ bool AreOneEntry(const QString &path, const QString &other)
         && ReadStatus(otherEntry.path(), &otherStatus) && AreOneFile(status, otherStatus);
 }
 
-/// The system ends a path at its first character 0 and would take another file for it.
+/// False for a path with a NUL, which the system would cut off.
 bool IsWhole(const QString &path)
 {
     return !path.contains(QChar::Null);
 }
 
-/// The copy appears under its name only when it is complete and on the disk. The flush is asked
-/// for by hand: commit() does not look at the bytes that closing the file still has to write.
+/// The copy appears under its name only when it is complete on disk. The flush is explicit because
+/// commit() does not detect a failure to write the last buffered bytes.
 bool CopyWhole(const QString &source, const QString &dest)
 {
     QFile in(source);
@@ -66,8 +66,8 @@ bool CopyWhole(const QString &source, const QString &dest)
     return in.error() == QFile::NoError && out.flush() && out.commit();
 }
 
-/// Whether the rename was made, or failed for good: only a copy leads to another file system, and
-/// to what a link names, for a relative link names nothing in another directory.
+/// Renames. True if that succeeded or failed for good; false if a copy is needed: to another file
+/// system, and for the target of a link, as a relative link would break in another directory.
 bool IsSettledByRename(const QString &source, const QString &dest)
 {
     if (QFileInfo(source).isSymLink())
@@ -77,18 +77,18 @@ bool IsSettledByRename(const QString &source, const QString &dest)
         || errno != EXDEV;
 }
 
-/// A rename that also replaces dest, or a copy whose original is removed only after the copy was
-/// read back; QFile::rename removes the original while the copy may still be in its
-/// buffer, and a full device then has neither.
+/// Renames, replacing dest, or copies and removes the original only after the copy was read back;
+/// QFile::rename removes the original while the copy may still be in its buffer, so on a full
+/// device both would be lost.
 void MoveOver(const QString &source, const QString &dest, const QString &digest)
 {
-    QDir().rmdir(dest); // an empty directory holds nothing; any other entry refuses
+    QDir().rmdir(dest); // removes an empty directory only
     if (IsSettledByRename(source, dest))
         return;
     if (QFileInfo(dest).isSymLink())
         QFile::remove(dest); // the link, not what it leads to
     if (CopyWhole(source, dest) && HMD5::FileDigest(dest) == digest)
-        QFile::remove(source); // of a link the link, too
+        QFile::remove(source); // also removes a link
 }
 
 } // namespace

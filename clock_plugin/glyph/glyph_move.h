@@ -1,15 +1,14 @@
-// Bringing the file of a glyph image to its place under its digest's name.
+// glyph/: moves a glyph image to a directory under its digest's name.
 #pragma once
 
 #include <QString>
 
 namespace Lw::HNodeClock {
 
-/// Moves the image at source to dest, which is named by the digest given. The image is removed only
-/// once dest certainly has the same bytes; a dest that does not hold what its name says is
-/// replaced. Of a source that is a symbolic link the contents move and the link goes; the file that
-/// it names stays. Without a digest nothing is touched: source is missing or cannot be read.
-/// Nothing is reported.
+/// Moves the image at source to dest, which is named by `digest`. The source is removed only once
+/// dest has the same bytes; a dest whose content does not match its name is replaced. If source is
+/// a symbolic link, the contents are copied and the link is removed; the file that it names is
+/// kept. Does nothing without a digest: source is then missing or unreadable. Fails silently.
 void MoveToDigestName(const QString &source, const QString &dest, const QString &digest);
 
 } // namespace Lw::HNodeClock

@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kDefaultPoints = 12;
 
-// Qt's text widths overflow at 2^25 pixels: so many characters stay below it at every size.
+// Qt's text widths overflow at 2^25 pixels; this many characters stay below that at every size.
 constexpr int kMeasuredAtOnce = 256;
 
 int AdvanceWidth(const QFontMetrics &metrics, const QString &text)

@@ -1,4 +1,5 @@
-// Draws glyph images in memory: one text, or the ten digits in equal cells, on transparency.
+// glyph/: draws glyph images in memory: one text, or the ten digits in equal cells, on a
+// transparent background.
 #pragma once
 
 #include <QColor>
@@ -17,8 +18,8 @@ namespace Lw::HNodeClock {
 /// stroke. An empty family is the application's default font, a size of 0 or less 12 points.
 QFont GlyphTypeface(const QString &family, int points);
 
-/// The advance width of a text in pixels. For one that is far too wide for an image a width that
-/// is too wide; it may be less than the text's own.
+/// The advance width of a text in pixels. For a text far too wide for an image, some width that is
+/// also too wide, but may be less than the real one.
 int GlyphTextWidth(const QFontMetrics &metrics, const QString &text);
 /// The widest advance among "0" to "9", in pixels.
 int WidestDigit(const QFontMetrics &metrics);
@@ -27,8 +28,8 @@ int WidestDigit(const QFontMetrics &metrics);
 /// or beyond the bounds of glyph images.
 QPixmap EmptyPicture(const QFont &font, int width);
 
-// Each begins the painter on such a picture, which must not be null, and draws there. The painter
-// is still active on return; the caller ends it.
+// Each begins the painter on a picture of EmptyPicture(), which must not be null, and draws. The
+// painter is still active on return; the caller ends it.
 void BeginText(QPainter &painter, QPixmap &picture, const QFont &font, const QColor &colour,
                const QString &text);
 void BeginDigits(QPainter &painter, QPixmap &picture, const QFont &font, const QColor &colour);

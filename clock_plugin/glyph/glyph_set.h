@@ -1,5 +1,5 @@
-// The glyph images of a clock: one table of what they are called, what they show and with which
-// font, and in which order they are made and recorded.
+// glyph/: the table of a clock's glyph images: their keys, their texts and fonts, and the order of
+// generation and recording.
 //
 // The generator, the checks for missing files, the export and the loader walk this table; there is
 // no other list of keys.
@@ -14,7 +14,8 @@
 
 namespace Lw::HNodeClock {
 
-// A glyph image's file is called by the clock's type, its identity, the image's key and the suffix.
+// A glyph file's name is the prefix of the clock type, the clock's Id, the image's key and the
+// suffix.
 inline constexpr char kAnalogPrefix[] = "analog_";
 inline constexpr char kDigitalPrefix[] = "digital_";
 inline constexpr char kGlyphSuffix[] = ".png";
@@ -69,20 +70,21 @@ enum class GlyphClocks { Both, Analog, Digital };
 struct GlyphRow
 {
     Glyph glyph;
-    const char *key; ///< of the single image; of a series the key without its number
+    const char *key; ///< of a single image, or of a series without the number
     int count;       ///< 0 for a single image, else the length of the series numbered from 1
     GlyphShape shape;
     GlyphWording wording;
     GlyphFont font;
     GlyphClocks clocks;
     bool required;   ///< its absence makes a node incomplete
-    bool exported;   ///< it travels with the program
-    int generation;  ///< place in the order of making; rows of one place are interleaved by number
-    int bookkeeping; ///< place in the order of checking and exporting, likewise
+    bool exported;   ///< it is part of an export
+    int generation;  ///< position in generation order; rows at the same position are interleaved by
+                     ///< number
+    int bookkeeping; ///< position in the order of checking and exporting, likewise
     const char *texts[12];
 };
 
-// Texts are marked with the context written out, for that is how the translation tools find them.
+// The translation context is spelled out so that lupdate finds the texts.
 // clang-format off
 inline constexpr GlyphRow kGlyphTable[] = {
     {Glyph::TopText, "_toptext", 0, GlyphShape::Text, GlyphWording::TopText,
@@ -200,12 +202,12 @@ enum class GlyphOrder { Generation, Bookkeeping };
 /// nor digital has the images common to both.
 QVector<GlyphImage> GlyphImages(GlyphOrder order, int clockType);
 
-/// The key of one image; made once for the process. A number outside the series, which for a
-/// single image is any but 0, gives an empty key.
+/// The key of one image, created once per process. Empty for a number outside the series; a single
+/// image has only number 0.
 const QString &GlyphKey(Glyph glyph, int number = 0);
 
-/// The attributes of the font that a digital clock, or any other, uses. Only the analog clock has
-/// an hour-scale and an AM/PM font, only the digital one a time font: these are the same for all.
+/// The attributes of a font for a clock type. Analog-only fonts (hour scale, AM/PM) and the
+/// digital-only font (time) are the same for every type.
 struct GlyphFontAttributes
 {
     Attribute family;

@@ -85,7 +85,7 @@ bool OpenForReading(QFile &file, const QString &path)
 {
     file.setFileName(path);
     file.unsetError();
-    // A device or a pipe might never end; that a directory cannot be read, opening it says.
+    // A device or pipe may be endless. A directory passes, as open() gives the right error for it.
     const QFileInfo info(path);
     const bool endless = info.exists() && !info.isFile() && !info.isDir();
     return !endless && file.open(QFile::ReadOnly);
@@ -125,9 +125,8 @@ QString HMD5::GeneratorFile(QString path)
     const QFileInfo old(path);
     const QString renamed =
         old.absolutePath() + QLatin1Char('/') + digest + QLatin1Char('.') + old.suffix();
-    // An existing file of that name is never replaced, so that a file reached by another spelling
-    // of its own path is not lost. Qt takes a link that leads nowhere for no file, and then writes
-    // where it leads.
+    // An existing file is never replaced, so that a file reached through another spelling of its
+    // own path is not lost. Qt treats a dangling link as no file, and then writes to its target.
     if (renamed != path && !QFileInfo(renamed).isSymLink())
         file.rename(renamed);
     return renamed;

@@ -1,4 +1,4 @@
-// MD5 digests (RFC 1321) of files, and the names made from them.
+// glyph/: MD5 digests (RFC 1321) of files, and file names made from them.
 #pragma once
 
 #include "clock_export.h"
@@ -13,8 +13,7 @@ public:
     /// Renames a file, within its directory, to its digest in lowercase hexadecimal, a full stop
     /// and its old suffix. Returns the new absolute path, or a null text for a file that cannot be
     /// read. A rename that fails is silent, and both files stay; the usual case is that an
-    /// identical file is there already. One file object serves all calls: not to be entered
-    /// from two threads.
+    /// identical file is there already. Not thread-safe: all calls share one file object.
     static QString GeneratorFile(QString path);
 
     /// The digest of a file as 32 lowercase hexadecimal digits; empty for one that is missing or
@@ -22,7 +21,7 @@ public:
     static QString FileDigest(QString path);
 
     /// The compression of one 64-byte block into four state words. Only the low 32 bits of each
-    /// word count; the block may lie at any address.
+    /// word are used; the block may have any alignment.
     static void MD5Transform(unsigned long *state, unsigned char *block);
 
     void Update(const unsigned char *bytes, unsigned int length);

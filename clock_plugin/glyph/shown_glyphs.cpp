@@ -11,7 +11,7 @@ namespace {
 
 using A = Attribute;
 
-/// The row of a clock that an image belongs to, and for which codes of its format.
+/// The row an image belongs to, and the format codes that show it.
 struct ShownRow
 {
     Glyph glyph;
@@ -58,7 +58,7 @@ constexpr bool RowsFollowEnumeration()
 static_assert(std::size(kShown) == kGlyphCount && RowsFollowEnumeration(),
               "row i of the table must describe glyph i");
 
-/// What codes outside the documented ones show does not count.
+/// False for undocumented codes.
 bool FormatShows(HClockNode &node, Attribute format, const char *codes)
 {
     const int code = node.GetAttributeToInt(Key(format));

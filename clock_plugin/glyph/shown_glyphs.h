@@ -1,5 +1,5 @@
-// Which glyph images a clock shows as it is set: of rows that are hidden and formats that are not
-// chosen an image may be wrong and nobody sees it.
+// glyph/: which glyph images a clock shows with its settings. Faults in those of hidden rows and
+// unused formats do not matter.
 #pragma once
 
 #include "glyph/glyph_set.h"
@@ -8,8 +8,7 @@ namespace Lw::HNodeClock {
 
 class HClockNode;
 
-/// Whether the clock shows the image at some time or other. False for an image that its kind of
-/// clock does not have.
+/// Whether the clock ever shows the image. False for an image that its kind of clock does not have.
 bool IsShown(const GlyphImage &image, HClockNode &node);
 
 } // namespace Lw::HNodeClock

@@ -1667,11 +1667,11 @@
         <translation>روز/ماه/سال</translation>
     </message>
     <message>
-        <source>month&apos;s name, day, year</source>
+        <source>month name, day, year</source>
         <translation>نام ماه، روز، سال</translation>
     </message>
     <message>
-        <source>day, month&apos;s name, year</source>
+        <source>day, month name, year</source>
         <translation>روز، نام ماه، سال</translation>
     </message>
     <message>
@@ -1727,11 +1727,11 @@
         <translation>فارسی</translation>
     </message>
     <message>
-        <source>twenty-four</source>
+        <source>twenty-four hours</source>
         <translation>بیست‌وچهار</translation>
     </message>
     <message>
-        <source>twelve</source>
+        <source>twelve hours</source>
         <translation>دوازده</translation>
     </message>
     <message>

@@ -1664,11 +1664,11 @@
         <translation>日/月/年</translation>
     </message>
     <message>
-        <source>month&apos;s name, day, year</source>
+        <source>month name, day, year</source>
         <translation>月份名、日、年</translation>
     </message>
     <message>
-        <source>day, month&apos;s name, year</source>
+        <source>day, month name, year</source>
         <translation>日、月份名、年</translation>
     </message>
     <message>
@@ -1724,11 +1724,11 @@
         <translation>波斯文</translation>
     </message>
     <message>
-        <source>twenty-four</source>
+        <source>twenty-four hours</source>
         <translation>二十四小时</translation>
     </message>
     <message>
-        <source>twelve</source>
+        <source>twelve hours</source>
         <translation>十二小时</translation>
     </message>
     <message>

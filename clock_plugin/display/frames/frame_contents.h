@@ -1,4 +1,5 @@
-// Draws placed elements into a frame, and into a frame drawn before only what differs.
+// display/frames/: draws placed elements into a frame, repainting only what differs from its known
+// contents.
 #pragma once
 
 #include "display/frames/placements.h"
@@ -11,18 +12,18 @@
 
 namespace Lw::HNodeClock {
 
-/// Remembers what an image holds. Images are told apart by their cache key, which changes with
-/// every write: an image that anybody else drew into is simply not known.
+/// Records what an image shows. Images are identified by their cache key, which changes with every
+/// write: an image modified elsewhere is unknown.
 class FrameContents
 {
 public:
     bool Describes(const QImage &image, const Placements &placements) const;
     /// Makes the image show the placements on the background and nothing else. It must be detached.
-    /// What it shows already, as this knows it, is left alone.
+    /// Parts that are known to be unchanged are not redrawn.
     void Draw(QImage &image, const Placements &placements, const QColor &background);
 
     /// Where an image with these contents may differ from an earlier one with the contents given;
-    /// no answer where either image is unknown.
+    /// nullopt if either image is unknown.
     std::optional<QRegion> ChangesSince(const FrameContents &before, const QImage &image,
                                         const QImage &imageBefore) const;
 

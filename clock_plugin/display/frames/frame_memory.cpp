@@ -9,8 +9,8 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// All bytes are written through a pointer taken once: the frame is not shared, so nothing is
-// copied, and its key changes once.
+// All bytes are written through one pointer: the frame is not shared, so nothing is copied, and its
+// key changes once.
 void CopyRegion(const QImage &source, const QPoint &place, const QRegion &region, uchar *target,
                 int targetLine)
 {
@@ -84,8 +84,8 @@ void FrameMemory::BackgroundChanged(qint64 keyBefore, const QImage &background, 
         known.stale += area;
 }
 
-// The parts that are on one of the frames only, and where the background changed since the frame
-// before was drawn.
+// The parts that only one of the frames has, and where the background has changed since `before`
+// was drawn.
 std::optional<QRegion> FrameMemory::ChangesSince(const QImage &before, const QImage &frame) const
 {
     const Known *const knownBefore = Find(before);
@@ -96,7 +96,7 @@ std::optional<QRegion> FrameMemory::ChangesSince(const QImage &before, const QIm
         + known->PartsMissingIn(*knownBefore);
 }
 
-// Beyond the most there can be, parts would share the last place: there must be none.
+// No face paints more than kMostParts parts; an analog clock with arrow hands has the most.
 Spans &FrameMemory::Known::NextPart()
 {
     Q_ASSERT(count < kMostParts);

@@ -1,8 +1,8 @@
-// What is painted in the frames of one kind of clock: which pixels differ from the picture behind
-// its hands. Two frames are drawn in turn, so two are remembered.
+// display/frames/: tracks in two alternating frames which pixels differ from the background behind
+// the hands.
 //
-// A frame is recognised by its image's cache key, which changes whenever anyone else writes into
-// the image or replaces it: such a frame is unknown, and gets the whole picture.
+// A frame is identified by its image's cache key, which changes whenever other code writes to the
+// image or replaces it: such a frame is unknown and is restored completely.
 #pragma once
 
 #include "display/frames/kept_shape.h"
@@ -21,12 +21,12 @@ class FrameMemory
     struct Known;
 
 public:
-    /// Makes a frame show the background with its top left at a place, and the key colour around
-    /// it: by copying what differs when the frame is known, all of it when not. Hands have to stay
-    /// within the background. Where one of the images is null nothing happens.
+    /// Restores the background, with its top left at `place`, and the key colour around it: by
+    /// copying what differs when the frame is known, all of it when not. Hands have to stay within
+    /// the background. Where one of the images is null nothing happens.
     void Restore(QImage &frame, const QImage &background, const QPoint &place = QPoint());
 
-    /// Lives while hands are put onto a frame. An unknown frame stays unknown.
+    /// Exists while hands are painted onto a frame. An unknown frame stays unknown.
     class Painting
     {
     public:
@@ -34,7 +34,7 @@ public:
         ~Painting();
         Q_DISABLE_COPY(Painting)
         void Blend(const KeptShape &shape);
-        /// A painter painted within this outline, in pixels of the frame.
+        /// Records that a painter painted within this outline, in pixels of the frame.
         void Covers(const QPolygonF &outline);
 
     private:
@@ -42,11 +42,11 @@ public:
         Known *m_known;
     };
 
-    /// The background was painted within an area, and nowhere else, since it had the key given.
-    /// With any other key than the one known all frames are forgotten.
+    /// Records that the background changed only within `area` since it had the key `keyBefore`. If
+    /// the key is not the known one, all frames are forgotten.
     void BackgroundChanged(qint64 keyBefore, const QImage &background, const QRegion &area);
 
-    /// Where a frame may differ from the one drawn before it; no answer where either is unknown.
+    /// Where a frame may differ from the previous one; nullopt if either is unknown.
     std::optional<QRegion> ChangesSince(const QImage &before, const QImage &frame) const;
 
 private:
@@ -67,7 +67,7 @@ private:
     const Known *Find(const QImage &frame) const;
     void Forget();
 
-    std::array<Known, 2> m_known; // the one used last comes first
+    std::array<Known, 2> m_known; // most recently used first
     qint64 m_backgroundKey = 0;
     QPoint m_place; // of the background
 };

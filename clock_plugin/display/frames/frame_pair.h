@@ -1,5 +1,5 @@
-// The two frames of a drawer, drawn in turn: a consumer that holds the last one does not have it
-// copied.
+// display/frames/: double buffering: two frames drawn alternately, so that a consumer that holds
+// the last one causes no copy.
 #pragma once
 
 #include <QColor>
@@ -13,7 +13,7 @@ namespace Lw::HNodeClock {
 class FramePair
 {
 public:
-    /// What is not drawn on: the colour that hosts take for transparent.
+    /// The background colour, which hosts treat as transparent.
     static QColor KeyColour();
     /// Whether an image of that size can be drawn at all: within the bounds of frames.
     static bool Drawable(const QSize &size);
@@ -25,13 +25,13 @@ public:
     const QImage &Frame() const { return m_frame; }
     const QImage &FrameBefore() const { return m_spare; }
 
-    /// Makes the other frame the one to be drawn, or a new one filled with the key colour where
-    /// that is null, of another size or still held by someone.
+    /// Swaps the frames and returns the one to draw: a new one filled with the key colour if it is
+    /// null, of another size or still held elsewhere.
     QImage &TakeNext(const QSize &size);
 
-    /// For the damage of each frame: to be called before it is drawn, or not drawn again.
+    /// Call before each frame, whether or not it is redrawn; used for the damage.
     void Begin();
-    /// The next frame counts as different all over.
+    /// The next frame is treated as completely changed.
     void ForgetLast() { m_forgetLast = true; }
     enum class Difference { None, SinceFrameBefore, Everywhere };
     /// How the frame differs from the one handed over before it.

@@ -1,4 +1,4 @@
-// The shapes of one hand at its positions, each painted when the hand is there for the first time.
+// display/frames/: a cache of one hand's shapes, one per position, painted lazily.
 #pragma once
 
 #include "display/frames/kept_shape.h"
@@ -9,8 +9,8 @@
 
 namespace Lw::HNodeClock {
 
-/// The bytes that the shapes of one hand may have: those of the square that it moves in, and some
-/// for the smallest clocks.
+/// The most bytes that the shapes of one hand may take: those of the square it moves in, plus some
+/// for very small clocks.
 inline qint64 KeptLimit(const QSize &frame)
 {
     const qint64 side = qMin(frame.width(), frame.height());
@@ -20,7 +20,7 @@ inline qint64 KeptLimit(const QSize &frame)
 class KeptHand
 {
 public:
-    /// All that the shapes depend on, but for the position.
+    /// Everything the shapes depend on except the position.
     using Look = QVarLengthArray<qint64, 32>;
 
     /// A hand that has one position for each look.
@@ -28,9 +28,9 @@ public:
     explicit KeptHand(int positions) : m_positions(positions) { }
     bool HasPositions() const { return m_positions > 1; }
 
-    /// The shape at a position, from 0. Where it is not kept yet it is made by paint(), which
-    /// returns a KeptShape. Null where that is not made, where the shapes kept so far have more
-    /// bytes than the limit, and for other positions: then the hand is to be painted. Valid until
+    /// The shape at a position, from 0. If it is not cached yet it is created by paint(), which
+    /// returns a KeptShape. Null if it could not be made, if the shapes cached so far take more
+    /// bytes than the limit, and for other positions: the hand must then be painted. Valid until
     /// the next call.
     template<typename Paint>
     const KeptShape *At(const Look &look, int position, qint64 limit, Paint paint)

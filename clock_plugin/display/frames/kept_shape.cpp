@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kMostInARun = 255; // a byte counts them
 
-// The four bytes of a pixel, spread so that products with a byte do not meet.
+// The four bytes of a pixel, spread so that products with a byte do not overlap.
 constexpr quint64 kBytes = 0x00ff00ff00ff00ff;
 
 constexpr quint64 Spread(QRgb pixel)
@@ -44,8 +44,8 @@ Value Load(const char *from)
     return value;
 }
 
-// The inks: what is kept of a pixel, and what becomes of an opaque pixel below it. A solid pixel
-// hides whatever is below.
+// The inks: what is stored per pixel, and how it blends onto an opaque pixel. A solid pixel hides
+// what is below it.
 
 // A plain colour by its antialiasing: with source = colour * coverage / 255,
 // result = source + below * (255 - coverage) / 255.
@@ -255,7 +255,7 @@ namespace {
 
 constexpr QSize kSample(24, 24);
 
-// A picture of many colours and opacities, turned and shrunk.
+// Paints a rotated and scaled picture of many colours and opacities.
 void PaintSample(QImage &image)
 {
     QImage picture(16, 16, QImage::Format_ARGB32_Premultiplied);
@@ -320,7 +320,8 @@ KeptShape KeepPicture(const QRect &box, const std::function<void(QPainter &)> &p
         return KeptShape::OfPicture(QImage(), QRect());
     const int pixelBytes = format == QImage::Format_RGBA64_Premultiplied ? 8 : 4;
     const int line = (box.right() + 1) * pixelBytes;
-    // An image up to the box's last row and column, with memory only from its first row on.
+    // A QImage that spans the frame up to the box's last row and column, but has memory only from
+    // the box's first row on.
     const std::unique_ptr<uchar, decltype(&std::free)> rows(
         static_cast<uchar *>(
             std::malloc(static_cast<std::size_t>(box.height()) * static_cast<std::size_t>(line))),

@@ -1,9 +1,9 @@
-// A shape that was painted once and is only blended from then on: a hand that stays, one of the
-// sixty positions of a second hand, the disc over the hands. Antialiasing a hand, or turning a
-// picture, costs ten to twenty times as much as blending what comes of it.
+// display/frames/: a shape that is painted once and then only blended: a hand that stays for a
+// minute, one of the sixty positions of a second hand, the centre cap. Antialiasing a hand, or
+// rotating a picture, costs ten to twenty times as much as blending the result.
 //
-// What is kept is what painting adds to transparent ground, so it can be blended over whatever is
-// below. The formulas in kept_shape.cpp give the bytes that a painter gives.
+// It stores what painting adds to a transparent background, so it can be blended over whatever is
+// below. The formulas in kept_shape.cpp are bit-exact with QPainter.
 #pragma once
 
 #include "display/frames/spans.h"
@@ -20,30 +20,30 @@ QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
 
-/// For frames of ARGB32 whose pixels are opaque.
+/// For opaque ARGB32 frames.
 class KeptShape
 {
 public:
-    /// Not made: not painted yet, or without memory.
+    /// Not made: not painted yet, or out of memory.
     KeptShape() = default;
-    /// The top left of a premultiplied image, onto which one shape of one opaque colour was
-    /// painted, as the pixels of a box in the frame.
+    /// The shape of one opaque colour painted at the top left of a premultiplied image, covering
+    /// `box` in the frame.
     static KeptShape OfColour(const QImage &painted, const QRect &box, const QColor &colour);
     /// The pixels of a box in an image of PictureFormat(), and in the frame.
     static KeptShape OfPicture(const QImage &painted, const QRect &box);
-    /// The pixels of a frame where this shape is on it, to be put there again without blending:
-    /// right for as long as what is below stays the same.
+    /// The frame's pixels under this shape as a new shape that needs no blending; valid as long as
+    /// the content below does not change.
     KeptShape AsShownOn(const QImage &frame) const;
 
-    /// The format in which a smoothly turned picture is painted to be kept: that of the numbers
-    /// with which painters blend such pictures onto ARGB32. It depends on how Qt was built.
-    /// Format_Invalid where the formulas here do not fit: then nothing can be kept.
+    /// The format in which rotated pictures are painted for OfPicture(): the one in which QPainter
+    /// blends such pictures onto ARGB32, which depends on how Qt was built. Format_Invalid if the
+    /// formulas do not match this Qt: then nothing can be cached.
     static QImage::Format PictureFormat();
 
     bool IsMade() const { return m_kind != Kind::None; }
     int Bytes() const { return m_pixels.size() + m_spans.Bytes(); }
     const Spans &Covered() const { return m_spans; }
-    /// Blends the shape onto a frame, given by its first byte.
+    /// Blends the shape onto a frame; `frame` points to its first byte.
     void Blend(uchar *frame, int bytesPerLine) const;
 
 private:
@@ -57,28 +57,28 @@ private:
     Kind m_kind = Kind::None;
     QRgb m_colour = 0;
     Spans m_spans;
-    // Of each row, runs of: how many soft pixels and how many solid ones, then the soft pixels,
-    // then the solid ones as QRgb, unless they are of the one colour.
+    // Per row, runs: the counts of soft (translucent) and solid pixels, one byte each, the soft
+    // pixels, then the solid ones as QRgb, unless they are of the one colour.
     QByteArray m_pixels;
 };
 
-/// Paints a picture as the frame's painter would, and keeps it. The painter that paint is given has
-/// the coordinates of the frame, within which the picture covers only pixels of the box. (Painted
-/// further left or up, onto a small image, some pixels would be rounded otherwise.)
+/// Paints a picture exactly as on the frame and stores it. The painter passed to paint() uses frame
+/// coordinates; the picture must stay within the box. (Painted with an offset onto a small image,
+/// some pixels would round differently.)
 KeptShape KeepPicture(const QRect &box, const std::function<void(QPainter &)> &paint);
 
-/// Paints shapes of one opaque colour to keep them, onto an image that is used again and again.
+/// Paints shapes of one opaque colour for OfColour(), on a reused image.
 class ColourCanvas
 {
 public:
-    /// Keeps what of a shape is within a frame of a size. Paint is given a painter with brush and
-    /// without pen, and how far to the left and up it has to paint. That is whole pixels and
+    /// Caches the part of a shape within a frame of this size. `paint` gets a painter with a brush
+    /// and no pen, and the offset by which to shift left and up. The offset is whole pixels and
     /// changes no coordinate's sign, so polygons and ellipses are rasterised as on the frame.
     KeptShape Keep(const QPolygonF &outline, const QColor &colour, bool smooth, const QSize &frame,
                    const std::function<void(QPainter &, const QPoint &)> &paint);
 
 private:
-    QImage m_image; // with it Qt keeps its paint engine
+    QImage m_image; // reused, so that Qt keeps its paint engine
 };
 
 } // namespace Lw::HNodeClock

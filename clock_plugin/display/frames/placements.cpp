@@ -21,8 +21,7 @@ bool ShownPlacements::Match(const Placements &placements) const
                       [](const auto &placed, const Shown &shown) { return shown.Is(placed); });
 }
 
-// An element that has moved, or another one, changes as a whole; else only those of its pieces that
-// are not where they were.
+// A moved or resized element changes as a whole; otherwise only those of its pieces that differ.
 void ShownPlacements::AddChanged(const Shown &before, const Placements::Placed &after,
                                  Rects &changed)
 {

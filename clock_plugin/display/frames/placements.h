@@ -1,4 +1,5 @@
-// Elements where they stand in a frame.
+// display/frames/: elements and their positions in a frame, and the rectangles in which two sets
+// differ.
 #pragma once
 
 #include "compose/element.h"
@@ -13,7 +14,7 @@ namespace Lw::HNodeClock {
 
 constexpr int kMostElements = 5; ///< of a clock
 
-/// In the order of drawing. The elements belong to someone else.
+/// In drawing order. The elements are not owned.
 class Placements
 {
 public:
@@ -38,14 +39,14 @@ private:
     int m_count = 0;
 };
 
-/// Remembers placements beyond the life of their elements and images.
+/// Remembers placements after their elements and images are gone.
 class ShownPlacements
 {
 public:
     using Rects = QVarLengthArray<QRect, 32>;
 
     bool Match(const Placements &placements) const;
-    /// Remembers these from now on, and returns all rectangles in which they look different.
+    /// Remembers these instead, and returns all rectangles in which they differ.
     Rects Replace(const Placements &placements);
     /// All rectangles in which these look different from others.
     Rects ChangesSince(const ShownPlacements &before) const;

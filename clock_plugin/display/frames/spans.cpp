@@ -8,7 +8,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// Rows that get the same left and right: working out more costs more than copying wider ones.
+// Rows that share one span: computing more spans costs more than copying wider ones.
 constexpr int kRowsAtOnce = 16;
 
 constexpr int kPixelBytes = 4;

@@ -1,5 +1,5 @@
-// Which pixels of an image a painted shape may have changed: one run of pixels per row. A second
-// later these, and few others, are copied from the picture without the shape.
+// display/frames/: the pixels of an image that a painted shape may have changed: one run per row. A
+// second later only these are restored from the background.
 #pragma once
 
 #include <QImage>
@@ -30,7 +30,7 @@ public:
         quint16 right; ///< the first pixel beyond; equal to left in an empty row
     };
 
-    /// No rows yet; the next one added is this one. Keeps its memory.
+    /// Removes all rows; the next row added is row `top`. Keeps the memory if it is not shared.
     void Clear(int top);
     void AddRow(int left, int right);
     /// What painting a polygon onto an image of this size may change.
@@ -40,15 +40,16 @@ public:
     int Top() const { return m_top; }
     const QVector<Row> &Rows() const { return m_rows; }
     int Bytes() const { return m_rows.size() * int(sizeof(Row)); }
-    /// Whether these are a copy of others, which costs nothing to find out.
+    /// Whether this is an implicitly shared copy of `other`; compares pointers only.
     bool IsCopyOf(const Spans &other) const
     {
         return m_rows.constData() == other.m_rows.constData();
     }
     /// A region of few rectangles that contains the spans.
     QRegion Region() const;
-    /// Copies these pixels, as far as the source has them, from an image of the same format, 32
-    /// bits per pixel, whose top left is at a place in the target. Target is the first byte.
+    /// Copies these pixels, as far as they are inside the source, from an image of the same format,
+    /// 32 bits per pixel, whose top left is at `place` in the target. `target` is the target's
+    /// first byte.
     void Copy(const QImage &source, const QPoint &place, uchar *target, int targetLine) const;
 
 private:

@@ -49,7 +49,7 @@ QRegion TextRows::Paint(QImage &picture, const Placements &rows)
 
     QRegion changed;
     for (int i = 0; i < boxes.size(); ++i) {
-        // Without memory for its copy nothing is known of a box.
+        // If the copy failed for lack of memory, assume that the box changed.
         if (before[i].isNull() || before[i] != after[i])
             changed += boxes[i];
     }

@@ -1,7 +1,8 @@
-// Text rows on a picture that is kept: painted over what is there, second after second.
+// display/frames/: paints text rows onto a kept picture (the dial) every second, over what is
+// there.
 //
-// Where a row is translucent each painting makes it a little denser, until nothing changes any
-// more. From then on, or at once where rows are opaque, painting the same rows again is left out.
+// Each painting makes a translucent row a little denser, until nothing changes any more. From then
+// on (for opaque rows immediately) the same rows are not repainted.
 #pragma once
 
 #include "display/frames/placements.h"
@@ -20,7 +21,7 @@ public:
 
 private:
     ShownPlacements m_painted;
-    qint64 m_settledKey = 0; // of the picture that painting them again would not change
+    qint64 m_settledKey = 0; // cache key of the picture once repainting no longer changes it
 };
 
 } // namespace Lw::HNodeClock
