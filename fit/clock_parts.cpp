@@ -17,7 +17,7 @@ struct PartRow
     Part part;
     const char *name;
     std::optional<GlyphFont> font;
-    // For parts without a font.
+    // Only for parts without a font: marks and hands.
     std::optional<Attribute> colour;
 };
 

@@ -1,4 +1,4 @@
-// The parts of a clock in the attribute table.
+// fit/: which parts a clock draws, and the font of each.
 #pragma once
 
 #include "fit.h"

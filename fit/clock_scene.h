@@ -1,4 +1,4 @@
-// The parts of one clock where they are at an instant, as its drawer would paint them.
+// fit/: the texts of one clock and their positions at any instant, as the drawer would paint them.
 #pragma once
 
 #include "fit.h"
@@ -15,7 +15,7 @@ namespace ClockFit {
 struct PlacedPart
 {
     Part part;
-    const Lw::HNodeClock::Element *element; ///< until the next instant is asked for
+    const Lw::HNodeClock::Element *element; ///< valid until the next call
     QPoint topLeft;
 };
 
@@ -26,11 +26,11 @@ public:
 
     /// The texts in the order of drawing.
     std::vector<PlacedPart> TextsAt(qint64 utc);
-    /// One of them; null where it is not drawn.
+    /// The element of one text part; null if it is not drawn.
     const Lw::HNodeClock::Element *TextAt(qint64 utc, Part part);
-    /// The time of a digital clock, which may be hidden.
+    /// The time element of a digital clock, even if the clock hides it.
     const Lw::HNodeClock::Element &TimeAt(qint64 utc);
-    /// Whether an analog clock's badge is the morning's.
+    /// Whether an analog clock's badge shows AM.
     bool IsMorningAt(qint64 utc);
 
 private:

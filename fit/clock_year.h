@@ -1,5 +1,5 @@
-// One clock through a year: every state in which its texts are somewhere else or say something
-// else, without the digits of the time.
+// fit/: enumerates all states of one clock in a year: every combination of texts and positions,
+// leaving out the digits of the time.
 #pragma once
 
 #include "clock_scene.h"
@@ -17,14 +17,15 @@ public:
     struct State
     {
         const Stretch &stretch;
-        const HourClass &hours; ///< the seconds of the stretch that count are in these
-        std::size_t hourClass;  ///< its number
-        qint64 utc;             ///< the first such instant
+        const HourClass &hours; ///< the hours of the stretch that this state covers
+        std::size_t hourClass;  ///< index of `hours`
+        qint64 utc;             ///< the first instant of the state, UTC milliseconds
         bool isMorning;         ///< for the badge
         const std::vector<PlacedPart> &texts;
     };
 
-    /// Calls visit(state), stretch by stretch. Digits of the time are those of the first instant.
+    /// Calls visit(state) for every state in order of stretches. The time's digits are those at
+    /// state.utc.
     template<typename Visit>
     void ForEachState(Visit visit)
     {
@@ -45,7 +46,7 @@ public:
 
 private:
     void GroupHours(Lw::HNodeClock::HClockNode &node);
-    /// Of the stretch, in the hours of the class; -1 for none.
+    /// The first second of the stretch that is in the hours of the class; -1 for none.
     static int FirstSecondOf(const HourClass &hours, const Stretch &stretch);
 
     ClockScene m_scene;

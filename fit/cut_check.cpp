@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::array<Side, 4> kSides = {Side::Left, Side::Top, Side::Right, Side::Bottom};
 
-// How far ink reaches beyond one side of a rectangle; 0 or less where it does not.
+// By how many pixels the ink extends beyond a side of the rectangle; 0 or less if it does not.
 int Beyond(const QRect &ink, const QRect &visible, Side side)
 {
     if (ink.isEmpty())
@@ -116,7 +116,7 @@ private:
                        state.stretch.At(FirstSecond(state.hours, measure, most, from, end)));
     }
 
-    // Whether nothing of a part is seen at the worst.
+    // Whether the part is completely invisible at the worst instant.
     bool IsGone(Part part, const WorstCase &worst)
     {
         for (const PlacedPart &text : m_clock.Scene().TextsAt(worst.worstUtc)) {

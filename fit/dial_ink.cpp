@@ -12,16 +12,17 @@ using namespace Lw::HNodeClock;
 namespace {
 
 const QColor kInk(Qt::white);
-const QColor kBox(1, 2, 1); // behind "10" and "11", which hides what was drawn before
+const QColor kBoxColour(1, 2, 1); // of the box behind "10" and "11", which hides what is under it
 constexpr int kNoMarks = -1;
-constexpr int kMargin = 2; // of marks, whose pen may reach beyond the radius
+// Pixels around the area: the pen of the marks may reach beyond the radius.
+constexpr int kMargin = 2;
 
 int Number(HClockNode &node, Attribute attribute)
 {
     return node.GetAttributeToInt(Key(attribute));
 }
 
-// The canvas: the area with what numerals need around it.
+// The canvas: the area plus the space that the numerals need around it.
 QRect CanvasOf(const QSize &area, int scale, const QSize &strip)
 {
     QRect canvas = QRect(QPoint(0, 0), area).adjusted(-kMargin, -kMargin, kMargin, kMargin);
@@ -36,16 +37,16 @@ class DialPainter
 public:
     DialPainter(const QSize &area, const QRect &canvas) : m_area(area), m_canvas(canvas) { }
 
-    // Painted around the centre by paint(painter, radius). The boxes are no ink.
+    // Painted around the centre by paint(painter, radius). The boxes do not count as ink.
     template<typename Paint>
     InkMask InkOf(Paint paint) const
     {
         return InkMask(Painted(m_canvas, paint), m_canvas.topLeft(), kInk.rgba());
     }
 
-    // Turned marks are rounded otherwise where they are moved: within the area they are painted
-    // where the clock paints them, and only what is beyond its left and top is moved. What numerals
-    // and their boxes hide is not seen anyway.
+    // Moving rotated marks changes their rounding: within the area they are painted at their real
+    // position, and only those beyond its left and top edges are moved. What numerals and their
+    // boxes hide is left out.
     template<typename PaintHiding>
     InkMask Marks(int hourScale, int minuteScale, PaintHiding hide) const
     {
@@ -85,7 +86,7 @@ private:
     const QRect m_canvas;
 };
 
-// What the digits of all numerals have together.
+// The ink pixels of all numerals; where numerals overlap, those of each count.
 int InkOfNumerals(int scale, double radius, const GlyphStrip &strip)
 {
     const DigitCells cells(strip.Size());
@@ -134,7 +135,7 @@ DialInk DialInkOf(HClockNode &node, const GlyphSource &source)
     const DialPainter dial(area, canvas);
     const auto paintNumerals = [&](QPainter &painter, double radius) {
         if (!digits.IsNull())
-            PaintNumerals(painter, scale, radius, digits.Pixmap(), kBox);
+            PaintNumerals(painter, scale, radius, digits.Pixmap(), kBoxColour);
     };
     ink.hourMarks = dial.Marks(scale, kNoMarks, paintNumerals);
     ink.minuteMarks = dial.Marks(kNoMarks, Number(node, Attribute::MinuteScaleType), paintNumerals);

@@ -1,5 +1,5 @@
-// The ink of an analog clock's dial, painted by the clock's own code on a canvas larger than its
-// area.
+// fit/: the ink of an analog clock's dial, painted by the clock's own code on a canvas larger than
+// the area, so that ink beyond the area is found.
 #pragma once
 
 #include "ink_mask.h"
@@ -14,16 +14,16 @@ struct DialInk
     InkMask hourMarks;
     InkMask minuteMarks;
     InkMask numerals;
-    InkMask morning; ///< the badge
-    InkMask afternoon;
+    InkMask morning;         ///< the AM badge
+    InkMask afternoon;       ///< the PM badge
     int coveredNumerals = 0; ///< pixels of numerals that later ones cover
-    bool isDrawn = true;     ///< false where the canvas would be beyond the bounds of frames
+    bool isDrawn = true;     ///< false if the canvas would be larger than a frame may be
 
-    /// Everything that texts are drawn over, at one half of the day.
+    /// All ink under the texts, with the AM or the PM badge.
     InkMask Under(bool isMorning) const;
 };
 
-/// Of a clock that is not analog nothing.
+/// Empty for a clock that is not analog.
 DialInk DialInkOf(Lw::HNodeClock::HClockNode &node, const Lw::HNodeClock::GlyphSource &source);
 
 } // namespace ClockFit

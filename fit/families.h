@@ -1,4 +1,4 @@
-// The installed font families.
+// fit/: the installed font families, and the one that Qt uses instead of a missing one.
 #pragma once
 
 #include <QString>
@@ -6,11 +6,11 @@
 
 namespace ClockFit {
 
-/// In alphabetical order; read once for the process.
+/// In alphabetical order; read once per process.
 const QStringList &InstalledFamilies();
-/// In letters of any case.
+/// Case-insensitive.
 bool IsInstalled(const QString &family);
-/// The family that Qt uses in place of one; the same where it is installed. An empty one is the
+/// The family Qt actually uses for a requested one: the same if installed. An empty name means the
 /// application's default font.
 QString FamilyUsed(const QString &family);
 

@@ -1,6 +1,7 @@
-// What of a clock is cut, covered, invisible or not in its font on any day of a year, and the
-// sizes that fit. The answers come from the clock's own composer, layout and geometry; nothing is
-// written and no frame is drawn. A QGuiApplication must exist.
+// fit/: the public interface: which parts of a clock are cut, covered, invisible or missing from
+// their font on any day of a year, and the sizes that fit. The answers come from the clock's own
+// composer, layout and geometry; nothing is written and no frame is drawn. A QGuiApplication must
+// exist.
 #pragma once
 
 #include "glyph_images.h"
@@ -16,7 +17,8 @@
 
 namespace ClockFit {
 
-/// What a clock draws. The first five are texts of both kinds of clock, Time of digital ones only.
+/// What a clock draws. The first five are texts; Time exists on digital clocks only, the parts from
+/// Badge on exist on analog clocks only.
 enum class Part {
     TopText,
     Date,
@@ -32,7 +34,7 @@ enum class Part {
     SecondHand,
 };
 
-/// As people call it: "title", "minute marks".
+/// The name for messages: "title", "minute marks".
 QString NameOf(Part part);
 /// The attribute of its family, its size or its colour; nothing for parts that have none.
 std::optional<Lw::HNodeClock::Attribute> FamilyAttribute(Part part, int clockType);
@@ -41,7 +43,7 @@ std::optional<Lw::HNodeClock::Attribute> ColourAttribute(Part part, int clockTyp
 
 enum class Side { Left, Top, Right, Bottom };
 
-/// An instant and what a part shows then; empty for parts that are no text.
+/// An instant and what a part shows then; the text is empty for parts that are not text.
 struct Moment
 {
     qint64 utc = 0; ///< milliseconds
@@ -53,33 +55,33 @@ struct Cut
 {
     Part part = Part::TopText;
     Side side = Side::Left;
-    int pixels = 0;      ///< how far it reaches beyond the edge, at the worst
-    bool isGone = false; ///< whether nothing of the part is seen at the worst
+    int pixels = 0;      ///< how far it reaches beyond the edge in the worst case
+    bool isGone = false; ///< whether a text is entirely outside in the worst case
     Moment first;        ///< when any ink is first cut
-    Moment worst;        ///< when so much is first cut
+    Moment worst;        ///< when the worst cut first occurs
 };
 
 /// Ink of one part over that of another.
 struct Overlap
 {
     Part lower = Part::TopText;
-    Part upper = Part::TopText; ///< the same for numerals over each other
-    int pixels = 0;             ///< of ink that both have, at the worst
+    Part upper = Part::TopText; ///< equal to `lower` where numerals overlap each other
+    int pixels = 0;             ///< ink in common in the worst case
     Moment first;               ///< when any is first covered, and what the upper part shows
-    Moment worst;               ///< when so much is first covered, likewise
+    Moment worst;               ///< when the worst overlap first occurs, likewise
 };
 
-/// A part that can hardly be told from what it is drawn on.
+/// A part with too little contrast to its background.
 struct Faint
 {
     Part part = Part::TopText;
     QRgb ink = 0;
     QRgb ground = 0;          ///< as it shows on the wall
     double contrast = 1;      ///< as WCAG defines it, 1 to 21
-    bool isKeyColour = false; ///< the colour itself is the one that the host shows through
+    bool isKeyColour = false; ///< the ink has the key colour, which is transparent on the host
 };
 
-/// Two hands that cannot be told apart where one is over the other.
+/// Two hands of the same colour.
 struct SameHands
 {
     Part one = Part::HourHand;
@@ -87,22 +89,22 @@ struct SameHands
     QRgb colour = 0;
 };
 
-/// Marks that the settings ask for and a dial of this size does not have.
+/// Marks that are set but not drawn because the dial is too small.
 struct LostMarks
 {
     Part part = Part::MinuteMarks;
-    double radius = 0; ///< of the dial, pixels
-    double enough = 0; ///< the smallest radius with such marks; 0 where none was found
+    double radius = 0;        ///< of the dial, pixels
+    double minimumRadius = 0; ///< the smallest radius with such marks, pixels
 };
 
-/// Characters that a part shows and its family does not have.
+/// Characters that a part shows and its font family lacks.
 struct MissingCharacters
 {
     Part part = Part::TopText;
-    QString family;       ///< the one that is used
+    QString family;       ///< the family Qt actually uses
     QString characters;   ///< each once
-    QString boxes;        ///< those of them that no family has: they appear as boxes
-    QStringList families; ///< installed ones that have all characters of the part
+    QString boxes;        ///< those that no fallback font has either: shown as boxes
+    QStringList families; ///< installed families that have all characters of the part
 };
 
 /// A text that cannot be drawn: its image would be too large.
@@ -125,10 +127,10 @@ struct ClockFindings
     bool IsEmpty() const;
 };
 
-/// How a host shows the colour that nothing is drawn on.
+/// The colour that hosts show in place of the key colour.
 constexpr QRgb kBlackGround = 0xff000000;
 
-/// Looks at clocks one by one; keeps the glyph images that they share.
+/// Checks clocks one by one; caches the glyph images that they share.
 class ClockCheck
 {
 public:
@@ -136,11 +138,11 @@ public:
         : m_year(year), m_ground(ground)
     { }
 
-    /// All that there is to find of one clock. The visible part of its area is in pixels from the
+    /// All findings for one clock. `visible` is the visible part of its area, in pixels from the
     /// area's top left; by default all of it. The node is only read.
     ClockFindings Look(Lw::HNodeClock::HClockNode &node, const QRect &visible = {});
 
-    /// What is cut and what is covered with other sizes than the node's. No text is told.
+    /// The cuts and overlaps with other sizes than the node's. Moment::text stays empty.
     QVector<Cut> Cuts(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes,
                       const QRect &visible = {});
     QVector<Overlap> Overlaps(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes);
@@ -158,35 +160,35 @@ private:
 struct PartSize
 {
     Part part = Part::TopText;
-    int points = 0; ///< 0 where none was found
+    int points = 0; ///< 0 if none was found
 };
 
-/// A factor and the whole sizes that it gives, rounded down and at least 1.
+/// A scale factor and the resulting sizes, rounded down to whole points, at least 1.
 struct CommonSizes
 {
     double factor = 0; ///< 0 where none was found
     FontSizes sizes = {};
 };
 
-// Each size that is tried is measured, about ten in all, on the understanding that what fits at one
-// size fits at smaller ones. Parts that have no size, such as marks, do not count.
+// Each search measures about ten sizes, assuming that what fits at one size fits at smaller ones.
+// Parts without a font size, such as marks, are ignored.
 
-/// Of each part that is cut, the others as they are.
+/// For each cut part its largest size that fits, the others unchanged.
 QVector<PartSize> SizesOfParts(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
                                const QVector<Cut> &cuts, const QRect &visible = {});
 
-/// Of all parts together: the largest factor below 1 at which none is cut.
+/// For all parts together: the largest factor below 1 at which none is cut.
 CommonSizes ShrunkSizes(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
                         const QRect &visible = {});
 
-/// Sizes at which nothing is cut, no larger than the node's: one part smaller where it alone is
-/// cut, else all by one factor. The node's own where nothing is cut; nothing where no sizes were
+/// Sizes no larger than the node's at which nothing is cut: only the one part that is cut is made
+/// smaller, or all by one factor. The node's own sizes if nothing is cut; nullopt if no sizes were
 /// found.
 std::optional<FontSizes> SizesThatFit(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
                                       const QRect &visible = {});
 
-/// The largest factor from 1 on at which none is cut and no ink is covered that was not before; 0
-/// where something is cut at 1.
+/// The largest factor, at least 1, at which no part is cut or newly covered; 0 if something is cut
+/// at 1.
 CommonSizes GrownSizes(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
                        const QRect &visible = {});
 

@@ -19,7 +19,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr int kAnyPoints = 12;
+constexpr int kAnyPoints = 12; // any size will do to look up a family
 
 QVector<uint> CharactersOf(const QString &text)
 {
@@ -34,13 +34,13 @@ QString TextOf(const QVector<uint> &characters)
     return QString::fromUcs4(characters.constData(), characters.size());
 }
 
-// Characters that show as nothing, or only change others, need no glyph.
+// Invisible characters and those that only modify others need no glyph.
 bool NeedsGlyph(uint character)
 {
     return QChar::isPrint(character) && !QChar::isSpace(character);
 }
 
-// The family itself, without those that Qt falls back on.
+// Checks the family itself, without Qt's fallback families.
 QVector<uint> Lacking(const QString &family, const QVector<uint> &characters)
 {
     const QRawFont own = QRawFont::fromFont(GlyphTypeface(family, kAnyPoints));
@@ -91,7 +91,7 @@ bool IsInstalled(const QString &family)
 
 namespace {
 
-// The characters that each part shows, each once.
+// The distinct characters of each part.
 using Characters = std::map<Part, QString>;
 
 void AddNew(QString &characters, const QString &text)

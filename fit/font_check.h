@@ -1,4 +1,4 @@
-// Whether the families of a clock have the characters that it shows, and whether its texts can be
+// fit/: checks whether a clock's fonts have the characters it shows, and whether its texts can be
 // drawn at all.
 #pragma once
 
@@ -7,7 +7,7 @@
 
 namespace ClockFit {
 
-/// What the families lack of the characters that the clock shows in the year.
+/// The characters that the clock shows in the year and its families lack.
 QVector<MissingCharacters> MissingOf(ClockYear &clock, Lw::HNodeClock::HClockNode &node,
                                      const GlyphImages &images);
 

@@ -1,4 +1,4 @@
-// The glyph images of clocks, drawn in memory as the clock draws them, each text once.
+// fit/: the glyph images of clocks, drawn in memory as the clock draws them, and cached.
 #pragma once
 
 #include "compose/clock_glyphs.h"
@@ -11,25 +11,25 @@
 
 namespace ClockFit {
 
-/// Sizes in points by the font, as Lw::HNodeClock::GlyphFont numbers them.
+/// Font sizes in points, indexed by Lw::HNodeClock::GlyphFont.
 using FontSizes = std::array<int, Lw::HNodeClock::kGlyphFontCount>;
 
-/// The sizes that a clock is set to; 0 for fonts that its kind does not have.
+/// A clock's font sizes; 0 for fonts its kind does not have.
 FontSizes SizesOf(Lw::HNodeClock::HClockNode &node);
 
-/// Keeps what it has drawn, for any number of clocks and sizes.
+/// A cache for any number of clocks and sizes.
 class GlyphImages
 {
 public:
-    /// The images of a node's texts in these sizes, other settings as they are. Of elements that
-    /// the clock does not show there is none. The node and this must outlive the source.
+    /// The images of a node's texts in these sizes, other settings unchanged; null images for
+    /// elements that the clock does not show. The node and this object must outlive the source.
     Lw::HNodeClock::GlyphSource SourceFor(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes);
 
-    /// Whether a text of a font that the clock shows has no image in its size.
+    /// Whether any shown text of this font has no image at its size, because it would be too large.
     bool LacksImages(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes,
                      Lw::HNodeClock::GlyphFont font);
 
-    /// What an element made of these images says.
+    /// The text shown by an element composed of these images.
     QString TextOf(const Lw::HNodeClock::Element &element) const;
 
 private:
@@ -38,7 +38,7 @@ private:
     struct Drawn
     {
         QString text;
-        int cells = 1; ///< of equal width, one character each; 1 for a text as a whole
+        int cells = 1; ///< cells of equal width, one character each; 1 for a text in one piece
         int width = 0; ///< of the image
     };
 

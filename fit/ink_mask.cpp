@@ -215,7 +215,7 @@ QRect InkBounds::Of(const Element &element, const QVector<bool> &chosen)
     return bounds;
 }
 
-// All elements that show a strip are of one height, the strip's own or less.
+// All elements that show a strip have the same height, so it need not be part of the key.
 const QRect &InkBounds::OfPiece(const Piece &piece, int height)
 {
     const quint64 key = static_cast<quint64>(piece.stripKey) << 32

@@ -1,4 +1,4 @@
-// Which pixels of a picture are ink, one bit per pixel, and where they are.
+// fit/: a bit mask of the ink pixels of a picture, with its position.
 #pragma once
 
 #include "compose/element.h"
@@ -16,13 +16,13 @@ class InkMask
 {
 public:
     InkMask() = default;
-    /// No ink yet; an empty box never has any.
+    /// A mask without ink.
     explicit InkMask(const QRect &box);
     /// Every pixel of an image that has this colour.
     InkMask(const QImage &image, const QPoint &topLeft, QRgb colour);
     /// Every pixel of a picture that is not fully transparent.
     static InkMask OfPicture(const QImage &picture, const QPoint &topLeft);
-    /// The ink of an element's pieces, and of no more than these where a choice is given.
+    /// The ink of an element's pieces, or only of the chosen ones.
     InkMask(const Lw::HNodeClock::Element &element, const QPoint &topLeft,
             const QVector<bool> &chosen = {});
 
@@ -51,8 +51,8 @@ private:
     QVector<quint32> m_bits;
 };
 
-/// The bounds of what elements show, for many elements made of the same strips: each part of a
-/// strip is looked at once.
+/// Computes ink bounds of many elements made of the same strips; the bounds of each part of a strip
+/// are cached.
 class InkBounds
 {
 public:

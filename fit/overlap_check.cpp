@@ -11,7 +11,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-// Where an element is: what its overlaps depend on.
+// An element with a fixed position, on which its overlaps depend.
 struct Still
 {
     Part part;
@@ -101,7 +101,8 @@ private:
             Found(lower.part, upper.part).Take(lower.Mask().Common(upper.Mask()), state.utc);
     }
 
-    // The lunar date is drawn after the time, all others before it; on a line date and week too.
+    // Texts in `lower` are drawn before the time, the others after it: the lunar date, and on one
+    // line date and week too.
     void LookAtTime(const ClockYear::State &state, const PlacedPart &time,
                     const std::vector<Still> &lower)
     {
@@ -138,7 +139,7 @@ private:
                        state.stretch.At(FirstSecond(state.hours, common, most, from, end)));
     }
 
-    // Around the ink of all times of a class.
+    // The bounds of the ink of all times in an hour class.
     const QRect &BoxOf(const ClockYear::State &state)
     {
         QRect &box = m_boxes[state.hourClass];

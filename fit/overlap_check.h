@@ -1,11 +1,11 @@
-// Which ink of a clock is drawn over other ink of the same clock.
+// fit/: finds the parts of a clock that are drawn over other parts of the same clock.
 #pragma once
 
 #include "clock_year.h"
 
 namespace ClockFit {
 
-/// The texts shown are left to be filled in.
+/// Moment::text is left empty; the caller fills it in.
 QVector<Overlap> OverlapsOf(ClockYear &clock);
 
 } // namespace ClockFit

@@ -1,5 +1,4 @@
-// The sizes that fit: found by measuring the clock at sizes between one that fits and one that does
-// not.
+// fit/: searches for the sizes that fit, by bisection between one that fits and one that does not.
 #include "clock_parts.h"
 
 #include <algorithm>
@@ -12,7 +11,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr int kDefaultPoints = 12; // what a size of 0 or less is drawn in
+constexpr int kDefaultPoints = 12; // used for a size of 0 or less
 constexpr int kMostTried = 10;
 
 std::size_t Index(GlyphFont font)
@@ -36,7 +35,7 @@ bool FitsAll(ClockCheck &check, HClockNode &node, const FontSizes &sizes, const 
     return std::none_of(cuts.cbegin(), cuts.cend(), HasFont);
 }
 
-// The largest number from least to most at which a trial succeeds; least - 1 where none does.
+// The largest number from least to most for which `succeeds` is true; least - 1 if there is none.
 template<typename Trial>
 int LargestThat(int least, int most, Trial succeeds)
 {
@@ -101,8 +100,8 @@ FontSizes Scaled(HClockNode &node, const Fraction &factor)
     return sizes;
 }
 
-// The factors below 1 at which some size becomes another one, in order; where there are very many
-// of them, some of these.
+// The factors below 1 at which some rounded size changes, in order; if there are too many, a sample
+// of them.
 QVector<Fraction> StepsBelowOne(HClockNode &node)
 {
     const FontSizes sizes = SizesOf(node);
@@ -175,7 +174,7 @@ bool IsMore(const Overlap &overlap, const QVector<Overlap> &before)
 
 } // namespace
 
-// The largest font decides the steps. Twice what fills the area is too large for any text.
+// Steps are points of the largest font. Twice the area's height is too large for any text.
 CommonSizes GrownSizes(ClockCheck &check, HClockNode &node, const QRect &visible)
 {
     const FontSizes own = SizesOf(node);

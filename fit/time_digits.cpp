@@ -12,7 +12,7 @@ namespace {
 constexpr int kHours = 24;
 constexpr int kMinuteSeconds = 60;
 constexpr int kHourSeconds = 3600;
-// Two equal digits, neither of them 0: pieces that show it differ from those that show 00.
+// Shown as two equal non-zero digits, so every digit piece differs from that of 00.
 constexpr int kOtherDigits = 11;
 
 QVector<bool> Differing(const Element &one, const Element &other)
@@ -101,7 +101,7 @@ TimeMeasure Measure(const HourClass &hours, TimeMeasure::Kind kind,
 
 namespace {
 
-// Calls look(second of the day, its measure) for each second in order until it answers true.
+// Calls look(second of the day, its measure) for each second in order until it returns true.
 template<typename Look>
 void ForEachSecond(const HourClass &hours, const TimeMeasure &measure, int from, int end, Look look)
 {

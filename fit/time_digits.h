@@ -1,5 +1,5 @@
-// All times of a day that a digital clock can show, taken apart: an hour, a minute and a second are
-// drawn by pieces of their own, so that 24 hours, 60 minutes and 60 seconds stand for all 86,400.
+// fit/: splits the times of a day into hours, minutes and seconds. A digital clock draws each with
+// its own pieces, so 24 hours, 60 minutes and 60 seconds cover all 86,400 times.
 #pragma once
 
 #include "clock_scene.h"
@@ -9,11 +9,12 @@
 
 namespace ClockFit {
 
-/// Hours whose times are equally wide, so that everything is at the same place in all of them.
+/// Hours whose times have the same width, and hence the same positions.
 struct HourClass
 {
     std::vector<int> hours;
-    // Which pieces of a time show what; labels and separators count to the hour.
+    // Which pieces of a time belong to the hour, minute or second; labels and separators belong to
+    // the hour.
     QVector<bool> ofHour;
     QVector<bool> ofMinute;
     QVector<bool> ofSecond;
@@ -22,12 +23,12 @@ struct HourClass
     std::vector<Lw::HNodeClock::Element> secondTimes; ///< likewise
 };
 
-/// The classes of a digital clock that shows the time. The instant is one from which on the clock
-/// shows a whole day without a change of its offset, from midnight.
+/// The classes of a digital clock that shows the time. `midnight` is the instant of a midnight
+/// after which the clock shows a whole day without a change of its offset.
 std::vector<HourClass> HourClassesOf(ClockScene &scene, qint64 midnight);
 
-/// Some number for every time of a day, made of one number for each hour of a class, each minute
-/// and each second: their sum, or the largest of them.
+/// A number for every time of a day, composed from one number per hour of a class, per minute and
+/// per second: their sum, or the largest of them.
 struct TimeMeasure
 {
     enum Kind { Sum, Largest };
@@ -37,20 +38,20 @@ struct TimeMeasure
     std::vector<int> minutes;
     std::vector<int> seconds;
 
-    /// No time has a larger one.
+    /// An upper bound over all times.
     int Most() const;
     int At(std::size_t hour, int minute, int second) const;
 };
 
-/// Measures a class by a function of an element and of its pieces that count.
+/// Measures a class with a function of an element and a selection of its pieces.
 TimeMeasure
 Measure(const HourClass &hours, TimeMeasure::Kind kind,
         const std::function<int(const Lw::HNodeClock::Element &, const QVector<bool> &)> &measure);
 
-/// The first second of the day, from one to before another, at which a measure is at least this
-/// much; -1 where it never is.
+/// The first second of the day in [from, end) at which the measure is at least `least`; -1 if there
+/// is none.
 int FirstSecond(const HourClass &hours, const TimeMeasure &measure, int least, int from, int end);
-/// The most within these seconds; 0 or less where nothing is above 0.
+/// The largest measure in [from, end); 0 if none is above 0.
 int MostWithin(const HourClass &hours, const TimeMeasure &measure, int from, int end);
 
 } // namespace ClockFit

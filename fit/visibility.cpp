@@ -18,7 +18,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-// The colour that hosts show through.
+// The key colour, which hosts treat as transparent.
 constexpr QRgb kKeyColour = 0xff010201;
 
 int Number(HClockNode &node, Attribute attribute)
@@ -85,7 +85,7 @@ QVector<SameHands> HandsOfOneColour(HClockNode &node)
 
 namespace {
 
-constexpr double kLargestRadius = 200; // all marks are there long before
+constexpr double kLargestRadius = 200; // pixels; far above the radius at which all marks appear
 
 bool HasMark(Part part, int scale, double radius)
 {
@@ -114,9 +114,9 @@ QVector<LostMarks> MarksLost(HClockNode &node)
          {std::make_pair(Part::HourMarks, Attribute::HourScaleType),
           std::make_pair(Part::MinuteMarks, Attribute::MinuteScaleType)}) {
         const int scale = Number(node, attribute);
-        const double enough = RadiusWithMarks(part, scale);
-        if (enough > radius)
-            lost.append({part, radius, enough});
+        const double minimumRadius = RadiusWithMarks(part, scale);
+        if (minimumRadius > radius)
+            lost.append({part, radius, minimumRadius});
     }
     return lost;
 }

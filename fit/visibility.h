@@ -1,4 +1,4 @@
-// Whether the parts of a clock can be told from what is behind them, and whether a dial is large
+// fit/: checks the contrast of a clock's parts to their background, and whether a dial is large
 // enough for its marks.
 #pragma once
 
@@ -10,7 +10,7 @@ namespace ClockFit {
 /// The contrast ratio of two colours as WCAG 2.1 defines it: from 1 to 21, in either order.
 double ContrastOf(QRgb one, QRgb other);
 
-/// Below this a part is reported.
+/// Parts with a lower contrast are reported.
 inline constexpr double kFaintContrast = 3;
 
 QVector<Faint> FaintParts(Lw::HNodeClock::HClockNode &node, QRgb ground);

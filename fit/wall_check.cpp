@@ -11,7 +11,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-// What both parts have in common on the first day on which they have anything, and that day.
+// The first day on which both parts overlap, and the overlap in pixels on that day.
 struct Common
 {
     int pixels = 0;
@@ -38,7 +38,7 @@ Common FirstCommon(const PartInk &one, const PartInk &other, qint64 begin)
 
 bool IsHand(const PartInk &ink)
 {
-    return ink.part == Part::SecondHand;
+    return ink.part == Part::SecondHand; // YearInkOf stores all hands under this part
 }
 
 class WallCheck
@@ -79,7 +79,7 @@ private:
         return most;
     }
 
-    // Whatever is more than a hand that passes counts more.
+    // Any other overlap takes precedence over one of hands.
     void Take(ClockOverlap &most, const PartInk &under, const PartInk &over)
     {
         const Common common = FirstCommon(under, over, m_check.Years().begin);

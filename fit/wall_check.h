@@ -1,4 +1,4 @@
-// What clocks of one wall do to each other, and to the screen's edges.
+// fit/: finds clocks of a wall that overlap each other or extend beyond the screen.
 #pragma once
 
 #include "fit.h"
@@ -11,11 +11,11 @@ namespace ClockFit {
 
 struct WallClock
 {
-    Lw::HNodeClock::HClockNode *node = nullptr; ///< not owned; of the area's size
+    Lw::HNodeClock::HClockNode *node = nullptr; ///< not owned; its size must be the area's
     QRect area;                                 ///< pixels from the screen's top left
 };
 
-/// An area that is not wholly on the screen.
+/// An area that is not entirely on the screen.
 struct OffScreen
 {
     int clock = 0; ///< counted from 0
@@ -26,8 +26,8 @@ struct OffScreen
     int bottom = 0;
 };
 
-/// Ink of one clock over ink of another, on one day at least. Parts of a clock are compared as
-/// they are in the course of a day, so two times count as overlapping where any digits could.
+/// Ink of one clock over ink of another, on at least one day. Parts of a clock are compared by all
+/// they show during a day, so two times overlap if any of their digits could.
 struct ClockOverlap
 {
     int lower = 0; ///< clocks, counted from 0
@@ -35,9 +35,9 @@ struct ClockOverlap
     Part lowerPart = Part::TopText; ///< the parts with most ink in common
     Part upperPart = Part::TopText;
     int pixels = 0;
-    qint64 firstDay = 0;    ///< the first instant of a day on which it is so, UTC milliseconds
+    qint64 firstDay = 0;    ///< beginning of the first day of the overlap, UTC milliseconds
     bool isPicture = false; ///< one of them is a picture clock, which has no parts
-    bool isOfHands = false; ///< nothing but hands is concerned, which pass
+    bool isOfHands = false; ///< only moving hands overlap
 };
 
 struct WallFindings
@@ -46,7 +46,7 @@ struct WallFindings
     std::vector<ClockOverlap> overlaps;
 };
 
-/// What can be seen of an area, from its top left.
+/// The visible part of an area, relative to its top left.
 QRect VisibleOf(const QRect &area, const QSize &screen);
 
 WallFindings LookAtWall(ClockCheck &check, const QVector<WallClock> &clocks, const QSize &screen);

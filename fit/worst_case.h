@@ -1,4 +1,4 @@
-// The first and the worst instant of something that changes over a year.
+// fit/: records the first and the worst instant of a value that varies over a year.
 #pragma once
 
 #include <QtGlobal>
@@ -7,13 +7,13 @@ namespace ClockFit {
 
 struct WorstCase
 {
-    int most = 0; ///< 0 while there was nothing
+    int most = 0; ///< 0 until a value above 0 is taken
     qint64 firstUtc = 0;
     qint64 worstUtc = 0;
 
-    /// Nothing for a value of 0 or less. Instants may come in any order.
+    /// Ignores values of 0 or less. Instants may come in any order.
     void Take(int value, qint64 utc) { Take(value, utc, utc); }
-    /// A value that is reached at an instant, and when anything above 0 is first reached.
+    /// Records a value reached at `worst`, and the instant `first` of the first value above 0.
     void Take(int value, qint64 first, qint64 worst)
     {
         if (value <= 0)
@@ -24,7 +24,7 @@ struct WorstCase
             worstUtc = worst;
         most = qMax(most, value);
     }
-    /// Whether no value up to this, from an instant on, changes anything.
+    /// Whether no value up to `value` at `utc` or later can change the result.
     bool Covers(int value, qint64 utc) const { return most >= value && worstUtc < utc; }
 };
 

@@ -87,7 +87,7 @@ private:
     const QPoint m_topLeft;
 };
 
-// An arrow's tip is 25 of the 27 units of the radius from the centre.
+// The disc that the hands sweep over, up to the longest hand's tip.
 InkMask HandsDisc(HClockNode &node)
 {
     double reach = 0;

@@ -1,4 +1,4 @@
-// All the ink that a clock has in a year, part by part, and day by day.
+// fit/: the ink of a clock per part and day over a year.
 #pragma once
 
 #include "clock_year.h"
@@ -7,7 +7,7 @@
 
 namespace ClockFit {
 
-/// What one part can show in the course of a day.
+/// The union of what one part shows during a day.
 struct DayInk
 {
     qint64 begin = 0; ///< UTC milliseconds
@@ -19,11 +19,11 @@ struct PartInk
 {
     Part part = Part::TopText;
     InkMask year;             ///< of all days
-    std::vector<DayInk> days; ///< none for parts that are the same on all days
+    std::vector<DayInk> days; ///< empty for parts that are the same every day
 };
 
-/// The parts in pixels of a screen where the area's top left is at a point. Hands are the disc that
-/// they pass over. A picture clock has one part, called as the hour marks are.
+/// The parts in screen pixels; topLeft is that of the area. Hands are represented by the disc that
+/// they sweep over. A picture clock has one part, stored as HourMarks.
 std::vector<PartInk> YearInkOf(Lw::HNodeClock::HClockNode &node,
                                const Lw::HNodeClock::GlyphSource &source, const Year &year,
                                const QPoint &topLeft);

@@ -59,7 +59,7 @@ private:
         for (; reading - offset < m_year.end; reading += kDay)
             Add(reading - offset);
     }
-    // Rules are of every year; the new year of the clock need not be that of UTC.
+    // Rules apply to every year; the clock's year begins at another instant than that of UTC.
     void AddBoundaries(const QString &text)
     {
         const std::optional<DaylightRule> rule = ParseDaylightRule(text);
@@ -69,7 +69,7 @@ private:
             if (boundary.isValid())
                 Add(boundary.toMSecsSinceEpoch() - m_offset);
         }
-        // Each year has its own period, so daylight saving may begin or end with the year.
+        // Each year has its own daylight saving period, so it may begin or end at the new year.
         for (int year = yearOf(m_year.begin); year <= yearOf(m_year.end); ++year)
             Add(QDateTime(QDate(year + 1, 1, 1), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch()
                 - m_offset);
@@ -90,11 +90,11 @@ bool SameDay(const DisplayedFields &one, const DisplayedFields &other)
     return one.year == other.year && one.month == other.month && one.day == other.day;
 }
 
-// What a stretch begins with.
+// The clock's reading at the beginning of a stretch.
 struct Beginning
 {
     DisplayedFields shown;
-    DisplayedFields standard; ///< which the lunar date is of
+    DisplayedFields standard; ///< the lunar date is computed from these
     int second = 0;
 
     bool Continues(const Beginning &before, qint64 seconds) const
@@ -115,7 +115,7 @@ Year YearFrom(qint64 utcMilliseconds)
     return {begin, QDateTime::fromMSecsSinceEpoch(begin, Qt::UTC).addYears(1).toMSecsSinceEpoch()};
 }
 
-// The begin may be within a second.
+// A stretch may begin in the middle of a second.
 qint64 Stretch::LengthUntil(qint64 utc) const
 {
     return (utc - begin + kSecond - 1) / kSecond;

@@ -146,7 +146,7 @@ QString LostMarksWords(const LostMarks &marks)
     return QStringLiteral("a dial with a radius of %1 pixels has no %2; from %3 on it has")
         .arg(marks.radius)
         .arg(NameOf(marks.part))
-        .arg(marks.enough);
+        .arg(marks.minimumRadius);
 }
 
 QString MissingWords(const MissingCharacters &missing)
