@@ -49,12 +49,12 @@ class TestSameDrawings : public QObject
 
 private slots:
     void initTestCase();
-    void frames_data();
-    void frames();
-    void handsOfPictures();
-    void glyphFiles_data();
-    void glyphFiles();
-    void selfTest();
+    void Frames_data();
+    void Frames();
+    void HandsOfPictures();
+    void GlyphFiles_data();
+    void GlyphFiles();
+    void SelfTest();
 
 private:
     QString Path(const QString &name) const { return m_directory.filePath(name); }
@@ -108,7 +108,7 @@ bool TestSameDrawings::Play(const QString &program, const QString &instant, cons
                        + more);
 }
 
-void TestSameDrawings::frames_data()
+void TestSameDrawings::Frames_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QString>("instant");
@@ -127,7 +127,7 @@ void TestSameDrawings::frames_data()
     }
 }
 
-void TestSameDrawings::frames()
+void TestSameDrawings::Frames()
 {
     QFETCH(QString, program);
     QFETCH(QString, instant);
@@ -141,7 +141,7 @@ void TestSameDrawings::frames()
 }
 
 // Where nothing is turned, nothing differs: the share of pixels that differ at all is bounded too.
-void TestSameDrawings::handsOfPictures()
+void TestSameDrawings::HandsOfPictures()
 {
     QVERIFY(Play(Written("picture.xml", ProgramSweeps::Picture()), "2024-02-29T18:14:58Z"));
     const QVector<QImage> built = Frames(Path("built"));
@@ -159,7 +159,7 @@ void TestSameDrawings::handsOfPictures()
     }
 }
 
-void TestSameDrawings::glyphFiles_data()
+void TestSameDrawings::GlyphFiles_data()
 {
     QTest::addColumn<QByteArray>("program");
     QTest::newRow("digital clocks") << ProgramSweeps::Digital();
@@ -167,7 +167,7 @@ void TestSameDrawings::glyphFiles_data()
 }
 
 // An export has the program with the digests, the files named by them, and the list of both.
-void TestSameDrawings::glyphFiles()
+void TestSameDrawings::GlyphFiles()
 {
     QFETCH(QByteArray, program);
     const QString written = Written("program.xml", program);
@@ -184,7 +184,7 @@ void TestSameDrawings::glyphFiles()
     QCOMPARE(m_built.output, m_native.output);
 }
 
-void TestSameDrawings::selfTest()
+void TestSameDrawings::SelfTest()
 {
     QVERIFY(RunBoth("clock_tool", {"self-test"}));
     QVERIFY(m_native.output.count(" ... ok\n") >= 6);

@@ -40,25 +40,25 @@ class TestClockTime : public QObject
     Q_OBJECT
 
 private slots:
-    void timeOfDay_data();
-    void timeOfDay();
-    void zone_data();
-    void zone();
-    void adjustment_data();
-    void adjustment();
-    void clockOffset_data();
-    void clockOffset();
-    void otherDigits_data();
-    void otherDigits();
-    void textsOfTimes();
-    void hugeTexts();
-    void fieldsOfKnownReadings_data();
-    void fieldsOfKnownReadings();
-    void fieldsAgreeWithDateTime();
-    void fieldsAtTheEdges();
+    void TimeOfDay_data();
+    void TimeOfDay();
+    void Zone_data();
+    void Zone();
+    void Adjustment_data();
+    void Adjustment();
+    void ZoneAndAdjustmentAdd_data();
+    void ZoneAndAdjustmentAdd();
+    void OtherDigits_data();
+    void OtherDigits();
+    void TextsOfTimes();
+    void HugeTexts();
+    void FieldsOfKnownReadings_data();
+    void FieldsOfKnownReadings();
+    void FieldsAgreeWithDateTime();
+    void FieldsAtTheEdges();
 };
 
-void TestClockTime::timeOfDay_data()
+void TestClockTime::TimeOfDay_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QTime>("time");
@@ -83,13 +83,13 @@ void TestClockTime::timeOfDay_data()
     QTest::newRow("null") << QString() << QTime();
 }
 
-void TestClockTime::timeOfDay()
+void TestClockTime::TimeOfDay()
 {
     QFETCH(QString, text);
     QTEST(ParseTimeOfDay(text), "time");
 }
 
-void TestClockTime::zone_data()
+void TestClockTime::Zone_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("seconds");
@@ -126,13 +126,13 @@ void TestClockTime::zone_data()
     QTest::newRow("null") << QString() << 0;
 }
 
-void TestClockTime::zone()
+void TestClockTime::Zone()
 {
     QFETCH(QString, text);
     QTEST(ParseZoneOffset(text), "seconds");
 }
 
-void TestClockTime::adjustment_data()
+void TestClockTime::Adjustment_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("seconds");
@@ -156,13 +156,13 @@ void TestClockTime::adjustment_data()
     QTest::newRow("null") << QString() << 0;
 }
 
-void TestClockTime::adjustment()
+void TestClockTime::Adjustment()
 {
     QFETCH(QString, text);
     QTEST(ParseAdjustment(text), "seconds");
 }
 
-void TestClockTime::clockOffset_data()
+void TestClockTime::ZoneAndAdjustmentAdd_data()
 {
     QTest::addColumn<QString>("zone");
     QTest::addColumn<QString>("adjustment");
@@ -184,7 +184,7 @@ void TestClockTime::clockOffset_data()
                                                    << "never" << 1 << 3600;
 }
 
-void TestClockTime::clockOffset()
+void TestClockTime::ZoneAndAdjustmentAdd()
 {
     QFETCH(QString, zone);
     QFETCH(QString, adjustment);
@@ -192,7 +192,7 @@ void TestClockTime::clockOffset()
     QTEST(ClockOffset(zone, adjustment, type), "seconds");
 }
 
-void TestClockTime::otherDigits_data()
+void TestClockTime::OtherDigits_data()
 {
     QTest::addColumn<QString>("locale");
     for (const char *locale : {"C", "fa_IR", "ar_EG", "bn_BD", "my_MM"})
@@ -200,7 +200,7 @@ void TestClockTime::otherDigits_data()
 }
 
 // Texts of times travel: what a program of one language wrote, the device of another reads.
-void TestClockTime::otherDigits()
+void TestClockTime::OtherDigits()
 {
     QFETCH(QString, locale);
     const LocaleForAWhile chosen {QLocale(locale)};
@@ -220,7 +220,7 @@ void TestClockTime::otherDigits()
     }
 }
 
-void TestClockTime::textsOfTimes()
+void TestClockTime::TextsOfTimes()
 {
     const QDateTime instant(QDate(2024, 3, 5), QTime(7, 8, 9), Qt::UTC);
     QCOMPARE(PlainText(instant.time(), "hh:mm"), QString("07:08"));
@@ -230,7 +230,7 @@ void TestClockTime::textsOfTimes()
     QCOMPARE(PlainText(QTime(), "hh:mm"), QString());
 }
 
-void TestClockTime::hugeTexts()
+void TestClockTime::HugeTexts()
 {
     const QString digits(kHuge, QLatin1Char('1'));
     const QString points(kHuge, QLatin1Char('.'));
@@ -242,7 +242,7 @@ void TestClockTime::hugeTexts()
     QCOMPARE(ParseAdjustment(digits), 11 * 3600 + 11 * 60 + 11);
 }
 
-void TestClockTime::fieldsOfKnownReadings_data()
+void TestClockTime::FieldsOfKnownReadings_data()
 {
     QTest::addColumn<qint64>("reading");
     QTest::addColumn<QString>("fields");
@@ -254,7 +254,7 @@ void TestClockTime::fieldsOfKnownReadings_data()
     QTest::newRow("after 2038") << At("2038-01-19T03:14:08") << "2038-1-19 3:14:8 2";
 }
 
-void TestClockTime::fieldsOfKnownReadings()
+void TestClockTime::FieldsOfKnownReadings()
 {
     QFETCH(qint64, reading);
     const DisplayedFields f = SplitReading(reading);
@@ -269,7 +269,7 @@ void TestClockTime::fieldsOfKnownReadings()
           "fields");
 }
 
-void TestClockTime::fieldsAgreeWithDateTime()
+void TestClockTime::FieldsAgreeWithDateTime()
 {
     const qint64 first = QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
     const qint64 last = QDateTime(QDate(9999, 12, 31), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
@@ -285,7 +285,7 @@ void TestClockTime::fieldsAgreeWithDateTime()
     }
 }
 
-void TestClockTime::fieldsAtTheEdges()
+void TestClockTime::FieldsAtTheEdges()
 {
     // The range of the milliseconds ends in the years -292275056 and 292278994.
     const DisplayedFields latest = SplitReading(std::numeric_limits<qint64>::max());

@@ -79,27 +79,27 @@ class TestDaylightRules : public QObject
     Q_OBJECT
 
 private slots:
-    void hugeTexts();
-    void malformedRules_data();
-    void malformedRules();
-    void ruleFields();
-    void boundaries_data();
-    void boundaries();
-    void boundaryIsTaggedUtc();
-    void boundaryOfEveryRule();
-    void incompleteRulesHaveNoBoundary();
-    void boundaryInYearOutOfRange();
-    void period_data();
-    void period();
-    void shift_data();
-    void shift();
-    void noShift_data();
-    void noShift();
-    void shiftFollowsTextsAndYears();
-    void shiftOutsideTheYears();
+    void HugeTexts();
+    void MalformedRules_data();
+    void MalformedRules();
+    void RuleFields();
+    void Boundaries_data();
+    void Boundaries();
+    void BoundaryIsTaggedUtc();
+    void BoundaryOfEveryRule();
+    void IncompleteRulesHaveNoBoundary();
+    void BoundaryInYearOutOfRange();
+    void Period_data();
+    void Period();
+    void Shift_data();
+    void Shift();
+    void NoShift_data();
+    void NoShift();
+    void ShiftFollowsTextsAndYears();
+    void ShiftOutsideTheYears();
 };
 
-void TestDaylightRules::hugeTexts()
+void TestDaylightRules::HugeTexts()
 {
     constexpr int kHuge = 1 << 20;
     const QString digits(kHuge, QLatin1Char('1'));
@@ -112,7 +112,7 @@ void TestDaylightRules::hugeTexts()
     QCOMPARE(BoundaryText(blanks + kNorthStart, 2026), QStringLiteral("2026-03-29T02:00:00Z"));
 }
 
-void TestDaylightRules::malformedRules_data()
+void TestDaylightRules::MalformedRules_data()
 {
     QTest::addColumn<QString>("text");
     for (const char *text : kMalformedRules)
@@ -120,13 +120,13 @@ void TestDaylightRules::malformedRules_data()
     QTest::newRow("null") << QString();
 }
 
-void TestDaylightRules::malformedRules()
+void TestDaylightRules::MalformedRules()
 {
     QFETCH(QString, text);
     QVERIFY(!ParseDaylightRule(text));
 }
 
-void TestDaylightRules::ruleFields()
+void TestDaylightRules::RuleFields()
 {
     const auto last = ParseDaylightRule(QStringLiteral("3.Last.7.02:00:00"));
     QVERIFY(last);
@@ -143,7 +143,7 @@ void TestDaylightRules::ruleFields()
     QCOMPARE(blanks->time, QTime(23, 59, 59));
 }
 
-void TestDaylightRules::boundaries_data()
+void TestDaylightRules::Boundaries_data()
 {
     QTest::addColumn<QString>("rule");
     QTest::addColumn<int>("year");
@@ -173,20 +173,20 @@ void TestDaylightRules::boundaries_data()
     row("last year", "12.Last.5.00:00:00", 9999, "9999-12-31T00:00:00Z");
 }
 
-void TestDaylightRules::boundaries()
+void TestDaylightRules::Boundaries()
 {
     QFETCH(QString, rule);
     QFETCH(int, year);
     QTEST(BoundaryText(rule, year), "boundary");
 }
 
-void TestDaylightRules::boundaryIsTaggedUtc()
+void TestDaylightRules::BoundaryIsTaggedUtc()
 {
     QCOMPARE(BoundaryInYear(*ParseDaylightRule(kNorthStart), 2026).timeSpec(), Qt::UTC);
 }
 
 // Every rule of some years against a walk over the days of the month.
-void TestDaylightRules::boundaryOfEveryRule()
+void TestDaylightRules::BoundaryOfEveryRule()
 {
     for (int year = 1999; year <= 2028; ++year) {
         for (QDate first(year, 1, 1); first.year() == year; first = first.addMonths(1)) {
@@ -208,7 +208,7 @@ void TestDaylightRules::boundaryOfEveryRule()
     }
 }
 
-void TestDaylightRules::incompleteRulesHaveNoBoundary()
+void TestDaylightRules::IncompleteRulesHaveNoBoundary()
 {
     constexpr int kMax = std::numeric_limits<int>::max();
     constexpr int kMin = std::numeric_limits<int>::min();
@@ -223,7 +223,7 @@ void TestDaylightRules::incompleteRulesHaveNoBoundary()
     }
 }
 
-void TestDaylightRules::boundaryInYearOutOfRange()
+void TestDaylightRules::BoundaryInYearOutOfRange()
 {
     const DaylightRule rule = *ParseDaylightRule(kNorthStart);
     for (const int year :
@@ -231,7 +231,7 @@ void TestDaylightRules::boundaryInYearOutOfRange()
         QVERIFY(!BoundaryInYear(rule, year).isValid());
 }
 
-void TestDaylightRules::period_data()
+void TestDaylightRules::Period_data()
 {
     QTest::addColumn<int>("reading");
     QTest::addColumn<int>("start");
@@ -250,7 +250,7 @@ void TestDaylightRules::period_data()
     QTest::newRow("equal boundaries, after") << 11 << 10 << 10 << false;
 }
 
-void TestDaylightRules::period()
+void TestDaylightRules::Period()
 {
     QFETCH(int, reading);
     QFETCH(int, start);
@@ -258,7 +258,7 @@ void TestDaylightRules::period()
     QTEST(InDaylightPeriod(reading, start, end), "inside");
 }
 
-void TestDaylightRules::shift_data()
+void TestDaylightRules::Shift_data()
 {
     QTest::addColumn<QString>("start");
     QTest::addColumn<QString>("end");
@@ -286,7 +286,7 @@ void TestDaylightRules::shift_data()
     south("south, last second of the year", "2026-12-31T23:59:59.999", 3600);
 }
 
-void TestDaylightRules::shift()
+void TestDaylightRules::Shift()
 {
     QFETCH(QString, start);
     QFETCH(QString, end);
@@ -295,7 +295,7 @@ void TestDaylightRules::shift()
     QTEST(saving.ShiftSeconds(start, end, At(reading)), "seconds");
 }
 
-void TestDaylightRules::noShift_data()
+void TestDaylightRules::NoShift_data()
 {
     QTest::addColumn<QString>("start");
     QTest::addColumn<QString>("end");
@@ -313,7 +313,7 @@ void TestDaylightRules::noShift_data()
     QTest::newRow("equal, written differently") << "3.5.7.02:00:00" << kNorthStart;
 }
 
-void TestDaylightRules::noShift()
+void TestDaylightRules::NoShift()
 {
     QFETCH(QString, start);
     QFETCH(QString, end);
@@ -323,7 +323,7 @@ void TestDaylightRules::noShift()
         QCOMPARE(saving.ShiftSeconds(start, end, reading), 0);
 }
 
-void TestDaylightRules::shiftFollowsTextsAndYears()
+void TestDaylightRules::ShiftFollowsTextsAndYears()
 {
     DaylightSaving saving;
     const qint64 june = At("2026-06-15T12:00:00");
@@ -341,7 +341,7 @@ void TestDaylightRules::shiftFollowsTextsAndYears()
     QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, At("2025-03-30T02:00:00")), 3600);
 }
 
-void TestDaylightRules::shiftOutsideTheYears()
+void TestDaylightRules::ShiftOutsideTheYears()
 {
     DaylightSaving saving;
     const QString begin = QStringLiteral("1.1.1.00:00:00");

@@ -47,14 +47,14 @@ class TestDaylightSaving : public QObject
     Q_OBJECT
 
 private slots:
-    void expressibleZones_data();
-    void expressibleZones();
-    void publishedEndIsAnHourLate();
-    void rulesThatChange();
-    void periodThatEndsAtNewYear();
+    void ExpressibleZones_data();
+    void ExpressibleZones();
+    void PublishedEndIsAnHourLate();
+    void RulesThatChange();
+    void PeriodThatEndsAtNewYear();
 };
 
-void TestDaylightSaving::expressibleZones_data()
+void TestDaylightSaving::ExpressibleZones_data()
 {
     QTest::addColumn<QString>("zone");
     QTest::addColumn<QString>("start");
@@ -86,7 +86,7 @@ void TestDaylightSaving::expressibleZones_data()
     // clang-format on
 }
 
-void TestDaylightSaving::expressibleZones()
+void TestDaylightSaving::ExpressibleZones()
 {
     QFETCH(QString, zone);
     QFETCH(QString, start);
@@ -115,7 +115,7 @@ void TestDaylightSaving::expressibleZones()
 
 // Both boundaries are readings of standard time. Published ends are summer-time readings; entered
 // as they are, they come an hour late, and nothing else does.
-void TestDaylightSaving::publishedEndIsAnHourLate()
+void TestDaylightSaving::PublishedEndIsAnHourLate()
 {
     const QTimeZone reference("Europe/Berlin");
     QVERIFY2(reference.isValid(), "the system's time zone data (tzdata) is missing");
@@ -130,7 +130,7 @@ void TestDaylightSaving::publishedEndIsAnHourLate()
 }
 
 // Texts of one length, one after the other, by the same object.
-void TestDaylightSaving::rulesThatChange()
+void TestDaylightSaving::RulesThatChange()
 {
     const QString march = QStringLiteral("3.Last.7.02:00:00");
     const QString august = QStringLiteral("8.Last.7.02:00:00");
@@ -149,7 +149,7 @@ void TestDaylightSaving::rulesThatChange()
 
 // The end of each year counts from that year's first millisecond, whatever was asked before. The
 // first Sunday of January was the 1st in 2023, the 7th in 2024; that of October the 2nd in 2022.
-void TestDaylightSaving::periodThatEndsAtNewYear()
+void TestDaylightSaving::PeriodThatEndsAtNewYear()
 {
     const QString october = QStringLiteral("10.1.7.00:00:00");
     const QString january = QStringLiteral("1.1.7.00:00:00");

@@ -46,23 +46,23 @@ class TestDeviceClock : public QObject
 private slots:
     void init();
     void cleanup();
-    void systemTimeByDefault();
-    void sourceIsReplacedAndRestored();
-    void everyCallReadsAnew();
-    void holdKeepsOneReading();
-    void innerHoldKeepsOuterReading();
-    void givenInstantIsHeldWithinAnother();
-    void holdSurvivesNewSource();
-    void holdIsOfItsThread();
-    void millisecond_data();
-    void millisecond();
-    void furthestTimes_data();
-    void furthestTimes();
-    void localDate_data();
-    void localDate();
-    void localDateFollowsTheZone();
-    void localDateThroughTheYear_data();
-    void localDateThroughTheYear();
+    void SystemTimeByDefault();
+    void SourceIsReplacedAndRestored();
+    void EveryCallReadsTheTime();
+    void HoldKeepsOneReading();
+    void InnerHoldKeepsOuterReading();
+    void GivenInstantIsHeldWithinAnother();
+    void HoldSurvivesNewSource();
+    void HoldIsOfItsThread();
+    void LocalMilliseconds_data();
+    void LocalMilliseconds();
+    void FurthestTimes_data();
+    void FurthestTimes();
+    void LocalDateOfZones_data();
+    void LocalDateOfZones();
+    void LocalDateFollowsTheZone();
+    void LocalDateThroughTheYear_data();
+    void LocalDateThroughTheYear();
 };
 
 void TestDeviceClock::init()
@@ -78,7 +78,7 @@ void TestDeviceClock::cleanup()
     SetDeviceZone("UTC");
 }
 
-void TestDeviceClock::systemTimeByDefault()
+void TestDeviceClock::SystemTimeByDefault()
 {
     clock_set_time_source(nullptr);
     const qint64 before = QDateTime::currentMSecsSinceEpoch();
@@ -87,7 +87,7 @@ void TestDeviceClock::systemTimeByDefault()
     QVERIFY(before <= reading && reading <= after);
 }
 
-void TestDeviceClock::sourceIsReplacedAndRestored()
+void TestDeviceClock::SourceIsReplacedAndRestored()
 {
     QCOMPARE(UtcMilliseconds(), s_now);
     clock_set_time_source(OtherTime);
@@ -96,7 +96,7 @@ void TestDeviceClock::sourceIsReplacedAndRestored()
     QVERIFY(UtcMilliseconds() > At("2020-01-01T00:00:00Z"));
 }
 
-void TestDeviceClock::everyCallReadsAnew()
+void TestDeviceClock::EveryCallReadsTheTime()
 {
     const qint64 first = UtcMilliseconds();
     s_now += 1;
@@ -104,7 +104,7 @@ void TestDeviceClock::everyCallReadsAnew()
     QCOMPARE(s_readings, 2);
 }
 
-void TestDeviceClock::holdKeepsOneReading()
+void TestDeviceClock::HoldKeepsOneReading()
 {
     const qint64 first = s_now;
     {
@@ -120,7 +120,7 @@ void TestDeviceClock::holdKeepsOneReading()
     QCOMPARE(LocalDate(), QDate(2030, 1, 2));
 }
 
-void TestDeviceClock::innerHoldKeepsOuterReading()
+void TestDeviceClock::InnerHoldKeepsOuterReading()
 {
     const qint64 first = s_now;
     const HeldReading outer;
@@ -133,7 +133,7 @@ void TestDeviceClock::innerHoldKeepsOuterReading()
     QCOMPARE(s_readings, 1);
 }
 
-void TestDeviceClock::givenInstantIsHeldWithinAnother()
+void TestDeviceClock::GivenInstantIsHeldWithinAnother()
 {
     clock_set_time_source(&FixedTime);
     s_now = 7000;
@@ -147,7 +147,7 @@ void TestDeviceClock::givenInstantIsHeldWithinAnother()
     QCOMPARE(UtcMilliseconds(), qint64(7000));
 }
 
-void TestDeviceClock::holdSurvivesNewSource()
+void TestDeviceClock::HoldSurvivesNewSource()
 {
     const qint64 first = s_now;
     auto held = std::make_unique<HeldReading>();
@@ -157,7 +157,7 @@ void TestDeviceClock::holdSurvivesNewSource()
     QCOMPARE(UtcMilliseconds(), Q_INT64_C(42));
 }
 
-void TestDeviceClock::holdIsOfItsThread()
+void TestDeviceClock::HoldIsOfItsThread()
 {
     const HeldReading held;
     s_now += 1000;
@@ -170,7 +170,7 @@ void TestDeviceClock::holdIsOfItsThread()
     QCOMPARE(UtcMilliseconds(), s_now - 1000);
 }
 
-void TestDeviceClock::millisecond_data()
+void TestDeviceClock::LocalMilliseconds_data()
 {
     QTest::addColumn<qint64>("now");
     QTest::addColumn<int>("millisecond");
@@ -181,14 +181,14 @@ void TestDeviceClock::millisecond_data()
     QTest::newRow("after 2038") << Q_INT64_C(2240611200123) << 123;
 }
 
-void TestDeviceClock::millisecond()
+void TestDeviceClock::LocalMilliseconds()
 {
     QFETCH(qint64, now);
     s_now = now;
     QTEST(LocalMillisecond(), "millisecond");
 }
 
-void TestDeviceClock::furthestTimes_data()
+void TestDeviceClock::FurthestTimes_data()
 {
     QTest::addColumn<qint64>("now");
     QTest::newRow("latest") << std::numeric_limits<qint64>::max();
@@ -196,7 +196,7 @@ void TestDeviceClock::furthestTimes_data()
 }
 
 // Whatever a source answers, a year of seconds can be added to the reading or taken from it.
-void TestDeviceClock::furthestTimes()
+void TestDeviceClock::FurthestTimes()
 {
     QFETCH(qint64, now);
     constexpr qint64 kYear = Q_INT64_C(31622400000);
@@ -211,7 +211,7 @@ void TestDeviceClock::furthestTimes()
     QCOMPARE(LocalDate().isValid() && LocalDate().year() > 0, now > 0);
 }
 
-void TestDeviceClock::localDate_data()
+void TestDeviceClock::LocalDateOfZones_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<qint64>("now");
@@ -239,7 +239,7 @@ void TestDeviceClock::localDate_data()
                                  << QDate(1969, 12, 31);
 }
 
-void TestDeviceClock::localDate()
+void TestDeviceClock::LocalDateOfZones()
 {
     QFETCH(QByteArray, zone);
     QFETCH(qint64, now);
@@ -248,7 +248,7 @@ void TestDeviceClock::localDate()
     QTEST(LocalDate(), "date");
 }
 
-void TestDeviceClock::localDateFollowsTheZone()
+void TestDeviceClock::LocalDateFollowsTheZone()
 {
     s_now = At("2026-03-01T16:00:00Z");
     SetDeviceZone("UTC");
@@ -259,7 +259,7 @@ void TestDeviceClock::localDateFollowsTheZone()
     QCOMPARE(LocalDate(), QDate(2026, 3, 1));
 }
 
-void TestDeviceClock::localDateThroughTheYear_data()
+void TestDeviceClock::LocalDateThroughTheYear_data()
 {
     QTest::addColumn<QByteArray>("zone");
     for (const char *zone : {"Europe/Berlin", "America/New_York", "Australia/Lord_Howe",
@@ -267,7 +267,7 @@ void TestDeviceClock::localDateThroughTheYear_data()
         QTest::newRow(zone) << QByteArray(zone);
 }
 
-void TestDeviceClock::localDateThroughTheYear()
+void TestDeviceClock::LocalDateThroughTheYear()
 {
     QFETCH(QByteArray, zone);
     SetDeviceZone(zone.constData());

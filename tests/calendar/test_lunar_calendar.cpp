@@ -131,33 +131,33 @@ class TestLunarCalendar : public QObject
     Q_OBJECT
 
 private slots:
-    void bufferIsEmptyAtFirst();
-    void calendarFileIsWhole();
-    void exceptionsAreNeeded();
-    void everyDay();
-    void everyAnswerOfTheEntryPoint();
-    void noDateOutsideTheTable();
-    void everyFirstOfMonth();
-    void knownDays_data();
-    void knownDays();
-    void dayOutsideMonthKeepsAnswer_data();
-    void dayOutsideMonthKeepsAnswer();
-    void outOfRange_data();
-    void outOfRange();
-    void range_data();
-    void range();
-    void subMenueReadsGlobals();
-    void setupLeavesDayAlone();
+    void BufferIsEmptyAtFirst();
+    void CalendarFileIsWhole();
+    void ExceptionsAreNeeded();
+    void EveryDay();
+    void EveryAnswerOfTheEntryPoint();
+    void NoDateOutsideTheTable();
+    void EveryFirstOfMonth();
+    void KnownDays_data();
+    void KnownDays();
+    void DayOutsideMonthKeepsAnswer_data();
+    void DayOutsideMonthKeepsAnswer();
+    void OutOfRange_data();
+    void OutOfRange();
+    void Range_data();
+    void Range();
+    void SubMenueReadsGlobals();
+    void SetupLeavesDayAlone();
 };
 
-void TestLunarCalendar::bufferIsEmptyAtFirst()
+void TestLunarCalendar::BufferIsEmptyAtFirst()
 {
     QCOMPARE(returnstr[0], '\0');
     QCOMPARE(LunarCalendarSetup(2023, 6, 31), static_cast<char *>(returnstr));
     QCOMPARE(returnstr[0], '\0');
 }
 
-void TestLunarCalendar::calendarFileIsWhole()
+void TestLunarCalendar::CalendarFileIsWhole()
 {
     const QVector<LunarDay> days = ReadCalendar();
     QCOMPARE(days.size(), IndexOf(kLastDay) + 1);
@@ -166,7 +166,7 @@ void TestLunarCalendar::calendarFileIsWhole()
     QCOMPARE(days.last().day, days.last().monthDays);
 }
 
-void TestLunarCalendar::exceptionsAreNeeded()
+void TestLunarCalendar::ExceptionsAreNeeded()
 {
     const QVector<LunarDay> calendar = ReadCalendar();
     const QVector<LunarDay> expected = ExpectedDays();
@@ -178,7 +178,7 @@ void TestLunarCalendar::exceptionsAreNeeded()
     }
 }
 
-void TestLunarCalendar::everyDay()
+void TestLunarCalendar::EveryDay()
 {
     const QVector<LunarDay> expected = ExpectedDays();
     for (QDate date = kFirstDay; date <= kLastDay; date = date.addDays(1)) {
@@ -191,7 +191,7 @@ void TestLunarCalendar::everyDay()
     }
 }
 
-void TestLunarCalendar::everyAnswerOfTheEntryPoint()
+void TestLunarCalendar::EveryAnswerOfTheEntryPoint()
 {
     const QVector<LunarDay> expected = ExpectedDays();
     for (QDate date = kFirstDay; date <= kLastDay; date = date.addDays(1)) {
@@ -202,7 +202,7 @@ void TestLunarCalendar::everyAnswerOfTheEntryPoint()
     }
 }
 
-void TestLunarCalendar::noDateOutsideTheTable()
+void TestLunarCalendar::NoDateOutsideTheTable()
 {
     QVERIFY(!LunarDateOf(kFirstDay.addDays(-1)).IsValid());
     QVERIFY(!LunarDateOf(kLastDay.addDays(1)).IsValid());
@@ -211,7 +211,7 @@ void TestLunarCalendar::noDateOutsideTheTable()
     QVERIFY(!LunarDateOf(QDate::fromJulianDay(Q_INT64_C(-784350574879))).IsValid());
 }
 
-void TestLunarCalendar::everyFirstOfMonth()
+void TestLunarCalendar::EveryFirstOfMonth()
 {
     const QVector<LunarDay> expected = ExpectedDays();
     for (QDate date = kFirstDay; date <= kLastDay; date = date.addMonths(1)) {
@@ -231,7 +231,7 @@ void TestLunarCalendar::everyFirstOfMonth()
     }
 }
 
-void TestLunarCalendar::knownDays_data()
+void TestLunarCalendar::KnownDays_data()
 {
     QTest::addColumn<QDate>("date");
     QTest::addColumn<QByteArray>("answer");
@@ -249,14 +249,14 @@ void TestLunarCalendar::knownDays_data()
     QTest::newRow("last day of the range") << QDate(2051, 2, 10) << QByteArray("12$29");
 }
 
-void TestLunarCalendar::knownDays()
+void TestLunarCalendar::KnownDays()
 {
     QFETCH(QDate, date);
     QFETCH(QByteArray, answer);
     QCOMPARE(Ask(date), answer);
 }
 
-void TestLunarCalendar::dayOutsideMonthKeepsAnswer_data()
+void TestLunarCalendar::DayOutsideMonthKeepsAnswer_data()
 {
     QTest::addColumn<int>("year");
     QTest::addColumn<int>("month");
@@ -271,7 +271,7 @@ void TestLunarCalendar::dayOutsideMonthKeepsAnswer_data()
     QTest::newRow("smallest day") << 2024 << 1 << kIntMin;
 }
 
-void TestLunarCalendar::dayOutsideMonthKeepsAnswer()
+void TestLunarCalendar::DayOutsideMonthKeepsAnswer()
 {
     QFETCH(int, year);
     QFETCH(int, month);
@@ -282,7 +282,7 @@ void TestLunarCalendar::dayOutsideMonthKeepsAnswer()
     QCOMPARE(s_month, month);
 }
 
-void TestLunarCalendar::outOfRange_data()
+void TestLunarCalendar::OutOfRange_data()
 {
     QTest::addColumn<int>("year");
     QTest::addColumn<int>("month");
@@ -306,7 +306,7 @@ void TestLunarCalendar::outOfRange_data()
     QTest::newRow("smallest month") << 2024 << kIntMin << 1;
 }
 
-void TestLunarCalendar::outOfRange()
+void TestLunarCalendar::OutOfRange()
 {
     QFETCH(int, year);
     QFETCH(int, month);
@@ -318,7 +318,7 @@ void TestLunarCalendar::outOfRange()
     QVERIFY(!Lw::HNodeClock::InLunarRange(year, month, day));
 }
 
-void TestLunarCalendar::range_data()
+void TestLunarCalendar::Range_data()
 {
     QTest::addColumn<QDate>("date");
     QTest::addColumn<bool>("inside");
@@ -331,7 +331,7 @@ void TestLunarCalendar::range_data()
     QTest::newRow("day after") << QDate(2051, 2, 11) << false;
 }
 
-void TestLunarCalendar::range()
+void TestLunarCalendar::Range()
 {
     QFETCH(QDate, date);
     QTEST(Lw::HNodeClock::InLunarRange(date.year(), date.month(), date.day()), "inside");
@@ -339,7 +339,7 @@ void TestLunarCalendar::range()
     QVERIFY(!Lw::HNodeClock::InLunarRange(date.year(), date.month(), 32));
 }
 
-void TestLunarCalendar::subMenueReadsGlobals()
+void TestLunarCalendar::SubMenueReadsGlobals()
 {
     s_year = 2024;
     s_month = 2;
@@ -350,7 +350,7 @@ void TestLunarCalendar::subMenueReadsGlobals()
     QCOMPARE(QByteArray(returnstr), QByteArray());
 }
 
-void TestLunarCalendar::setupLeavesDayAlone()
+void TestLunarCalendar::SetupLeavesDayAlone()
 {
     s_day = 77;
     LunarCalendarSetup(2024, 2, 10);

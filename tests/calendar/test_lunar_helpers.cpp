@@ -34,31 +34,31 @@ class TestLunarHelpers : public QObject
     Q_OBJECT
 
 private slots:
-    void gregorianYears_data();
-    void gregorianYears();
-    void daysOfMonthFollowTheGlobalYear();
-    void solarTotalOfEveryMonth();
-    void solarTotalAtTheEdges();
-    void solarTotalUsesItsOwnYear();
-    void weekdayOfEveryMonth();
-    void weekdayAtTheEdges();
-    void monthsOf1900();
-    void monthsWithLongLeapMonth();
-    void yearsOutsideTable_data();
-    void yearsOutsideTable();
-    void monthsOutsideYear();
-    void reservedBitsAreZero();
-    void firstOfMonthOutOfRange_data();
-    void firstOfMonthOutOfRange();
-    void cycleNumbers();
-    void texts();
-    void eraText_data();
-    void eraText();
-    void dayText_data();
-    void dayText();
+    void GregorianYears_data();
+    void GregorianYears();
+    void DaysOfMonthFollowTheGlobalYear();
+    void SolarTotalOfEveryMonth();
+    void SolarTotalAtTheEdges();
+    void SolarTotalUsesItsOwnYear();
+    void WeekdayOfEveryMonth();
+    void WeekdayAtTheEdges();
+    void MonthsOf1900();
+    void MonthsWithLongLeapMonth();
+    void YearsOutsideTable_data();
+    void YearsOutsideTable();
+    void MonthsOutsideYear();
+    void ReservedBitsAreZero();
+    void FirstOfMonthOutOfRange_data();
+    void FirstOfMonthOutOfRange();
+    void CycleNumbers();
+    void Texts();
+    void EraText_data();
+    void EraText();
+    void DayText_data();
+    void DayText();
 };
 
-void TestLunarHelpers::gregorianYears_data()
+void TestLunarHelpers::GregorianYears_data()
 {
     QTest::addColumn<int>("year");
     QTest::addColumn<int>("days");
@@ -71,13 +71,13 @@ void TestLunarHelpers::gregorianYears_data()
     QTest::newRow("smallest") << kIntMin << 366; // -2147483648 is divisible by 4, not by 100
 }
 
-void TestLunarHelpers::gregorianYears()
+void TestLunarHelpers::GregorianYears()
 {
     QFETCH(int, year);
     QTEST(leap(year), "days");
 }
 
-void TestLunarHelpers::daysOfMonthFollowTheGlobalYear()
+void TestLunarHelpers::DaysOfMonthFollowTheGlobalYear()
 {
     for (const int year : {1900, 2000, 2023, 2024}) {
         s_year = year;
@@ -88,7 +88,7 @@ void TestLunarHelpers::daysOfMonthFollowTheGlobalYear()
     }
 }
 
-void TestLunarHelpers::solarTotalOfEveryMonth()
+void TestLunarHelpers::SolarTotalOfEveryMonth()
 {
     const QDate epoch(1900, 1, 1);
     for (int year = 1; year <= 9999; ++year) {
@@ -98,7 +98,7 @@ void TestLunarHelpers::solarTotalOfEveryMonth()
     }
 }
 
-void TestLunarHelpers::solarTotalAtTheEdges()
+void TestLunarHelpers::SolarTotalAtTheEdges()
 {
     QCOMPARE(get_solar_total(1900, 1), 0);
     QCOMPARE(get_solar_total(2000, 1), 36524);
@@ -108,7 +108,7 @@ void TestLunarHelpers::solarTotalAtTheEdges()
     QCOMPARE(get_solar_total(2024, kIntMin), get_solar_total(2024, 1));
 }
 
-void TestLunarHelpers::solarTotalUsesItsOwnYear()
+void TestLunarHelpers::SolarTotalUsesItsOwnYear()
 {
     for (const int queried : {2023, 2024}) {
         s_year = queried;
@@ -117,13 +117,13 @@ void TestLunarHelpers::solarTotalUsesItsOwnYear()
     }
 }
 
-void TestLunarHelpers::weekdayOfEveryMonth()
+void TestLunarHelpers::WeekdayOfEveryMonth()
 {
     for (QDate date(1700, 1, 1); date.year() <= 2300; date = date.addMonths(1))
         QCOMPARE(get_week(date.year(), date.month()), date.dayOfWeek() % 7 + 1);
 }
 
-void TestLunarHelpers::weekdayAtTheEdges()
+void TestLunarHelpers::WeekdayAtTheEdges()
 {
     QCOMPARE(get_week(1900, 1), 2); // a Monday
     QCOMPARE(get_week(2024, 9), 1); // a Sunday
@@ -133,7 +133,7 @@ void TestLunarHelpers::weekdayAtTheEdges()
     QCOMPARE(get_week(kIntMin, 1), get_week(1952, 1));
 }
 
-void TestLunarHelpers::monthsOf1900()
+void TestLunarHelpers::MonthsOf1900()
 {
     QCOMPARE(get_leap_month(1900), 8);
     QCOMPARE(get_leap_month_day(1900), 29);
@@ -143,7 +143,7 @@ void TestLunarHelpers::monthsOf1900()
     QCOMPARE(get_lunar_year_total(1900), 384); // to 18 February 1901
 }
 
-void TestLunarHelpers::monthsWithLongLeapMonth()
+void TestLunarHelpers::MonthsWithLongLeapMonth()
 {
     QCOMPARE(get_leap_month(2017), 6);
     QCOMPARE(get_leap_month_day(2017), 30);
@@ -153,14 +153,14 @@ void TestLunarHelpers::monthsWithLongLeapMonth()
     QCOMPARE(get_lunar_year_total(2024), 354); // 10 February 2024 to 28 January 2025
 }
 
-void TestLunarHelpers::yearsOutsideTable_data()
+void TestLunarHelpers::YearsOutsideTable_data()
 {
     QTest::addColumn<int>("year");
     for (const int year : {1899, 2051, 0, -1, kIntMax, kIntMin})
         QTest::newRow(QByteArray::number(year).constData()) << year;
 }
 
-void TestLunarHelpers::yearsOutsideTable()
+void TestLunarHelpers::YearsOutsideTable()
 {
     QFETCH(int, year);
     QCOMPARE(get_leap_month(year), 0);
@@ -169,7 +169,7 @@ void TestLunarHelpers::yearsOutsideTable()
     QCOMPARE(get_lunar_year_total(year), 348);
 }
 
-void TestLunarHelpers::monthsOutsideYear()
+void TestLunarHelpers::MonthsOutsideYear()
 {
     for (const int month : {0, 13, -1, -16, 17, kIntMax, kIntMin})
         QCOMPARE(get_lunar_month_total(2017, month), 29);
@@ -177,7 +177,7 @@ void TestLunarHelpers::monthsOutsideYear()
     QCOMPARE(get_lunar_month_total(2014, 13), 29);
 }
 
-void TestLunarHelpers::reservedBitsAreZero()
+void TestLunarHelpers::ReservedBitsAreZero()
 {
     for (const unsigned int entry : lunar_info) {
         QCOMPARE(entry >> 17, 0u);
@@ -186,7 +186,7 @@ void TestLunarHelpers::reservedBitsAreZero()
     }
 }
 
-void TestLunarHelpers::firstOfMonthOutOfRange_data()
+void TestLunarHelpers::FirstOfMonthOutOfRange_data()
 {
     QTest::addColumn<int>("year");
     QTest::addColumn<int>("month");
@@ -198,7 +198,7 @@ void TestLunarHelpers::firstOfMonthOutOfRange_data()
     QTest::newRow("smallest") << kIntMin << kIntMin;
 }
 
-void TestLunarHelpers::firstOfMonthOutOfRange()
+void TestLunarHelpers::FirstOfMonthOutOfRange()
 {
     QFETCH(int, year);
     QFETCH(int, month);
@@ -212,7 +212,7 @@ void TestLunarHelpers::firstOfMonthOutOfRange()
     QCOMPARE(era.day, 0);
 }
 
-void TestLunarHelpers::cycleNumbers()
+void TestLunarHelpers::CycleNumbers()
 {
     // 1 January 2000 was a day wu-wu of the month bing-zi of the year ji-mao.
     Lunar_info info;
@@ -226,7 +226,7 @@ void TestLunarHelpers::cycleNumbers()
     QCOMPARE(era.day % 12, 6);
 }
 
-void TestLunarHelpers::texts()
+void TestLunarHelpers::Texts()
 {
     QVERIFY2(QTextCodec::codecForName("GB18030"), "Qt lacks the codec that decodes the texts");
     QCOMPARE(Decode(Gan), QStringLiteral(u"甲 乙 丙 丁 戊 己 庚 辛 壬 癸"));
@@ -239,7 +239,7 @@ void TestLunarHelpers::texts()
     QCOMPARE(Decode(chinese_day), days.join(QLatin1Char(' ')));
 }
 
-void TestLunarHelpers::eraText_data()
+void TestLunarHelpers::EraText_data()
 {
     QTest::addColumn<int>("cycle");
     QTest::addColumn<QByteArray>("bytes");
@@ -254,7 +254,7 @@ void TestLunarHelpers::eraText_data()
     QTest::newRow("smallest") << kIntMin << QByteArray("\xB1\xFB\xB3\xBD");
 }
 
-void TestLunarHelpers::eraText()
+void TestLunarHelpers::EraText()
 {
     QFETCH(int, cycle);
     QFETCH(QByteArray, bytes);
@@ -264,7 +264,7 @@ void TestLunarHelpers::eraText()
     QCOMPARE(text[5], 'x');
 }
 
-void TestLunarHelpers::dayText_data()
+void TestLunarHelpers::DayText_data()
 {
     QTest::addColumn<int>("day");
     QTest::addColumn<QByteArray>("text");
@@ -275,7 +275,7 @@ void TestLunarHelpers::dayText_data()
         QTest::newRow(QByteArray::number(outside).constData()) << outside << QByteArray("");
 }
 
-void TestLunarHelpers::dayText()
+void TestLunarHelpers::DayText()
 {
     QFETCH(int, day);
     QFETCH(QByteArray, text);

@@ -119,22 +119,22 @@ class TestPersianCalendar : public QObject
     Q_OBJECT
 
 private slots:
-    void everyDayByEquinox();
-    void everyDayByQt();
-    void knownDays_data();
-    void knownDays();
-    void unconvertible_data();
-    void unconvertible();
-    void leapYears();
-    void leapYearsAsByFractions_data();
-    void leapYearsAsByFractions();
-    void leapAtTheEdges();
-    void everyYearIsWhole();
-    void distantDates_data();
-    void distantDates();
+    void EveryDayByEquinox();
+    void EveryDayByQt();
+    void KnownDays_data();
+    void KnownDays();
+    void Unconvertible_data();
+    void Unconvertible();
+    void LeapYears();
+    void LeapYearsAsByFractions_data();
+    void LeapYearsAsByFractions();
+    void LeapAtTheEdges();
+    void EveryYearIsWhole();
+    void DistantDates_data();
+    void DistantDates();
 };
 
-void TestPersianCalendar::everyDayByEquinox()
+void TestPersianCalendar::EveryDayByEquinox()
 {
     const QVector<QDate> newYears = ReadNewYears();
     QCOMPARE(newYears.size(), 2061 - 1993 + 1);
@@ -147,7 +147,7 @@ void TestPersianCalendar::everyDayByEquinox()
 }
 
 // Qt has this calendar since 5.14; with an older one the sweep by equinoxes stands alone.
-void TestPersianCalendar::everyDayByQt()
+void TestPersianCalendar::EveryDayByQt()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
     const QCalendar calendar(QCalendar::System::Jalali);
@@ -161,7 +161,7 @@ void TestPersianCalendar::everyDayByQt()
 #endif
 }
 
-void TestPersianCalendar::knownDays_data()
+void TestPersianCalendar::KnownDays_data()
 {
     QTest::addColumn<QDate>("date");
     QTest::addColumn<QString>("persian");
@@ -178,13 +178,13 @@ void TestPersianCalendar::knownDays_data()
     QTest::newRow("right again") << QDate(2026, 3, 21) << "1405-1-1";
 }
 
-void TestPersianCalendar::knownDays()
+void TestPersianCalendar::KnownDays()
 {
     QFETCH(QDate, date);
     QTEST(Text(ToPersianDate(date)), "persian");
 }
 
-void TestPersianCalendar::unconvertible_data()
+void TestPersianCalendar::Unconvertible_data()
 {
     QTest::addColumn<QDate>("date");
     QTest::newRow("day before the anchor") << QDate(1993, 3, 20);
@@ -196,13 +196,13 @@ void TestPersianCalendar::unconvertible_data()
     QTest::newRow("earliest") << QDate::fromJulianDay(Q_INT64_C(-784350574879));
 }
 
-void TestPersianCalendar::unconvertible()
+void TestPersianCalendar::Unconvertible()
 {
     QFETCH(QDate, date);
     QCOMPARE(Text(ToPersianDate(date)), QStringLiteral("1372--1--1"));
 }
 
-void TestPersianCalendar::leapYears()
+void TestPersianCalendar::LeapYears()
 {
     const QVector<int> expected = {1375, 1379, 1383, 1387, 1391, 1395,
                                    1399, 1404, 1408, 1412, 1416};
@@ -214,7 +214,7 @@ void TestPersianCalendar::leapYears()
     QCOMPARE(leapYears, expected);
 }
 
-void TestPersianCalendar::leapYearsAsByFractions_data()
+void TestPersianCalendar::LeapYearsAsByFractions_data()
 {
     QTest::addColumn<qint64>("first");
     QTest::addColumn<qint64>("last");
@@ -228,7 +228,7 @@ void TestPersianCalendar::leapYearsAsByFractions_data()
     QTest::newRow("every 997th year of all") << lowest << highest << 997;
 }
 
-void TestPersianCalendar::leapYearsAsByFractions()
+void TestPersianCalendar::LeapYearsAsByFractions()
 {
     QFETCH(qint64, first);
     QFETCH(qint64, last);
@@ -240,7 +240,7 @@ void TestPersianCalendar::leapYearsAsByFractions()
     }
 }
 
-void TestPersianCalendar::leapAtTheEdges()
+void TestPersianCalendar::LeapAtTheEdges()
 {
     // 2147483647 + 38 is 37 modulo 128, and 37 * 31 is 123 modulo 128: not below 31.
     QVERIFY(!IsPersianLeapYear(std::numeric_limits<int>::max()));
@@ -249,7 +249,7 @@ void TestPersianCalendar::leapAtTheEdges()
     QVERIFY(IsPersianLeapYear(-1000));
 }
 
-void TestPersianCalendar::everyYearIsWhole()
+void TestPersianCalendar::EveryYearIsWhole()
 {
     PersianDate previous = ToPersianDate(kFirstDay);
     for (QDate date = kFirstDay.addDays(1); date.year() < 3000; date = date.addDays(1)) {
@@ -268,7 +268,7 @@ void TestPersianCalendar::everyYearIsWhole()
     }
 }
 
-void TestPersianCalendar::distantDates_data()
+void TestPersianCalendar::DistantDates_data()
 {
     QTest::addColumn<QDate>("date");
     QTest::newRow("whole cycles") << kFirstDay.addDays(Q_INT64_C(46751) * 1000);
@@ -277,7 +277,7 @@ void TestPersianCalendar::distantDates_data()
     QTest::newRow("year 2147480000") << QDate(2147480000, 1, 1);
 }
 
-void TestPersianCalendar::distantDates()
+void TestPersianCalendar::DistantDates()
 {
     QFETCH(QDate, date);
     // 128 Persian years have 46751 days, which brings the date near the anchor.

@@ -53,12 +53,12 @@ class TestSystemTime : public QObject
 
 private slots:
     void cleanup() { s_kernelSeconds = kNotSet; }
-    void milliseconds_data();
-    void milliseconds();
-    void clocksReadIt();
+    void Milliseconds_data();
+    void Milliseconds();
+    void ClocksReadIt();
 };
 
-void TestSystemTime::milliseconds_data()
+void TestSystemTime::Milliseconds_data()
 {
     QTest::addColumn<qint64>("seconds");
     QTest::addColumn<int>("nanoseconds");
@@ -73,7 +73,7 @@ void TestSystemTime::milliseconds_data()
     QTest::newRow("first of 33 bits") << Q_INT64_C(4294967296) << 0 << "2106-02-07T06:28:16.000Z";
 }
 
-void TestSystemTime::milliseconds()
+void TestSystemTime::Milliseconds()
 {
     QFETCH(qint64, seconds);
     QFETCH(int, nanoseconds);
@@ -85,7 +85,7 @@ void TestSystemTime::milliseconds()
 }
 
 // 2040-03-26T22:30:00Z.
-void TestSystemTime::clocksReadIt()
+void TestSystemTime::ClocksReadIt()
 {
     s_kernelSeconds = Q_INT64_C(2216413800);
     s_kernelNanoseconds = 123000000;

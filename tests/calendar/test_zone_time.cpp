@@ -30,18 +30,18 @@ class TestZoneTime : public QObject
     Q_OBJECT
 
 private slots:
-    void everyTransitionOfTwentyYears_data();
-    void everyTransitionOfTwentyYears();
-    void nextChangeWorkedOut_data();
-    void nextChangeWorkedOut();
-    void noChange_data();
-    void noChange();
-    void possibleChangesAreBoundariesAndNewYears();
-    void offsetsOfClocksWithoutRules();
-    void zoneTexts();
+    void EveryTransitionOfTwentyYears_data();
+    void EveryTransitionOfTwentyYears();
+    void NextChangeWorkedOut_data();
+    void NextChangeWorkedOut();
+    void NoChange_data();
+    void NoChange();
+    void PossibleChangesAreBoundariesAndNewYears();
+    void OffsetsOfClocksWithoutRules();
+    void ZoneTexts();
 };
 
-void TestZoneTime::everyTransitionOfTwentyYears_data()
+void TestZoneTime::EveryTransitionOfTwentyYears_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<int>("offset");
@@ -58,7 +58,7 @@ void TestZoneTime::everyTransitionOfTwentyYears_data()
 
 // Each transition of twenty years, found from the one before it, and the time that is shown
 // between.
-void TestZoneTime::everyTransitionOfTwentyYears()
+void TestZoneTime::EveryTransitionOfTwentyYears()
 {
     QFETCH(QByteArray, zone);
     QFETCH(int, offset);
@@ -85,7 +85,7 @@ void TestZoneTime::everyTransitionOfTwentyYears()
     }
 }
 
-void TestZoneTime::nextChangeWorkedOut_data()
+void TestZoneTime::NextChangeWorkedOut_data()
 {
     QTest::addColumn<QString>("start");
     QTest::addColumn<QString>("end");
@@ -114,7 +114,7 @@ void TestZoneTime::nextChangeWorkedOut_data()
         "2024-01-01T00:00:00", 0);
 }
 
-void TestZoneTime::nextChangeWorkedOut()
+void TestZoneTime::NextChangeWorkedOut()
 {
     QFETCH(QString, start);
     QFETCH(QString, end);
@@ -128,7 +128,7 @@ void TestZoneTime::nextChangeWorkedOut()
     QCOMPARE(found->before, 3600 - after);
 }
 
-void TestZoneTime::noChange_data()
+void TestZoneTime::NoChange_data()
 {
     QTest::addColumn<QString>("start");
     QTest::addColumn<QString>("end");
@@ -144,7 +144,7 @@ void TestZoneTime::noChange_data()
     QTest::newRow("the last year is over") << rule << kBerlin.end << Instant("9999-12-31T23:59:59");
 }
 
-void TestZoneTime::noChange()
+void TestZoneTime::NoChange()
 {
     QFETCH(QString, start);
     QFETCH(QString, end);
@@ -153,7 +153,7 @@ void TestZoneTime::noChange()
 }
 
 // Berlin in 2024 and 2025: new year, the last Sundays of March and October at 02:00 standard time.
-void TestZoneTime::possibleChangesAreBoundariesAndNewYears()
+void TestZoneTime::PossibleChangesAreBoundariesAndNewYears()
 {
     QStringList texts;
     for (const qint64 instant : PossibleChanges(kBerlin, 2024, 2025))
@@ -166,7 +166,7 @@ void TestZoneTime::possibleChangesAreBoundariesAndNewYears()
     QVERIFY(PossibleChanges(kBerlin, 2025, 2024).isEmpty());
 }
 
-void TestZoneTime::offsetsOfClocksWithoutRules()
+void TestZoneTime::OffsetsOfClocksWithoutRules()
 {
     const qint64 summer = Instant("2024-07-01T00:00:00");
     QCOMPARE(OffsetAt(kBerlin, summer), 7200);
@@ -175,7 +175,7 @@ void TestZoneTime::offsetsOfClocksWithoutRules()
     QCOMPARE(OffsetAt({-86399, QString(), kBerlin.end}, summer), -86399);
 }
 
-void TestZoneTime::zoneTexts()
+void TestZoneTime::ZoneTexts()
 {
     const auto text = [](int offset) { return ZoneSettings {offset, {}, {}}.ZoneText(); };
     QCOMPARE(text(0), QStringLiteral("+00:00"));

@@ -101,16 +101,16 @@ private Q_SLOTS:
         m_node->SetAttribute("DigitalWeekType", kChineseWeek, false);
     }
 
-    void foreignFilesStayWithinTheBound_data();
-    void foreignFilesStayWithinTheBound();
-    void largeInkCountsWithItsInk();
-    void boundOfTheProcess();
-    void equalFilesCountOnce();
-    void setUpAgainFindsRoom();
-    void markOfTheTwelveHoursCounts();
-    void unreadableFilesAreNotReported();
-    void nodeTellsWhatIsLost();
-    void plannedImagesCountLikeFiles();
+    void ForeignFilesStayWithinTheBound_data();
+    void ForeignFilesStayWithinTheBound();
+    void LargeInkCountsWithItsInk();
+    void BoundOfTheProcess();
+    void EqualFilesCountOnce();
+    void SetUpAgainFindsRoom();
+    void MarkOfTheTwelveHoursCounts();
+    void UnreadableFilesAreNotReported();
+    void NodeTellsWhatIsLost();
+    void PlannedImagesCountLikeFiles();
 
 private:
     // A file of its own for a key, told apart by what follows its end.
@@ -133,7 +133,7 @@ private:
     int m_files = 0;
 };
 
-void TestKeptGlyphs::foreignFilesStayWithinTheBound_data()
+void TestKeptGlyphs::ForeignFilesStayWithinTheBound_data()
 {
     QTest::addColumn<QByteArray>("content");
     for (const char *const format : {"gif", "jpeg", "bmp", "pbm", "xbm", "png"})
@@ -141,7 +141,7 @@ void TestKeptGlyphs::foreignFilesStayWithinTheBound_data()
 }
 
 // Four images of 64 MiB: the first one in the order of loading is shown, and no other made.
-void TestKeptGlyphs::foreignFilesStayWithinTheBound()
+void TestKeptGlyphs::ForeignFilesStayWithinTheBound()
 {
     QFETCH(QByteArray, content);
     QVERIFY(!content.isEmpty());
@@ -173,7 +173,7 @@ void TestKeptGlyphs::foreignFilesStayWithinTheBound()
 }
 
 // 4.6 MiB each at 32 bits per pixel, but 0.15 MiB as ink: 12 month names, 7 days and 10 others.
-void TestKeptGlyphs::largeInkCountsWithItsInk()
+void TestKeptGlyphs::LargeInkCountsWithItsInk()
 {
     const QString path = m_directory->filePath("ink.png");
     QVERIFY(Canvas({1200, 1000}, 0xff00ff00).save(path));
@@ -193,7 +193,7 @@ void TestKeptGlyphs::largeInkCountsWithItsInk()
     QCOMPARE(BytesOf(glyphs.weeks), 7 * InkBytes({1200, 1000}));
 }
 
-void TestKeptGlyphs::boundOfTheProcess()
+void TestKeptGlyphs::BoundOfTheProcess()
 {
     const QByteArray &soft = SoftPng();
     GlyphAccount account;
@@ -215,7 +215,7 @@ void TestKeptGlyphs::boundOfTheProcess()
     QCOMPARE(last.topText.Bytes(), 64 * kMiB);
 }
 
-void TestKeptGlyphs::equalFilesCountOnce()
+void TestKeptGlyphs::EqualFilesCountOnce()
 {
     const QByteArray &soft = SoftPng();
     Record(*m_node, "_toptext", soft);
@@ -236,7 +236,7 @@ void TestKeptGlyphs::equalFilesCountOnce()
     QVERIFY(GlyphBytesInProcess() - before < 65 * kMiB + 10 * InkBytes({818, 4096}));
 }
 
-void TestKeptGlyphs::setUpAgainFindsRoom()
+void TestKeptGlyphs::SetUpAgainFindsRoom()
 {
     const QByteArray &soft = SoftPng();
     ClockGlyphs glyphs;
@@ -247,7 +247,7 @@ void TestKeptGlyphs::setUpAgainFindsRoom()
     }
 }
 
-void TestKeptGlyphs::markOfTheTwelveHoursCounts()
+void TestKeptGlyphs::MarkOfTheTwelveHoursCounts()
 {
     const QByteArray &soft = SoftPng();
     Record(*m_node, "_toptext", soft);
@@ -261,7 +261,7 @@ void TestKeptGlyphs::markOfTheTwelveHoursCounts()
     QVERIFY(glyphs.LoadFile(m_node->GetFirstFile("_toptext")).Key() == glyphs.topText.Key());
 }
 
-void TestKeptGlyphs::unreadableFilesAreNotReported()
+void TestKeptGlyphs::UnreadableFilesAreNotReported()
 {
     Record(*m_node, "_toptext", "no picture");
     m_node->SetFilePath("_lunar", "/nowhere.png", QString(), -1, 3);
@@ -273,7 +273,7 @@ void TestKeptGlyphs::unreadableFilesAreNotReported()
 }
 
 // Until the next set-up finds room; faults of the making stay.
-void TestKeptGlyphs::nodeTellsWhatIsLost()
+void TestKeptGlyphs::NodeTellsWhatIsLost()
 {
     Lw::GlyphFault blank;
     blank.kind = Lw::GlyphFault::NoInk;
@@ -292,7 +292,7 @@ void TestKeptGlyphs::nodeTellsWhatIsLost()
 }
 
 // Eight images of 8 MiB of ink fill a clock, four such clocks the process.
-void TestKeptGlyphs::plannedImagesCountLikeFiles()
+void TestKeptGlyphs::PlannedImagesCountLikeFiles()
 {
     const auto planOf = [](int clock) {
         QHash<QString, PlannedImage> planned;

@@ -42,12 +42,12 @@ class TestPngChunks : public QObject
 {
     Q_OBJECT
 private slots:
-    void sizeIsThatOfTheHeader();
-    void oneColour_data();
-    void oneColour();
+    void SizeIsThatOfTheHeader();
+    void OneColour_data();
+    void OneColour();
 };
 
-void TestPngChunks::sizeIsThatOfTheHeader()
+void TestPngChunks::SizeIsThatOfTheHeader()
 {
     const QByteArray png = Written(Striped({70, 300}, 0xff00ff00));
     QCOMPARE(SizeOfPng(png), QSize(70, 300));
@@ -60,7 +60,7 @@ void TestPngChunks::sizeIsThatOfTheHeader()
     QVERIFY(SizeOfPng(other).isEmpty());
 }
 
-void TestPngChunks::oneColour_data()
+void TestPngChunks::OneColour_data()
 {
     QTest::addColumn<QByteArray>("png");
     QTest::addColumn<bool>("hasOne");
@@ -83,7 +83,7 @@ void TestPngChunks::oneColour_data()
     row("16 bits", Striped(size, green, QImage::Format_RGBA64), false);
 }
 
-void TestPngChunks::oneColour()
+void TestPngChunks::OneColour()
 {
     QFETCH(QByteArray, png);
     QVERIFY(!png.isEmpty());

@@ -107,36 +107,36 @@ class TestDocuments : public QObject
     Q_OBJECT
 
 private slots:
-    void exampleIsInTheDocument();
-    void exampleRuns();
-    void exampleDrawsTheSameEverywhere();
-    void exampleSaysWhatIsWrong_data();
-    void exampleSaysWhatIsWrong();
-    void programsAreSound_data();
-    void programsAreSound();
-    void importedNamesAreDescribed_data();
-    void importedNamesAreDescribed();
-    void zoneTables_data();
-    void zoneTables();
-    void linksLeadSomewhere_data();
-    void linksLeadSomewhere();
-    void quotedLinesExist();
+    void ExampleIsInTheDocument();
+    void ExampleRuns();
+    void ExampleDrawsTheSameEverywhere();
+    void ExampleSaysWhatIsWrong_data();
+    void ExampleSaysWhatIsWrong();
+    void ProgramsAreSound_data();
+    void ProgramsAreSound();
+    void ImportedNamesAreDescribed_data();
+    void ImportedNamesAreDescribed();
+    void ZoneTables_data();
+    void ZoneTables();
+    void LinksLeadSomewhere_data();
+    void LinksLeadSomewhere();
+    void QuotedLinesExist();
 #ifdef HAVE_MANUALS
-    void manualsHoldTheHelp_data();
-    void manualsHoldTheHelp();
-    void manualsAreInOrder_data();
-    void manualsAreInOrder();
-    void failedManualLeavesThePage();
+    void ManualsHoldTheHelp_data();
+    void ManualsHoldTheHelp();
+    void ManualsAreInOrder_data();
+    void ManualsAreInOrder();
+    void FailedManualLeavesThePage();
 #endif
 };
 
-void TestDocuments::exampleIsInTheDocument()
+void TestDocuments::ExampleIsInTheDocument()
 {
     QCOMPARE(Blocks(Document("docs/integrating.md"), "cpp"),
              QStringList {Document("docs/examples/small_host.cpp")});
 }
 
-void TestDocuments::exampleRuns()
+void TestDocuments::ExampleRuns()
 {
     const QTemporaryDir glyphs;
     const QTemporaryDir frames;
@@ -157,7 +157,7 @@ void TestDocuments::exampleRuns()
 }
 
 // Neither what the platform takes for a point nor the environment's language changes its texts.
-void TestDocuments::exampleDrawsTheSameEverywhere()
+void TestDocuments::ExampleDrawsTheSameEverywhere()
 {
     const auto images = [](const QString &dotsPerInch, const QString &locale) {
         const QTemporaryDir glyphs;
@@ -179,7 +179,7 @@ void TestDocuments::exampleDrawsTheSameEverywhere()
     QVERIFY(images("120", "fa_IR.UTF-8") == expected);
 }
 
-void TestDocuments::exampleSaysWhatIsWrong_data()
+void TestDocuments::ExampleSaysWhatIsWrong_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("reason");
@@ -191,7 +191,7 @@ void TestDocuments::exampleSaysWhatIsWrong_data()
         << QStringList {CLOCK_PLUGIN_FILE, ".", "/dev/null/none"} << "a frame could not be written";
 }
 
-void TestDocuments::exampleSaysWhatIsWrong()
+void TestDocuments::ExampleSaysWhatIsWrong()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, reason);
@@ -205,7 +205,7 @@ void TestDocuments::exampleSaysWhatIsWrong()
     QVERIFY2(run.errors.contains(reason), qPrintable(run.errors));
 }
 
-void TestDocuments::programsAreSound_data()
+void TestDocuments::ProgramsAreSound_data()
 {
     QTest::addColumn<QString>("program");
     for (const char *document : {"README.md", "docs/programs.md", "docs/sdk.md"}) {
@@ -216,7 +216,7 @@ void TestDocuments::programsAreSound_data()
 }
 
 // A clock is put into a program, settings into a clock.
-void TestDocuments::programsAreSound()
+void TestDocuments::ProgramsAreSound()
 {
     QFETCH(QString, program);
     QByteArray text = program.toUtf8();
@@ -233,7 +233,7 @@ void TestDocuments::programsAreSound()
     QCOMPARE(Lines(RunTool(arguments << path).errors).filter(": warning: "), QStringList());
 }
 
-void TestDocuments::importedNamesAreDescribed_data()
+void TestDocuments::ImportedNamesAreDescribed_data()
 {
     QTest::addColumn<QString>("name");
     const QString tables =
@@ -251,13 +251,13 @@ void TestDocuments::importedNamesAreDescribed_data()
 }
 
 // Every element and attribute that a clock reads or writes.
-void TestDocuments::importedNamesAreDescribed()
+void TestDocuments::ImportedNamesAreDescribed()
 {
     QFETCH(QString, name);
     QVERIFY(CodeWords({Document("docs/programs.md"), Document("docs/sdk.md")}).contains(name));
 }
 
-void TestDocuments::zoneTables_data()
+void TestDocuments::ZoneTables_data()
 {
     QTest::addColumn<QStringList>("cells");
     for (const QStringList &cells : ZoneRows())
@@ -265,7 +265,7 @@ void TestDocuments::zoneTables_data()
 }
 
 // A row with a sixth column says when the settings are wrong; the others are exact.
-void TestDocuments::zoneTables()
+void TestDocuments::ZoneTables()
 {
     QFETCH(QStringList, cells);
     const Span span = TenYearsFrom(QDate(2026, 1, 1));
@@ -280,7 +280,7 @@ void TestDocuments::zoneTables()
     QCOMPARE(QStringList({best.ZoneText(), best.start, best.end}), cells.mid(2, 3));
 }
 
-void TestDocuments::linksLeadSomewhere_data()
+void TestDocuments::LinksLeadSomewhere_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("README.md") << "README.md";
@@ -288,7 +288,7 @@ void TestDocuments::linksLeadSomewhere_data()
         QTest::newRow(qPrintable(name)) << "docs/" + name;
 }
 
-void TestDocuments::linksLeadSomewhere()
+void TestDocuments::LinksLeadSomewhere()
 {
     QFETCH(QString, path);
     const QDir folder = QFileInfo(InTree(path)).dir();
@@ -300,7 +300,7 @@ void TestDocuments::linksLeadSomewhere()
 }
 
 // The messages that troubleshooting quotes are said by some source.
-void TestDocuments::quotedLinesExist()
+void TestDocuments::QuotedLinesExist()
 {
     QString sources;
     for (const char *folder : {"player", "program", "host", "clock_plugin", "tools"}) {
@@ -322,7 +322,7 @@ void TestDocuments::quotedLinesExist()
 }
 
 #ifdef HAVE_MANUALS
-void TestDocuments::manualsHoldTheHelp_data()
+void TestDocuments::ManualsHoldTheHelp_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QStringList>("arguments");
@@ -339,7 +339,7 @@ void TestDocuments::manualsHoldTheHelp_data()
 
 // Every line of the help stands in the page, in the section of its heading; the columns of a table
 // may stand in lines of their own.
-void TestDocuments::manualsHoldTheHelp()
+void TestDocuments::ManualsHoldTheHelp()
 {
     QFETCH(QString, program);
     QFETCH(QStringList, arguments);
@@ -373,7 +373,7 @@ void TestDocuments::manualsHoldTheHelp()
 }
 
 // The sections that manual pages have, in their order, each once and with something in it.
-void TestDocuments::manualsAreInOrder_data()
+void TestDocuments::ManualsAreInOrder_data()
 {
     QTest::addColumn<QStringList>("titles");
     QTest::newRow("clock_player") << QStringList {
@@ -383,7 +383,7 @@ void TestDocuments::manualsAreInOrder_data()
         "NAME", "SYNOPSIS", "DESCRIPTION", "COMMANDS", "EXIT STATUS", "ENVIRONMENT", "SEE ALSO"};
 }
 
-void TestDocuments::manualsAreInOrder()
+void TestDocuments::ManualsAreInOrder()
 {
     QFETCH(QStringList, titles);
     const QString page = PlainManual(QTest::currentDataTag());
@@ -397,7 +397,7 @@ void TestDocuments::manualsAreInOrder()
     QVERIFY(!SectionOf(page, ".SH DESCRIPTION\n").startsWith(summary, Qt::CaseInsensitive));
 }
 
-void TestDocuments::failedManualLeavesThePage()
+void TestDocuments::FailedManualLeavesThePage()
 {
     const QTemporaryDir folder;
     const QString page = folder.filePath("x.1");

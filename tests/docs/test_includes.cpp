@@ -201,13 +201,13 @@ class TestIncludes : public QObject
     Q_OBJECT
 
 private slots:
-    void rooms_data();
-    void rooms();
-    void treeFollowsTheDrawing();
-    void drawingHasTheseFloors();
+    void Rooms_data();
+    void Rooms();
+    void TreeFollowsTheDrawing();
+    void DrawingHasTheseFloors();
 };
 
-void TestIncludes::rooms_data()
+void TestIncludes::Rooms_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("include");
@@ -216,7 +216,7 @@ void TestIncludes::rooms_data()
         QTest::newRow(one.name) << one.path << one.include << one.fault;
 }
 
-void TestIncludes::rooms()
+void TestIncludes::Rooms()
 {
     QFETCH(QString, path);
     QFETCH(QString, include);
@@ -233,14 +233,14 @@ void TestIncludes::rooms()
     QCOMPARE(Faults(sources).join('\n'), fault);
 }
 
-void TestIncludes::treeFollowsTheDrawing()
+void TestIncludes::TreeFollowsTheDrawing()
 {
     const Sources sources = SourcesOfTheTree();
     QVERIFY(sources.contains("clock_plugin/clock_node.h") && sources.contains("host/hnode.h"));
     QCOMPARE(Faults(sources).join('\n'), QString());
 }
 
-void TestIncludes::drawingHasTheseFloors()
+void TestIncludes::DrawingHasTheseFloors()
 {
     const QString drawing = Text("docs/architecture.md").section("```", 1, 1);
     QStringList drawn;

@@ -39,21 +39,21 @@ class TestFit : public QObject
     Q_OBJECT
 
 private slots:
-    void boundsOfInk();
-    void inkInCommon_data();
-    void inkInCommon();
-    void stretchesOfAYear();
-    void stretchesOfDaylightSaving();
-    void contrast_data();
-    void contrast();
-    void hiddenPartsAreNotFound();
-    void visiblePartOfAnArea();
-    void hugeSizesAreNotDrawn();
-    void nothingOfOddClocks_data();
-    void nothingOfOddClocks();
+    void BoundsOfInk();
+    void InkInCommon_data();
+    void InkInCommon();
+    void StretchesOfAYear();
+    void StretchesOfDaylightSaving();
+    void Contrast_data();
+    void Contrast();
+    void HiddenPartsAreNotFound();
+    void VisiblePartOfAnArea();
+    void HugeSizesAreNotDrawn();
+    void NothingOfOddClocks_data();
+    void NothingOfOddClocks();
 };
 
-void TestFit::boundsOfInk()
+void TestFit::BoundsOfInk()
 {
     const InkMask mask =
         InkMask::OfPicture(Picture({".....", "..#..", "...#.", "....."}), {10, 20});
@@ -66,7 +66,7 @@ void TestFit::boundsOfInk()
     QCOMPARE(InkMask::OfPicture(column, {-4, -2}).Bounds(), QRect(-4, -2, 1, 3));
 }
 
-void TestFit::inkInCommon_data()
+void TestFit::InkInCommon_data()
 {
     QTest::addColumn<int>("shift");
     for (const int shift : {0, 1, 31, 32, 33, 64, 90})
@@ -74,7 +74,7 @@ void TestFit::inkInCommon_data()
 }
 
 // Rows of 96 columns, every third one ink; and the same moved to the right.
-void TestFit::inkInCommon()
+void TestFit::InkInCommon()
 {
     QFETCH(int, shift);
     const QString row = QString("#..").repeated(32);
@@ -89,7 +89,7 @@ void TestFit::inkInCommon()
     QCOMPARE(both.Bounds(), one.Bounds() | other.Bounds());
 }
 
-void TestFit::stretchesOfAYear()
+void TestFit::StretchesOfAYear()
 {
     ClockUnderTest clock(1);
     clock.Set("TimeZone", "+08:00");
@@ -107,7 +107,7 @@ void TestFit::stretchesOfAYear()
 
 // The hour after two o'clock is passed over in spring and comes twice in autumn. The lunar date
 // does not follow daylight saving: in summer it changes at one o'clock.
-void TestFit::stretchesOfDaylightSaving()
+void TestFit::StretchesOfDaylightSaving()
 {
     ClockUnderTest clock(1);
     clock.Set("TimeZone", "+01:00");
@@ -124,7 +124,7 @@ void TestFit::stretchesOfDaylightSaving()
     QVERIFY(!seconds.contains(At("2026-12-01T22:00:00Z")));
 }
 
-void TestFit::contrast_data()
+void TestFit::Contrast_data()
 {
     QTest::addColumn<QRgb>("colour");
     QTest::addColumn<double>("expected");
@@ -137,7 +137,7 @@ void TestFit::contrast_data()
     QTest::newRow("black") << qRgb(0, 0, 0) << 1.0;
 }
 
-void TestFit::contrast()
+void TestFit::Contrast()
 {
     QFETCH(QRgb, colour);
     QFETCH(double, expected);
@@ -145,7 +145,7 @@ void TestFit::contrast()
     QCOMPARE(ContrastOf(colour, qRgb(0, 0, 0)), ContrastOf(qRgb(0, 0, 0), colour));
 }
 
-void TestFit::hiddenPartsAreNotFound()
+void TestFit::HiddenPartsAreNotFound()
 {
     ClockUnderTest clock(1, QSize(8, 8));
     for (const char *flag :
@@ -161,7 +161,7 @@ void TestFit::hiddenPartsAreNotFound()
 }
 
 // What is cut by the edge of the screen is what is beyond the visible part.
-void TestFit::visiblePartOfAnArea()
+void TestFit::VisiblePartOfAnArea()
 {
     QCOMPARE(VisibleOf(QRect(-10, 5, 40, 20), QSize(100, 15)), QRect(10, 0, 30, 10));
     ClockUnderTest clock(1, QSize(200, 40));
@@ -175,7 +175,7 @@ void TestFit::visiblePartOfAnArea()
     QVERIFY(!cuts[0].isGone);
 }
 
-void TestFit::hugeSizesAreNotDrawn()
+void TestFit::HugeSizesAreNotDrawn()
 {
     ClockUnderTest clock(1);
     clock.Set("DigitalTimeFSize", 40000);
@@ -186,7 +186,7 @@ void TestFit::hugeSizesAreNotDrawn()
     QCOMPARE(findings.undrawn[0].points, 40000);
 }
 
-void TestFit::nothingOfOddClocks_data()
+void TestFit::NothingOfOddClocks_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QSize>("size");
@@ -195,7 +195,7 @@ void TestFit::nothingOfOddClocks_data()
     QTest::newRow("no size") << 1 << QSize(0, 64);
 }
 
-void TestFit::nothingOfOddClocks()
+void TestFit::NothingOfOddClocks()
 {
     QFETCH(int, type);
     QFETCH(QSize, size);

@@ -189,8 +189,8 @@ class TestFitFrames : public QObject
 
 private slots:
     void initTestCase();
-    void missingInkIsWhatIsSaid_data();
-    void missingInkIsWhatIsSaid();
+    void MissingInkIsWhatIsSaid_data();
+    void MissingInkIsWhatIsSaid();
     void cleanupTestCase();
 
 private:
@@ -207,7 +207,7 @@ void TestFitFrames::initTestCase()
     qInfo("seed %u", m_seed);
 }
 
-void TestFitFrames::missingInkIsWhatIsSaid_data()
+void TestFitFrames::MissingInkIsWhatIsSaid_data()
 {
     QTest::addColumn<int>("number");
     constexpr int kUsualCount = 20;
@@ -217,7 +217,7 @@ void TestFitFrames::missingInkIsWhatIsSaid_data()
         QTest::addRow("clock %d", number) << number;
 }
 
-void TestFitFrames::missingInkIsWhatIsSaid()
+void TestFitFrames::MissingInkIsWhatIsSaid()
 {
     QFETCH(int, number);
     MadeUpClock clock(m_seed, static_cast<quint32>(number));

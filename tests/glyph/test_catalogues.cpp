@@ -128,14 +128,14 @@ private:
 private Q_SLOTS:
     void init() { m_output.reset(new GlyphOutput); }
 
-    void withoutACatalogueTheKeysStand()
+    void WithoutACatalogueTheKeysStand()
     {
         QCOMPARE(Translated(kGlyphContext, "PersiaWednesday"), QString("PersiaWednesday"));
     }
 
-    void languages() { QCOMPARE(ClockCatalogues::Languages(), (QStringList {"en", "fa", "zh"})); }
+    void Languages() { QCOMPARE(ClockCatalogues::Languages(), (QStringList {"en", "fa", "zh"})); }
 
-    void languageOfALocale_data()
+    void LanguageOfALocale_data()
     {
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("language");
@@ -158,14 +158,14 @@ private Q_SLOTS:
         QTest::newRow("nonsense") << "?!"
                                   << "en";
     }
-    void languageOfALocale()
+    void LanguageOfALocale()
     {
         QFETCH(QString, locale);
         QFETCH(QString, language);
         QCOMPARE(ClockCatalogues::LanguageFor(QLocale(locale)), language);
     }
 
-    void installReplacesTheEarlierOne()
+    void InstallReplacesTheEarlierOne()
     {
         QVERIFY(ClockCatalogues::Install("zh"));
         QCOMPARE(Translated(kGlyphContext, "Monday"), U("星期一"));
@@ -176,7 +176,7 @@ private Q_SLOTS:
         QCOMPARE(qApp->findChildren<QTranslator *>().size(), translators);
     }
 
-    void unknownLanguageChangesNothing_data()
+    void UnknownLanguageChangesNothing_data()
     {
         QTest::addColumn<QString>("language");
         QTest::newRow("not shipped") << "de";
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QTest::newRow("locale") << "zh_CN";
         QTest::newRow("path") << "../clock_en";
     }
-    void unknownLanguageChangesNothing()
+    void UnknownLanguageChangesNothing()
     {
         QFETCH(QString, language);
         QVERIFY(ClockCatalogues::Install("zh"));
@@ -194,8 +194,8 @@ private Q_SLOTS:
     }
 
     // Exactly the texts that the plugin translates, and none of them left open.
-    void complete_data() { EachLanguage(); }
-    void complete()
+    void Complete_data() { EachLanguage(); }
+    void Complete()
     {
         QFETCH(QString, language);
         QSet<QString> expected;
@@ -215,7 +215,7 @@ private Q_SLOTS:
             QVERIFY2(expected.contains(entry), qPrintable(entry));
     }
 
-    void wording_data()
+    void Wording_data()
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QByteArray>("source");
@@ -239,7 +239,7 @@ private Q_SLOTS:
         row("fa", "DateString", "ＹＭＤ");
         row("fa", "TimeString", "ＨＭＳ");
     }
-    void wording()
+    void Wording()
     {
         QFETCH(QString, language);
         QFETCH(QByteArray, source);
@@ -248,8 +248,8 @@ private Q_SLOTS:
         QCOMPARE(Translated(kGlyphContext, source.constData()), text);
     }
 
-    void sameInEveryLanguage_data() { EachLanguage(); }
-    void sameInEveryLanguage()
+    void SameInEveryLanguage_data() { EachLanguage(); }
+    void SameInEveryLanguage()
     {
         QFETCH(QString, language);
         QVERIFY(ClockCatalogues::Install(language));
@@ -264,14 +264,14 @@ private Q_SLOTS:
         QCOMPARE(Translated(kGlyphContext, "PersiaSunday"), U("یکشنبه"));
     }
 
-    void missingGlyphsAreNoticed()
+    void MissingGlyphsAreNoticed()
     {
         QVERIFY(HasMissingGlyph(QString(QChar(0xe123)), FontOf("DejaVu Sans", 12)));
         QVERIFY(!HasMissingGlyph("A", FontOf("DejaVu Sans", 12)));
     }
 
-    void noMissingGlyph_data() { EachLanguage(); }
-    void noMissingGlyph()
+    void NoMissingGlyph_data() { EachLanguage(); }
+    void NoMissingGlyph()
     {
         QFETCH(QString, language);
         QVERIFY(ClockCatalogues::Install(language));
@@ -290,7 +290,7 @@ private Q_SLOTS:
         }
     }
 
-    void cells_data()
+    void Cells_data()
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QByteArray>("source");
@@ -311,7 +311,7 @@ private Q_SLOTS:
     }
     // Each character is drawn alone, with ideographic blanks in place of the others: its ink must
     // lie in its own cell, and all of them together must be the label as it is drawn at once.
-    void cells()
+    void Cells()
     {
         QFETCH(QString, language);
         QFETCH(QByteArray, source);
@@ -345,7 +345,7 @@ private Q_SLOTS:
         }
     }
 
-    void installedWordingIsDrawn()
+    void InstalledWordingIsDrawn()
     {
         QVERIFY(ClockCatalogues::Install("zh"));
         HClockNode node;

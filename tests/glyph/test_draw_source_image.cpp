@@ -93,8 +93,8 @@ private:
 private Q_SLOTS:
     void init() { m_output.reset(new GlyphOutput); }
 
-    void plainSet_data() { Types(); }
-    void plainSet()
+    void PlainSet_data() { Types(); }
+    void PlainSet()
     {
         QFETCH(int, clockType);
         QFETCH(QString, prefix);
@@ -120,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(m_output->TemporaryFiles(), QStringList());
     }
 
-    void filesAreImagesWithAlpha()
+    void FilesAreImagesWithAlpha()
     {
         HClockNode node;
         FillNode(node, AnalogClock, 7);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         }
     }
 
-    void identities_data()
+    void Identities_data()
     {
         QTest::addColumn<QString>("id");
         QTest::addColumn<QString>("written");
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QTest::newRow("largest") << "2147483647"
                                  << "2147483647";
     }
-    void identities()
+    void Identities()
     {
         QFETCH(QString, id);
         QFETCH(QString, written);
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(node.GetFirstFile("_Minus")));
     }
 
-    void pictureClockHasNone()
+    void PictureClockHasNone()
     {
         HClockNode node;
         FillNode(node, PictureClock, 7);
@@ -171,7 +171,7 @@ private Q_SLOTS:
     }
 
     // A picture clock sets where images go, and nothing else of the generator.
-    void pictureClockLeavesTheSettingsOfTheClockBefore()
+    void PictureClockLeavesTheSettingsOfTheClockBefore()
     {
         HClockNode digital;
         FillNode(digital, DigitalClock, 7);
@@ -187,7 +187,7 @@ private Q_SLOTS:
         QCOMPARE(digital.GetFirstFile("_k"), m_output->Temporary() + "digital_7_k.png");
     }
 
-    void nullNode()
+    void NullNode()
     {
         DrwSourceIMage generator;
         generator.DrawClockSourceImage(nullptr, true, true);
@@ -197,13 +197,13 @@ private Q_SLOTS:
         QVERIFY(m_output->TemporaryFiles().isEmpty());
     }
 
-    void digestSet_data()
+    void DigestSet_data()
     {
         QTest::addColumn<int>("clockType");
         QTest::newRow("analog") << 0;
         QTest::newRow("digital") << 1;
     }
-    void digestSet()
+    void DigestSet()
     {
         QFETCH(int, clockType);
         HClockNode node;
@@ -222,7 +222,7 @@ private Q_SLOTS:
 
     // Without a catalogue the translated and the English week names are the same picture. The
     // first made takes the digest's name; the second finds it taken and stays where it was.
-    void identicalImagesShareOneDigestName()
+    void IdenticalImagesShareOneDigestName()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -249,7 +249,7 @@ private Q_SLOTS:
         QCOMPARE(undigested, expected);
     }
 
-    void secondDigestGenerationGivesTheSameRecords()
+    void SecondDigestGenerationGivesTheSameRecords()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -265,7 +265,7 @@ private Q_SLOTS:
         }
     }
 
-    void earlierDigestFilesStay()
+    void EarlierDigestFilesStay()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -277,7 +277,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(before));
     }
 
-    void temporarySet_data()
+    void TemporarySet_data()
     {
         QTest::addColumn<int>("clockType");
         QTest::addColumn<QStringList>("strips");
@@ -288,7 +288,7 @@ private Q_SLOTS:
                                  << QStringList {"digital_7_dateNumber.png",
                                                  "digital_7_timeNumber.png"};
     }
-    void temporarySet()
+    void TemporarySet()
     {
         QFETCH(int, clockType);
         QFETCH(QStringList, strips);
@@ -301,7 +301,7 @@ private Q_SLOTS:
         QVERIFY(node.GetFirstFile("_dateNumber").startsWith(m_output->Regular()));
     }
 
-    void temporaryDigestSet()
+    void TemporaryDigestSet()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -314,7 +314,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(strip.path));
     }
 
-    void emptyTopText()
+    void EmptyTopText()
     {
         HClockNode node;
         FillNode(node, AnalogClock, 7);
@@ -326,7 +326,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(record.path));
     }
 
-    void emptyTopTextWithDigests()
+    void EmptyTopTextWithDigests()
     {
         HClockNode node;
         FillNode(node, AnalogClock, 7);
@@ -344,7 +344,7 @@ private Q_SLOTS:
         QCOMPARE(record.kind, 3);
     }
 
-    void clearedTopTextIsRemoved_data()
+    void ClearedTopTextIsRemoved_data()
     {
         QTest::addColumn<int>("clockType");
         QTest::addColumn<QString>("text");
@@ -356,7 +356,7 @@ private Q_SLOTS:
         QTest::newRow("digital, temporary update") << 1 << QString() << 12 << true;
         QTest::newRow("digital, no width") << 1 << QString(QChar(0x200b)) << 12 << false;
     }
-    void clearedTopTextIsRemoved()
+    void ClearedTopTextIsRemoved()
     {
         QFETCH(int, clockType);
         QFETCH(QString, text);
@@ -379,7 +379,7 @@ private Q_SLOTS:
 
     // The image under its plain name would be taken for the new one and get a digest name. The one
     // of an earlier generation may be another clock's too.
-    void clearedTopTextIsRemovedWithDigests()
+    void ClearedTopTextIsRemovedWithDigests()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -397,14 +397,14 @@ private Q_SLOTS:
     }
 
     // Nothing to draw is not the same as something that cannot be drawn.
-    void olderTopTextStaysWhereNoImageCanBeMade_data()
+    void OlderTopTextStaysWhereNoImageCanBeMade_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("size");
         QTest::newRow("font too large") << "LED" << 40000;
         QTest::newRow("text too wide") << QString(10000, 'W') << 12;
     }
-    void olderTopTextStaysWhereNoImageCanBeMade()
+    void OlderTopTextStaysWhereNoImageCanBeMade()
     {
         QFETCH(QString, text);
         QFETCH(int, size);
@@ -419,7 +419,7 @@ private Q_SLOTS:
         QCOMPARE(GlyphOutput::Content(node.GetFirstFile("_toptext")), before);
     }
 
-    void onlyTheTopTextIsEverRemoved()
+    void OnlyTheTopTextIsEverRemoved()
     {
         HClockNode node;
         DrwSourceIMage generator;
@@ -433,7 +433,7 @@ private Q_SLOTS:
         QCOMPARE(GlyphOutput::Content(node.GetFirstFile("_k")), before);
     }
 
-    void clearedTopTextLeavesAForeignDirectory()
+    void ClearedTopTextLeavesAForeignDirectory()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -444,7 +444,7 @@ private Q_SLOTS:
     }
 
     // A link goes as it goes where an image replaces it; the file that it names stays.
-    void clearedTopTextLeavesTheTargetOfALink()
+    void ClearedTopTextLeavesTheTargetOfALink()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -460,13 +460,13 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo(link).isSymLink());
     }
 
-    void clearedTopTextStaysWhereItIsWriteProtected_data()
+    void ClearedTopTextStaysWhereItIsWriteProtected_data()
     {
         QTest::addColumn<bool>("directory");
         QTest::newRow("file") << false;
         QTest::newRow("directory") << true;
     }
-    void clearedTopTextStaysWhereItIsWriteProtected()
+    void ClearedTopTextStaysWhereItIsWriteProtected()
     {
         QFETCH(bool, directory);
         HClockNode node;
@@ -485,7 +485,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(path));
     }
 
-    void unchangedSetLeavesItsFilesUntouched()
+    void UnchangedSetLeavesItsFilesUntouched()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -497,13 +497,13 @@ private Q_SLOTS:
             QCOMPARE(IsAged(record.path), !record.key.startsWith("_time"));
     }
 
-    void damagedFilesAreMadeAgain_data()
+    void DamagedFilesAreMadeAgain_data()
     {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("empty") << QByteArray();
         QTest::newRow("foreign") << QByteArray("no image");
     }
-    void damagedFilesAreMadeAgain()
+    void DamagedFilesAreMadeAgain()
     {
         QFETCH(QByteArray, content);
         HClockNode node;
@@ -519,7 +519,7 @@ private Q_SLOTS:
         QCOMPARE(GlyphOutput::Content(path), whole);
     }
 
-    void oneByteOffIsMadeAgain()
+    void OneByteOffIsMadeAgain()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -534,7 +534,7 @@ private Q_SLOTS:
         QCOMPARE(GlyphOutput::Content(path), whole);
     }
 
-    void writtenFileIsReadableByOthers()
+    void WrittenFileIsReadableByOthers()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -547,7 +547,7 @@ private Q_SLOTS:
         QCOMPARE(QFile::permissions(node.GetFirstFile("_timeNumber")), QFile::permissions(plain));
     }
 
-    void directoryInPlaceOfAFile()
+    void DirectoryInPlaceOfAFile()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -558,13 +558,13 @@ private Q_SLOTS:
         QVERIFY(!m_output->RegularFiles().join(' ').contains(".part"));
     }
 
-    void missingDirectory_data()
+    void MissingDirectory_data()
     {
         QTest::addColumn<bool>("calcMd5");
         QTest::newRow("plain") << false;
         QTest::newRow("digests") << true;
     }
-    void missingDirectory()
+    void MissingDirectory()
     {
         QFETCH(bool, calcMd5);
         HClockNode node;
@@ -585,7 +585,7 @@ private Q_SLOTS:
         }
     }
 
-    void unwritableDirectory()
+    void UnwritableDirectory()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -607,7 +607,7 @@ private Q_SLOTS:
         QVERIFY(GlyphOutput::Content(node.GetFirstFile("_timeNumber")) != before);
     }
 
-    void fullDevice()
+    void FullDevice()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -624,7 +624,7 @@ private Q_SLOTS:
         QVERIFY(GlyphOutput::Content(path) != before);
     }
 
-    void attributesOfTheOtherTypeAreNotUsed()
+    void AttributesOfTheOtherTypeAreNotUsed()
     {
         HClockNode analog;
         FillNode(analog, AnalogClock, 7);
@@ -637,18 +637,18 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(m_output->Regular() + "analog_7_timeNumber.png"));
     }
 
-    void throughTheMetaObject_data()
+    void ThroughTheMetaObject_data()
     {
         QTest::addColumn<int>("arguments");
         QTest::newRow("node") << 1;
         QTest::newRow("node, digests") << 2;
         QTest::newRow("node, digests, temporary") << 3;
     }
-    void throughTheMetaObject();
+    void ThroughTheMetaObject();
 
-    void registeredMetaType() { QVERIFY(QMetaType::type("HClockNode*") != QMetaType::UnknownType); }
+    void RegisteredMetaType() { QVERIFY(QMetaType::type("HClockNode*") != QMetaType::UnknownType); }
 
-    void className()
+    void ClassName()
     {
         QCOMPARE(DrwSourceIMage::staticMetaObject.className(), "Lw::HNodeClock::DrwSourceIMage");
     }
@@ -669,7 +669,7 @@ bool InvokeGeneration(DrwSourceIMage &generator, HClockNode *node, int arguments
 }
 } // namespace Lw::HNodeClock
 
-void TestDrawSourceImage::throughTheMetaObject()
+void TestDrawSourceImage::ThroughTheMetaObject()
 {
     QFETCH(int, arguments);
     HClockNode node;

@@ -66,7 +66,7 @@ private Q_SLOTS:
         QVERIFY(static_cast<double>(std::clock() - m_start) / CLOCKS_PER_SEC < kPatienceSeconds);
     }
 
-    void sizesThatAreNotMade_data()
+    void SizesThatAreNotMade_data()
     {
         QTest::addColumn<QString>("family");
         QTest::addColumn<int>("size");
@@ -77,7 +77,7 @@ private Q_SLOTS:
                 QTest::newRow(qPrintable(family + QString::number(size))) << family << size;
         }
     }
-    void sizesThatAreNotMade()
+    void SizesThatAreNotMade()
     {
         QFETCH(QString, family);
         QFETCH(int, size);
@@ -88,7 +88,7 @@ private Q_SLOTS:
     }
 
     // A strip of 2000 points is 218 MB; its "-" alone, far below, is made.
-    void largeButPossible()
+    void LargeButPossible()
     {
         QVERIFY(!QFile::exists(DrawStrip("DejaVu Sans", 2000)));
         const QString path = Draw("-", "DejaVu Sans", 2000);
@@ -97,7 +97,7 @@ private Q_SLOTS:
     }
 
     // An "A" of the test font is 12 pixels wide: 2730 of them 32 760, 2731 of them 32 772.
-    void sideBoundary()
+    void SideBoundary()
     {
         const QString last = Draw(QString(2730, 'A'), "Clock Test", 12);
         QCOMPARE(QImageReader(last).size(), QSize(32760, 16));
@@ -106,14 +106,14 @@ private Q_SLOTS:
     }
 
     // At 1536 points an "A" is 1536 pixels wide, a line 2048 high: 12 MiB each, so that five fit.
-    void byteBoundary()
+    void ByteBoundary()
     {
         QCOMPARE(QImageReader(Draw("AAAAA", "Clock Test", 1536)).size(), QSize(7680, 2048));
         m_output.reset(new GlyphOutput);
         QVERIFY(!QFile::exists(Draw("AAAAAA", "Clock Test", 1536)));
     }
 
-    void exactlyTheMostBytes()
+    void ExactlyTheMostBytes()
     {
         // 8192 by 2048 pixels of four bytes are 64 MiB; a "1" is 512 wide and a blank 640.
         const QString text =
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(Draw(text + "1", "Clock Test", 1536)));
     }
 
-    void longTexts_data()
+    void LongTexts_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("size");
@@ -145,7 +145,7 @@ private Q_SLOTS:
         row("lone surrogates", QChar(0xd83d));
         row("not a character", QChar(0xffff));
     }
-    void longTexts()
+    void LongTexts()
     {
         QFETCH(QString, text);
         QFETCH(int, size);
@@ -161,19 +161,19 @@ private Q_SLOTS:
     }
 
     // Qt's widths wrap around at 2^25 pixels: a text a little wider than that is not a narrow one.
-    void widthsThatWrapAround()
+    void WidthsThatWrapAround()
     {
         // 2 796 203 letters of 12 pixels are 2^25 and 4 pixels.
         QVERIFY(!QFile::exists(Draw(QString(2796203, 'A'), "Clock Test", 12)));
     }
 
-    void wholeSetOfAbsurdFonts_data()
+    void WholeSetOfAbsurdFonts_data()
     {
         QTest::addColumn<int>("size");
         for (int size : {-2147483647 - 1, -12, 0, 5000, 30000, 65536, 2000000000, 2147483647})
             QTest::newRow(QByteArray::number(size).constData()) << size;
     }
-    void wholeSetOfAbsurdFonts()
+    void WholeSetOfAbsurdFonts()
     {
         QFETCH(int, size);
         for (int clockType : {0, 1, 3}) {
@@ -188,7 +188,7 @@ private Q_SLOTS:
         }
     }
 
-    void strangeFamilies_data()
+    void StrangeFamilies_data()
     {
         QTest::addColumn<QString>("family");
         QTest::newRow("unknown") << "No Such Font";
@@ -200,7 +200,7 @@ private Q_SLOTS:
         QTest::newRow("blanks") << "   ";
         QTest::newRow("lone surrogate") << QString(QChar(0xd83d));
     }
-    void strangeFamilies()
+    void StrangeFamilies()
     {
         QFETCH(QString, family);
         QVERIFY(QFile::exists(Draw("12:34", family, 12)));

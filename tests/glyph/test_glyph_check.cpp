@@ -128,8 +128,8 @@ private:
 private Q_SLOTS:
     void init() { m_output.reset(new GlyphOutput); }
 
-    void goodSetHasNoFaults_data() { Types(); }
-    void goodSetHasNoFaults()
+    void GoodSetHasNoFaults_data() { Types(); }
+    void GoodSetHasNoFaults()
     {
         QFETCH(int, clockType);
         HClockNode node;
@@ -139,15 +139,15 @@ private Q_SLOTS:
         QVERIFY(node.dynamicPropertyNames().isEmpty());
     }
 
-    void nodeWithoutAGenerationTellsNothing()
+    void NodeWithoutAGenerationTellsNothing()
     {
         HClockNode node;
         QVERIFY(GlyphFaultsOf(node).isEmpty());
         QVERIFY(GlyphFaultsOf(QObject()).isEmpty());
     }
 
-    void fullDisk_data() { Types(); }
-    void fullDisk()
+    void FullDisk_data() { Types(); }
+    void FullDisk()
     {
         QFETCH(int, clockType);
         HClockNode node;
@@ -165,7 +165,7 @@ private Q_SLOTS:
     }
 
     // Only what could not be written: the other files hold what they should already.
-    void fullDiskKeepsWhatIsOlder()
+    void FullDiskKeepsWhatIsOlder()
     {
         HClockNode node;
         FillShown(node, DigitalClock);
@@ -179,7 +179,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(GlyphFaultsOf(node).first().path));
     }
 
-    void unwritableDirectory()
+    void UnwritableDirectory()
     {
         HClockNode node;
         FillShown(node, DigitalClock);
@@ -194,7 +194,7 @@ private Q_SLOTS:
         QCOMPARE(GlyphFaultsOf(node).first().error, EACCES);
     }
 
-    void missingDirectory()
+    void MissingDirectory()
     {
         HClockNode node;
         FillShown(node, AnalogClock);
@@ -206,7 +206,7 @@ private Q_SLOTS:
         QCOMPARE(GlyphFaultsOf(node).first().error, ENOENT);
     }
 
-    void emptyTopTextIsNoFault()
+    void EmptyTopTextIsNoFault()
     {
         HClockNode node;
         FillShown(node, DigitalClock);
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QVERIFY(GlyphFaultsOf(node).isEmpty());
     }
 
-    void badTopText_data()
+    void BadTopText_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("size");
@@ -227,7 +227,7 @@ private Q_SLOTS:
         QTest::newRow("unknown letter, twice")
             << unknown + "LED" + unknown << 12 << int(GlyphFault::NoLetters) << unknown;
     }
-    void badTopText()
+    void BadTopText()
     {
         QFETCH(QString, text);
         QFETCH(int, size);
@@ -248,7 +248,7 @@ private Q_SLOTS:
         QVERIFY2(GlyphFaultsOf(node).isEmpty(), "told of a row that is hidden");
     }
 
-    void textWithoutInk()
+    void TextWithoutInk()
     {
         HClockNode node;
         FillShown(node, AnalogClock);
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QVERIFY2(GlyphFaultsOf(node).isEmpty(), "blanks need no ink");
     }
 
-    void hugeStrips()
+    void HugeStrips()
     {
         HClockNode node;
         FillShown(node, DigitalClock);
@@ -269,7 +269,7 @@ private Q_SLOTS:
         QCOMPARE(Keys(GlyphFaultsOf(node), GlyphFault::TooLarge), QStringList("_timeNumber"));
     }
 
-    void pictureClocksAndOthersHaveNone()
+    void PictureClocksAndOthersHaveNone()
     {
         HClockNode node;
         for (int clockType : {2, 3, -1}) {
@@ -280,7 +280,7 @@ private Q_SLOTS:
         }
     }
 
-    void shownImages_data()
+    void ShownImages_data()
     {
         QTest::addColumn<int>("clockType");
         QTest::addColumn<QString>("key");
@@ -289,7 +289,7 @@ private Q_SLOTS:
         for (const ShownCase &one : kShownCases)
             QTest::newRow(one.name) << one.clockType << one.key << one.value << one.expected;
     }
-    void shownImages()
+    void ShownImages()
     {
         QFETCH(int, clockType);
         QFETCH(QString, key);
@@ -301,7 +301,7 @@ private Q_SLOTS:
         QCOMPARE(ShownKeys(node), expected);
     }
 
-    void markOfTwelveHoursCanBeHidden()
+    void MarkOfTwelveHoursCanBeHidden()
     {
         HClockNode node;
         FillShown(node, DigitalClock);

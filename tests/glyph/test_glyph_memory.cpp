@@ -69,8 +69,8 @@ private Q_SLOTS:
     }
     void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
 
-    void equalImagesAreDrawnOnce_data() { Types(); }
-    void equalImagesAreDrawnOnce()
+    void EqualImagesAreDrawnOnce_data() { Types(); }
+    void EqualImagesAreDrawnOnce()
     {
         QFETCH(int, clockType);
         QFETCH(int, images);
@@ -87,8 +87,8 @@ private Q_SLOTS:
     }
 
     // With digest names too, where the files of the plain names are moved away each time.
-    void digestsNeedNoDrawing_data() { Types(); }
-    void digestsNeedNoDrawing()
+    void DigestsNeedNoDrawing_data() { Types(); }
+    void DigestsNeedNoDrawing()
     {
         QFETCH(int, clockType);
         HClockNode node;
@@ -97,7 +97,7 @@ private Q_SLOTS:
         QCOMPARE(Drawn([&] { Generate(node, true); }), 0);
     }
 
-    void oneSettingDrawsWhatDependsOnIt_data()
+    void OneSettingDrawsWhatDependsOnIt_data()
     {
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("value");
@@ -123,7 +123,7 @@ private Q_SLOTS:
         QTest::newRow("another kind's colour") << "AnalogDateColor"
                                                << "255" << 0;
     }
-    void oneSettingDrawsWhatDependsOnIt()
+    void OneSettingDrawsWhatDependsOnIt()
     {
         QFETCH(QString, key);
         QFETCH(QString, value);
@@ -137,13 +137,13 @@ private Q_SLOTS:
         QCOMPARE(Drawn([&] { Generate(node); }), images);
     }
 
-    void rememberedFilesAreAsDrawn_data()
+    void RememberedFilesAreAsDrawn_data()
     {
         QTest::addColumn<bool>("calcMd5");
         QTest::newRow("plain") << false;
         QTest::newRow("digests") << true;
     }
-    void rememberedFilesAreAsDrawn()
+    void RememberedFilesAreAsDrawn()
     {
         QFETCH(bool, calcMd5);
         HClockNode node;
@@ -155,7 +155,7 @@ private Q_SLOTS:
         QCOMPARE(Files(m_output->Regular()), drawn);
     }
 
-    void filesThatOthersChangedAreWrittenAgain()
+    void FilesThatOthersChangedAreWrittenAgain()
     {
         HClockNode node;
         FillColoured(node, DigitalClock, 7);
@@ -171,7 +171,7 @@ private Q_SLOTS:
     }
 
     // The files of other clocks take the place of the first one's, whose facts stay.
-    void setsBeyondTheMemory()
+    void SetsBeyondTheMemory()
     {
         HClockNode node;
         FillNode(node, DigitalClock, 7);
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QCOMPARE(Files(m_output->Regular()), drawn);
     }
 
-    void surroundingsCount_data()
+    void SurroundingsCount_data()
     {
         QTest::addColumn<int>("change");
         QTest::newRow("direction of texts") << 0;
@@ -201,7 +201,7 @@ private Q_SLOTS:
         QTest::newRow("substitute") << 2;
         QTest::newRow("installed font") << 3;
     }
-    void surroundingsCount()
+    void SurroundingsCount()
     {
         QFETCH(int, change);
         const QFont before = QGuiApplication::font();

@@ -82,7 +82,7 @@ private Q_SLOTS:
     }
     void init() { m_output.reset(new GlyphOutput); }
 
-    void texts_data()
+    void Texts_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("width");
@@ -94,7 +94,7 @@ private Q_SLOTS:
         QTest::newRow("blank") << " " << 5 << ".....";
         QTest::newRow("leading blank") << " 1" << 9 << "......##.";
     }
-    void texts()
+    void Texts()
     {
         QFETCH(QString, text);
         QFETCH(int, width);
@@ -105,15 +105,15 @@ private Q_SLOTS:
     }
 
     // The font asks for two more pixels between lines; an image has the height of the font alone.
-    void heightIsTheFontsNotTheLines() { QCOMPARE(Text("A", kTestFamily, 24).height(), 32); }
+    void HeightIsTheFontsNotTheLines() { QCOMPARE(Text("A", kTestFamily, 24).height(), 32); }
 
-    void sizesOfZeroOrLess_data()
+    void SizesOfZeroOrLess_data()
     {
         QTest::addColumn<int>("size");
         for (int size : {0, -1, -12, -2147483647 - 1})
             QTest::newRow(QByteArray::number(size).constData()) << size;
     }
-    void sizesOfZeroOrLess()
+    void SizesOfZeroOrLess()
     {
         QFETCH(int, size);
         QCOMPARE(Text("A", kTestFamily, size).size(), QSize(12, 16));
@@ -122,7 +122,7 @@ private Q_SLOTS:
 
     // Nine pixels is the widest digit, "8". Narrower ones are centred: an eight in nine has the odd
     // pixel at the right, a four in nine likewise.
-    void stripOfProportionalDigits()
+    void StripOfProportionalDigits()
     {
         const QImage image = Strip(kTestFamily, 12);
         QCOMPARE(image.size(), QSize(90, 16));
@@ -133,13 +133,13 @@ private Q_SLOTS:
         QCOMPARE(Columns(image), expected);
     }
 
-    void stripOfAMonospacedFont()
+    void StripOfAMonospacedFont()
     {
         const int digit = Text("0", "DejaVu Sans Mono", 16).width();
         QCOMPARE(Strip("DejaVu Sans Mono", 16).width(), 10 * digit);
     }
 
-    void widestDigit()
+    void WidestDigit()
     {
         QFont font(kTestFamily, 12);
         QCOMPARE(DrwSourceIMage().GetNumberMaxWidth(QFontMetrics(font)), 9);
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QCOMPARE(DrwSourceIMage().GetNumberMaxWidth(QFontMetrics(font)), 18);
     }
 
-    void colours_data()
+    void Colours_data()
     {
         QTest::addColumn<int>("value");
         QTest::addColumn<QColor>("colour");
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QTest::newRow("negative") << -16776961 << QColor(255, 0, 0); // 0xff0000ff
         QTest::newRow("all ones") << -1 << QColor(255, 255, 255);
     }
-    void colours()
+    void Colours()
     {
         QFETCH(int, value);
         QFETCH(QColor, colour);
@@ -169,7 +169,7 @@ private Q_SLOTS:
         QCOMPARE(ColoursOf(image), (QSet<QRgb> {kBackground, colour.rgba()}));
     }
 
-    void everyPixelIsBackgroundOrStroke_data()
+    void EveryPixelIsBackgroundOrStroke_data()
     {
         QTest::addColumn<QString>("family");
         QTest::addColumn<int>("size");
@@ -179,7 +179,7 @@ private Q_SLOTS:
                 QTest::newRow(qPrintable(family + QString::number(size))) << family << size;
         }
     }
-    void everyPixelIsBackgroundOrStroke()
+    void EveryPixelIsBackgroundOrStroke()
     {
         QFETCH(QString, family);
         QFETCH(int, size);
@@ -199,7 +199,7 @@ private Q_SLOTS:
     }
 
     // The empty family is the application's default font, not whatever an empty name matches.
-    void emptyFamilyIsTheDefaultFont()
+    void EmptyFamilyIsTheDefaultFont()
     {
         const QFont before = QGuiApplication::font();
         QFont chosen(kTestFamily, 31);
@@ -211,7 +211,7 @@ private Q_SLOTS:
         QCOMPARE(image, Text("1A8", kTestFamily, 12));
     }
 
-    void stripAndTextOfOneDigitAgree()
+    void StripAndTextOfOneDigitAgree()
     {
         const QImage strip = Strip("DejaVu Serif", 20);
         const int cell = strip.width() / 10;
@@ -223,7 +223,7 @@ private Q_SLOTS:
         }
     }
 
-    void bytesAreThoseOfAPlainSave()
+    void BytesAreThoseOfAPlainSave()
     {
         const QImage image = Text("1A8", "DejaVu Sans", 12);
         QVERIFY(!image.isNull());
@@ -234,14 +234,14 @@ private Q_SLOTS:
                  GlyphOutput::Content(plain));
     }
 
-    void ampersandsAreNoMnemonics()
+    void AmpersandsAreNoMnemonics()
     {
         const QImage ampersand = Text("A&A", "DejaVu Sans", 12);
         QVERIFY(ampersand.width() > Text("AA", "DejaVu Sans", 12).width());
         QVERIFY(Text("&", "DejaVu Sans", 12) != Text(" ", "DejaVu Sans", 12));
     }
 
-    void unknownWordsAreTheirKeys()
+    void UnknownWordsAreTheirKeys()
     {
         HClockNode node;
         FillNode(node, AnalogClock, 7);
@@ -253,7 +253,7 @@ private Q_SLOTS:
         QCOMPARE(Load(node.GetFirstFile("_toptext")), Text("LED", "DejaVu Sans", 12));
     }
 
-    void eachElementHasItsOwnFont_data()
+    void EachElementHasItsOwnFont_data()
     {
         QTest::addColumn<int>("clockType");
         QTest::addColumn<QString>("key");
@@ -269,7 +269,7 @@ private Q_SLOTS:
         row(AnalogClock, "_AnalogPM", GlyphFont::AmPm);
         row(DigitalClock, "_timeNumber", GlyphFont::Time);
     }
-    void eachElementHasItsOwnFont()
+    void EachElementHasItsOwnFont()
     {
         QFETCH(int, clockType);
         QFETCH(QString, key);

@@ -41,7 +41,7 @@ class TestGlyphPlan : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void planAgreesWithTheFiles_data()
+    void PlanAgreesWithTheFiles_data()
     {
         QTest::addColumn<int>("clockType");
         QTest::addColumn<int>("points");
@@ -55,7 +55,7 @@ private Q_SLOTS:
         QTest::newRow("font too large") << int(DigitalClock) << 40000 << "LED";
         QTest::newRow("picture clock") << int(PictureClock) << 12 << "LED";
     }
-    void planAgreesWithTheFiles()
+    void PlanAgreesWithTheFiles()
     {
         QFETCH(int, clockType);
         QFETCH(int, points);

@@ -127,30 +127,30 @@ class TestGlyphSet : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void generation_data() { ClockTypes(); }
-    void generation()
+    void Generation_data() { ClockTypes(); }
+    void Generation()
     {
         QFETCH(int, clockType);
         QCOMPARE(KeysOf(GlyphOrder::Generation, clockType), CommonGenerated() + OnlyOf(clockType));
     }
 
-    void exported_data() { ClockTypes(); }
-    void exported()
+    void Exported_data() { ClockTypes(); }
+    void Exported()
     {
         QFETCH(int, clockType);
         QCOMPARE(KeysOf(GlyphOrder::Bookkeeping, clockType, &GlyphRow::exported),
                  OnlyOf(clockType) + CommonExported());
     }
 
-    void required_data() { ClockTypes(); }
-    void required()
+    void Required_data() { ClockTypes(); }
+    void Required()
     {
         QFETCH(int, clockType);
         QCOMPARE(KeysOf(GlyphOrder::Bookkeeping, clockType, &GlyphRow::required),
                  OnlyOf(clockType) + CommonRequired());
     }
 
-    void keys()
+    void Keys()
     {
         QCOMPARE(GlyphKey(Glyph::TimeNumber), QString("_timeNumber"));
         QCOMPARE(GlyphKey(Glyph::ChWeek, 3), QString("_chWeek_3"));
@@ -158,7 +158,7 @@ private Q_SLOTS:
         QCOMPARE(&GlyphKey(Glyph::Lunar), &GlyphKey(Glyph::Lunar));
     }
 
-    void keysOutsideASeries_data()
+    void KeysOutsideASeries_data()
     {
         QTest::addColumn<int>("glyph");
         QTest::addColumn<int>("number");
@@ -169,7 +169,7 @@ private Q_SLOTS:
         QTest::newRow("single image with a number") << int(Glyph::Lunar) << 1;
         QTest::newRow("far away") << int(Glyph::Lunar) << 2147483647;
     }
-    void keysOutsideASeries()
+    void KeysOutsideASeries()
     {
         QFETCH(int, glyph);
         QFETCH(int, number);
@@ -177,7 +177,7 @@ private Q_SLOTS:
     }
 
     // Every text of a set as it is drawn, by key; the common ones stand in the sets of all clocks.
-    void texts_data()
+    void Texts_data()
     {
         QTest::addColumn<int>("clockType");
         QTest::addColumn<QStringList>("expected");
@@ -185,7 +185,7 @@ private Q_SLOTS:
         QTest::newRow("digital") << 1 << kCommonTexts + kDigitalTexts;
         QTest::newRow("unknown") << 3 << kCommonTexts;
     }
-    void texts()
+    void Texts()
     {
         QFETCH(int, clockType);
         QFETCH(QStringList, expected);
@@ -202,13 +202,13 @@ private Q_SLOTS:
         QCOMPARE(texts, expected);
     }
 
-    void topTextIsTheNodesOwn()
+    void TopTextIsTheNodesOwn()
     {
         for (const GlyphRow &row : kGlyphTable)
             QCOMPARE(row.wording == GlyphWording::TopText, QLatin1String(row.key) == "_toptext");
     }
 
-    void onlyTheThreeNumbersAreStrips()
+    void OnlyTheThreeNumbersAreStrips()
     {
         QStringList strips;
         for (const GlyphRow &row : kGlyphTable) {
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QCOMPARE(strips, (QStringList {"_dateNumber", "_hourhandNumber", "_timeNumber"}));
     }
 
-    void fonts_data()
+    void Fonts_data()
     {
         QTest::addColumn<int>("glyph");
         QTest::addColumn<QString>("analog");
@@ -237,7 +237,7 @@ private Q_SLOTS:
         row("badge", Glyph::AnalogPM, "AnalogAMPM", "AnalogAMPM");
         row("time", Glyph::TimeAM, "DigitalTime", "DigitalTime");
     }
-    void fonts()
+    void Fonts()
     {
         QFETCH(int, glyph);
         QFETCH(QString, analog);

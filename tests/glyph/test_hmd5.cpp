@@ -84,7 +84,7 @@ private Q_SLOTS:
     void init() { m_directory = new QTemporaryDir; }
     void cleanup() { delete m_directory; }
 
-    void vectors_data()
+    void Vectors_data()
     {
         QTest::addColumn<QByteArray>("message");
         QTest::addColumn<QString>("digest");
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QTest::newRow("eighty digits")
             << QByteArray("1234567890").repeated(8) << "57edf4a22be3c955ac49da2e2107b67a";
     }
-    void vectors()
+    void Vectors()
     {
         QFETCH(QByteArray, message);
         QFETCH(QString, digest);
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(HMD5::FileDigest(Make("vector", message)), digest);
     }
 
-    void everyLengthAroundTheBlockBoundaries()
+    void EveryLengthAroundTheBlockBoundaries()
     {
         for (int length = 0; length <= 200; ++length) {
             const QByteArray bytes = Noise(length);
@@ -119,13 +119,13 @@ private Q_SLOTS:
         }
     }
 
-    void fileLengths_data()
+    void FileLengths_data()
     {
         QTest::addColumn<int>("length");
         for (int length : {1023, 1024, 1025, 2048, 1024 * 1024, 1024 * 1024 + 1})
             QTest::newRow(QByteArray::number(length).constData()) << length;
     }
-    void fileLengths()
+    void FileLengths()
     {
         QFETCH(int, length);
         const QByteArray bytes = Noise(length);
@@ -133,7 +133,7 @@ private Q_SLOTS:
     }
 
     // The bit count has two halves: half a gigabyte fills the low one.
-    void countCrossesItsLowHalf()
+    void CountCrossesItsLowHalf()
     {
         const QByteArray bytes = Noise(1024 * 1024);
         HMD5 own;
@@ -148,7 +148,7 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(reinterpret_cast<char *>(result), 16), reference.result());
     }
 
-    void transformOfAnUnalignedBlock()
+    void TransformOfAnUnalignedBlock()
     {
         // "abc" with its padding and its 24 bits; the state's high bits, where it has any, are
         // noise to be ignored.
@@ -169,7 +169,7 @@ private Q_SLOTS:
         }
     }
 
-    void digestOfWhatCannotBeRead_data()
+    void DigestOfWhatCannotBeRead_data()
     {
         QTest::addColumn<QString>("path");
         QTest::newRow("missing") << "/dev/null/file.png";
@@ -178,7 +178,7 @@ private Q_SLOTS:
         QTest::newRow("read error") << "/proc/self/mem";
         QTest::newRow("endless device") << "/dev/zero";
     }
-    void digestOfWhatCannotBeRead()
+    void DigestOfWhatCannotBeRead()
     {
         QFETCH(QString, path);
         QVERIFY(HMD5::FileDigest(path).isEmpty());
@@ -186,7 +186,7 @@ private Q_SLOTS:
         QVERIFY(HMD5::GeneratorFile(path).isNull());
     }
 
-    void digestWithoutPermission()
+    void DigestWithoutPermission()
     {
         QFile::setPermissions(m_directory->path(), QFile::Permissions(0x7777));
         const QString path = Make("closed.png", "abc");
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(path));
     }
 
-    void errorTextIsOfThisCall()
+    void ErrorTextIsOfThisCall()
     {
         ExpectOpenError("/dev/null/file.png");
         QVERIFY(HMD5::GeneratorFile("/dev/null/file.png").isNull());
@@ -207,7 +207,7 @@ private Q_SLOTS:
         QVERIFY(HMD5::GeneratorFile("/dev/zero").isNull());
     }
 
-    void suffixes_data()
+    void Suffixes_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("suffix");
@@ -231,7 +231,7 @@ private Q_SLOTS:
                                           << ".%s";
         QTest::newRow("not Latin") << QString::fromUtf8("时钟.图") << QString::fromUtf8(".图");
     }
-    void suffixes()
+    void Suffixes()
     {
         QFETCH(QString, name);
         QFETCH(QString, suffix);
@@ -243,20 +243,20 @@ private Q_SLOTS:
         QCOMPARE(Content(expected), QByteArray("abc"));
     }
 
-    void emptyFile()
+    void EmptyFile()
     {
         QCOMPARE(HMD5::GeneratorFile(Make("empty.png", {})), In(kEmptyDigest + ".png"));
         QVERIFY(QFile::exists(In(kEmptyDigest + ".png")));
     }
 
-    void alreadyNamed()
+    void AlreadyNamed()
     {
         const QString path = Make(kAbcDigest + ".png", "abc");
         QCOMPARE(HMD5::GeneratorFile(path), path);
         QCOMPARE(Content(path), QByteArray("abc"));
     }
 
-    void alreadyNamedByAnotherSpelling_data()
+    void AlreadyNamedByAnotherSpelling_data()
     {
         QTest::addColumn<QString>("spelling");
         QTest::newRow("current directory") << "./";
@@ -264,7 +264,7 @@ private Q_SLOTS:
         QTest::newRow("through a parent") << "sub/../";
         QTest::newRow("through a link") << "link/";
     }
-    void alreadyNamedByAnotherSpelling()
+    void AlreadyNamedByAnotherSpelling()
     {
         QFETCH(QString, spelling);
         QDir(m_directory->path()).mkpath("sub");
@@ -276,7 +276,7 @@ private Q_SLOTS:
         QCOMPARE(Content(plain), QByteArray("abc"));
     }
 
-    void relativePathComesBackAbsolute()
+    void RelativePathComesBackAbsolute()
     {
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(m_directory->path()));
@@ -288,14 +288,14 @@ private Q_SLOTS:
                  QFileInfo(In(kAbcDigest + ".png")).canonicalFilePath());
     }
 
-    void targetPresent_data()
+    void TargetPresent_data()
     {
         QTest::addColumn<QByteArray>("there");
         QTest::newRow("identical") << QByteArray("abc");
         QTest::newRow("different") << QByteArray("something else");
         QTest::newRow("empty") << QByteArray();
     }
-    void targetPresent()
+    void TargetPresent()
     {
         QFETCH(QByteArray, there);
         const QString target = Make(kAbcDigest + ".png", there);
@@ -306,7 +306,7 @@ private Q_SLOTS:
     }
 
     // What the link names is outside, and would come to be by writing through it.
-    void targetIsADanglingLink()
+    void TargetIsADanglingLink()
     {
         const QTemporaryDir outside;
         QVERIFY(QFile::link(outside.filePath("new"), In(kAbcDigest + ".png")));
@@ -317,7 +317,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(outside.filePath("new")));
     }
 
-    void targetIsADirectory()
+    void TargetIsADirectory()
     {
         QVERIFY(QDir(m_directory->path()).mkdir(kAbcDigest + ".png"));
         const QString source = Make("a.png", "abc");
@@ -325,7 +325,7 @@ private Q_SLOTS:
         QCOMPARE(Content(source), QByteArray("abc"));
     }
 
-    void nextCallAfterAFailureWorks()
+    void NextCallAfterAFailureWorks()
     {
         for (int i = 0; i < 3; ++i) {
             ExpectOpenError(In("missing.png"));
@@ -337,7 +337,7 @@ private Q_SLOTS:
         }
     }
 
-    void manyCallsLeaveNoHandle()
+    void ManyCallsLeaveNoHandle()
     {
         QLoggingCategory::setFilterRules("default.debug=false");
         const int before = OpenHandles();

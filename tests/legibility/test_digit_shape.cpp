@@ -28,13 +28,13 @@ class TestDigitShape : public QObject
     Q_OBJECT
 
 private slots:
-    void shapes_data();
-    void shapes();
-    void specksOfTallDigits();
-    void inkOnly();
+    void Shapes_data();
+    void Shapes();
+    void SpecksOfTallDigits();
+    void InkOnly();
 };
 
-void TestDigitShape::shapes_data()
+void TestDigitShape::Shapes_data()
 {
     QTest::addColumn<QStringList>("rows");
     QTest::addColumn<int>("strokes");
@@ -55,7 +55,7 @@ void TestDigitShape::shapes_data()
     row("ink up to the edge", {"##", "##"}, 1, 0);
 }
 
-void TestDigitShape::shapes()
+void TestDigitShape::Shapes()
 {
     QFETCH(QStringList, rows);
     const DigitShape shape = ShapeOf(Picture(rows));
@@ -64,7 +64,7 @@ void TestDigitShape::shapes()
 }
 
 // A hole of one pixel counts in a digit of 19 rows, not in one of 20.
-void TestDigitShape::specksOfTallDigits()
+void TestDigitShape::SpecksOfTallDigits()
 {
     for (const int height : {19, 20}) {
         QStringList rows;
@@ -77,7 +77,7 @@ void TestDigitShape::specksOfTallDigits()
     }
 }
 
-void TestDigitShape::inkOnly()
+void TestDigitShape::InkOnly()
 {
     QCOMPARE(InkOf(Picture({"....", "..#.", ".#..", "...."})).size(), QSize(2, 2));
     QVERIFY(InkOf(Picture({"..", ".."})).isNull());

@@ -12,16 +12,16 @@ class TestEncodedText : public QObject
     Q_OBJECT
 
 private slots:
-    void forms_data();
-    void forms();
-    void refused_data();
-    void refused();
-    void samples();
-    void lackingCharacter();
-    void editedDeclaration();
+    void Forms_data();
+    void Forms();
+    void Refused_data();
+    void Refused();
+    void Samples();
+    void LackingCharacter();
+    void EditedDeclaration();
 };
 
-void TestEncodedText::forms_data()
+void TestEncodedText::Forms_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text");
@@ -46,7 +46,7 @@ void TestEncodedText::forms_data()
         "ISO-8859-1");
 }
 
-void TestEncodedText::forms()
+void TestEncodedText::Forms()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, text);
@@ -60,7 +60,7 @@ void TestEncodedText::forms()
     QCOMPARE(*written, bytes);
 }
 
-void TestEncodedText::refused_data()
+void TestEncodedText::Refused_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("bytes that are no UTF-8") << QByteArray("<a b=\"\xff\xfe\"/>");
@@ -71,13 +71,13 @@ void TestEncodedText::refused_data()
     QTest::newRow("a picture") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
 }
 
-void TestEncodedText::refused()
+void TestEncodedText::Refused()
 {
     QFETCH(QByteArray, bytes);
     QVERIFY(!DecodeText(bytes));
 }
 
-void TestEncodedText::samples()
+void TestEncodedText::Samples()
 {
     QVERIFY(SamplePaths().size() >= 10);
     for (const QString &path : SamplePaths()) {
@@ -88,13 +88,13 @@ void TestEncodedText::samples()
     }
 }
 
-void TestEncodedText::lackingCharacter()
+void TestEncodedText::LackingCharacter()
 {
     QVERIFY(!EncodeText(QString(QChar(0x65f6)), {"ISO-8859-1", {}}));
     QVERIFY(CanEncode(QString(QChar(0x65f6)), {"GB18030", {}}));
 }
 
-void TestEncodedText::editedDeclaration()
+void TestEncodedText::EditedDeclaration()
 {
     const auto formed = [](const char *declaration, const TextForm &form) {
         return FormAfterEdits(QString(declaration) + "<a/>", form).codec;

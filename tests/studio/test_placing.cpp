@@ -10,18 +10,18 @@ class TestPlacing : public QObject
     Q_OBJECT
 
 private slots:
-    void resized_data();
-    void resized();
-    void snapMove();
-    void snapResize();
-    void gridIsSnappedTo();
-    void aligned_data();
-    void aligned();
-    void distributed();
-    void stacked();
+    void HandlesResize_data();
+    void HandlesResize();
+    void MovingSnaps();
+    void ResizingSnaps();
+    void GridIsSnappedTo();
+    void AlignsClocks_data();
+    void AlignsClocks();
+    void DistributesEvenly();
+    void StacksInOrder();
 };
 
-void TestPlacing::resized_data()
+void TestPlacing::HandlesResize_data()
 {
     QTest::addColumn<int>("handle");
     QTest::addColumn<QPoint>("distance");
@@ -35,14 +35,14 @@ void TestPlacing::resized_data()
     QTest::newRow("top beyond bottom") << int(TopSide) << QPoint(0, 99) << QRect(10, 56, 30, 4);
 }
 
-void TestPlacing::resized()
+void TestPlacing::HandlesResize()
 {
     QFETCH(int, handle);
     QFETCH(QPoint, distance);
     QTEST(Resized(QRect(10, 20, 30, 40), handle, distance), "expected");
 }
 
-void TestPlacing::snapMove()
+void TestPlacing::MovingSnaps()
 {
     const SnapLines lines = SnapLinesOf({256, 128}, {QRect(100, 50, 20, 10)}, {});
     const QRect rect(0, 0, 30, 20);
@@ -59,7 +59,7 @@ void TestPlacing::snapMove()
     QCOMPARE(snap.distance, QPoint(20, 30));
 }
 
-void TestPlacing::snapResize()
+void TestPlacing::ResizingSnaps()
 {
     const SnapLines lines = SnapLinesOf({256, 128}, {}, {});
     const Snap snap = SnapResize({10, 10, 100, 50}, RightSide | BottomSide, {16, 3}, lines, 4);
@@ -68,13 +68,13 @@ void TestPlacing::snapResize()
     QCOMPARE(snap.met.y, QVector<int> {64});
 }
 
-void TestPlacing::gridIsSnappedTo()
+void TestPlacing::GridIsSnappedTo()
 {
     const SnapLines lines = SnapLinesOf({256, 128}, {}, {64, 32});
     QCOMPARE(SnapMove({0, 0, 10, 10}, {62, 97}, lines, 4).distance, QPoint(64, 96));
 }
 
-void TestPlacing::aligned_data()
+void TestPlacing::AlignsClocks_data()
 {
     QTest::addColumn<int>("alignment");
     QTest::addColumn<QRect>("first");
@@ -91,7 +91,7 @@ void TestPlacing::aligned_data()
     row("bottom", Alignment::Bottom, {10, 70, 20, 20}, {40, 50, 60, 40});
 }
 
-void TestPlacing::aligned()
+void TestPlacing::AlignsClocks()
 {
     QFETCH(int, alignment);
     QFETCH(QRect, first);
@@ -105,7 +105,7 @@ void TestPlacing::aligned()
             || alone.bottom() == 127 || alone.y() == 54);
 }
 
-void TestPlacing::distributed()
+void TestPlacing::DistributesEvenly()
 {
     const QVector<QRect> rects {{100, 0, 10, 10}, {0, 0, 10, 10}, {15, 0, 20, 10}};
     QCOMPARE(Distributed(rects, Direction::Across),
@@ -114,7 +114,7 @@ void TestPlacing::distributed()
     QCOMPARE(Distributed(two, Direction::Across), two);
 }
 
-void TestPlacing::stacked()
+void TestPlacing::StacksInOrder()
 {
     const QVector<QRect> rects {{5, 90, 10, 10}, {0, 7, 30, 20}};
     QCOMPARE(Stacked(rects, Direction::Down), QVector<QRect>({{5, 27, 10, 10}, {0, 7, 30, 20}}));

@@ -38,23 +38,23 @@ class TestProgramEdits : public QObject
     Q_OBJECT
 
 private slots:
-    void attributeIsReplaced();
-    void attributeIsAdded();
-    void attributeIsRemoved();
-    void geometry();
-    void child_data();
-    void child();
-    void elementIsRemoved();
-    void lineEndsStay();
-    void smallest_data();
-    void smallest();
-    void areasOfTexts();
-    void identityIsRenewed();
-    void emptyWall();
-    void positionsMove();
+    void AttributeIsReplaced();
+    void AttributeIsAdded();
+    void AttributeIsRemoved();
+    void Geometry();
+    void Child_data();
+    void Child();
+    void ElementIsRemoved();
+    void LineEndsStay();
+    void EditsAreSmallest_data();
+    void EditsAreSmallest();
+    void AreasOfTexts();
+    void IdentityIsRenewed();
+    void EmptyWall();
+    void PositionsMove();
 };
 
-void TestProgramEdits::attributeIsReplaced()
+void TestProgramEdits::AttributeIsReplaced()
 {
     const ProgramReading reading = MustRead(kProgram);
     const TextEdit edit = SetAttributeEdit(reading, reading.ClockElement(0), "type", "digital");
@@ -63,7 +63,7 @@ void TestProgramEdits::attributeIsReplaced()
     QCOMPARE(Edited(reading.text, {edit}), QString(kProgram).replace("dial", "digital"));
 }
 
-void TestProgramEdits::attributeIsAdded()
+void TestProgramEdits::AttributeIsAdded()
 {
     const ProgramReading reading = MustRead(kProgram);
     const int date = ElementNamed(reading, "date");
@@ -71,7 +71,7 @@ void TestProgramEdits::attributeIsAdded()
              QString(kProgram).replace("\"false\"", "\"false\" color=\"a&quot;b\""));
 }
 
-void TestProgramEdits::attributeIsRemoved()
+void TestProgramEdits::AttributeIsRemoved()
 {
     const ProgramReading reading = MustRead(kProgram);
     const int date = ElementNamed(reading, "date");
@@ -81,7 +81,7 @@ void TestProgramEdits::attributeIsRemoved()
              QString(kProgram));
 }
 
-void TestProgramEdits::geometry()
+void TestProgramEdits::Geometry()
 {
     const ProgramReading reading = MustRead(kProgram);
     QCOMPARE(GeometryEdits(reading, 0, QRect(1, 2, 3, 4)).size(), 0);
@@ -91,7 +91,7 @@ void TestProgramEdits::geometry()
              QString(kProgram).replace("\"64\"", "\"128\""));
 }
 
-void TestProgramEdits::child_data()
+void TestProgramEdits::Child_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
@@ -108,7 +108,7 @@ void TestProgramEdits::child_data()
         "\n <clock>\n\t<o/>\n\t<n>\n\t  <m/>\n\t</n>\n </clock>");
 }
 
-void TestProgramEdits::child()
+void TestProgramEdits::Child()
 {
     QFETCH(QString, before);
     QFETCH(QString, after);
@@ -117,7 +117,7 @@ void TestProgramEdits::child()
     QCOMPARE(Edited(before, {edit}), after);
 }
 
-void TestProgramEdits::elementIsRemoved()
+void TestProgramEdits::ElementIsRemoved()
 {
     const ProgramReading reading = MustRead(kProgram);
     QCOMPARE(Edited(kProgram, {RemoveElementEdit(reading, ElementNamed(reading, "date"))}),
@@ -128,7 +128,7 @@ void TestProgramEdits::elementIsRemoved()
              QString(kProgram));
 }
 
-void TestProgramEdits::lineEndsStay()
+void TestProgramEdits::LineEndsStay()
 {
     for (const QString &lineEnd : {QString("\r\n"), QString("\r")}) {
         const QString text = QString(kProgram).replace("\n", lineEnd);
@@ -144,7 +144,7 @@ void TestProgramEdits::lineEndsStay()
     }
 }
 
-void TestProgramEdits::smallest_data()
+void TestProgramEdits::EditsAreSmallest_data()
 {
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
@@ -168,7 +168,7 @@ void TestProgramEdits::smallest_data()
     QTest::newRow("surrogates stay whole") << grin << smile << 0 << grin << smile;
 }
 
-void TestProgramEdits::smallest()
+void TestProgramEdits::EditsAreSmallest()
 {
     QFETCH(QString, before);
     QFETCH(QString, after);
@@ -178,7 +178,7 @@ void TestProgramEdits::smallest()
     QTEST(edit.inserted, "inserted");
 }
 
-void TestProgramEdits::areasOfTexts()
+void TestProgramEdits::AreasOfTexts()
 {
     const ProgramReading reading = MustRead(kProgram);
     const QString area = PortableAreaText(reading, 0);
@@ -190,7 +190,7 @@ void TestProgramEdits::areasOfTexts()
         QCOMPARE(AreasInText(text), QStringList());
 }
 
-void TestProgramEdits::identityIsRenewed()
+void TestProgramEdits::IdentityIsRenewed()
 {
     const QString area = "<area x=\"1\" y=\"2\" width=\"3\" height=\"4\"><clock>"
                          "<attribute key=\"Id\" value=\"1000\"/></clock></area>";
@@ -202,7 +202,7 @@ void TestProgramEdits::identityIsRenewed()
     QCOMPARE(AreaForProgram(without, QPoint(), taken), without);
 }
 
-void TestProgramEdits::emptyWall()
+void TestProgramEdits::EmptyWall()
 {
     QCOMPARE(MustRead("<program width=\"8\" height=\"9\"/>").program.size, QSize(8, 9));
     QCOMPARE(MustRead("<program width=\"8\" height=\"9\">\n</program>").AreaCount(), 0);
@@ -214,7 +214,7 @@ void TestProgramEdits::emptyWall()
     QCOMPARE(std::get<TextFault>(fault).line, 2);
 }
 
-void TestProgramEdits::positionsMove()
+void TestProgramEdits::PositionsMove()
 {
     const TextEdits edits {{5, "abc", "x"}};
     QCOMPARE(MovedPosition(4, edits), 4);

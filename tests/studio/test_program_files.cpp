@@ -39,18 +39,18 @@ class TestProgramFiles : public QObject
 
 private slots:
     void initTestCase();
-    void opensAndSaves();
-    void failedSaveKeepsTheFile();
-    void refusedFiles_data();
-    void refusedFiles();
-    void changedOnDisk();
-    void lostOnDisk();
-    void recoversAfterAKill();
-    void savedWorkIsNotRecovered();
-    void recent();
-    void keepsWhatIsTypedOn();
-    void fullDiskKeepsFileAndWork();
-    void readOnlyDiskKeepsFileAndWork();
+    void OpensAndSaves();
+    void FailedSaveKeepsTheFile();
+    void RefusedFiles_data();
+    void RefusedFiles();
+    void ChangedOnDisk();
+    void LostOnDisk();
+    void RecoversAfterAKill();
+    void SavedWorkIsNotRecovered();
+    void Recent();
+    void KeepsWhatIsTypedOn();
+    void FullDiskKeepsFileAndWork();
+    void ReadOnlyDiskKeepsFileAndWork();
 };
 
 void TestProgramFiles::initTestCase()
@@ -60,7 +60,7 @@ void TestProgramFiles::initTestCase()
     QSettings().clear();
 }
 
-void TestProgramFiles::opensAndSaves()
+void TestProgramFiles::OpensAndSaves()
 {
     const QTemporaryDir work;
     const QString path = work.filePath("wall.xml");
@@ -78,7 +78,7 @@ void TestProgramFiles::opensAndSaves()
     QVERIFY(!files.IsSaved());
 }
 
-void TestProgramFiles::failedSaveKeepsTheFile()
+void TestProgramFiles::FailedSaveKeepsTheFile()
 {
     const QTemporaryDir work;
     const QString path = work.filePath("wall.xml");
@@ -98,7 +98,7 @@ void TestProgramFiles::failedSaveKeepsTheFile()
     QCOMPARE(files.Path(), path);
 }
 
-void TestProgramFiles::refusedFiles_data()
+void TestProgramFiles::RefusedFiles_data()
 {
     QTest::addColumn<QString>("path");
     QTest::newRow("missing") << "/no/such/file.xml";
@@ -106,7 +106,7 @@ void TestProgramFiles::refusedFiles_data()
     QTest::newRow("endless") << "/dev/zero";
 }
 
-void TestProgramFiles::refusedFiles()
+void TestProgramFiles::RefusedFiles()
 {
     QFETCH(QString, path);
     const QTemporaryDir work;
@@ -118,7 +118,7 @@ void TestProgramFiles::refusedFiles()
     QVERIFY(files.Path().isEmpty());
 }
 
-void TestProgramFiles::changedOnDisk()
+void TestProgramFiles::ChangedOnDisk()
 {
     const QTemporaryDir work;
     const QString path = work.filePath("wall.xml");
@@ -135,7 +135,7 @@ void TestProgramFiles::changedOnDisk()
     QTRY_COMPARE(changed.count(), 1);
 }
 
-void TestProgramFiles::lostOnDisk()
+void TestProgramFiles::LostOnDisk()
 {
     const QTemporaryDir work;
     const QString path = work.filePath("wall.xml");
@@ -152,7 +152,7 @@ void TestProgramFiles::lostOnDisk()
 }
 
 // A child process keeps its work and is killed.
-void TestProgramFiles::recoversAfterAKill()
+void TestProgramFiles::RecoversAfterAKill()
 {
     const QTemporaryDir work;
     const QString directory = work.filePath("recovery");
@@ -180,7 +180,7 @@ void TestProgramFiles::recoversAfterAKill()
     QVERIFY(store.Left().isEmpty()); // it is the work of a studio that runs
 }
 
-void TestProgramFiles::savedWorkIsNotRecovered()
+void TestProgramFiles::SavedWorkIsNotRecovered()
 {
     const QTemporaryDir work;
     const QString directory = work.filePath("recovery");
@@ -198,7 +198,7 @@ void TestProgramFiles::savedWorkIsNotRecovered()
     QVERIFY(RecoveryStore(directory).Left().isEmpty());
 }
 
-void TestProgramFiles::recent()
+void TestProgramFiles::Recent()
 {
     const QTemporaryDir work;
     StudioDocument document;
@@ -213,7 +213,7 @@ void TestProgramFiles::recent()
     QCOMPARE(ProgramFiles::Recent().first(), work.filePath("b.xml"));
 }
 
-void TestProgramFiles::keepsWhatIsTypedOn()
+void TestProgramFiles::KeepsWhatIsTypedOn()
 {
     const QTemporaryDir work;
     const QString directory = work.filePath("recovery");
@@ -234,7 +234,7 @@ void TestProgramFiles::keepsWhatIsTypedOn()
     QCOMPARE(document.History().count(), 1);
 }
 
-void TestProgramFiles::fullDiskKeepsFileAndWork()
+void TestProgramFiles::FullDiskKeepsFileAndWork()
 {
     const QTemporaryDir work;
     const SmallDisk disk(work.path(), 2);
@@ -258,7 +258,7 @@ void TestProgramFiles::fullDiskKeepsFileAndWork()
     QVERIFY(ContentsOf(path).endsWith(kWall));
 }
 
-void TestProgramFiles::readOnlyDiskKeepsFileAndWork()
+void TestProgramFiles::ReadOnlyDiskKeepsFileAndWork()
 {
     const QTemporaryDir work;
     const SmallDisk disk(work.path(), 20);

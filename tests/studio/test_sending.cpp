@@ -148,18 +148,18 @@ class TestSending : public QObject
 
 private slots:
     void initTestCase();
-    void sendsToAFolder();
-    void sendsBySsh();
-    void listsReleases();
-    void discardsWhatIsNotComplete();
-    void unknownReleaseDoesNotPlay();
-    void targetFaults_data();
-    void targetFaults();
-    void words_data();
-    void words();
-    void dialogSendsAndGoesBack();
-    void dialogCancels();
-    void dialogSaysWhatIsWrong();
+    void SendsToAFolder();
+    void SendsBySsh();
+    void ListsReleases();
+    void DiscardsWhatIsNotComplete();
+    void UnknownReleaseDoesNotPlay();
+    void TargetFaults_data();
+    void TargetFaults();
+    void Words_data();
+    void Words();
+    void DialogSendsAndGoesBack();
+    void DialogCancels();
+    void DialogSaysWhatIsWrong();
 
 private:
     void Export(const QTemporaryDir &work, const QByteArray &program);
@@ -201,13 +201,13 @@ void TestSending::SendTwice(const QTemporaryDir &work, const WallTarget &target)
     QCOMPARE(KnownTargets().first().statusFile, target.statusFile);
 }
 
-void TestSending::sendsToAFolder()
+void TestSending::SendsToAFolder()
 {
     const QTemporaryDir work;
     SendTwice(work, {"hall", {}, work.filePath("it's a wall"), {}, "/run/status.json"});
 }
 
-void TestSending::sendsBySsh()
+void TestSending::SendsBySsh()
 {
     const SshServer server;
     if (!server.IsThere())
@@ -219,7 +219,7 @@ void TestSending::sendsBySsh()
     qputenv("HOME", home);
 }
 
-void TestSending::listsReleases()
+void TestSending::ListsReleases()
 {
     const QTemporaryDir work;
     const WallTarget target {"hall", {}, work.filePath("wall"), {}, {}};
@@ -230,7 +230,7 @@ void TestSending::listsReleases()
     QVERIFY(ReleasesIn({}).releases.isEmpty());
 }
 
-void TestSending::discardsWhatIsNotComplete()
+void TestSending::DiscardsWhatIsNotComplete()
 {
     const QTemporaryDir work;
     const WallTarget target {"hall", {}, work.filePath("wall"), {}, {}};
@@ -246,7 +246,7 @@ void TestSending::discardsWhatIsNotComplete()
     QCOMPARE(releases.entryList(all), QStringList({"1", "2"}));
 }
 
-void TestSending::unknownReleaseDoesNotPlay()
+void TestSending::UnknownReleaseDoesNotPlay()
 {
     const QTemporaryDir work;
     const WallTarget target {"hall", {}, work.filePath("wall"), {}, {}};
@@ -255,7 +255,7 @@ void TestSending::unknownReleaseDoesNotPlay()
     QCOMPARE(Playing(target), QString("1"));
 }
 
-void TestSending::targetFaults_data()
+void TestSending::TargetFaults_data()
 {
     QTest::addColumn<WallTarget>("target");
     QTest::addColumn<bool>("isGood");
@@ -276,14 +276,14 @@ void TestSending::targetFaults_data()
     row("relative status", "", "/srv", "status.json", false);
 }
 
-void TestSending::targetFaults()
+void TestSending::TargetFaults()
 {
     QFETCH(WallTarget, target);
     QFETCH(bool, isGood);
     QCOMPARE(TargetFault(target).isEmpty(), isGood);
 }
 
-void TestSending::words_data()
+void TestSending::Words_data()
 {
     QTest::addColumn<QByteArray>("status");
     QTest::addColumn<int>("state");
@@ -314,7 +314,7 @@ void TestSending::words_data()
     row("nothing", "", WallWord::State::Unknown);
 }
 
-void TestSending::words()
+void TestSending::Words()
 {
     QFETCH(QByteArray, status);
     QFETCH(int, state);
@@ -373,7 +373,7 @@ struct DialogUnderTest
 
 } // namespace
 
-void TestSending::dialogSendsAndGoesBack()
+void TestSending::DialogSendsAndGoesBack()
 {
     DialogUnderTest test;
     test.Press("send");
@@ -394,7 +394,7 @@ void TestSending::dialogSendsAndGoesBack()
 }
 
 // An rsync that never ends: the dialog of the progress is cancelled.
-void TestSending::dialogCancels()
+void TestSending::DialogCancels()
 {
     DialogUnderTest test;
     QVERIFY(Write(test.work.filePath("rsync"), "#!/bin/sh\necho 42%\nexec sleep 600\n"));
@@ -417,7 +417,7 @@ void TestSending::dialogCancels()
     QVERIFY(!QFileInfo(test.folder + "/current").isSymLink());
 }
 
-void TestSending::dialogSaysWhatIsWrong()
+void TestSending::DialogSaysWhatIsWrong()
 {
     DialogUnderTest test;
     test.Line("folder").setText("relative");

@@ -78,23 +78,23 @@ class TestStudioDocument : public QObject
     Q_OBJECT
 
 private slots:
-    void randomEdits_data();
-    void randomEdits();
-    void openAndSave();
-    void mergesOneDrag();
-    void lastProgramStays();
-    void refusesBytesThatAreNoText();
-    void nothingChanged();
+    void RandomEdits_data();
+    void RandomEdits();
+    void OpenAndSave();
+    void MergesOneDrag();
+    void LastProgramStays();
+    void RefusesBytesThatAreNoText();
+    void NothingChanged();
 };
 
-void TestStudioDocument::randomEdits_data()
+void TestStudioDocument::RandomEdits_data()
 {
     QTest::addColumn<int>("form");
     for (int i = 0; i < int(std::size(kForms)); ++i)
         QTest::newRow(kForms[i].name) << i;
 }
 
-void TestStudioDocument::randomEdits()
+void TestStudioDocument::RandomEdits()
 {
     QFETCH(int, form);
     const quint32 seed = qEnvironmentVariableIsSet("CLOCK_TEST_SEED")
@@ -133,7 +133,7 @@ void TestStudioDocument::randomEdits()
     QVERIFY(document.Text() == last);
 }
 
-void TestStudioDocument::openAndSave()
+void TestStudioDocument::OpenAndSave()
 {
     for (const QString &path : SamplePaths()) {
         for (const Form &form : kForms) {
@@ -146,7 +146,7 @@ void TestStudioDocument::openAndSave()
     }
 }
 
-void TestStudioDocument::mergesOneDrag()
+void TestStudioDocument::MergesOneDrag()
 {
     StudioDocument document;
     QVERIFY(document.Load("<program width=\"8\" height=\"8\"/>"));
@@ -162,7 +162,7 @@ void TestStudioDocument::mergesOneDrag()
     QCOMPARE(document.Text(), QString("<program width=\"8\" height=\"8\"/>"));
 }
 
-void TestStudioDocument::lastProgramStays()
+void TestStudioDocument::LastProgramStays()
 {
     StudioDocument document;
     QVERIFY(document.Load("<program width=\"8\" height=\"8\"/>"));
@@ -175,7 +175,7 @@ void TestStudioDocument::lastProgramStays()
     QVERIFY(!document.Fault());
 }
 
-void TestStudioDocument::refusesBytesThatAreNoText()
+void TestStudioDocument::RefusesBytesThatAreNoText()
 {
     StudioDocument document;
     QVERIFY(document.Load("<program width=\"8\" height=\"8\"/>"));
@@ -183,7 +183,7 @@ void TestStudioDocument::refusesBytesThatAreNoText()
     QCOMPARE(document.Text(), QString("<program width=\"8\" height=\"8\"/>"));
 }
 
-void TestStudioDocument::nothingChanged()
+void TestStudioDocument::NothingChanged()
 {
     StudioDocument document;
     QVERIFY(document.Load("<program width=\"8\" height=\"8\"/>"));

@@ -11,10 +11,10 @@ class TestTale : public QObject
     Q_OBJECT
 
 private slots:
-    void threeClocksInTwoZones();
+    void ThreeClocksInTwoZones();
 };
 
-void TestTale::threeClocksInTwoZones()
+void TestTale::ThreeClocksInTwoZones()
 {
     for (const char *tool : {"Xvfb", "xdotool", "import"}) {
         if (QStandardPaths::findExecutable(tool).isEmpty())

@@ -36,17 +36,17 @@ class TestTimeAndZones : public QObject
     Q_OBJECT
 
 private slots:
-    void nextChange_data();
-    void nextChange();
-    void firstOfSeveral();
-    void search();
-    void settings();
-    void templatesAreGood();
-    void findingsAreMended();
-    void editorPositions();
+    void NextChange_data();
+    void NextChange();
+    void FirstOfSeveral();
+    void Search();
+    void Settings();
+    void TemplatesAreGood();
+    void FindingsAreMended();
+    void EditorPositions();
 };
 
-void TestTimeAndZones::nextChange_data()
+void TestTimeAndZones::NextChange_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("now");
@@ -64,7 +64,7 @@ void TestTimeAndZones::nextChange_data()
     row("lunar month", ChangeKind::LunarMonth, "2026-02-10T12:00:00Z", "2026-02-16T23:00:00Z");
 }
 
-void TestTimeAndZones::nextChange()
+void TestTimeAndZones::NextChange()
 {
     QFETCH(int, kind);
     QFETCH(QString, now);
@@ -74,7 +74,7 @@ void TestTimeAndZones::nextChange()
     QCOMPARE(*found, Utc(qPrintable(next)));
 }
 
-void TestTimeAndZones::firstOfSeveral()
+void TestTimeAndZones::FirstOfSeveral()
 {
     const qint64 now = Utc("2026-01-01T12:00:00Z");
     QCOMPARE(NextChangeOf(ChangeKind::Midnight, {kBerlin, kTokyo}, now).value(),
@@ -83,7 +83,7 @@ void TestTimeAndZones::firstOfSeveral()
     QVERIFY(!NextChangeOf(ChangeKind::Midnight, {}, now));
 }
 
-void TestTimeAndZones::search()
+void TestTimeAndZones::Search()
 {
     QVERIFY(Cities({}).size() > 300);
     QVERIFY(Cities("berlin").contains("Berlin"));
@@ -95,7 +95,7 @@ void TestTimeAndZones::search()
     QCOMPARE(Cities("no such place"), QStringList());
 }
 
-void TestTimeAndZones::settings()
+void TestTimeAndZones::Settings()
 {
     const auto berlin = SettingsFor("Europe/Berlin", QDate(2026, 1, 1));
     QVERIFY(berlin);
@@ -109,7 +109,7 @@ void TestTimeAndZones::settings()
     QVERIFY(!SettingsFor("Europe/Atlantis", QDate(2026, 1, 1)));
 }
 
-void TestTimeAndZones::templatesAreGood()
+void TestTimeAndZones::TemplatesAreGood()
 {
     QVERIFY(Templates().size() >= 12);
     for (const Template &one : Templates()) {
@@ -121,7 +121,7 @@ void TestTimeAndZones::templatesAreGood()
     }
 }
 
-void TestTimeAndZones::findingsAreMended()
+void TestTimeAndZones::FindingsAreMended()
 {
     const ProgramReading reading =
         MustRead("<program width=\"9\" height=\"9\">\n<area x=\"0\" y=\"0\" width=\"9\" "
@@ -143,7 +143,7 @@ void TestTimeAndZones::findingsAreMended()
     QVERIFY(isMended);
 }
 
-void TestTimeAndZones::editorPositions()
+void TestTimeAndZones::EditorPositions()
 {
     const QString text = "a\r\nb\rc\n\r\nd";
     QCOMPARE(InEditor(text), QString("a\nb\nc\n\nd"));

@@ -86,16 +86,16 @@ class TestValueEdits : public QObject
     Q_OBJECT
 
 private slots:
-    void everyAttribute_data();
-    void everyAttribute();
-    void writtenAsPeopleDo();
-    void replacedWhereItIs();
-    void resetRemovesIt();
-    void everyKindFromEveryKind();
-    void groupsHaveEveryAttribute();
+    void EveryAttribute_data();
+    void EveryAttribute();
+    void WrittenAsPeopleDo();
+    void ReplacedWhereItIs();
+    void ResetRemovesIt();
+    void EveryKindFromEveryKind();
+    void GroupsHaveEveryAttribute();
 };
 
-void TestValueEdits::everyAttribute_data()
+void TestValueEdits::EveryAttribute_data()
 {
     QTest::addColumn<int>("kind");
     QTest::addColumn<QString>("program");
@@ -106,7 +106,7 @@ void TestValueEdits::everyAttribute_data()
     }
 }
 
-void TestValueEdits::everyAttribute()
+void TestValueEdits::EveryAttribute()
 {
     QFETCH(int, kind);
     QFETCH(QString, program);
@@ -133,7 +133,7 @@ void TestValueEdits::everyAttribute()
     }
 }
 
-void TestValueEdits::writtenAsPeopleDo()
+void TestValueEdits::WrittenAsPeopleDo()
 {
     const ProgramReading reading = MustRead(
         ProgramWith("<area x='0' y='0' width='9' height='9'><clock type='digital'/></area>"));
@@ -149,7 +149,7 @@ void TestValueEdits::writtenAsPeopleDo()
                 .contains("<attribute key=\"DigitalDispAMPM\" value=\"1\"/>"));
 }
 
-void TestValueEdits::replacedWhereItIs()
+void TestValueEdits::ReplacedWhereItIs()
 {
     const ProgramReading reading = MustRead(ProgramWith(
         "<area x='0' y='0' width='9' height='9'><clock type='dial'><!-- a --><date color='red' "
@@ -162,7 +162,7 @@ void TestValueEdits::replacedWhereItIs()
     QCOMPARE(space.first().inserted, QString("8"));
 }
 
-void TestValueEdits::resetRemovesIt()
+void TestValueEdits::ResetRemovesIt()
 {
     const QString plain =
         ProgramWith("<area x='0' y='0' width='9' height='9'><clock type='dial'>\n</clock></area>");
@@ -176,7 +176,7 @@ void TestValueEdits::resetRemovesIt()
     QCOMPARE(ClockOf(MustRead(text), 0)->GetAttribute("HourRectType"), QString("0"));
 }
 
-void TestValueEdits::everyKindFromEveryKind()
+void TestValueEdits::EveryKindFromEveryKind()
 {
     for (const int from : {int(AnalogClock), int(DigitalClock), int(PictureClock)}) {
         for (const auto &form : Forms(from)) {
@@ -192,7 +192,7 @@ void TestValueEdits::everyKindFromEveryKind()
     }
 }
 
-void TestValueEdits::groupsHaveEveryAttribute()
+void TestValueEdits::GroupsHaveEveryAttribute()
 {
     QSet<int> grouped;
     for (int i = 0; i < kPropertyGroupCount; ++i) {

@@ -50,18 +50,18 @@ class TestXmlPositions : public QObject
     Q_OBJECT
 
 private slots:
-    void ranges();
-    void values_data();
-    void values();
-    void samplesAsParsed();
-    void noXml_data();
-    void noXml();
-    void damagedSamples();
-    void lines();
-    void escaping();
+    void Ranges();
+    void Values_data();
+    void Values();
+    void SamplesAsParsed();
+    void NoXml_data();
+    void NoXml();
+    void DamagedSamples();
+    void Lines();
+    void Escaping();
 };
 
-void TestXmlPositions::ranges()
+void TestXmlPositions::Ranges()
 {
     const QString text = "<?xml?>\n<!-- <a/> --><p  w = '1'\th=\"2\"><q/>x</p >\n";
     const auto elements = FindElements(text);
@@ -80,7 +80,7 @@ void TestXmlPositions::ranges()
     QCOMPARE(ElementAt(*elements, 0), -1);
 }
 
-void TestXmlPositions::values_data()
+void TestXmlPositions::Values_data()
 {
     QTest::addColumn<QString>("written");
     QTest::addColumn<QString>("value");
@@ -95,7 +95,7 @@ void TestXmlPositions::values_data()
                                             << "a\nb";
 }
 
-void TestXmlPositions::values()
+void TestXmlPositions::Values()
 {
     QFETCH(QString, written);
     QFETCH(QString, value);
@@ -104,7 +104,7 @@ void TestXmlPositions::values()
     QCOMPARE(elements->at(0).Value("b"), value);
 }
 
-void TestXmlPositions::samplesAsParsed()
+void TestXmlPositions::SamplesAsParsed()
 {
     for (const QString &path : SamplePaths()) {
         const QString text = QString::fromUtf8(ContentsOf(path));
@@ -113,7 +113,7 @@ void TestXmlPositions::samplesAsParsed()
     }
 }
 
-void TestXmlPositions::noXml_data()
+void TestXmlPositions::NoXml_data()
 {
     QTest::addColumn<QString>("text");
     const QStringList texts = {"",
@@ -141,14 +141,14 @@ void TestXmlPositions::noXml_data()
         QTest::newRow(qPrintable(text.left(20))) << text;
 }
 
-void TestXmlPositions::noXml()
+void TestXmlPositions::NoXml()
 {
     QFETCH(QString, text);
     QVERIFY(!FindElements(text));
 }
 
 // What is found in a damaged text must be in it; nothing is read beyond its end.
-void TestXmlPositions::damagedSamples()
+void TestXmlPositions::DamagedSamples()
 {
     const quint32 seed = QRandomGenerator::global()->generate();
     qInfo("seed %u", seed);
@@ -163,7 +163,7 @@ void TestXmlPositions::damagedSamples()
     }
 }
 
-void TestXmlPositions::lines()
+void TestXmlPositions::Lines()
 {
     const QString text = "a\nb\r\nc\rd";
     QCOMPARE(LineOf(text, 0), 1);
@@ -177,7 +177,7 @@ void TestXmlPositions::lines()
     QCOMPARE(StartOfLine(text, 99), 8);
 }
 
-void TestXmlPositions::escaping()
+void TestXmlPositions::Escaping()
 {
     const QString value = "<a & \"b\" 'c'>\n\x01";
     QCOMPARE(EscapedValue(value, '"'), QString("&lt;a &amp; &quot;b&quot; 'c'>&#10;"));

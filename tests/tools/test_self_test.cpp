@@ -21,17 +21,17 @@ class TestSelfTest : public QObject
     Q_OBJECT
 
 private slots:
-    void digitalDigest();
-    void analogDigest();
-    void pictureDigests();
-    void everythingIsWell();
-    void unwritableFolder();
-    void pictures();
-    void failuresAreSeen();
+    void DigitalDigest();
+    void AnalogDigest();
+    void PictureDigests();
+    void EverythingIsWell();
+    void UnwritableFolder();
+    void Pictures();
+    void FailuresAreSeen();
 };
 
 // 2024-03-05T05:07:42 in UTC is 13:07:42 at UTC+8, a Tuesday, the 25th day of lunar month 1.
-void TestSelfTest::digitalDigest()
+void TestSelfTest::DigitalDigest()
 {
     const QTemporaryDir folder;
     HClockNode clock;
@@ -44,7 +44,7 @@ void TestSelfTest::digitalDigest()
     QCOMPARE(PictureDigest(frame), QByteArray(kDigitalFrameDigest));
 }
 
-void TestSelfTest::analogDigest()
+void TestSelfTest::AnalogDigest()
 {
     const QTemporaryDir folder;
     HClockNode clock;
@@ -59,7 +59,7 @@ void TestSelfTest::analogDigest()
 }
 
 // SHA-256 of "2x1" and the bytes 01 02 03 04 05 06, by coreutils' sha256sum.
-void TestSelfTest::pictureDigests()
+void TestSelfTest::PictureDigests()
 {
     QImage picture(2, 1, QImage::Format_ARGB32);
     picture.setPixel(0, 0, qRgb(1, 2, 3));
@@ -72,7 +72,7 @@ void TestSelfTest::pictureDigests()
     QVERIFY(PictureDigest(QImage()) != PictureDigest(picture));
 }
 
-void TestSelfTest::everythingIsWell()
+void TestSelfTest::EverythingIsWell()
 {
     QElapsedTimer timer;
     timer.start();
@@ -89,7 +89,7 @@ void TestSelfTest::everythingIsWell()
 }
 
 // There nobody can make a folder.
-void TestSelfTest::unwritableFolder()
+void TestSelfTest::UnwritableFolder()
 {
     qputenv("TMPDIR", "/proc");
     const ProcessRun run = RunTool({"self-test"});
@@ -100,7 +100,7 @@ void TestSelfTest::unwritableFolder()
 }
 
 // A copy of the program, with a folder of pictures beside it.
-void TestSelfTest::pictures()
+void TestSelfTest::Pictures()
 {
     const QTemporaryDir folder;
     const QString copy = folder.filePath("bin/clock_tool");
@@ -130,7 +130,7 @@ void TestSelfTest::pictures()
              qPrintable(run.output));
 }
 
-void TestSelfTest::failuresAreSeen()
+void TestSelfTest::FailuresAreSeen()
 {
     for (const CheckResult &result : CheckFrames(QStringLiteral("/dev/null/none"))) {
         if (!result.what.contains("picture"))

@@ -25,18 +25,18 @@ class TestToolZone : public QObject
     Q_OBJECT
 
 private slots:
-    void exact_data();
-    void exact();
-    void exactForAWhile();
-    void notExact();
-    void unknown_data();
-    void unknown();
-    void lintKnowsTheZone();
-    void list();
-    void toFile();
+    void Exact_data();
+    void Exact();
+    void ExactForAWhile();
+    void NotExact();
+    void Unknown_data();
+    void Unknown();
+    void LintKnowsTheZone();
+    void List();
+    void ToFile();
 };
 
-void TestToolZone::exact_data()
+void TestToolZone::Exact_data()
 {
     QTest::addColumn<QStringList>("values");
     QTest::newRow("Europe/Berlin")
@@ -48,7 +48,7 @@ void TestToolZone::exact_data()
     QTest::newRow("Asia/Tokyo") << QStringList {"+09:00", "0", "", ""};
 }
 
-void TestToolZone::exact()
+void TestToolZone::Exact()
 {
     QFETCH(QStringList, values);
     const ProcessRun run = RunTool({"zone", QTest::currentDataTag(), "--year", "2026"});
@@ -65,7 +65,7 @@ void TestToolZone::exact()
 }
 
 // The first Sunday of April until 2006, the second of March since.
-void TestToolZone::exactForAWhile()
+void TestToolZone::ExactForAWhile()
 {
     const ProcessRun run = RunTool({"zone", "America/Chicago", "--year", "1990"});
     QCOMPARE(run.exitCode, 0);
@@ -76,7 +76,7 @@ void TestToolZone::exactForAWhile()
 }
 
 // The last Sunday of March 2030 is the 31st, and the Friday before it the fifth.
-void TestToolZone::notExact()
+void TestToolZone::NotExact()
 {
     const ProcessRun run = RunTool({"zone", "Asia/Jerusalem", "--year", "2026"});
     QCOMPARE(run.exitCode, 1);
@@ -91,7 +91,7 @@ void TestToolZone::notExact()
     QCOMPARE(Settings(run.output)["DaylightSavingTimeStart"], QString("3.4.5.02:00:00"));
 }
 
-void TestToolZone::unknown_data()
+void TestToolZone::Unknown_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("message");
@@ -116,7 +116,7 @@ void TestToolZone::unknown_data()
                           << "no zone";
 }
 
-void TestToolZone::unknown()
+void TestToolZone::Unknown()
 {
     QFETCH(QString, name);
     QFETCH(QString, message);
@@ -127,7 +127,7 @@ void TestToolZone::unknown()
 }
 
 // The settings as they were written, put into a program: nothing is wrong with them.
-void TestToolZone::lintKnowsTheZone()
+void TestToolZone::LintKnowsTheZone()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("in.xml");
@@ -158,7 +158,7 @@ void TestToolZone::lintKnowsTheZone()
     QVERIFY2(unused.errors.contains("UseDaylightSavingTime is 0"), qPrintable(unused.errors));
 }
 
-void TestToolZone::list()
+void TestToolZone::List()
 {
     const ProcessRun run = RunTool({"zone", "--list"});
     QCOMPARE(run.exitCode, 0);
@@ -169,7 +169,7 @@ void TestToolZone::list()
     QCOMPARE(RunTool({"zone"}).exitCode, 2);
 }
 
-void TestToolZone::toFile()
+void TestToolZone::ToFile()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath("zone.xml");

@@ -9,11 +9,11 @@ class TestRuleNote : public QObject
     Q_OBJECT
 
 private slots:
-    void notes_data();
-    void notes();
+    void Notes_data();
+    void Notes();
 };
 
-void TestRuleNote::notes_data()
+void TestRuleNote::Notes_data()
 {
     QTest::addColumn<int>("offset");
     QTest::addColumn<QString>("start");
@@ -42,7 +42,7 @@ void TestRuleNote::notes_data()
     row("no rules", 1, "", "", "");
 }
 
-void TestRuleNote::notes()
+void TestRuleNote::Notes()
 {
     QFETCH(int, offset);
     QFETCH(QString, start);

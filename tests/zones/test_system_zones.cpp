@@ -93,29 +93,29 @@ class TestSystemZones : public QObject
 
 private slots:
     void initTestCase() { RequireZones(); }
-    void tenYears_data();
-    void tenYears();
-    void everyZoneIsAsTold_data();
-    void everyZoneIsAsTold();
-    void exactness_data();
-    void exactness();
-    void rightUntil_data();
-    void rightUntil();
-    void oldDecades_data();
-    void oldDecades();
-    void otherNames_data();
-    void otherNames();
-    void unknownNames_data();
-    void unknownNames();
-    void nearest_data();
-    void nearest();
-    void zoneWith_data();
-    void zoneWith();
-    void citiesAreInZonesThatExist();
-    void zoneData();
+    void TenYears_data();
+    void TenYears();
+    void EveryZoneIsAsTold_data();
+    void EveryZoneIsAsTold();
+    void Exactness_data();
+    void Exactness();
+    void SettingsAreRightUntil_data();
+    void SettingsAreRightUntil();
+    void OldDecades_data();
+    void OldDecades();
+    void OtherNames_data();
+    void OtherNames();
+    void UnknownNames_data();
+    void UnknownNames();
+    void Nearest_data();
+    void Nearest();
+    void ZonesWithSettings_data();
+    void ZonesWithSettings();
+    void CitiesAreInZonesThatExist();
+    void ZoneData();
 };
 
-void TestSystemZones::tenYears_data()
+void TestSystemZones::TenYears_data()
 {
     QTest::addColumn<QDate>("first");
     QTest::addColumn<QString>("end");
@@ -124,7 +124,7 @@ void TestSystemZones::tenYears_data()
     QTest::newRow("as far as changes are listed") << QDate(2030, 5, 1) << "2038-01-01";
 }
 
-void TestSystemZones::tenYears()
+void TestSystemZones::TenYears()
 {
     QFETCH(QDate, first);
     const Span span = TenYearsFrom(first);
@@ -135,7 +135,7 @@ void TestSystemZones::tenYears()
     QVERIFY(TenYearsFrom(QDate(2038, 6, 1)).end < TenYearsFrom(QDate(2038, 6, 1)).begin);
 }
 
-void TestSystemZones::everyZoneIsAsTold_data()
+void TestSystemZones::EveryZoneIsAsTold_data()
 {
     QTest::addColumn<int>("year");
     QTest::newRow("1990") << 1990; // many zones changed their rules
@@ -143,7 +143,7 @@ void TestSystemZones::everyZoneIsAsTold_data()
     QTest::newRow("2026") << 2026;
 }
 
-void TestSystemZones::everyZoneIsAsTold()
+void TestSystemZones::EveryZoneIsAsTold()
 {
     QFETCH(int, year);
     const Span span = YearsFrom(year);
@@ -171,7 +171,7 @@ void TestSystemZones::everyZoneIsAsTold()
     QVERIFY2(exact > names.size() / 2, qPrintable(QString::number(exact)));
 }
 
-void TestSystemZones::exactness_data()
+void TestSystemZones::Exactness_data()
 {
     QTest::addColumn<QString>("settings");
     QTest::addColumn<bool>("exact");
@@ -192,7 +192,7 @@ void TestSystemZones::exactness_data()
     row("Asia/Jerusalem", "+02:00 3.4.5.02:00:00 10.Last.7.01:00:00", false);
 }
 
-void TestSystemZones::exactness()
+void TestSystemZones::Exactness()
 {
     QFETCH(QString, settings);
     QFETCH(bool, exact);
@@ -204,7 +204,7 @@ void TestSystemZones::exactness()
 }
 
 // Found hour by hour: these zones change on whole hours.
-void TestSystemZones::rightUntil_data()
+void TestSystemZones::SettingsAreRightUntil_data()
 {
     QTest::addColumn<int>("year");
     QTest::addColumn<QString>("until");
@@ -214,7 +214,7 @@ void TestSystemZones::rightUntil_data()
     QTest::newRow("America/Chicago") << 1990 << "2007-03-11T08:00:00Z";
 }
 
-void TestSystemZones::rightUntil()
+void TestSystemZones::SettingsAreRightUntil()
 {
     QFETCH(int, year);
     QFETCH(QString, until);
@@ -234,7 +234,7 @@ void TestSystemZones::rightUntil()
     QCOMPARE(Utc(at).toString(Qt::ISODate), until);
 }
 
-void TestSystemZones::oldDecades_data()
+void TestSystemZones::OldDecades_data()
 {
     QTest::addColumn<int>("year");
     QTest::addColumn<QString>("settings");
@@ -244,7 +244,7 @@ void TestSystemZones::oldDecades_data()
     QTest::newRow("America/New_York") << 1990 << "-05:00 4.1.7.02:00:00 10.Last.7.01:00:00";
 }
 
-void TestSystemZones::oldDecades()
+void TestSystemZones::OldDecades()
 {
     QFETCH(int, year);
     const auto civil = CivilTimeOf(QTest::currentDataTag(), YearsFrom(year));
@@ -254,7 +254,7 @@ void TestSystemZones::oldDecades()
     QVERIFY(WrongTimes(best, *civil).isEmpty());
 }
 
-void TestSystemZones::otherNames_data()
+void TestSystemZones::OtherNames_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<int>("offset");
@@ -263,7 +263,7 @@ void TestSystemZones::otherNames_data()
     QTest::newRow("three parts") << QByteArray("America/Argentina/Ushuaia") << -3 * 3600;
 }
 
-void TestSystemZones::otherNames()
+void TestSystemZones::OtherNames()
 {
     QFETCH(QByteArray, name);
     const auto civil = CivilTimeOf(name, YearsFrom(2026));
@@ -271,7 +271,7 @@ void TestSystemZones::otherNames()
     QTEST(civil->offset, "offset");
 }
 
-void TestSystemZones::unknownNames_data()
+void TestSystemZones::UnknownNames_data()
 {
     QTest::addColumn<QByteArray>("name");
     for (const char *name :
@@ -283,13 +283,13 @@ void TestSystemZones::unknownNames_data()
     QTest::newRow("zero byte") << QByteArray("Europe/Berlin\0x", 15);
 }
 
-void TestSystemZones::unknownNames()
+void TestSystemZones::UnknownNames()
 {
     QFETCH(QByteArray, name);
     QVERIFY(!CivilTimeOf(name, YearsFrom(2026)));
 }
 
-void TestSystemZones::nearest_data()
+void TestSystemZones::Nearest_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("nearest");
@@ -314,13 +314,13 @@ void TestSystemZones::nearest_data()
     QTest::newRow("huge") << QString(1 << 20, QLatin1Char('x')) << "";
 }
 
-void TestSystemZones::nearest()
+void TestSystemZones::Nearest()
 {
     QFETCH(QString, name);
     QTEST(NearestZone(name), "nearest");
 }
 
-void TestSystemZones::zoneWith_data()
+void TestSystemZones::ZonesWithSettings_data()
 {
     QTest::addColumn<ZoneSettings>("settings");
     QTest::addColumn<QByteArray>("zone");
@@ -337,14 +337,14 @@ void TestSystemZones::zoneWith_data()
     row("one zone only", 11, "10.1.7.02:00:00", "4.1.7.02:00:00", "Pacific/Norfolk");
 }
 
-void TestSystemZones::zoneWith()
+void TestSystemZones::ZonesWithSettings()
 {
     QFETCH(ZoneSettings, settings);
     QTEST(ZoneWith(settings, YearsFrom(2026)), "zone");
 }
 
 // Each city of the list leads to a zone of the system, and none has one of its own name.
-void TestSystemZones::citiesAreInZonesThatExist()
+void TestSystemZones::CitiesAreInZonesThatExist()
 {
     const QList<QByteArray> zones = ZoneNames();
     for (const char *city : {"Beijing", "mumbai", "Munich", "San Francisco", "rio_de_janeiro"}) {
@@ -355,7 +355,7 @@ void TestSystemZones::citiesAreInZonesThatExist()
 }
 
 // Without zone data Qt lists these.
-void TestSystemZones::zoneData()
+void TestSystemZones::ZoneData()
 {
     QVERIFY(HasZoneData(ZoneNames()));
     QVERIFY(!HasZoneData({}));

@@ -106,20 +106,20 @@ class TestZoneRule : public QObject
     Q_OBJECT
 
 private slots:
-    void zoneTexts_data();
-    void zoneTexts();
-    void rulesNaming_data();
-    void rulesNaming();
-    void bestSettings_data();
-    void bestSettings();
-    void bestSettingsAfterwards_data();
-    void bestSettingsAfterwards();
-    void wrongTimes_data();
-    void wrongTimes();
-    void nothingToLookAt();
+    void ZoneTexts_data();
+    void ZoneTexts();
+    void RulesNameTheInstant_data();
+    void RulesNameTheInstant();
+    void BestSettingsAreFound_data();
+    void BestSettingsAreFound();
+    void BestSettingsAfterwards_data();
+    void BestSettingsAfterwards();
+    void WrongTimesAreTold_data();
+    void WrongTimesAreTold();
+    void NothingToLookAt();
 };
 
-void TestZoneRule::zoneTexts_data()
+void TestZoneRule::ZoneTexts_data()
 {
     QTest::addColumn<int>("offset");
     QTest::addColumn<QString>("text");
@@ -130,13 +130,13 @@ void TestZoneRule::zoneTexts_data()
     QTest::newRow("less than an hour west") << -1800 << "-00:30";
 }
 
-void TestZoneRule::zoneTexts()
+void TestZoneRule::ZoneTexts()
 {
     QFETCH(int, offset);
     QTEST(Settings(offset, "", "").ZoneText(), "text");
 }
 
-void TestZoneRule::rulesNaming_data()
+void TestZoneRule::RulesNameTheInstant_data()
 {
     QTest::addColumn<QString>("reading");
     QTest::addColumn<QString>("rules");
@@ -156,13 +156,13 @@ void TestZoneRule::rulesNaming_data()
                                              << "2.Last.4.00:00:00";
 }
 
-void TestZoneRule::rulesNaming()
+void TestZoneRule::RulesNameTheInstant()
 {
     QFETCH(QString, reading);
     QTEST(RulesNaming(At(qPrintable(reading))).join(' '), "rules");
 }
 
-void TestZoneRule::bestSettings_data()
+void TestZoneRule::BestSettingsAreFound_data()
 {
     QTest::addColumn<CivilTime>("civil");
     QTest::addColumn<QString>("settings");
@@ -194,7 +194,7 @@ void TestZoneRule::bestSettings_data()
         << Civil("1900-01-01T00:00:00", "1901-01-01T00:00:00", 90000, {}) << "+00:00  ";
 }
 
-void TestZoneRule::bestSettings()
+void TestZoneRule::BestSettingsAreFound()
 {
     QFETCH(CivilTime, civil);
     QTEST(Text(BestSettings(civil, Nothing(civil))), "settings");
@@ -202,7 +202,7 @@ void TestZoneRule::bestSettings()
 
 // From 2024 to 2026 April has four Fridays, and the fourth is the last. In 2027 fourth and last
 // are the 23rd and the 30th.
-void TestZoneRule::bestSettingsAfterwards_data()
+void TestZoneRule::BestSettingsAfterwards_data()
 {
     QTest::addColumn<CivilTime>("after");
     QTest::addColumn<QString>("settings");
@@ -225,7 +225,7 @@ void TestZoneRule::bestSettingsAfterwards_data()
         "+02:00 4.Last.5.00:00:00 10.Last.4.23:00:00", "2027-03-25T22:00:00Z");
 }
 
-void TestZoneRule::bestSettingsAfterwards()
+void TestZoneRule::BestSettingsAfterwards()
 {
     QFETCH(CivilTime, after);
     const ZoneSettings best = BestSettings(Cairo(), after);
@@ -235,7 +235,7 @@ void TestZoneRule::bestSettingsAfterwards()
     QTEST(QDateTime::fromMSecsSinceEpoch(until, Qt::UTC).toString(Qt::ISODate), "until");
 }
 
-void TestZoneRule::wrongTimes_data()
+void TestZoneRule::WrongTimesAreTold_data()
 {
     QTest::addColumn<CivilTime>("civil");
     QTest::addColumn<ZoneSettings>("settings");
@@ -278,14 +278,14 @@ void TestZoneRule::wrongTimes_data()
          "2024-06-01T00:00:00Z 2025-01-01T00:00:00Z -3600"});
 }
 
-void TestZoneRule::wrongTimes()
+void TestZoneRule::WrongTimesAreTold()
 {
     QFETCH(CivilTime, civil);
     QFETCH(ZoneSettings, settings);
     QTEST(Texts(WrongTimes(settings, civil)), "wrong");
 }
 
-void TestZoneRule::nothingToLookAt()
+void TestZoneRule::NothingToLookAt()
 {
     const CivilTime nothing;
     QCOMPARE(Text(BestSettings(nothing, nothing)), QStringLiteral("+00:00  "));
