@@ -127,7 +127,7 @@ QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size)
     node->SetAttribute(Key(Attribute::TimeZone), QStringLiteral("+00:00"), false);
     node->SetAttribute(ClockProgram::kIdKey, kIdentity, false);
     ClockStage::Area area(kPlay, &plugin, std::move(node), ClockStage::GlyphFiles::Made);
-    area.Start();
+    StartWhole(area);
     QImage screen = ClockStage::BlackScreen(size);
     ClockStage::ComposeScreen(screen, {{screen.rect(), area.Picture().image}}, screen.rect());
     return QPixmap::fromImage(screen);

@@ -8,7 +8,9 @@
 #include "clock_node.h"
 
 #include <QButtonGroup>
+#include <QComboBox>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -92,10 +94,22 @@ PropertyPanel::PropertyPanel(WallEditor &editor, QWidget *parent)
     MakePlace();
     MakeGroups();
     setWidget(inner);
+    for (QWidget *const control : inner->findChildren<QWidget *>())
+        control->installEventFilter(this);
     connect(&editor, &WallEditor::ChoiceChanged, this, &PropertyPanel::Refresh);
     connect(&editor.Wall(), &LiveWall::ClocksMade, this, &PropertyPanel::Refresh);
     connect(&editor.Document(), &StudioDocument::Read, this, &PropertyPanel::Refresh);
     Refresh();
+}
+
+/// The wheel scrolls the panel: it changes nothing that happens to be under the pointer.
+bool PropertyPanel::eventFilter(QObject *object, QEvent *event)
+{
+    const bool wouldChange = event->type() == QEvent::Wheel
+        && (qobject_cast<QComboBox *>(object) || qobject_cast<QAbstractSpinBox *>(object));
+    if (wouldChange)
+        event->ignore(); // which hands it on to the scroll area
+    return wouldChange || QScrollArea::eventFilter(object, event);
 }
 
 void PropertyPanel::MakeHead()

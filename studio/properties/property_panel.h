@@ -41,6 +41,9 @@ public:
     /// Gives the chosen clocks sizes that fill their areas.
     void FitSizes();
 
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
 private:
     void Refresh();
     void ShowClocks(const QVector<Lw::HNodeClock::HClockNode *> &clocks);

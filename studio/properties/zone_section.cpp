@@ -55,6 +55,7 @@ ZoneSection::ZoneSection()
     m_adjustment->setAccessibleName(tr("Adjustment"));
     m_direction->addItem(tr("ahead"));
     m_direction->addItem(tr("behind"));
+    m_direction->setObjectName(QStringLiteral("AdjustmentDirection"));
     m_direction->setAccessibleName(tr("Direction of the adjustment"));
     AddLine(tr("City"), {m_city});
     AddWide(m_note);

@@ -31,6 +31,12 @@ Lw::INodePlugin *FindClockPlugin(QDomElement &element)
     return plugin.PluginMatch(element) ? &plugin : nullptr;
 }
 
+void StartWhole(ClockStage::Area &area)
+{
+    area.Start();
+    area.PlayNext();
+}
+
 LiveWall::LiveWall(QObject *parent) : QObject(parent)
 {
     Lw::HAppConfig::SetClockOutputPath(m_files.path());
@@ -128,7 +134,7 @@ void LiveWall::Make(Slot &slot)
     made.node->SetAttribute(ClockProgram::kIdKey, slot.identity, false);
     slot.clock = std::make_unique<ClockStage::Area>(++m_plays, made.plugin, std::move(made.node),
                                                     ClockStage::GlyphFiles::Made);
-    slot.clock->Start();
+    StartWhole(*slot.clock);
     ClockStage::Area *const clock = slot.clock.get();
     connect(clock, &ClockStage::Area::PictureChanged, this, [this, clock] {
         for (const Slot &shown : m_slots) {

@@ -87,6 +87,9 @@ private:
     QImage m_screen;
 };
 
+/// Starts an area that shows all of its clock at once: texts of dials come with the second frame.
+void StartWhole(ClockStage::Area &area);
+
 /// The plugin's own finder, for whatever makes nodes.
 Lw::INodePlugin *FindClockPlugin(QDomElement &element);
 

@@ -24,7 +24,7 @@ QImage PictureOfProgram(const QByteArray &bytes)
         node.node->SetAttribute(ClockProgram::kIdKey, kFirstIdentity + number, false);
         ClockStage::Area area(kFirstPlay + static_cast<unsigned int>(number++), node.plugin,
                               std::move(node.node), ClockStage::GlyphFiles::Made);
-        area.Start();
+        StartWhole(area);
         layers.append(area.Picture());
     }
     QImage screen = ClockStage::BlackScreen(program->size);

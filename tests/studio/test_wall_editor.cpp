@@ -34,6 +34,7 @@ class TestWallEditor : public QObject
 
 private slots:
     void showsFrames();
+    void showsTextsOfDialsAtOnce();
     void movesWithoutMakingAgain();
     void makesOnlyWhatChanged();
     void addsEveryKind();
@@ -54,6 +55,18 @@ void TestWallEditor::showsFrames()
     QVERIFY(studio.HasColour({0, 0, 64, 32}, kRed));
     QVERIFY(!studio.HasColour({0, 0, 64, 32}, kGreen));
     QVERIFY(studio.HasColour({64, 32, 64, 32}, kGreen));
+}
+
+// The clock itself draws them from its second frame on, which a held time never asks for.
+void TestWallEditor::showsTextsOfDialsAtOnce()
+{
+    StudioUnderTest studio(
+        "<program width=\"128\" height=\"128\">"
+        "<area x=\"0\" y=\"0\" width=\"128\" height=\"128\"><clock type=\"dial\">"
+        "<title display=\"true\" value=\"I\" color=\"#12ff34\"/></clock></area>"
+        "</program>");
+    studio.WaitForClocks();
+    QVERIFY(studio.HasColour(studio.Screen().rect(), 0x12ff34));
 }
 
 void TestWallEditor::movesWithoutMakingAgain()
