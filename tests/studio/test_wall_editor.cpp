@@ -46,6 +46,7 @@ private slots:
     void brokenTextChangesNothing();
     void refusedClockIsEmpty();
     void manyClocksDoNotBlock();
+    void largeFontsDoNotBlock();
 };
 
 void TestWallEditor::showsFrames()
@@ -219,6 +220,24 @@ void TestWallEditor::manyClocksDoNotBlock()
     QVERIFY(!studio.wall.IsComplete()); // the rest is made between events
     studio.document.Change({{0, "", "<!-- -->"}}, "typing");
     QCOMPARE(studio.wall.AreaCount(), 1000);
+}
+
+// A step of size for all of them draws every image of the font: clock by clock, between events.
+void TestWallEditor::largeFontsDoNotBlock()
+{
+    const QByteArray area = "<area x=\"0\" y=\"0\" width=\"128\" height=\"64\">"
+                            "<clock type=\"digital\"><time fontSize=\"200\"/></clock></area>\n";
+    StudioUnderTest studio("<program width=\"128\" height=\"64\">\n" + area.repeated(12)
+                           + "</program>\n");
+    studio.WaitForClocks();
+    TextEdits edits;
+    for (int place = 0; (place = studio.document.Text().indexOf("200", place + 1)) > 0;)
+        edits.prepend({place, "200", QString::number(201 + edits.size())});
+    QCOMPARE(edits.size(), 12);
+    studio.document.Change(edits, "larger");
+    QVERIFY(!studio.wall.IsComplete());
+    studio.WaitForClocks();
+    QVERIFY(studio.wall.Clock(11));
 }
 
 QTEST_MAIN(TestWallEditor)
