@@ -22,7 +22,7 @@ void FitOfAClock(benchmark::State &state)
     const bench::CountsPerIteration counts(state);
     for (auto _ : state) {
         ClockCheck check(YearFrom(kBegin));
-        benchmark::DoNotOptimize(check.Look(*node).cuts.size());
+        benchmark::DoNotOptimize(check.Check(*node).cuts.size());
     }
 }
 
@@ -36,7 +36,7 @@ void FitOfAWall(benchmark::State &state)
     for (auto _ : state) {
         ClockCheck check(YearFrom(kBegin));
         for (const auto &node : nodes)
-            benchmark::DoNotOptimize(check.Look(*node).cuts.size());
+            benchmark::DoNotOptimize(check.Check(*node).cuts.size());
     }
 }
 

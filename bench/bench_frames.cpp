@@ -24,8 +24,8 @@
 
 using Lw::HNodeClock::Attribute;
 using Lw::HNodeClock::DrawDisplayImage;
+using Lw::HNodeClock::FormatAscii;
 using Lw::HNodeClock::Key;
-using Lw::HNodeClock::PlainText;
 
 namespace {
 
@@ -181,8 +181,8 @@ void QtTextSecond(benchmark::State &state)
         painter.setFont(font);
         painter.setPen(Qt::white);
         const int line = area.height() / 4;
-        const QString texts[] = {PlainText(now, "yyyy/MM/dd"), PlainText(now, "dddd"),
-                                 PlainText(now, "hh:mm:ss")};
+        const QString texts[] = {FormatAscii(now, "yyyy/MM/dd"), FormatAscii(now, "dddd"),
+                                 FormatAscii(now, "hh:mm:ss")};
         for (int i = 0; i < 3; ++i)
             painter.drawText(QRect(0, i * line, area.width(), line), Qt::AlignCenter, texts[i]);
         painter.end();

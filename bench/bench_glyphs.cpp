@@ -4,8 +4,8 @@
 #include "compose/draw_clock_classify_image.h"
 #include "display/draw_display_image.h"
 #include "glyph/draw_source_image.h"
+#include "glyph/glyph_cache.h"
 #include "glyph/glyph_file.h"
-#include "glyph/glyph_memory.h"
 
 #include "happconfig.h"
 
@@ -22,7 +22,7 @@ using Lw::HNodeClock::DrawClockClassifyImage;
 using Lw::HNodeClock::DrawDisplayImage;
 using Lw::HNodeClock::DrwSourceIMage;
 using Lw::HNodeClock::Durability;
-using Lw::HNodeClock::GlyphMemory;
+using Lw::HNodeClock::GlyphCache;
 using Lw::HNodeClock::Key;
 using Lw::HNodeClock::ReadSmallFile;
 using Lw::HNodeClock::WriteImageFile;
@@ -45,7 +45,7 @@ void GlyphGeneration(benchmark::State &state)
     const auto node = NodeOf(state);
     const bench::CountsPerIteration counts(state);
     for (auto _ : state) {
-        GlyphMemory::Shared().Forget();
+        GlyphCache::Shared().Forget();
         DrwSourceIMage().DrawClockSourceImage(node.get());
     }
 }
@@ -98,7 +98,7 @@ void GlyphGenerationAlike(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         EmptyOutput();
-        GlyphMemory::Shared().Forget();
+        GlyphCache::Shared().Forget();
         state.ResumeTiming();
         for (const auto &node : nodes)
             DrwSourceIMage().DrawClockSourceImage(node.get());

@@ -32,7 +32,7 @@ int main(int argc, char **argv)
     Lw::HNodeClock::DrawDisplayImage drawer(node.get());
     QImage shown;
     for (int i = 0; i < arguments[4].toInt(); ++i) {
-        const Lw::HNodeClock::HeldReading held;
+        const Lw::HNodeClock::HeldInstant held;
         shown = drawer.DrawClockDisplayImage();
         time.Step();
     }

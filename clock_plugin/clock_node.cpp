@@ -14,7 +14,7 @@ namespace Lw::HNodeClock {
 namespace {
 
 /// 1000 plus the mean of two random numbers from 0 to 999, so middle values are more frequent.
-int DrawIdentity()
+int RandomIdentity()
 {
     const auto draw = [] {
         return static_cast<int>(QRandomGenerator::global()->generate() % 1000);
@@ -98,7 +98,7 @@ void HClockNode::StoreDefault(const AttributeRow &row)
 void HClockNode::StoreComputedDefault(Attribute attribute)
 {
     if (attribute == Attribute::Id)
-        return Store(attribute, DrawIdentity());
+        return Store(attribute, RandomIdentity());
     if (attribute == Attribute::TimeZone)
         StoreHostTime();
     // UseDaylightSavingTime is stored along with the zone.
@@ -113,7 +113,7 @@ void HClockNode::StoreHostTime()
     bool daylightSaving = false;
     Lw::HAppConfig::instance()->GetTimeInfo(offsetSeconds, daylightSaving);
     const QPointer<HClockNode> self(this);
-    SetTimeZone(PlainText(QTime(0, 0).addSecs(offsetSeconds), "hh:mm"));
+    SetTimeZone(FormatAscii(QTime(0, 0).addSecs(offsetSeconds), "hh:mm"));
     if (self)
         Store(Attribute::UseDaylightSavingTime, daylightSaving ? 1 : 0);
 }
@@ -161,7 +161,7 @@ void HClockNode::SetTimeAdjust(int seconds)
     const QPointer<HClockNode> self(this);
     Store(Attribute::AdjustType, seconds < 0 ? 1 : 0);
     if (self)
-        Store(Attribute::TimeAdjust, PlainText(QTime(0, 0).addSecs(magnitude), "hh'A'mm'B'ss"));
+        Store(Attribute::TimeAdjust, FormatAscii(QTime(0, 0).addSecs(magnitude), "hh'A'mm'B'ss"));
 }
 
 void HClockNode::SetTimeZone(QString zone)

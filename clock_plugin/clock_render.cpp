@@ -133,7 +133,7 @@ void HClockRender::PlayNext()
     QImage frame;
     int millisecond = 0;
     {
-        const HeldReading oneInstant;
+        const HeldInstant oneInstant;
         millisecond = LocalMillisecond();
         frame = drawer->DrawClockDisplayImage();
     }

@@ -1,6 +1,5 @@
 #include "clock_parts.h"
 
-#include "clock_node.h"
 #include "display/analog_geometry.h"
 #include "glyph/glyph_set.h"
 
@@ -56,14 +55,12 @@ const PartRow &RowOfPart(Part part)
 
 bool IsTextShown(HClockNode &node, Attribute analog, Attribute digital)
 {
-    return node.GetAttributeToInt(Key(node.ClockType() == DigitalClock ? digital : analog)) == 1;
+    return NumberOf(node, node.ClockType() == DigitalClock ? digital : analog) == 1;
 }
 
 bool IsPartOfAnalogShown(HClockNode &node, Part part)
 {
-    const auto number = [&node](Attribute attribute) {
-        return node.GetAttributeToInt(Key(attribute));
-    };
+    const auto number = [&node](Attribute attribute) { return NumberOf(node, attribute); };
     const auto hasHand = [&](Hand hand, Attribute type) {
         return !ShapeOf(hand, number(type), HandRadius(node.Size())).outline.isEmpty();
     };

@@ -3,9 +3,17 @@
 
 #include "fit.h"
 
+#include "clock_node.h"
+
 #include <optional>
 
 namespace ClockFit {
+
+/// The value of an attribute as an int.
+inline int NumberOf(Lw::HNodeClock::HClockNode &node, Lw::HNodeClock::Attribute attribute)
+{
+    return node.GetAttributeToInt(Key(attribute));
+}
 
 /// The font of a part; nothing for marks and hands.
 std::optional<Lw::HNodeClock::GlyphFont> FontOf(Part part);

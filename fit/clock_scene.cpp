@@ -1,7 +1,7 @@
 #include "clock_scene.h"
 
 #include "calendar/device_clock.h"
-#include "display/row_elements.h"
+#include "display/row_placement.h"
 
 namespace ClockFit {
 
@@ -49,7 +49,7 @@ ClockScene::ClockScene(HClockNode &node, const GlyphSource &source) : m_node(nod
 
 std::vector<PlacedPart> ClockScene::TextsAt(qint64 utc)
 {
-    const HeldReading then(utc);
+    const HeldInstant held(utc);
     const Composer::FrameScope oneReading(m_composer);
     Placements placements;
     if (m_digital) {
@@ -77,13 +77,13 @@ const Element *ClockScene::TextAt(qint64 utc, Part part)
 
 const Element &ClockScene::TimeAt(qint64 utc)
 {
-    const HeldReading then(utc);
+    const HeldInstant held(utc);
     return m_composer.Time();
 }
 
 bool ClockScene::IsMorningAt(qint64 utc)
 {
-    const HeldReading then(utc);
+    const HeldInstant held(utc);
     m_composer.UpdateReading();
     return m_composer.ShownHour() < 12;
 }

@@ -1,5 +1,9 @@
 #include "clock_year.h"
 
+#include "clock_parts.h"
+
+#include "calendar/time_units.h"
+
 #include <algorithm>
 
 namespace ClockFit {
@@ -9,7 +13,6 @@ using namespace Lw::HNodeClock;
 namespace {
 
 constexpr int kHours = 24;
-constexpr int kHourSeconds = 3600;
 
 } // namespace
 
@@ -28,14 +31,15 @@ void ClockYear::GroupHours(HClockNode &node)
         m_isMorning.assign(m_classes.size(), true);
         return;
     }
-    const bool hasBadge = node.ClockType() == AnalogClock
-        && node.GetAttributeToInt(Key(Attribute::Analog_AMPM_d)) == 1;
+    const bool hasBadge =
+        node.ClockType() == AnalogClock && NumberOf(node, Attribute::Analog_AMPM_d) == 1;
     m_classes.resize(hasBadge ? 2 : 1);
     m_isMorning = {true};
     if (hasBadge)
         m_isMorning.push_back(false);
     for (int hour = 0; hour < kHours; ++hour) {
-        const bool isMorning = m_scene.IsMorningAt(midnight + hour * kHourSeconds * 1000LL);
+        const bool isMorning =
+            m_scene.IsMorningAt(midnight + hour * kSecondsPerHour * kMillisecondsPerSecond);
         m_classes[hasBadge && !isMorning ? 1 : 0].hours.push_back(hour);
     }
 }
@@ -43,11 +47,23 @@ void ClockYear::GroupHours(HClockNode &node)
 int ClockYear::FirstSecondOf(const HourClass &hours, const Stretch &stretch)
 {
     for (const int hour : hours.hours) {
-        const int second = std::max(stretch.firstSecond, hour * kHourSeconds);
-        if (second < std::min(stretch.EndSecond(), (hour + 1) * kHourSeconds))
+        const int second = std::max(stretch.firstSecond, hour * kSecondsPerHour);
+        if (second < std::min(stretch.EndSecond(), (hour + 1) * kSecondsPerHour))
             return second;
     }
     return -1;
+}
+
+void TakeTimes(WorstCase &found, const ClockYear::State &state, const TimeMeasure &measure)
+{
+    if (measure.Most() <= 0 || found.Covers(measure.Most(), state.stretch.begin))
+        return;
+    const int from = state.stretch.firstSecond;
+    const int end = state.stretch.EndSecond();
+    const int most = MostWithin(state.hours, measure, from, end);
+    if (most > 0)
+        found.Take(most, state.stretch.At(FirstSecond(state.hours, measure, 1, from, end)),
+                   state.stretch.At(FirstSecond(state.hours, measure, most, from, end)));
 }
 
 } // namespace ClockFit

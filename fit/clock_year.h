@@ -5,6 +5,7 @@
 #include "clock_scene.h"
 #include "dial_ink.h"
 #include "time_digits.h"
+#include "worst_case.h"
 
 namespace ClockFit {
 
@@ -55,5 +56,9 @@ private:
     std::vector<HourClass> m_classes;
     std::vector<bool> m_isMorning;
 };
+
+/// Records the times of a state in a worst case: the largest measure within its hours and stretch,
+/// and when it and any above 0 are first reached.
+void TakeTimes(WorstCase &found, const ClockYear::State &state, const TimeMeasure &measure);
 
 } // namespace ClockFit

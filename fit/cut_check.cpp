@@ -1,6 +1,4 @@
-#include "cut_check.h"
-
-#include "worst_case.h"
+#include "clock_checks.h"
 
 #include <algorithm>
 #include <array>
@@ -99,21 +97,8 @@ private:
     {
         for (const Side side : kSides) {
             const TimeMeasure &beyond = MeasureOf(state, topLeft, side);
-            WorstCase &found = m_found[{Part::Time, side}];
-            if (beyond.Most() > 0 && !found.Covers(beyond.Most(), state.stretch.begin))
-                TakeTimes(found, state, beyond);
+            TakeTimes(m_found[{Part::Time, side}], state, beyond);
         }
-    }
-
-    static void TakeTimes(WorstCase &found, const ClockYear::State &state,
-                          const TimeMeasure &measure)
-    {
-        const int from = state.stretch.firstSecond;
-        const int end = state.stretch.EndSecond();
-        const int most = MostWithin(state.hours, measure, from, end);
-        if (most > 0)
-            found.Take(most, state.stretch.At(FirstSecond(state.hours, measure, 1, from, end)),
-                       state.stretch.At(FirstSecond(state.hours, measure, most, from, end)));
     }
 
     // Whether the part is completely invisible at the worst instant.

@@ -1,5 +1,7 @@
 #include "dial_ink.h"
 
+#include "clock_parts.h"
+
 #include "display/analog_painting.h"
 #include "image_bounds.h"
 
@@ -16,11 +18,6 @@ const QColor kBoxColour(1, 2, 1); // of the box behind "10" and "11", which hide
 constexpr int kNoMarks = -1;
 // Pixels around the area: the pen of the marks may reach beyond the radius.
 constexpr int kMargin = 2;
-
-int Number(HClockNode &node, Attribute attribute)
-{
-    return node.GetAttributeToInt(Key(attribute));
-}
 
 // The canvas: the area plus the space that the numerals need around it.
 QRect CanvasOf(const QSize &area, int scale, const QSize &strip)
@@ -122,10 +119,10 @@ DialInk DialInkOf(HClockNode &node, const GlyphSource &source)
     if (node.ClockType() != AnalogClock)
         return ink;
     const QSize area = node.Size();
-    const int scale = Number(node, Attribute::HourScaleType);
+    const int scale = NumberOf(node, Attribute::HourScaleType);
     const GlyphStrip digits = source(Glyph::HourhandNumber, 0);
     const QRect canvas = CanvasOf(area, scale, digits.Size());
-    if (Number(node, Attribute::Analog_AMPM_d) == 1) {
+    if (NumberOf(node, Attribute::Analog_AMPM_d) == 1) {
         ink.morning = BadgeInk(area, source(Glyph::AnalogAM, 0));
         ink.afternoon = BadgeInk(area, source(Glyph::AnalogPM, 0));
     }
@@ -138,7 +135,8 @@ DialInk DialInkOf(HClockNode &node, const GlyphSource &source)
             PaintNumerals(painter, scale, radius, digits.Pixmap(), kBoxColour);
     };
     ink.hourMarks = dial.Marks(scale, kNoMarks, paintNumerals);
-    ink.minuteMarks = dial.Marks(kNoMarks, Number(node, Attribute::MinuteScaleType), paintNumerals);
+    ink.minuteMarks =
+        dial.Marks(kNoMarks, NumberOf(node, Attribute::MinuteScaleType), paintNumerals);
     if (digits.IsNull())
         return ink;
     ink.numerals = dial.InkOf(paintNumerals);

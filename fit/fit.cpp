@@ -1,10 +1,9 @@
 #include "fit.h"
 
+#include "clock_checks.h"
 #include "clock_parts.h"
 #include "clock_year.h"
-#include "cut_check.h"
 #include "font_check.h"
-#include "overlap_check.h"
 #include "visibility.h"
 
 namespace ClockFit {
@@ -36,10 +35,10 @@ QRect VisibleOf(HClockNode &node, const QRect &visible)
 bool ClockFindings::IsEmpty() const
 {
     return cuts.isEmpty() && overlaps.isEmpty() && faint.isEmpty() && sameHands.isEmpty()
-        && lostMarks.isEmpty() && missing.isEmpty() && undrawn.isEmpty();
+        && lostMarks.isEmpty() && missing.isEmpty() && tooLarge.isEmpty();
 }
 
-ClockFindings ClockCheck::Look(HClockNode &node, const QRect &visible)
+ClockFindings ClockCheck::Check(HClockNode &node, const QRect &visible)
 {
     ClockFindings findings;
     if (!IsDrawable(node))
@@ -56,10 +55,10 @@ ClockFindings ClockCheck::Look(HClockNode &node, const QRect &visible)
         overlap.worst.text = Showing(clock, m_images, overlap.upper, overlap.worst.utc);
     }
     findings.missing = MissingOf(clock, node, m_images);
-    findings.undrawn = UndrawnOf(node, m_images);
-    findings.faint = FaintParts(node, m_ground);
-    findings.sameHands = HandsOfOneColour(node);
-    findings.lostMarks = MarksLost(node);
+    findings.tooLarge = TooLargeOf(node, m_images);
+    findings.faint = FaintParts(node, m_background);
+    findings.sameHands = SameHandsOf(node);
+    findings.lostMarks = LostMarksOf(node);
     return findings;
 }
 

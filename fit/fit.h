@@ -76,7 +76,7 @@ struct Faint
 {
     Part part = Part::TopText;
     QRgb ink = 0;
-    QRgb ground = 0;          ///< as it shows on the wall
+    QRgb background = 0;      ///< the background colour on the wall
     double contrast = 1;      ///< as WCAG defines it, 1 to 21
     bool isKeyColour = false; ///< the ink has the key colour, which is transparent on the host
 };
@@ -108,7 +108,7 @@ struct MissingCharacters
 };
 
 /// A text that cannot be drawn: its image would be too large.
-struct Undrawn
+struct TooLarge
 {
     Part part = Part::TopText;
     int points = 0;
@@ -122,37 +122,37 @@ struct ClockFindings
     QVector<SameHands> sameHands;
     QVector<LostMarks> lostMarks;
     QVector<MissingCharacters> missing;
-    QVector<Undrawn> undrawn;
+    QVector<TooLarge> tooLarge;
 
     bool IsEmpty() const;
 };
 
 /// The colour that hosts show in place of the key colour.
-constexpr QRgb kBlackGround = 0xff000000;
+constexpr QRgb kBlackBackground = 0xff000000;
 
 /// Checks clocks one by one; caches the glyph images that they share.
 class ClockCheck
 {
 public:
-    explicit ClockCheck(const Year &year, QRgb ground = kBlackGround)
-        : m_year(year), m_ground(ground)
+    explicit ClockCheck(const Year &year, QRgb background = kBlackBackground)
+        : m_year(year), m_background(background)
     { }
 
     /// All findings for one clock. `visible` is the visible part of its area, in pixels from the
     /// area's top left; by default all of it. The node is only read.
-    ClockFindings Look(Lw::HNodeClock::HClockNode &node, const QRect &visible = {});
+    ClockFindings Check(Lw::HNodeClock::HClockNode &node, const QRect &visible = {});
 
     /// The cuts and overlaps with other sizes than the node's. Moment::text stays empty.
     QVector<Cut> Cuts(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes,
                       const QRect &visible = {});
     QVector<Overlap> Overlaps(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes);
 
-    const Year &Years() const { return m_year; }
+    const Year &CheckedYear() const { return m_year; }
     GlyphImages &Images() { return m_images; }
 
 private:
     Year m_year;
-    QRgb m_ground;
+    QRgb m_background;
     GlyphImages m_images;
 };
 

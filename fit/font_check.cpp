@@ -41,7 +41,7 @@ bool NeedsGlyph(uint character)
 }
 
 // Checks the family itself, without Qt's fallback families.
-QVector<uint> Lacking(const QString &family, const QVector<uint> &characters)
+QVector<uint> MissingIn(const QString &family, const QVector<uint> &characters)
 {
     const QRawFont own = QRawFont::fromFont(GlyphTypeface(family, kAnyPoints));
     QVector<uint> lacking;
@@ -65,7 +65,7 @@ QStringList FamiliesWith(const QVector<uint> &characters)
 {
     QStringList families;
     for (const QString &family : InstalledFamilies()) {
-        if (Lacking(family, characters).isEmpty())
+        if (MissingIn(family, characters).isEmpty())
             families.append(family);
     }
     return families;
@@ -127,7 +127,7 @@ std::optional<MissingCharacters> MissingOf(const QString &family, int points,
                                            const QString &characters)
 {
     const QVector<uint> wanted = CharactersOf(characters);
-    const QVector<uint> lacking = Lacking(family, wanted);
+    const QVector<uint> lacking = MissingIn(family, wanted);
     if (lacking.isEmpty())
         return std::nullopt;
     MissingCharacters missing;
@@ -146,8 +146,7 @@ QVector<MissingCharacters> MissingOf(ClockYear &clock, HClockNode &node, const G
     for (const auto &[part, characters] : CharactersShown(clock, node, images)) {
         const GlyphFontAttributes font = FontAttributes(*FontOf(part), node.ClockType());
         std::optional<MissingCharacters> missing =
-            MissingOf(node.GetAttribute(Key(font.family)), node.GetAttributeToInt(Key(font.size)),
-                      characters);
+            MissingOf(node.GetAttribute(Key(font.family)), NumberOf(node, font.size), characters);
         if (!missing)
             continue;
         missing->part = part;
@@ -156,16 +155,16 @@ QVector<MissingCharacters> MissingOf(ClockYear &clock, HClockNode &node, const G
     return all;
 }
 
-QVector<Undrawn> UndrawnOf(HClockNode &node, GlyphImages &images)
+QVector<TooLarge> TooLargeOf(HClockNode &node, GlyphImages &images)
 {
     const FontSizes sizes = SizesOf(node);
-    QVector<Undrawn> undrawn;
+    QVector<TooLarge> tooLarge;
     for (const Part part : PartsShown(node)) {
         const std::optional<GlyphFont> font = FontOf(part);
         if (font && images.LacksImages(node, sizes, *font))
-            undrawn.append({part, sizes[static_cast<std::size_t>(*font)]});
+            tooLarge.append({part, sizes[static_cast<std::size_t>(*font)]});
     }
-    return undrawn;
+    return tooLarge;
 }
 
 } // namespace ClockFit

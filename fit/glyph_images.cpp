@@ -1,8 +1,10 @@
 #include "glyph_images.h"
 
+#include "clock_parts.h"
+
 #include "compose/element_layout.h"
 #include "display/analog_geometry.h"
-#include "glyph/draw_source_image.h"
+#include "glyph/glyph_check.h"
 #include "glyph/glyph_picture.h"
 #include "image_bounds.h"
 
@@ -14,13 +16,6 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr char kDigits[] = "0123456789";
-
-int Number(HClockNode &node, Attribute attribute)
-{
-    return node.GetAttributeToInt(Key(attribute));
-}
-
 bool BelongsTo(GlyphFont font, bool isDigital)
 {
     if (font == GlyphFont::Time)
@@ -30,7 +25,7 @@ bool BelongsTo(GlyphFont font, bool isDigital)
 
 bool ShowsNumerals(HClockNode &node)
 {
-    const int scale = Number(node, Attribute::HourScaleType);
+    const int scale = NumberOf(node, Attribute::HourScaleType);
     return scale == TwelveNumerals || scale == FourNumerals;
 }
 
@@ -39,7 +34,7 @@ bool IsShown(HClockNode &node, GlyphFont font)
 {
     const bool isDigital = node.ClockType() == DigitalClock;
     const auto flag = [&](Attribute analog, Attribute digital) {
-        return Number(node, isDigital ? digital : analog) != 0;
+        return NumberOf(node, isDigital ? digital : analog) != 0;
     };
     switch (font) {
     case GlyphFont::TopText:
@@ -53,9 +48,9 @@ bool IsShown(HClockNode &node, GlyphFont font)
     case GlyphFont::HourScale:
         return !isDigital && ShowsNumerals(node);
     case GlyphFont::AmPm:
-        return !isDigital && Number(node, Attribute::Analog_AMPM_d) == 1;
+        return !isDigital && NumberOf(node, Attribute::Analog_AMPM_d) == 1;
     case GlyphFont::Time:
-        return isDigital && Number(node, Attribute::Digital_Time_d) != 0;
+        return isDigital && NumberOf(node, Attribute::Digital_Time_d) != 0;
     }
     return false;
 }
@@ -68,22 +63,8 @@ bool IsNeeded(HClockNode &node, Glyph glyph)
         return true;
     const bool isDigital = node.ClockType() == DigitalClock;
     const int type =
-        Number(node, isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType);
+        NumberOf(node, isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType);
     return type == DateNamedMonthDayYear || type == DateDayNamedMonthYear;
-}
-
-QString WordingOf(HClockNode &node, const GlyphImage &image)
-{
-    switch (image.row->wording) {
-    case GlyphWording::TopText:
-        return node.GetAttribute(Key(node.ClockType() == DigitalClock ? Attribute::DigitalTopText
-                                                                      : Attribute::AnalogTopText));
-    case GlyphWording::Translated:
-        return DrwSourceIMage::tr(image.Text());
-    case GlyphWording::Verbatim:
-        break;
-    }
-    return QString::fromLatin1(image.Text());
 }
 
 int CellsOf(Glyph glyph)
@@ -111,7 +92,7 @@ FontSizes SizesOf(HClockNode &node)
         const auto which = static_cast<GlyphFont>(font);
         if (BelongsTo(which, clockType == DigitalClock))
             sizes[static_cast<std::size_t>(font)] =
-                Number(node, FontAttributes(which, clockType).size);
+                NumberOf(node, FontAttributes(which, clockType).size);
     }
     return sizes;
 }
@@ -125,9 +106,7 @@ GlyphSource GlyphImages::SourceFor(HClockNode &node, const FontSizes &sizes)
         const QString family =
             node.GetAttribute(Key(FontAttributes(row.font, node.ClockType()).family));
         const int points = sizes[static_cast<std::size_t>(row.font)];
-        if (row.shape == GlyphShape::DigitStrip)
-            return Draw(family, points, QString::fromLatin1(kDigits), kDigitCells);
-        return Draw(family, points, WordingOf(node, {&row, number}), CellsOf(glyph));
+        return Draw(family, points, GlyphText({&row, number}, TopTextOf(node)), CellsOf(glyph));
     };
 }
 
@@ -166,8 +145,7 @@ bool GlyphImages::LacksImages(HClockNode &node, const FontSizes &sizes, GlyphFon
         const GlyphRow &row = *image.row;
         if (row.font != font || !IsNeeded(node, row.glyph))
             continue;
-        const bool hasText =
-            row.shape == GlyphShape::DigitStrip || !WordingOf(node, image).isEmpty();
+        const bool hasText = !GlyphText(image, TopTextOf(node)).isEmpty();
         if (hasText && source(row.glyph, image.number).IsNull())
             return true;
     }

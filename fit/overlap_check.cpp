@@ -1,6 +1,4 @@
-#include "overlap_check.h"
-
-#include "worst_case.h"
+#include "clock_checks.h"
 
 #include <map>
 #include <utility>
@@ -117,26 +115,19 @@ private:
             const bool isBelow = std::any_of(lower.cbegin(), lower.cend(), [&](const Still &one) {
                 return one.part == text.part;
             });
-            TakeTimes(isBelow ? Found(text.part, Part::Time) : Found(Part::Time, text.part), state,
-                      time.topLeft, other.Mask());
+            TakeOverlaps(isBelow ? Found(text.part, Part::Time) : Found(Part::Time, text.part),
+                         state, time.topLeft, other.Mask());
         }
     }
 
-    void TakeTimes(WorstCase &found, const ClockYear::State &state, const QPoint &topLeft,
-                   const InkMask &other)
+    void TakeOverlaps(WorstCase &found, const ClockYear::State &state, const QPoint &topLeft,
+                      const InkMask &other)
     {
         const TimeMeasure common = Measure(state.hours, TimeMeasure::Sum,
                                            [&](const Element &time, const QVector<bool> &chosen) {
                                                return InkMask(time, topLeft, chosen).Common(other);
                                            });
-        if (common.Most() <= 0 || found.Covers(common.Most(), state.stretch.begin))
-            return;
-        const int from = state.stretch.firstSecond;
-        const int end = state.stretch.EndSecond();
-        const int most = MostWithin(state.hours, common, from, end);
-        if (most > 0)
-            found.Take(most, state.stretch.At(FirstSecond(state.hours, common, 1, from, end)),
-                       state.stretch.At(FirstSecond(state.hours, common, most, from, end)));
+        TakeTimes(found, state, common);
     }
 
     // The bounds of the ink of all times in an hour class.

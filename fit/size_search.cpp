@@ -12,7 +12,7 @@ using namespace Lw::HNodeClock;
 namespace {
 
 constexpr int kDefaultPoints = 12; // used for a size of 0 or less
-constexpr int kMostTried = 10;
+constexpr int kMaxTrials = 10;
 
 std::size_t Index(GlyphFont font)
 {
@@ -39,7 +39,7 @@ bool FitsAll(ClockCheck &check, HClockNode &node, const FontSizes &sizes, const 
 template<typename Trial>
 int LargestThat(int least, int most, Trial succeeds)
 {
-    for (int tried = 0; least <= most && tried < kMostTried; ++tried) {
+    for (int trial = 0; least <= most && trial < kMaxTrials; ++trial) {
         const int middle = least + (most - least) / 2;
         if (succeeds(middle))
             least = middle + 1;
@@ -65,17 +65,17 @@ int SizeOfPart(ClockCheck &check, HClockNode &node, Part part, const QRect &visi
 // A factor as a fraction, so that sizes are rounded exactly.
 struct Fraction
 {
-    int above;
-    int below;
+    int numerator;
+    int denominator;
 
-    double Value() const { return static_cast<double>(above) / below; }
+    double Value() const { return static_cast<double>(numerator) / denominator; }
     bool operator<(const Fraction &other) const
     {
-        return qint64(above) * other.below < qint64(other.above) * below;
+        return qint64(numerator) * other.denominator < qint64(other.numerator) * denominator;
     }
     bool operator==(const Fraction &other) const
     {
-        return qint64(above) * other.below == qint64(other.above) * below;
+        return qint64(numerator) * other.denominator == qint64(other.numerator) * denominator;
     }
 };
 
@@ -94,7 +94,7 @@ FontSizes Scaled(HClockNode &node, const Fraction &factor)
     FontSizes sizes = SizesOf(node);
     for (const GlyphFont font : FontsShown(node)) {
         int &points = sizes[Index(font)];
-        const qint64 scaled = qint64(EffectiveSize(points)) * factor.above / factor.below;
+        const qint64 scaled = qint64(EffectiveSize(points)) * factor.numerator / factor.denominator;
         points = static_cast<int>(qBound<qint64>(1, scaled, kLargestFontSize));
     }
     return sizes;
@@ -113,10 +113,10 @@ QVector<Fraction> StepsBelowOne(HClockNode &node)
     }
     std::sort(steps.begin(), steps.end());
     steps.erase(std::unique(steps.begin(), steps.end()), steps.end());
-    constexpr int kMostSteps = (1 << kMostTried) - 1;
+    constexpr int kMaxSteps = (1 << kMaxTrials) - 1;
     QVector<Fraction> some;
-    for (int i = 0; steps.size() > kMostSteps && i < kMostSteps; ++i)
-        some.append(steps[static_cast<int>(qint64(i) * steps.size() / kMostSteps)]);
+    for (int i = 0; steps.size() > kMaxSteps && i < kMaxSteps; ++i)
+        some.append(steps[static_cast<int>(qint64(i) * steps.size() / kMaxSteps)]);
     return some.isEmpty() ? steps : some;
 }
 
@@ -165,7 +165,7 @@ std::optional<FontSizes> SizesThatFit(ClockCheck &check, HClockNode &node, const
 
 namespace {
 
-bool IsMore(const Overlap &overlap, const QVector<Overlap> &before)
+bool IsNew(const Overlap &overlap, const QVector<Overlap> &before)
 {
     return std::none_of(before.cbegin(), before.cend(), [&overlap](const Overlap &other) {
         return other.lower == overlap.lower && other.upper == overlap.upper;
@@ -192,7 +192,7 @@ CommonSizes GrownSizes(ClockCheck &check, HClockNode &node, const QRect &visible
             return false;
         const QVector<Overlap> overlaps = check.Overlaps(node, sizes);
         return std::none_of(overlaps.cbegin(), overlaps.cend(),
-                            [&before](const Overlap &one) { return IsMore(one, before); });
+                            [&before](const Overlap &one) { return IsNew(one, before); });
     };
     const int points = LargestThat(largest + 1, 2 * node.Size().height() + 1, fits);
     return {static_cast<double>(points) / largest, Scaled(node, {points, largest})};

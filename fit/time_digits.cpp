@@ -1,5 +1,7 @@
 #include "time_digits.h"
 
+#include "calendar/time_units.h"
+
 #include <algorithm>
 #include <numeric>
 
@@ -10,8 +12,6 @@ using namespace Lw::HNodeClock;
 namespace {
 
 constexpr int kHours = 24;
-constexpr int kMinuteSeconds = 60;
-constexpr int kHourSeconds = 3600;
 // Shown as two equal non-zero digits, so every digit piece differs from that of 00.
 constexpr int kOtherDigits = 11;
 
@@ -38,10 +38,11 @@ HourClass &ClassOf(std::vector<HourClass> &classes, const Element &time)
 void TakeApart(HourClass &hours, ClockScene &scene, qint64 midnight)
 {
     const auto timeAt = [&](int minute, int second) {
-        const int inDay = hours.hours.front() * kHourSeconds + minute * kMinuteSeconds + second;
-        return scene.TimeAt(midnight + inDay * 1000LL);
+        const int inDay =
+            hours.hours.front() * kSecondsPerHour + minute * kSecondsPerMinute + second;
+        return scene.TimeAt(midnight + inDay * kMillisecondsPerSecond);
     };
-    for (int number = 0; number < kMinuteSeconds; ++number) {
+    for (int number = 0; number < kSecondsPerMinute; ++number) {
         hours.minuteTimes.push_back(timeAt(number, 0));
         hours.secondTimes.push_back(timeAt(0, number));
     }
@@ -58,7 +59,8 @@ std::vector<HourClass> HourClassesOf(ClockScene &scene, qint64 midnight)
 {
     std::vector<HourClass> classes;
     for (int hour = 0; hour < kHours; ++hour) {
-        const Element &time = scene.TimeAt(midnight + hour * kHourSeconds * 1000LL);
+        const Element &time =
+            scene.TimeAt(midnight + hour * kSecondsPerHour * kMillisecondsPerSecond);
         HourClass &hours = ClassOf(classes, time);
         hours.hours.push_back(hour);
         hours.hourTimes.push_back(time);
@@ -106,11 +108,11 @@ template<typename Look>
 void ForEachSecond(const HourClass &hours, const TimeMeasure &measure, int from, int end, Look look)
 {
     for (std::size_t i = 0; i < hours.hours.size(); ++i) {
-        const int begin = hours.hours[i] * kHourSeconds;
-        const int last = std::min(end, begin + kHourSeconds);
+        const int begin = hours.hours[i] * kSecondsPerHour;
+        const int last = std::min(end, begin + kSecondsPerHour);
         for (int second = std::max(from, begin); second < last; ++second) {
             const int inHour = second - begin;
-            if (look(second, measure.At(i, inHour / kMinuteSeconds, inHour % kMinuteSeconds)))
+            if (look(second, measure.At(i, inHour / kSecondsPerMinute, inHour % kSecondsPerMinute)))
                 return;
         }
     }

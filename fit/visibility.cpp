@@ -21,11 +21,6 @@ namespace {
 // The key colour, which hosts treat as transparent.
 constexpr QRgb kKeyColour = 0xff010201;
 
-int Number(HClockNode &node, Attribute attribute)
-{
-    return node.GetAttributeToInt(Key(attribute));
-}
-
 double Linear(int channel)
 {
     const double part = channel / 255.0;
@@ -40,7 +35,8 @@ double Luminance(QRgb colour)
 
 QRgb ColourOf(HClockNode &node, Part part)
 {
-    return Lw::HAppConfig::IntToColor(Number(node, *ColourAttribute(part, node.ClockType()))).rgb();
+    return Lw::HAppConfig::IntToColor(NumberOf(node, *ColourAttribute(part, node.ClockType())))
+        .rgb();
 }
 
 } // namespace
@@ -52,20 +48,20 @@ double ContrastOf(QRgb one, QRgb other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QVector<Faint> FaintParts(HClockNode &node, QRgb ground)
+QVector<Faint> FaintParts(HClockNode &node, QRgb background)
 {
     QVector<Faint> faint;
     for (const Part part : PartsShown(node)) {
         const QRgb ink = ColourOf(node, part);
         const bool isKey = ink == kKeyColour;
-        const double contrast = isKey ? 1 : ContrastOf(ink, ground);
+        const double contrast = isKey ? 1 : ContrastOf(ink, background);
         if (contrast < kFaintContrast)
-            faint.append({part, ink, ground, contrast, isKey});
+            faint.append({part, ink, background, contrast, isKey});
     }
     return faint;
 }
 
-QVector<SameHands> HandsOfOneColour(HClockNode &node)
+QVector<SameHands> SameHandsOf(HClockNode &node)
 {
     QVector<Part> hands;
     for (const Part part : PartsShown(node)) {
@@ -104,7 +100,7 @@ double RadiusWithMarks(Part part, int scale)
 
 } // namespace
 
-QVector<LostMarks> MarksLost(HClockNode &node)
+QVector<LostMarks> LostMarksOf(HClockNode &node)
 {
     if (node.ClockType() != AnalogClock)
         return {};
@@ -113,7 +109,7 @@ QVector<LostMarks> MarksLost(HClockNode &node)
     for (const auto &[part, attribute] :
          {std::make_pair(Part::HourMarks, Attribute::HourScaleType),
           std::make_pair(Part::MinuteMarks, Attribute::MinuteScaleType)}) {
-        const int scale = Number(node, attribute);
+        const int scale = NumberOf(node, attribute);
         const double minimumRadius = RadiusWithMarks(part, scale);
         if (minimumRadius > radius)
             lost.append({part, radius, minimumRadius});

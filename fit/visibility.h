@@ -13,8 +13,8 @@ double ContrastOf(QRgb one, QRgb other);
 /// Parts with a lower contrast are reported.
 inline constexpr double kFaintContrast = 3;
 
-QVector<Faint> FaintParts(Lw::HNodeClock::HClockNode &node, QRgb ground);
-QVector<SameHands> HandsOfOneColour(Lw::HNodeClock::HClockNode &node);
-QVector<LostMarks> MarksLost(Lw::HNodeClock::HClockNode &node);
+QVector<Faint> FaintParts(Lw::HNodeClock::HClockNode &node, QRgb background);
+QVector<SameHands> SameHandsOf(Lw::HNodeClock::HClockNode &node);
+QVector<LostMarks> LostMarksOf(Lw::HNodeClock::HClockNode &node);
 
 } // namespace ClockFit

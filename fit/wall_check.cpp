@@ -82,7 +82,7 @@ private:
     // Any other overlap takes precedence over one of hands.
     void Take(ClockOverlap &most, const PartInk &under, const PartInk &over)
     {
-        const Common common = FirstCommon(under, over, m_check.Years().begin);
+        const Common common = FirstCommon(under, over, m_check.CheckedYear().begin);
         const bool isOfHands = IsHand(under) || IsHand(over);
         const bool isMore =
             most.isOfHands == isOfHands ? common.pixels > most.pixels : most.isOfHands;
@@ -103,7 +103,7 @@ private:
         if (!m_isKnown[index]) {
             HClockNode &node = *m_clocks[clock].node;
             m_inks[index] = YearInkOf(node, m_check.Images().SourceFor(node, SizesOf(node)),
-                                      m_check.Years(), m_clocks[clock].area.topLeft());
+                                      m_check.CheckedYear(), m_clocks[clock].area.topLeft());
             m_isKnown[index] = true;
         }
         return m_inks[index];
@@ -134,7 +134,7 @@ QRect VisibleOf(const QRect &area, const QSize &screen)
     return (area & QRect(QPoint(0, 0), screen)).translated(-area.topLeft());
 }
 
-WallFindings LookAtWall(ClockCheck &check, const QVector<WallClock> &clocks, const QSize &screen)
+WallFindings CheckWall(ClockCheck &check, const QVector<WallClock> &clocks, const QSize &screen)
 {
     WallFindings findings;
     const QRect whole(QPoint(0, 0), screen);

@@ -49,6 +49,6 @@ struct WallFindings
 /// The visible part of an area, relative to its top left.
 QRect VisibleOf(const QRect &area, const QSize &screen);
 
-WallFindings LookAtWall(ClockCheck &check, const QVector<WallClock> &clocks, const QSize &screen);
+WallFindings CheckWall(ClockCheck &check, const QVector<WallClock> &clocks, const QSize &screen);
 
 } // namespace ClockFit

@@ -95,7 +95,7 @@ InkMask HandsDisc(HClockNode &node)
     for (const auto &[hand, type] : {std::make_pair(Hand::Hour, Attribute::HourRectType),
                                      std::make_pair(Hand::Minute, Attribute::MinuteRectType),
                                      std::make_pair(Hand::Second, Attribute::SecondRectType)}) {
-        const HandShape shape = ShapeOf(hand, node.GetAttributeToInt(Key(type)), radius);
+        const HandShape shape = ShapeOf(hand, NumberOf(node, type), radius);
         for (const QPointF &point : shape.outline)
             reach = std::max(reach, -point.y());
     }
@@ -112,7 +112,7 @@ InkMask HandsDisc(HClockNode &node)
 // The dial; its hands stay within it.
 InkMask PictureInk(HClockNode &node)
 {
-    const int style = node.GetAttributeToInt(Key(Attribute::PictrueClockType));
+    const int style = NumberOf(node, Attribute::PictrueClockType);
     const QImage dial = ReadImageFile(StyleFolder() + DialPicture(style));
     const QSize size = node.Size();
     const int side = std::min(size.width(), size.height());

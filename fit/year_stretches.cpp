@@ -1,7 +1,7 @@
 #include "year_stretches.h"
 
-#include "calendar/clock_time.h"
 #include "calendar/device_clock.h"
+#include "calendar/time_units.h"
 #include "compose/clock_reading.h"
 
 #include <QDateTime>
@@ -14,29 +14,22 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr qint64 kSecond = 1000;
-constexpr qint64 kDay = 24 * 3600 * kSecond;
-
-qint64 OffsetOf(HClockNode &node)
-{
-    return kSecond
-        * ClockOffset(node.GetAttribute(Key(Attribute::TimeZone)),
-                      node.GetAttribute(Key(Attribute::TimeAdjust)),
-                      node.GetAttributeToInt(Key(Attribute::AdjustType)));
-}
-
+// The instants of a year at which what a clock shows may not go on second by second.
 class Changes
 {
 public:
-    Changes(HClockNode &node, const Year &year) : m_year(year), m_offset(OffsetOf(node))
+    Changes(const ZoneSettings &zone, const Year &year) : m_year(year)
     {
         m_instants.append(year.begin);
-        AddMidnights(m_offset);
-        if (node.GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) != 1)
-            return;
-        AddMidnights(m_offset + DaylightSaving::kShiftSeconds * kSecond);
-        AddBoundaries(node.GetAttribute(Key(Attribute::DaylightSavingTimeStart)));
-        AddBoundaries(node.GetAttribute(Key(Attribute::DaylightSavingTimeEnd)));
+        AddMidnights(zone.offset);
+        const auto yearOf = [&zone](qint64 utc) {
+            return SplitReading(utc + zone.offset * kMillisecondsPerSecond).year;
+        };
+        const QVector<qint64> changes = PossibleChanges(zone, yearOf(year.begin), yearOf(year.end));
+        for (const qint64 utc : changes)
+            Add(utc);
+        if (!changes.isEmpty())
+            AddMidnights(zone.offset + DaylightSaving::kShiftSeconds);
     }
 
     QVector<qint64> InOrder()
@@ -52,31 +45,16 @@ private:
         if (utc > m_year.begin && utc < m_year.end)
             m_instants.append(utc);
     }
-    void AddMidnights(qint64 offset)
+    void AddMidnights(int offsetSeconds)
     {
-        qint64 reading = m_year.begin + offset;
-        reading -= (reading % kDay + kDay) % kDay;
-        for (; reading - offset < m_year.end; reading += kDay)
+        const qint64 offset = offsetSeconds * kMillisecondsPerSecond;
+        const qint64 begin = m_year.begin + offset;
+        qint64 reading = begin - FloorModulo(begin, kMillisecondsPerDay);
+        for (; reading - offset < m_year.end; reading += kMillisecondsPerDay)
             Add(reading - offset);
-    }
-    // Rules apply to every year; the clock's year begins at another instant than that of UTC.
-    void AddBoundaries(const QString &text)
-    {
-        const std::optional<DaylightRule> rule = ParseDaylightRule(text);
-        const auto yearOf = [this](qint64 utc) { return SplitReading(utc + m_offset).year; };
-        for (int year = yearOf(m_year.begin); rule && year <= yearOf(m_year.end); ++year) {
-            const QDateTime boundary = BoundaryInYear(*rule, year);
-            if (boundary.isValid())
-                Add(boundary.toMSecsSinceEpoch() - m_offset);
-        }
-        // Each year has its own daylight saving period, so it may begin or end at the new year.
-        for (int year = yearOf(m_year.begin); year <= yearOf(m_year.end); ++year)
-            Add(QDateTime(QDate(year + 1, 1, 1), QTime(0, 0), Qt::UTC).toMSecsSinceEpoch()
-                - m_offset);
     }
 
     const Year m_year;
-    const qint64 m_offset;
     QVector<qint64> m_instants;
 };
 
@@ -118,24 +96,25 @@ Year YearFrom(qint64 utcMilliseconds)
 // A stretch may begin in the middle of a second.
 qint64 Stretch::LengthUntil(qint64 utc) const
 {
-    return (utc - begin + kSecond - 1) / kSecond;
+    return (utc - begin + kMillisecondsPerSecond - 1) / kMillisecondsPerSecond;
 }
 
 qint64 Stretch::At(int second) const
 {
-    return second == firstSecond
-        ? begin
-        : begin - (begin % kSecond + kSecond) % kSecond + (second - firstSecond) * kSecond;
+    return second == firstSecond ? begin
+                                 : begin - FloorModulo(begin, kMillisecondsPerSecond)
+            + (second - firstSecond) * kMillisecondsPerSecond;
 }
 
 QVector<Stretch> StretchesOf(HClockNode &node, const Year &year)
 {
     ClockReading reading;
     reading.SetUp(node);
+    reading.Update(&node);
     QVector<Stretch> stretches;
     Beginning last;
-    for (const qint64 change : Changes(node, year).InOrder()) {
-        const HeldReading then(change);
+    for (const qint64 change : Changes(reading.Zone(), year).InOrder()) {
+        const HeldInstant held(change);
         reading.Update(&node);
         const DisplayedFields &shown = reading.Fields();
         const Beginning next = {shown, reading.StandardFields(), SecondOfDay(shown)};
@@ -156,7 +135,7 @@ qint64 MidnightOf(const QVector<Stretch> &stretches)
         int second = 0;
         for (int i = first; i < stretches.size() && stretches[i].firstSecond == second; ++i) {
             second = stretches[i].EndSecond();
-            if (second == kDay / kSecond)
+            if (second == kSecondsPerDay)
                 return stretches[first].begin;
         }
     }

@@ -14,19 +14,20 @@ namespace Lw {
 struct GlyphFault
 {
     enum Kind {
-        NotWritten, ///< it could not be written; an older file of that name is kept
-        TooLarge,   ///< above 32767 pixels per side or 64 MiB; an older file is kept
-        NoFont,     ///< no font is installed at all
-        NoLetters,  ///< no installed font has some of its letters: boxes are drawn for them
-        NoInk,      ///< it was generated but is blank although its text is not
-        NotKept,    ///< not shown: the images of its clock, or of all, would take too much memory
+        NotWritten,        ///< it could not be written; an older file of that name is kept
+        TooLarge,          ///< above 32767 pixels per side or 64 MiB; an older file is kept
+        NoFont,            ///< no font is installed at all
+        MissingCharacters, ///< no installed font has some of its characters: boxes are drawn
+                           ///< instead
+        NoInk,             ///< it was generated but is blank although its text is not
+        NotKept, ///< not shown: the images of its clock, or of all, would take too much memory
     };
 
     Kind kind = NotWritten;
-    QString key;     ///< of the image
-    QString path;    ///< the path under its plain name, whether or not it was written
-    int error = 0;   ///< for NotWritten: the value of errno
-    QString letters; ///< of NoLetters, those that are lacking
+    QString key;        ///< of the image
+    QString path;       ///< the path under its plain name, whether or not it was written
+    int error = 0;      ///< for NotWritten: the value of errno
+    QString characters; ///< for MissingCharacters: the missing ones
 };
 
 /// The dynamic property of a node that holds the faults of its images, as a list of maps. A node
@@ -59,7 +60,7 @@ inline void SetGlyphFaults(QObject &node, const QVector<GlyphFault> &faults)
                                  {QStringLiteral("key"), fault.key},
                                  {QStringLiteral("path"), fault.path},
                                  {QStringLiteral("error"), fault.error},
-                                 {QStringLiteral("letters"), fault.letters}});
+                                 {QStringLiteral("letters"), fault.characters}});
     const bool hasFaults = node.property(kGlyphFaults).isValid();
     if (hasFaults || !list.isEmpty())
         node.setProperty(kGlyphFaults, list.isEmpty() ? QVariant() : QVariant(list));

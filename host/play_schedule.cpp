@@ -19,9 +19,9 @@ namespace {
 constexpr qint64 kMillisecond = 1000000; // nanoseconds
 constexpr qint64 kSecond = 1000 * kMillisecond;
 constexpr double kLongestWait = 1e12; // milliseconds; some thirty years
-constexpr qint64 kTogether = 2 * kMillisecond;
+constexpr qint64 kCoalesceWindow = 2 * kMillisecond;
 // If drawing takes longer than this, return to the event loop so that finished frames are shown.
-constexpr qint64 kLongestTurn = 20 * kMillisecond;
+constexpr qint64 kMaxTurn = 20 * kMillisecond;
 
 qint64 Now()
 {
@@ -77,7 +77,7 @@ void PlaySchedule::Fire()
     m_isFiring = true;
     while (const Due due = TakeDue(begun)) {
         due();
-        if (Now() - begun > kLongestTurn)
+        if (Now() - begun > kMaxTurn)
             break;
     }
     m_isFiring = false;
@@ -104,7 +104,7 @@ void PlaySchedule::Arm()
         first = std::min(first, entry.deadline);
     qint64 last = first;
     for (const Entry &entry : qAsConst(m_entries)) {
-        if (entry.deadline <= first + kTogether)
+        if (entry.deadline <= first + kCoalesceWindow)
             last = std::max(last, entry.deadline);
     }
     itimerspec time {};

@@ -80,7 +80,7 @@ QString Letters(const Faults &faults)
 {
     QString letters;
     for (const GlyphFault &fault : faults) {
-        for (const uint letter : fault.letters.toUcs4()) {
+        for (const uint letter : fault.characters.toUcs4()) {
             const QString written = QString::fromUcs4(&letter, 1);
             if (!letters.contains(written))
                 letters += written;
@@ -108,7 +108,7 @@ GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults)
                                "smaller font or a shorter text"));
     AppendIfAny(messages.failures, OfKind(faults, GlyphFault::NoInk),
                 QStringLiteral("the font draws nothing for %1"));
-    const Faults lacking = OfKind(faults, GlyphFault::NoLetters);
+    const Faults lacking = OfKind(faults, GlyphFault::MissingCharacters);
     if (!lacking.isEmpty())
         messages.warnings.append(
             QStringLiteral("no installed font has \"%1\" of %2; boxes are drawn instead")

@@ -47,17 +47,17 @@ DisplayedFields SplitReading(qint64 reading)
     return fields;
 }
 
-QString PlainText(const QDate &date, const char *format)
+QString FormatAscii(const QDate &date, const char *format)
 {
     return QLocale::c().toString(date, QLatin1String(format));
 }
 
-QString PlainText(const QTime &time, const char *format)
+QString FormatAscii(const QTime &time, const char *format)
 {
     return QLocale::c().toString(time, QLatin1String(format));
 }
 
-QString PlainText(const QDateTime &dateTime, const char *format)
+QString FormatAscii(const QDateTime &dateTime, const char *format)
 {
     return QLocale::c().toString(dateTime, QLatin1String(format));
 }

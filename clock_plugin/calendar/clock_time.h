@@ -30,9 +30,9 @@ DisplayedFields SplitReading(qint64 reading);
 /// Formats a date, a time of day or both in Qt's format syntax with ASCII digits, for text that is
 /// stored, exported or read by a program. (Their own toString() writes the system locale's digits.)
 /// Empty for an invalid one.
-QString PlainText(const QDate &date, const char *format);
-QString PlainText(const QTime &time, const char *format);
-QString PlainText(const QDateTime &dateTime, const char *format);
+QString FormatAscii(const QDate &date, const char *format);
+QString FormatAscii(const QTime &time, const char *format);
+QString FormatAscii(const QDateTime &dateTime, const char *format);
 
 /// A time of day written with two ASCII digits each as "hh:mm:ss"; invalid for every other text.
 QTime ParseTimeOfDay(const QString &text);

@@ -62,19 +62,19 @@ QDate FindLocalDate(qint64 utc)
 
 } // namespace
 
-HeldReading::HeldReading() : m_outer(t_hold.reading)
+HeldInstant::HeldInstant() : m_outer(t_hold.reading)
 {
     if (t_hold.depth++ == 0)
         t_hold.reading = ReadSource();
 }
 
-HeldReading::HeldReading(qint64 utcMilliseconds) : m_outer(t_hold.reading)
+HeldInstant::HeldInstant(qint64 utcMilliseconds) : m_outer(t_hold.reading)
 {
     ++t_hold.depth;
     t_hold.reading = qBound<qint64>(-kFurthest, utcMilliseconds, kFurthest);
 }
 
-HeldReading::~HeldReading()
+HeldInstant::~HeldInstant()
 {
     --t_hold.depth;
     t_hold.reading = m_outer;

@@ -16,15 +16,15 @@ namespace Lw::HNodeClock {
 
 /// Freezes the time of this thread during its lifetime, so that all parts of a frame show one
 /// instant. A nested one keeps the outer one's instant.
-class HeldReading
+class HeldInstant
 {
 public:
-    HeldReading();
+    HeldInstant();
     /// Freezes the time at this instant, even when nested; the outer instant is restored
     /// afterwards. Used to find out what a clock shows at another time.
-    explicit HeldReading(qint64 utcMilliseconds);
-    ~HeldReading();
-    Q_DISABLE_COPY(HeldReading)
+    explicit HeldInstant(qint64 utcMilliseconds);
+    ~HeldInstant();
+    Q_DISABLE_COPY(HeldInstant)
 
 private:
     qint64 m_outer;

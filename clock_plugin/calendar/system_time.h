@@ -1,15 +1,16 @@
-// calendar/: the system's clock, for device_clock and for programs.
+// calendar/: the system clock, for device_clock and for programs. Apart from device_clock, so that
+// programs that load the plugin do not link a second replaceable time source.
 #pragma once
 
 #include <QDate>
 
 namespace Lw::HNodeClock {
 
-/// Milliseconds since 1970-01-01 UTC by the system's clock. Read from the kernel in 64 bits: Qt 5
+/// Milliseconds since 1970-01-01 UTC by the system clock. Read from the kernel in 64 bits: Qt 5
 /// asks for a time_t, which ends in January 2038 on 32-bit machines.
 qint64 SystemMilliseconds();
 
-/// The date by the system's clock, in UTC.
+/// The date by the system clock, in UTC.
 QDate SystemDate();
 
 } // namespace Lw::HNodeClock

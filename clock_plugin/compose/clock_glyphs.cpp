@@ -112,7 +112,7 @@ std::optional<GlyphStrip> ClockGlyphs::LoadWithinBounds(const QString &path) con
         return GlyphStrip();
     const GlyphStrip loaded = GlyphStrip::Loaded(file.Digest());
     const bool isLoaded = loaded.Key() != 0;
-    qint64 bytes = isLoaded ? loaded.Bytes() : file.MostBytes();
+    qint64 bytes = isLoaded ? loaded.Bytes() : file.MaxBytes();
     if (!HasRoom(loaded, bytes)) {
         CountLoadedGlyphsExactly();
         bytes = isLoaded ? loaded.Bytes() : file.GlyphBytes();

@@ -30,16 +30,16 @@ void ClockReading::SetUp(HClockNode &node)
                                 node.GetAttributeToInt(Key(Attribute::AdjustType)));
 }
 
-void ClockReading::TakeDaylightRules(HClockNode *node)
+void ClockReading::ReadDaylightRules(HClockNode *node)
 {
-    const bool saves = node && node->GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1;
-    m_zone.start = saves ? node->GetAttribute(Key(Attribute::DaylightSavingTimeStart)) : QString();
-    m_zone.end = saves ? node->GetAttribute(Key(Attribute::DaylightSavingTimeEnd)) : QString();
+    const bool isUsed = node && node->GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) == 1;
+    m_zone.start = isUsed ? node->GetAttribute(Key(Attribute::DaylightSavingTimeStart)) : QString();
+    m_zone.end = isUsed ? node->GetAttribute(Key(Attribute::DaylightSavingTimeEnd)) : QString();
 }
 
 void ClockReading::Update(HClockNode *node)
 {
-    TakeDaylightRules(node);
+    ReadDaylightRules(node);
     const qint64 utc = UtcMilliseconds();
     m_milliseconds = utc + OffsetAt(m_zone, utc, m_daylightSaving) * kMillisecondsPerSecond;
     m_gregorian = m_shown = SplitReading(m_milliseconds);

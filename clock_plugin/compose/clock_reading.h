@@ -21,6 +21,9 @@ public:
     /// daylight saving and no Persian date.
     void Update(HClockNode *node);
 
+    /// Offset and rules as of the last Update(); without daylight saving the rules are empty.
+    const ZoneSettings &Zone() const { return m_zone; }
+
     /// What the clock shows. Year, month and day are Persian for a clock that shows the Persian
     /// date; the weekday is always Gregorian.
     const DisplayedFields &Fields() const { return m_shown; }
@@ -31,7 +34,7 @@ public:
     DisplayedFields StandardFields() const;
 
 private:
-    void TakeDaylightRules(HClockNode *node);
+    void ReadDaylightRules(HClockNode *node);
     void TakePersianDate();
 
     ZoneSettings m_zone;

@@ -60,7 +60,7 @@ bool ElementComposer::Replace(Shown &shown, const Shown &wanted)
 
 void ElementComposer::SetUp(HClockNode &node)
 {
-    m_givenMarks.reset();
+    m_fixedMarks.reset();
     QVector<Lw::GlyphFault> lost;
     SetUp(node, node.ClockType(), m_glyphs.RecordedFiles(node, &lost));
     TellLost(node, lost);
@@ -69,9 +69,9 @@ void ElementComposer::SetUp(HClockNode &node)
 void ElementComposer::SetUp(HClockNode &node, const GlyphSource &source)
 {
     const int clockType = node.ClockType();
-    m_givenMarks.emplace();
+    m_fixedMarks.emplace();
     if (clockType == DigitalClock)
-        m_givenMarks = {source(Glyph::TimeAM, 0), source(Glyph::TimePM, 0)};
+        m_fixedMarks = {source(Glyph::TimeAM, 0), source(Glyph::TimePM, 0)};
     SetUp(node, clockType, source);
 }
 
@@ -133,8 +133,8 @@ const GlyphStrip &ElementComposer::AmPmMark(bool twelveHours)
         && Number(Attribute::DigitalDispAMPM) == 0;
     if (hidden || !m_node)
         return none;
-    if (m_givenMarks)
-        return (*m_givenMarks)[morning ? 0 : 1];
+    if (m_fixedMarks)
+        return (*m_fixedMarks)[morning ? 0 : 1];
     LiveGlyph &mark = morning ? m_glyphs.morningMark : m_glyphs.afternoonMark;
     return mark.Load(m_node->GetFirstFile(GlyphKey(morning ? Glyph::TimeAM : Glyph::TimePM)),
                      [this](const QString &path) { return m_glyphs.LoadFile(path); });

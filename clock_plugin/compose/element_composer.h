@@ -83,7 +83,7 @@ private:
     QPointer<HClockNode> m_node;
     ClockGlyphs m_glyphs;
     ClockReading m_reading;
-    std::optional<std::array<GlyphStrip, 2>> m_givenMarks; ///< AM, PM; in place of the live ones
+    std::optional<std::array<GlyphStrip, 2>> m_fixedMarks; ///< AM, PM; in place of the live ones
     int m_dateType = 0;
     int m_shownHour = 0;
     int m_timeHour = 0;        ///< of the time element

@@ -163,7 +163,7 @@ GlyphStrip GlyphStrip::OfFile(const QString &path)
     if (file.IsNull())
         return GlyphStrip();
     const GlyphStrip loaded = Loaded(file.Digest());
-    return loaded.m_pixels ? loaded : OfFile(file, file.MostBytes());
+    return loaded.m_pixels ? loaded : OfFile(file, file.MaxBytes());
 }
 
 // A failed decode is not cached: memory may only have been short.

@@ -83,7 +83,7 @@ QImage ReadPng(QIODevice &png)
 
 /// Opens without blocking on a FIFO and then checks the open file, as its name may have been given
 /// to another. A file of size 0 may be endless, as in /proc.
-bool OpenOrdinary(QFile &file, const QString &path)
+bool OpenRegular(QFile &file, const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat status
@@ -119,7 +119,7 @@ PictureFile::~PictureFile() = default;
 void PictureFile::Open(const QString &path)
 {
     m_file = std::make_unique<QFile>();
-    if (!OpenOrdinary(*m_file, path))
+    if (!OpenRegular(*m_file, path))
         return;
     m_isPng = m_file->peek(sizeof kPngSignature - 1) == kPngSignature;
     if (m_isPng)
@@ -146,7 +146,7 @@ QByteArray PictureFile::Digest()
     return isRead ? hash.result() : QByteArray();
 }
 
-qint64 PictureFile::MostBytes() const
+qint64 PictureFile::MaxBytes() const
 {
     return 4LL * m_size.width() * m_size.height();
 }
@@ -154,7 +154,7 @@ qint64 PictureFile::MostBytes() const
 qint64 PictureFile::GlyphBytes()
 {
     if (IsNull() || !m_isPng || (m_file && m_file->size() > kLongestInk))
-        return MostBytes();
+        return MaxBytes();
     if (!m_file)
         return GlyphBytesOfPng(m_png);
     const QByteArray png = m_file->readAll();

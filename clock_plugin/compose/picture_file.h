@@ -36,8 +36,8 @@ public:
     QByteArray Digest();
 
     /// Upper bound of the bytes that the image takes as a glyph: 32 bits per pixel.
-    qint64 MostBytes() const;
-    /// The exact bytes: one bit per pixel for a PNG with one colour, else MostBytes(). Only a PNG
+    qint64 MaxBytes() const;
+    /// The exact bytes: one bit per pixel for a PNG with one colour, else MaxBytes(). Only a PNG
     /// that may have one colour is decoded for this, temporarily.
     qint64 GlyphBytes();
 

@@ -22,15 +22,15 @@ constexpr TimeFormat kTimeFormats[] = {
     /* 3 */ {{Part::Hour, Part::Label0, Part::Minute, Part::Label1}, 4},
     /* 4 */ {{Part::Hour, Part::Separator, Part::Minute}, 3},
 };
-constexpr TimeFormat kAboveTheList = {{Part::Hour, Part::Label0, Part::Minute, Part::Second}, 4};
-constexpr TimeFormat kBelowTheList = {{Part::Hour, Part::Separator, Part::Minute, Part::Second}, 4};
+constexpr TimeFormat kFormatAboveRange = {{Part::Hour, Part::Label0, Part::Minute, Part::Second}, 4};
+constexpr TimeFormat kFormatBelowRange = {{Part::Hour, Part::Separator, Part::Minute, Part::Second}, 4};
 // clang-format on
 
 const TimeFormat &FormatOf(int timeType)
 {
     if (timeType < TimeToSecond)
-        return kBelowTheList;
-    return timeType > TimeShortHour ? kAboveTheList : kTimeFormats[timeType];
+        return kFormatBelowRange;
+    return timeType > TimeShortHour ? kFormatAboveRange : kTimeFormats[timeType];
 }
 
 class TimeWriter

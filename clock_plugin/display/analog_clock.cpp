@@ -39,12 +39,12 @@ bool Antialiasing()
 
 // The outline as the rasteriser sees it, rounded to 1/64 pixel. In most seconds the hour hand moves
 // less than that.
-void AppendRasterised(KeptHand::Look &look, const QPolygonF &outline)
+void AppendRasterised(HandCache::CacheKey &key, const QPolygonF &outline)
 {
     constexpr int kGrid = 64;
     for (const QPointF &point : outline) {
-        look.append(qRound(point.x() * kGrid));
-        look.append(qRound(point.y() * kGrid));
+        key.append(qRound(point.x() * kGrid));
+        key.append(qRound(point.y() * kGrid));
     }
 }
 
@@ -82,9 +82,9 @@ void AnalogFace::RefreshDial(const QSize &size)
     DrawDial();
     DrawBadge();
     // Copying drops the paint engine and its memory.
-    const QImage lean = m_dial.copy();
-    if (!lean.isNull())
-        m_dial = lean;
+    const QImage copy = m_dial.copy();
+    if (!copy.isNull())
+        m_dial = copy;
     m_dialDate = LocalDate();
 }
 
@@ -173,30 +173,30 @@ int AnalogFace::DrawHand(int index, double radius, FrameMemory::Painting &painti
     return type;
 }
 
-void AnalogFace::PutShape(const FlatShape &shape, KeptHand &kept, int position,
+void AnalogFace::PutShape(const FlatShape &shape, HandCache &cache, int position,
                           FrameMemory::Painting &painting)
 {
     if (shape.IsEmpty())
         return;
     const QSize size = m_shared.frames.Frame().size();
     const QPoint centre = Centre(size);
-    const bool isTurned = !kept.HasPositions() && shape.disc.isEmpty();
-    KeptHand::Look look;
-    look.append(size.width());
-    look.append(size.height());
-    look.append(shape.colour.rgb());
-    look.append(m_smooth);
-    look.append(shape.disc.width());
-    AppendRasterised(look, isTurned ? OutlineOn(centre, shape) : shape.outline);
-    const KeptShape *const keptShape = kept.At(look, position, KeptLimit(size), [&] {
+    const bool isTurned = !cache.HasPositions() && shape.disc.isEmpty();
+    HandCache::CacheKey key;
+    key.append(size.width());
+    key.append(size.height());
+    key.append(shape.colour.rgb());
+    key.append(m_smooth);
+    key.append(shape.disc.width());
+    AppendRasterised(key, isTurned ? OutlineOn(centre, shape) : shape.outline);
+    const CachedShape *const cached = cache.At(key, position, CacheLimit(size), [&] {
         const QPolygonF outline = OutlineOn(centre, shape);
-        return m_canvas.Keep(outline, shape.colour, m_smooth, size,
-                             [&](QPainter &painter, const QPoint &place) {
-                                 PaintFlatFrom(painter, place, centre, shape, outline);
-                             });
+        return m_canvas.Cache(outline, shape.colour, m_smooth, size,
+                              [&](QPainter &painter, const QPoint &place) {
+                                  PaintFlatFrom(painter, place, centre, shape, outline);
+                              });
     });
-    if (keptShape) {
-        painting.Blend(*keptShape);
+    if (cached) {
+        painting.Blend(*cached);
     } else {
         PaintFlat(Painter(), shape);
         painting.Covers(OutlineOn(centre, shape));

@@ -6,7 +6,7 @@
 #include "display/analog_painting.h"
 #include "display/clock_face.h"
 #include "display/frames/frame_memory.h"
-#include "display/frames/kept_hand.h"
+#include "display/frames/hand_cache.h"
 #include "display/frames/text_rows.h"
 
 #include <QDate>
@@ -45,7 +45,7 @@ private:
     void RefreshDial(const QSize &size);
     void CountRepeatedSecond();
     int DrawHand(int index, double radius, FrameMemory::Painting &painting);
-    void PutShape(const FlatShape &shape, KeptHand &kept, int position,
+    void PutShape(const FlatShape &shape, HandCache &cache, int position,
                   FrameMemory::Painting &painting);
     QPainter &Painter();
 
@@ -56,8 +56,8 @@ private:
     TextRows m_texts;   // on the dial
     FrameMemory m_memory;
     bool m_smooth = false; // antialiased hands
-    KeptHand m_hands[kHands] = {KeptHand(1), KeptHand(1), KeptHand(60)};
-    KeptHand m_cap;
+    HandCache m_hands[kHands] = {HandCache(1), HandCache(1), HandCache(60)};
+    HandCache m_cap;
     ColourCanvas m_canvas;
     int m_lastSecond = -1;
     // Diagnostics, for a debugger: frames that showed the same second as the previous one.

@@ -7,6 +7,7 @@
 #include "compose/draw_clock_classify_image.h"
 #include "display/frames/frame_pair.h"
 #include "display/row_layout.h"
+#include "glyph/glyph_drawing.h"
 #include "glyph/glyph_set.h"
 
 #include <QColor>
@@ -15,13 +16,6 @@
 #include <QSize>
 
 namespace Lw::HNodeClock {
-
-/// A stored colour, 0x00BBGGRR, which is always opaque.
-inline QColor ColourOf(int stored)
-{
-    const auto packed = static_cast<LWColor>(stored);
-    return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
-}
 
 /// The host may delete the node during any of these calls: for a deleted node every number is 0,
 /// and size and file are empty.

@@ -29,7 +29,7 @@ QImage DrawDisplayImage::DrawClockDisplayImage()
     shared.frames.Begin();
     if (!shared.node)
         return shared.frames.Frame();
-    const HeldReading oneInstant;
+    const HeldInstant oneInstant;
     const ElementComposer::FrameScope oneFrame(shared.Elements());
     shared.frameWidth = shared.Size().width();
     CalculateTimeZone();
@@ -54,7 +54,7 @@ QRegion DrawDisplayImage::FrameDamage() const
 {
     const FramePair &frames = d->shared.frames;
     const QRect whole = frames.Frame().rect();
-    switch (frames.FromLast()) {
+    switch (frames.DifferenceFromLast()) {
     case FramePair::Difference::None:
         return QRegion();
     case FramePair::Difference::SinceFrameBefore:
@@ -74,7 +74,7 @@ void DrawDisplayImage::CalculateTimeZone()
 {
     if (!d->shared.node)
         return;
-    const HeldReading oneInstant;
+    const HeldInstant oneInstant;
     d->TakeFields(d->shared.Elements().UpdateReading().GregorianFields());
     d->millisecond = LocalMillisecond();
     d->RecordStartTime();
@@ -105,7 +105,7 @@ void DrawDisplayImage::Private::TakeFields(const DisplayedFields &fields)
     const bool isSameDay =
         fields.day == last.day && fields.month == last.month && fields.year == last.year;
     if (!isSameDay)
-        dateText = PlainText(QDate(fields.year, fields.month, fields.day), "yyyy/MM/dd");
+        dateText = FormatAscii(QDate(fields.year, fields.month, fields.day), "yyyy/MM/dd");
     shared.now = fields;
 }
 

@@ -106,11 +106,11 @@ void PictureFace::Draw()
     const DisplayedFields &now = m_shared.now;
     FrameMemory::Painting painting(m_memory, frame);
     m_shared.painter.begin(&frame);
-    Put({m_hour, (now.hour + now.minute / 60.0) * 30, kHourPlace}, m_keptHour, 0, painting);
+    Put({m_hour, (now.hour + now.minute / 60.0) * 30, kHourPlace}, m_hourCache, 0, painting);
     // The minute hand has 3600 positions: too many to cache.
     Paint({m_minute, (now.minute + now.second / 60.0) * 6, kMinutePlace}, painting);
-    Put({m_second, now.second * 6.0, kSecondPlace}, m_keptSecond, now.second, painting);
-    Put({m_centre, 0, kCentrePlace}, m_keptCentre, 0, painting);
+    Put({m_second, now.second * 6.0, kSecondPlace}, m_secondCache, now.second, painting);
+    Put({m_centre, 0, kCentrePlace}, m_centreCache, 0, painting);
     m_shared.painter.end();
 }
 
@@ -125,23 +125,23 @@ void PictureFace::Paint(const TurnedPicture &part, FrameMemory::Painting &painti
 }
 
 // The hour hand is the lowest part, so its shape is cached together with the background under it.
-void PictureFace::Put(const TurnedPicture &part, KeptHand &kept, int position,
+void PictureFace::Put(const TurnedPicture &part, HandCache &cache, int position,
                       FrameMemory::Painting &painting)
 {
     if (part.picture.isNull())
         return;
-    const bool isLowest = &kept == &m_keptHour;
+    const bool isLowest = &cache == &m_hourCache;
     QImage &frame = m_shared.frames.Frame();
-    KeptHand::Look look;
-    look.append(frame.width());
-    look.append(frame.height());
-    look.append(part.picture.cacheKey());
+    HandCache::CacheKey key;
+    key.append(frame.width());
+    key.append(frame.height());
+    key.append(part.picture.cacheKey());
     if (isLowest) {
-        look.append(m_background.cacheKey());
-        look.append(qRound(part.degrees * 2)); // it moves by half a degree
+        key.append(m_background.cacheKey());
+        key.append(qRound(part.degrees * 2)); // it moves by half a degree
     }
-    const KeptShape *const shape = kept.At(look, position, KeptLimit(frame.size()), [&] {
-        const KeptShape painted = Keep(part);
+    const CachedShape *const shape = cache.At(key, position, CacheLimit(frame.size()), [&] {
+        const CachedShape painted = CachedPicture(part);
         if (!isLowest || !painted.IsMade())
             return painted;
         painted.Blend(frame.bits(), frame.bytesPerLine());
@@ -153,14 +153,14 @@ void PictureFace::Put(const TurnedPicture &part, KeptHand &kept, int position,
         Paint(part, painting);
 }
 
-KeptShape PictureFace::Keep(const TurnedPicture &part)
+CachedShape PictureFace::CachedPicture(const TurnedPicture &part)
 {
     const QSize size = m_shared.frames.Frame().size();
     const QTransform face = FaceOn(size);
     QTransform turned = face;
     turned.rotate(part.degrees);
     const QRect box = BoxAround(turned.map(QPolygonF(QRectF(part.place))));
-    return KeepPicture(box & QRect(QPoint(0, 0), size), [&](QPainter &painter) {
+    return CachePicture(box & QRect(QPoint(0, 0), size), [&](QPainter &painter) {
         painter.setWorldTransform(face);
         PaintTurned(painter, part.picture, part.degrees, part.place);
     });

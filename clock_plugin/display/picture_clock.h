@@ -4,7 +4,7 @@
 
 #include "display/clock_face.h"
 #include "display/frames/frame_memory.h"
-#include "display/frames/kept_hand.h"
+#include "display/frames/hand_cache.h"
 
 #include <QPixmap>
 
@@ -41,9 +41,9 @@ private:
     void DrawBackground(const QRect &dial, const QString &file);
     void Restore(QImage &frame);
     void Paint(const TurnedPicture &part, FrameMemory::Painting &painting);
-    void Put(const TurnedPicture &part, KeptHand &kept, int position,
+    void Put(const TurnedPicture &part, HandCache &cache, int position,
              FrameMemory::Painting &painting);
-    KeptShape Keep(const TurnedPicture &part);
+    CachedShape CachedPicture(const TurnedPicture &part);
 
     SharedByFaces &m_shared;
     QPixmap m_hour;
@@ -55,9 +55,9 @@ private:
     QSize m_size;               // of the frames that the background is for
     std::optional<int> m_style; // of the frame; none before the first
     FrameMemory m_memory;
-    KeptHand m_keptHour;
-    KeptHand m_keptSecond {60};
-    KeptHand m_keptCentre;
+    HandCache m_hourCache;
+    HandCache m_secondCache {60};
+    HandCache m_centreCache;
 };
 
 } // namespace Lw::HNodeClock

@@ -1,7 +1,5 @@
 #include "display/row_placement.h"
 
-#include "display/row_elements.h"
-
 #include <QPointer>
 
 namespace Lw::HNodeClock {
@@ -9,16 +7,28 @@ namespace Lw::HNodeClock {
 namespace {
 
 // The host may delete the node during a call. All numbers are 0 then.
-using AskedNode = QPointer<HClockNode>;
+using GuardedNode = QPointer<HClockNode>;
 
-int Number(const AskedNode &node, Attribute attribute)
+int Number(const GuardedNode &node, Attribute attribute)
 {
     return node ? node->GetAttributeToInt(Key(attribute)) : 0;
 }
 
-int Number(const AskedNode &node, int (HClockNode::*setting)())
+int Number(const GuardedNode &node, int (HClockNode::*setting)())
 {
     return node ? (node->*setting)() : 0;
+}
+
+// The heights of the rows whose entry in `measured` is not 0. The others are 0, and their elements
+// are not composed at all.
+Rows HeightsOf(ElementComposer &elements, const Rows &measured)
+{
+    Rows heights;
+    for (const Row row : kDateFirst) {
+        if (measured[row] != 0)
+            heights[row] = ElementIn(row, elements).Height();
+    }
+    return heights;
 }
 
 using LayOut = void (*)(const DigitalArea &, Rows &);
@@ -63,9 +73,26 @@ Placements InRows(const DigitalSettings &settings, ElementComposer &elements, co
 
 } // namespace
 
+const Element &ElementIn(Row row, ElementComposer &elements)
+{
+    switch (row) {
+    case Row::TopText:
+        return elements.TopText();
+    case Row::Date:
+        return elements.Date();
+    case Row::Week:
+        return elements.Week();
+    case Row::Time:
+        return elements.Time();
+    case Row::Lunar:
+        break;
+    }
+    return elements.Lunar();
+}
+
 DigitalSettings::DigitalSettings(HClockNode &node)
 {
-    const AskedNode asked(&node);
+    const GuardedNode asked(&node);
     area = node.Size();
     space = Number(asked, Attribute::DigitalSpace);
     swap = Number(asked, &HClockNode::DigitalSwapArea);
@@ -116,7 +143,7 @@ constexpr TextRow kTexts[] = {
 
 void LayOutAnalog(HClockNode &node, ElementComposer &elements, Rows &tops)
 {
-    const AskedNode asked(&node);
+    const GuardedNode asked(&node);
     const QSize size = node.Size();
     Rows flags;
     flags.date = Number(asked, Attribute::Analog_Date_d);
@@ -137,7 +164,7 @@ void LayOutAnalog(HClockNode &node, ElementComposer &elements, Rows &tops)
 
 Placements PlaceAnalog(HClockNode &node, ElementComposer &elements, const Rows &tops)
 {
-    const AskedNode asked(&node);
+    const GuardedNode asked(&node);
     const int middle = node.Size().width() / 2;
     Placements placements;
     for (const TextRow &text : kTexts) {

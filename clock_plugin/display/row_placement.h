@@ -24,6 +24,9 @@ struct DigitalSettings
     bool onOneLine = false;
 };
 
+/// The element that a text row shows.
+const Element &ElementIn(Row row, ElementComposer &elements);
+
 /// Computes the top edges of a digital clock's rows with the layout for `count` rows, 0 to 5, and
 /// the given gap. Tops that the layout does not set are unchanged.
 void LayOutDigital(const DigitalSettings &settings, int count, int space, ElementComposer &elements,

@@ -146,7 +146,7 @@ QString DrwSourceIMage::PathOf(GlyphShape shape, const QString &id, const QStrin
 // An empty top text removes its file, or the previous text would stay on the wall.
 GlyphOutcome DrwSourceIMage::Make(HClockNode *node, const QString &key, const GlyphRequest &request)
 {
-    GlyphOutcome outcome = Deliver(request);
+    GlyphOutcome outcome = DrawAndWrite(request);
     outcome.path = request.path;
     outcome.text = request.text;
     if (outcome.state == GlyphState::Nothing && request.isTopText)
@@ -156,7 +156,7 @@ GlyphOutcome DrwSourceIMage::Make(HClockNode *node, const QString &key, const Gl
 }
 
 /// Draws the image unless it is cached, and writes it unless the file already has it.
-GlyphOutcome DrwSourceIMage::Deliver(const GlyphRequest &request)
+GlyphOutcome DrwSourceIMage::DrawAndWrite(const GlyphRequest &request)
 {
     GlyphOutcome outcome;
     if (request.text.isEmpty())
@@ -165,7 +165,7 @@ GlyphOutcome DrwSourceIMage::Deliver(const GlyphRequest &request)
         return outcome;
     const GlyphFace &face = FaceFor(request.family, request.size);
     const GlyphContent content {request.shape, request.text, face.description, request.colour};
-    GlyphMemory &memory = GlyphMemory::Shared();
+    GlyphCache &memory = GlyphCache::Shared();
     DrawnGlyph glyph = memory.Find(content);
     bool isThere = glyph.state == GlyphState::Drawn && Holds(request.path, glyph);
     if (!isThere && glyph.file.isNull()) {
@@ -215,8 +215,7 @@ int DrwSourceIMage::GetNumberMaxWidth(QFontMetrics metrics)
 
 QColor DrwSourceIMage::IntToQColor(int colour)
 {
-    const auto packed = static_cast<LWColor>(colour);
-    return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
+    return ColourOf(colour);
 }
 
 } // namespace Lw::HNodeClock

@@ -75,7 +75,7 @@ private:
     Q_DECL_HIDDEN QString PathOf(GlyphShape shape, const QString &id, const QString &suffix) const;
     Q_DECL_HIDDEN GlyphOutcome Make(HClockNode *node, const QString &key,
                                     const GlyphRequest &request);
-    Q_DECL_HIDDEN GlyphOutcome Deliver(const GlyphRequest &request);
+    Q_DECL_HIDDEN GlyphOutcome DrawAndWrite(const GlyphRequest &request);
     Q_DECL_HIDDEN const GlyphFace &FaceFor(const QString &family, int size);
     Q_DECL_HIDDEN void Record(HClockNode *node, const QString &key, const QString &path);
 

@@ -24,14 +24,15 @@ Lw::GlyphFault Fault(Lw::GlyphFault::Kind kind, const GlyphImage &image)
     return fault;
 }
 
-std::optional<Lw::GlyphFault> FontFault(const GlyphImage &image, const QString &lackingLetters)
+std::optional<Lw::GlyphFault> FontFault(const GlyphImage &image,
+                                        const QString &charactersWithoutGlyph)
 {
-    if (!GlyphMemory::Shared().HasFonts())
+    if (!GlyphCache::Shared().HasFonts())
         return Fault(Lw::GlyphFault::NoFont, image);
-    if (lackingLetters.isEmpty())
+    if (charactersWithoutGlyph.isEmpty())
         return std::nullopt;
-    Lw::GlyphFault fault = Fault(Lw::GlyphFault::NoLetters, image);
-    fault.letters = lackingLetters;
+    Lw::GlyphFault fault = Fault(Lw::GlyphFault::MissingCharacters, image);
+    fault.characters = charactersWithoutGlyph;
     return fault;
 }
 
@@ -42,7 +43,7 @@ std::optional<Lw::GlyphFault> PictureFault(const GlyphImage &image, const GlyphO
         return Fault(Lw::GlyphFault::TooLarge, image);
     if (outcome.state == GlyphState::Nothing)
         return std::nullopt;
-    if (auto fault = FontFault(image, outcome.facts.lackingLetters))
+    if (auto fault = FontFault(image, outcome.facts.charactersWithoutGlyph))
         return fault;
     if (!outcome.facts.hasInk && IsInkExpected(outcome.text))
         return Fault(Lw::GlyphFault::NoInk, image);

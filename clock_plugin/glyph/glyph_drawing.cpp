@@ -2,10 +2,7 @@
 
 #include "glyph/glyph_picture.h"
 
-#include "lw_types.h"
-
 #include <QBuffer>
-#include <QColor>
 #include <QCryptographicHash>
 #include <QImage>
 #include <QPainter>
@@ -83,7 +80,7 @@ bool IsSeen(uint letter)
 
 } // namespace
 
-QString LackingLetters(const QFontMetrics &metrics, const QString &text)
+QString CharactersWithoutGlyph(const QFontMetrics &metrics, const QString &text)
 {
     QString lacking;
     for (const uint letter : text.toUcs4()) {
@@ -96,13 +93,13 @@ QString LackingLetters(const QFontMetrics &metrics, const QString &text)
 
 DrawnGlyph DrawGlyphImage(QPainter &painter, const GlyphContent &content, const QFont &font)
 {
-    const auto packed = static_cast<LWColor>(content.colour);
-    const QColor colour(RedOf(packed), GreenOf(packed), BlueOf(packed));
+    const QColor colour = ColourOf(content.colour);
     DrawnGlyph drawn = content.shape == GlyphShape::DigitStrip
         ? DrawStrip(painter, font, colour)
         : DrawText(painter, font, content.text, colour);
     if (drawn.state == GlyphState::Drawn)
-        drawn.facts.lackingLetters = LackingLetters(QFontMetrics(font), content.text);
+        drawn.facts.charactersWithoutGlyph =
+            CharactersWithoutGlyph(QFontMetrics(font), content.text);
     return drawn;
 }
 

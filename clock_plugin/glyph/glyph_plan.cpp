@@ -2,7 +2,7 @@
 
 #include "clock_node.h"
 #include "glyph/glyph_check.h"
-#include "glyph/glyph_memory.h"
+#include "glyph/glyph_cache.h"
 #include "glyph/glyph_picture.h"
 #include "image_bounds.h"
 

@@ -36,7 +36,7 @@ QString DateText(qint64 instant, int offset)
 
 QString StoredAdjustment(const QTime &time)
 {
-    return PlainText(time, "hh'A'mm'B'ss");
+    return FormatAscii(time, "hh'A'mm'B'ss");
 }
 
 } // namespace

@@ -193,7 +193,7 @@ void SendDialog::Send()
                                 this)))
         return;
     const QString release =
-        Lw::HNodeClock::PlainText(QDateTime::currentDateTimeUtc(), "yyyyMMdd-HHmmss");
+        Lw::HNodeClock::FormatAscii(QDateTime::currentDateTimeUtc(), "yyyyMMdd-HHmmss");
     if (Bring(folder, release))
         Follow(tr("%1 has release %2. The one before is kept.").arg(Target().name, release));
 }

@@ -108,7 +108,7 @@ void TestDeviceClock::HoldKeepsOneReading()
 {
     const qint64 first = s_now;
     {
-        const HeldReading held;
+        const HeldInstant held;
         s_now = At("2030-01-02T03:04:05.678Z");
         QCOMPARE(UtcMilliseconds(), first);
         QCOMPARE(LocalMillisecond(), 250);
@@ -123,10 +123,10 @@ void TestDeviceClock::HoldKeepsOneReading()
 void TestDeviceClock::InnerHoldKeepsOuterReading()
 {
     const qint64 first = s_now;
-    const HeldReading outer;
+    const HeldInstant outer;
     s_now += 5000;
     {
-        const HeldReading inner;
+        const HeldInstant inner;
         QCOMPARE(UtcMilliseconds(), first);
     }
     QCOMPARE(UtcMilliseconds(), first);
@@ -137,10 +137,10 @@ void TestDeviceClock::GivenInstantIsHeldWithinAnother()
 {
     clock_set_time_source(&FixedTime);
     s_now = 7000;
-    const HeldReading outer;
+    const HeldInstant outer;
     {
-        const HeldReading given(5123);
-        const HeldReading inner;
+        const HeldInstant given(5123);
+        const HeldInstant inner;
         QCOMPARE(UtcMilliseconds(), qint64(5123));
         QCOMPARE(LocalMillisecond(), 123);
     }
@@ -150,7 +150,7 @@ void TestDeviceClock::GivenInstantIsHeldWithinAnother()
 void TestDeviceClock::HoldSurvivesNewSource()
 {
     const qint64 first = s_now;
-    auto held = std::make_unique<HeldReading>();
+    auto held = std::make_unique<HeldInstant>();
     clock_set_time_source(OtherTime);
     QCOMPARE(UtcMilliseconds(), first);
     held.reset();
@@ -159,7 +159,7 @@ void TestDeviceClock::HoldSurvivesNewSource()
 
 void TestDeviceClock::HoldIsOfItsThread()
 {
-    const HeldReading held;
+    const HeldInstant held;
     s_now += 1000;
     qint64 elsewhere = 0;
     const std::unique_ptr<QThread> thread(
@@ -206,7 +206,7 @@ void TestDeviceClock::FurthestTimes()
     QVERIFY(reading >= std::numeric_limits<qint64>::min() + kYear);
     QCOMPARE(reading > 0, now > 0);
     QVERIFY(LocalMillisecond() >= 0 && LocalMillisecond() <= 999);
-    const HeldReading held;
+    const HeldInstant held;
     QCOMPARE(UtcMilliseconds(), reading);
     QCOMPARE(LocalDate().isValid() && LocalDate().year() > 0, now > 0);
 }

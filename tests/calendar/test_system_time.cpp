@@ -93,7 +93,7 @@ void TestSystemTime::ClocksReadIt()
     QCOMPARE(UtcMilliseconds(), Q_INT64_C(2216413800123));
     QCOMPARE(LocalMillisecond(), 123);
     QCOMPARE(LocalDate(), QDate(2040, 3, 26));
-    const HeldReading held;
+    const HeldInstant held;
     s_kernelSeconds += 1;
     QCOMPARE(UtcMilliseconds(), Q_INT64_C(2216413800123));
 }

@@ -421,9 +421,9 @@ void TestGlyphLoading::GivenImagesAreShownInPlaceOfFiles()
     });
     QVERIFY(QFile::remove(node.GetFirstFile("_timePM")));
 
-    const HeldReading midnight(0);
+    const HeldInstant midnight(0);
     QCOMPARE(LetteredGlyphs::Read(composer.TimePixmap()), QStringLiteral("0000:0000_PPP"));
-    const HeldReading noon(12 * 3600 * 1000);
+    const HeldInstant noon(12 * 3600 * 1000);
     QCOMPARE(LetteredGlyphs::Read(composer.TimePixmap()), QStringLiteral("1122:0000_PPP"));
     composer.SetUp(node);
     QCOMPARE(LetteredGlyphs::Read(composer.TimePixmap()), QStringLiteral("1122:0000"));

@@ -152,9 +152,9 @@ void TestFit::HiddenPartsAreNotFound()
          {"Digital_TopTexy_d", "Digital_Date_d", "Digital_Week_d", "Digital_Time_d"})
         clock.Set(flag, 0);
     ClockCheck check(YearFrom(0));
-    QVERIFY(check.Look(clock.node).IsEmpty());
+    QVERIFY(check.Check(clock.node).IsEmpty());
     clock.Set("Digital_Week_d", 1);
-    const ClockFindings findings = check.Look(clock.node);
+    const ClockFindings findings = check.Check(clock.node);
     QVERIFY(!findings.cuts.isEmpty());
     for (const Cut &cut : findings.cuts)
         QCOMPARE(cut.part, Part::Week);
@@ -168,8 +168,8 @@ void TestFit::VisiblePartOfAnArea()
     for (const char *flag : {"Digital_TopTexy_d", "Digital_Date_d", "Digital_Week_d"})
         clock.Set(flag, 0);
     ClockCheck check(YearFrom(0));
-    QVERIFY(check.Look(clock.node).cuts.isEmpty());
-    const QVector<Cut> cuts = check.Look(clock.node, QRect(0, 0, 100, 40)).cuts;
+    QVERIFY(check.Check(clock.node).cuts.isEmpty());
+    const QVector<Cut> cuts = check.Check(clock.node, QRect(0, 0, 100, 40)).cuts;
     QCOMPARE(cuts.size(), 1);
     QCOMPARE(cuts[0].side, Side::Right);
     QVERIFY(!cuts[0].isGone);
@@ -180,10 +180,10 @@ void TestFit::HugeSizesAreNotDrawn()
     ClockUnderTest clock(1);
     clock.Set("DigitalTimeFSize", 40000);
     ClockCheck check(YearFrom(0));
-    const ClockFindings findings = check.Look(clock.node);
-    QCOMPARE(findings.undrawn.size(), 1);
-    QCOMPARE(findings.undrawn[0].part, Part::Time);
-    QCOMPARE(findings.undrawn[0].points, 40000);
+    const ClockFindings findings = check.Check(clock.node);
+    QCOMPARE(findings.tooLarge.size(), 1);
+    QCOMPARE(findings.tooLarge[0].part, Part::Time);
+    QCOMPARE(findings.tooLarge[0].points, 40000);
 }
 
 void TestFit::NothingOfOddClocks_data()
@@ -201,8 +201,8 @@ void TestFit::NothingOfOddClocks()
     QFETCH(QSize, size);
     ClockUnderTest clock(type, size);
     ClockCheck check(YearFrom(0));
-    QVERIFY(check.Look(clock.node).IsEmpty());
-    QVERIFY(LookAtWall(check, {{&clock.node, QRect(QPoint(0, 0), size)}}, QSize(64, 64))
+    QVERIFY(check.Check(clock.node).IsEmpty());
+    QVERIFY(CheckWall(check, {{&clock.node, QRect(QPoint(0, 0), size)}}, QSize(64, 64))
                 .overlaps.empty());
 }
 

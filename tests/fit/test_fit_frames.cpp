@@ -222,11 +222,11 @@ void TestFitFrames::MissingInkIsWhatIsSaid()
     QFETCH(int, number);
     MadeUpClock clock(m_seed, static_cast<quint32>(number));
     ClockCheck check(YearFrom(clock.begin));
-    const ClockFindings findings = check.Look(clock.node);
+    const ClockFindings findings = check.Check(clock.node);
     m_cut += findings.cuts.isEmpty() ? 0 : 1;
     m_covered += findings.overlaps.isEmpty() ? 0 : 1;
     m_clean += findings.cuts.isEmpty() && findings.overlaps.isEmpty() ? 1 : 0;
-    const QStringList faults = Proof(clock, findings, check.Years()).Run();
+    const QStringList faults = Proof(clock, findings, check.CheckedYear()).Run();
     QVERIFY2(faults.isEmpty(),
              qPrintable(clock.Description() + ": " + faults.join(QStringLiteral("; "))));
 }

@@ -225,7 +225,7 @@ private Q_SLOTS:
         QTest::newRow("too wide") << QString(10000, 'W') << 12 << int(GlyphFault::TooLarge) << "";
         QTest::newRow("font too large") << "LED" << 40000 << int(GlyphFault::TooLarge) << "";
         QTest::newRow("unknown letter, twice")
-            << unknown + "LED" + unknown << 12 << int(GlyphFault::NoLetters) << unknown;
+            << unknown + "LED" + unknown << 12 << int(GlyphFault::MissingCharacters) << unknown;
     }
     void BadTopText()
     {
@@ -242,7 +242,7 @@ private Q_SLOTS:
         QCOMPARE(faults.size(), 1);
         QCOMPARE(faults[0].key, QString("_toptext"));
         QCOMPARE(int(faults[0].kind), kind);
-        QCOMPARE(faults[0].letters, letters);
+        QCOMPARE(faults[0].characters, letters);
         SetInt(node, Attribute::Digital_TopTexy_d, 0);
         Generate(node);
         QVERIFY2(GlyphFaultsOf(node).isEmpty(), "told of a row that is hidden");

@@ -73,13 +73,13 @@ private Q_SLOTS:
                                "the font draws nothing for the glyph image _a"}));
     }
 
-    void LackingLettersAreAWarning()
+    void MissingCharactersAreAWarning()
     {
         const QString one(QChar(0x4e00));
         const QString two(QChar(0x4e8c));
         const GlyphMessages messages =
-            DescribeGlyphFaults({Fault(GlyphFault::NoLetters, "_lunar", 0, one + two),
-                                 Fault(GlyphFault::NoLetters, "_toptext", 0, two)});
+            DescribeGlyphFaults({Fault(GlyphFault::MissingCharacters, "_lunar", 0, one + two),
+                                 Fault(GlyphFault::MissingCharacters, "_toptext", 0, two)});
         QVERIFY(messages.failures.isEmpty());
         QCOMPARE(messages.warnings,
                  QStringList("no installed font has \"" + one + two

@@ -38,7 +38,7 @@ public:
             LookAtClock();
             m_all.AddOfClock(m_index + 1, m_findings);
         }
-        LookAtWall();
+        CheckWall();
     }
 
 private:
@@ -65,12 +65,12 @@ private:
         const QRect visible = VisibleOf(m_clocks[m_index].area, m_program.size);
         if (visible.isEmpty())
             return; // nothing of it is on the screen, which is said of the wall
-        const ClockFindings found = m_check.Look(Node(), visible);
+        const ClockFindings found = m_check.Check(Node(), visible);
         TellCuts(found.cuts, visible);
         for (const Overlap &overlap : found.overlaps)
             m_findings.Warn(SizePlace(overlap.upper), OverlapWords(overlap));
-        for (const Undrawn &undrawn : found.undrawn)
-            m_findings.Warn(SizePlace(undrawn.part), UndrawnWords(undrawn));
+        for (const TooLarge &tooLarge : found.tooLarge)
+            m_findings.Warn(SizePlace(tooLarge.part), TooLargeWords(tooLarge));
         TellColours(found);
         for (const LostMarks &marks : found.lostMarks)
             m_findings.Note(At(Element()), LostMarksWords(marks));
@@ -121,9 +121,9 @@ private:
     }
 
     // Of a clock that is partly off the screen, what of its texts is cut is said already.
-    void LookAtWall()
+    void CheckWall()
     {
-        const WallFindings found = ClockFit::LookAtWall(m_check, m_clocks, m_program.size);
+        const WallFindings found = ClockFit::CheckWall(m_check, m_clocks, m_program.size);
         for (const OffScreen &off : found.offScreen) {
             m_index = off.clock;
             const bool isDigital = Node().ClockType() == Lw::HNodeClock::DigitalClock;

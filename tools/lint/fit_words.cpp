@@ -131,7 +131,7 @@ QString FaintWords(const Faint &faint)
                           "from 3 on it is easy to see")
         .arg(ColourText(faint.ink), part)
         .arg(faint.contrast, 0, 'f', 1)
-        .arg(ColourText(faint.ground));
+        .arg(ColourText(faint.background));
 }
 
 QString SameHandsWords(const SameHands &hands)
@@ -161,11 +161,11 @@ QString MissingWords(const MissingCharacters &missing)
         .arg(missing.family, NameOf(missing.part), missing.characters, instead, having);
 }
 
-QString UndrawnWords(const Undrawn &undrawn)
+QString TooLargeWords(const TooLarge &tooLarge)
 {
     return QStringLiteral("%1 not drawn: at %2 points its image would be too large")
-        .arg(Subject(undrawn.part))
-        .arg(undrawn.points);
+        .arg(Subject(tooLarge.part))
+        .arg(tooLarge.points);
 }
 
 QString OffScreenWords(const OffScreen &off)

@@ -16,7 +16,7 @@ QString FaintWords(const ClockFit::Faint &faint);
 QString SameHandsWords(const ClockFit::SameHands &hands);
 QString LostMarksWords(const ClockFit::LostMarks &marks);
 QString MissingWords(const ClockFit::MissingCharacters &missing);
-QString UndrawnWords(const ClockFit::Undrawn &undrawn);
+QString TooLargeWords(const ClockFit::TooLarge &tooLarge);
 QString OffScreenWords(const ClockFit::OffScreen &off);
 /// The line is that of the lower clock.
 QString ClockOverlapWords(const ClockFit::ClockOverlap &overlap, int line);

@@ -5,7 +5,7 @@
 
 #include "calendar/clock_time.h"
 #include "clock_sdk_tables.h"
-#include "families.h"
+#include "font_check.h"
 #include "happconfig.h"
 
 #include <QColor>

@@ -18,7 +18,7 @@ QString HourEarlier(const QString &text)
     const auto rule = ParseDaylightRule(text);
     if (!rule || rule->time.hour() == 0)
         return {};
-    const QString time = PlainText(rule->time.addSecs(-3600), "hh:mm:ss");
+    const QString time = FormatAscii(rule->time.addSecs(-3600), "hh:mm:ss");
     return text.section(QLatin1Char('.'), 0, 2) + QLatin1Char('.') + time;
 }
 

@@ -93,7 +93,7 @@ Span ListedAfter(const Span &span)
 
 QString DateOf(qint64 utc)
 {
-    return Lw::HNodeClock::PlainText(Utc(utc), "yyyy-MM-dd");
+    return Lw::HNodeClock::FormatAscii(Utc(utc), "yyyy-MM-dd");
 }
 
 QList<QByteArray> ZoneNames()

@@ -165,7 +165,7 @@ QStringList RulesNaming(qint64 reading)
             .arg(date.month())
             .arg(occurrence)
             .arg(date.dayOfWeek())
-            .arg(PlainText(time.time(), "hh:mm:ss"));
+            .arg(FormatAscii(time.time(), "hh:mm:ss"));
     };
     QStringList rules;
     if (date.day() + 7 > date.daysInMonth())

@@ -96,10 +96,10 @@ std::optional<QRegion> FrameMemory::ChangesSince(const QImage &before, const QIm
         + known->PartsMissingIn(*knownBefore);
 }
 
-// No face paints more than kMostParts parts; an analog clock with arrow hands has the most.
+// No face paints more than kMaxParts parts; an analog clock with arrow hands has the most.
 Spans &FrameMemory::Known::NextPart()
 {
-    Q_ASSERT(count < kMostParts);
+    Q_ASSERT(count < kMaxParts);
     return parts[static_cast<std::size_t>(count++)];
 }
 
@@ -129,7 +129,7 @@ FrameMemory::Painting::~Painting()
         m_known->key = m_frame.cacheKey();
 }
 
-void FrameMemory::Painting::Blend(const KeptShape &shape)
+void FrameMemory::Painting::Blend(const CachedShape &shape)
 {
     if (m_known)
         m_known->NextPart() = shape.Covered();

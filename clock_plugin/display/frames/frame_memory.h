@@ -5,7 +5,7 @@
 // image or replaces it: such a frame is unknown and is restored completely.
 #pragma once
 
-#include "display/frames/kept_shape.h"
+#include "display/frames/cached_shape.h"
 #include "display/frames/spans.h"
 
 #include <QImage>
@@ -33,7 +33,7 @@ public:
         Painting(FrameMemory &memory, QImage &frame);
         ~Painting();
         Q_DISABLE_COPY(Painting)
-        void Blend(const KeptShape &shape);
+        void Blend(const CachedShape &shape);
         /// Records that a painter painted within this outline, in pixels of the frame.
         void Covers(const QPolygonF &outline);
 
@@ -50,7 +50,7 @@ public:
     std::optional<QRegion> ChangesSince(const QImage &before, const QImage &frame) const;
 
 private:
-    static constexpr int kMostParts = 8;
+    static constexpr int kMaxParts = 8;
 
     struct Known
     {
@@ -61,7 +61,7 @@ private:
         qint64 key = 0; // of the frame; 0 is no frame
         QRegion stale;  // where the background changed since it was copied
         int count = 0;
-        std::array<Spans, kMostParts> parts; // the first count of them are painted on the frame
+        std::array<Spans, kMaxParts> parts; // the first count of them are painted on the frame
     };
     Known *Find(const QImage &frame);
     const Known *Find(const QImage &frame) const;

@@ -49,7 +49,7 @@ void FramePair::Begin()
     m_isRedrawn = false;
 }
 
-FramePair::Difference FramePair::FromLast() const
+FramePair::Difference FramePair::DifferenceFromLast() const
 {
     if (m_lastIsForgotten || (m_isRedrawn && m_frame.size() != m_spare.size()))
         return Difference::Everywhere;

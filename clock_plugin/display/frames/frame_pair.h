@@ -35,7 +35,7 @@ public:
     void ForgetLast() { m_forgetLast = true; }
     enum class Difference { None, SinceFrameBefore, Everywhere };
     /// How the frame differs from the one handed over before it.
-    Difference FromLast() const;
+    Difference DifferenceFromLast() const;
 
 private:
     QImage m_frame;

@@ -12,7 +12,7 @@
 
 namespace Lw::HNodeClock {
 
-constexpr int kMostElements = 5; ///< of a clock
+constexpr int kMaxElements = 5; ///< of a clock
 
 /// In drawing order. The elements are not owned.
 class Placements
@@ -35,7 +35,7 @@ public:
     const Placed *end() const { return m_placed.data() + m_count; }
 
 private:
-    std::array<Placed, kMostElements> m_placed;
+    std::array<Placed, kMaxElements> m_placed;
     int m_count = 0;
 };
 
@@ -66,7 +66,7 @@ private:
     static void AddChanged(const Shown &before, const Placements::Placed &after, Rects &changed);
 
     int m_count = 0;
-    std::array<Shown, kMostElements> m_shown;
+    std::array<Shown, kMaxElements> m_shown;
 };
 
 } // namespace Lw::HNodeClock

@@ -1,4 +1,4 @@
-#include "display/frames/kept_shape.h"
+#include "display/frames/cached_shape.h"
 
 #include <QPainter>
 #include <QPixmap>
@@ -14,7 +14,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr int kMostInARun = 255; // a byte counts them
+constexpr int kMaxRun = 255; // a byte counts them
 
 // The four bytes of a pixel, spread so that products with a byte do not overlap.
 constexpr quint64 kBytes = 0x00ff00ff00ff00ff;
@@ -133,10 +133,10 @@ template<class Ink>
 int AppendRun(const Ink &ink, const uchar *line, int begin, int end, Buffer &bytes)
 {
     int solid = begin;
-    while (solid < end && solid - begin < kMostInARun && !ink.IsSolid(Ink::Read(line, solid)))
+    while (solid < end && solid - begin < kMaxRun && !ink.IsSolid(Ink::Read(line, solid)))
         ++solid;
     int next = solid;
-    while (next < end && next - solid < kMostInARun && ink.IsSolid(Ink::Read(line, next)))
+    while (next < end && next - solid < kMaxRun && ink.IsSolid(Ink::Read(line, next)))
         ++next;
     const int size = bytes.size();
     bytes.resize(size + 2 + (solid - begin) * int(sizeof(typename Ink::Soft))
@@ -154,7 +154,7 @@ int AppendRun(const Ink &ink, const uchar *line, int begin, int end, Buffer &byt
 } // namespace
 
 template<class Ink>
-void KeptShape::Take(const Ink &ink, const QImage &painted, const QPoint &first, const QRect &box)
+void CachedShape::Take(const Ink &ink, const QImage &painted, const QPoint &first, const QRect &box)
 {
     Buffer bytes;
     m_spans.Clear(box.top());
@@ -175,7 +175,7 @@ void KeptShape::Take(const Ink &ink, const QImage &painted, const QPoint &first,
 }
 
 template<class Ink>
-void KeptShape::BlendInk(const Ink &ink, uchar *frame, int bytesPerLine) const
+void CachedShape::BlendInk(const Ink &ink, uchar *frame, int bytesPerLine) const
 {
     using Soft = typename Ink::Soft;
     const char *from = m_pixels.constData();
@@ -196,18 +196,18 @@ void KeptShape::BlendInk(const Ink &ink, uchar *frame, int bytesPerLine) const
     }
 }
 
-KeptShape KeptShape::OfColour(const QImage &painted, const QRect &box, const QColor &colour)
+CachedShape CachedShape::OfColour(const QImage &painted, const QRect &box, const QColor &colour)
 {
-    KeptShape shape;
+    CachedShape shape;
     shape.m_kind = Kind::Colour;
     shape.m_colour = colour.rgb();
     shape.Take(ColourInk(shape.m_colour), painted, QPoint(0, 0), box);
     return shape;
 }
 
-KeptShape KeptShape::OfPicture(const QImage &painted, const QRect &box)
+CachedShape CachedShape::OfPicture(const QImage &painted, const QRect &box)
 {
-    KeptShape shape;
+    CachedShape shape;
     if (painted.format() == QImage::Format_RGBA64_Premultiplied) {
         shape.m_kind = Kind::WidePixels;
         shape.Take(WidePixelInk(), painted, box.topLeft(), box);
@@ -218,9 +218,9 @@ KeptShape KeptShape::OfPicture(const QImage &painted, const QRect &box)
     return shape;
 }
 
-KeptShape KeptShape::AsShownOn(const QImage &frame) const
+CachedShape CachedShape::AsShownOn(const QImage &frame) const
 {
-    KeptShape shown;
+    CachedShape shown;
     shown.m_kind = Kind::Pixels;
     shown.m_spans = m_spans;
     Buffer bytes;
@@ -234,7 +234,7 @@ KeptShape KeptShape::AsShownOn(const QImage &frame) const
     return shown;
 }
 
-void KeptShape::Blend(uchar *frame, int bytesPerLine) const
+void CachedShape::Blend(uchar *frame, int bytesPerLine) const
 {
     switch (m_kind) {
     case Kind::None:
@@ -287,7 +287,7 @@ bool IsBlendedAsPainted(QImage::Format format)
     alone.fill(Qt::transparent);
     PaintSample(alone);
     QImage blended = SampleGround();
-    KeptShape::OfPicture(alone, alone.rect()).Blend(blended.bits(), blended.bytesPerLine());
+    CachedShape::OfPicture(alone, alone.rect()).Blend(blended.bits(), blended.bytesPerLine());
     QImage painted = SampleGround();
     PaintSample(painted);
     return blended == painted;
@@ -305,19 +305,19 @@ QImage::Format FittingFormat()
 
 } // namespace
 
-QImage::Format KeptShape::PictureFormat()
+QImage::Format CachedShape::PictureFormat()
 {
     static const QImage::Format format = FittingFormat();
     return format;
 }
 
-KeptShape KeepPicture(const QRect &box, const std::function<void(QPainter &)> &paint)
+CachedShape CachePicture(const QRect &box, const std::function<void(QPainter &)> &paint)
 {
-    const QImage::Format format = KeptShape::PictureFormat();
+    const QImage::Format format = CachedShape::PictureFormat();
     if (format == QImage::Format_Invalid)
-        return KeptShape();
+        return CachedShape();
     if (box.isEmpty())
-        return KeptShape::OfPicture(QImage(), QRect());
+        return CachedShape::OfPicture(QImage(), QRect());
     const int pixelBytes = format == QImage::Format_RGBA64_Premultiplied ? 8 : 4;
     const int line = (box.right() + 1) * pixelBytes;
     // A QImage that spans the frame up to the box's last row and column, but has memory only from
@@ -327,7 +327,7 @@ KeptShape KeepPicture(const QRect &box, const std::function<void(QPainter &)> &p
             std::malloc(static_cast<std::size_t>(box.height()) * static_cast<std::size_t>(line))),
         &std::free);
     if (!rows)
-        return KeptShape();
+        return CachedShape();
     for (int y = 0; y < box.height(); ++y)
         std::memset(rows.get() + qint64(y) * line + box.left() * pixelBytes, 0,
                     static_cast<std::size_t>(box.width() * pixelBytes));
@@ -339,21 +339,21 @@ KeptShape KeepPicture(const QRect &box, const std::function<void(QPainter &)> &p
     painter.setClipRect(box);
     paint(painter);
     painter.end();
-    return KeptShape::OfPicture(window, box);
+    return CachedShape::OfPicture(window, box);
 }
 
-KeptShape ColourCanvas::Keep(const QPolygonF &outline, const QColor &colour, bool smooth,
-                             const QSize &frame,
-                             const std::function<void(QPainter &, const QPoint &)> &paint)
+CachedShape ColourCanvas::Cache(const QPolygonF &outline, const QColor &colour, bool smooth,
+                                const QSize &frame,
+                                const std::function<void(QPainter &, const QPoint &)> &paint)
 {
     const QRect box = BoxAround(outline) & QRect(QPoint(0, 0), frame);
     if (box.isEmpty())
-        return KeptShape::OfColour(QImage(), QRect(), colour);
+        return CachedShape::OfColour(QImage(), QRect(), colour);
     if (m_image.width() < box.width() || m_image.height() < box.height())
         m_image =
             QImage(box.size().expandedTo(m_image.size()), QImage::Format_ARGB32_Premultiplied);
     if (m_image.isNull())
-        return KeptShape();
+        return CachedShape();
     for (int y = 0; y < box.height(); ++y)
         std::fill_n(reinterpret_cast<QRgb *>(m_image.scanLine(y)), box.width(), 0u);
     QPainter painter(&m_image);
@@ -362,7 +362,7 @@ KeptShape ColourCanvas::Keep(const QPolygonF &outline, const QColor &colour, boo
     painter.setBrush(colour);
     paint(painter, box.topLeft());
     painter.end();
-    return KeptShape::OfColour(m_image, box, colour);
+    return CachedShape::OfColour(m_image, box, colour);
 }
 
 } // namespace Lw::HNodeClock

@@ -43,7 +43,7 @@ struct GlyphFacts
     qint64 size = 0;   ///< of its file, in bytes
     QByteArray digest; ///< of its file, SHA-1
     bool hasInk = false;
-    QString lackingLetters; ///< that no font has
+    QString charactersWithoutGlyph; ///< that no font has
 };
 
 enum class GlyphState {
@@ -60,11 +60,11 @@ struct DrawnGlyph
 };
 
 /// Not thread-safe.
-class GlyphMemory
+class GlyphCache
 {
 public:
     /// The process-wide cache; cleared when there is a new application object.
-    static GlyphMemory &Shared();
+    static GlyphCache &Shared();
 
     /// State is not Drawn if the image is not cached; Drawn without a file if only the facts are
     /// cached.
@@ -80,7 +80,7 @@ public:
     int DrawnImages() const { return m_drawnImages; }
 
 private:
-    GlyphMemory();
+    GlyphCache();
     void FollowApplication();
 
     QPointer<QGuiApplication> m_application;

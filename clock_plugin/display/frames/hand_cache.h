@@ -1,7 +1,7 @@
 // display/frames/: a cache of one hand's shapes, one per position, painted lazily.
 #pragma once
 
-#include "display/frames/kept_shape.h"
+#include "display/frames/cached_shape.h"
 
 #include <QVarLengthArray>
 
@@ -11,35 +11,35 @@ namespace Lw::HNodeClock {
 
 /// The most bytes that the shapes of one hand may take: those of the square it moves in, plus some
 /// for very small clocks.
-inline qint64 KeptLimit(const QSize &frame)
+inline qint64 CacheLimit(const QSize &frame)
 {
     const qint64 side = qMin(frame.width(), frame.height());
     return 4 * side * side + (32 << 10);
 }
 
-class KeptHand
+class HandCache
 {
 public:
     /// Everything the shapes depend on except the position.
-    using Look = QVarLengthArray<qint64, 32>;
+    using CacheKey = QVarLengthArray<qint64, 32>;
 
-    /// A hand that has one position for each look.
-    KeptHand() = default;
-    explicit KeptHand(int positions) : m_positions(positions) { }
+    /// A hand that has one position for each key.
+    HandCache() = default;
+    explicit HandCache(int positions) : m_positions(positions) { }
     bool HasPositions() const { return m_positions > 1; }
 
     /// The shape at a position, from 0. If it is not cached yet it is created by paint(), which
-    /// returns a KeptShape. Null if it could not be made, if the shapes cached so far take more
+    /// returns a CachedShape. Null if it could not be made, if the shapes cached so far take more
     /// bytes than the limit, and for other positions: the hand must then be painted. Valid until
     /// the next call.
     template<typename Paint>
-    const KeptShape *At(const Look &look, int position, qint64 limit, Paint paint)
+    const CachedShape *At(const CacheKey &key, int position, qint64 limit, Paint paint)
     {
         if (position < 0 || position >= m_positions)
             return nullptr;
-        if (look != m_look || m_shapes.empty())
-            Begin(look);
-        KeptShape &shape = m_shapes[static_cast<std::size_t>(position)];
+        if (key != m_key || m_shapes.empty())
+            Begin(key);
+        CachedShape &shape = m_shapes[static_cast<std::size_t>(position)];
         if (!shape.IsMade() && m_bytes <= limit) {
             shape = paint();
             m_bytes += shape.Bytes();
@@ -48,18 +48,18 @@ public:
     }
 
 private:
-    void Begin(const Look &look)
+    void Begin(const CacheKey &key)
     {
-        m_look = look;
+        m_key = key;
         m_bytes = 0;
         m_shapes.clear();
         m_shapes.resize(static_cast<std::size_t>(m_positions));
     }
 
     int m_positions = 1;
-    Look m_look;
+    CacheKey m_key;
     qint64 m_bytes = 0;
-    std::vector<KeptShape> m_shapes; // none before the first, for clocks of other kinds
+    std::vector<CachedShape> m_shapes; // none before the first, for clocks of other kinds
 };
 
 } // namespace Lw::HNodeClock

@@ -1,7 +1,7 @@
-// Shapes that are kept give the bytes that a painter gives, over every byte below.
+// Cached shapes give the bytes that a painter gives, over every byte below.
 #include "display/analog_painting.h"
-#include "display/frames/kept_hand.h"
-#include "display/frames/kept_shape.h"
+#include "display/frames/cached_shape.h"
+#include "display/frames/hand_cache.h"
 
 #include <QPainter>
 #include <QtTest>
@@ -45,13 +45,13 @@ FlatShape TurnedHand(double degrees, const QColor &colour)
     return hand;
 }
 
-KeptShape Kept(ColourCanvas &canvas, const FlatShape &shape, bool smooth)
+CachedShape Cached(ColourCanvas &canvas, const FlatShape &shape, bool smooth)
 {
     const QPolygonF outline = OutlineOn(kCentre, shape);
-    return canvas.Keep(outline, shape.colour, smooth, kSize,
-                       [&](QPainter &painter, const QPoint &place) {
-                           PaintFlatFrom(painter, place, kCentre, shape, outline);
-                       });
+    return canvas.Cache(outline, shape.colour, smooth, kSize,
+                        [&](QPainter &painter, const QPoint &place) {
+                            PaintFlatFrom(painter, place, kCentre, shape, outline);
+                        });
 }
 
 QImage Painted(const QImage &ground, const FlatShape &shape, bool smooth)
@@ -64,7 +64,7 @@ QImage Painted(const QImage &ground, const FlatShape &shape, bool smooth)
     return image;
 }
 
-QImage Blended(QImage ground, const KeptShape &shape)
+QImage Blended(QImage ground, const CachedShape &shape)
 {
     shape.Blend(ground.bits(), ground.bytesPerLine());
     return ground;
@@ -91,7 +91,7 @@ void PaintPicture(QPainter &painter, const QPixmap &picture, double degrees)
 
 } // namespace
 
-class TestKeptShape : public QObject
+class TestCachedShape : public QObject
 {
     Q_OBJECT
 
@@ -107,14 +107,14 @@ private Q_SLOTS:
 };
 
 // Every coverage over every byte, against the formula and against a painter.
-void TestKeptShape::ColourOverEveryByte()
+void TestCachedShape::ColourOverEveryByte()
 {
     QImage coverage(256, 1, QImage::Format_ARGB32_Premultiplied);
     for (int alpha = 0; alpha < 256; ++alpha)
         coverage.setPixel(alpha, 0, qPremultiply(qRgba(0, 0, 0, alpha)));
     for (const int colour : {0, 1, 77, 128, 254, 255}) {
-        const KeptShape shape =
-            KeptShape::OfColour(coverage, coverage.rect(), QColor(colour, 255 - colour, colour));
+        const CachedShape shape =
+            CachedShape::OfColour(coverage, coverage.rect(), QColor(colour, 255 - colour, colour));
         for (int below = 0; below < 256; ++below) {
             QImage blended(256, 1, QImage::Format_ARGB32);
             blended.fill(qRgb(below, below, below));
@@ -129,14 +129,14 @@ void TestKeptShape::ColourOverEveryByte()
     }
 }
 
-void TestKeptShape::HandsAndDiscs_data()
+void TestCachedShape::HandsAndDiscs_data()
 {
     QTest::addColumn<bool>("smooth");
     QTest::newRow("smooth") << true;
     QTest::newRow("hard edges") << false;
 }
 
-void TestKeptShape::HandsAndDiscs()
+void TestCachedShape::HandsAndDiscs()
 {
     QFETCH(bool, smooth);
     ColourCanvas canvas;
@@ -146,27 +146,27 @@ void TestKeptShape::HandsAndDiscs()
         disc.disc = QRect(QPoint(-step % 9 - 1, -step % 9 - 1), QPoint(step % 9, step % 9));
         disc.colour = hand.colour;
         for (const FlatShape &shape : {hand, disc}) {
-            const KeptShape kept = Kept(canvas, shape, smooth);
-            QVERIFY(kept.IsMade());
+            const CachedShape cached = Cached(canvas, shape, smooth);
+            QVERIFY(cached.IsMade());
             for (const QImage &ground : {Colourful(), Grey(0), Grey(255)})
-                QCOMPARE(Blended(ground, kept), Painted(ground, shape, smooth));
+                QCOMPARE(Blended(ground, cached), Painted(ground, shape, smooth));
         }
     }
 }
 
-void TestKeptShape::PictureOverEveryByte_data()
+void TestCachedShape::PictureOverEveryByte_data()
 {
     QTest::addColumn<double>("degrees");
     for (const double degrees : {0.0, 6.0, 33.3, 90.0, 180.0, 222.0, 270.0, 354.0})
         QTest::addRow("%g degrees", degrees) << degrees;
 }
 
-void TestKeptShape::PictureOverEveryByte()
+void TestCachedShape::PictureOverEveryByte()
 {
     QFETCH(double, degrees);
-    QVERIFY(KeptShape::PictureFormat() != QImage::Format_Invalid);
+    QVERIFY(CachedShape::PictureFormat() != QImage::Format_Invalid);
     const QPixmap picture = Picture();
-    const KeptShape kept = KeepPicture(
+    const CachedShape cached = CachePicture(
         QRect(5, 0, 55, 47), [&](QPainter &painter) { PaintPicture(painter, picture, degrees); });
     for (int below = 0; below < 256; ++below) {
         const QImage ground = Grey(below);
@@ -175,55 +175,55 @@ void TestKeptShape::PictureOverEveryByte()
         PaintPicture(painter, picture, degrees);
         painter.end();
         QVERIFY(painted != ground);
-        QCOMPARE(Blended(ground, kept), painted);
+        QCOMPARE(Blended(ground, cached), painted);
     }
 }
 
-void TestKeptShape::AsShownNeedsNoBlending()
+void TestCachedShape::AsShownNeedsNoBlending()
 {
     ColourCanvas canvas;
-    const KeptShape kept = Kept(canvas, TurnedHand(40, Qt::yellow), true);
-    const QImage frame = Blended(Colourful(), kept);
-    const KeptShape shown = kept.AsShownOn(frame);
+    const CachedShape cached = Cached(canvas, TurnedHand(40, Qt::yellow), true);
+    const QImage frame = Blended(Colourful(), cached);
+    const CachedShape shown = cached.AsShownOn(frame);
     QCOMPARE(Blended(Colourful(), shown), frame);
-    QVERIFY(shown.Covered().IsCopyOf(kept.Covered()));
+    QVERIFY(shown.Covered().IsCopyOf(cached.Covered()));
 }
 
-void TestKeptShape::OutsideTheFrame()
+void TestCachedShape::OutsideTheFrame()
 {
     ColourCanvas canvas;
     FlatShape far = TurnedHand(0, Qt::red);
     far.outline.translate(1000, 0);
-    const KeptShape kept = Kept(canvas, far, true);
-    QVERIFY(kept.IsMade());
-    QCOMPARE(Blended(Colourful(), kept), Colourful());
+    const CachedShape cached = Cached(canvas, far, true);
+    QVERIFY(cached.IsMade());
+    QCOMPARE(Blended(Colourful(), cached), Colourful());
     FlatShape half = TurnedHand(0, Qt::red);
     half.outline.translate(-32, -20);
-    QCOMPARE(Blended(Colourful(), Kept(canvas, half, true)), Painted(Colourful(), half, true));
+    QCOMPARE(Blended(Colourful(), Cached(canvas, half, true)), Painted(Colourful(), half, true));
 }
 
-void TestKeptShape::PositionsAreKeptUpToALimit()
+void TestCachedShape::PositionsAreKeptUpToALimit()
 {
     ColourCanvas canvas;
-    KeptHand hand(3);
+    HandCache hand(3);
     int paintings = 0;
     const auto paint = [&] {
         ++paintings;
-        return Kept(canvas, TurnedHand(20, Qt::red), true);
+        return Cached(canvas, TurnedHand(20, Qt::red), true);
     };
-    const KeptHand::Look look {5};
-    QVERIFY(hand.At(look, 0, 1 << 20, paint));
-    QVERIFY(hand.At(look, 0, 1 << 20, paint));
+    const HandCache::CacheKey key {5};
+    QVERIFY(hand.At(key, 0, 1 << 20, paint));
+    QVERIFY(hand.At(key, 0, 1 << 20, paint));
     QCOMPARE(paintings, 1);
-    QVERIFY(!hand.At(look, 1, 1, paint)); // the first has more than one byte
-    QVERIFY(hand.At(look, 0, 1, paint));
-    QVERIFY(!hand.At(look, 3, 1 << 20, paint));
-    QVERIFY(!hand.At(look, -1, 1 << 20, paint));
+    QVERIFY(!hand.At(key, 1, 1, paint)); // the first has more than one byte
+    QVERIFY(hand.At(key, 0, 1, paint));
+    QVERIFY(!hand.At(key, 3, 1 << 20, paint));
+    QVERIFY(!hand.At(key, -1, 1 << 20, paint));
     QCOMPARE(paintings, 1);
-    QVERIFY(hand.At(KeptHand::Look {6}, 0, 1 << 20, paint));
+    QVERIFY(hand.At(HandCache::CacheKey {6}, 0, 1 << 20, paint));
     QCOMPARE(paintings, 2);
-    QVERIFY(!hand.At(KeptHand::Look {6}, 1, 1 << 20, [] { return KeptShape(); }));
+    QVERIFY(!hand.At(HandCache::CacheKey {6}, 1, 1 << 20, [] { return CachedShape(); }));
 }
 
-QTEST_MAIN(TestKeptShape)
-#include "test_kept_shape.moc"
+QTEST_MAIN(TestCachedShape)
+#include "test_cached_shape.moc"

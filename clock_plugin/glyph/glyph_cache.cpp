@@ -1,4 +1,4 @@
-#include "glyph/glyph_memory.h"
+#include "glyph/glyph_cache.h"
 
 #include <QDataStream>
 #include <QFont>
@@ -10,14 +10,15 @@ namespace Lw::HNodeClock {
 namespace {
 
 // Cache limits in bytes. A set at 48 points takes about 75 KB of files and 20 KB of facts.
-constexpr int kMostFiles = 1 << 20;
-constexpr int kMostFacts = 1 << 20;
+constexpr int kMaxFileBytes = 1 << 20;
+constexpr int kMaxFactBytes = 1 << 20;
 
 int CostOf(const GlyphContent &content, const GlyphFacts &facts)
 {
     constexpr int kOverhead = 150; // bytes per entry
     return kOverhead + content.face.size()
-        + static_cast<int>(sizeof(QChar)) * (content.text.size() + facts.lackingLetters.size());
+        + static_cast<int>(sizeof(QChar))
+        * (content.text.size() + facts.charactersWithoutGlyph.size());
 }
 
 } // namespace
@@ -47,16 +48,16 @@ QByteArray FaceOf(const QFont &font)
     return face;
 }
 
-GlyphMemory::GlyphMemory() : m_facts(kMostFacts), m_files(kMostFiles) { }
+GlyphCache::GlyphCache() : m_facts(kMaxFactBytes), m_files(kMaxFileBytes) { }
 
-GlyphMemory &GlyphMemory::Shared()
+GlyphCache &GlyphCache::Shared()
 {
-    static GlyphMemory memory;
+    static GlyphCache memory;
     memory.FollowApplication();
     return memory;
 }
 
-void GlyphMemory::FollowApplication()
+void GlyphCache::FollowApplication()
 {
     if (m_application && m_application == qGuiApp)
         return;
@@ -68,7 +69,7 @@ void GlyphMemory::FollowApplication()
             Qt::DirectConnection);
 }
 
-DrawnGlyph GlyphMemory::Find(const GlyphContent &content)
+DrawnGlyph GlyphCache::Find(const GlyphContent &content)
 {
     DrawnGlyph glyph;
     if (const GlyphFacts *const facts = m_facts.object(content)) {
@@ -80,7 +81,7 @@ DrawnGlyph GlyphMemory::Find(const GlyphContent &content)
     return glyph;
 }
 
-void GlyphMemory::Keep(const GlyphContent &content, const DrawnGlyph &glyph)
+void GlyphCache::Keep(const GlyphContent &content, const DrawnGlyph &glyph)
 {
     if (glyph.state != GlyphState::Drawn)
         return;
@@ -90,7 +91,7 @@ void GlyphMemory::Keep(const GlyphContent &content, const DrawnGlyph &glyph)
     m_files.insert(content, new QByteArray(glyph.file), cost + glyph.file.size());
 }
 
-void GlyphMemory::Forget()
+void GlyphCache::Forget()
 {
     m_facts.clear();
     m_files.clear();
@@ -98,7 +99,7 @@ void GlyphMemory::Forget()
 }
 
 // QFontDatabase is no help: Qt lists its own families even if no font is installed.
-bool GlyphMemory::HasFonts()
+bool GlyphCache::HasFonts()
 {
     if (!m_hasFonts)
         m_hasFonts = QFontMetrics(QGuiApplication::font()).inFont(QLatin1Char('0'));

@@ -1,7 +1,7 @@
 // Only what changed is drawn and encoded; and what is remembered gives the same files as drawing.
 #include "glyph_output.h"
 
-#include "glyph/glyph_memory.h"
+#include "glyph/glyph_cache.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -21,9 +21,9 @@ constexpr int kDateImages = 12 + 5;
 template<typename Action>
 int Drawn(Action action)
 {
-    const int before = GlyphMemory::Shared().DrawnImages();
+    const int before = GlyphCache::Shared().DrawnImages();
     action();
-    return GlyphMemory::Shared().DrawnImages() - before;
+    return GlyphCache::Shared().DrawnImages() - before;
 }
 
 /// Fonts of as many colours: no two images of the clock are equal, except where their texts are.
@@ -45,7 +45,7 @@ QMap<QString, QByteArray> Files(const QString &directory)
 
 } // namespace
 
-class TestGlyphMemory : public QObject
+class TestGlyphCache : public QObject
 {
     Q_OBJECT
 
@@ -65,7 +65,7 @@ private Q_SLOTS:
     void init()
     {
         m_output.reset(new GlyphOutput);
-        GlyphMemory::Shared().Forget();
+        GlyphCache::Shared().Forget();
     }
     void cleanup() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
 
@@ -219,7 +219,7 @@ private Q_SLOTS:
             QVERIFY(QFontDatabase::addApplicationFont(CLOCK_TEST_FONT) >= 0);
         const int drawn = Drawn([&] { Generate(node); });
         const auto files = Files(m_output->Regular());
-        GlyphMemory::Shared().Forget();
+        GlyphCache::Shared().Forget();
         m_output.reset(new GlyphOutput);
         Generate(node);
         QGuiApplication::setFont(before);
@@ -229,5 +229,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestGlyphMemory)
-#include "test_glyph_memory.moc"
+QTEST_MAIN(TestGlyphCache)
+#include "test_glyph_cache.moc"

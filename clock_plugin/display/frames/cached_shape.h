@@ -3,7 +3,7 @@
 // rotating a picture, costs ten to twenty times as much as blending the result.
 //
 // It stores what painting adds to a transparent background, so it can be blended over whatever is
-// below. The formulas in kept_shape.cpp are bit-exact with QPainter.
+// below. The formulas in cached_shape.cpp are bit-exact with QPainter.
 #pragma once
 
 #include "display/frames/spans.h"
@@ -21,19 +21,19 @@ QT_END_NAMESPACE
 namespace Lw::HNodeClock {
 
 /// For opaque ARGB32 frames.
-class KeptShape
+class CachedShape
 {
 public:
     /// Not made: not painted yet, or out of memory.
-    KeptShape() = default;
+    CachedShape() = default;
     /// The shape of one opaque colour painted at the top left of a premultiplied image, covering
     /// `box` in the frame.
-    static KeptShape OfColour(const QImage &painted, const QRect &box, const QColor &colour);
+    static CachedShape OfColour(const QImage &painted, const QRect &box, const QColor &colour);
     /// The pixels of a box in an image of PictureFormat(), and in the frame.
-    static KeptShape OfPicture(const QImage &painted, const QRect &box);
+    static CachedShape OfPicture(const QImage &painted, const QRect &box);
     /// The frame's pixels under this shape as a new shape that needs no blending; valid as long as
     /// the content below does not change.
-    KeptShape AsShownOn(const QImage &frame) const;
+    CachedShape AsShownOn(const QImage &frame) const;
 
     /// The format in which rotated pictures are painted for OfPicture(): the one in which QPainter
     /// blends such pictures onto ARGB32, which depends on how Qt was built. Format_Invalid if the
@@ -65,7 +65,7 @@ private:
 /// Paints a picture exactly as on the frame and stores it. The painter passed to paint() uses frame
 /// coordinates; the picture must stay within the box. (Painted with an offset onto a small image,
 /// some pixels would round differently.)
-KeptShape KeepPicture(const QRect &box, const std::function<void(QPainter &)> &paint);
+CachedShape CachePicture(const QRect &box, const std::function<void(QPainter &)> &paint);
 
 /// Paints shapes of one opaque colour for OfColour(), on a reused image.
 class ColourCanvas
@@ -74,8 +74,9 @@ public:
     /// Caches the part of a shape within a frame of this size. `paint` gets a painter with a brush
     /// and no pen, and the offset by which to shift left and up. The offset is whole pixels and
     /// changes no coordinate's sign, so polygons and ellipses are rasterised as on the frame.
-    KeptShape Keep(const QPolygonF &outline, const QColor &colour, bool smooth, const QSize &frame,
-                   const std::function<void(QPainter &, const QPoint &)> &paint);
+    CachedShape Cache(const QPolygonF &outline, const QColor &colour, bool smooth,
+                      const QSize &frame,
+                      const std::function<void(QPainter &, const QPoint &)> &paint);
 
 private:
     QImage m_image; // reused, so that Qt keeps its paint engine
