@@ -26,12 +26,21 @@ private slots:
     void GoingToATimeKeepsTheSpeed();
 };
 
-/// Presses and releases a button at a pixel of the wall.
+QPoint PointOf(const WallView &view, QPoint pixel)
+{
+    return view.Scale().ToView({pixel, QSize(1, 1)}).center();
+}
+
+/// Moves the pointer to a pixel of the wall.
+void Hover(WallView &view, QPoint pixel)
+{
+    QMouseEvent move(QEvent::MouseMove, PointOf(view, pixel), Qt::NoButton, {}, {});
+    QCoreApplication::sendEvent(view.viewport(), &move);
+}
+
 void Click(WallView &view, Qt::MouseButton button, QPoint pixel)
 {
-    const QPoint point = view.Scale().ToView({pixel, QSize(1, 1)}).center();
-    QTest::mouseMove(view.viewport(), point);
-    QTest::mouseClick(view.viewport(), button, {}, point);
+    QTest::mouseClick(view.viewport(), button, {}, PointOf(view, pixel));
 }
 
 void TestWallView::RightButtonSelects()
@@ -41,6 +50,7 @@ void TestWallView::RightButtonSelects()
     view.resize(200, 200);
     view.show();
     studio.WaitForClocks();
+    Hover(view, {32, 32});
     Click(view, Qt::RightButton, {32, 32});
     QCOMPARE(studio.editor.Chosen(), QVector<int> {0});
 }
@@ -52,6 +62,7 @@ void TestWallView::RightButtonDrawsNothing()
     view.resize(200, 200);
     view.show();
     studio.WaitForClocks();
+    Hover(view, {32, 32});
     view.Mouse().SetDrawing(ClockKind::Digital);
     Click(view, Qt::RightButton, {32, 32});
     QCOMPARE(studio.document.Text(), QString::fromUtf8(kClock));
