@@ -17,8 +17,8 @@ using ClockTool::ZoneSettings;
 constexpr int kSmallestSize = 6; // points
 constexpr int kLargestSize = 400;
 
-// Of an area's height, the share of a digital clock's time and of its label; of a dial's side, that
-// of its numerals.
+// The heights of a digital clock's time and label as fractions of the area's height, and the height
+// of the numerals as a fraction of the dial's side.
 constexpr double kTimeShare = 0.62;
 constexpr double kLabelShare = 0.28;
 constexpr double kNumeralShare = 0.13;
@@ -91,7 +91,7 @@ QString AnalogLines(QSize size)
                           "            hourScaleColor=\"#ffb000\" minuteScaleType=\"0\" "
                           "minuteScaleColor=\"#808080\"/>\n")
         .arg(Font(family, numerals, "#ffffff"))
-        .arg(side >= 96 ? 3 : 0) // numerals need room
+        .arg(side >= 96 ? 3 : 0) // numerals only on dials of at least 96 pixels
         .arg(family)
         .arg(numerals);
 }

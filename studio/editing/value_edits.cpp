@@ -15,21 +15,21 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// What says a value: an attribute of an XML element. Without an attribute name it is nothing.
+/// Where a value is set: an XML attribute of an element. Empty attribute name: nowhere.
 struct Source
 {
     int element = -1;
     QString attribute;
     Conversion conversion = Conversion::Text;
-    bool isStored = false; ///< an "attribute" child, which has the value as it is stored
+    bool isStored = false; ///< an <attribute> child, whose value is in the stored form
 
     bool IsNothing() const { return attribute.isEmpty(); }
 };
 
-/// What would say a value that nothing says yet.
+/// Where a value that is not set yet would be set.
 struct NewSource
 {
-    QString element; ///< to be made; empty for one that is there
+    QString element; ///< element to create; empty if it exists
     Source source;
 };
 
@@ -41,7 +41,7 @@ QString ColourName(int stored)
     return Lw::HAppConfig::IntToColor(stored).name();
 }
 
-/// A stored value as an import reads it; nothing where no text is read as it.
+/// The text that an import converts to a stored value; nullopt if there is none.
 std::optional<QString> ImportText(Conversion conversion, const QString &stored)
 {
     switch (conversion) {
@@ -62,7 +62,7 @@ std::optional<QString> ImportText(Conversion conversion, const QString &stored)
     return std::nullopt;
 }
 
-/// The tables that are read for a kind of clock, in the order in which they are.
+/// The import tables for a kind of clock, in reading order.
 QVector<const ImportElement *> ImportsOf(int kind)
 {
     QVector<const ImportElement *> imports;
@@ -78,8 +78,8 @@ QVector<const ImportElement *> ImportsOf(int kind)
     return imports;
 }
 
-/// The element that an import reads in a clock: itself, the first of the name, else of the
-/// fallback; -1 for none.
+/// The element that an import row reads: the clock itself, or its first child with the name, else
+/// with the fallback name; -1 if none.
 int ElementRead(const ProgramReading &reading, int clock, const ImportElement &import)
 {
     if (!import.name)
@@ -113,7 +113,7 @@ Source StoredSource(const ProgramReading &reading, int clock, Attribute attribut
     return last;
 }
 
-/// What says the value: the last "attribute" child of the key, else what is imported last.
+/// Where the value is set: the last "attribute" child with the key, else the last imported source.
 Source SourceOf(const ProgramReading &reading, int clock, int kind, Attribute attribute)
 {
     Source found = StoredSource(reading, clock, attribute);
@@ -134,8 +134,8 @@ Source SourceOf(const ProgramReading &reading, int clock, int kind, Attribute at
     return found;
 }
 
-/// Where people write the value: in the element for just this, under the name that documents use.
-/// The elements that set several things at once are no place for a new value.
+/// The usual place for a new value: the specific element, under the documented name.
+/// Elements that set several attributes at once (font, clockCom) are not used.
 std::optional<NewSource> NewSourceOf(const ProgramReading &reading, int clock, int kind,
                                      Attribute attribute)
 {
@@ -163,7 +163,7 @@ TextEdit StoredElementEdit(const ProgramReading &reading, int clock, const Store
             .arg(Key(value.attribute), EscapedValue(value.text, QLatin1Char('"'))));
 }
 
-/// The edit that looks best; nothing where only an "attribute" child can say the value.
+/// The preferred edit; nullopt if only an "attribute" child can set the value.
 std::optional<TextEdit> BestEdit(const ProgramReading &reading, int area, int kind,
                                  const StoredValue &value)
 {
@@ -199,7 +199,7 @@ std::optional<ProgramReading> ReadAfter(const ProgramReading &reading, const Tex
     return std::nullopt;
 }
 
-/// Whether one value is as wanted, and no other differs from what it was.
+/// Whether exactly this value has changed, to the wanted one.
 bool ChangesOnly(HClockNode &before, HClockNode &after, const StoredValue &value)
 {
     for (const AttributeRow &row : kAttributeTable) {
@@ -212,7 +212,7 @@ bool ChangesOnly(HClockNode &before, HClockNode &after, const StoredValue &value
     return true;
 }
 
-/// Tries an edit with the plugin itself.
+/// Verifies an edit with the plugin itself.
 bool IsReadAsMeant(const ProgramReading &reading, int area, const TextEdit &edit,
                    const StoredValue &value)
 {
@@ -252,7 +252,8 @@ std::unique_ptr<HClockNode> ClockOf(const ProgramReading &reading, int area)
     return std::unique_ptr<HClockNode>(static_cast<HClockNode *>(node)); // only clocks are made
 }
 
-/// Each edit is worked out in the text that the ones before it leave: two may make an element.
+/// Each edit is computed for the text after the previous ones, as one may add an element that the
+/// next one uses.
 TextEdits ValueEdits(const ProgramReading &reading, int area, const QVector<StoredValue> &values)
 {
     TextEdits edits;
@@ -291,7 +292,7 @@ TextEdits ResetEdits(const ProgramReading &reading, int area, Attribute attribut
 TextEdits KindEdits(const ProgramReading &reading, int area, int kind)
 {
     const int clock = reading.ClockElement(area);
-    // The older form tells the kind by its number, in a child.
+    // The older form has the kind as a number in a child element.
     const QVector<int> older =
         ChildrenNamed(reading.elements, clock, QLatin1String(Sdk::kClockCom));
     TextEdits edits {older.isEmpty()

@@ -1,5 +1,5 @@
-// studio/editing: what people do to a wall, as changes of its text.
-// Where the text says a clock's attribute, and the edit that makes it say something else.
+// studio/editing: finds where the text sets a clock's attribute, and makes the edits that change
+// its value.
 #pragma once
 
 #include "text/program_edits.h"
@@ -21,25 +21,24 @@ struct StoredValue
     QString text;
 };
 
-/// The clock that the plugin makes of an area; null where it makes none.
+/// The clock node that the plugin creates for an area; null if it creates none.
 std::unique_ptr<Lw::HNodeClock::HClockNode> ClockOf(const ProgramReading &reading, int area);
 
-/// The edits with which the plugin reads these values of a clock, and nothing else differently. A
-/// value is changed where the text says it now; a new one is written as people write it, or as an
+/// The edits after which the plugin reads these values for a clock, and all others unchanged. A
+/// value is changed where the text sets it now; a new one is written in its usual element, or as an
 /// "attribute" element where that would change other values too.
 TextEdits ValueEdits(const ProgramReading &reading, int area, const QVector<StoredValue> &values);
 
-/// The edits that give an attribute the value of a new clock: what says it is removed, where that
-/// is enough.
+/// The edits that reset an attribute to its default: its setting is removed, if that suffices.
 TextEdits ResetEdits(const ProgramReading &reading, int area, Lw::HNodeClock::Attribute attribute);
 
 /// The edits that make it another kind of clock (see ClockTypeCode).
 TextEdits KindEdits(const ProgramReading &reading, int area, int kind);
 
-/// A new clock's value, in the language of the clocks; the host's number for a colour.
+/// An attribute's default, as stored (text defaults are in the clocks' language).
 QString DefaultValue(Lw::HNodeClock::Attribute attribute);
 
-/// The place of what says an attribute's value in the text; the clock's first tag where nothing
+/// The text range that sets an attribute's value; the clock's start tag if nothing
 /// does.
 TextRange PlaceOf(const ProgramReading &reading, int area, Lw::HNodeClock::Attribute attribute);
 

@@ -140,8 +140,8 @@ void WallEditor::SendToBack()
     Reorder(false, tr("Send to back"));
 }
 
-/// Later areas are drawn above earlier ones. The texts of the areas change places; what is between
-/// them stays.
+/// Later areas are drawn above earlier ones. The texts of the areas are swapped; what is between
+/// them is unchanged.
 void WallEditor::Reorder(bool toFront, const QString &label)
 {
     const ProgramReading *const reading = m_document.Reading();
@@ -191,7 +191,7 @@ void WallEditor::Delete()
     TextEdits edits;
     for (const int area : qAsConst(m_chosen))
         edits.append(RemoveElementEdit(*reading, reading->AreaElement(area)));
-    Choose({}); // or what follows without a blank between them would be taken for one of them
+    Choose({}); // otherwise an area that moves to the position of a deleted one would be chosen
     m_document.Change(InSequence(edits), tr("Delete"));
 }
 
@@ -271,7 +271,7 @@ QRect WallEditor::FreePlace(QSize size) const
 void WallEditor::SetScreenSize(QSize size)
 {
     if (const ProgramReading *const reading = m_document.Reading())
-        m_document.Change(InSequence(ScreenSizeEdits(*reading, size)), tr("Size of the wall"),
+        m_document.Change(InSequence(ScreenSizeEdits(*reading, size)), tr("Resize the wall"),
                           QStringLiteral("screen size"));
 }
 

@@ -1,5 +1,4 @@
-// studio/editing: what people do to a wall, as changes of its text.
-// The chosen clocks, and what is done to them.
+// studio/editing: the selection of clocks, and the operations on it.
 #pragma once
 
 #include "new_clock.h"
@@ -11,8 +10,8 @@
 
 namespace ClockStudio {
 
-/// Areas are told by their number in the program, from 0. While the text is no program, nothing is
-/// changed by these.
+/// Areas are identified by their index in the program, from 0. While the text is not a valid
+/// program, nothing is changed by these.
 class WallEditor : public QObject
 {
     Q_OBJECT
@@ -23,14 +22,15 @@ public:
     StudioDocument &Document() { return m_document; }
     LiveWall &Wall() { return m_wall; }
 
-    /// In the order in which they were chosen.
+    /// In the order of selection.
     const QVector<int> &Chosen() const { return m_chosen; }
     void Choose(const QVector<int> &areas);
     void Toggle(int area);
     void ChooseAll();
     QVector<QRect> ChosenRects() const;
 
-    /// Places the chosen areas.
+    /// Gives the selected areas these rectangles, in the order of Chosen(); edits with one
+    /// non-empty mergeKey are undone together.
     void Place(const QVector<QRect> &rects, const QString &label, const QString &mergeKey = {});
     void MoveBy(QPoint distance);
     void ResizeBy(QPoint distance);
@@ -45,10 +45,11 @@ public:
     void Duplicate();
     void Copy() const;
     void Cut();
-    /// What the clipboard has; false where it has no areas.
+    /// Pastes the areas in the clipboard; false if there are none.
     bool Paste();
     bool PasteText(const QString &text);
-    /// A free place for a new clock of about this size.
+    /// A free rectangle for a new clock, at most this large; the centre of the wall if none is
+    /// free.
     QRect FreePlace(QSize size) const;
 
     void SetScreenSize(QSize size);

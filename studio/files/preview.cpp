@@ -14,7 +14,8 @@ namespace {
 constexpr int kSeconds = 10;
 const QString kConverter = QStringLiteral("convert");
 
-long long s_instant = 0; // that the frames show: a time source is a plain function
+// UTC milliseconds that the frames show. Static because a time source is a plain function.
+long long s_instant = 0;
 
 long long FrameTime()
 {
@@ -38,8 +39,10 @@ QString WritePreviewFrames(LiveWall &wall, const QString &folder)
     }
     clock_set_time_source(ClockStage::StageTime::TellPlugin);
     wall.PlayNext();
-    return isWritten ? QString()
-                     : QCoreApplication::translate("ClockStudio::Preview", "The pictures of the preview could not be written.");
+    return isWritten
+        ? QString()
+        : QCoreApplication::translate("ClockStudio::Preview",
+                                      "The pictures of the preview could not be written.");
 }
 
 ToolCommand PreviewCommand(const QString &folder, const QString &path)

@@ -1,5 +1,4 @@
-// studio/files: where programs come from and go to.
-// An animated picture of some seconds of a wall, put together by ImageMagick.
+// studio/files: makes an animated GIF of ten seconds of a wall, with ImageMagick.
 #pragma once
 
 #include "tool_run.h"
@@ -7,10 +6,11 @@
 
 namespace ClockStudio {
 
-/// Writes frames of the seconds to come into a folder; gives why that failed.
+/// Writes a frame for each of the next ten seconds to a folder. Returns the error message, empty on
+/// success.
 QString WritePreviewFrames(LiveWall &wall, const QString &folder);
 
-/// The command that makes one animated picture of them.
+/// The command that assembles those frames into a GIF at `path`.
 ToolCommand PreviewCommand(const QString &folder, const QString &path);
 
 } // namespace ClockStudio

@@ -13,7 +13,7 @@ namespace ClockStudio {
 namespace {
 
 constexpr int kKeepingInterval = 4000; // milliseconds
-// Writers replace a file in several steps; what it is then is looked at afterwards.
+// Other programs replace a file in several steps; it is checked after this delay, in milliseconds.
 constexpr int kLookingDelay = 200;
 constexpr int kMostRecent = 10;
 const QString kRecentKey = QStringLiteral("recentFiles");
@@ -55,7 +55,7 @@ std::optional<QString> ProgramFiles::Open(const QString &path)
     if (!contents)
         return contents.Error().text;
     if (!m_document.Load(*contents))
-        return tr("%1 is damaged or not a text.").arg(path);
+        return tr("%1 is damaged or not a text file.").arg(path);
     m_isRecovered = false;
     SetPath(QFileInfo(path).absoluteFilePath(), *contents);
     m_store.Forget();
@@ -66,7 +66,7 @@ std::optional<QString> ProgramFiles::Save(const QString &path)
 {
     const std::optional<QByteArray> bytes = m_document.Bytes();
     if (!bytes)
-        return tr("The encoding of the file lacks a character of this text.");
+        return tr("The text has a character that the file's encoding cannot represent.");
     if (const auto problem = WriteWhole(path, *bytes))
         return problem;
     m_isRecovered = false;
@@ -129,7 +129,7 @@ void ProgramFiles::LookAtDisk()
         return;
     }
     if (!m_watcher.files().contains(m_path))
-        m_watcher.addPath(m_path); // a file that was replaced is another one
+        m_watcher.addPath(m_path); // the watcher drops a file that was replaced
     const auto contents = ClockProgram::ReadContents(m_path);
     if (!contents || DigestOf(*contents) == m_digest)
         return;

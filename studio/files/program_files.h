@@ -1,5 +1,4 @@
-// studio/files: where programs come from and go to.
-// The file of the open program: reading, saving, noticing that others change it.
+// studio/files: the file of the open program: reads, saves, and watches for changes by others.
 #pragma once
 
 #include "recovery_store.h"
@@ -18,7 +17,7 @@ class ProgramFiles : public QObject
     Q_OBJECT
 
 public:
-    /// Unsaved work is kept in the directory.
+    /// Unsaved work is stored in recoveryDirectory.
     ProgramFiles(StudioDocument &document, const QString &recoveryDirectory,
                  QObject *parent = nullptr);
 
@@ -27,28 +26,28 @@ public:
     QString Name() const; ///< for a title
     bool IsSaved() const;
 
-    // Each gives what went wrong, as a sentence; nothing where it went well.
+    // Each returns an error message, or nullopt on success.
 
-    /// The document stays as it is where the file cannot be read.
+    /// The document is unchanged if the file cannot be read.
     std::optional<QString> Open(const QString &path);
-    /// Whole or not at all: on a failure the file has what it had before.
+    /// Atomic: on a failure the old file is unchanged.
     std::optional<QString> Save(const QString &path);
 
-    /// A program that has no file yet.
+    /// Starts with a program that has no file yet.
     void Begin(const QByteArray &bytes);
     void Recover(const LeftWork &work);
     QVector<LeftWork> LeftWorks() const { return m_store.Left(); }
-    /// Unsaved work is given up.
+    /// Discards unsaved work.
     void GiveUp() { m_store.Forget(); }
-    /// Keeps unsaved work now; done every few seconds.
+    /// Stores unsaved work now; also runs every four seconds.
     void KeepWork();
 
-    static QStringList Recent(); ///< paths of files that exist, the last one first
+    static QStringList Recent(); ///< paths of files that still exist, most recent first
 
 Q_SIGNALS:
     void NameChanged();
-    void ChangedOnDisk(); ///< somebody else wrote the file
-    void LostOnDisk();    ///< the file is there no longer; the work is
+    void ChangedOnDisk(); ///< another program wrote the file
+    void LostOnDisk();    ///< the file has been deleted
 
 private:
     void SetPath(const QString &path, const QByteArray &contents);

@@ -10,7 +10,7 @@ namespace ClockStudio {
 namespace {
 
 const QString kSuffix = QStringLiteral(".work");
-constexpr quint32 kMagic = 0x434c4b31; // a file of this form begins with it
+constexpr quint32 kMagic = 0x434c4b31; // file signature, "CLK1"
 
 QString LockOf(const QString &file)
 {
@@ -40,7 +40,7 @@ RecoveryStore::RecoveryStore(const QString &directory) : m_directory(directory)
     QDir().mkpath(directory);
     m_file = QDir(directory).filePath(QUuid::createUuid().toString(QUuid::WithoutBraces) + kSuffix);
     m_lock = std::make_unique<QLockFile>(LockOf(m_file));
-    m_lock->setStaleLockTime(0); // however long it runs
+    m_lock->setStaleLockTime(0); // never stale by age, however long the studio runs
     m_lock->tryLock(0);
 }
 

@@ -1,5 +1,5 @@
-// studio/files: where programs come from and go to.
-// Work that is not saved yet, kept beside the user's data so that a crash costs some seconds.
+// studio/files: autosave: keeps unsaved work in the user's data directory, so that a crash loses
+// only some seconds.
 #pragma once
 
 #include <QByteArray>
@@ -12,7 +12,7 @@
 
 namespace ClockStudio {
 
-/// Work that a studio left which is no longer there.
+/// Unsaved work of a studio that no longer runs.
 struct LeftWork
 {
     QString file;     ///< in the store
@@ -20,20 +20,20 @@ struct LeftWork
     QByteArray bytes; ///< of the program
 };
 
-/// Each studio that runs has a file of its own, and a lock that others cannot get while it runs.
+/// Each running studio has its own file, which it keeps locked.
 class RecoveryStore
 {
 public:
-    /// The directory is made where it is missing.
+    /// Creates the directory if needed.
     explicit RecoveryStore(const QString &directory);
     ~RecoveryStore();
 
-    /// False where it could not be written; what was kept before stays.
+    /// False if it could not be written; the previous copy is kept.
     bool Keep(const QString &path, const QByteArray &bytes);
-    /// The work is saved, or given up.
+    /// Call when the work was saved or discarded.
     void Forget();
 
-    /// Files that cannot be read are left out.
+    /// The work of studios that no longer run; unreadable files are skipped.
     QVector<LeftWork> Left() const;
     static void Remove(const LeftWork &work);
 

@@ -18,7 +18,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-constexpr int kPitch = 6;        // pixels of the picture for one diode
+constexpr int kPitch = 6;        // pixels per diode in the picture
 constexpr int kResolution = 150; // dots per inch
 constexpr int kMargin = 15;      // millimetres
 

@@ -1,5 +1,5 @@
-// studio/files: where programs come from and go to.
-// A sheet for approval: the wall, what its clocks are set to, and what was found.
+// studio/files: writes the approval sheet as a PDF: the wall, the settings of its clocks, and the
+// findings.
 #pragma once
 
 #include "text/program_reading.h"

@@ -1,5 +1,4 @@
-// studio/files: where programs come from and go to.
-// Programs to begin with. They are files of the tree, built in.
+// studio/files: the built-in template programs (studio/templates).
 #pragma once
 
 #include <QByteArray>

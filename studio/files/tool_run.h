@@ -1,5 +1,5 @@
-// studio/files: where programs come from and go to.
-// Runs clock_tool and other programs while the window stays alive.
+// studio/files: runs clock_tool and other programs behind a progress dialog, keeping the window
+// responsive.
 #pragma once
 
 #include <QByteArray>
@@ -20,7 +20,7 @@ struct ToolCommand
     QStringList arguments;
 };
 
-/// The tree's own tool, beside this program.
+/// The path of clock_tool, beside this program.
 QString ClockToolPath();
 /// Its export of a program to a folder, in the language that the clocks have now.
 ToolCommand ExportCommand(const QString &program, const QString &folder);

@@ -17,15 +17,15 @@ QString Translated(const char *text)
     return QCoreApplication::translate("ClockStudio::WallTarget", text);
 }
 
-/// A word for a shell.
+/// Quotes a word for a shell.
 QString Quoted(QString word)
 {
     return QLatin1Char('\'') + word.replace(QLatin1Char('\''), QStringLiteral("'\\''"))
         + QLatin1Char('\'');
 }
 
-/// Never asks for anything: a window has no terminal to answer in. A host that is seen for the
-/// first time is remembered, one whose key has changed is refused.
+/// BatchMode: ssh must not prompt, as there is no terminal. A host that is seen for the first time
+/// is remembered, one whose key has changed is refused.
 QStringList SshOptions(const WallTarget &target)
 {
     QStringList options {QStringLiteral("-o"), QStringLiteral("BatchMode=yes"),
@@ -38,7 +38,7 @@ QStringList SshOptions(const WallTarget &target)
     return options;
 }
 
-/// A shell's script where the target is.
+/// A command that runs a shell script on the target's computer.
 ToolCommand ScriptAt(const WallTarget &target, const QString &script)
 {
     if (!target.IsRemote())

@@ -1,5 +1,4 @@
-// studio/files: where programs come from and go to.
-// The walls that programs are sent to: folders of this computer or of others.
+// studio/files: the targets that programs are sent to: folders on this or another computer.
 #pragma once
 
 #include "tool_run.h"
@@ -11,10 +10,10 @@ namespace ClockStudio {
 
 struct WallTarget
 {
-    QString name;       ///< what people call it
+    QString name;       ///< display name
     QString host;       ///< "user@host" or "user@host:port"; empty for a folder of this computer
     QString folder;     ///< on the host, where the releases are
-    QString key;        ///< file with the key for ssh; empty for ssh's own choice
+    QString key;        ///< SSH private key file; empty for ssh's default
     QString statusFile; ///< on the host, of the player that plays the wall; empty for none
 
     bool IsRemote() const { return !host.isEmpty(); }
@@ -22,25 +21,24 @@ struct WallTarget
     QString Port() const;  ///< empty for ssh's own choice
 };
 
-/// In the target's folder: the releases, each in a folder of its own, and the link to the one that
-/// plays.
+/// In the target's folder: one subfolder per release, and the link to the release being played.
 inline constexpr char kReleases[] = "releases";
 inline constexpr char kCurrentLink[] = "current";
 
 QVector<WallTarget> KnownTargets();
 void KeepTargets(const QVector<WallTarget> &targets);
 
-/// Why a target cannot be one; empty where it can. Hosts and folders are given to other programs,
-/// so nothing that those would take for something else is let through.
+/// What is wrong with a target; empty if valid. Hosts and folders are passed to other programs,
+/// so nothing that these could misinterpret is accepted.
 QString TargetFault(const WallTarget &target);
 
-/// The commands that bring an export to a target as a release and then let it play. Until all of it
+/// The commands that copy an export to a target as a release and then play it. Until all of it
 /// is there it is under a name that lists leave out.
 QVector<ToolCommand> SendCommands(const WallTarget &target, const QString &exportFolder,
                                   const QString &release);
 /// The one that removes what a sending that was broken off left.
 ToolCommand DiscardCommand(const WallTarget &target, const QString &release);
-/// The one that lets a release play that is there already.
+/// The command that switches to a release already on the target.
 ToolCommand PlayCommand(const WallTarget &target, const QString &release);
 /// The one that lists the releases, for ReleasesIn.
 ToolCommand ListCommand(const WallTarget &target);

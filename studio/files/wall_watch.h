@@ -1,5 +1,4 @@
-// studio/files: where programs come from and go to.
-// Asks a wall what it plays until it plays what was sent.
+// studio/files: asks a wall what it plays until it plays what was sent.
 #pragma once
 
 #include "wall_target.h"

@@ -1,5 +1,4 @@
-// studio/files: where programs come from and go to.
-// What the player of a wall says in its status file about the program that was sent.
+// studio/files: what the player of a wall says in its status file about the program that was sent.
 #pragma once
 
 #include <QByteArray>

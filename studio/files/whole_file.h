@@ -1,5 +1,4 @@
-// studio/files: where programs come from and go to.
-// Files that are written whole or not at all.
+// studio/files: files that are written whole or not at all.
 #pragma once
 
 #include <QString>

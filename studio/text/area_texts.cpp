@@ -10,7 +10,7 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kFirstId = 1000; // of those that plugins draw
+constexpr int kFirstId = 1000; // the first of the plugin's random Ids
 
 std::optional<ProgramReading> ReadFragment(const QString &areas)
 {

@@ -1,5 +1,4 @@
-// studio/text: the program's text and what replaces parts of it.
-// Areas as texts that are copied, pasted and duplicated.
+// studio/text: area elements as text, for copy, paste and duplicate.
 #pragma once
 
 #include "program_reading.h"
@@ -13,9 +12,8 @@ namespace ClockStudio {
 /// where it is neither.
 QStringList AreasInText(const QString &text);
 
-/// The same area for a program that has others: at another place, and with an identity of its own
-/// where its text gives one. Identities that are taken are in the set, to which the new one is
-/// added.
+/// The area for insertion into a program: moved by `offset`, and with a new Id if its text sets
+/// one. The new Id is added to takenIds.
 QString AreaForProgram(const QString &areaText, QPoint offset, QSet<int> &takenIds);
 
 /// The identities that a program's text gives its clocks.

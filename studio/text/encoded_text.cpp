@@ -13,13 +13,13 @@ struct Mark
     QByteArray bytes;
 };
 
-// The first that fits counts.
+// The first match is used.
 const Mark kMarks[] = {
     {"UTF-8", QByteArray("\xef\xbb\xbf", 3)},
     {"UTF-16LE", QByteArray("\xff\xfe", 2)},
     {"UTF-16BE", QByteArray("\xfe\xff", 2)},
 };
-// What a file in two-byte characters begins with where it has no mark.
+// How a UTF-16 file without a byte order mark begins.
 const Mark kBeginnings[] = {
     {"UTF-16LE", QByteArray("<\0", 2)},
     {"UTF-16BE", QByteArray("\0<", 2)},

@@ -1,5 +1,4 @@
-// studio/text: the program's text and what replaces parts of it.
-// A file's bytes as text, and back to the same bytes.
+// studio/text: decodes a file's bytes to text and back, losslessly.
 #pragma once
 
 #include <QByteArray>
@@ -13,7 +12,7 @@ namespace ClockStudio {
 struct TextForm
 {
     QByteArray codec = "UTF-8"; ///< a name that QTextCodec knows
-    QByteArray mark;            ///< the byte order mark, where there is one
+    QByteArray mark;            ///< the byte order mark; empty if none
 };
 
 struct EncodedText
@@ -22,17 +21,17 @@ struct EncodedText
     TextForm form;
 };
 
-/// A file's text by its byte order mark, else by its XML declaration, else as UTF-8. Nothing where
-/// the text would not become the same bytes again: the file is damaged, or its encoding unknown.
+/// Decodes a file by its byte order mark, else its XML declaration, else as UTF-8. Nothing if the
+/// text would not encode back to the same bytes: the file is damaged or its encoding unknown.
 std::optional<EncodedText> DecodeText(const QByteArray &bytes);
 
-/// The bytes of a text. Nothing where the encoding lacks one of its characters.
+/// The bytes of a text; nullopt if the encoding cannot represent it.
 std::optional<QByteArray> EncodeText(const QString &text, const TextForm &form);
 
-/// The form of a text whose declaration may have been edited since it had another form.
+/// The form after edits, which may have changed the encoding in the XML declaration.
 TextForm FormAfterEdits(const QString &text, const TextForm &form);
 
-/// Whether the encoding has all characters of a text.
+/// Whether the encoding can represent every character of a text.
 bool CanEncode(const QString &text, const TextForm &form);
 
 } // namespace ClockStudio

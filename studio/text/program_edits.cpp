@@ -18,7 +18,7 @@ bool IsLineEnd(QChar c)
     return c == QLatin1Char('\n') || c == QLatin1Char('\r');
 }
 
-/// The blanks between a line end and a position; nothing where something else stands before it.
+/// The indentation before a position; nullopt if anything else precedes it on its line.
 std::optional<QString> IndentAt(const QString &text, int position)
 {
     int begin = position;
@@ -34,7 +34,7 @@ QString IndentOf(const ProgramReading &reading, int element)
     return IndentAt(reading.text, reading.elements[element].whole.begin).value_or(QString());
 }
 
-/// What separates a new child from what is before it; nothing in a program on one line.
+/// The indentation for a new child; nullopt if the program is on one line.
 std::optional<QString> ChildIndent(const ProgramReading &reading, int parent)
 {
     const XmlElement &element = reading.elements[parent];

@@ -1,6 +1,5 @@
-// studio/text: the program's text and what replaces parts of it.
-// The smallest edits that make a change to elements of a program, in the text's own style: its
-// indentation, its line ends.
+// studio/text: minimal edits to a program's elements that keep the text's own indentation and line
+// ends.
 #pragma once
 
 #include "program_reading.h"
@@ -9,29 +8,28 @@
 
 namespace ClockStudio {
 
-/// The line end that a text uses first; a line feed where it has none.
+/// The first line end in a text; "\n" if it has none.
 QString LineEndOf(const QString &text);
 
-/// Sets an attribute of an element, after its others where it is new.
+/// Sets an attribute of an element; a new one is added after the existing ones.
 TextEdit SetAttributeEdit(const ProgramReading &reading, int element, const QString &name,
                           const QString &value);
 
-/// Takes an attribute away; nothing is removed where there is none.
+/// Removes an attribute; an empty edit if there is none.
 TextEdit RemoveAttributeEdit(const ProgramReading &reading, int element, const QString &name);
 
-/// Puts an element behind the last child. Its lines are separated by line feeds and indented as if
-/// it stood at the margin.
+/// Appends a child element. `xml` uses line feeds and is indented as if it were at the left margin.
 TextEdit AppendChildEdit(const ProgramReading &reading, int parent, const QString &xml);
 
-/// Removes an element, with its line where it has one of its own.
+/// Removes an element, and its line if nothing else is on it.
 TextEdit RemoveElementEdit(const ProgramReading &reading, int element);
 
-/// The edits that move and resize an area; empty where it is there already.
+/// The edits that move and resize an area; empty if nothing changes.
 TextEdits GeometryEdits(const ProgramReading &reading, int area, const QRect &geometry);
 
 TextEdits ScreenSizeEdits(const ProgramReading &reading, QSize size);
 
-/// An area's text as if it stood at the margin, with line feeds.
+/// An area's text without its indentation, with line feeds.
 QString PortableAreaText(const ProgramReading &reading, int area);
 
 } // namespace ClockStudio

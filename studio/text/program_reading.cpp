@@ -17,7 +17,7 @@ QString Translated(const char *text)
     return QCoreApplication::translate("ClockStudio::TextFault", text);
 }
 
-/// The line and the reason out of the reader's message, which begins with an empty path.
+/// Extracts line and reason from the parser's message, whose path is empty.
 TextFault FaultOf(const Failure &failure)
 {
     static const QRegularExpression form(QStringLiteral(R"(\A:([0-9]+):(?:[0-9]+:)? (.*)\z)"),
@@ -28,8 +28,8 @@ TextFault FaultOf(const Failure &failure)
     return {match.captured(2), match.captured(1).toInt()};
 }
 
-/// A wall without a clock is nothing to play, but something to begin with. The size is checked by
-/// the program's own reader, with an area put in for it.
+/// A program without areas cannot be played, but is valid in the editor. Its size is checked by
+/// the normal reader, with a dummy area inserted.
 std::optional<Program> ReadEmptyProgram(const QString &text, const XmlElements &elements)
 {
     const XmlElement &root = elements.first();
@@ -51,9 +51,10 @@ TextFault NoElements(const QString &text)
 {
     const int place = text.indexOf(QLatin1String("<!DOCTYPE"));
     if (place >= 0)
-        return {Translated(QT_TRANSLATE_NOOP("ClockStudio::TextFault",
-                                             "A program has no document type declaration.")),
-                LineOf(text, place)};
+        return {
+            Translated(QT_TRANSLATE_NOOP("ClockStudio::TextFault",
+                                         "A program must not have a document type declaration.")),
+            LineOf(text, place)};
     return {Translated(QT_TRANSLATE_NOOP("ClockStudio::TextFault", "This is not a program."))};
 }
 
@@ -85,10 +86,11 @@ std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, con
     const std::optional<QByteArray> contents = EncodeText(text, form);
     if (!contents)
         return TextFault {Translated(QT_TRANSLATE_NOOP(
-            "ClockStudio::TextFault", "The encoding of the file lacks a character of this text."))};
+            "ClockStudio::TextFault",
+            "The text has a character that the file's encoding cannot represent."))};
     if (contents->size() > ClockProgram::kMaximumFileSize)
         return TextFault {Translated(
-            QT_TRANSLATE_NOOP("ClockStudio::TextFault", "This text is too long for a program."))};
+            QT_TRANSLATE_NOOP("ClockStudio::TextFault", "The text is too large for a program."))};
     const Result<Program> program = ParseProgram(*contents, QString());
     const std::optional<XmlElements> elements = FindElements(text);
     if (program) {

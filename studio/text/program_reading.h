@@ -1,5 +1,4 @@
-// studio/text: the program's text and what replaces parts of it.
-// What a program's text says, together with where it says it.
+// studio/text: a parsed program together with the text positions of its elements.
 #pragma once
 
 #include "encoded_text.h"
@@ -16,7 +15,7 @@ struct ProgramReading
     QString text;
     TextForm form;
     XmlElements elements;
-    ClockProgram::Program program; ///< may be without areas, as a new wall is
+    ClockProgram::Program program; ///< may have no areas: a new wall has none
 
     int AreaCount() const { return program.areas.size(); }
     /// Indices into the elements; areas count from 0.
@@ -25,15 +24,15 @@ struct ProgramReading
     QRect Geometry(int area) const { return program.areas[area].geometry; }
     QString AreaText(int area) const;
     QString ClockText(int area) const;
-    /// The area around a position of the text; -1 where there is none.
+    /// The area that contains a position in the text; -1 if none.
     int AreaAt(int position) const;
 };
 
-/// Why a text is no program.
+/// Why a text is not a valid program.
 struct TextFault
 {
     QString reason;
-    int line = 1; ///< from 1
+    int line = 1; ///< counted from 1
 };
 
 std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, const TextForm &form);

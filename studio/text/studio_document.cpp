@@ -8,7 +8,7 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kMergeable = 1; // the one kind of commands that merge
+constexpr int kMergeable = 1; // QUndoCommand id of commands that may merge
 
 /// The edits that undo others, in their own order.
 TextEdits Reverted(const TextEdits &edits)
@@ -55,7 +55,7 @@ private:
 
 StudioDocument::StudioDocument(QObject *parent) : QObject(parent)
 {
-    // A text to come that is no program leaves an empty wall.
+    // Until a valid program is loaded, the wall is empty.
     auto empty = ReadProgramText(QStringLiteral("<program width=\"256\" height=\"128\"/>"), m_form);
     m_reading = std::get<ProgramReading>(empty);
 }

@@ -1,5 +1,4 @@
-// studio/text: the program's text and what replaces parts of it.
-// The one model of the studio: a program's text. Every change is an edit of it that can be undone.
+// studio/text: the studio's only model: a program's text. Every change is an undoable edit of it.
 #pragma once
 
 #include "program_reading.h"
@@ -16,33 +15,32 @@ class StudioDocument : public QObject
 public:
     explicit StudioDocument(QObject *parent = nullptr);
 
-    /// Takes over a file's bytes; the history begins with them. False for bytes that are no text,
-    /// and then nothing changes.
+    /// Loads a file's bytes and clears the history. False, changing nothing, for bytes that are not
+    /// text.
     bool Load(const QByteArray &bytes);
-    /// The bytes to be saved; nothing where the encoding lacks a character of the text.
+    /// The bytes to save; nothing if the encoding cannot represent the text.
     std::optional<QByteArray> Bytes() const;
     const TextForm &Form() const { return m_form; }
 
     const QString &Text() const { return m_text; }
     QUndoStack &History() { return m_history; }
 
-    /// Makes a change in one step of the history. Edits that replace nothing by nothing are left
-    /// out; without others nothing happens. Changes that follow each other with one key, not empty,
-    /// are one step.
+    /// Applies edits as one undo step. Edits that change nothing are dropped; if none remain,
+    /// nothing happens. Consecutive changes with the same non-empty key are merged into one step.
     void Change(const TextEdits &edits, const QString &label, const QString &mergeKey = {});
-    /// Ends a row of changes with one key.
+    /// The next change starts a new undo step.
     void EndMerging() { ++m_mergeSession; }
 
-    /// What the text says; null while it is no program.
+    /// The parsed text; null while it is not a valid program.
     const ProgramReading *Reading() const { return m_fault ? nullptr : &m_reading; }
-    /// What the last text that was a program says.
+    /// The last valid parse.
     const ProgramReading &LastReading() const { return m_reading; }
     const std::optional<TextFault> &Fault() const { return m_fault; }
 
 Q_SIGNALS:
     void Edited(const ClockStudio::TextEdits &edits); ///< the text has changed by these
-    void Loaded();                                    ///< it is another text
-    void Read(); ///< after either: reading and fault are those of the new text
+    void Loaded();                                    ///< the whole text was replaced
+    void Read(); ///< after either: Reading() and Fault() are up to date
 
 private:
     friend class TextCommand;

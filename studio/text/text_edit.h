@@ -1,5 +1,4 @@
-// studio/text: the program's text and what replaces parts of it.
-// Replacements of ranges of a text, which can be undone exactly.
+// studio/text: reversible replacements of text ranges.
 #pragma once
 
 #include <QString>
@@ -11,13 +10,13 @@ namespace ClockStudio {
 struct TextRange
 {
     int begin = 0;
-    int end = 0; ///< not part of it
+    int end = 0; ///< exclusive
 
     int Size() const { return end - begin; }
     bool Contains(int position) const { return position >= begin && position < end; }
 };
 
-/// Replaces what is removed by what is inserted.
+/// Replaces `removed` with `inserted` at `position` (UTF-16 units).
 struct TextEdit
 {
     int position = 0;
@@ -25,24 +24,23 @@ struct TextEdit
     QString inserted;
 };
 
-/// Each position is in the text that the edits before it left.
+/// Applied in order: each position refers to the text after the previous edits.
 using TextEdits = QVector<TextEdit>;
 
 /// The edit that puts a text in place of a range.
 TextEdit Replacement(const QString &text, TextRange range, const QString &inserted);
 
-/// The same change without what both texts begin and end with. Surrogate pairs and line ends of two
-/// characters stay whole.
+/// The same change without the common prefix and suffix. Surrogate pairs and CR LF are not split.
 TextEdit Smallest(const TextEdit &edit);
 
-/// Edits whose positions are all in one text, none within another, as edits that follow each other.
+/// Converts non-overlapping edits with positions in the same text to a sequence of edits.
 TextEdits InSequence(TextEdits edits);
 
 void ApplyEdits(QString &text, const TextEdits &edits);
 void RevertEdits(QString &text, const TextEdits &edits);
 
-/// Where a position of the text before the edits is after them; the end of what replaced it where
-/// it was within something removed.
+/// Maps a position before the edits to the one after them; a position within removed text maps to
+/// the end of its replacement.
 int MovedPosition(int position, const TextEdits &edits);
 
 } // namespace ClockStudio

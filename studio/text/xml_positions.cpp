@@ -30,7 +30,7 @@ constexpr Entity kEntities[] = {
     {"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"quot", '"'}, {"apos", '\''},
 };
 
-/// What a reference stands for; empty for one that XML itself does not know.
+/// The text of a character or entity reference; empty for one that is not predefined.
 QString Referenced(const QString &name)
 {
     if (name.startsWith(QLatin1Char('#'))) {
@@ -65,7 +65,7 @@ QString ReadValue(const QString &text, TextRange range)
     return value;
 }
 
-/// Walks over the text once; any fault ends the walk.
+/// Scans the text once; stops at the first error.
 class Finder
 {
 public:
@@ -153,7 +153,7 @@ private:
             m_open.append(index);
     }
 
-    /// At ">" or "/>"; a text that ends within the tag is a fault.
+    /// Whether the scanner is at ">" or "/>"; the end of the text inside a tag is an error.
     bool AtTagEnd()
     {
         m_ok = m_ok && m_at < m_text.size();

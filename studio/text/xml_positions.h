@@ -1,5 +1,4 @@
-// studio/text: the program's text and what replaces parts of it.
-// Where the elements and attributes of an XML text stand.
+// studio/text: finds the positions of elements and attributes in an XML text.
 #pragma once
 
 #include "text_edit.h"
@@ -11,7 +10,7 @@ namespace ClockStudio {
 struct XmlAttribute
 {
     QString name;
-    QString text;    ///< the value as it is read: references resolved
+    QString text;    ///< the value with character and entity references resolved
     TextRange whole; ///< from the first letter of the name to the closing quote
     TextRange value; ///< between the quotes
 };
@@ -22,8 +21,8 @@ struct XmlElement
     int parent = -1;
     QVector<int> children;
     QVector<XmlAttribute> attributes;
-    TextRange whole;     ///< from "<" of the first tag to ">" of the last
-    TextRange tag;       ///< the first tag
+    TextRange whole;     ///< from "<" of the start tag to ">" of the end tag
+    TextRange tag;       ///< the start tag
     bool closed = false; ///< <so/>
 
     const XmlAttribute *Find(const QString &attribute) const;
@@ -34,22 +33,23 @@ struct XmlElement
 /// The first is the root; children follow their parents.
 using XmlElements = QVector<XmlElement>;
 
-/// Reads a text that an XML parser accepts. Nothing for a document type declaration, which programs
-/// have no use for, and for what is no XML: tags that do not match, attributes without quotes.
+/// Reads a text that an XML parser accepts. nullopt for a document type declaration, which programs
+/// must not have, and for malformed XML: mismatched tags, attributes without quotes.
 std::optional<XmlElements> FindElements(const QString &text);
 
-/// The children of an element that have a name.
+/// The children of an element with the given name.
 QVector<int> ChildrenNamed(const XmlElements &elements, int parent, const QString &name);
 
 /// The innermost element around a position; -1 outside the root.
 int ElementAt(const XmlElements &elements, int position);
 
-/// Numbers from 1, as parsers count lines.
+/// The line of a position, from 1. CR, LF and CR LF end a line.
 int LineOf(const QString &text, int position);
-/// The first character of a line; the end of the text where there are fewer lines.
+/// The position of a line's first character; the end of the text if there are fewer lines.
 int StartOfLine(const QString &text, int line);
 
-/// A text as the value of an attribute between double or single quotes.
+/// Escapes a text for an attribute value in these quotes; characters not allowed in XML are
+/// dropped.
 QString EscapedValue(const QString &value, QChar quote);
 
 } // namespace ClockStudio

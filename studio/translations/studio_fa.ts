@@ -696,11 +696,11 @@
         <translation>بی‌نام</translation>
     </message>
     <message>
-        <source>%1 is damaged or not a text.</source>
+        <source>%1 is damaged or not a text file.</source>
         <translation>%1 خراب است یا متن نیست.</translation>
     </message>
     <message>
-        <source>The encoding of the file lacks a character of this text.</source>
+        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
         <translation>کدگذاری پرونده یکی از نویسه‌های این متن را ندارد.</translation>
     </message>
     <message>
@@ -917,7 +917,7 @@
 <context>
     <name>ClockStudio::TextFault</name>
     <message>
-        <source>A program has no document type declaration.</source>
+        <source>A program must not have a document type declaration.</source>
         <translation>برنامه اعلان نوع سند ندارد.</translation>
     </message>
     <message>
@@ -925,11 +925,11 @@
         <translation>این برنامه نیست.</translation>
     </message>
     <message>
-        <source>The encoding of the file lacks a character of this text.</source>
+        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
         <translation>کدگذاری پرونده یکی از نویسه‌های این متن را ندارد.</translation>
     </message>
     <message>
-        <source>This text is too long for a program.</source>
+        <source>The text is too large for a program.</source>
         <translation>این متن برای برنامه بلند است.</translation>
     </message>
 </context>
@@ -1058,7 +1058,7 @@
         <translation>چسباندن</translation>
     </message>
     <message>
-        <source>Size of the wall</source>
+        <source>Resize the wall</source>
         <translation>اندازهٔ دیوار</translation>
     </message>
 </context>
@@ -1095,11 +1095,11 @@
         <translation>دیوار</translation>
     </message>
     <message>
-        <source>The clocks of the program as the wall shows them. Tab chooses the next one.</source>
+        <source>The clocks of the program as shown on the wall. Tab selects the next one.</source>
         <translation>ساعت‌های برنامه چنان که دیوار نشان می‌دهد. Tab بعدی را برمی‌گزیند.</translation>
     </message>
     <message>
-        <source>Choose a kind of clock above, then draw its place here</source>
+        <source>Choose a kind of clock above, then drag a rectangle here</source>
         <translation>نوع ساعت را در بالا برگزینید و جایش را اینجا بکشید</translation>
     </message>
     <message>
@@ -1107,7 +1107,7 @@
         <translation>ساعت %1 از %2</translation>
     </message>
     <message numerus="yes">
-        <source>%n clock(s) chosen</source>
+        <source>%n clock(s) selected</source>
         <translation>
             <numerusform>%n ساعت برگزیده</numerusform>
             <numerusform>%n ساعت برگزیده</numerusform>
@@ -1317,7 +1317,7 @@
         <translation>زمان محلی و UTC بالای چهار شهر</translation>
     </message>
     <message>
-        <source>Offices of the world</source>
+        <source>World offices</source>
         <translation>دفترهای جهان</translation>
     </message>
     <message>
@@ -1337,7 +1337,7 @@
         <translation>بانک</translation>
     </message>
     <message>
-        <source>A quiet dial with the date</source>
+        <source>A plain dial with the date</source>
         <translation>صفحه‌ای آرام با تاریخ</translation>
     </message>
     <message>
@@ -1345,7 +1345,7 @@
         <translation>مدرسه</translation>
     </message>
     <message>
-        <source>Time, weekday and date, to be read from afar</source>
+        <source>Time, weekday and date, readable from afar</source>
         <translation>زمان، روز و تاریخ، خوانا از دور</translation>
     </message>
     <message>
@@ -1353,7 +1353,7 @@
         <translation>نوبت کارخانه</translation>
     </message>
     <message>
-        <source>Seconds large, with the shift and the date</source>
+        <source>Large time with seconds, the shift and the date</source>
         <translation>ثانیه‌های بزرگ، با نوبت و تاریخ</translation>
     </message>
     <message>
@@ -1365,7 +1365,7 @@
         <translation>صفحه با تاریخ و روز ایرانی</translation>
     </message>
     <message>
-        <source>Chinese and lunar date</source>
+        <source>Chinese date and lunar date</source>
         <translation>تاریخ چینی و قمری</translation>
     </message>
     <message>
@@ -1385,7 +1385,7 @@
         <translation>سالن ورزش</translation>
     </message>
     <message>
-        <source>Nothing but the time, with seconds</source>
+        <source>Only the time, with seconds</source>
         <translation>تنها زمان، با ثانیه</translation>
     </message>
     <message>
@@ -1397,7 +1397,7 @@
         <translation>سه ساعت تصویری با شهرهایشان</translation>
     </message>
     <message>
-        <source>Twelve hours</source>
+        <source>12-hour clock</source>
         <translation>دوازده‌ساعته</translation>
     </message>
     <message>

@@ -696,11 +696,11 @@
         <translation>未命名</translation>
     </message>
     <message>
-        <source>%1 is damaged or not a text.</source>
+        <source>%1 is damaged or not a text file.</source>
         <translation>%1 已损坏或不是文本。</translation>
     </message>
     <message>
-        <source>The encoding of the file lacks a character of this text.</source>
+        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
         <translation>文件的编码缺少此文本中的一个字符。</translation>
     </message>
     <message>
@@ -916,7 +916,7 @@
 <context>
     <name>ClockStudio::TextFault</name>
     <message>
-        <source>A program has no document type declaration.</source>
+        <source>A program must not have a document type declaration.</source>
         <translation>节目没有文档类型声明。</translation>
     </message>
     <message>
@@ -924,11 +924,11 @@
         <translation>这不是节目。</translation>
     </message>
     <message>
-        <source>The encoding of the file lacks a character of this text.</source>
+        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
         <translation>文件的编码缺少此文本中的一个字符。</translation>
     </message>
     <message>
-        <source>This text is too long for a program.</source>
+        <source>The text is too large for a program.</source>
         <translation>此文本对节目来说太长。</translation>
     </message>
 </context>
@@ -1057,7 +1057,7 @@
         <translation>粘贴</translation>
     </message>
     <message>
-        <source>Size of the wall</source>
+        <source>Resize the wall</source>
         <translation>墙的大小</translation>
     </message>
 </context>
@@ -1094,11 +1094,11 @@
         <translation>墙</translation>
     </message>
     <message>
-        <source>The clocks of the program as the wall shows them. Tab chooses the next one.</source>
+        <source>The clocks of the program as shown on the wall. Tab selects the next one.</source>
         <translation>节目中的时钟，如墙上所示。Tab 选择下一个。</translation>
     </message>
     <message>
-        <source>Choose a kind of clock above, then draw its place here</source>
+        <source>Choose a kind of clock above, then drag a rectangle here</source>
         <translation>在上方选择时钟类型，然后在此画出位置</translation>
     </message>
     <message>
@@ -1106,7 +1106,7 @@
         <translation>时钟 %1，共 %2 个</translation>
     </message>
     <message numerus="yes">
-        <source>%n clock(s) chosen</source>
+        <source>%n clock(s) selected</source>
         <translation>
             <numerusform>已选 %n 个时钟</numerusform>
         </translation>
@@ -1314,7 +1314,7 @@
         <translation>本地时间和 UTC，下面是四个城市</translation>
     </message>
     <message>
-        <source>Offices of the world</source>
+        <source>World offices</source>
         <translation>世界各地办事处</translation>
     </message>
     <message>
@@ -1334,7 +1334,7 @@
         <translation>银行</translation>
     </message>
     <message>
-        <source>A quiet dial with the date</source>
+        <source>A plain dial with the date</source>
         <translation>简洁的表盘和日期</translation>
     </message>
     <message>
@@ -1342,7 +1342,7 @@
         <translation>学校</translation>
     </message>
     <message>
-        <source>Time, weekday and date, to be read from afar</source>
+        <source>Time, weekday and date, readable from afar</source>
         <translation>时间、星期和日期，远处可读</translation>
     </message>
     <message>
@@ -1350,7 +1350,7 @@
         <translation>工厂班次</translation>
     </message>
     <message>
-        <source>Seconds large, with the shift and the date</source>
+        <source>Large time with seconds, the shift and the date</source>
         <translation>大号秒数，以及班次和日期</translation>
     </message>
     <message>
@@ -1362,7 +1362,7 @@
         <translation>表盘，配波斯日期和星期</translation>
     </message>
     <message>
-        <source>Chinese and lunar date</source>
+        <source>Chinese date and lunar date</source>
         <translation>公历与农历</translation>
     </message>
     <message>
@@ -1382,7 +1382,7 @@
         <translation>体育馆</translation>
     </message>
     <message>
-        <source>Nothing but the time, with seconds</source>
+        <source>Only the time, with seconds</source>
         <translation>只有时间，带秒</translation>
     </message>
     <message>
@@ -1394,7 +1394,7 @@
         <translation>三个图片时钟及其城市</translation>
     </message>
     <message>
-        <source>Twelve hours</source>
+        <source>12-hour clock</source>
         <translation>十二小时制</translation>
     </message>
     <message>

@@ -12,9 +12,9 @@ namespace ClockStudio {
 
 namespace {
 
-// What making clocks may take before events are handled, in milliseconds.
+// How long creating clocks may block the event loop, in milliseconds.
 constexpr int kMakingSpan = 40;
-// Beyond the identities that plugins draw and programs usually give.
+// Above the plugin's random Ids and those that programs usually set.
 constexpr int kFirstIdentity = 100000;
 
 QString MadeFrom(const ProgramReading &reading, int area)
@@ -61,8 +61,8 @@ void LiveWall::Show(const ProgramReading &reading)
     Compose(m_screen.rect());
 }
 
-/// The slots for a program. An unchanged clock goes on playing, wherever it moved; a changed one
-/// gets the slot of what was in its place, unless that plays on elsewhere.
+/// The slots for a program. An unchanged clock keeps playing, even if it was moved; a changed one
+/// gets the slot of the clock it replaces, unless that one still plays elsewhere.
 std::vector<LiveWall::Slot> LiveWall::TakeOver(const ProgramReading &reading)
 {
     std::vector<Slot> next(static_cast<std::size_t>(reading.AreaCount()));
@@ -150,7 +150,7 @@ int LiveWall::FreeIdentity()
                                       : m_freeIdentities.takeLast();
 }
 
-/// Files of the identity are written over by the next clock that gets it.
+/// The glyph files are overwritten by the next clock with this Id.
 void LiveWall::Release(Slot &slot)
 {
     if (slot.identity != 0)

@@ -1,5 +1,5 @@
-// studio/wall: the wall as it is seen and handled.
-// The clocks of the program as they play. Only those are made again whose text or size changed.
+// studio/wall: the playing clocks of the program. Only clocks whose text or size changed are
+// recreated.
 #pragma once
 
 #include "text/program_reading.h"
@@ -29,8 +29,8 @@ public:
     explicit LiveWall(QObject *parent = nullptr);
     ~LiveWall() override;
 
-    /// Shows a program. Clocks that take long are made while events are handled between them; until
-    /// then their places show what was there.
+    /// Shows a program. Clocks are created in short batches between events; until then their areas
+    /// show the previous picture.
     void Show(const ProgramReading &reading);
     bool IsComplete() const { return m_waiting == 0; }
 
@@ -39,30 +39,30 @@ public:
     int AreaCount() const { return static_cast<int>(m_slots.size()); }
     QRect Geometry(int area) const { return m_slots[static_cast<std::size_t>(area)].geometry; }
     QImage Picture(int area) const;
-    /// The node as the text says it; null while it waits to be made, and where no clock is made of
-    /// the text.
+    /// The node of an area; null until it is created, and if none can be created from the
+    /// text.
     Lw::HNodeClock::HClockNode *Clock(int area) const;
-    /// Why no clock is made of an area's text; empty where one is, or waits.
+    /// Why no clock could be created from an area's text; empty if there is one or it is pending.
     QString Refusal(int area) const { return m_slots[static_cast<std::size_t>(area)].refusal; }
 
-    /// Every clock draws what it shows now: the shown time has changed.
+    /// Redraws every clock after a change of the shown time.
     void PlayNext();
-    /// Makes every clock again: what they are made with, such as a language, has changed.
+    /// Recreates every clock after a change of the language.
     void MakeAgain();
 
 Q_SIGNALS:
     void Painted(const QRect &region); ///< pixels of the screen that changed
-    void ClocksMade();                 ///< nodes are other ones than before
+    void ClocksMade();                 ///< nodes have been recreated
 
 private:
     struct Slot
     {
-        QString text;       ///< of the area, which the clock is made from
-        QString made;       ///< that it was made from
+        QString text;       ///< size and XML that the clock is to be built from
+        QString made;       ///< the `text` that the current clock was built from
         QRect geometry;     ///< pixels of the screen
         int area = 0;       ///< in the program
         int identity = 0;   ///< in the names of its glyph files
-        QImage lastPicture; ///< while it waits
+        QImage lastPicture; ///< shown until the clock is rebuilt
         QString refusal;
         std::unique_ptr<ClockStage::Area> clock;
 
@@ -90,7 +90,7 @@ private:
 /// Starts an area that shows all of its clock at once: texts of dials come with the second frame.
 void StartWhole(ClockStage::Area &area);
 
-/// The plugin's own finder, for whatever makes nodes.
+/// Finds the clock plugin for an element (a ClockProgram::PluginFinder).
 Lw::INodePlugin *FindClockPlugin(QDomElement &element);
 
 } // namespace ClockStudio

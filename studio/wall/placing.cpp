@@ -7,13 +7,13 @@ namespace ClockStudio {
 
 namespace {
 
-/// The three places of a span that are drawn to lines: begin, middle, end.
+/// The three positions of a span that snap to lines: beginning, middle, end.
 QVector<int> PlacesOf(int begin, int size)
 {
     return {begin, begin + size / 2, begin + size};
 }
 
-/// The shortest way from one of the places to one of the lines; 0 where none is in reach.
+/// The smallest offset from a position to a line; 0 if none is within reach.
 int ShortestWay(const QVector<int> &places, const QVector<int> &lines, int reach)
 {
     int best = 0;

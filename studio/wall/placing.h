@@ -1,5 +1,4 @@
-// studio/wall: the wall as it is seen and handled.
-// Where rectangles go when they are moved, resized, aligned, distributed or stacked. Pure.
+// studio/wall: geometry of moving, resizing, snapping, aligning, distributing and stacking. Pure.
 #pragma once
 
 #include <QPoint>
@@ -8,57 +7,59 @@
 
 namespace ClockStudio {
 
-/// A side or a corner that is taken hold of, as flags.
+/// The sides that a resize handle moves, as flags.
 enum HandleSide { NoHandle = 0, LeftSide = 1, TopSide = 2, RightSide = 4, BottomSide = 8 };
 using Handle = int;
 
-/// The eight of a rectangle, corners last so that they are painted above.
+/// The eight handles of a rectangle, corners last so that they are painted on top.
 const QVector<Handle> &Handles();
 
-/// The middle of a handle on a rectangle's outline.
+/// The centre of a handle on a rectangle's outline.
 QPointF HandlePlace(const QRectF &rect, Handle handle);
 
-constexpr int kSmallestSide = 4; ///< pixels of an area that is drawn or resized by hand
+/// The minimum side of an area drawn or resized with the mouse, in wall pixels.
+constexpr int kSmallestSide = 4;
 
-/// A rectangle whose sides are moved by a distance, none beyond the opposite one.
+/// The rectangle with the handle's sides moved by a distance, at least kSmallestSide from the
+/// opposite side.
 QRect Resized(const QRect &rect, Handle handle, QPoint distance);
 
-/// Lines that moving sides are drawn to, in pixels of the screen.
+/// Lines to which moving sides snap, in pixels of the screen.
 struct SnapLines
 {
     QVector<int> x;
     QVector<int> y;
 };
 
-/// The edges and middles of the screen, other areas' edges and middles, and the module grid where
-/// its size is not empty.
+/// The edges and centre lines of the screen and of the other areas, and the panel grid unless
+/// `module` is empty.
 SnapLines SnapLinesOf(QSize screen, const QVector<QRect> &others, QSize module);
 
-/// A distance that brings sides onto lines, and the lines that were met.
+/// The snapped distance, and the lines that were hit.
 struct Snap
 {
     QPoint distance;
     SnapLines met;
 };
 
-/// For a rectangle that is moved by a distance: edges and middle, each way, are drawn to the
-/// nearest line within the reach, in pixels.
+/// Snaps a moved rectangle: its edges and middles snap to the nearest line within the reach, in
+/// pixels.
 Snap SnapMove(const QRect &rect, QPoint distance, const SnapLines &lines, int reach);
-/// For one that is resized: its moving sides.
+/// Snaps the moving sides of a resized rectangle.
 Snap SnapResize(const QRect &rect, Handle handle, QPoint distance, const SnapLines &lines,
                 int reach);
 
 enum class Alignment { Left, Centre, Right, Top, Middle, Bottom };
 enum class Direction { Across, Down };
 
-/// Rectangles along a line of what is around them all; a single one along the screen's.
+/// Aligns rectangles to their bounding rectangle; a single one to the screen.
 QVector<QRect> Aligned(const QVector<QRect> &rects, Alignment alignment, QSize screen);
 /// Rectangles with equal gaps between the first and the last.
 QVector<QRect> Distributed(const QVector<QRect> &rects, Direction direction);
-/// Rectangles one after another without gaps, in the order in which they are placed.
+/// Rectangles one after another without gaps, sorted by position.
 QVector<QRect> Stacked(const QVector<QRect> &rects, Direction direction);
 
-/// The least rectangle around all.
+/// The bounding rectangle.
 QRect Around(const QVector<QRect> &rects);
 
 } // namespace ClockStudio

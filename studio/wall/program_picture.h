@@ -1,5 +1,4 @@
-// studio/wall: the wall as it is seen and handled.
-// A whole program as one picture.
+// studio/wall: draws a whole program as one picture, for the gallery.
 #pragma once
 
 #include "text/program_reading.h"
@@ -8,7 +7,7 @@
 
 namespace ClockStudio {
 
-/// The wall of a program at the time that its clocks show now; null for what is no program.
+/// A picture of the program at the time shown now; null if it is not a valid program.
 QImage PictureOfProgram(const QByteArray &bytes);
 
 } // namespace ClockStudio

@@ -1,5 +1,4 @@
-// studio/wall: the wall as it is seen and handled.
-// The colours around the wall, which are not the clocks'. They hold on light and dark desktops.
+// studio/wall: the colours of the editor around the wall, for light and dark desktops.
 #pragma once
 
 #include <QColor>

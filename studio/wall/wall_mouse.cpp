@@ -9,7 +9,7 @@ namespace {
 constexpr int kFar = 3;   // pixels of the view that a click may wander
 constexpr int kReach = 6; // pixels of the view within which sides snap
 
-// A click where a clock is drawn gives it this size.
+// The size of a clock placed by a click instead of a drag.
 constexpr QSize kNewSize(64, 32);
 constexpr QSize kNewDial(64, 64);
 

@@ -1,5 +1,5 @@
-// studio/wall: the wall as it is seen and handled.
-// What the mouse does on the wall: choosing, moving, resizing, drawing. It knows no widget.
+// studio/wall: mouse handling on the wall: selecting, moving, resizing, drawing. Independent of the
+// widget.
 #pragma once
 
 #include "editing/wall_editor.h"
@@ -16,25 +16,25 @@ class WallMouse : public QObject
 public:
     explicit WallMouse(WallEditor &editor) : m_editor(editor) { }
 
-    /// What the next drag draws; nothing: it chooses and moves.
+    /// The kind of clock that the next drag draws; nullopt: drags select and move.
     std::optional<ClockKind> Drawing() const { return m_drawing; }
     void SetDrawing(std::optional<ClockKind> kind);
 
     struct Grip
     {
-        QPoint point; ///< of the view
+        QPoint point; ///< in the view
         Qt::KeyboardModifiers keys;
-        QSize module; ///< of the grid that is snapped to; may be empty
+        QSize module; ///< cell size of the panel grid; empty if there is none
     };
 
     void Press(const WallScale &scale, const Grip &grip);
     void Move(const WallScale &scale, const Grip &grip);
     void Release(const WallScale &scale, const Grip &grip);
-    /// Ends a drag as if it had not begun. False where there is none.
+    /// Cancels and reverts a drag. False if there is none.
     bool Cancel();
 
     bool IsDragging() const { return m_drag != Drag::None; }
-    /// A rectangle to be shown while it is dragged.
+    /// The rubber band while one is dragged.
     std::optional<QRect> Band() const;
     const SnapLines &Guides() const { return m_guides; }
     /// The area under the pointer; -1 for none.
@@ -42,7 +42,7 @@ public:
     Qt::CursorShape Cursor(const WallScale &scale, QPoint point) const;
 
 Q_SIGNALS:
-    void Changed(); ///< what is shown of a drag
+    void Changed(); ///< the band, guides or hovered area changed
     void DrawingChanged();
 
 private:
@@ -60,14 +60,14 @@ private:
     std::optional<ClockKind> m_drawing;
     Drag m_drag = Drag::None;
     Handle m_handle = NoHandle;
-    QPoint m_from;          ///< a corner of a pixel of the wall
+    QPoint m_from;          ///< the wall pixel corner where the drag began
     QPoint m_pressed;       ///< of the view
-    QVector<QRect> m_rects; ///< of the chosen areas at the beginning
+    QVector<QRect> m_rects; ///< the selected areas' rectangles when the drag began
     QRect m_band;
     SnapLines m_guides;
-    int m_history = 0; ///< index of the history at the beginning
+    int m_history = 0; ///< undo index when the drag began
     int m_hovered = -1;
-    bool m_isFar = false; ///< the pointer has left the place where it was pressed
+    bool m_isFar = false; ///< the pointer has moved beyond the drag threshold
 };
 
 } // namespace ClockStudio

@@ -8,10 +8,10 @@ namespace ClockStudio {
 
 namespace {
 
-// Pixels of the view between two marks of a ruler with numbers.
+// Minimum distance between numbered ruler ticks, in view pixels.
 constexpr int kLeastMarkDistance = 48;
 
-/// A number of wall pixels between marks that leaves room for numbers.
+/// The distance between numbered ticks in wall pixels, wide enough for the numbers.
 int MarkStep(int zoom)
 {
     for (const int step : {8, 16, 32, 64, 128, 256, 512, 1024}) {
@@ -21,7 +21,7 @@ int MarkStep(int zoom)
     return 2048;
 }
 
-/// Places of the marks of a ruler in a view, from a wall's origin.
+/// Ruler ticks in wall pixels: the distance between numbered ticks and the first one in view.
 struct Marks
 {
     int step;

@@ -1,5 +1,4 @@
-// studio/wall: the wall as it is seen and handled.
-// What is drawn over and around the wall: edges, grid, outlines, guides, rulers.
+// studio/wall: painting of the editor's overlays: grid, outlines, handles, guides, rulers.
 #pragma once
 
 #include "placing.h"
@@ -18,14 +17,14 @@ void PaintModules(QPainter &painter, const WallScale &scale, QSize screen, QSize
 void PaintOutline(QPainter &painter, const WallScale &scale, const QRect &area, bool isChosen);
 void PaintHandles(QPainter &painter, const WallScale &scale, const QRect &area);
 void PaintGuides(QPainter &painter, const WallScale &scale, const SnapLines &guides, QSize screen);
-/// A rectangle that is being drawn, or chooses what it touches.
+/// The rubber band of drawing or selecting.
 void PaintBand(QPainter &painter, const WallScale &scale, const QRect &band);
-/// A few words beside a rectangle.
+/// A short label below a rectangle.
 void PaintTag(QPainter &painter, const WallScale &scale, const QRect &rect, const QString &text);
-/// The rulers at two edges of a view, with the chosen span marked.
+/// The rulers at the top and left edges of a view, with the selection's span marked.
 void PaintRulers(QPainter &painter, const WallScale &scale, QSize view, const QRect &chosen);
 
-/// The handle of an area under a point of the view.
+/// The handle of an area under a point in the view; NoHandle if none.
 Handle HandleAt(const WallScale &scale, const QRect &area, QPoint point);
 
 } // namespace ClockStudio

@@ -1,5 +1,4 @@
-// studio/wall: the wall as it is seen and handled.
-// From pixels of the wall to pixels of the view and back.
+// studio/wall: converts between pixels of the wall and pixels of the view.
 #pragma once
 
 #include <QPoint>
@@ -13,24 +12,24 @@ constexpr int kLargestZoom = 32;
 
 struct WallScale
 {
-    int zoom = 2;  ///< pixels of the view for one of the wall, each way
+    int zoom = 2;  ///< view pixels per wall pixel
     QPoint origin; ///< of the wall, in the view
 
     QRect ToView(const QRect &rect) const
     {
         return {origin + rect.topLeft() * zoom, rect.size() * zoom};
     }
-    /// The wall's pixel under a point of the view; outside the wall too.
+    /// The wall pixel under a point of the view; also valid outside the wall.
     QPoint ToWall(QPoint point) const
     {
         return {Floor(point.x() - origin.x()), Floor(point.y() - origin.y())};
     }
-    /// The least rectangle of the wall that covers one of the view.
+    /// The smallest wall rectangle that covers a view rectangle.
     QRect ToWall(const QRect &rect) const
     {
         return {ToWall(rect.topLeft()), ToWall(rect.bottomRight())};
     }
-    /// The line between pixels that is nearest to a point.
+    /// The corner of a wall pixel nearest to a point of the view.
     QPoint NearestCorner(QPoint point) const { return ToWall(point + QPoint(zoom / 2, zoom / 2)); }
 
 private:

@@ -15,8 +15,8 @@ namespace ClockStudio {
 namespace {
 
 constexpr int kMargin = 28;      // around the wall, pixels of the view
-constexpr int kBigStep = 8;      // of an arrow key with Shift
-constexpr int kFittingZoom = 12; // no wall is magnified more to fill the view
+constexpr int kBigStep = 8;      // wall pixels an arrow key with Shift moves
+constexpr int kFittingZoom = 12; // the largest zoom used by ZoomToFit
 
 } // namespace
 
@@ -24,13 +24,13 @@ WallView::WallView(WallEditor &editor, QWidget *parent)
     : QAbstractScrollArea(parent), m_editor(editor), m_mouse(editor), m_leds(m_scale.zoom)
 {
     setFrameShape(QFrame::NoFrame);
-    setLayoutDirection(Qt::LeftToRight); // walls have their origin on the left everywhere
+    setLayoutDirection(Qt::LeftToRight); // the origin of a wall is always on the left
     setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setMouseTracking(true);
     setAccessibleName(tr("Wall"));
     setAccessibleDescription(
-        tr("The clocks of the program as the wall shows them. Tab chooses the next one."));
+        tr("The clocks of the program as shown on the wall. Tab selects the next one."));
     connect(&m_editor.Wall(), &LiveWall::Painted, this, [this](const QRect &region) {
         if (m_shown != m_editor.Wall().Size())
             PlaceWall();
@@ -45,7 +45,7 @@ WallView::WallView(WallEditor &editor, QWidget *parent)
     });
 }
 
-/// The wall in the middle where there is room, else where the scroll bars say.
+/// Centres the wall if it fits, else places it by the scroll bars.
 void WallView::PlaceWall()
 {
     m_shown = m_editor.Wall().Size();
@@ -168,7 +168,7 @@ void WallView::PaintHint(QPainter &painter)
     painter.setPen(kHintInk);
     painter.drawText(m_scale.ToView({QPoint(), m_editor.Wall().Size()}),
                      Qt::AlignCenter | Qt::TextWordWrap,
-                     tr("Choose a kind of clock above, then draw its place here"));
+                     tr("Choose a kind of clock above, then drag a rectangle here"));
 }
 
 void WallView::resizeEvent(QResizeEvent *)
@@ -249,7 +249,7 @@ void WallView::keyPressEvent(QKeyEvent *event)
     }
 }
 
-/// Tab goes from clock to clock, and on to the next widget behind the last one.
+/// Tab moves from clock to clock, and after the last one to the next widget.
 bool WallView::focusNextPrevChild(bool next)
 {
     const int count = m_editor.Wall().AreaCount();
@@ -268,7 +268,7 @@ void WallView::TellChoice()
     setAccessibleDescription(
         chosen.size() == 1
             ? tr("Clock %1 of %2").arg(chosen.first() + 1).arg(m_editor.Wall().AreaCount())
-            : tr("%n clock(s) chosen", nullptr, chosen.size()));
+            : tr("%n clock(s) selected", nullptr, chosen.size()));
     QAccessibleEvent event(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
 }

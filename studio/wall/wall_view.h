@@ -1,5 +1,4 @@
-// studio/wall: the wall as it is seen and handled.
-// The widget that shows the wall and takes mouse and keys.
+// studio/wall: the widget that shows the wall and handles mouse and keyboard.
 #pragma once
 
 #include "wall_mouse.h"
@@ -21,7 +20,7 @@ public:
     explicit WallView(WallEditor &editor, QWidget *parent = nullptr);
 
     int Zoom() const { return m_scale.zoom; }
-    /// Whole magnifications; the point of the view stays where it is.
+    /// Sets an integral magnification, keeping the point of the view fixed.
     void SetZoom(int zoom, std::optional<QPoint> around = {});
     void ZoomToFit();
     bool ShowsDiodes() const { return m_diodes; }
