@@ -1,4 +1,4 @@
-// clock_studio: the editor for walls of clocks.
+// studio: clock_studio, the editor for walls of clocks. main().
 #include "window/main_window.h"
 #include "window/studio_application.h"
 
@@ -22,14 +22,14 @@ QString RecoveryDirectory()
         + QStringLiteral("/recovery");
 }
 
-/// The program to open; nothing where none is given.
+/// The program to open; empty if none is given.
 QString ProgramFrom(const QApplication &application)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Designs walls of clocks."));
+    parser.setApplicationDescription(QStringLiteral("An editor for walls of clocks."));
     ClockProgram::AddInformationOptions(parser);
     parser.addPositionalArgument(QStringLiteral("PROGRAM.xml"),
-                                 QStringLiteral("The program to open."),
+                                 QStringLiteral("The program file to open."),
                                  QStringLiteral("[PROGRAM.xml]"));
     parser.process(application);
     return parser.positionalArguments().value(0);
@@ -40,8 +40,7 @@ QString ProgramFrom(const QApplication &application)
 int main(int argc, char **argv)
 {
     if (!HasDisplay(argc, argv)) {
-        ClockProgram::SayAs("clock_studio",
-                            QStringLiteral("there is no display; the studio needs one"));
+        ClockProgram::SayAs("clock_studio", QStringLiteral("no display: the studio needs one"));
         return EXIT_FAILURE;
     }
     ClockProgram::FixFontResolution();

@@ -25,7 +25,7 @@ bool HasFinding(const QString &text, const TextForm &form, const QString &senten
                        [&sentence](const Finding &finding) { return finding.text == sentence; });
 }
 
-/// What may have to be replaced: the value, the attribute's name, or the value of a key.
+/// The ranges that the suggestion may replace: a value, an attribute's name, or a key.
 QVector<TextRange> Candidates(const XmlElement &element, const Finding &finding)
 {
     QVector<TextRange> ranges;
@@ -60,7 +60,7 @@ int ElementOf(const ProgramReading &reading, const Finding &finding)
 {
     if (finding.place.line < 1)
         return -1;
-    // A parser tells the line on which a tag ends.
+    // The parser reports the line on which a tag ends.
     const int begin = StartOfLine(reading.text, finding.place.line);
     const int end = StartOfLine(reading.text, finding.place.line + 1);
     for (int i = 0; i < reading.elements.size(); ++i) {

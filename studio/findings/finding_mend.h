@@ -1,5 +1,4 @@
-// studio/findings: what is wrong with a program, found as it arises.
-// Checks of a program's text, and the edits that mend what they find.
+// studio/findings: runs lint on the program's text, and makes the edits that fix its findings.
 #pragma once
 
 #include "text/program_reading.h"
@@ -10,7 +9,7 @@
 
 namespace ClockStudio {
 
-/// What lint finds in a program; each once, in the order of the text.
+/// What lint finds in a program, without duplicates, in text order.
 QVector<ClockTool::Finding> FindingsIn(const ProgramReading &reading);
 
 /// The element that a finding is about; -1 where it is about the file.
@@ -19,7 +18,7 @@ int ElementOf(const ProgramReading &reading, const ClockTool::Finding &finding);
 /// The key of the attribute that a finding is about; empty where there is none.
 QString KeyOf(const ClockTool::Finding &finding, int clockType);
 
-/// The edit that writes what a finding suggests, where lint then has no such finding any more.
+/// The edit that applies a finding's suggestion, if the finding then disappears.
 std::optional<TextEdit> MendOf(const ProgramReading &reading, const ClockTool::Finding &finding);
 
 } // namespace ClockStudio

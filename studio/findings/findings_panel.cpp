@@ -13,21 +13,21 @@ namespace ClockStudio {
 
 namespace {
 
-// Checking waits until nobody has typed for so long, in milliseconds.
+// Delay after the last change before checking, in milliseconds.
 constexpr int kDelay = 400;
 
 } // namespace
 
 FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
     : QWidget(parent), m_editor(editor), m_list(new QListWidget),
-      m_mend(new QPushButton(tr("Mend"))), m_none(new QLabel(tr("Nothing found.")))
+      m_mend(new QPushButton(tr("Mend"))), m_none(new QLabel(tr("No findings.")))
 {
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 6, 8, 6);
     m_list->setWordWrap(true);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setAccessibleName(tr("Findings"));
-    m_mend->setToolTip(tr("Write what the finding suggests"));
+    m_mend->setToolTip(tr("Apply the suggestion of the finding"));
     layout->addWidget(m_none, 1);
     layout->addWidget(m_list, 1);
     layout->addWidget(m_mend, 0, Qt::AlignTop);

@@ -1,5 +1,5 @@
-// studio/findings: what is wrong with a program, found as it arises.
-// The list of findings: a click chooses the clock and the property, a button mends.
+// studio/findings: the list of findings: a click selects the clock and property, a button applies
+// the fix.
 #pragma once
 
 #include "editing/wall_editor.h"
@@ -24,7 +24,7 @@ public:
     explicit FindingsPanel(WallEditor &editor, QWidget *parent = nullptr);
 
     const QVector<ClockTool::Finding> &Findings() const { return m_findings; }
-    /// Checks now, not a moment after the last change.
+    /// Checks immediately instead of after the delay.
     void Check();
 
 Q_SIGNALS:

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kNumberMargin = 8; // pixels
 
-/// The strip with the numbers of the lines; what is on it, the view paints.
+/// The line-number margin; the view paints it.
 class NumberStrip : public QWidget
 {
 public:
@@ -49,11 +49,11 @@ SourceView::SourceView(WallEditor &editor, QWidget *parent)
     m_numbers = new NumberStrip(this, [this](QPaintEvent *event) { PaintNumbers(event); });
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setLineWrapMode(NoWrap);
-    setLayoutDirection(Qt::LeftToRight); // as XML is
+    setLayoutDirection(Qt::LeftToRight); // also in right-to-left languages: XML is left to right
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     setAccessibleName(tr("Program text"));
-    setAccessibleDescription(tr("The XML of the program. Changes show on the wall at once."));
+    setAccessibleDescription(tr("The XML of the program. Changes appear on the wall immediately."));
     new XmlHighlighter(document(), palette());
     connect(&editor.Document(), &StudioDocument::Loaded, this, &SourceView::TakeText);
     connect(&editor.Document(), &StudioDocument::Edited, this, &SourceView::TakeEdits);
@@ -72,8 +72,8 @@ void SourceView::TakeText()
     setPlainText(m_editor.Document().Text());
 }
 
-/// Positions are those of the text before each edit, of which only the last is still there; they
-/// are worked out backwards from it.
+/// Each edit's position refers to the text before it; these texts are reconstructed by reverting
+/// the edits.
 void SourceView::TakeEdits(const TextEdits &edits)
 {
     if (m_isOwnEdit)
@@ -98,7 +98,7 @@ void SourceView::GiveEdit()
     if (m_isOwnEdit)
         return;
     const QScopedValueRollback<bool> guard(m_isOwnEdit, true);
-    // What the editor reports may be more than what changed; texts are compared instead.
+    // QTextDocument may report more than what changed, so the texts are compared.
     QTextCursor all(document());
     all.select(QTextCursor::Document);
     const QString before = m_editor.Document().Text();

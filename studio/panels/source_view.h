@@ -1,5 +1,4 @@
-// studio/panels: what is around the wall: source, findings, time, properties.
-// The program's text, to be read and edited beside the wall.
+// studio/panels: the XML editor beside the wall.
 #pragma once
 
 #include "editing/wall_editor.h"
@@ -8,7 +7,7 @@
 
 namespace ClockStudio {
 
-/// Has no history of its own: every edit is one of the document.
+/// Has no undo history of its own: every edit goes through the document.
 class SourceView : public QPlainTextEdit
 {
     Q_OBJECT
@@ -16,7 +15,7 @@ class SourceView : public QPlainTextEdit
 public:
     explicit SourceView(WallEditor &editor, QWidget *parent = nullptr);
 
-    /// Puts the cursor into a line, from 1.
+    /// Moves the cursor to a line, counted from 1.
     void GoToLine(int line);
 
 protected:
@@ -35,7 +34,7 @@ private:
 
     WallEditor &m_editor;
     QWidget *m_numbers;
-    bool m_isOwnEdit = false; ///< an edit that is on its way from or to the document
+    bool m_isOwnEdit = false; ///< an edit is being copied between the view and the document
 };
 
 } // namespace ClockStudio

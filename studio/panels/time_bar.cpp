@@ -21,8 +21,8 @@ namespace {
 
 namespace StageTime = ClockStage::StageTime;
 
-constexpr int kRefresh = 200;          // milliseconds between looks at the time
-constexpr qint64 kBeforeChange = 3000; // how long before a change to begin
+constexpr int kRefresh = 200;          // refresh interval in milliseconds
+constexpr qint64 kBeforeChange = 3000; // milliseconds before the change
 constexpr int kMinutesPerDay = 24 * 60;
 constexpr double kSpeeds[] = {1, 10, 60, 600, 3600};
 
@@ -59,7 +59,7 @@ TimeBar::TimeBar(LiveWall &wall, QWidget *parent)
     : QWidget(parent), m_wall(wall), m_run(Button({}, {})), m_day(new QSlider(Qt::Horizontal)),
       m_date(new QDateTimeEdit), m_speed(new QComboBox)
 {
-    auto *const now = Button(tr("Now"), tr("Show the present time"));
+    auto *const now = Button(tr("Now"), tr("Show the current time"));
     connect(now, &QToolButton::clicked, this, &TimeBar::ReturnToPresent);
     m_run->setCheckable(true);
     SetUpDate();
@@ -98,7 +98,7 @@ void TimeBar::SetUpDay()
 
 void TimeBar::SetUpSpeed()
 {
-    m_speed->setToolTip(tr("How fast the time runs"));
+    m_speed->setToolTip(tr("Speed of the time"));
     m_speed->setAccessibleName(m_speed->toolTip());
     for (const double speed : kSpeeds)
         m_speed->addItem(QStringLiteral("%1×").arg(speed), speed);
@@ -175,7 +175,7 @@ void TimeBar::GoToNext(int kind)
     }
 }
 
-/// Clocks wait for their next second at the speed there is now, or for nothing.
+/// Restarts the clocks' timers for the current speed, or stops them when paused.
 void TimeBar::TimeChanged()
 {
     const ClockStage::TimeTravel &travel = StageTime::Travel();
@@ -191,7 +191,7 @@ void TimeBar::ShowTime()
     const QDateTime time = Local(StageTime::Shown());
     m_run->setChecked(runs);
     m_run->setText(runs ? tr("Pause") : tr("Run"));
-    m_run->setToolTip(runs ? tr("Hold the time") : tr("Let the time run"));
+    m_run->setToolTip(runs ? tr("Pause the time") : tr("Let the time run"));
     if (!m_date->hasFocus() || runs)
         m_date->setDateTime(time);
     if (!m_day->isSliderDown())

@@ -1,5 +1,5 @@
-// studio/panels: what is around the wall: source, findings, time, properties.
-// The time that the wall shows: now, a date, the hours of a day, the next change of anything.
+// studio/panels: the bar that sets the time shown by the wall: now, a date, a time of day, or
+// shortly before a change.
 #pragma once
 
 #include "wall/live_wall.h"

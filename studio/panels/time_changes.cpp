@@ -15,7 +15,7 @@ using Lw::HNodeClock::ZoneSettings;
 
 constexpr qint64 kSecond = 1000;
 constexpr qint64 kDay = 86400 * kSecond;
-constexpr int kLongestLunarMonth = 31; // days to look at
+constexpr int kLongestLunarMonth = 31; // days to search; a lunar month has 29 or 30
 
 /// A reading of a clock as a UTC time.
 QDateTime Reading(const ZoneSettings &clock, qint64 instant)
@@ -80,7 +80,8 @@ std::optional<qint64> NextChangeOf(ChangeKind kind, const QVector<ZoneSettings> 
     std::optional<qint64> first;
     for (const ZoneSettings &clock : clocks) {
         std::optional<qint64> next = NextOf(kind, clock, instant);
-        if (next && *next <= instant) // just past it by the standard time
+        // The standard offset may put the midnight just before the instant.
+        if (next && *next <= instant)
             next = NextOf(kind, clock, instant + kDay);
         if (next && *next > instant && (!first || *next < *first))
             first = next;

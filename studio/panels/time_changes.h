@@ -1,5 +1,5 @@
-// studio/panels: what is around the wall: source, findings, time, properties.
-// When something that clocks show changes next. Pure.
+// studio/panels: finds the next change of what clocks show: daylight saving, midnight, month, year.
+// Pure.
 #pragma once
 
 #include "calendar/zone_time.h"
@@ -12,8 +12,8 @@ namespace ClockStudio {
 
 enum class ChangeKind { DaylightSaving, Midnight, Month, Year, LunarMonth };
 
-/// The first instant (UTC milliseconds) after one at which a clock's reading changes in this way;
-/// for several clocks the first of all. Nothing where none changes.
+/// The first instant after `instant` (both UTC milliseconds) at which a clock's reading changes in
+/// this way; the earliest over all clocks. Nothing if none changes.
 std::optional<qint64>
 NextChangeOf(ChangeKind kind, const QVector<Lw::HNodeClock::ZoneSettings> &clocks, qint64 instant);
 

@@ -1,5 +1,5 @@
-// studio/panels: what is around the wall: source, findings, time, properties.
-// Positions in a text and in a text editor's own copy of it, where every line end is one character.
+// studio/panels: converts positions between a text and the editor's copy, where every line end is
+// one character.
 #pragma once
 
 #include <QString>

@@ -30,7 +30,7 @@ XmlHighlighter::XmlHighlighter(QTextDocument *document, const QPalette &palette)
     m_comment = colour("#777777", "#909090");
 }
 
-/// Gives where the comment ends; the end of the line where it goes on.
+/// Returns where the comment ends, or the end of the line if it continues.
 int XmlHighlighter::HighlightComment(const QString &text, int begin)
 {
     const int end = text.indexOf(QLatin1String("-->"), begin);

@@ -1,5 +1,4 @@
-// studio/panels: what is around the wall: source, findings, time, properties.
-// Colours of XML in the source view.
+// studio/panels: syntax highlighting of XML in the source view.
 #pragma once
 
 #include <QPalette>
@@ -12,7 +11,7 @@ class XmlHighlighter : public QSyntaxHighlighter
     Q_OBJECT
 
 public:
-    /// The palette tells whether the ground is light or dark.
+    /// The palette decides between light and dark colours.
     XmlHighlighter(QTextDocument *document, const QPalette &palette);
 
 protected:

@@ -1,5 +1,4 @@
-// studio/properties: what can be set of the chosen clocks.
-// Small pictures of clocks, drawn by the plugin.
+// studio/properties: small pictures of clocks, drawn by the plugin.
 #pragma once
 
 #include "editing/value_edits.h"
@@ -8,10 +7,10 @@
 
 namespace ClockStudio {
 
-/// A new clock with these values, and nothing else shown that it would not need, at a fixed time.
+/// A picture of a new clock with these values, at a fixed time.
 QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size);
 
-/// What a code of an attribute looks like; null where that cannot be shown. Pictures are kept.
+/// A sample picture for a code of an attribute; null if there is none. Cached.
 QPixmap CodePicture(Lw::HNodeClock::Attribute attribute, int code);
 
 /// A kind of clock (see ClockTypeCode).

@@ -1,12 +1,11 @@
-// studio/properties: what can be set of the chosen clocks.
-// A colour, chosen from a palette that suits LEDs or by a picker.
+// studio/properties: a button that picks a colour from a palette for LEDs or in a dialog.
 #pragma once
 
 #include <QToolButton>
 
 namespace ClockStudio {
 
-/// Colours are texts as the host stores them: red + 256 * green + 65536 * blue, in decimal.
+/// Colours are strings in the host's form: red + 256 * green + 65536 * blue, in decimal.
 class ColourButton : public QToolButton
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// The codes that a clock has of one thing or another.
+/// The format codes of a clock.
 struct Codes
 {
     int date;
@@ -34,7 +34,7 @@ Codes CodesOf(HClockNode &clock)
             code(Attribute::DigitalTimeType, Attribute::DigitalTimeType)};
 }
 
-/// Every wording is made into images; a clock shows those of its formats.
+/// Images exist for every format; a clock shows only those of its own.
 bool IsShown(Glyph glyph, const Codes &codes)
 {
     switch (glyph) {
@@ -138,7 +138,8 @@ void FamilyBox::MarkLacking()
     for (int i = 1; i < count(); ++i) {
         const QString family = itemData(i).toString();
         const QString lacked = LackedCharacters(family, m_text);
-        setItemText(i, lacked.isEmpty() ? family : tr("%1 (lacks %2)").arg(family, lacked.left(6)));
+        setItemText(i,
+                    lacked.isEmpty() ? family : tr("%1 (missing %2)").arg(family, lacked.left(6)));
         setItemData(i,
                     palette().brush(lacked.isEmpty() ? QPalette::Active : QPalette::Disabled,
                                     QPalette::Text),

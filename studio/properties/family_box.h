@@ -1,5 +1,5 @@
-// studio/properties: what can be set of the chosen clocks.
-// A font family. Those that lack characters of what the clock writes are marked.
+// studio/properties: a combo box of font families. Families without all characters that the clock
+// shows are greyed out.
 #pragma once
 
 #include "clock_attributes.h"
@@ -26,7 +26,7 @@ Q_SIGNALS:
     void Chosen(const QString &family); ///< empty for the default font
 
 public:
-    /// What is written with the font, for the marks.
+    /// The text shown in this font, used to mark families.
     void SetText(const QString &text) { m_text = text; }
 
 private:
@@ -35,10 +35,10 @@ private:
     QString m_text;
 };
 
-/// The characters of a text that a family lacks, each once.
+/// The distinct characters of a text that a family has no glyph for.
 QString LackedCharacters(const QString &family, const QString &text);
 
-/// What a clock writes with a font, in the language of the clocks.
+/// The text a clock writes in one of its fonts, in the clocks' language.
 QString WrittenWith(Lw::HNodeClock::HClockNode &clock, Lw::HNodeClock::Attribute familyAttribute);
 
 } // namespace ClockStudio

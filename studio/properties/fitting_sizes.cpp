@@ -15,7 +15,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// Whether the group that has an attribute is shown by the clock.
+/// Whether the clock uses and shows the property group that contains the attribute.
 bool IsShown(HClockNode &clock, Attribute attribute)
 {
     for (int i = 0; i < kPropertyGroupCount; ++i) {

@@ -1,5 +1,4 @@
-// studio/properties: what can be set of the chosen clocks.
-// Sizes with which a clock fills its area.
+// studio/properties: the text sizes at which a clock fills its area.
 #pragma once
 
 #include "editing/value_edits.h"
@@ -8,9 +7,9 @@
 
 namespace ClockStudio {
 
-/// The sizes of what the clock shows, all larger or smaller by one factor, so that nothing is cut
-/// on any day of the year to come. Empty where no sizes were found. The visible part of the area is
-/// in pixels from its top left.
+/// The sizes of the shown texts, scaled by one factor so that nothing is cut on any day of the year
+/// to come. Empty if no sizes were found. The visible part of the area is in pixels from its top
+/// left.
 QVector<StoredValue> FittingSizes(Lw::HNodeClock::HClockNode &clock, const QRect &visible);
 
 } // namespace ClockStudio

@@ -1,6 +1,5 @@
-// studio/properties: what can be set of the chosen clocks.
-// The attributes in the groups that people think in. Every attribute that means something to a kind
-// of clock is in one group of it, or is the panel's own business.
+// studio/properties: the attributes grouped as the panel shows them. Every attribute that a kind of
+// clock uses is in exactly one of its groups, or is handled by the panel itself.
 #pragma once
 
 #include "clock_attributes.h"
@@ -22,9 +21,9 @@ struct PropertyGroup
 {
     const char *title;
     Lw::HNodeClock::ClockKinds clocks;
-    /// The flag that shows what the group is about; Id where it is always shown.
+    /// The flag that shows or hides what the group sets; Id if it is always shown.
     Lw::HNodeClock::Attribute shown;
-    PropertyLine lines[kMaxLines]; ///< up to the first without attributes
+    PropertyLine lines[kMaxLines]; ///< ends at the first line without attributes
 };
 
 /// In the order of the panel.

@@ -1,5 +1,4 @@
-// studio/properties: what can be set of the chosen clocks.
-// The panel: place, kind, zone and everything else that the chosen clocks use.
+// studio/properties: the panel: place, kind, zone and everything else that the chosen clocks use.
 #pragma once
 
 #include "property_groups.h"

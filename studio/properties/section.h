@@ -1,5 +1,4 @@
-// studio/properties: what can be set of the chosen clocks.
-// A group of controls under a heading, which may have a switch.
+// studio/properties: a group of controls under a heading, which may have a switch.
 #pragma once
 
 #include <QGridLayout>

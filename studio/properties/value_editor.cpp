@@ -50,13 +50,13 @@ private:
     QCheckBox *m_box;
 };
 
-/// Words stand beside the pictures in the list only: closed, the picture says enough.
+/// Shows picture and text in the list, but only the picture when closed.
 class PictureBox : public QComboBox
 {
 public:
     explicit PictureBox(Attribute attribute) : m_attribute(attribute) { }
 
-    /// Pictures are drawn when they are first seen: all together would take as long as a start may.
+    /// Pictures are drawn lazily, as drawing all of them would delay the start.
     void DrawPicture(int index)
     {
         if (index < 0 || !itemIcon(index).isNull())
@@ -101,7 +101,7 @@ public:
         const ValueRange &range = Row().range;
         for (int code = range.first; code <= range.last; ++code)
             m_box->addItem(TranslatedWords(range.NameOf(code)), code);
-        // As wide as the panel lets it; the list below is as wide as its words.
+        // The box takes the width of the panel; its list is as wide as its texts.
         m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         m_box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         Use(m_box);
@@ -126,7 +126,7 @@ public:
     explicit NumberEditor(enum Attribute attribute) : ValueEditor(attribute), m_box(new QSpinBox)
     {
         const bool isSize = Row().role == ValueRole::Size;
-        // The least value stands for several.
+        // The minimum value represents mixed values.
         m_box->setRange(isSize ? 0 : -kMost - 1, isSize ? Row().range.last : kMost);
         m_box->setSuffix(isSize ? tr(" pt") : tr(" px"));
         m_box->setKeyboardTracking(false);
@@ -162,7 +162,7 @@ public:
 
     void Show(const QString &stored, bool isMixed) override
     {
-        m_line->setPlaceholderText(isMixed ? tr("several texts") : QString());
+        m_line->setPlaceholderText(isMixed ? tr("mixed") : QString());
         const QString text = isMixed ? QString() : stored;
         if (m_line->text() != text)
             m_line->setText(text);

@@ -1,5 +1,4 @@
-// studio/properties: what can be set of the chosen clocks.
-// A control for one attribute.
+// studio/properties: the editor widget for one attribute, one class per role.
 #pragma once
 
 #include "clock_attributes.h"
@@ -22,16 +21,16 @@ public:
     Lw::HNodeClock::Attribute Attribute() const { return m_attribute; }
     const Lw::HNodeClock::AttributeRow &Row() const { return RowOf(m_attribute); }
 
-    /// Shows a value as it is stored; where the chosen clocks have several, none of them.
+    /// Shows a stored value; if the selected clocks differ (isMixed), none.
     virtual void Show(const QString &stored, bool isMixed) = 0;
-    /// Told before, of one of the chosen clocks.
+    /// Called before Show() with one of the selected clocks.
     virtual void ShowFor(Lw::HNodeClock::HClockNode &) { }
 
 Q_SIGNALS:
     void Edited(const QString &stored);
 
 protected:
-    /// Puts the control in and gives it its names for those who do not see it.
+    /// Embeds the control and sets its accessible name and description.
     void Use(QWidget *control);
 
 private:
@@ -41,7 +40,7 @@ private:
 /// The control for the attribute's role.
 ValueEditor *MakeValueEditor(Lw::HNodeClock::Attribute attribute);
 
-/// Translations of what the attribute table says.
+/// A label or meaning of the attribute table, translated.
 QString TranslatedWords(const char *words);
 
 } // namespace ClockStudio

@@ -1,5 +1,5 @@
-// studio/properties: what can be set of the chosen clocks.
-// Zones to choose from, by city, country or offset; and what a clock is set to for one.
+// studio/properties: the list of zones, searchable by city, country or offset, and the clock
+// settings for each.
 #pragma once
 
 #include "zones/zone_rule.h"
@@ -15,27 +15,27 @@ namespace ClockStudio {
 
 struct ZoneName
 {
-    QByteArray zone; ///< as the system names it
+    QByteArray zone; ///< IANA name
     QString city;
     QString region; ///< country and continent
-    QString offset; ///< of the standard time now, "+05:30"
+    QString offset; ///< current standard time, "+05:30"
 };
 
-/// All of the system's zones with a city, by city. Made once.
+/// All of the system's zones with a city, sorted by city. Built once.
 const QVector<ZoneName> &AllZones();
 
-/// Whether all words of a search begin a word of the zone's city, region or offset.
+/// Whether each word of the search is a prefix of a word of the zone's city, region or offset.
 bool Matches(const ZoneName &zone, const QString &search);
 
 struct ZoneAnswer
 {
     ClockTool::ZoneSettings settings;
-    /// Where a clock with them is wrong in the ten years from the day; empty where it never is.
+    /// The periods in the ten years from `today` in which such a clock is wrong; empty if exact.
     QVector<ClockTool::WrongTime> wrong;
-    qint64 rightUntil = 0; ///< milliseconds since 1970-01-01 UTC, where it is never wrong
+    qint64 rightUntil = 0; ///< UTC milliseconds; only set if `wrong` is empty
 };
 
-/// Nothing for a zone that the system does not know.
+/// The best settings for a zone; nothing if the system does not know it.
 std::optional<ZoneAnswer> SettingsFor(const QByteArray &zone, const QDate &today);
 
 /// The city of a zone that has these settings' time; empty where there is none.

@@ -56,7 +56,7 @@ void ZoneDialog::ShowMatches(const QString &search)
     m_list->setCurrentRow(0);
 }
 
-/// Up and down go through the list while the search has the keys.
+/// Up and Down move in the list while the search field has the focus.
 bool ZoneDialog::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {

@@ -1,5 +1,4 @@
-// studio/properties: what can be set of the chosen clocks.
-// A search for a zone.
+// studio/properties: the dialog that searches for a city's time zone.
 #pragma once
 
 #include <QDialog>

@@ -1,5 +1,5 @@
-// studio/properties: what can be set of the chosen clocks.
-// The time zone of the chosen clocks: its city, what is right until when, and an adjustment.
+// studio/properties: the time zone of the selected clocks: its city, its next change, and an
+// adjustment.
 #pragma once
 
 #include "section.h"
@@ -23,7 +23,7 @@ public:
     ZoneSection();
 
     void Show(const QVector<Lw::HNodeClock::HClockNode *> &clocks);
-    /// Sets the clocks to a zone; says so where it cannot be done exactly.
+    /// Sets the clocks to a zone; shows a warning if that is not exact.
     void Choose(const QByteArray &zone);
 
 Q_SIGNALS:

@@ -23,7 +23,7 @@
         <translation>%1 (نصب نیست)</translation>
     </message>
     <message>
-        <source>%1 (lacks %2)</source>
+        <source>%1 (missing %2)</source>
         <translation>%1 (بدون %2)</translation>
     </message>
 </context>
@@ -34,7 +34,7 @@
         <translation>اصلاح</translation>
     </message>
     <message>
-        <source>Nothing found.</source>
+        <source>No findings.</source>
         <translation>چیزی پیدا نشد.</translation>
     </message>
     <message>
@@ -42,7 +42,7 @@
         <translation>یافته‌ها</translation>
     </message>
     <message>
-        <source>Write what the finding suggests</source>
+        <source>Apply the suggestion of the finding</source>
         <translation>پیشنهاد یافته را بنویس</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Alt + کلیدهای جهت</translation>
     </message>
     <message>
-        <source>Choose the next clock</source>
+        <source>Select the next clock</source>
         <translation>انتخاب ساعت بعدی</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Choose several clocks</source>
+        <source>Select several clocks</source>
         <translation>انتخاب چند ساعت</translation>
     </message>
     <message>
@@ -140,7 +140,7 @@
         <translation>نگه داشتن Alt</translation>
     </message>
     <message>
-        <source>Take back a drag, choose nothing</source>
+        <source>Cancel a drag, clear the selection</source>
         <translation>لغو کشیدن، بدون انتخاب</translation>
     </message>
     <message>
@@ -215,7 +215,7 @@
         <translation>%1 نوشته نشد.</translation>
     </message>
     <message>
-        <source>An empty folder, or one with an earlier export</source>
+        <source>Choose an empty folder, or one with an earlier export</source>
         <translation>پوشهٔ خالی، یا پوشهٔ خروجی پیشین</translation>
     </message>
     <message>
@@ -339,7 +339,7 @@
         <translation>&amp;چسباندن</translation>
     </message>
     <message>
-        <source>There is no clock on the clipboard</source>
+        <source>There is no clock in the clipboard</source>
         <translation>در بریده‌دان ساعتی نیست</translation>
     </message>
     <message>
@@ -355,7 +355,7 @@
         <translation>&amp;حذف</translation>
     </message>
     <message>
-        <source>Choose &amp;all clocks</source>
+        <source>Select &amp;all clocks</source>
         <translation>انتخاب &amp;همهٔ ساعت‌ها</translation>
     </message>
     <message>
@@ -475,7 +475,7 @@
         <translation>&amp;کوچک‌نمایی</translation>
     </message>
     <message>
-        <source>&amp;Fit to the window</source>
+        <source>&amp;Fit to window</source>
         <translation>ا&amp;ندازهٔ پنجره</translation>
     </message>
     <message>
@@ -555,7 +555,7 @@
         <translation>ابزارها</translation>
     </message>
     <message>
-        <source>%1: draw its place on the wall (%2)</source>
+        <source>%1: drag a rectangle on the wall (%2)</source>
         <translation>%1: جایش را روی دیوار بکشید (%2)</translation>
     </message>
     <message>
@@ -563,11 +563,11 @@
         <translation>دربارهٔ استودیوی ساعت</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;Designs walls of clocks. What it shows, the clocks&apos; own code draws.&lt;/p&gt;</source>
+        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. What it shows, the clocks&apos; own code draws.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;استودیوی ساعت %1&lt;/h3&gt;&lt;p&gt;دیوارهای ساعت را طراحی می‌کند. آنچه نشان می‌دهد را کد خود ساعت‌ها می‌کشد.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>%1 is no longer on the disk. Your work is still here.</source>
+        <source>%1 was deleted from the disk. Your work is still open here.</source>
         <translation>%1 دیگر روی دیسک نیست. کار شما هنوز اینجاست.</translation>
     </message>
     <message>
@@ -627,7 +627,7 @@
         <translation>دیوار تازه</translation>
     </message>
     <message>
-        <source>The studio ended unexpectedly. Unsaved work on %1 was kept.</source>
+        <source>The studio ended unexpectedly. Unsaved changes to %1 can be recovered.</source>
         <translation>استودیو ناگهان بسته شد. کار ذخیره‌نشدهٔ %1 نگه داشته شد.</translation>
     </message>
     <message>
@@ -643,7 +643,7 @@
         <translation>%1 را برنامهٔ دیگری تغییر داد.</translation>
     </message>
     <message>
-        <source>Load it again</source>
+        <source>Reload</source>
         <translation>بار کردن دوباره</translation>
     </message>
     <message>
@@ -659,7 +659,7 @@
         <translation>%1[*] – استودیوی ساعت</translation>
     </message>
     <message>
-        <source>Line %1: %2 The wall shows the last version that was right.</source>
+        <source>Line %1: %2 The wall shows the last valid version.</source>
         <translation>سطر %1: %2 دیوار آخرین نسخهٔ درست را نشان می‌دهد.</translation>
     </message>
     <message>
@@ -727,7 +727,7 @@
         <translation>تصویری</translation>
     </message>
     <message>
-        <source>Size of the wall</source>
+        <source>Resize the wall</source>
         <translation>اندازهٔ دیوار</translation>
     </message>
     <message>
@@ -856,7 +856,7 @@
         <translation>نسخه‌های پیشین</translation>
     </message>
     <message>
-        <source>Play the chosen release again</source>
+        <source>Play the selected release</source>
         <translation>پخش دوبارهٔ نسخهٔ برگزیده</translation>
     </message>
     <message>
@@ -899,7 +899,7 @@
         <translation>متن برنامه</translation>
     </message>
     <message>
-        <source>The XML of the program. Changes show on the wall at once.</source>
+        <source>The XML of the program. Changes appear on the wall immediately.</source>
         <translation>XML برنامه. تغییرات بی‌درنگ روی دیوار دیده می‌شوند.</translation>
     </message>
     <message>
@@ -910,7 +910,7 @@
 <context>
     <name>ClockStudio::TextEditor</name>
     <message>
-        <source>several texts</source>
+        <source>mixed</source>
         <translation>چند متن</translation>
     </message>
 </context>
@@ -960,7 +960,7 @@
         <translation>اکنون</translation>
     </message>
     <message>
-        <source>Show the present time</source>
+        <source>Show the current time</source>
         <translation>نمایش زمان اکنون</translation>
     </message>
     <message>
@@ -984,7 +984,7 @@
         <translation>در ساعت‌های روز بکشید</translation>
     </message>
     <message>
-        <source>How fast the time runs</source>
+        <source>Speed of the time</source>
         <translation>سرعت گذر زمان</translation>
     </message>
     <message>
@@ -996,7 +996,7 @@
         <translation>اجرا</translation>
     </message>
     <message>
-        <source>Hold the time</source>
+        <source>Pause the time</source>
         <translation>نگه داشتن زمان</translation>
     </message>
     <message>

@@ -23,7 +23,7 @@
         <translation>%1（未安装）</translation>
     </message>
     <message>
-        <source>%1 (lacks %2)</source>
+        <source>%1 (missing %2)</source>
         <translation>%1（缺少 %2）</translation>
     </message>
 </context>
@@ -34,7 +34,7 @@
         <translation>修正</translation>
     </message>
     <message>
-        <source>Nothing found.</source>
+        <source>No findings.</source>
         <translation>未发现问题。</translation>
     </message>
     <message>
@@ -42,7 +42,7 @@
         <translation>检查结果</translation>
     </message>
     <message>
-        <source>Write what the finding suggests</source>
+        <source>Apply the suggestion of the finding</source>
         <translation>写入建议的内容</translation>
     </message>
     <message>
@@ -116,7 +116,7 @@
         <translation>Alt + 方向键</translation>
     </message>
     <message>
-        <source>Choose the next clock</source>
+        <source>Select the next clock</source>
         <translation>选择下一个时钟</translation>
     </message>
     <message>
@@ -124,7 +124,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Choose several clocks</source>
+        <source>Select several clocks</source>
         <translation>选择多个时钟</translation>
     </message>
     <message>
@@ -140,7 +140,7 @@
         <translation>按住 Alt</translation>
     </message>
     <message>
-        <source>Take back a drag, choose nothing</source>
+        <source>Cancel a drag, clear the selection</source>
         <translation>取消拖动，不选任何时钟</translation>
     </message>
     <message>
@@ -215,7 +215,7 @@
         <translation>无法写入 %1。</translation>
     </message>
     <message>
-        <source>An empty folder, or one with an earlier export</source>
+        <source>Choose an empty folder, or one with an earlier export</source>
         <translation>空文件夹，或含有先前导出的文件夹</translation>
     </message>
     <message>
@@ -339,7 +339,7 @@
         <translation>粘贴(&amp;P)</translation>
     </message>
     <message>
-        <source>There is no clock on the clipboard</source>
+        <source>There is no clock in the clipboard</source>
         <translation>剪贴板上没有时钟</translation>
     </message>
     <message>
@@ -355,7 +355,7 @@
         <translation>删除(&amp;L)</translation>
     </message>
     <message>
-        <source>Choose &amp;all clocks</source>
+        <source>Select &amp;all clocks</source>
         <translation>选择所有时钟(&amp;A)</translation>
     </message>
     <message>
@@ -475,7 +475,7 @@
         <translation>缩小(&amp;O)</translation>
     </message>
     <message>
-        <source>&amp;Fit to the window</source>
+        <source>&amp;Fit to window</source>
         <translation>适合窗口(&amp;F)</translation>
     </message>
     <message>
@@ -555,7 +555,7 @@
         <translation>工具</translation>
     </message>
     <message>
-        <source>%1: draw its place on the wall (%2)</source>
+        <source>%1: drag a rectangle on the wall (%2)</source>
         <translation>%1：在墙上画出它的位置（%2）</translation>
     </message>
     <message>
@@ -563,11 +563,11 @@
         <translation>关于时钟工作室</translation>
     </message>
     <message>
-        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;Designs walls of clocks. What it shows, the clocks&apos; own code draws.&lt;/p&gt;</source>
+        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. What it shows, the clocks&apos; own code draws.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;时钟工作室 %1&lt;/h3&gt;&lt;p&gt;设计时钟墙。所显示的内容由时钟自己的代码绘制。&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>%1 is no longer on the disk. Your work is still here.</source>
+        <source>%1 was deleted from the disk. Your work is still open here.</source>
         <translation>%1 已不在磁盘上。您的工作仍在这里。</translation>
     </message>
     <message>
@@ -627,7 +627,7 @@
         <translation>新的墙</translation>
     </message>
     <message>
-        <source>The studio ended unexpectedly. Unsaved work on %1 was kept.</source>
+        <source>The studio ended unexpectedly. Unsaved changes to %1 can be recovered.</source>
         <translation>工作室意外退出。%1 的未保存工作已保留。</translation>
     </message>
     <message>
@@ -643,7 +643,7 @@
         <translation>%1 已被其他程序更改。</translation>
     </message>
     <message>
-        <source>Load it again</source>
+        <source>Reload</source>
         <translation>重新载入</translation>
     </message>
     <message>
@@ -659,7 +659,7 @@
         <translation>%1[*] – 时钟工作室</translation>
     </message>
     <message>
-        <source>Line %1: %2 The wall shows the last version that was right.</source>
+        <source>Line %1: %2 The wall shows the last valid version.</source>
         <translation>第 %1 行：%2 墙上显示的是最后一个正确的版本。</translation>
     </message>
     <message>
@@ -727,7 +727,7 @@
         <translation>图片</translation>
     </message>
     <message>
-        <source>Size of the wall</source>
+        <source>Resize the wall</source>
         <translation>墙的大小</translation>
     </message>
     <message>
@@ -855,7 +855,7 @@
         <translation>先前的版本</translation>
     </message>
     <message>
-        <source>Play the chosen release again</source>
+        <source>Play the selected release</source>
         <translation>重新播放所选版本</translation>
     </message>
     <message>
@@ -898,7 +898,7 @@
         <translation>节目文本</translation>
     </message>
     <message>
-        <source>The XML of the program. Changes show on the wall at once.</source>
+        <source>The XML of the program. Changes appear on the wall immediately.</source>
         <translation>节目的 XML。更改立即显示在墙上。</translation>
     </message>
     <message>
@@ -909,7 +909,7 @@
 <context>
     <name>ClockStudio::TextEditor</name>
     <message>
-        <source>several texts</source>
+        <source>mixed</source>
         <translation>多个文本</translation>
     </message>
 </context>
@@ -959,7 +959,7 @@
         <translation>现在</translation>
     </message>
     <message>
-        <source>Show the present time</source>
+        <source>Show the current time</source>
         <translation>显示当前时间</translation>
     </message>
     <message>
@@ -983,7 +983,7 @@
         <translation>拖动浏览一天的时间</translation>
     </message>
     <message>
-        <source>How fast the time runs</source>
+        <source>Speed of the time</source>
         <translation>时间流逝的速度</translation>
     </message>
     <message>
@@ -995,7 +995,7 @@
         <translation>运行</translation>
     </message>
     <message>
-        <source>Hold the time</source>
+        <source>Pause the time</source>
         <translation>停住时间</translation>
     </message>
     <message>

@@ -1,5 +1,4 @@
-// studio/window: the window that brings everything together.
-// Everything that menus, tool bar and keys do, in one table each for the window's menus.
+// studio/window: builds menus from tables of commands.
 #pragma once
 
 #include <QAction>
@@ -21,7 +20,7 @@ struct Command
 /// Adds commands to a menu, in their order.
 QVector<QAction *> AddCommands(QMenu &menu, const QVector<Command> &commands);
 
-/// Commands and their keys, as pairs; those that have keys.
+/// The commands with a shortcut, as pairs of text and keys.
 QVector<QPair<QString, QString>> KeysOf(const QList<QAction *> &actions);
 
 } // namespace ClockStudio

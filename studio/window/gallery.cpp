@@ -30,7 +30,7 @@ QLabel *Heading(const QString &text)
     return label;
 }
 
-/// A wall within a card of one size.
+/// A thumbnail of a wall, centred on a card of fixed size.
 QPixmap Card(const QImage &wall)
 {
     QPixmap card(kPicture);
@@ -46,7 +46,7 @@ QPixmap Card(const QImage &wall)
     return card;
 }
 
-/// Calls the handler with the data of each item that is clicked or activated.
+/// Calls the handler with an item's data when the item is clicked or activated.
 template<typename Handler>
 void WhenChosen(QListWidget &list, const Handler &handler)
 {
@@ -82,7 +82,7 @@ QLayout *Gallery::BeginningPart()
     connect(m_return, &QPushButton::clicked, this, &Gallery::ReturnWanted);
     m_return->setObjectName(QStringLiteral("return"));
     m_return->setShortcut(Qt::Key_Escape);
-    part->addWidget(Heading(tr("Begin")));
+    part->addWidget(Heading(tr("Start")));
     part->addWidget(empty);
     part->addWidget(open);
     part->addWidget(m_return);
@@ -130,7 +130,7 @@ void Gallery::AddTemplates()
         item->setData(Qt::UserRole, one.name);
         item->setToolTip(one.description);
     }
-    // The window is seen before the pictures are drawn.
+    // Draws the pictures after the window has been shown.
     QTimer::singleShot(0, this, &Gallery::DrawNextPicture);
 }
 

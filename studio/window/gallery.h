@@ -1,5 +1,4 @@
-// studio/window: the window that brings everything together.
-// What to begin with: templates with pictures, recent files, an empty wall.
+// studio/window: the start page: templates with pictures, recent files, an empty wall.
 #pragma once
 
 #include <QWidget>
@@ -39,7 +38,7 @@ private:
     QListWidget *m_templates;
     QListWidget *m_recent;
     QWidget *m_recentPart;
-    int m_drawn = 0; ///< templates that have their picture
+    int m_drawn = 0; ///< number of templates whose picture is drawn
 };
 
 } // namespace ClockStudio

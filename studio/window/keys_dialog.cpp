@@ -15,10 +15,10 @@ KeysDialog::KeysDialog(const QVector<QPair<QString, QString>> &commands, QWidget
         {tr("Move by one pixel"), tr("Arrow keys")},
         {tr("Move by eight pixels"), tr("Shift + arrow keys")},
         {tr("Resize by one pixel"), tr("Alt + arrow keys")},
-        {tr("Choose the next clock"), tr("Tab")},
-        {tr("Choose several clocks"), tr("Shift + click, or drag around them")},
+        {tr("Select the next clock"), tr("Tab")},
+        {tr("Select several clocks"), tr("Shift + click, or drag around them")},
         {tr("Drag without snapping"), tr("Hold Alt")},
-        {tr("Take back a drag, choose nothing"), tr("Esc")},
+        {tr("Cancel a drag, clear the selection"), tr("Esc")},
         {tr("Zoom at the pointer"), tr("Ctrl + wheel")},
     };
     keys += commands;

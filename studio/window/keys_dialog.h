@@ -1,5 +1,4 @@
-// studio/window: the window that brings everything together.
-// All keys, listed.
+// studio/window: the dialog that lists all keyboard shortcuts.
 #pragma once
 
 #include <QDialog>
@@ -13,7 +12,7 @@ class KeysDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// The keys of commands; those of the wall are added.
+    /// Lists the commands' shortcuts and the wall's own keys.
     KeysDialog(const QVector<QPair<QString, QString>> &commands, QWidget *parent);
 };
 

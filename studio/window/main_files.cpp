@@ -1,4 +1,4 @@
-// The main window's pictures, exports and what else is made of a wall.
+// MainWindow: saves pictures, the sheet and the preview; exports, imports and sends.
 #include "main_window.h"
 
 #include "send_dialog.h"
@@ -20,7 +20,7 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kPicturePitch = 8; // pixels of a picture for one diode
+constexpr int kPicturePitch = 8; // pixels per diode in a saved picture
 
 QString WithSuffix(const QString &path, const QString &suffix)
 {
@@ -110,7 +110,7 @@ QString MainWindow::ProgramFileIn(const QTemporaryDir &directory)
 void MainWindow::ExportProgram()
 {
     const QString folder = QFileDialog::getExistingDirectory(
-        this, tr("An empty folder, or one with an earlier export"));
+        this, tr("Choose an empty folder, or one with an earlier export"));
     if (folder.isEmpty())
         return;
     const QTemporaryDir work;

@@ -1,4 +1,4 @@
-// The main window's menus, tool bar and status line.
+// studio/window: the main window's menus, tool bar and status bar.
 #include "main_window.h"
 
 #include "keys_dialog.h"
@@ -28,10 +28,10 @@ using Keys = QVector<QKeySequence>;
 
 const Command kSeparator {};
 
-/// Panels that walls are made of, in pixels; the first shows no grid.
+/// Common LED panel sizes in pixels; the first means no grid.
 constexpr QSize kModules[] = {{0, 0}, {32, 16}, {32, 32}, {64, 32}, {64, 64}, {128, 64}};
 
-/// Draws a new clock's place on the wall.
+/// A tool that draws a new clock on the wall.
 struct DrawingTool
 {
     ClockKind kind;
@@ -129,12 +129,12 @@ void MainWindow::MakeEditMenu()
          inText(&SourceView::paste,
                 [this] {
                     if (!m_editor.Paste())
-                        statusBar()->showMessage(tr("There is no clock on the clipboard"), 4000);
+                        statusBar()->showMessage(tr("There is no clock in the clipboard"), 4000);
                 })},
         {tr("&Duplicate"), {QKeySequence(tr("Ctrl+D"))}, [this] { m_editor.Duplicate(); }, true},
         {tr("De&lete"), {QKeySequence::Delete}, [this] { m_editor.Delete(); }, true},
         kSeparator,
-        {tr("Choose &all clocks"),
+        {tr("Select &all clocks"),
          {QKeySequence::SelectAll},
          inText(&SourceView::selectAll, [this] { m_editor.ChooseAll(); })}};
     for (QAction *const action : AddCommands(*menu, commands)) {
@@ -196,7 +196,7 @@ void MainWindow::MakeViewMenu()
          {tr("Zoom &out"),
           {QKeySequence::ZoomOut},
           [this] { m_view->SetZoom(m_view->Zoom() - 1); }},
-         {tr("&Fit to the window"), {QKeySequence(tr("Ctrl+0"))}, [this] { m_view->ZoomToFit(); }},
+         {tr("&Fit to window"), {QKeySequence(tr("Ctrl+0"))}, [this] { m_view->ZoomToFit(); }},
          kSeparator});
     QAction *const diodes = menu->addAction(tr("As &diodes"));
     diodes->setCheckable(true);
@@ -228,7 +228,7 @@ void MainWindow::MakeViewMenu()
     m_actions.append(m_findingsDock->toggleViewAction());
 }
 
-/// The clocks' wording, which is apart from the window's: a wall may hang elsewhere.
+/// The language of the clocks is independent of the window's: the wall may be in another country.
 void MainWindow::MakeLanguageMenu(QMenu &view)
 {
     QMenu *const menu = view.addMenu(tr("&Language of the clocks"));
@@ -280,7 +280,7 @@ void MainWindow::AddDrawingTools(QToolBar &bar)
         QAction *const action = bar.addAction(QIcon(KindPicture(tool.type)), text);
         action->setCheckable(true);
         action->setShortcut(QKeySequence(key));
-        action->setToolTip(tr("%1: draw its place on the wall (%2)").arg(text, key));
+        action->setToolTip(tr("%1: drag a rectangle on the wall (%2)").arg(text, key));
         action->setProperty("needsWall", true);
         action->setData(static_cast<int>(tool.kind));
         m_drawing->addAction(action);
@@ -333,8 +333,8 @@ void MainWindow::ShowKeys()
 void MainWindow::ShowAbout()
 {
     QMessageBox::about(this, tr("About Clock Studio"),
-                       tr("<h3>Clock Studio %1</h3><p>Designs walls of clocks. What it shows, the "
-                          "clocks' own code draws.</p>")
+                       tr("<h3>Clock Studio %1</h3><p>Designs walls of clocks. All clocks are "
+                          "drawn by the clock plugin itself.</p>")
                            .arg(QStringLiteral(CLOCK_STUDIO_VERSION)));
 }
 

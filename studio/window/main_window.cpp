@@ -43,7 +43,7 @@ MainWindow::MainWindow(const QString &recoveryDirectory, QWidget *parent)
     connect(&m_files, &ProgramFiles::ChangedOnDisk, this, &MainWindow::AskAboutChange);
     connect(&m_files, &ProgramFiles::LostOnDisk, this, [this] {
         m_messages->Ask(
-            tr("%1 is no longer on the disk. Your work is still here.").arg(m_files.Name()),
+            tr("%1 was deleted from the disk. Your work is still open here.").arg(m_files.Name()),
             {{tr("Save"), [this] { Save(); }}, {tr("Dismiss"), {}}});
     });
     connect(&m_document, &StudioDocument::Read, this, &MainWindow::UpdateState);
@@ -232,7 +232,7 @@ void MainWindow::OfferRecovery()
     const LeftWork work = left.first();
     const QString name = work.path.isEmpty() ? tr("a new wall") : work.path;
     m_messages->Ask(
-        tr("The studio ended unexpectedly. Unsaved work on %1 was kept.").arg(name),
+        tr("The studio ended unexpectedly. Unsaved changes to %1 can be recovered.").arg(name),
         {{tr("Recover"), [this, work] { Recover(work); }}, {tr("Discard"), [this, work] {
                                                                 RecoveryStore::Remove(work);
                                                                 OfferRecovery();
@@ -252,7 +252,7 @@ void MainWindow::AskAboutChange()
 {
     const QString text = tr("%1 was changed by another program.").arg(m_files.Name());
     m_messages->Ask(text,
-                    {{tr("Load it again"),
+                    {{tr("Reload"),
                       [this] {
                           if (const auto problem = m_files.Open(m_files.Path()))
                               SayProblem(*problem);
@@ -282,7 +282,7 @@ void MainWindow::UpdateState()
 {
     if (const auto &fault = m_document.Fault()) {
         const int line = fault->line;
-        m_fault->Ask(tr("Line %1: %2 The wall shows the last version that was right.")
+        m_fault->Ask(tr("Line %1: %2 The wall shows the last valid version.")
                          .arg(line)
                          .arg(fault->reason.endsWith(QLatin1Char('.'))
                                   ? fault->reason

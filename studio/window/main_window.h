@@ -1,4 +1,4 @@
-// studio/window: the window that brings everything together.
+// studio/window: the main window: wall, panels, menus and file handling.
 #pragma once
 
 #include "commands.h"
@@ -35,7 +35,7 @@ public:
     explicit MainWindow(const QString &recoveryDirectory, QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /// False where the file cannot be opened, which the window says.
+    /// False if the file cannot be opened; the window shows the error.
     bool Open(const QString &path);
     /// Templates and recent files to begin with.
     void ShowGallery();
@@ -69,7 +69,7 @@ private:
     void OpenDialog();
     bool Save();
     bool SaveAs();
-    /// Whether unsaved work may be lost: it was saved, or is given up.
+    /// Asks about unsaved work. True if it was saved or discarded.
     bool MayLeave();
     void BeginWith(const QByteArray &bytes);
     void ShowWallPage();
@@ -91,7 +91,7 @@ private:
     void ExportProgram();
     void ImportSdk();
     void Send();
-    /// The program as it is now in a file of its own; empty where that cannot be written.
+    /// Writes the current program to a file in the directory; returns its path, empty on failure.
     QString ProgramFileIn(const QTemporaryDir &directory);
     void ReadSettings();
     void WriteSettings();
@@ -102,7 +102,7 @@ private:
     ProgramFiles m_files;
     WallView *m_view = nullptr;
     MessageBar *m_messages = nullptr;
-    MessageBar *m_fault = nullptr; ///< about a text that is no program
+    MessageBar *m_fault = nullptr; ///< shown while the text is not a valid program
     TimeBar *m_time = nullptr;
     SourceView *m_source = nullptr;
     FindingsPanel *m_findings = nullptr;

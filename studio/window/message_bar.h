@@ -1,5 +1,4 @@
-// studio/window: the window that brings everything together.
-// A line above the wall with something to know or to decide, and buttons for it.
+// studio/window: a message bar above the wall, with buttons.
 #pragma once
 
 #include <QFrame>
@@ -23,10 +22,10 @@ public:
     struct Answer
     {
         QString text;
-        std::function<void()> act; ///< the bar hides before it
+        std::function<void()> act; ///< called after the bar was hidden
     };
 
-    /// Replaces what is shown.
+    /// Shows a message and its buttons in place of the current one.
     void Ask(const QString &text, const QVector<Answer> &answers);
     void Say(const QString &text) { Ask(text, {}); }
 

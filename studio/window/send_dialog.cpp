@@ -44,7 +44,7 @@ SendDialog::SendDialog(const QString &program, QWidget *parent)
     : QDialog(parent), m_program(program), m_targets(KnownTargets()), m_name(new QComboBox),
       m_host(new QLineEdit), m_folder(new QLineEdit), m_key(new QLineEdit), m_status(new QLineEdit),
       m_said(Line()), m_word(Line()), m_releases(new QListWidget),
-      m_again(Button(tr("Play the chosen release again")))
+      m_again(Button(tr("Play the selected release")))
 {
     setWindowTitle(tr("Send to a wall"));
     auto *const layout = new QVBoxLayout(this);

@@ -1,5 +1,5 @@
-// studio/window: the window that brings everything together.
-// Sending the program to a wall, and letting an earlier release play again.
+// studio/window: the dialog that sends the program to a wall, or switches back to an earlier
+// release.
 #pragma once
 
 #include "files/tool_run.h"
@@ -24,7 +24,7 @@ class SendDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// The program is a file that is exported.
+    /// `program` is the path of the program file to export.
     SendDialog(const QString &program, QWidget *parent);
 
 private:

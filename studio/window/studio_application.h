@@ -1,5 +1,4 @@
-// studio/window: the window that brings everything together.
-// What the whole application has: its names, its looks, its languages.
+// studio/window: sets up the QApplication: names, icon, translations.
 #pragma once
 
 #include <QtGlobal>
@@ -10,10 +9,10 @@ QT_END_NAMESPACE
 
 namespace ClockStudio {
 
-/// Whether there is a display to open a window on, by the environment and the arguments.
+/// Whether a window can be opened, judging by the environment and the arguments.
 bool HasDisplay(int argc, char **argv);
 
-/// Names, icon, style, and the texts in the user's language.
+/// Sets names, icon, style, translations and the layout direction.
 void SetUpApplication(QApplication &application);
 
 } // namespace ClockStudio
