@@ -22,7 +22,6 @@ inline constexpr char kRequireTime[] = "require-time";
 inline constexpr char kOffset[] = "offset";
 inline constexpr char kRotate[] = "rotate";
 inline constexpr char kStatusFile[] = "status-file";
-inline constexpr char kLargeFrames[] = "large-frames";
 inline constexpr char kPluginDir[] = "plugin-dir";
 inline constexpr char kFilesDir[] = "files-dir";
 inline constexpr char kUseFiles[] = "use-files";

@@ -1,6 +1,5 @@
 #include "plugins.h"
 
-#include "command_options.h"
 #include "stage.h"
 
 #include "hpluginmanager.h"
@@ -61,11 +60,8 @@ PluginFinder LoadedPlugins()
 MaybeFailure BuildStage(Stage &stage, const Program &program, const Options &options,
                         const Warn &warn)
 {
-    const MaybeFailure large = options.allowsLargeFrames ? std::nullopt : CheckFrameBytes(program);
-    if (large)
-        return Failure {
-            large->code,
-            QStringLiteral("%1 (allowed by --%2)").arg(large->text, QLatin1String(kLargeFrames))};
+    if (const MaybeFailure large = CheckFrameBytes(program); large && !options.allowsLargeFrames)
+        return large;
     const MaybeFailure failure = stage.Build(
         program, LoadedPlugins(), options.usesFiles ? GlyphFiles::Carried : GlyphFiles::Made);
     for (const QString &warning : stage.Warnings())

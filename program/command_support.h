@@ -16,6 +16,7 @@ inline constexpr char kHelp[] = "help";
 inline constexpr char kVersion[] = "version";
 inline constexpr char kOutput[] = "output";
 inline constexpr char kLanguage[] = "language";
+inline constexpr char kLargeFrames[] = "large-frames"; ///< allows what CheckFrameBytes() refuses
 
 /// What every program reads of its environment, as --help tells it.
 inline constexpr char kSharedEnvironment[] =

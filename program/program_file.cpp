@@ -1,5 +1,7 @@
 #include "program_file.h"
 
+#include "command_support.h"
+
 #include <QStringList>
 
 namespace ClockProgram {
@@ -138,9 +140,10 @@ MaybeFailure CheckFrameBytes(const Program &program)
     return Failure {ExitCode::ProgramError,
                     AtElement(program.path, program.document.documentElement(),
                               QStringLiteral("the frames of screen and areas take %1 MiB, more "
-                                             "than %2")
+                                             "than %2 (allowed by --%3)")
                                   .arg((bytes + (1 << 20) - 1) >> 20)
-                                  .arg(kUsualFrameBytes >> 20))};
+                                  .arg(kUsualFrameBytes >> 20)
+                                  .arg(QLatin1String(kLargeFrames)))};
 }
 
 Result<Program> ReadProgram(const QString &path)

@@ -110,6 +110,9 @@ CommandResult Fit(const ToolArguments &tool, qint64 begin)
     const Result<ProgramClocks> clocks = ParseClocks(*contents, path);
     if (!clocks)
         return Report(clocks.Error());
+    const MaybeFailure large = ClockProgram::CheckFrameBytes(clocks->program);
+    if (large && !tool.AllowsLargeFrames())
+        return Report(*large);
     FitCommand fit(*clocks, begin, tool.IsSet(kGrow));
     const QVector<SizeChange> changes = fit.Changes();
     Result<QByteArray> fitted = changes.isEmpty() ? contents : WithSizes(*contents, path, changes);
@@ -127,6 +130,7 @@ CommandResult RunFit(const QStringList &arguments)
     tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to fit."));
     tool.AddOutput();
     tool.AddLanguage();
+    tool.AddLargeFrames();
     YearOption::Add(tool);
     tool.AddFlag(kGrow,
                  QStringLiteral("Make the sizes of clocks that fit as large as they can be."));

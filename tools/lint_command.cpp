@@ -65,6 +65,7 @@ struct Choices
 {
     std::optional<qint64> year; ///< the begin of the year to look at, UTC milliseconds
     bool asJson = false;
+    bool allowsLargeFrames = false;
 };
 
 /// A program that cannot be played has none of these findings.
@@ -78,7 +79,9 @@ void LintClocks(const QDomDocument &document, const QString &path, const Choices
     if (!made)
         return LintAreas(*program, findings);
     LintGlyphs(*program, *made, findings);
-    if (choices.year)
+    const bool isLarge =
+        ClockProgram::CheckFrameBytes(*program).has_value(); // which is found already
+    if (choices.year && (!isLarge || choices.allowsLargeFrames))
         LintFit(*program, *made, *choices.year, findings);
     else
         LintAreas(*program, findings);
@@ -115,6 +118,7 @@ Result<Choices> ReadChoices(const ToolArguments &tool)
         return begin.Error();
     Choices choices;
     choices.asJson = format == QLatin1String("json");
+    choices.allowsLargeFrames = tool.AllowsLargeFrames();
     if (!tool.IsSet(kNoFit))
         choices.year = *begin;
     return choices;
@@ -127,6 +131,7 @@ CommandResult RunLint(const QStringList &arguments)
     ToolArguments tool(QStringLiteral("lint"), QString::fromLatin1(kDescription));
     tool.AddPositional(QStringLiteral("PROGRAM.xml..."), QStringLiteral("The programs to check."));
     tool.AddLanguage();
+    tool.AddLargeFrames();
     YearOption::Add(tool);
     tool.AddFlag(kNoFit, QStringLiteral("Do not look at what the clocks show in a year."));
     tool.AddOption({kFormat}, QStringLiteral("How findings are written: text or json."),

@@ -56,6 +56,17 @@ void ToolArguments::AddLanguage()
     AddLanguageOption(m_parser);
 }
 
+void ToolArguments::AddLargeFrames()
+{
+    AddFlag(QLatin1String(ClockProgram::kLargeFrames),
+            QStringLiteral("Draw a program whose frames take more than 256 MiB of memory too."));
+}
+
+bool ToolArguments::AllowsLargeFrames() const
+{
+    return m_parser.isSet(QLatin1String(ClockProgram::kLargeFrames));
+}
+
 std::optional<CommandResult> ToolArguments::Parse(const QStringList &arguments)
 {
     QStringList own = arguments;

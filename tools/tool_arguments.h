@@ -26,7 +26,8 @@ public:
     void AddAlternative(const QString &name, const QString &description);
     void AddFlag(const QString &name, const QString &description); ///< an option without a value
     void AddOutput();                                              ///< -o FILE
-    void AddLanguage(); ///< --language, for commands that make glyph images
+    void AddLanguage();    ///< --language, for commands that make glyph images
+    void AddLargeFrames(); ///< --large-frames, for commands that draw a program's clocks
 
     /// Reads the arguments, which begin with "clock_tool NAME". Returns an exit code when nothing
     /// is left to do: after --help, --version and errors.
@@ -37,6 +38,7 @@ public:
     QString Value(const QString &option) const { return m_parser.value(option); }
     bool IsSet(const QString &option) const { return m_parser.isSet(option); }
     QString Output() const; ///< empty: standard output
+    bool AllowsLargeFrames() const;
 
     /// Installs the language's catalogue; a failure where there is none.
     MaybeFailure InstallLanguage() const;

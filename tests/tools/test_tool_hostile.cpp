@@ -99,6 +99,7 @@ private slots:
     void DocumentTypesAreRefused_data();
     void DocumentTypesAreRefused();
     void ExportWritesNothingBeyondTheBounds();
+    void LargeFramesNeedTheOption();
     void OddTextsSurviveExport();
 };
 
@@ -228,6 +229,27 @@ void TestToolHostile::ExportWritesNothingBeyondTheBounds()
     QVERIFY2(run.errors.endsWith("more than 131072 attributes\n"), qPrintable(run.errors));
     QVERIFY(!QFile::exists(directory.filePath("out/program.xml")));
     QVERIFY(!QFile::exists(directory.filePath("out/files.tsv")));
+}
+
+// A dial of 5792 x 5792 pixels of four bytes: one screen of two and one area of three frames.
+void TestToolHostile::LargeFramesNeedTheOption()
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath("in.xml");
+    QVERIFY(WriteText(path,
+                      "<program width='5792' height='5792'><area x='0' y='0' width='5792' "
+                      "height='5792'><clock type='dial' timezone='+00:00'/></area></program>"));
+    const QString refusal = path
+        + ":1: the frames of screen and areas take 640 MiB, more than 256 (allowed by "
+          "--large-frames)\n";
+    const ProcessRun fit = RunTool({"fit", path});
+    QCOMPARE(fit.exitCode, 3);
+    QCOMPARE(fit.errors, "clock_tool: " + refusal);
+    QCOMPARE(RunTool({"fit", "--large-frames", path}).exitCode, 0);
+    const QString warning = path + ":1: warning: " + refusal.section(":1: ", 1);
+    QCOMPARE(RunTool({"lint", path}).errors, warning);
+    const QString all = RunTool({"lint", "--large-frames", path}).errors;
+    QVERIFY2(all.contains(warning) && all.contains("contrast"), qPrintable(all));
 }
 
 // White space, quotation marks, right-to-left marks and characters beyond the first plane.
