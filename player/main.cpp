@@ -105,8 +105,10 @@ int RunOnDisplay(int argc, char **argv, const Options &options, const Result<Pro
                  const FileSignature &signature)
 {
     ChoosePlatform(options);
-    if (options.isKiosk)
+    if (options.isKiosk) {
         qputenv("QT_QPA_FB_HIDECURSOR", "1");
+        qputenv("QT_QPA_FB_DISABLE_INPUT", "1"); // no keyboard or mouse is even opened
+    }
     g_defaultHandler = qInstallMessageHandler(NoteComplaint);
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler(EndTidily);

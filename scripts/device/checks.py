@@ -8,7 +8,7 @@ from contents import FIRST, OTHER
 from machine import Failed
 from screen import Screen
 
-BOOT_SECONDS = 300  # on a machine that is busy with something else
+BOOT_SECONDS = 600  # on a machine that is busy with something else
 
 
 class Checks:

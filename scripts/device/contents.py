@@ -11,7 +11,7 @@ LIBRARIES = image.LIBRARIES
 
 # Besides the packages that programs for 32-bit ARM are built with.
 PACKAGES = ["base-passwd", "busybox-static", "coreutils", "fontconfig-config", "fonts-dejavu-core",
-            "linux-image-armmp", "mount", "systemd-sysv", "tzdata", "udev"]
+            "linux-image-armmp", "systemd-sysv", "tzdata", "udev"]
 # What the player opens without being linked with it.
 OPENED = [f"{LIBRARIES}/qt5/plugins/platforms/libqlinuxfb.so",
           "usr/share/fonts/truetype/dejavu", "etc/fonts", "usr/share/fontconfig",

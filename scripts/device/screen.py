@@ -9,7 +9,7 @@ from machine import Failed
 # Part of a second of the device's clock after which the screen shows that second: drawing takes up to
 # a tenth, and the framebuffer is brought to the screen twenty times a second.
 SHOWN_AFTER = 0.35
-SETTLE_SECONDS = 300  # on a machine that is busy with something else
+SETTLE_SECONDS = 600  # on a machine that is busy with something else
 NOTICE_COLOURS = {(0, 0, 64), (255, 255, 255)}  # player/notice.cpp
 
 
