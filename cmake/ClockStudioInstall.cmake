@@ -11,7 +11,8 @@ function(clock_install_studio)
         DESTINATION share/icons/hicolor/scalable/apps COMPONENT studio)
     clock_install_compressed(
         ${PROJECT_SOURCE_DIR}/packaging/studio/clock_studio.1 share/man/man1 clock_studio.1 studio)
-    # It shares the documentation of the package that it depends on.
+    # It shares completion and documentation with the package that it depends on.
+    clock_install_link(share/bash-completion/completions/clock_studio clock_player studio)
     clock_install_link(share/doc/clock-studio clock-player studio)
 endfunction()
 

@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 
 #include <cstdlib>
+#include <optional>
 
 namespace {
 
@@ -22,23 +23,55 @@ QString RecoveryDirectory()
         + QStringLiteral("/recovery");
 }
 
-/// The program to open; empty if none is given.
-QString ProgramFrom(const QApplication &application)
+void Describe(QCommandLineParser &parser)
 {
-    QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("An editor for walls of clocks."));
+    // Qt's own options begin with one dash.
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     ClockProgram::AddInformationOptions(parser);
     parser.addPositionalArgument(QStringLiteral("PROGRAM.xml"),
                                  QStringLiteral("The program file to open."),
                                  QStringLiteral("[PROGRAM.xml]"));
+}
+
+/// What --help or --version print; they need no display.
+std::optional<QString> InformationFor(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    QCommandLineParser parser;
+    Describe(parser);
+    parser.parse(QCoreApplication::arguments());
+    if (parser.isSet(QLatin1String(ClockProgram::kHelp)))
+        return ClockProgram::HelpText(parser, QStringLiteral("clock_studio [PROGRAM.xml]"));
+    if (parser.isSet(QLatin1String(ClockProgram::kVersion)))
+        return QStringLiteral("clock_studio " CLOCK_STUDIO_VERSION "\n");
+    return std::nullopt;
+}
+
+/// The program to open; empty if none is given.
+QString ProgramFrom(const QApplication &application)
+{
+    QCommandLineParser parser;
+    Describe(parser);
     parser.process(application);
     return parser.positionalArguments().value(0);
+}
+
+int Print(const QString &text)
+{
+    const ClockProgram::MaybeFailure failure = ClockProgram::PrintText(text);
+    if (!failure)
+        return EXIT_SUCCESS;
+    ClockProgram::SayAs("clock_studio", failure->text);
+    return EXIT_FAILURE;
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (const std::optional<QString> information = InformationFor(argc, argv))
+        return Print(*information);
     if (!HasDisplay(argc, argv)) {
         ClockProgram::SayAs("clock_studio", QStringLiteral("no display: the studio needs one"));
         return EXIT_FAILURE;

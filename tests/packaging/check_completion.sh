@@ -13,7 +13,7 @@ completed() {
     COMP_WORDS=("$@")
     COMP_CWORD=$(($# - 1))
     COMPREPLY=()
-    "_$1" "$1" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
+    "$(complete -p "$1" | sed -E 's/.*-F ([^ ]+).*/\1/')" "$1" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
     printf '%s\n' "${COMPREPLY[@]}"
 }
 
@@ -46,4 +46,8 @@ if [[ -e /usr/share/zoneinfo/Europe/Berlin ]]; then
     expect "Europe/Berlin" clock_tool zone Europe/Berl
 fi
 expect "" clock_player "$examples/READ"
+if [[ -x $(command -v clock_studio) ]]; then
+    expect "--version" clock_studio --ve
+    expect "$examples/wall.xml" clock_studio "$examples/wa"
+fi
 exit "$failed"
