@@ -2,18 +2,30 @@
 // Their clocks have identities, so that the names of their glyph files are known.
 #pragma once
 
+#include "clock_attributes.h"
+
 #include <QByteArray>
 #include <QList>
 
+#include <cstddef>
 #include <initializer_list>
 #include <utility>
 
 namespace ProgramSweeps {
 
+namespace CodeNames = Lw::HNodeClock::CodeNames;
+
 using Settings = std::initializer_list<std::pair<const char *, int>>;
 
 constexpr int kSide = 160;
 constexpr int kColumns = 5;
+
+/// The codes of a table in turn.
+template<std::size_t Count>
+int CodeOf(const char *const (&)[Count], int i)
+{
+    return i % static_cast<int>(Count);
+}
 
 inline QByteArray Setting(const char *key, const QByteArray &value)
 {
@@ -58,9 +70,9 @@ inline QByteArray Digital()
     QList<QByteArray> clocks;
     for (int i = 0; i < 20; ++i) {
         clocks += Clock(1,
-                        {{"DigitalDateType", i % 9},
-                         {"DigitalTimeType", i % 5},
-                         {"DigitalWeekType", i % 4},
+                        {{"DigitalDateType", CodeOf(CodeNames::kDates, i)},
+                         {"DigitalTimeType", CodeOf(CodeNames::kTimes, i)},
+                         {"DigitalWeekType", CodeOf(CodeNames::kWeeks, i)},
                          {"DigitalMode", i % 2},
                          {"DigitalDisplayMode", i % 7 == 6},
                          {"Digital_Lunar_d", i % 3 == 0},
@@ -81,8 +93,8 @@ inline QByteArray Analog()
                          {"HourRectType", i % 2},
                          {"MinuteRectType", i / 2 % 2},
                          {"SecondRectType", i / 4 % 2},
-                         {"AnalogDateType", i % 9},
-                         {"AnalogWeekType", i % 4},
+                         {"AnalogDateType", CodeOf(CodeNames::kDates, i)},
+                         {"AnalogWeekType", CodeOf(CodeNames::kWeeks, i)},
                          {"Analog_Lunar_d", i % 3 == 0}});
     }
     return Program(clocks);
