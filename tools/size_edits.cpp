@@ -6,6 +6,8 @@
 
 #include "text/program_edits.h"
 
+#include <QSet>
+
 namespace ClockTool {
 
 namespace {
@@ -33,29 +35,36 @@ public:
         : m_reading(std::move(reading)), m_form(form)
     { }
 
-    // False where the text is no program any more.
-    bool Make(const SizeChange &change, bool asSetting)
+    // The changes are of different clocks. False where the text is no program any more.
+    bool Make(const QVector<SizeChange> &changes, bool asSetting)
     {
-        const WrittenPlace place = asSetting ? WrittenPlace() : PlaceOfSize(change);
-        const QString value = QString::number(change.points);
-        const int clock = m_reading.ClockElement(change.area);
-        const TextEdit edit = place.element >= 0
-            ? SetAttributeEdit(m_reading, place.element, place.name, value)
-            : AppendChildEdit(m_reading, clock,
-                              QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>")
-                                  .arg(Key(change.attribute), value));
+        TextEdits edits;
+        for (const SizeChange &change : changes)
+            edits.append(EditOf(change, asSetting));
         QString text = m_reading.text;
-        ApplyEdits(text, {edit});
+        ApplyEdits(text, InSequence(edits));
+        m_reading = ProgramReading(); // which may be as large as the next one
         auto read = ReadProgramText(text, m_form);
         auto *const next = std::get_if<ProgramReading>(&read);
         if (next)
-            m_reading = *next;
+            m_reading = std::move(*next);
         return next != nullptr;
     }
 
     std::optional<QByteArray> Bytes() const { return EncodeText(m_reading.text, m_form); }
 
 private:
+    TextEdit EditOf(const SizeChange &change, bool asSetting)
+    {
+        const WrittenPlace place = asSetting ? WrittenPlace() : PlaceOfSize(change);
+        const QString value = QString::number(change.points);
+        if (place.element >= 0)
+            return SetAttributeEdit(m_reading, place.element, place.name, value);
+        return AppendChildEdit(m_reading, m_reading.ClockElement(change.area),
+                               QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>")
+                                   .arg(Key(change.attribute), value));
+    }
+
     WrittenPlace PlaceOfSize(const SizeChange &change)
     {
         const QDomElement clock = m_reading.program.areas[change.area].element;
@@ -100,6 +109,20 @@ private:
     const TextForm m_form;
 };
 
+// One change of each clock; what is left goes on in the list.
+QVector<SizeChange> TakeRound(QVector<SizeChange> &changes)
+{
+    QVector<SizeChange> round;
+    QVector<SizeChange> rest;
+    QSet<int> areas;
+    for (const SizeChange &change : changes) {
+        (areas.contains(change.area) ? rest : round).append(change);
+        areas.insert(change.area);
+    }
+    changes = rest;
+    return round;
+}
+
 Failure CannotBeEdited(const QString &path)
 {
     return {ExitCode::ProgramError, QStringLiteral("%1: its text cannot be edited").arg(path)};
@@ -131,11 +154,12 @@ Result<QByteArray> WithSizes(const QByteArray &contents, const QString &path,
     auto *const reading = std::get_if<ProgramReading>(&read);
     if (!reading)
         return CannotBeEdited(path);
-    SizeEdits edits(*reading, text->form);
+    SizeEdits edits(std::move(*reading), text->form);
     QVector<SizeChange> open = changes;
     for (const bool asSetting : {false, true}) {
-        for (const SizeChange &change : open) {
-            if (!edits.Make(change, asSetting))
+        // The whole text is read again for each round, and not for each change.
+        while (!open.isEmpty()) {
+            if (!edits.Make(TakeRound(open), asSetting))
                 return CannotBeEdited(path);
         }
         const std::optional<QByteArray> bytes = edits.Bytes();
