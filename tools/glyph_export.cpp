@@ -132,8 +132,8 @@ private:
 
     void CheckMade(HClockNode &clock)
     {
-        const auto messages = ClockProgram::DescribeGlyphFaults(Lw::GlyphFaultsOf(clock)
-                                                                + m_account.AddFiles(clock));
+        const auto messages =
+            ClockProgram::DescribeGlyphFaults(Lw::GlyphFaultsOf(clock) + m_account.AddFiles(clock));
         for (const QString &warning : messages.warnings)
             Say(OfClock(clock, QStringLiteral("warning: ") + warning));
         if (!messages.failures.isEmpty())
