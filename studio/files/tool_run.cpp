@@ -126,6 +126,13 @@ ToolCommand ExportCommand(const QString &program, const QString &folder)
              ClockCatalogues::Installed(), program, folder}};
 }
 
+ToolCommand LintCommand(const QString &program)
+{
+    return {ClockToolPath(),
+            {QStringLiteral("lint"), QStringLiteral("--format"), QStringLiteral("json"),
+             QStringLiteral("--language"), ClockCatalogues::Installed(), program}};
+}
+
 ToolResult RunBehindDialog(const QVector<ToolCommand> &commands, const QString &what,
                            QWidget *parent)
 {

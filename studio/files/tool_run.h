@@ -24,6 +24,8 @@ struct ToolCommand
 QString ClockToolPath();
 /// Its export of a program to a folder, in the language that the clocks have now.
 ToolCommand ExportCommand(const QString &program, const QString &folder);
+/// Its checks of a program, likewise; each finding is a line of JSON.
+ToolCommand LintCommand(const QString &program);
 
 struct ToolResult
 {

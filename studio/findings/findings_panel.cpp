@@ -2,6 +2,7 @@
 
 #include "clock_node.h"
 
+#include <QEventLoop>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -34,6 +35,8 @@ FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
     m_delay.setSingleShot(true);
     m_delay.setInterval(kDelay);
     connect(&editor.Document(), &StudioDocument::Read, &m_delay, QOverload<>::of(&QTimer::start));
+    connect(&editor.Document(), &StudioDocument::Read, &m_fit, &FitCheck::Drop);
+    connect(&m_fit, &FitCheck::Found, this, &FindingsPanel::List);
     connect(&m_delay, &QTimer::timeout, this, &FindingsPanel::Check);
     connect(m_list, &QListWidget::currentRowChanged, this, &FindingsPanel::Choose);
     connect(m_mend, &QPushButton::clicked, this, &FindingsPanel::Mend);
@@ -43,9 +46,29 @@ FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
 void FindingsPanel::Check()
 {
     m_delay.stop();
+    m_fit.Drop();
     const ProgramReading *const reading = m_editor.Document().Reading();
-    m_findings =
-        reading && reading->AreaCount() > 0 ? FindingsIn(*reading) : QVector<ClockTool::Finding>();
+    const auto bytes = m_editor.Document().Bytes();
+    const bool hasClocks = reading && reading->AreaCount() > 0;
+    List(hasClocks ? FindingsIn(*reading) : QVector<ClockTool::Finding>());
+    if (hasClocks && bytes)
+        m_fit.Start(*bytes);
+}
+
+void FindingsPanel::CheckAll()
+{
+    Check();
+    QEventLoop loop;
+    connect(&m_fit, &FitCheck::Ended, &loop, &QEventLoop::quit);
+    if (m_fit.IsRunning())
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+/// The one that is chosen stays chosen where it is found again.
+void FindingsPanel::List(const QVector<ClockTool::Finding> &findings)
+{
+    const QString chosen = m_findings.value(m_list->currentRow()).text;
+    m_findings = findings;
     const QSignalBlocker quiet(m_list);
     m_list->clear();
     for (const ClockTool::Finding &finding : qAsConst(m_findings))
@@ -54,6 +77,12 @@ void FindingsPanel::Check()
     m_none->setVisible(m_findings.isEmpty());
     m_mend->setVisible(!m_findings.isEmpty());
     m_mend->setEnabled(false);
+    for (int row = 0; row < m_findings.size(); ++row) {
+        if (!chosen.isEmpty() && m_findings[row].text == chosen) {
+            m_list->setCurrentRow(row);
+            UpdateMend();
+        }
+    }
     emit CountChanged(m_findings.size());
 }
 
@@ -69,13 +98,20 @@ void FindingsPanel::Add(const ClockTool::Finding &finding)
     item->setToolTip(tr("Line %1").arg(finding.place.line));
 }
 
+void FindingsPanel::UpdateMend()
+{
+    const ProgramReading *const reading = m_editor.Document().Reading();
+    const int row = m_list->currentRow();
+    m_mend->setEnabled(reading && row >= 0 && MendOf(*reading, m_findings[row]).has_value());
+}
+
 void FindingsPanel::Choose(int row)
 {
     const ProgramReading *const reading = m_editor.Document().Reading();
     if (row < 0 || row >= m_findings.size() || !reading)
         return;
     const ClockTool::Finding finding = m_findings[row];
-    m_mend->setEnabled(MendOf(*reading, finding).has_value());
+    UpdateMend();
     emit LineWanted(finding.place.line);
     if (finding.place.clock < 1)
         return;

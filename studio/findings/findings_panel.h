@@ -4,6 +4,7 @@
 
 #include "editing/wall_editor.h"
 #include "finding_mend.h"
+#include "fit_check.h"
 
 #include <QTimer>
 #include <QWidget>
@@ -24,8 +25,10 @@ public:
     explicit FindingsPanel(WallEditor &editor, QWidget *parent = nullptr);
 
     const QVector<ClockTool::Finding> &Findings() const { return m_findings; }
-    /// Checks immediately instead of after the delay.
+    /// Checks immediately instead of after the delay. Slower findings are listed when they arrive.
     void Check();
+    /// The same, and waits for all of it while events are handled.
+    void CheckAll();
 
 Q_SIGNALS:
     void CountChanged(int count);
@@ -33,8 +36,10 @@ Q_SIGNALS:
     void LineWanted(int line);
 
 private:
+    void List(const QVector<ClockTool::Finding> &findings);
     void Add(const ClockTool::Finding &finding);
     void Choose(int row);
+    void UpdateMend();
     void Mend();
 
     WallEditor &m_editor;
@@ -42,6 +47,7 @@ private:
     QPushButton *m_mend;
     QLabel *m_none;
     QTimer m_delay;
+    FitCheck m_fit;
     QVector<ClockTool::Finding> m_findings;
 };
 

@@ -82,13 +82,16 @@ std::optional<ZoneAnswer> SettingsFor(const QByteArray &zone, const QDate &today
     return answer;
 }
 
-QString CityWith(const ZoneSettings &settings, const QDate &today)
+KnownZone ZoneOf(const ZoneSettings &settings, const QDate &today)
 {
-    static QHash<QString, QString> known;
+    static QHash<QString, KnownZone> known;
     const QString key = settings.ZoneText() + settings.start + settings.end + today.toString();
     if (!known.contains(key)) {
-        const QByteArray zone = ZoneWith(settings, TenYearsFrom(today));
-        known.insert(key, zone.isEmpty() ? QString() : NameOf(zone).city);
+        const Span span = TenYearsFrom(today);
+        const QByteArray zone = ZoneWith(settings, span);
+        const auto after = zone.isEmpty() ? std::nullopt : CivilTimeOf(zone, ListedAfter(span));
+        known.insert(
+            key, after ? KnownZone {NameOf(zone).city, RightUntil(settings, *after)} : KnownZone());
     }
     return known.value(key);
 }

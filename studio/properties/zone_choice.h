@@ -38,7 +38,13 @@ struct ZoneAnswer
 /// The best settings for a zone; nothing if the system does not know it.
 std::optional<ZoneAnswer> SettingsFor(const QByteArray &zone, const QDate &today);
 
-/// The city of a zone that has these settings' time; empty where there is none.
-QString CityWith(const ClockTool::ZoneSettings &settings, const QDate &today);
+/// A zone that has the time of a clock's settings for the ten years from a day.
+struct KnownZone
+{
+    QString city;          ///< empty where no zone has it
+    qint64 rightUntil = 0; ///< milliseconds since 1970-01-01 UTC: so long at least
+};
+
+KnownZone ZoneOf(const ClockTool::ZoneSettings &settings, const QDate &today);
 
 } // namespace ClockStudio

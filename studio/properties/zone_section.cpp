@@ -27,6 +27,11 @@ ZoneSettings SettingsIn(HClockNode &clock)
     return settings;
 }
 
+bool IsSame(const ZoneSettings &one, const ZoneSettings &other)
+{
+    return one.offset == other.offset && one.start == other.start && one.end == other.end;
+}
+
 QString DateText(qint64 instant, int offset)
 {
     const QDateTime reading =
@@ -74,13 +79,12 @@ void ZoneSection::Show(const QVector<HClockNode *> &clocks)
     bool isMixed = false;
     for (HClockNode *const other : clocks) {
         const ZoneSettings settings = SettingsIn(*other);
-        isMixed = isMixed || settings.offset != first.offset || settings.start != first.start
-            || settings.end != first.end;
+        isMixed = isMixed || !IsSame(settings, first);
     }
     const bool isUtc = first.offset == 0 && !first.HasDaylightSaving();
     const QString city = isMixed ? QString()
         : isUtc                  ? QStringLiteral("UTC")
-                                 : CityWith(first, QDate::currentDate());
+                                 : ZoneOf(first, QDate::currentDate()).city;
     m_city->setText(isMixed              ? tr("several")
                         : city.isEmpty() ? QStringLiteral("UTC%1").arg(first.ZoneText())
                                          : QStringLiteral("%1 (%2)").arg(city, first.ZoneText()));
@@ -92,10 +96,12 @@ void ZoneSection::Show(const QVector<HClockNode *> &clocks)
     m_isShowing = false;
 }
 
+/// The next change, and how long the rules are right; or why they cannot be.
 QString ZoneSection::NoteOn(HClockNode &clock) const
 {
-    if (!m_warning.isEmpty())
-        return m_warning;
+    const ZoneSettings zone = SettingsIn(clock);
+    if (!m_inexact.isEmpty() && IsSame(zone, m_inexactZone))
+        return m_inexact;
     const auto settings = ClockStage::SettingsOf(&clock);
     if (!settings || !settings->HasDaylightSaving())
         return tr("No daylight saving.");
@@ -103,8 +109,19 @@ QString ZoneSection::NoteOn(HClockNode &clock) const
     if (!next)
         return tr("Daylight saving without sound rules.");
     const QString date = DateText(next->instant, next->before);
-    return next->after > next->before ? tr("Daylight saving begins on %1.").arg(date)
-                                      : tr("Daylight saving ends on %1.").arg(date);
+    const QString change = next->after > next->before
+        ? tr("Daylight saving begins on %1.").arg(date)
+        : tr("Daylight saving ends on %1.").arg(date);
+    return change + QLatin1Char(' ') + HoldText(zone);
+}
+
+QString ZoneSection::HoldText(const ZoneSettings &zone)
+{
+    const KnownZone known = ZoneOf(zone, QDate::currentDate());
+    if (known.city.isEmpty())
+        return tr("No known zone has these rules.");
+    return tr("The rules hold for %1 until %2 at least.")
+        .arg(known.city, DateText(known.rightUntil - 1, zone.offset));
 }
 
 void ZoneSection::OpenDialog()
@@ -119,10 +136,11 @@ void ZoneSection::Choose(const QByteArray &zone)
     const auto answer = SettingsFor(zone, QDate::currentDate());
     if (!answer)
         return;
-    m_warning.clear();
+    m_inexact.clear();
     if (!answer->wrong.isEmpty()) {
         const ClockTool::WrongTime &first = answer->wrong.first();
-        m_warning = tr("A clock cannot follow this zone exactly: its daylight saving is not the "
+        m_inexactZone = answer->settings;
+        m_inexact = tr("A clock cannot follow this zone exactly: its daylight saving is not the "
                        "same every year. It is wrong %n time(s) in ten years, first from %1 to %2.",
                        nullptr, answer->wrong.size())
                         .arg(DateText(first.begin, 0), DateText(first.end, 0));
@@ -135,7 +153,6 @@ void ZoneSection::Choose(const QByteArray &zone)
         values += {{Attribute::DaylightSavingTimeStart, settings.start},
                    {Attribute::DaylightSavingTimeEnd, settings.end}};
     emit Edited(values, tr("Time zone"));
-    m_warning.clear();
 }
 
 void ZoneSection::GiveAdjustment()

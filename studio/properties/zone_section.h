@@ -32,13 +32,15 @@ Q_SIGNALS:
 private:
     void OpenDialog();
     QString NoteOn(Lw::HNodeClock::HClockNode &clock) const;
+    static QString HoldText(const ClockTool::ZoneSettings &zone);
     void GiveAdjustment();
 
     QPushButton *m_city;
     QLabel *m_note;
     QTimeEdit *m_adjustment;
     QComboBox *m_direction;
-    QString m_warning; ///< of the zone that was chosen last
+    ClockTool::ZoneSettings m_inexactZone; ///< of a zone that cannot be expressed,
+    QString m_inexact;                     ///< and why; empty where none was chosen
     bool m_isShowing = false;
 };
 

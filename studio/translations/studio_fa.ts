@@ -666,6 +666,10 @@
         <source>Show the line</source>
         <translation>نمایش سطر</translation>
     </message>
+    <message>
+        <source>Findings (%1)</source>
+        <translation>یافته‌ها (%1)</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::NumberEditor</name>
@@ -891,6 +895,42 @@
         <source>%1 has release %2.</source>
         <translation>%1 نسخهٔ %2 را دارد.</translation>
     </message>
+    <message>
+        <source>empty for this computer, or operator@wall.example:22</source>
+        <translation>برای این رایانه خالی، یا operator@wall.example:22</translation>
+    </message>
+    <message>
+        <source>none, or /run/clock-player/status.json</source>
+        <translation>هیچ، یا /run/clock-player/status.json</translation>
+    </message>
+    <message>
+        <source>The player&apos;s status file on the wall. It tells whether the wall plays what was sent.</source>
+        <translation>پرونده وضعیت پخش‌کننده روی دیوار. نشان می‌دهد دیوار آنچه را فرستاده شده پخش می‌کند یا نه.</translation>
+    </message>
+    <message>
+        <source>Status file</source>
+        <translation>پرونده وضعیت</translation>
+    </message>
+    <message>
+        <source>Choose the key file</source>
+        <translation>گزینش پرونده کلید</translation>
+    </message>
+    <message>
+        <source>Removing what was sent…</source>
+        <translation>برداشتن آنچه فرستاده شد…</translation>
+    </message>
+    <message>
+        <source>Waiting for the wall to play it…</source>
+        <translation>در انتظار پخش روی دیوار…</translation>
+    </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>پرسش از %1…</translation>
+    </message>
+    <message>
+        <source>%1 (plays now)</source>
+        <translation>%1 (در حال پخش)</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::SourceView</name>
@@ -1010,6 +1050,14 @@
         <source>Cancel</source>
         <translation>لغو</translation>
     </message>
+    <message>
+        <source>%1 cannot be started. Is it installed?</source>
+        <translation>%1 اجرا نشد. آیا نصب شده است؟</translation>
+    </message>
+    <message>
+        <source>%1 ended with code %2.</source>
+        <translation>%1 با کد %2 پایان یافت.</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::WallEditor</name>
@@ -1086,6 +1134,10 @@
     <message>
         <source>The folder is a path that begins with /.</source>
         <translation>پوشه مسیری است که با / آغاز می‌شود.</translation>
+    </message>
+    <message>
+        <source>The status file is a path that begins with /.</source>
+        <translation>پرونده وضعیت مسیری است که با / آغاز می‌شود.</translation>
     </message>
 </context>
 <context>
@@ -1201,6 +1253,14 @@
             <numerusform>ساعت نمی‌تواند این منطقه را دقیق دنبال کند: ساعت تابستانی آن هر سال یکسان نیست. در ده سال %n بار نادرست است، نخست از %1 تا %2.</numerusform>
             <numerusform>ساعت نمی‌تواند این منطقه را دقیق دنبال کند: ساعت تابستانی آن هر سال یکسان نیست. در ده سال %n بار نادرست است، نخست از %1 تا %2.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No known zone has these rules.</source>
+        <translation>هیچ منطقه شناخته‌شده‌ای این قاعده‌ها را ندارد.</translation>
+    </message>
+    <message>
+        <source>The rules hold for %1 until %2 at least.</source>
+        <translation>این قاعده‌ها برای %1 دست‌کم تا %2 درست‌اند.</translation>
     </message>
 </context>
 <context>
@@ -1777,6 +1837,276 @@
     <message>
         <source>one line</source>
         <translation>یک سطر</translation>
+    </message>
+    <message>
+        <source>Colour of the AM/PM badge.</source>
+        <translation>رنگ نشان صبح/عصر.</translation>
+    </message>
+    <message>
+        <source>Size of the AM/PM badge in points.</source>
+        <translation>اندازه نشان صبح/عصر به پوینت.</translation>
+    </message>
+    <message>
+        <source>Font family of the AM/PM badge; empty is the default font.</source>
+        <translation>خانواده قلم نشان صبح/عصر؛ خالی یعنی قلم پیش‌فرض.</translation>
+    </message>
+    <message>
+        <source>Whether the AM/PM badge is shown.</source>
+        <translation>آیا نشان صبح/عصر نشان داده می‌شود.</translation>
+    </message>
+    <message>
+        <source>Colour of the date.</source>
+        <translation>رنگ تاریخ.</translation>
+    </message>
+    <message>
+        <source>Size of the date in points.</source>
+        <translation>اندازه تاریخ به پوینت.</translation>
+    </message>
+    <message>
+        <source>Font family of the date; empty is the default font.</source>
+        <translation>خانواده قلم تاریخ؛ خالی یعنی قلم پیش‌فرض.</translation>
+    </message>
+    <message>
+        <source>Whether the date is shown.</source>
+        <translation>آیا تاریخ نشان داده می‌شود.</translation>
+    </message>
+    <message>
+        <source>Colour of the hour hand.</source>
+        <translation>رنگ عقربه ساعت.</translation>
+    </message>
+    <message>
+        <source>Shape of the hour hand.</source>
+        <translation>شکل عقربه ساعت.</translation>
+    </message>
+    <message>
+        <source>Colour of the minute hand.</source>
+        <translation>رنگ عقربه دقیقه.</translation>
+    </message>
+    <message>
+        <source>Shape of the minute hand.</source>
+        <translation>شکل عقربه دقیقه.</translation>
+    </message>
+    <message>
+        <source>Shape of the second hand.</source>
+        <translation>شکل عقربه ثانیه.</translation>
+    </message>
+    <message>
+        <source>Colour of the hour marks and numerals.</source>
+        <translation>رنگ نشان‌ها و عددهای ساعت.</translation>
+    </message>
+    <message>
+        <source>Colour of the lunar date.</source>
+        <translation>رنگ تاریخ قمری.</translation>
+    </message>
+    <message>
+        <source>Size of the lunar date in points.</source>
+        <translation>اندازه تاریخ قمری به پوینت.</translation>
+    </message>
+    <message>
+        <source>Font family of the lunar date; empty is the default font.</source>
+        <translation>خانواده قلم تاریخ قمری؛ خالی یعنی قلم پیش‌فرض.</translation>
+    </message>
+    <message>
+        <source>Colour of the minute marks.</source>
+        <translation>رنگ نشان‌های دقیقه.</translation>
+    </message>
+    <message>
+        <source>Shape of the minute marks.</source>
+        <translation>شکل نشان‌های دقیقه.</translation>
+    </message>
+    <message>
+        <source>Colour of the second hand and of the cap in the centre.</source>
+        <translation>رنگ عقربه ثانیه و درپوش میانی.</translation>
+    </message>
+    <message>
+        <source>Colour of the time.</source>
+        <translation>رنگ زمان.</translation>
+    </message>
+    <message>
+        <source>Size of the time in points.</source>
+        <translation>اندازه زمان به پوینت.</translation>
+    </message>
+    <message>
+        <source>Font family of the time; empty is the default font.</source>
+        <translation>خانواده قلم زمان؛ خالی یعنی قلم پیش‌فرض.</translation>
+    </message>
+    <message>
+        <source>Whether the time is shown.</source>
+        <translation>آیا زمان نشان داده می‌شود.</translation>
+    </message>
+    <message>
+        <source>Colour of the top text.</source>
+        <translation>رنگ متن بالا.</translation>
+    </message>
+    <message>
+        <source>Size of the top text in points.</source>
+        <translation>اندازه متن بالا به پوینت.</translation>
+    </message>
+    <message>
+        <source>Font family of the top text; empty is the default font.</source>
+        <translation>خانواده قلم متن بالا؛ خالی یعنی قلم پیش‌فرض.</translation>
+    </message>
+    <message>
+        <source>Whether the top text is shown.</source>
+        <translation>آیا متن بالا نشان داده می‌شود.</translation>
+    </message>
+    <message>
+        <source>Colour of the weekday.</source>
+        <translation>رنگ روز هفته.</translation>
+    </message>
+    <message>
+        <source>Size of the weekday in points.</source>
+        <translation>اندازه روز هفته به پوینت.</translation>
+    </message>
+    <message>
+        <source>Font family of the weekday; empty is the default font.</source>
+        <translation>خانواده قلم روز هفته؛ خالی یعنی قلم پیش‌فرض.</translation>
+    </message>
+    <message>
+        <source>Whether the weekday is shown.</source>
+        <translation>آیا روز هفته نشان داده می‌شود.</translation>
+    </message>
+    <message>
+        <source>Size of the hour numerals in points.</source>
+        <translation>اندازه عددهای ساعت به پوینت.</translation>
+    </message>
+    <message>
+        <source>Font family of the hour numerals; empty is the default font.</source>
+        <translation>خانواده قلم عددهای ساعت؛ خالی یعنی قلم پیش‌فرض.</translation>
+    </message>
+    <message>
+        <source>Whether the Chinese lunar date is shown.</source>
+        <translation>آیا تاریخ قمری چینی نشان داده می‌شود.</translation>
+    </message>
+    <message>
+        <source>Gap between the rows, or between the texts on one line, in pixels; may be negative.</source>
+        <translation>فاصله سطرها، یا متن‌های یک سطر، به پیکسل؛ می‌تواند منفی باشد.</translation>
+    </message>
+    <message>
+        <source>Gap between the text rows in pixels; may be negative.</source>
+        <translation>فاصله سطرهای متن به پیکسل؛ می‌تواند منفی باشد.</translation>
+    </message>
+    <message>
+        <source>Language and length of the weekday names.</source>
+        <translation>زبان و کوتاهی نام روزهای هفته.</translation>
+    </message>
+    <message>
+        <source>Order and form of the parts of the date.</source>
+        <translation>ترتیب و شکل بخش‌های تاریخ.</translation>
+    </message>
+    <message>
+        <source>Picture style of the clock.</source>
+        <translation>سبک تصویرهای ساعت.</translation>
+    </message>
+    <message>
+        <source>Shape of the hour marks, and which numerals are shown.</source>
+        <translation>شکل نشان‌های ساعت، و اینکه کدام عددها نشان داده شوند.</translation>
+    </message>
+    <message>
+        <source>The fixed text in the first position.</source>
+        <translation>متن ثابت در جای نخست.</translation>
+    </message>
+    <message>
+        <source>The fixed text in the upper half of the dial.</source>
+        <translation>متن ثابت در نیمه بالای صفحه.</translation>
+    </message>
+    <message>
+        <source>Whether each text has a row of its own or all are on one line.</source>
+        <translation>آیا هر متن سطری جدا دارد یا همه در یک سطرند.</translation>
+    </message>
+    <message>
+        <source>Whether hours are shown in 24-hour or 12-hour form with an AM/PM mark.</source>
+        <translation>ساعت‌ها ۲۴ساعته نشان داده شوند یا ۱۲ساعته با نشان صبح/عصر.</translation>
+    </message>
+    <message>
+        <source>Whether the AM/PM mark of the 12-hour form is shown; shown if the key is absent.</source>
+        <translation>آیا نشان صبح/عصر در شکل ۱۲ساعته نشان داده شود؛ بدون این کلید نشان داده می‌شود.</translation>
+    </message>
+    <message>
+        <source>Whether the clock is analog, digital or made of pictures.</source>
+        <translation>آیا ساعت عقربه‌ای، دیجیتال یا تصویری است.</translation>
+    </message>
+    <message>
+        <source>Whether the date and the weekday swap places.</source>
+        <translation>آیا تاریخ و روز هفته جابه‌جا می‌شوند.</translation>
+    </message>
+    <message>
+        <source>Which parts of the time are shown, and in which form.</source>
+        <translation>کدام بخش‌های زمان و به چه شکل نشان داده شوند.</translation>
+    </message>
+    <message>
+        <source>railway</source>
+        <translation>راه‌آهن</translation>
+    </message>
+    <message>
+        <source>roman</source>
+        <translation>رومی</translation>
+    </message>
+    <message>
+        <source>minimal</source>
+        <translation>ساده</translation>
+    </message>
+    <message>
+        <source>Arabic-Indic</source>
+        <translation>عددهای عربی</translation>
+    </message>
+    <message>
+        <source>classic</source>
+        <translation>کلاسیک</translation>
+    </message>
+    <message>
+        <source>night</source>
+        <translation>شب</translation>
+    </message>
+    <message>
+        <source>ornament</source>
+        <translation>آراسته</translation>
+    </message>
+    <message>
+        <source>factory</source>
+        <translation>کارخانه</translation>
+    </message>
+    <message>
+        <source>balloons</source>
+        <translation>بادکنک</translation>
+    </message>
+    <message>
+        <source>diner</source>
+        <translation>رستوران</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallWord</name>
+    <message>
+        <source>The wall plays it.</source>
+        <translation>دیوار آن را پخش می‌کند.</translation>
+    </message>
+    <message>
+        <source>The wall plays something else.</source>
+        <translation>دیوار چیز دیگری پخش می‌کند.</translation>
+    </message>
+    <message>
+        <source>The wall shows the notice %1 instead of a program.</source>
+        <translation>دیوار به جای برنامه پیام %1 را نشان می‌دهد.</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s player has not been heard of since %1.</source>
+        <translation>از %1 خبری از پخش‌کننده دیوار نیست.</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s status cannot be read.</source>
+        <translation>وضعیت دیوار خوانده نمی‌شود.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WholeFile</name>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <translation>%1 پرونده‌ای معمولی نیست.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2</source>
+        <translation>%1 ذخیره نشد: %2</translation>
     </message>
 </context>
 </TS>

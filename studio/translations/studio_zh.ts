@@ -666,6 +666,10 @@
         <source>Show the line</source>
         <translation>显示该行</translation>
     </message>
+    <message>
+        <source>Findings (%1)</source>
+        <translation>问题（%1）</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::NumberEditor</name>
@@ -890,6 +894,42 @@
         <source>%1 has release %2.</source>
         <translation>%1 现为版本 %2。</translation>
     </message>
+    <message>
+        <source>empty for this computer, or operator@wall.example:22</source>
+        <translation>本机留空，或 operator@wall.example:22</translation>
+    </message>
+    <message>
+        <source>none, or /run/clock-player/status.json</source>
+        <translation>无，或 /run/clock-player/status.json</translation>
+    </message>
+    <message>
+        <source>The player&apos;s status file on the wall. It tells whether the wall plays what was sent.</source>
+        <translation>屏幕上播放器的状态文件，用于确认屏幕正在播放所发送的内容。</translation>
+    </message>
+    <message>
+        <source>Status file</source>
+        <translation>状态文件</translation>
+    </message>
+    <message>
+        <source>Choose the key file</source>
+        <translation>选择密钥文件</translation>
+    </message>
+    <message>
+        <source>Removing what was sent…</source>
+        <translation>正在删除已发送的内容…</translation>
+    </message>
+    <message>
+        <source>Waiting for the wall to play it…</source>
+        <translation>正在等待屏幕播放…</translation>
+    </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>正在查询 %1…</translation>
+    </message>
+    <message>
+        <source>%1 (plays now)</source>
+        <translation>%1（正在播放）</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::SourceView</name>
@@ -1009,6 +1049,14 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>%1 cannot be started. Is it installed?</source>
+        <translation>无法启动 %1。是否已安装？</translation>
+    </message>
+    <message>
+        <source>%1 ended with code %2.</source>
+        <translation>%1 以代码 %2 结束。</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::WallEditor</name>
@@ -1085,6 +1133,10 @@
     <message>
         <source>The folder is a path that begins with /.</source>
         <translation>文件夹是以 / 开头的路径。</translation>
+    </message>
+    <message>
+        <source>The status file is a path that begins with /.</source>
+        <translation>状态文件须是以 / 开头的路径。</translation>
     </message>
 </context>
 <context>
@@ -1198,6 +1250,14 @@
         <translation>
             <numerusform>时钟无法精确跟随此时区：其夏令时每年不同。十年内有 %n 次错误，首次从 %1 到 %2。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>No known zone has these rules.</source>
+        <translation>没有已知时区使用这些规则。</translation>
+    </message>
+    <message>
+        <source>The rules hold for %1 until %2 at least.</source>
+        <translation>这些规则对 %1 至少有效到 %2。</translation>
     </message>
 </context>
 <context>
@@ -1774,6 +1834,276 @@
     <message>
         <source>one line</source>
         <translation>一行</translation>
+    </message>
+    <message>
+        <source>Colour of the AM/PM badge.</source>
+        <translation>上午/下午标记的颜色。</translation>
+    </message>
+    <message>
+        <source>Size of the AM/PM badge in points.</source>
+        <translation>上午/下午标记的字号（磅）。</translation>
+    </message>
+    <message>
+        <source>Font family of the AM/PM badge; empty is the default font.</source>
+        <translation>上午/下午标记的字体；留空为默认字体。</translation>
+    </message>
+    <message>
+        <source>Whether the AM/PM badge is shown.</source>
+        <translation>是否显示上午/下午标记。</translation>
+    </message>
+    <message>
+        <source>Colour of the date.</source>
+        <translation>日期的颜色。</translation>
+    </message>
+    <message>
+        <source>Size of the date in points.</source>
+        <translation>日期的字号（磅）。</translation>
+    </message>
+    <message>
+        <source>Font family of the date; empty is the default font.</source>
+        <translation>日期的字体；留空为默认字体。</translation>
+    </message>
+    <message>
+        <source>Whether the date is shown.</source>
+        <translation>是否显示日期。</translation>
+    </message>
+    <message>
+        <source>Colour of the hour hand.</source>
+        <translation>时针的颜色。</translation>
+    </message>
+    <message>
+        <source>Shape of the hour hand.</source>
+        <translation>时针的形状。</translation>
+    </message>
+    <message>
+        <source>Colour of the minute hand.</source>
+        <translation>分针的颜色。</translation>
+    </message>
+    <message>
+        <source>Shape of the minute hand.</source>
+        <translation>分针的形状。</translation>
+    </message>
+    <message>
+        <source>Shape of the second hand.</source>
+        <translation>秒针的形状。</translation>
+    </message>
+    <message>
+        <source>Colour of the hour marks and numerals.</source>
+        <translation>小时刻度和数字的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the lunar date.</source>
+        <translation>农历的颜色。</translation>
+    </message>
+    <message>
+        <source>Size of the lunar date in points.</source>
+        <translation>农历的字号（磅）。</translation>
+    </message>
+    <message>
+        <source>Font family of the lunar date; empty is the default font.</source>
+        <translation>农历的字体；留空为默认字体。</translation>
+    </message>
+    <message>
+        <source>Colour of the minute marks.</source>
+        <translation>分钟刻度的颜色。</translation>
+    </message>
+    <message>
+        <source>Shape of the minute marks.</source>
+        <translation>分钟刻度的形状。</translation>
+    </message>
+    <message>
+        <source>Colour of the second hand and of the cap in the centre.</source>
+        <translation>秒针和中心盖的颜色。</translation>
+    </message>
+    <message>
+        <source>Colour of the time.</source>
+        <translation>时间的颜色。</translation>
+    </message>
+    <message>
+        <source>Size of the time in points.</source>
+        <translation>时间的字号（磅）。</translation>
+    </message>
+    <message>
+        <source>Font family of the time; empty is the default font.</source>
+        <translation>时间的字体；留空为默认字体。</translation>
+    </message>
+    <message>
+        <source>Whether the time is shown.</source>
+        <translation>是否显示时间。</translation>
+    </message>
+    <message>
+        <source>Colour of the top text.</source>
+        <translation>顶部文字的颜色。</translation>
+    </message>
+    <message>
+        <source>Size of the top text in points.</source>
+        <translation>顶部文字的字号（磅）。</translation>
+    </message>
+    <message>
+        <source>Font family of the top text; empty is the default font.</source>
+        <translation>顶部文字的字体；留空为默认字体。</translation>
+    </message>
+    <message>
+        <source>Whether the top text is shown.</source>
+        <translation>是否显示顶部文字。</translation>
+    </message>
+    <message>
+        <source>Colour of the weekday.</source>
+        <translation>星期的颜色。</translation>
+    </message>
+    <message>
+        <source>Size of the weekday in points.</source>
+        <translation>星期的字号（磅）。</translation>
+    </message>
+    <message>
+        <source>Font family of the weekday; empty is the default font.</source>
+        <translation>星期的字体；留空为默认字体。</translation>
+    </message>
+    <message>
+        <source>Whether the weekday is shown.</source>
+        <translation>是否显示星期。</translation>
+    </message>
+    <message>
+        <source>Size of the hour numerals in points.</source>
+        <translation>小时数字的字号（磅）。</translation>
+    </message>
+    <message>
+        <source>Font family of the hour numerals; empty is the default font.</source>
+        <translation>小时数字的字体；留空为默认字体。</translation>
+    </message>
+    <message>
+        <source>Whether the Chinese lunar date is shown.</source>
+        <translation>是否显示农历。</translation>
+    </message>
+    <message>
+        <source>Gap between the rows, or between the texts on one line, in pixels; may be negative.</source>
+        <translation>各行之间或同一行文字之间的间距（像素），可为负。</translation>
+    </message>
+    <message>
+        <source>Gap between the text rows in pixels; may be negative.</source>
+        <translation>文字行之间的间距（像素），可为负。</translation>
+    </message>
+    <message>
+        <source>Language and length of the weekday names.</source>
+        <translation>星期名称的语言和长短。</translation>
+    </message>
+    <message>
+        <source>Order and form of the parts of the date.</source>
+        <translation>日期各部分的顺序和形式。</translation>
+    </message>
+    <message>
+        <source>Picture style of the clock.</source>
+        <translation>时钟的图片样式。</translation>
+    </message>
+    <message>
+        <source>Shape of the hour marks, and which numerals are shown.</source>
+        <translation>小时刻度的形状，以及显示哪些数字。</translation>
+    </message>
+    <message>
+        <source>The fixed text in the first position.</source>
+        <translation>位于首位的固定文字。</translation>
+    </message>
+    <message>
+        <source>The fixed text in the upper half of the dial.</source>
+        <translation>表盘上半部的固定文字。</translation>
+    </message>
+    <message>
+        <source>Whether each text has a row of its own or all are on one line.</source>
+        <translation>每段文字各占一行，还是全部在同一行。</translation>
+    </message>
+    <message>
+        <source>Whether hours are shown in 24-hour or 12-hour form with an AM/PM mark.</source>
+        <translation>小时以 24 小时制显示，还是以带上午/下午标记的 12 小时制显示。</translation>
+    </message>
+    <message>
+        <source>Whether the AM/PM mark of the 12-hour form is shown; shown if the key is absent.</source>
+        <translation>12 小时制是否显示上午/下午标记；未设置时显示。</translation>
+    </message>
+    <message>
+        <source>Whether the clock is analog, digital or made of pictures.</source>
+        <translation>时钟是指针式、数字式还是由图片组成。</translation>
+    </message>
+    <message>
+        <source>Whether the date and the weekday swap places.</source>
+        <translation>日期和星期是否交换位置。</translation>
+    </message>
+    <message>
+        <source>Which parts of the time are shown, and in which form.</source>
+        <translation>显示时间的哪些部分，以及形式。</translation>
+    </message>
+    <message>
+        <source>railway</source>
+        <translation>铁路</translation>
+    </message>
+    <message>
+        <source>roman</source>
+        <translation>罗马</translation>
+    </message>
+    <message>
+        <source>minimal</source>
+        <translation>简约</translation>
+    </message>
+    <message>
+        <source>Arabic-Indic</source>
+        <translation>阿拉伯-印度数字</translation>
+    </message>
+    <message>
+        <source>classic</source>
+        <translation>经典</translation>
+    </message>
+    <message>
+        <source>night</source>
+        <translation>夜间</translation>
+    </message>
+    <message>
+        <source>ornament</source>
+        <translation>纹饰</translation>
+    </message>
+    <message>
+        <source>factory</source>
+        <translation>工厂</translation>
+    </message>
+    <message>
+        <source>balloons</source>
+        <translation>气球</translation>
+    </message>
+    <message>
+        <source>diner</source>
+        <translation>餐馆</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallWord</name>
+    <message>
+        <source>The wall plays it.</source>
+        <translation>屏幕正在播放。</translation>
+    </message>
+    <message>
+        <source>The wall plays something else.</source>
+        <translation>屏幕正在播放其他内容。</translation>
+    </message>
+    <message>
+        <source>The wall shows the notice %1 instead of a program.</source>
+        <translation>屏幕显示提示 %1，而不是节目。</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s player has not been heard of since %1.</source>
+        <translation>自 %1 起没有屏幕播放器的消息。</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s status cannot be read.</source>
+        <translation>无法读取屏幕的状态。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WholeFile</name>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <translation>%1 不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2</source>
+        <translation>无法保存 %1：%2</translation>
     </message>
 </context>
 </TS>

@@ -55,7 +55,7 @@ void MainWindow::SaveSheet()
                                     QStringLiteral(".pdf"));
     if (path.isEmpty())
         return;
-    m_findings->Check();
+    m_findings->CheckAll();
     QStringList findings;
     for (const ClockTool::Finding &finding : m_findings->Findings())
         findings.append(finding.text);
@@ -101,7 +101,7 @@ QString MainWindow::ProgramFileIn(const QTemporaryDir &directory)
     const std::optional<QByteArray> bytes = m_document.Bytes();
     const std::optional<QString> problem = bytes
         ? WriteWhole(path, *bytes)
-        : tr("The file's encoding lacks a character of this text.");
+        : ProgramFiles::tr("The encoding of the file lacks a character of this text.");
     if (problem)
         SayProblem(*problem);
     return problem ? QString() : path;

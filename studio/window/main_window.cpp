@@ -114,6 +114,10 @@ void MainWindow::MakeDocks()
     m_findingsDock->hide();
     for (QDockWidget *const shown : {m_sourceDock, m_findingsDock})
         connect(shown->toggleViewAction(), &QAction::triggered, shown, &QWidget::raise);
+    connect(m_findings, &FindingsPanel::CountChanged, this, [this](int count) {
+        m_findingsDock->setWindowTitle(count == 0 ? tr("Findings")
+                                                  : tr("Findings (%1)").arg(count));
+    });
     connect(m_findings, &FindingsPanel::PropertyWanted, m_properties, &PropertyPanel::Reveal);
     connect(m_findings, &FindingsPanel::LineWanted, m_source, &SourceView::GoToLine);
 }

@@ -1,0 +1,105 @@
+#include "fit_check.h"
+
+#include "files/tool_run.h"
+#include "files/whole_file.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace ClockStudio {
+
+namespace {
+
+using ClockTool::Finding;
+
+constexpr int kLimit = 120'000;     // milliseconds
+constexpr int kMostFindings = 1000; // more are no help to anybody
+
+Finding FindingOf(const QJsonObject &object)
+{
+    const auto text = [&object](const char *key) {
+        return object.value(QLatin1String(key)).toString();
+    };
+    Finding finding;
+    finding.place = {object.value(QStringLiteral("line")).toInt(), text("element"),
+                     text("attribute"), object.value(QStringLiteral("clock")).toInt()};
+    finding.severity = text("severity") == QLatin1String("note") ? ClockTool::Severity::Note
+                                                                 : ClockTool::Severity::Warning;
+    finding.text = text("text");
+    finding.suggestion = text("suggestion");
+    return finding;
+}
+
+} // namespace
+
+FitCheck::FitCheck(QObject *parent) : QObject(parent)
+{
+    m_process.setStandardErrorFile(QProcess::nullDevice());
+    m_limit.setSingleShot(true);
+    m_limit.setInterval(kLimit);
+    connect(&m_limit, &QTimer::timeout, &m_process, &QProcess::kill);
+    connect(&m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
+            &FitCheck::Take);
+    connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            emit Ended();
+    });
+}
+
+FitCheck::~FitCheck()
+{
+    const QSignalBlocker quiet(m_process);
+    m_process.kill();
+    m_process.waitForFinished();
+}
+
+void FitCheck::Start(const QByteArray &program)
+{
+    Drop();
+    m_next = program;
+    if (!IsRunning())
+        Begin();
+}
+
+/// Without waiting for it to end, which would hold up the typing.
+void FitCheck::Drop()
+{
+    m_next.reset();
+    m_isDropped = IsRunning();
+    m_process.kill();
+}
+
+void FitCheck::Begin()
+{
+    m_isDropped = false;
+    const QString path = m_work.filePath(QStringLiteral("program.xml"));
+    const std::optional<QString> problem = WriteWhole(path, *m_next);
+    m_next.reset();
+    if (problem) {
+        emit Ended();
+        return;
+    }
+    const ToolCommand command = LintCommand(path);
+    m_process.start(command.program, command.arguments, QIODevice::ReadOnly);
+    m_limit.start();
+}
+
+void FitCheck::Take(int exitCode, QProcess::ExitStatus status)
+{
+    m_limit.stop();
+    const QByteArray output = m_process.readAllStandardOutput();
+    if (m_next)
+        return Begin();
+    QVector<Finding> findings;
+    for (const QByteArray &line : output.split('\n')) {
+        const QJsonDocument document = QJsonDocument::fromJson(line);
+        if (document.isObject() && findings.size() < kMostFindings)
+            findings.append(FindingOf(document.object()));
+    }
+    // The tool ends with 1 where it warns, with more where it could not check.
+    if (!m_isDropped && status == QProcess::NormalExit && exitCode <= 1)
+        emit Found(findings);
+    emit Ended();
+}
+
+} // namespace ClockStudio

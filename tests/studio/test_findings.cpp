@@ -1,0 +1,133 @@
+// The list of findings: filled as they arise, with what a check of a whole year finds; a click
+// chooses clock and property, a button mends.
+#include "studio_under_test.h"
+
+#include "findings/findings_panel.h"
+
+#include "catalogues.h"
+
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalSpy>
+
+using namespace ClockStudio;
+
+namespace {
+
+/// The time of the second clock is far too large for its area.
+const QByteArray kCut =
+    "<program width=\"128\" height=\"64\">\n"
+    "  <area x=\"0\" y=\"0\" width=\"64\" height=\"32\">\n"
+    "    <clock type=\"digital\" timezone=\"+00:00\"><title display=\"false\"/>"
+    "<date display=\"false\"/>\n<week display=\"false\"/>\n<time fontSize=\"9\"/></clock>\n"
+    "  </area>\n"
+    "  <area x=\"64\" y=\"32\" width=\"64\" height=\"32\">\n"
+    "    <clock type=\"digital\" timezone=\"+00:00\"><title display=\"false\"/>"
+    "<date display=\"false\"/>\n<week display=\"false\"/>\n"
+    "<time fontName=\"DejaVu Sans\" fontSize=\"44\"/></clock>\n"
+    "  </area>\n"
+    "</program>\n";
+
+struct FindingsUnderTest
+{
+    StudioUnderTest studio;
+    FindingsPanel panel {studio.editor};
+
+    explicit FindingsUnderTest(const QByteArray &program) : studio(program)
+    {
+        studio.WaitForClocks();
+        panel.show();
+    }
+
+    int RowWith(const QString &word) const
+    {
+        const auto &findings = panel.Findings();
+        for (int row = 0; row < findings.size(); ++row) {
+            if (findings[row].text.contains(word))
+                return row;
+        }
+        return -1;
+    }
+};
+
+} // namespace
+
+class TestFindings : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(ClockCatalogues::Install("en")); }
+    void arisesAndIsMended();
+    void allAtOnce();
+    void brokenTextHasNone();
+    void typingDropsWhatIsChecked();
+    void eventsAreHandledMeanwhile();
+};
+
+void TestFindings::arisesAndIsMended()
+{
+    FindingsUnderTest test(QByteArray(kCut).replace("44", "9"));
+    QTRY_VERIFY_WITH_TIMEOUT(test.RowWith("cut") < 0, 1000);
+    const int size = test.studio.document.Text().lastIndexOf("\"9\"") + 1;
+    test.studio.document.Change({{size, "9", "44"}}, "larger");
+    QTRY_VERIFY_WITH_TIMEOUT(test.RowWith("cut") >= 0, 60000);
+    QSignalSpy wanted(&test.panel, &FindingsPanel::PropertyWanted);
+    test.panel.findChild<QListWidget *>()->setCurrentRow(test.RowWith("cut"));
+    QCOMPARE(test.studio.editor.Chosen(), QVector<int> {1});
+    QCOMPARE(wanted.count(), 1);
+    QCOMPARE(wanted.first().first().toString(), QString("DigitalTimeFSize"));
+    auto *const mend = test.panel.findChild<QPushButton *>();
+    QVERIFY(mend->isEnabled());
+    QTest::mouseClick(mend, Qt::LeftButton);
+    QVERIFY(!test.studio.document.Text().contains("\"44\""));
+    test.panel.CheckAll();
+    QVERIFY(test.RowWith("cut") < 0);
+    test.studio.document.History().undo();
+    QVERIFY(test.studio.document.Text().contains("\"44\""));
+}
+
+void TestFindings::allAtOnce()
+{
+    FindingsUnderTest test(kCut);
+    test.panel.CheckAll();
+    QVERIFY(test.RowWith("cut") >= 0);
+    QCOMPARE(test.panel.findChild<QListWidget *>()->count(), test.panel.Findings().size());
+}
+
+void TestFindings::brokenTextHasNone()
+{
+    FindingsUnderTest test(kCut);
+    test.panel.CheckAll();
+    test.studio.document.Change({{0, "<", ""}}, "typing");
+    test.panel.CheckAll();
+    QCOMPARE(test.panel.Findings().size(), 0);
+}
+
+// What was found in a text that is no longer there is not listed.
+void TestFindings::typingDropsWhatIsChecked()
+{
+    FindingsUnderTest test(kCut);
+    test.panel.Check();
+    const int size = test.studio.document.Text().indexOf("44");
+    test.studio.document.Change({{size, "44", "9"}}, "smaller");
+    test.panel.CheckAll();
+    QVERIFY(test.RowWith("cut") < 0);
+    QTest::qWait(500);
+    QVERIFY(test.RowWith("cut") < 0);
+}
+
+void TestFindings::eventsAreHandledMeanwhile()
+{
+    const int area = kCut.indexOf("  <area");
+    const QByteArray areas = kCut.mid(area, kCut.indexOf("</program>") - area);
+    FindingsUnderTest test(QByteArray(kCut).insert(area, areas.repeated(4)));
+    bool isAlive = false;
+    QTimer::singleShot(0, [&isAlive] { isAlive = true; });
+    test.panel.CheckAll();
+    QVERIFY(isAlive);
+    QVERIFY(test.RowWith("cut") >= 0);
+}
+
+QTEST_MAIN(TestFindings)
+#include "test_findings.moc"
