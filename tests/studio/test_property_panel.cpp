@@ -6,6 +6,7 @@
 #include "properties/property_groups.h"
 #include "properties/property_panel.h"
 #include "properties/value_editor.h"
+#include "properties/zone_section.h"
 
 #include "calendar/device_clock.h"
 #include "catalogues.h"
@@ -18,6 +19,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTimeEdit>
@@ -201,6 +203,7 @@ private slots:
     void setsKind();
     void setsPlace();
     void setsAdjustment();
+    void setsZone();
     void setsSeveralClocks();
     void brokenTextCannotBeSet();
     void wheelScrollsThePanel();
@@ -369,6 +372,33 @@ void TestPropertyPanel::setsAdjustment()
     test.studio.WaitForClocks();
     QCOMPARE(test.InText(Attribute::AdjustType), QString("1"));
     QVERIFY(test.studio.Screen() != ahead);
+}
+
+// The next change and how long the rules hold; why a zone cannot be expressed, for as long as it is
+// the clock's.
+void TestPropertyPanel::setsZone()
+{
+    PanelUnderTest test(Everything(DigitalClock));
+    const auto said = [&test] {
+        QStringList texts;
+        for (const QLabel *const label : test.panel.Zone().findChildren<QLabel *>())
+            texts.append(label->text());
+        return texts.join(' ');
+    };
+    test.panel.Zone().Choose("Europe/Berlin");
+    test.studio.WaitForClocks();
+    QCOMPARE(test.InText(Attribute::TimeZone), QString("+01:00"));
+    QVERIFY2(said().contains("25 October 2026"), qPrintable(said()));
+    QVERIFY2(said().contains("hold for"), qPrintable(said()));
+    test.panel.Zone().Choose("Australia/Lord_Howe");
+    test.studio.WaitForClocks();
+    QVERIFY2(said().contains("cannot follow"), qPrintable(said()));
+    test.studio.editor.Choose({});
+    test.studio.editor.Choose({0});
+    QVERIFY2(said().contains("cannot follow"), qPrintable(said()));
+    test.panel.Zone().Choose("Asia/Tokyo");
+    test.studio.WaitForClocks();
+    QVERIFY2(said().contains("No daylight saving"), qPrintable(said()));
 }
 
 void TestPropertyPanel::setsSeveralClocks()
