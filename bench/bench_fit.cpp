@@ -1,43 +1,29 @@
 // What a check of a year costs: one clock, a wall of clocks, and the sizes that fit.
 #include "bench_support.h"
-
-#include "fit.h"
-
-#include <vector>
-
-using namespace ClockFit;
+#include "checked_clocks.h"
 
 namespace {
 
-constexpr QSize kArea(512, 256);
-constexpr int kPointsOf48Pixels = 36;
-constexpr int kClocksOfAWall = 64;
-constexpr qint64 kBegin = Q_INT64_C(1709632800000); // 2024-03-05 10:00:00 UTC
+using bench::CheckedClocks;
+using bench::kClocksOfAWall;
+using bench::kPointsOf48Pixels;
 
-// Nothing is remembered from one iteration to the next.
-void FitOfAClock(benchmark::State &state)
+void Check(benchmark::State &state, const CheckedClocks &clocks)
 {
-    const auto node =
-        bench::NewNode(static_cast<int>(state.range(0)), kArea, static_cast<int>(state.range(1)));
     const bench::CountsPerIteration counts(state);
-    for (auto _ : state) {
-        ClockCheck check(YearFrom(kBegin));
-        benchmark::DoNotOptimize(check.Check(*node).cuts.size());
-    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(clocks.Check());
 }
 
-// No two clocks have one size.
+void FitOfAClock(benchmark::State &state)
+{
+    Check(state,
+          CheckedClocks(static_cast<int>(state.range(0)), 1, static_cast<int>(state.range(1))));
+}
+
 void FitOfAWall(benchmark::State &state)
 {
-    std::vector<std::unique_ptr<Lw::HNodeClock::HClockNode>> nodes;
-    for (int clock = 0; clock < kClocksOfAWall; ++clock)
-        nodes.push_back(bench::NewNode(static_cast<int>(state.range(0)), kArea,
-                                       kPointsOf48Pixels - clock % 24));
-    for (auto _ : state) {
-        ClockCheck check(YearFrom(kBegin));
-        for (const auto &node : nodes)
-            benchmark::DoNotOptimize(check.Check(*node).cuts.size());
-    }
+    Check(state, CheckedClocks(static_cast<int>(state.range(0)), kClocksOfAWall));
 }
 
 void FitSizes(benchmark::State &state)
@@ -45,7 +31,7 @@ void FitSizes(benchmark::State &state)
     const auto node =
         bench::NewNode(static_cast<int>(state.range(0)), QSize(128, 64), kPointsOf48Pixels);
     for (auto _ : state) {
-        ClockCheck check(YearFrom(kBegin));
+        ClockFit::ClockCheck check(ClockFit::YearFrom(0));
         benchmark::DoNotOptimize(ShrunkSizes(check, *node).factor);
     }
 }

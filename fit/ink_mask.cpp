@@ -172,13 +172,17 @@ bool InkMask::HasInkIn(const QRect &rect) const
 int InkMask::Common(const InkMask &other) const
 {
     const QRect shared = m_box & other.m_box;
+    const int firstWord = (shared.left() - m_box.left()) / kBits;
+    const int lastWord = (shared.right() - m_box.left()) / kBits;
     int count = 0;
     for (int y = shared.top(); y <= shared.bottom(); ++y) {
         const quint32 *const row = Row(y);
-        for (int word = 0; word < m_words; ++word) {
-            if (row[word] != 0)
-                count += static_cast<int>(
-                    qPopulationCount(row[word] & other.Columns(y, m_box.left() + word * kBits)));
+        for (int word = firstWord; word <= lastWord; ++word) {
+            if (row[word] == 0)
+                continue;
+            const quint32 both = row[word] & other.Columns(y, m_box.left() + word * kBits);
+            if (both != 0) // seldom: most texts are clear of each other
+                count += static_cast<int>(qPopulationCount(both));
         }
     }
     return count;

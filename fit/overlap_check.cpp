@@ -58,8 +58,7 @@ private:
             }
             const Still still = {text.part, text.element, text.topLeft,
                                  m_bounds.Of(*text.element).translated(text.topLeft)};
-            if (m_under[state.isMorning].HasInkIn(still.ink))
-                LookOverDial(state, still);
+            LookOverDial(state, still);
             for (const Still &other : lower)
                 LookAtPair(state, other, still);
             lower.push_back(still);
@@ -78,7 +77,12 @@ private:
 
     void LookOverDial(const ClockYear::State &state, const Still &text)
     {
+        const InkMask &under = m_under[state.isMorning];
+        if (!under.HasInkIn(text.ink))
+            return;
         const InkMask mask = text.Mask();
+        if (mask.Common(under) == 0)
+            return;
         const DialInk &dial = m_clock.Dial();
         LookUnder(state, text.part, mask);
         Found(Part::Badge, text.part)
