@@ -120,11 +120,14 @@ DialInk DialInkOf(HClockNode &node, const GlyphSource &source)
         return ink;
     const QSize area = node.Size();
     const int scale = NumberOf(node, Attribute::HourScaleType);
-    const GlyphStrip digits = source(Glyph::HourhandNumber, 0);
+    ink.digits = source(Glyph::HourhandNumber, 0);
+    const GlyphStrip &digits = ink.digits;
     const QRect canvas = CanvasOf(area, scale, digits.Size());
     if (NumberOf(node, Attribute::Analog_AMPM_d) == 1) {
-        ink.morning = BadgeInk(area, source(Glyph::AnalogAM, 0));
-        ink.afternoon = BadgeInk(area, source(Glyph::AnalogPM, 0));
+        ink.morningBadge = source(Glyph::AnalogAM, 0);
+        ink.afternoonBadge = source(Glyph::AnalogPM, 0);
+        ink.morning = BadgeInk(area, ink.morningBadge);
+        ink.afternoon = BadgeInk(area, ink.afternoonBadge);
     }
     ink.isDrawn = WithinBounds(canvas.size(), kFrameBytes);
     if (!ink.isDrawn)

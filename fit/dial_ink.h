@@ -14,8 +14,11 @@ struct DialInk
     InkMask hourMarks;
     InkMask minuteMarks;
     InkMask numerals;
-    InkMask morning;         ///< the AM badge
-    InkMask afternoon;       ///< the PM badge
+    InkMask morning;                   ///< the AM badge
+    InkMask afternoon;                 ///< the PM badge
+    Lw::HNodeClock::GlyphStrip digits; ///< of the numerals; null if there are none
+    Lw::HNodeClock::GlyphStrip morningBadge;
+    Lw::HNodeClock::GlyphStrip afternoonBadge;
     int coveredNumerals = 0; ///< pixels of numerals that later ones cover
     bool isDrawn = true;     ///< false if the canvas would be larger than a frame may be
 

@@ -1,5 +1,6 @@
 #include "fit.h"
 
+#include "clip_check.h"
 #include "clock_checks.h"
 #include "clock_parts.h"
 #include "clock_year.h"
@@ -34,8 +35,8 @@ QRect VisibleOf(HClockNode &node, const QRect &visible)
 
 bool ClockFindings::IsEmpty() const
 {
-    return cuts.isEmpty() && overlaps.isEmpty() && faint.isEmpty() && sameHands.isEmpty()
-        && lostMarks.isEmpty() && missing.isEmpty() && tooLarge.isEmpty();
+    return cuts.isEmpty() && clipped.isEmpty() && overlaps.isEmpty() && faint.isEmpty()
+        && sameHands.isEmpty() && lostMarks.isEmpty() && missing.isEmpty() && tooLarge.isEmpty();
 }
 
 ClockFindings ClockCheck::Check(HClockNode &node, const QRect &visible)
@@ -49,6 +50,7 @@ ClockFindings ClockCheck::Check(HClockNode &node, const QRect &visible)
         cut.first.text = Showing(clock, m_images, cut.part, cut.first.utc);
         cut.worst.text = Showing(clock, m_images, cut.part, cut.worst.utc);
     }
+    findings.clipped = ClippedOf(clock, node, m_images);
     findings.overlaps = OverlapsOf(clock);
     for (Overlap &overlap : findings.overlaps) {
         overlap.first.text = Showing(clock, m_images, overlap.upper, overlap.first.utc);
@@ -76,6 +78,14 @@ QVector<Overlap> ClockCheck::Overlaps(HClockNode &node, const FontSizes &sizes)
         return {};
     ClockYear clock(node, m_images.SourceFor(node, sizes), m_year);
     return OverlapsOf(clock);
+}
+
+QVector<Clipped> ClockCheck::ClippedParts(HClockNode &node, const FontSizes &sizes)
+{
+    if (!IsDrawable(node))
+        return {};
+    ClockYear clock(node, m_images.SourceFor(node, sizes), m_year);
+    return ClippedOf(clock, node, m_images);
 }
 
 } // namespace ClockFit

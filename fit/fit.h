@@ -61,6 +61,18 @@ struct Cut
     Moment worst;        ///< when the worst cut first occurs
 };
 
+/// Ink of a part beyond the edge of its own images, which show less of the text than the font
+/// draws; larger areas show no more of it. Texts have images of their advance width and the font's
+/// line height, and some date and time formats have less room than their pieces take.
+struct Clipped
+{
+    Part part = Part::TopText;
+    Side side = Side::Left;
+    int pixels = 0; ///< how far ink reaches beyond the edge, at the worst
+    Moment first;   ///< when any ink is first lost; the text is the piece that loses most
+    Moment worst;   ///< when so much is first lost, likewise
+};
+
 /// Ink of one part over that of another.
 struct Overlap
 {
@@ -116,7 +128,8 @@ struct TooLarge
 
 struct ClockFindings
 {
-    QVector<Cut> cuts; ///< by part, then side
+    QVector<Cut> cuts;        ///< by part, then side
+    QVector<Clipped> clipped; ///< one for each part at most
     QVector<Overlap> overlaps;
     QVector<Faint> faint;
     QVector<SameHands> sameHands;
@@ -146,6 +159,7 @@ public:
     QVector<Cut> Cuts(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes,
                       const QRect &visible = {});
     QVector<Overlap> Overlaps(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes);
+    QVector<Clipped> ClippedParts(Lw::HNodeClock::HClockNode &node, const FontSizes &sizes);
 
     const Year &CheckedYear() const { return m_year; }
     GlyphImages &Images() { return m_images; }
@@ -176,6 +190,11 @@ struct CommonSizes
 /// For each cut part its largest size that fits, the others unchanged.
 QVector<PartSize> SizesOfParts(ClockCheck &check, Lw::HNodeClock::HClockNode &node,
                                const QVector<Cut> &cuts, const QRect &visible = {});
+
+/// The size closest to a part's own at which its images lose no ink and it is not cut; 0 if none
+/// was found.
+int SizeWithAllInk(ClockCheck &check, Lw::HNodeClock::HClockNode &node, Part part,
+                   const QRect &visible = {});
 
 /// For all parts together: the largest factor below 1 at which none is cut.
 CommonSizes ShrunkSizes(ClockCheck &check, Lw::HNodeClock::HClockNode &node,

@@ -7,6 +7,7 @@
 #include "glyph/glyph_check.h"
 #include "glyph/glyph_picture.h"
 #include "image_bounds.h"
+#include "whole_text.h"
 
 #include <QPainter>
 
@@ -133,7 +134,8 @@ GlyphStrip GlyphImages::Draw(const QString &family, int points, const QString &t
         BeginText(painter, picture, font, Qt::white, text);
     painter.end();
     strip = GlyphStrip(picture.toImage());
-    m_drawn.insert(strip.Key(), {text, text.size() == cells ? cells : 1, picture.width()});
+    m_drawn.insert(strip.Key(),
+                   {text, text.size() == cells ? cells : 1, family, points, picture.size(), {}});
     return strip;
 }
 
@@ -158,17 +160,39 @@ QString GlyphImages::TextOf(const Element &element) const
     int end = 0;
     for (int i = 0; i < element.Count(); ++i) {
         const Piece &piece = element.At(i);
-        const Drawn drawn = m_drawn.value(piece.stripKey);
-        const int cell = drawn.cells > 0 ? drawn.width / drawn.cells : 0;
         if (piece.x > end)
             text += QLatin1Char(' ');
         end = piece.x + piece.width;
-        if (drawn.cells == 1)
-            text += drawn.text;
-        else if (cell > 0)
-            text += drawn.text.mid(piece.sourceX / cell, qMax(1, piece.width / cell));
+        text += TextOf(piece);
     }
     return text;
+}
+
+QString GlyphImages::TextOf(const Piece &piece) const
+{
+    const Drawn drawn = m_drawn.value(piece.stripKey);
+    const int cell = drawn.CellWidth();
+    if (drawn.cells == 1 || cell == 0)
+        return drawn.text;
+    return drawn.text.mid(piece.sourceX / cell, qMax(1, piece.width / cell));
+}
+
+QRect GlyphImages::WholeInk(const Piece &piece)
+{
+    const auto known = m_drawn.find(piece.stripKey);
+    if (known == m_drawn.end())
+        return {};
+    Drawn &drawn = *known;
+    if (drawn.inks.isEmpty())
+        drawn.inks = InkOfCells(GlyphTypeface(drawn.family, drawn.points), drawn.size, drawn.text,
+                                drawn.cells);
+    const int cell = qMax(1, drawn.CellWidth());
+    const int first = piece.sourceX / cell;
+    const int count = qMax(1, piece.width / cell);
+    QRect ink;
+    for (int i = first; i < qMin(first + count, drawn.inks.size()); ++i)
+        ink |= drawn.inks[i];
+    return ink;
 }
 
 } // namespace ClockFit

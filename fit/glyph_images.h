@@ -31,6 +31,11 @@ public:
 
     /// The text shown by an element composed of these images.
     QString TextOf(const Lw::HNodeClock::Element &element) const;
+    /// The same of one of its pieces.
+    QString TextOf(const Lw::HNodeClock::Piece &piece) const;
+    /// The bounds of all ink that the font draws for what a piece says, in pixels of its image,
+    /// which may be smaller.
+    QRect WholeInk(const Lw::HNodeClock::Piece &piece);
 
 private:
     using GlyphStrip = Lw::HNodeClock::GlyphStrip;
@@ -39,7 +44,11 @@ private:
     {
         QString text;
         int cells = 1; ///< cells of equal width, one character each; 1 for a text in one piece
-        int width = 0; ///< of the image
+        QString family;
+        int points = 0;
+        QSize size;          ///< of the image
+        QVector<QRect> inks; ///< of each cell; filled when first asked for
+        int CellWidth() const { return size.width() / cells; }
     };
 
     GlyphStrip Draw(const QString &family, int points, const QString &text, int cells);

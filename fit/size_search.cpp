@@ -122,6 +122,27 @@ QVector<Fraction> StepsBelowOne(HClockNode &node)
 
 } // namespace
 
+int SizeWithAllInk(ClockCheck &check, HClockNode &node, Part part, const QRect &visible)
+{
+    FontSizes sizes = SizesOf(node);
+    int &points = sizes[Index(*FontOf(part))];
+    const int own = EffectiveSize(points);
+    const auto isPart = [part](const auto &finding) { return finding.part == part; };
+    for (int distance = 1; distance <= kMaxTrials / 2; ++distance) {
+        for (const int tried : {own - distance, own + distance}) {
+            points = tried;
+            if (tried < 1 || tried > kLargestFontSize)
+                continue;
+            const QVector<Clipped> clipped = check.ClippedParts(node, sizes);
+            const QVector<Cut> cuts = check.Cuts(node, sizes, visible);
+            if (std::none_of(clipped.cbegin(), clipped.cend(), isPart)
+                && std::none_of(cuts.cbegin(), cuts.cend(), isPart))
+                return tried;
+        }
+    }
+    return 0;
+}
+
 QVector<PartSize> SizesOfParts(ClockCheck &check, HClockNode &node, const QVector<Cut> &cuts,
                                const QRect &visible)
 {

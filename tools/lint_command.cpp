@@ -34,8 +34,8 @@ constexpr char kDescription[] =
     "With --format json each finding is a JSON object in a line on standard output: file, line,\n"
     "clock (from 1), element, attribute, severity (warning or note), text, suggestion.\n"
     "\n"
-    "Exit codes: 0 no warning, 1 warnings, 2 wrong command line, 3 a file cannot be read or is no\n"
-    "XML. Of several programs each is checked, and the highest code counts.";
+    "Exit codes: 0 no warning, 1 warnings, 2 wrong command line, 3 a file cannot be read or is\n"
+    "not XML. Of several programs each is checked, and the highest code counts.";
 
 constexpr int kMostShown = 1000;
 

@@ -29,7 +29,7 @@ struct Piece
     bool operator!=(const Piece &other) const { return !(*this == other); }
 };
 
-/// Pieces never overlap; what is past the canvas is cut off.
+/// Pieces never overlap; what is past the canvas is cut off. At most twelve, with those cut off.
 class Element
 {
 public:
@@ -51,19 +51,22 @@ public:
     int Height() const { return m_size.height(); }
     const QSize &Size() const { return m_size; }
     int Count() const { return m_count; }
-    const Piece &At(int index) const { return m_pieces[static_cast<std::size_t>(index)]; }
+    const Piece &At(int index) const { return m_pieces[Index(index)]; }
+
+    /// The pieces that are not shown at all: they begin where nothing is drawn any more.
+    int LostCount() const { return m_lost; }
+    const Piece &Lost(int index) const { return m_pieces[m_pieces.size() - 1 - Index(index)]; }
 
     /// Appends columns of a strip. Columns outside the strip are blank.
     void Add(const GlyphStrip &strip, int sourceX, int width)
     {
         if (width <= 0)
             return;
-        const bool visible = !m_size.isEmpty() && sourceX >= 0 && sourceX < strip.Width()
-            && m_end < m_size.width() && m_count < static_cast<int>(m_pieces.size());
-        if (visible) {
+        if (!m_size.isEmpty() && sourceX >= 0 && sourceX < strip.Width() && HasRoom()) {
             const int present = qMin(width, strip.Width() - sourceX);
-            m_pieces[static_cast<std::size_t>(m_count++)] = {&strip, strip.Key(), sourceX, present,
-                                                             static_cast<int>(m_end)};
+            const bool visible = m_end < m_size.width();
+            m_pieces[visible ? Index(m_count++) : m_pieces.size() - 1 - Index(m_lost++)] = {
+                &strip, strip.Key(), sourceX, present, static_cast<int>(m_end)};
         }
         m_end += width;
     }
@@ -77,10 +80,12 @@ public:
     void ContinueAt(long long x)
     {
         m_end = x;
-        while (m_count > 0 && m_pieces[static_cast<std::size_t>(m_count - 1)].x >= x)
-            --m_count;
+        for (; m_count > 0 && m_pieces[Index(m_count - 1)].x >= x; --m_count) {
+            if (HasRoom())
+                m_pieces[m_pieces.size() - 1 - Index(m_lost++)] = m_pieces[Index(m_count - 1)];
+        }
         if (m_count > 0) {
-            Piece &last = m_pieces[static_cast<std::size_t>(m_count - 1)];
+            Piece &last = m_pieces[Index(m_count - 1)];
             last.width = static_cast<int>(qMin<long long>(last.width, x - last.x));
         }
     }
@@ -93,10 +98,14 @@ public:
     bool operator!=(const Element &other) const { return !(*this == other); }
 
 private:
+    static std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+    bool HasRoom() const { return m_count + m_lost < static_cast<int>(m_pieces.size()); }
+
     QSize m_size {0, 0};
     long long m_end = 0; ///< where the next piece begins
     int m_count = 0;
-    std::array<Piece, 12> m_pieces;
+    int m_lost = 0;
+    std::array<Piece, 12> m_pieces; ///< those shown from the first on, those lost from the last
 };
 
 } // namespace Lw::HNodeClock

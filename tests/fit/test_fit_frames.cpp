@@ -2,7 +2,9 @@
 // year: what is missing in a frame of the area is there in one of a larger area or canvas.
 //
 // CLOCK_FIT_SEED and CLOCK_FIT_COUNT choose the clocks, CLOCK_FIT_FIRST the number of the first.
+#include "clock_parts.h"
 #include "large_frames.h"
+#include "whole_texts.h"
 
 #include <QtTest>
 
@@ -37,7 +39,7 @@ class Proof
 {
 public:
     Proof(MadeUpClock &clock, const ClockFindings &findings, const Year &year)
-        : m_clock(clock), m_findings(findings), m_year(year), m_frames(clock)
+        : m_clock(clock), m_findings(findings), m_year(year), m_frames(clock), m_whole(clock.node)
     { }
 
     QStringList Run()
@@ -47,6 +49,8 @@ public:
             if (day % 7 == 0 && !m_frames.AreaIsAPart(utc))
                 Fault("the area's frame differs from the large one's", utc);
             HoldInstant(utc, day % 7 == 0);
+            if (day % 5 == 0)
+                HoldWhole(utc);
             // Noon and midnight of each zone are passed, and every second of the day in time.
             utc += kDay / 2 + (day % 2 == 0 ? 1741 : -1741) * kSecond;
         }
@@ -54,6 +58,8 @@ public:
             HoldCut(cut);
         for (const Overlap &overlap : m_findings.overlaps)
             HoldOverlap(overlap);
+        for (const Clipped &clipped : m_findings.clipped)
+            HoldClipped(clipped);
         return m_faults;
     }
 
@@ -103,6 +109,43 @@ private:
                 Fault(QStringLiteral("%1 px of the %2 covered").arg(covered).arg(NameOf(part)),
                       utc);
         }
+    }
+
+    // What a font draws of a text is there but for what was said to be clipped.
+    void HoldWhole(qint64 utc)
+    {
+        for (const Part part : PartsShown(m_clock.node)) {
+            if (!WholeTexts::Tells(part))
+                continue;
+            const int lost = LostAt(part, utc);
+            const auto said = [&](const Clipped &clipped) {
+                return clipped.part == part && utc >= clipped.first.utc;
+            };
+            const auto &all = m_findings.clipped;
+            if (lost < 0 || (lost > 0 && std::none_of(all.cbegin(), all.cend(), said)))
+                Fault(QStringLiteral("%1 px of the %2 are not in its images")
+                          .arg(lost)
+                          .arg(NameOf(part)),
+                      utc);
+        }
+    }
+
+    int LostAt(Part part, qint64 utc)
+    {
+        return m_whole.Ink(part, utc) - m_frames.Uncovered(part, utc);
+    }
+
+    void HoldClipped(const Clipped &clipped)
+    {
+        if (!WholeTexts::Tells(clipped.part))
+            return;
+        for (const qint64 utc : {clipped.first.utc, clipped.worst.utc}) {
+            if (LostAt(clipped.part, utc) <= 0)
+                Fault(NameOf(clipped.part) + " is not clipped", utc);
+        }
+        const qint64 before = clipped.first.utc - kSecond;
+        if (before >= m_year.begin && LostAt(clipped.part, before) > 0)
+            Fault(NameOf(clipped.part) + " is clipped before", before);
     }
 
     // Whether other ink may be over that of a part, or has its colour.
@@ -178,6 +221,7 @@ private:
     const ClockFindings &m_findings;
     const Year m_year;
     LargeFrames m_frames;
+    WholeTexts m_whole;
     QStringList m_faults;
 };
 

@@ -31,6 +31,20 @@ QByteArray Time(const QByteArray &size, const QByteArray &colour = "#ffffff")
         + size + "\" color=\"" + colour + "\"/>";
 }
 
+QByteArray Date(const QByteArray &format, const QByteArray &size)
+{
+    return "<title display=\"false\"/><week display=\"false\"/><time display=\"false\"/>\n"
+           "<date display=\"true\" fontName=\"DejaVu Sans\" color=\"#ffffff\" format=\""
+        + format + "\" fontSize=\"" + size + "\"/>";
+}
+
+QByteArray Title(const QByteArray &text)
+{
+    return "<date display=\"false\"/><week display=\"false\"/><time display=\"false\"/>\n"
+           "<title display=\"true\" fontName=\"DejaVu Sans\" color=\"#ffffff\" value=\""
+        + text + "\"/>";
+}
+
 // What lint says of a program, as a warning or a note.
 struct Finding
 {
@@ -46,6 +60,13 @@ const QString kNote = "note";
 const Finding kFindings[] = {
     {"cut", Wall(Digital(Time("60"))), kWarning, "in.xml:5: warning: the time is cut: "},
     {"size", Wall(Digital(Time("60"))), kWarning, " points would fit; all sizes"},
+    // The foot of the "J" is left of where the letter begins.
+    {"beyond its image", Wall(Digital(Date("3", "14"))), kWarning,
+     "the images of the date are too small for its ink: 2 pixels of \"Jan.\" lost at the left"},
+    {"wider than its format", Wall(Digital(Date("8", "12"))), kNote,
+     "1 pixel of \"4\" lost at the"},
+    {"a line of a title", Wall(Digital(Title("One&#10;Two"))), kWarning,
+     "the images of the title are too small for its ink: "},
     {"key colour", Wall(Digital(Time("20", "#010201"))), kWarning,
      "the colour of the time is the key colour #010201"},
     {"faint", Wall(Digital(Time("20", "#202020"))), kWarning,

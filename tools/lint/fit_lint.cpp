@@ -67,6 +67,7 @@ private:
             return; // nothing of it is on the screen, which is said of the wall
         const ClockFindings found = m_check.Check(Node(), visible);
         TellCuts(found.cuts, visible);
+        TellClipped(found.clipped, visible);
         for (const Overlap &overlap : found.overlaps)
             m_findings.Warn(SizePlace(overlap.upper), OverlapWords(overlap));
         for (const TooLarge &tooLarge : found.tooLarge)
@@ -93,6 +94,17 @@ private:
             m_findings.Warn(SizePlace(part),
                             CutWords(cuts.mid(begin, end - begin), points, points < 0 ? 0 : factor),
                             points > 0 ? QString::number(points) : QString());
+        }
+    }
+
+    // A single row or column of pixels is hardly seen.
+    void TellClipped(const QVector<Clipped> &all, const QRect &visible)
+    {
+        for (const Clipped &clipped : all) {
+            const int points = SizeWithAllInk(m_check, Node(), clipped.part, visible);
+            m_findings.Add(
+                {SizePlace(clipped.part), clipped.pixels > 1 ? Severity::Warning : Severity::Note,
+                 ClippedWords(clipped, points), points > 0 ? QString::number(points) : QString()});
         }
     }
 

@@ -39,10 +39,19 @@ QString Pixels(int count)
     return count == 1 ? QStringLiteral("1 pixel") : QStringLiteral("%1 pixels").arg(count);
 }
 
+// Titles may have line breaks, and be of any length.
+QString QuotedText(const QString &text)
+{
+    constexpr int kLongest = 60;
+    const QString line = text.simplified();
+    return QStringLiteral("\"%1\"").arg(
+        line.size() > kLongest ? line.left(kLongest) + QStringLiteral("...") : line);
+}
+
 // ", as "Wednesday""; nothing for parts without a text.
 QString As(const QString &text)
 {
-    return text.isEmpty() ? QString() : QStringLiteral(" as \"%1\"").arg(text);
+    return text.isEmpty() ? QString() : QStringLiteral(" as %1").arg(QuotedText(text));
 }
 
 QString ColourText(QRgb colour)
@@ -110,6 +119,15 @@ QString CutWords(const QVector<Cut> &cuts, int points, double factor)
              As(first.text), SizeWords(part, points, factor));
 }
 
+QString ClippedWords(const Clipped &clipped, int points)
+{
+    return QStringLiteral("the images of the %1 are too small for its ink: %2 of %3 lost at the "
+                          "%4; first %5%6")
+        .arg(NameOf(clipped.part), Pixels(clipped.pixels), QuotedText(clipped.worst.text),
+             SideName(clipped.side), InstantText(clipped.first.utc),
+             points > 0 ? QStringLiteral("; none at %1 points").arg(points) : QString());
+}
+
 QString OverlapWords(const Overlap &overlap)
 {
     if (overlap.lower == overlap.upper)
@@ -163,7 +181,7 @@ QString MissingWords(const MissingCharacters &missing)
 
 QString TooLargeWords(const TooLarge &tooLarge)
 {
-    return QStringLiteral("%1 not drawn: at %2 points its image would be too large")
+    return QStringLiteral("%1 not drawn: at %2 points its image would be empty or too large")
         .arg(Subject(tooLarge.part))
         .arg(tooLarge.points);
 }

@@ -11,6 +11,8 @@ namespace ClockTool {
 /// All cuts of one part, and what would fit: the largest size of the part, 0 where none was found,
 /// and the common factor of all sizes, likewise.
 QString CutWords(const QVector<ClockFit::Cut> &cuts, int points, double factor);
+/// Points are of a size at which nothing is lost; 0 for none.
+QString ClippedWords(const ClockFit::Clipped &clipped, int points);
 QString OverlapWords(const ClockFit::Overlap &overlap);
 QString FaintWords(const ClockFit::Faint &faint);
 QString SameHandsWords(const ClockFit::SameHands &hands);
