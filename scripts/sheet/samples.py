@@ -71,7 +71,7 @@ def dial_texts(wall):
         ("lunar, weekday", {**lunar, **week}),
         ("lunar, date, gap 5", {**lunar, **date, **gap}),
         ("three rows", {**lunar, **date, **week}),
-        ("three rows, swapped", {**lunar, **date, **week, **swapped}),
+        ("three rows, swapped", {**lunar, **date, **week, **swapped, "AnalogDateFSize": 6}),
         ("everything", {**top, **badge, **lunar, **date, **week}),
         ("numerals, weekday", {**week, "AnalogWeekType": 2, "HourScaleType": 3}),
     )
@@ -80,7 +80,7 @@ def dial_texts(wall):
     wall.heading("Sizes and shapes of dials")
     sides = (16, 24, 32, 48, 64, 80, 82)
     wall.samples(*((f"{side} px", side, side, analog()) for side in sides))
-    wall.samples(*((f"{width} x {height}", width, height, analog(Analog_Date_d=1))
+    wall.samples(*((f"{width} x {height}", width, height, analog(Analog_Week_d=1))
                    for width, height in ((128, 64), (96, 128), (192, 128))))
 
 
@@ -99,7 +99,7 @@ def digital_formats(wall):
               "day, month by name", "with labels", "without year", "Persian", "year-month-day")
     wall.samples(*((f"{code} {name}", 128, 24,
                     digital(Digital_Date_d=1, DigitalDateType=code,
-                            **points("DigitalDate", CHINESE if code in (5, 6) else LATIN, 11,
+                            **points("DigitalDate", CHINESE if code in (5, 6) else LATIN, 12,
                                      BLUE)))
                    for code, name in enumerate(orders)))
     wall.heading("Times")
