@@ -334,7 +334,7 @@ void TestDaylightRules::ShiftFollowsTextsAndYears()
     QString sameText = kNorthStart;
     sameText.detach();
     QCOMPARE(saving.ShiftSeconds(sameText, kNorthEnd, june), 3600);
-    // The boundary lies on 29 March in 2026, on 28 March in 2027, on 30 March in 2025.
+    // The boundary is on 29 March in 2026, on 28 March in 2027, on 30 March in 2025.
     QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, At("2027-03-28T02:00:00")), 3600);
     QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, At("2026-03-28T02:00:00")), 0);
     QCOMPARE(saving.ShiftSeconds(kNorthStart, kNorthEnd, At("2025-03-29T02:00:00")), 0);

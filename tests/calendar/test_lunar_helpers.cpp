@@ -173,7 +173,7 @@ void TestLunarHelpers::MonthsOutsideYear()
 {
     for (const int month : {0, 13, -1, -16, 17, kIntMax, kIntMin})
         QCOMPARE(get_lunar_month_total(2017, month), 29);
-    QCOMPARE(get_leap_month(2014), 9); // what stands beside the last month is no thirteenth
+    QCOMPARE(get_leap_month(2014), 9); // the number beside the last month is not a thirteenth
     QCOMPARE(get_lunar_month_total(2014, 13), 29);
 }
 

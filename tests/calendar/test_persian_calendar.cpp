@@ -146,7 +146,7 @@ void TestPersianCalendar::EveryDayByEquinox()
     }
 }
 
-// Qt has this calendar since 5.14; with an older one the sweep by equinoxes stands alone.
+// Qt has this calendar since 5.14; with an older one there is only the sweep by equinoxes.
 void TestPersianCalendar::EveryDayByQt()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)

@@ -216,7 +216,7 @@ void TestDisplayedTime::DaylightSaving()
     QCOMPARE(Reading(), Utc(reading));
 }
 
-// Boundaries are readings of the clock's zone, wherever the device stands.
+// Boundaries are in the clock's zone, wherever the device is.
 void TestDisplayedTime::DaylightSavingOfOtherDeviceZones()
 {
     SetText("TimeZone", "+01:00");

@@ -1,4 +1,4 @@
-// How much memory glyph images take: bounded for a clock and for the process, whatever the files.
+// How much memory glyph images take: bounded for a clock and for the process.
 #include "tiny_gif.h"
 
 #include "clock_node.h"

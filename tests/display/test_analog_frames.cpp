@@ -234,7 +234,7 @@ void TestAnalogFrames::TextsOneFrameLate()
 // The device's date counts, not the clock's: in China that is at eight in the morning where the
 // device runs on UTC. The clock's own midnight redraws the dial by its AM.
 // With one row taking part, date, week and lunar date all get their places, so that another one
-// drawn before the next layout stands where it would stand alone.
+// drawn before the next layout is where it would be alone.
 void TestAnalogFrames::SingleRowPlacesAllThree()
 {
     ChosenTime::Set("2024-03-05T13:07:42");
@@ -256,7 +256,7 @@ void TestAnalogFrames::SingleRowPlacesAllThree()
     showOnly("Analog_Date_d", 1);
     drawer.DrawAnalogText();
     drawer.DrawAnalogClock();
-    clock.Set("ClockType", 3); // gives the frame as it stands
+    clock.Set("ClockType", 3); // returns the frame as it is
     QCOMPARE(drawer.DrawClockDisplayImage(), expected);
 }
 

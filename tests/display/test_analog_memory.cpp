@@ -251,7 +251,7 @@ void TestAnalogMemory::ForeignBackgroundWriteForgetsAll()
     QImage background = Filled(QSize(20, 10), kRed);
     QImage frame = Filled(QSize(20, 10), kBlack);
     memory.Restore(frame, background);
-    background.setPixel(2, 3, kGreen); // nobody says so
+    background.setPixel(2, 3, kGreen); // not reported as changed
     const qint64 before = background.cacheKey();
     background.setPixel(9, 9, kGreen);
     memory.BackgroundChanged(before, background, QRegion(9, 9, 1, 1));

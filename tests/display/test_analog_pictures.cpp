@@ -1,5 +1,5 @@
 // The analog clock as pictures: every mark, numeral and hand at the sizes where they change, and
-// whole clocks. Variants of one size stand side by side in one reference picture.
+// whole clocks. Variants of one size are side by side in one reference picture.
 #include "chosen_time.h"
 #include "clock_under_test.h"
 #include "reference_picture.h"

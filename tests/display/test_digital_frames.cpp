@@ -144,7 +144,7 @@ void TestDigitalFrames::SecondsAreDrawnAsThePlainWay_data()
     QTest::newRow("midnight on a line") << "2024-03-05T23:59:50" << 30 << 0 << 1 << 3;
     QTest::newRow("midnight, rows over each other") << "2024-03-08T23:59:40" << 90 << 1 << 0 << -9;
     QTest::newRow("line over itself") << "2024-03-05T12:59:50" << 20 << 1 << 1 << -30;
-    // Of five the third stands in the middle, however far away the others are.
+    // Of five the third is in the middle, however far away the others are.
     QTest::newRow("line far beyond the area") << "2024-03-05T12:59:50" << 2 << 0 << 1 << 20000000;
     QTest::newRow("line far over itself") << "2024-03-05T12:59:50" << 2 << 0 << 1 << -20000000;
 }
@@ -378,7 +378,7 @@ void TestDigitalFrames::HelpersFollowTheFlags()
     clock.Set("DigitalSpace", 11);
     const QImage expected = plain.Frame(Fields(instant));
     clock.Set("DigitalSpace", 5);
-    clock.Set("ClockType", 3); // returns the frame as it stands
+    clock.Set("ClockType", 3); // returns the frame as it is
     QCOMPARE(drawer.DrawClockDisplayImage(), expected);
 }
 

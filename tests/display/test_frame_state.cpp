@@ -474,7 +474,7 @@ void TestFrameState::SwitchedThereAndBack()
     }
 }
 
-// Images of another type, or none: whatever is drawn, every area keeps being drawn.
+// Images of another type, or none: every area is still drawn.
 void TestFrameState::SwitchedWithoutNewGlyphs()
 {
     for (const int first : kTypes) {

@@ -1,4 +1,4 @@
-// The picture clock. Its pictures stand beside the executable's folder, so the program runs a copy
+// The picture clock. Its pictures are beside the executable's folder, so the program runs a copy
 // of itself in a folder of its own, and that copy makes the pictures it needs.
 #include "chosen_time.h"
 #include "clock_under_test.h"

@@ -1,4 +1,4 @@
-// Where rows stand, by number. Heights: top text 10, date 12, week 14, time 20, lunar 16.
+// The y of every row. Heights: top text 10, date 12, week 14, time 20, lunar 16.
 #include "display/row_layout.h"
 
 #include <QTest>

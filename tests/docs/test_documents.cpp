@@ -32,7 +32,7 @@ QStringList Blocks(const QString &document, const QString &language)
     return blocks;
 }
 
-// The words that stand as code in documents: in fenced blocks and between backquotes.
+// The words that documents show as code: in fenced blocks and between backquotes.
 QSet<QString> CodeWords(const QStringList &documents)
 {
     const QRegularExpression code("```.*?```|`[^`]+`",
@@ -69,7 +69,7 @@ QString PlainManual(const QString &program)
     return page.replace("\\-", "-").replace("\\&", "").replace("\\e", "\\");
 }
 
-// What stands under a title, up to the next one.
+// The text under a title, up to the next one.
 QString SectionOf(const QString &page, const QString &title)
 {
     const QString rest = page.section(title, 1);
@@ -337,8 +337,8 @@ void TestDocuments::ManualsHoldTheHelp_data()
     }
 }
 
-// Every line of the help stands in the page, in the section of its heading; the columns of a table
-// may stand in lines of their own.
+// Every line of the help is in the page, in the section of its heading; the columns of a table may
+// be in lines of their own.
 void TestDocuments::ManualsHoldTheHelp()
 {
     QFETCH(QString, program);

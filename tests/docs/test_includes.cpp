@@ -11,7 +11,7 @@
 
 namespace {
 
-// Paths within the tree, and what stands in them.
+// Paths within the tree, and what these files contain.
 using Sources = QMap<QString, QString>;
 
 struct Room
@@ -110,7 +110,7 @@ QStringList Faults(const Sources &sources)
     for (auto source = sources.begin(); source != sources.end(); ++source) {
         const int from = FloorOf(source.key());
         if (from < 0)
-            faults.append(source.key() + " stands in no room");
+            faults.append(source.key() + " is in no room");
         for (auto match = form.globalMatch(source.value()); match.hasNext() && from >= 0;) {
             const auto include = match.next();
             const QString name = include.captured(2);
@@ -190,8 +190,7 @@ constexpr IncludeCase kIncludes[] = {
      "program/a.cpp includes clock_plugin/clock_attributes.h"},
     {"nowhere", "program/a.cpp", "\"nowhere.h\"",
      "program/a.cpp includes nowhere.h, which is not in the tree"},
-    {"in no room", "clock_plugin/attic.cpp", "<QString>",
-     "clock_plugin/attic.cpp stands in no room"},
+    {"in no room", "clock_plugin/attic.cpp", "<QString>", "clock_plugin/attic.cpp is in no room"},
 };
 
 } // namespace

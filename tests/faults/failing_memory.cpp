@@ -31,7 +31,7 @@ void *NoMemory()
 
 } // namespace
 
-// The C library calls whatever allocator the program brings, and offers its own by these names.
+// The C library calls the allocator that the program brings, and offers its own by these names.
 extern "C" {
 void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t count, std::size_t size);

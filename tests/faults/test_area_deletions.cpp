@@ -1,5 +1,5 @@
 // An area of the player, with a clock of the loaded plugin, deleted at every step of its life, or
-// left without its node. Another area beside it plays on, and the same place is taken anew.
+// left without its node. Another area beside it plays on, and its place is used again.
 #include "area.h"
 #include "plugins.h"
 
@@ -31,7 +31,7 @@ enum Step {
     LaterPicture,
     Between,
     Ticking,
-    RedrawDue, // its node has changed, and its images will be made again
+    RedrawDue, // its node has changed: its images will be regenerated
     StepCount
 };
 const char *const kSteps[] = {"made",    "first picture", "started",   "later picture",

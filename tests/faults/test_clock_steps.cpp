@@ -100,7 +100,7 @@ void TestClockSteps::ShowsWhatANewClockShows_data()
     }
 }
 
-// The drawer has played before the step; whatever it kept from then must not be seen. The frame of
+// The drawer has played before the step; nothing that it kept may be seen. The frame of
 // the step itself and the next are compared, and those after stepping back again.
 void TestClockSteps::ShowsWhatANewClockShows()
 {

@@ -313,8 +313,8 @@ void AddDisappearances()
     }
 }
 
-/// The directory is gone in one of those ways. What is locked is so for nobody: while it lives, the
-/// test has no privileges then.
+/// The directory is gone in one of those ways. A locked one is locked for users without privileges:
+/// the test drops its own meanwhile.
 class Disappearance
 {
 public:

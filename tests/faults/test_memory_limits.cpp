@@ -89,7 +89,7 @@ void TestMemoryLimits::initTestCase()
     pictureplayer::SetTimeScale(0);
 }
 
-// Over noon, when an analog dial is drawn anew.
+// Over noon, when an analog dial is redrawn.
 void TestMemoryLimits::EveryRequestFailsOnce()
 {
     QFETCH(int, kind);
@@ -167,8 +167,8 @@ void TestMemoryLimits::MinuteHandOfALargeClock()
     }
 }
 
-// The hour hand lies on the background for its minute; where there was no memory for what lies
-// under it, nothing of it stays behind when it moves.
+// The hour hand is painted on the background for its minute; where there was no memory for the
+// pixels below it, nothing of it remains when it moves.
 void TestMemoryLimits::HourHandOfALargePictureClock()
 {
     const auto clock = FullClock(PictureClock, {2000, 2000});
@@ -192,7 +192,7 @@ void TestMemoryLimits::HourHandOfALargePictureClock()
 }
 
 // At noon there is no memory for a new dial, while the frames are there: each second has its own
-// hands and nobody else's.
+// hands and no others.
 void TestMemoryLimits::HandsWithoutADial()
 {
     const auto clock = FullClock(AnalogClock, kArea);
@@ -291,7 +291,7 @@ void TestMemoryLimits::PixmapsOfElements()
     QVERIFY(noTime);
 }
 
-// What cannot be drawn is not written; a file that stands there stays.
+// What cannot be drawn is not written; an existing file stays.
 void TestMemoryLimits::GlyphsMadeWithoutMemory()
 {
     const auto clock = FullClock(DigitalClock);
@@ -370,7 +370,7 @@ void TestMemoryLimits::PlayerUnderALimit_data()
         << kGlyphsMissing;
 }
 
-// The real player in 300 MiB of addresses: beside an area that fits stands one that does not.
+// The real player in 300 MiB of addresses: one area fits, the one beside it does not.
 void TestMemoryLimits::PlayerUnderALimit()
 {
     QFETCH(QString, element);

@@ -22,7 +22,7 @@ public:
     int Shown(ClockFit::Part part, qint64 utc);
     /// How many pixels of a part there would be if no other part were drawn.
     int Uncovered(ClockFit::Part part, qint64 utc);
-    /// Whether the area's own frame is what lies within the area in the large one.
+    /// Whether the area's own frame is what the large one has within the area.
     bool AreaIsAPart(qint64 utc);
 
     QRgb ColourOf(ClockFit::Part part);

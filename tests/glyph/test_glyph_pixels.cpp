@@ -198,7 +198,7 @@ private Q_SLOTS:
         }
     }
 
-    // The empty family is the application's default font, not whatever an empty name matches.
+    // The empty family is the application's default font, not what an empty name matches.
     void EmptyFamilyIsTheDefaultFont()
     {
         const QFont before = QGuiApplication::font();

@@ -176,7 +176,7 @@ private Q_SLOTS:
         QVERIFY(GlyphKey(static_cast<Glyph>(glyph), number).isEmpty());
     }
 
-    // Every text of a set as it is drawn, by key; the common ones stand in the sets of all clocks.
+    // Every text of a set as it is drawn, by key; the common ones are in the sets of all clocks.
     void Texts_data()
     {
         QTest::addColumn<int>("clockType");

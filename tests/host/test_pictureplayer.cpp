@@ -268,7 +268,7 @@ void TestPicturePlayer::ExtremeWaits_data()
     QTest::newRow("largest") << std::numeric_limits<int>::max() << 1.0 << 0;
     QTest::newRow("largest, slowed down") << std::numeric_limits<int>::max() << 1e-9 << 0;
     QTest::newRow("scale too small for a number") << 1 << 1e-320 << 0;
-    QTest::newRow("negative scale waits for nothing") << 1 << -1.0 << 0;
+    QTest::newRow("negative scale does not wait") << 1 << -1.0 << 0;
 }
 
 void TestPicturePlayer::ExtremeWaits()

@@ -297,7 +297,7 @@ private Q_SLOTS:
             [](HClockNode &node) { node.SetAttribute(QStringLiteral("AnalogSpace"), 3, false); },
             0);
     }
-    // It is the first that stands behind the host's part of a node, in memory that was not clear.
+    // It is the first member after the host's part of a node, in memory that was not zero.
     void OwnBoolean()
     {
         using Operation = std::function<void(HClockNode &)>;

@@ -1,4 +1,4 @@
-// The export of one glyph image: whatever stands at its source and its destination, no image that
+// The export of one glyph image: whatever is at its source and its destination, no image that
 // exists is lost, and record and lists are made all the same.
 #include "file_size_limit.h"
 #include "node_test_support.h"

@@ -1,7 +1,7 @@
 // The node in a host that does with colours and words as it likes: which of the host's operations
 // the node asks for each of them.
 //
-// The functions below take the place of the stand-in host's: a program's own definitions go before
+// The functions below replace the stand-in host's: a program's own definitions take precedence over
 // those of its libraries.
 #include "node_test_support.h"
 

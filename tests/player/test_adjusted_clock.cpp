@@ -1,4 +1,4 @@
-// A clock whose program adjusts it shows the adjusted time, whatever the language of the device.
+// A clock whose program adjusts it shows the adjusted time, in every language of the device.
 #include "player_process.h"
 
 #include <QFile>

@@ -505,7 +505,7 @@ void TestClockPlayer::UnwritableOutput()
     QVERIFY2(blocked.errors.contains(file + "/out"), qPrintable(blocked.errors));
     QCOMPARE(Play({program, "--output", file}).exitCode, 1);
     QCOMPARE(QFileInfo(file).size(), 10);
-    // A directory stands where the second frame belongs: the first one is written.
+    // A directory is where the second frame belongs: the first one is written.
     QVERIFY(QDir(m_directory->path()).mkpath("out/frame_0002.png"));
     const PlayerRun second = Play({program});
     QCOMPARE(second.exitCode, 1);

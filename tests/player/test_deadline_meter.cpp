@@ -96,7 +96,7 @@ void TestDeadlineMeter::OnlyADayIsKept()
 void TestDeadlineMeter::OnTheSecond()
 {
     DeadlineMeter meter;
-    meter.Saw(FrameAt(-300)); // the first one is on nobody's second
+    meter.Saw(FrameAt(-300)); // the first one is not due at a second
     meter.Saw(FrameAt(0));
     meter.Saw(FrameAt(1000));
     QCOMPARE(meter.Frames(), 3);
@@ -135,7 +135,7 @@ void TestDeadlineMeter::RepeatedSeconds()
     DeadlineMeter meter;
     meter.Saw(FrameAt(0));
     meter.Saw(FrameAt(1000));
-    meter.Saw(FrameAt(1500)); // drawn again, for whatever reason
+    meter.Saw(FrameAt(1500)); // drawn again, for any reason
     meter.Saw(FrameAt(2000));
     QCOMPARE(meter.Frames(), 4);
     QCOMPARE(meter.Lateness().Maximum(), 5.0);

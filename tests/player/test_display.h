@@ -21,7 +21,7 @@ public:
     bool Start()
     {
         // The server finds a free number itself, and names it once it can be reached. It must not
-        // begin anew, out of reach meanwhile, whenever its last client has gone.
+        // restart, out of reach meanwhile, when its last client has gone.
         m_server.start("Xvfb",
                        {"-displayfd", "1", "-noreset", "-screen", "0", "1280x800x24", "-nolisten",
                         "tcp", "-fbdir", m_directory.path()});

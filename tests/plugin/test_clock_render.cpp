@@ -69,7 +69,7 @@ public:
 };
 
 /// A renderer whose Stop goes on to something else, after which it does not touch itself: it may
-/// be gone, and its memory is then spoilt, so that whoever goes on with it is seen.
+/// be gone, and its memory is then overwritten, so that any later use is seen.
 class StoppingRender : public HClockRender
 {
 public:
@@ -310,7 +310,7 @@ void TestClockRender::FrameHasOneReading()
             [&whileShown] { whileShown = Lw::HNodeClock::UtcMilliseconds(); });
     m_render->PlayNext();
     QCOMPARE(delays.at(0).at(0).toInt(), 1);
-    // One reading is the frame's; whoever is shown it, and may stay for long, reads anew.
+    // The frame reads the time once, the receiver of the frame again.
     QCOMPARE(g_readings, 2);
     QCOMPARE(whileShown, qint64(kNoon + 1000));
 }
@@ -518,7 +518,8 @@ void TestClockRender::RendererDeletedWithinATick()
     QVERIFY(!Player());
 }
 
-// The record of a start without a node has no place: that of a point and a size nobody set.
+// The record of a start without a node has no place: that of a point and a size that were never
+// set.
 void TestClockRender::NodeDeletedByStop()
 {
     StoppingRender render(m_node.get());
@@ -601,8 +602,8 @@ void TestClockRender::RendererGoneAsTheSizeIsAsked()
     QCOMPARE(m_messages->Lines(), QStringList());
 }
 
-// The frame is counted after it was shown and before the delay is told: at the tenth, whoever is
-// told the delay finds the clock running steadily.
+// The frame is counted after it was shown and before the delay is told: at the tenth, the receiver of
+// the delay finds the clock running steadily.
 void TestClockRender::StateWithinTheFrames()
 {
     m_render->Start(kId, 0); // shows the first

@@ -1,4 +1,4 @@
-// Files that travel with a program, and what may stand under their names instead.
+// Files that travel with a program, and what may be under their names instead.
 #include "carried_files.h"
 
 #include "hnode.h"

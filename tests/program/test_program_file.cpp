@@ -77,7 +77,7 @@ const QVector<BadProgram> kBrokenTexts {
      "p.xml:2: <clock> follows the end of the outermost element"},
     {"text at the end", Screen(kArea) + "\nend", "p.xml:2: there is text after"},
     {"comment without an end", "<program>\n<!-- ", "p.xml:2: a comment is never closed"},
-    {"encoding that nobody knows", "<?xml version='1.0' encoding='klingon'?><program/>",
+    {"unknown encoding", "<?xml version='1.0' encoding='klingon'?><program/>",
      "p.xml:1: the encoding \"klingon\" is not known"},
     {"bytes of another encoding", "<program>\n\xff\xfe</program>",
      "p.xml:2: these bytes are not a text in UTF-8"},

@@ -17,7 +17,7 @@ public:
     const QVector<qint64> &Frames() const { return m_frames; } ///< ends with the last one added
 
 private:
-    /// The dial is drawn anew when one of these changes.
+    /// The dial is redrawn when one of these changes.
     struct Dial
     {
         qint64 deviceDay; ///< the device's own zone is UTC

@@ -1,4 +1,4 @@
-// Where elements and attributes stand, held against an XML parser; and texts that are no XML.
+// Positions of elements and attributes, compared with an XML parser; and texts that are not XML.
 #include "sample_programs.h"
 
 #include "text/xml_positions.h"

@@ -1,6 +1,6 @@
 // Comparison of drawn pictures with reference pictures in the tree.
 //
-// The references of a test stand in the folder "reference" beside it, as PNG files. A picture that
+// The references of a test are in the folder "reference" beside it, as PNG files. A picture that
 // differs is written, with a picture of the differing pixels, into the folder "difference" of the
 // test's build directory, and the test fails naming them. With CLOCK_ACCEPT_REFERENCES=1 in the
 // environment the references are rewritten instead: look at them before committing.
@@ -15,7 +15,7 @@
 
 namespace ReferencePicture {
 
-/// Where the references stand, and where the pictures of a failure go.
+/// Where the references are, and where the pictures of a failure go.
 struct Folders
 {
     QString references = QStringLiteral(CLOCK_REFERENCE_DIR);

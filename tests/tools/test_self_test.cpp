@@ -88,7 +88,7 @@ void TestSelfTest::EverythingIsWell()
     QVERIFY(IsEmulated() || timer.elapsed() < 5000);
 }
 
-// There nobody can make a folder.
+// No folder can be made there.
 void TestSelfTest::UnwritableFolder()
 {
     qputenv("TMPDIR", "/proc");

@@ -314,7 +314,7 @@ void TestToolExport::RefusesToReplaceTheProgram()
     QCOMPARE(ReadText(Path("out/program.xml")), program);
 }
 
-// A directory stands where the list would be written: the images are there, the rest fails.
+// A directory is where the list would be written: the images are there, the rest fails.
 // A wall whose images are wrong is no success.
 void TestToolExport::FaultyImagesAreReported_data()
 {

@@ -1,4 +1,4 @@
-// Files that nobody wrote in good faith: every command ends in time, with a code of its own.
+// Hostile files: every command ends in time, with a code of its own.
 #include "tool_process.h"
 
 #include <QElapsedTimer>

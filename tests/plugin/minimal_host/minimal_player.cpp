@@ -1,4 +1,4 @@
-// A player without a clock: it writes down what it is given, and whoever owns the renderer says
+// A player without a clock: it records what it is given, and the owner of the renderer says
 // when the next frame is due.
 #include "minimal_host.h"
 

@@ -263,7 +263,7 @@ void TestMinimalHost::WhatThePlayerIsAsked()
     QCOMPARE(calls.size(), 3);
 }
 
-// A node that goes as the player is stopped is nobody's to ask about.
+// A node that is deleted as the player is stopped is not asked again.
 void TestMinimalHost::NodeGoneByStopping()
 {
     std::unique_ptr<Lw::HNode> node = MakeNode(kAnalog);

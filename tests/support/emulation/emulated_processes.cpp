@@ -3,7 +3,7 @@
 // Qt starts a process with a descriptor of its own where the kernel offers that, and asks the
 // kernel whether it does. The emulator hands the question on but not the request, so that Qt takes
 // -1 for the process it has started, and stops it: kill(-1), the end of everything that the user
-// runs. Here the question is answered as the emulator should, and nobody's kill has that meaning.
+// runs. Here the question is answered as the emulator should, and no other kill means that.
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
