@@ -4,6 +4,7 @@
 #include "compose/element_composer.h"
 #include "compose/picture_file.h"
 #include "lettered_glyphs.h"
+#include "swapped_file.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>
@@ -12,11 +13,6 @@
 #include <QImageWriter>
 #include <QProcess>
 #include <QTest>
-
-#include <algorithm>
-#include <atomic>
-#include <cstdio>
-#include <thread>
 
 #include <sys/stat.h>
 
@@ -218,37 +214,16 @@ void TestGlyphLoading::PipeDoesNotBlock()
     QVERIFY(ReadImageFile("/proc/self/pagemap").isNull());
 }
 
-// A file and a pipe in turn under one name, while it is read. A reader that opened the pipe as it
-// opens a file would wait for ever.
 void TestGlyphLoading::SwappedForAPipe()
 {
-    const QByteArray name = QFile::encodeName(m_directory.filePath("swapped.png"));
+    const QString path = m_directory.filePath("swapped.png");
     QImage image(1, 1, QImage::Format_Mono);
     image.fill(0);
     QByteArray picture;
     QBuffer buffer(&picture);
     QVERIFY(buffer.open(QBuffer::WriteOnly) && image.save(&buffer, "PNG"));
-    std::atomic<bool> ends {false};
-    std::thread swapper([&] {
-        const QByteArray next = name + ".next";
-        while (!ends) {
-            if (mkfifo(next.constData(), 0600) == 0)
-                std::rename(next.constData(), name.constData());
-            QFile file(QFile::decodeName(next));
-            if (file.open(QFile::WriteOnly) && file.write(picture) == picture.size())
-                file.close();
-            std::rename(next.constData(), name.constData());
-        }
-    });
-    int right = 0;
-    int wrong = 0;
-    QElapsedTimer timer;
-    timer.start();
-    while (std::min(right, wrong) < 5000 && !timer.hasExpired(5000))
-        ++(!ReadImageFile(QFile::decodeName(name)).isNull() ? right : wrong);
-    ends = true;
-    swapper.join();
-    QVERIFY(right >= 200 && wrong >= 200);
+    const SwappedFile swapped(path, picture);
+    QVERIFY(swapped.BothAreMet(2000, 5000, [&path] { return !ReadImageFile(path).isNull(); }));
 }
 
 void TestGlyphLoading::TooLargeIsNotDecoded()

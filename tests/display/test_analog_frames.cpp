@@ -3,6 +3,7 @@
 #include "chosen_time.h"
 #include "clock_under_test.h"
 #include "messages.h"
+#include "odd_areas.h"
 #include "plain_clocks.h"
 
 #include "display/draw_display_image.h"
@@ -74,7 +75,7 @@ private Q_SLOTS:
     void HandTypesAtOnce();
     void HandTables_data();
     void HandTables();
-    void OddAreas_data();
+    void OddAreas_data() { AddOddAreas(); }
     void OddAreas();
     void OddTypes();
     void MissingAndOddGlyphs_data();
@@ -356,22 +357,6 @@ void TestAnalogFrames::HandTables()
     }
 }
 
-void TestAnalogFrames::OddAreas_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("drawn");
-    QTest::newRow("nothing") << QSize(0, 0) << false;
-    QTest::newRow("no layout yet") << QSize(-1, -1) << false;
-    QTest::newRow("no height") << QSize(100, 0) << false;
-    QTest::newRow("negative") << QSize(-100, -50) << false;
-    QTest::newRow("one pixel") << QSize(1, 1) << true;
-    QTest::newRow("two pixels") << QSize(2, 2) << true;
-    QTest::newRow("a line") << QSize(10000, 3) << true;
-    QTest::newRow("a column") << QSize(1, 9000) << true;
-    QTest::newRow("beyond painting") << QSize(40000, 10) << false;
-    QTest::newRow("beyond memory") << QSize(2000000000, 2000000000) << false;
-}
-
 void TestAnalogFrames::OddAreas()
 {
     QFETCH(QSize, size);
@@ -383,12 +368,7 @@ void TestAnalogFrames::OddAreas()
     clock.MakeGlyphs();
     DrawDisplayImage drawer(&clock.node);
     const CollectedMessages messages;
-    for (int i = 0; i < 3; ++i, ChosenTime::Advance(1000)) {
-        const QImage frame = drawer.DrawClockDisplayImage();
-        QCOMPARE(frame.isNull(), !drawn);
-        if (drawn)
-            QCOMPARE(frame.size(), size);
-    }
+    CheckThreeFrames(drawer, size, drawn);
     QCOMPARE(messages.Lines(), QStringList());
 }
 

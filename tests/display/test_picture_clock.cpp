@@ -3,6 +3,7 @@
 #include "chosen_time.h"
 #include "clock_under_test.h"
 #include "messages.h"
+#include "odd_areas.h"
 #include "plain_clocks.h"
 #include "start_program.h"
 
@@ -93,7 +94,7 @@ private Q_SLOTS:
     void OddFiles();
     void OddStyleNumbers_data();
     void OddStyleNumbers();
-    void OddAreas_data();
+    void OddAreas_data() { AddOddAreas(); }
     void OddAreas();
     void SizeChangedBetweenCalls();
     void AnalogDialIsRedrawnAfterwards();
@@ -346,18 +347,6 @@ void TestPictureClock::OddStyleNumbers()
              Plain(QSize(20, 20), Qt::yellow));
 }
 
-void TestPictureClock::OddAreas_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("drawn");
-    QTest::newRow("nothing") << QSize(0, 0) << false;
-    QTest::newRow("no layout yet") << QSize(-1, -1) << false;
-    QTest::newRow("no width") << QSize(0, 50) << false;
-    QTest::newRow("one pixel") << QSize(1, 1) << true;
-    QTest::newRow("a line") << QSize(10000, 3) << true;
-    QTest::newRow("beyond painting") << QSize(10, 40000) << false;
-}
-
 void TestPictureClock::OddAreas()
 {
     QFETCH(QSize, size);
@@ -367,12 +356,7 @@ void TestPictureClock::OddAreas()
     DrawDisplayImage drawer(&clock.node);
     const CollectedMessages messages;
     drawer.InitClockTypePixmap();
-    for (int i = 0; i < 3; ++i, ChosenTime::Advance(1000)) {
-        const QImage frame = drawer.DrawClockDisplayImage();
-        QCOMPARE(frame.isNull(), !drawn);
-        if (drawn)
-            QCOMPARE(frame.size(), size);
-    }
+    CheckThreeFrames(drawer, size, drawn);
     QCOMPARE(messages.Lines(), QStringList());
 }
 

@@ -85,7 +85,7 @@ void TestAreaDeletions::initTestCase()
     QVERIFY(m_plugin);
     QVERIFY(!SetTimeSource([] { return g_now; }));
     Lw::HAppConfig::SetClockOutputPath(m_files.path());
-    Lw::pictureplayer::SetTimeScale(200);
+    Lw::pictureplayer::SetTimeScale(1000); // a second takes a millisecond
 }
 
 std::unique_ptr<Area> TestAreaDeletions::NewArea(unsigned int identifier, int kind)
@@ -123,13 +123,13 @@ void TestAreaDeletions::Live()
     PlaySecond();
     At(Between);
     PlaySecond();
-    QTest::qWait(10);
+    QTest::qWait(3);
     At(Ticking);
-    QTest::qWait(10);
+    QTest::qWait(3);
     if (m_area && m_area->Node())
         QVERIFY(QMetaObject::invokeMethod(m_area->Node(), "ReDrawSourceImage"));
     At(RedrawDue);
-    QTest::qWait(10);
+    QTest::qWait(3);
     PlaySecond();
     if (m_area)
         m_area->disconnect(this);

@@ -139,7 +139,7 @@ void Life::Lead()
         m_render->Remove();
     At(Removed);
     Play();
-    QTest::qWait(10);
+    QTest::qWait(3);
 }
 
 void Life::MakeGlyphs()
@@ -168,9 +168,9 @@ void Life::PlayTillTicking()
     Play();
     At(FrameHeld);
     Play();
-    QTest::qWait(10); // ticks at 200 times the speed
+    QTest::qWait(3); // ticks
     At(Ticking);
-    QTest::qWait(10);
+    QTest::qWait(3);
 }
 
 } // namespace
@@ -199,7 +199,7 @@ private:
 void TestDeletions::initTestCase()
 {
     Lw::HAppConfig::SetClockOutputPath(m_directory.path());
-    pictureplayer::SetTimeScale(200);
+    pictureplayer::SetTimeScale(1000); // a second takes a millisecond
     // The refusal of a renderer without a node is logged each time; other tests look at that line.
     SilenceMessages();
 }

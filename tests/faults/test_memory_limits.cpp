@@ -147,6 +147,20 @@ void TestMemoryLimits::RowsOfANewDial()
     }
 }
 
+namespace {
+
+/// Draws the first frame of a minute, while large requests fail from the nth on.
+int RequestsOfNewMinute(DrawDisplayImage &drawer, qint64 minute, int nth)
+{
+    FrameAt(drawer, minute - 2000);
+    FrameAt(drawer, minute - 1000);
+    FailingMemory::Fail(kLarge, nth, true);
+    FrameAt(drawer, minute);
+    return FailingMemory::Stop();
+}
+
+} // namespace
+
 // The minute hand is kept as a picture for its minute; it is missed no longer than memory is.
 void TestMemoryLimits::MinuteHandOfALargeClock()
 {
@@ -156,11 +170,7 @@ void TestMemoryLimits::MinuteHandOfALargeClock()
     int requests = 1;
     for (int nth = 0; nth < requests; ++nth) {
         DrawDisplayImage drawer(&clock->node);
-        FrameAt(drawer, minute - 2000);
-        FrameAt(drawer, minute - 1000);
-        FailingMemory::Fail(kLarge, nth, true);
-        FrameAt(drawer, minute);
-        requests = FailingMemory::Stop();
+        requests = RequestsOfNewMinute(drawer, minute, nth);
         QVERIFY(requests > 0);
         FrameAt(drawer, minute + 5000);
         QVERIFY2(FrameAt(drawer, minute + 5000) == expected, qPrintable(QString::number(nth)));
@@ -178,11 +188,7 @@ void TestMemoryLimits::HourHandOfALargePictureClock()
     int requests = 1;
     for (int nth = 0; nth < requests; ++nth) {
         DrawDisplayImage drawer(&clock->node);
-        FrameAt(drawer, minute - 2000);
-        FrameAt(drawer, minute - 1000);
-        FailingMemory::Fail(kLarge, nth, true);
-        FrameAt(drawer, minute);
-        requests = FailingMemory::Stop();
+        requests = RequestsOfNewMinute(drawer, minute, nth);
         QVERIFY(requests > 0);
         FrameAt(drawer, minute);
         QVERIFY2(FrameAt(drawer, minute) == then, qPrintable(QString::number(nth)));

@@ -277,30 +277,45 @@ void PutInTheWay(const QString &what, const QString &path, const QString &others
         WriteFile(path + QStringLiteral("/inside"), "kept");
 }
 
+namespace {
+
+/// A clock one of whose images is gone, and a file elsewhere.
+struct LostImage
+{
+    std::unique_ptr<ClockUnderTest> clock = FullClock(DigitalClock);
+    QString path = clock->node.GetFirstFile(QStringLiteral("_dateNumber"));
+    QByteArray image = ReadFile(path);
+    QTemporaryDir elsewhere;
+    QString others = elsewhere.filePath(QStringLiteral("file"));
+
+    LostImage()
+    {
+        if (!QFile::remove(path))
+            qFatal("cannot remove %s", qPrintable(path));
+    }
+};
+
+} // namespace
+
 // Under the name of an image. All but directories give way to it; what links lead to is not
 // touched.
 void TestUnwritableDisk::InTheWayOfAnImage()
 {
     QFETCH(QString, what);
-    const auto clock = FullClock(DigitalClock);
-    const QString path = clock->node.GetFirstFile(QStringLiteral("_dateNumber"));
-    const QByteArray image = ReadFile(path);
-    const QTemporaryDir elsewhere;
-    const QString others = elsewhere.filePath(QStringLiteral("file"));
-    QVERIFY(QFile::remove(path));
-    PutInTheWay(what, path, others);
+    const LostImage lost;
+    PutInTheWay(what, lost.path, lost.others);
 
-    clock->MakeGlyphs();
-    QCOMPARE(ReadFile(others), QByteArray("another's"));
-    QVERIFY(!QFile::exists(path + QStringLiteral(".part")));
-    QVERIFY(!QFile::exists(others + ".none"));
+    lost.clock->MakeGlyphs();
+    QCOMPARE(ReadFile(lost.others), QByteArray("another's"));
+    QVERIFY(!QFile::exists(lost.path + QStringLiteral(".part")));
+    QVERIFY(!QFile::exists(lost.others + ".none"));
     if (what.contains(QLatin1String("directory"))) {
-        QVERIFY(QFileInfo(path).isDir());
+        QVERIFY(QFileInfo(lost.path).isDir());
         if (what == QLatin1String("filled directory"))
-            QCOMPARE(ReadFile(path + QStringLiteral("/inside")), QByteArray("kept"));
+            QCOMPARE(ReadFile(lost.path + QStringLiteral("/inside")), QByteArray("kept"));
     } else {
-        QVERIFY(!QFileInfo(path).isSymLink());
-        QCOMPARE(ReadFile(path), image);
+        QVERIFY(!QFileInfo(lost.path).isSymLink());
+        QCOMPARE(ReadFile(lost.path), lost.image);
     }
 }
 
@@ -315,28 +330,23 @@ void TestUnwritableDisk::InTheWayOfWriting_data()
 void TestUnwritableDisk::InTheWayOfWriting()
 {
     QFETCH(QString, what);
-    const auto clock = FullClock(DigitalClock);
-    const QString path = clock->node.GetFirstFile(QStringLiteral("_dateNumber"));
-    const QByteArray image = ReadFile(path);
-    const QTemporaryDir elsewhere;
-    const QString others = elsewhere.filePath(QStringLiteral("file"));
-    QVERIFY(QFile::remove(path));
-    const QString part = path + QStringLiteral(".part");
+    const LostImage lost;
+    const QString part = lost.path + QStringLiteral(".part");
     if (what == QLatin1String("half an image"))
-        WriteFile(part, image.left(image.size() / 2));
-    PutInTheWay(what, part, others);
+        WriteFile(part, lost.image.left(lost.image.size() / 2));
+    PutInTheWay(what, part, lost.others);
 
-    clock->MakeGlyphs();
-    QCOMPARE(ReadFile(others), QByteArray("another's"));
-    QVERIFY(!QFile::exists(others + ".none"));
+    lost.clock->MakeGlyphs();
+    QCOMPARE(ReadFile(lost.others), QByteArray("another's"));
+    QVERIFY(!QFile::exists(lost.others + ".none"));
     if (what == QLatin1String("filled directory")) {
         QCOMPARE(ReadFile(part + QStringLiteral("/inside")), QByteArray("kept"));
-        QVERIFY(!QFile::exists(path));
+        QVERIFY(!QFile::exists(lost.path));
         return;
     }
     QVERIFY(!QFile::exists(part));
     QVERIFY(!QFileInfo(part).isSymLink());
-    QCOMPARE(ReadFile(path), image);
+    QCOMPARE(ReadFile(lost.path), lost.image);
 }
 
 QTEST_MAIN(TestUnwritableDisk)

@@ -22,14 +22,6 @@ QStringList RecordedKeys(HClockNode &node)
     return keys;
 }
 
-QStringList SetKeys(int clockType)
-{
-    QStringList keys;
-    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, clockType))
-        keys << image.Key();
-    return keys;
-}
-
 Lw::FileRecord RecordOf(HClockNode &node, const QString &key)
 {
     for (const Lw::FileRecord &record : node.FileRecords()) {
@@ -102,7 +94,7 @@ private Q_SLOTS:
         FillNode(node, clockType, 7);
         Generate(node);
 
-        QCOMPARE(RecordedKeys(node), SetKeys(clockType));
+        QCOMPARE(RecordedKeys(node), KeysOfSet(clockType));
         QStringList expectedFiles;
         for (const Lw::FileRecord &record : node.FileRecords()) {
             QCOMPARE(record.path, m_output->Regular() + prefix + "7" + record.key + ".png");
@@ -209,7 +201,7 @@ private Q_SLOTS:
         HClockNode node;
         FillNode(node, clockType, 7);
         Generate(node, true);
-        QCOMPARE(RecordedKeys(node), SetKeys(clockType));
+        QCOMPARE(RecordedKeys(node), KeysOfSet(clockType));
         for (const Lw::FileRecord &record : node.FileRecords()) {
             const QByteArray bytes = GlyphOutput::Content(record.path);
             QVERIFY2(!bytes.isEmpty(), qPrintable(record.key));
@@ -296,7 +288,7 @@ private Q_SLOTS:
         FillNode(node, clockType, 7);
         Generate(node, false, true);
         QCOMPARE(m_output->RegularFiles(), strips);
-        QCOMPARE(m_output->TemporaryFiles().size(), SetKeys(clockType).size() - strips.size());
+        QCOMPARE(m_output->TemporaryFiles().size(), KeysOfSet(clockType).size() - strips.size());
         QVERIFY(node.GetFirstFile("_toptext").startsWith(m_output->Temporary()));
         QVERIFY(node.GetFirstFile("_dateNumber").startsWith(m_output->Regular()));
     }
@@ -573,12 +565,12 @@ private Q_SLOTS:
         Lw::HAppConfig::SetClockOutputPath(missing);
         QVERIFY(QDir().rmdir(missing));
         if (calcMd5) {
-            for (int i = 0; i < SetKeys(DigitalClock).size(); ++i)
+            for (int i = 0; i < KeysOfSet(DigitalClock).size(); ++i)
                 QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^open \\[.*\\]error"));
         }
         Generate(node, calcMd5);
         QVERIFY(!QFileInfo::exists(missing));
-        QCOMPARE(RecordedKeys(node), SetKeys(DigitalClock));
+        QCOMPARE(RecordedKeys(node), KeysOfSet(DigitalClock));
         for (const Lw::FileRecord &record : node.FileRecords()) {
             QCOMPARE(record.path.isEmpty(), calcMd5);
             QCOMPARE(record.size, calcMd5 ? 0LL : -1LL);

@@ -31,14 +31,6 @@ QStringList Keys(const QVector<GlyphFault> &faults, GlyphFault::Kind kind)
     return keys;
 }
 
-QStringList SetKeys(int clockType)
-{
-    QStringList keys;
-    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, clockType))
-        keys << image.Key();
-    return keys;
-}
-
 /// A clock that shows every row.
 void FillShown(HClockNode &node, int clockType)
 {
@@ -157,7 +149,7 @@ private Q_SLOTS:
             Generate(node);
         }
         const QVector<GlyphFault> faults = GlyphFaultsOf(node);
-        QCOMPARE(Keys(faults, GlyphFault::NotWritten), SetKeys(clockType));
+        QCOMPARE(Keys(faults, GlyphFault::NotWritten), KeysOfSet(clockType));
         QCOMPARE(faults.first().error, EFBIG);
         QCOMPARE(faults.first().path, node.GetFirstFile("_toptext"));
         Generate(node);
@@ -190,7 +182,7 @@ private Q_SLOTS:
             Generate(node);
         }
         QFile::setPermissions(m_output->Regular(), QFile::Permissions(0x7777));
-        QCOMPARE(GlyphFaultsOf(node).size(), SetKeys(DigitalClock).size());
+        QCOMPARE(GlyphFaultsOf(node).size(), KeysOfSet(DigitalClock).size());
         QCOMPARE(GlyphFaultsOf(node).first().error, EACCES);
     }
 
@@ -202,7 +194,7 @@ private Q_SLOTS:
         Lw::HAppConfig::SetClockOutputPath(missing);
         QVERIFY(QDir().rmdir(missing));
         Generate(node);
-        QCOMPARE(GlyphFaultsOf(node).size(), SetKeys(AnalogClock).size());
+        QCOMPARE(GlyphFaultsOf(node).size(), KeysOfSet(AnalogClock).size());
         QCOMPARE(GlyphFaultsOf(node).first().error, ENOENT);
     }
 

@@ -36,6 +36,29 @@ private:
     QStringList m_newestKeys;
 };
 
+/// A node that a listener of its signal deletes at one of the emissions.
+class DeletedNode
+{
+public:
+    using HClockNode = Lw::HNodeClock::HClockNode;
+
+    explicit DeletedNode(int lastEmission) : m_node(new HClockNode)
+    {
+        QObject::connect(m_node, &HClockNode::ReDrawSourceImage, m_node, [this, lastEmission] {
+            if (++m_emissions == lastEmission)
+                delete m_node;
+        });
+    }
+    Q_DISABLE_COPY(DeletedNode)
+
+    HClockNode &Node() const { return *m_node; } ///< until it is deleted
+    int Emissions() const { return m_emissions; }
+
+private:
+    HClockNode *m_node;
+    int m_emissions = 0;
+};
+
 /// The root of an XML text. The document must outlive it.
 inline QDomElement ParseXml(QDomDocument &document, const QString &xml)
 {

@@ -558,14 +558,9 @@ private Q_SLOTS:
         using Operation = std::function<void(HClockNode &)>;
         QFETCH(Operation, operation);
         QFETCH(int, lastEmission);
-        auto *node = new HClockNode;
-        int emissions = 0;
-        connect(node, &HClockNode::ReDrawSourceImage, this, [&emissions, node, lastEmission] {
-            if (++emissions == lastEmission)
-                delete node;
-        });
-        operation(*node);
-        QCOMPARE(emissions, lastEmission);
+        const DeletedNode deleted(lastEmission);
+        operation(deleted.Node());
+        QCOMPARE(deleted.Emissions(), lastEmission);
     }
 
     void ListenerMayCallBack()

@@ -469,15 +469,10 @@ private Q_SLOTS:
     {
         QFETCH(int, kind);
         QFETCH(int, lastEmission);
-        auto *node = new HClockNode;
-        int emissions = 0;
-        connect(node, &HClockNode::ReDrawSourceImage, this, [&emissions, node, lastEmission] {
-            if (++emissions == lastEmission)
-                delete node;
-        });
-        QVERIFY(
-            Patch(*node, Kind(kind), QLatin1String(kind == Analog ? kFullAnalog : kFullDigital)));
-        QCOMPARE(emissions, lastEmission);
+        const DeletedNode deleted(lastEmission);
+        QVERIFY(Patch(deleted.Node(), Kind(kind),
+                      QLatin1String(kind == Analog ? kFullAnalog : kFullDigital)));
+        QCOMPARE(deleted.Emissions(), lastEmission);
     }
 
     void HundredThousandChildrenAreReadInTime()

@@ -461,18 +461,13 @@ private Q_SLOTS:
     void ListenerMayDeleteTheNode()
     {
         QFETCH(int, lastEmission);
-        auto *node = new HClockNode;
-        int emissions = 0;
-        connect(node, &HClockNode::ReDrawSourceImage, this, [&emissions, node, lastEmission] {
-            if (++emissions == lastEmission)
-                delete node;
-        });
+        const DeletedNode deleted(lastEmission);
         QList<Lw::FileInfo> files;
-        QVERIFY(!Update(*node,
+        QVERIFY(!Update(deleted.Node(),
                         QStringLiteral("<clock timezone='+01:00' adjust='+00:00:01'>"
                                        "<font size='3'/><date format='1'/><file key='k'/></clock>"),
                         files));
-        QCOMPARE(emissions, lastEmission);
+        QCOMPARE(deleted.Emissions(), lastEmission);
         QVERIFY(files.isEmpty());
     }
 };

@@ -1,5 +1,6 @@
 // Files that travel with a program, and what may be under their names instead.
 #include "carried_files.h"
+#include "swapped_file.h"
 
 #include "hnode.h"
 
@@ -8,10 +9,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <algorithm>
-#include <atomic>
-#include <cstdio>
-#include <thread>
+#include <memory>
 
 #include <sys/stat.h>
 
@@ -114,30 +112,11 @@ void TestCarriedFiles::SizesThatAreMadeUpEnd()
     QVERIFY(timer.elapsed() < 5000);
 }
 
-// One process puts a file and a pipe in turn under one name while another reads it. A reader that
-// opened the pipe as it opens a file would wait for ever.
 void TestCarriedFiles::SwappedForAPipe()
 {
-    const QByteArray name = QFile::encodeName(Path("swapped"));
-    std::atomic<bool> ends {false};
-    std::thread swapper([&] {
-        const QByteArray next = name + ".next";
-        while (!ends) {
-            if (mkfifo(next.constData(), 0600) == 0)
-                std::rename(next.constData(), name.constData());
-            Write(QFile::decodeName(next));
-            std::rename(next.constData(), name.constData());
-        }
-    });
-    int right = 0;
-    int wrong = 0;
-    QElapsedTimer timer;
-    timer.start();
-    while (std::min(right, wrong) < 1000 && !timer.hasExpired(60000))
-        ++(WarningsOf(Path("swapped"), kDigest, 12).isEmpty() ? right : wrong);
-    ends = true;
-    swapper.join();
-    QVERIFY(right >= 200 && wrong >= 200);
+    const SwappedFile swapped(Path("swapped"), kContent);
+    QVERIFY(swapped.BothAreMet(
+        1000, 60000, [this] { return WarningsOf(Path("swapped"), kDigest, 12).isEmpty(); }));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "clock_node.h"
 #include "glyph/draw_source_image.h"
+#include "glyph/glyph_set.h"
 #include "happconfig.h"
 
 #include <QDir>
@@ -74,6 +75,16 @@ inline void FillNode(Lw::HNodeClock::HClockNode &node, int clockType, int id)
     SetText(node, Attribute::AnalogTopText, QStringLiteral("LED"));
     SetText(node, Attribute::DigitalTopText, QStringLiteral("LED"));
     SetFonts(node, QStringLiteral("DejaVu Sans"), 12, 0x0000ff);
+}
+
+/// The images of that type of clock, in the order in which they are generated.
+inline QStringList KeysOfSet(int clockType)
+{
+    using namespace Lw::HNodeClock;
+    QStringList keys;
+    for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, clockType))
+        keys << image.Key();
+    return keys;
 }
 
 inline void Generate(Lw::HNodeClock::HClockNode &node, bool calcMd5 = false,
