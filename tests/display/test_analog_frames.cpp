@@ -6,6 +6,7 @@
 #include "odd_areas.h"
 #include "plain_clocks.h"
 
+#include "display/analog_geometry.h"
 #include "display/draw_display_image.h"
 
 #include <array>
@@ -17,6 +18,11 @@ using namespace Lw::HNodeClock;
 namespace {
 
 constexpr QRgb kKeyColour = 0xff010201;
+
+// Formats of the host's images: only one of them is drawn with smooth edges.
+constexpr int kSmooth = QImage::Format_ARGB32;
+constexpr int kHardEdges = QImage::Format_RGB32;
+constexpr int kNoFormat = QImage::Format_Invalid;
 
 struct SettingChange
 {
@@ -94,23 +100,27 @@ void TestAnalogFrames::EqualsThePlainWay_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("format");
     QTest::addColumn<QString>("from");
-    QTest::addColumn<int>("scales"); // hour and minute scale
-    QTest::addColumn<int>("hands");  // 0 bars, 1 arrows
-    QTest::addColumn<int>("held");   // frames held by the consumer
+    QTest::addColumn<int>("scales"); // of hours; of minutes modulo 3
+    QTest::addColumn<int>("hands");
+    QTest::addColumn<int>("held"); // frames held by the consumer
     const auto noon = QStringLiteral("2024-03-05T11:58:30");
     const auto midnight = QStringLiteral("2024-02-28T23:58:30");
     const auto hour = QStringLiteral("2024-07-01T15:57:40");
-    QTest::newRow("noon") << QSize(128, 128) << 5 << noon << 3 << 0 << 1;
-    QTest::newRow("noon, hard edges") << QSize(129, 129) << 4 << noon << 0 << 1 << 1;
-    QTest::newRow("midnight") << QSize(64, 64) << 5 << midnight << 1 << 1 << 1;
-    QTest::newRow("midnight, hard edges") << QSize(81, 81) << 0 << midnight << 2 << 0 << 1;
-    QTest::newRow("wide") << QSize(256, 96) << 5 << hour << 4 << 1 << 1;
-    QTest::newRow("high") << QSize(96, 203) << 5 << hour << 0 << 0 << 1;
-    QTest::newRow("large") << QSize(320, 310) << 5 << hour << 3 << 1 << 1;
-    QTest::newRow("no frame held") << QSize(64, 48) << 5 << noon << 1 << 0 << 0;
-    QTest::newRow("two frames held") << QSize(64, 48) << 5 << noon << 2 << 1 << 2;
-    QTest::newRow("one pixel") << QSize(1, 1) << 5 << noon << 0 << 0 << 1;
-    QTest::newRow("a line") << QSize(10000, 3) << 5 << noon << 3 << 1 << 1;
+    const auto row = [](const char *name, const QSize &size, int format, const QString &from,
+                        int scales, int hands, int held) {
+        QTest::newRow(name) << size << format << from << scales << hands << held;
+    };
+    row("noon", {128, 128}, kSmooth, noon, TwelveNumerals, BarHand, 1);
+    row("noon, hard edges", {129, 129}, kHardEdges, noon, HourLines, ArrowHand, 1);
+    row("midnight", {64, 64}, kSmooth, midnight, HourDots, ArrowHand, 1);
+    row("midnight, hard edges", {81, 81}, kNoFormat, midnight, HourSquares, BarHand, 1);
+    row("wide", {256, 96}, kSmooth, hour, FourNumerals, ArrowHand, 1);
+    row("high", {96, 203}, kSmooth, hour, HourLines, BarHand, 1);
+    row("large", {320, 310}, kSmooth, hour, TwelveNumerals, ArrowHand, 1);
+    row("no frame held", {64, 48}, kSmooth, noon, HourDots, BarHand, 0);
+    row("two frames held", {64, 48}, kSmooth, noon, HourSquares, ArrowHand, 2);
+    row("one pixel", {1, 1}, kSmooth, noon, HourLines, BarHand, 1);
+    row("a line", {10000, 3}, kSmooth, noon, TwelveNumerals, ArrowHand, 1);
 }
 
 void TestAnalogFrames::EqualsThePlainWay()
@@ -329,27 +339,25 @@ void TestAnalogFrames::HandTables_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("width");
-    QTest::addColumn<int>("hour");
-    QTest::addColumn<int>("minute");
-    QTest::addColumn<int>("second");
-    QTest::newRow("63, the smaller side") << QSize(63, 200) << 2 << -13 << -18 << -24;
-    QTest::newRow("64, the smaller side") << QSize(90, 64) << 2 << -16 << -22 << -28;
-    QTest::newRow("300") << QSize(300, 300) << 10 << -75 << -105 << -135;
+    QTest::addColumn<QVector<int>>("tips"); // of the hour, minute and second hand
+    const auto row = [](const char *name, const QSize &size, int width, const QVector<int> &tips) {
+        QTest::newRow(name) << size << width << tips;
+    };
+    row("63, the smaller side", {63, 200}, 2, {-13, -18, -24});
+    row("64, the smaller side", {90, 64}, 2, {-16, -22, -28});
+    row("300", {300, 300}, 10, {-75, -105, -135});
 }
 
 void TestAnalogFrames::HandTables()
 {
     QFETCH(QSize, size);
     QFETCH(int, width);
-    QFETCH(int, hour);
-    QFETCH(int, minute);
-    QFETCH(int, second);
+    QFETCH(QVector<int>, tips);
     ChosenTime::Set("2024-03-05T10:10:30");
     ClockUnderTest clock(AnalogClock, size);
     DrawDisplayImage drawer(&clock.node);
     drawer.DrawClockDisplayImage();
     const QPoint *const tables[] = {hourHand, minuteHand, secondHand};
-    const int tips[] = {hour, minute, second};
     for (int i = 0; i < 3; ++i) {
         QCOMPARE(tables[i][0], QPoint(width, width));
         QCOMPARE(tables[i][1], QPoint(-width, width + 1));

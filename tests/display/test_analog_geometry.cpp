@@ -6,6 +6,18 @@
 
 using namespace Lw::HNodeClock;
 
+/// The y of the three triangles' tips, from the centre.
+struct HandTips
+{
+    int hour;
+    int minute;
+    int second;
+};
+
+Q_DECLARE_METATYPE(Hand)
+Q_DECLARE_METATYPE(Ring)
+Q_DECLARE_METATYPE(HandTips)
+
 namespace {
 
 bool Near(double a, double b)
@@ -337,32 +349,30 @@ void TestAnalogGeometry::Arrows()
 
 void TestAnalogGeometry::Rings_data()
 {
-    QTest::addColumn<int>("hand");
-    QTest::addColumn<double>("radius");
-    QTest::addColumn<double>("centre");
-    QTest::addColumn<double>("ring");
-    QTest::addColumn<int>("pen");
-    QTest::newRow("hour, 40") << 0 << 40.0 << 4.0 << 1.4814815 << 0;
-    QTest::newRow("minute, 40") << 1 << 40.0 << 5.0 << 1.1111111 << 0;
-    QTest::newRow("second, 40") << 2 << 40.0 << 6.6666667 << 0.7407407 << 0;
-    QTest::newRow("hour, 108") << 0 << 108.0 << 12.0 << 4.0 << 2;
-    QTest::newRow("minute, 108") << 1 << 108.0 << 15.0 << 3.0 << 2;
-    QTest::newRow("second, 108") << 2 << 108.0 << 18.0 << 2.0 << 2;
-    QTest::newRow("thin below 54") << 0 << 53.0 << 5.0 << 1.9629630 << 0;
-    QTest::newRow("one from 54") << 0 << 54.0 << 6.0 << 2.0 << 1;
+    QTest::addColumn<Hand>("hand");
+    QTest::addColumn<double>("dial"); // radius
+    QTest::addColumn<Ring>("ring");   // centre, radius and width of the pen
+    const auto below = [](double centre) { return QPointF(0, centre); };
+    QTest::newRow("hour, 40") << Hand::Hour << 40.0 << Ring {below(4), 1.4814815, 0};
+    QTest::newRow("minute, 40") << Hand::Minute << 40.0 << Ring {below(5), 1.1111111, 0};
+    QTest::newRow("second, 40") << Hand::Second << 40.0 << Ring {below(6.6666667), 0.7407407, 0};
+    QTest::newRow("hour, 108") << Hand::Hour << 108.0 << Ring {below(12), 4, 2};
+    QTest::newRow("minute, 108") << Hand::Minute << 108.0 << Ring {below(15), 3, 2};
+    QTest::newRow("second, 108") << Hand::Second << 108.0 << Ring {below(18), 2, 2};
+    QTest::newRow("thin below 54") << Hand::Hour << 53.0 << Ring {below(5), 1.9629630, 0};
+    QTest::newRow("one from 54") << Hand::Hour << 54.0 << Ring {below(6), 2, 1};
 }
 
 void TestAnalogGeometry::Rings()
 {
-    QFETCH(int, hand);
-    QFETCH(double, radius);
-    QFETCH(double, centre);
-    QFETCH(double, ring);
-    const Ring actual = ShapeOf(static_cast<Hand>(hand), 1, radius).ring;
-    COMPARE_NEAR(actual.centre.x(), 0.0);
-    COMPARE_NEAR(actual.centre.y(), centre);
-    COMPARE_NEAR(actual.radius, ring);
-    QTEST(actual.penWidth, "pen");
+    QFETCH(Hand, hand);
+    QFETCH(double, dial);
+    QFETCH(Ring, ring);
+    const Ring actual = ShapeOf(hand, 1, dial).ring;
+    COMPARE_NEAR(actual.centre.x(), ring.centre.x());
+    COMPARE_NEAR(actual.centre.y(), ring.centre.y());
+    COMPARE_NEAR(actual.radius, ring.radius);
+    QCOMPARE(actual.penWidth, ring.penWidth);
 }
 
 void TestAnalogGeometry::UnknownHandsAreEmpty()
@@ -438,31 +448,30 @@ void TestAnalogGeometry::Triangles_data()
 {
     QTest::addColumn<int>("size");
     QTest::addColumn<int>("width");
-    QTest::addColumn<int>("hour");
-    QTest::addColumn<int>("minute");
-    QTest::addColumn<int>("second");
-    QTest::newRow("63") << 63 << 2 << -13 << -18 << -24;
-    QTest::newRow("64") << 64 << 2 << -16 << -22 << -28;
-    QTest::newRow("90") << 90 << 3 << -22 << -31 << -40;
-    QTest::newRow("eight has no length") << 8 << 2 << 0 << 0 << 0;
-    QTest::newRow("smaller points down") << 0 << 2 << 2 << 2 << 3;
-    QTest::newRow("no size") << -1 << 2 << 2 << 2 << 3;
+    QTest::addColumn<HandTips>("tips");
+    const auto tips = [](int hour, int minute, int second) {
+        return HandTips {hour, minute, second};
+    };
+    QTest::newRow("63") << 63 << 2 << tips(-13, -18, -24);
+    QTest::newRow("64") << 64 << 2 << tips(-16, -22, -28);
+    QTest::newRow("90") << 90 << 3 << tips(-22, -31, -40);
+    QTest::newRow("eight has no length") << 8 << 2 << tips(0, 0, 0);
+    QTest::newRow("smaller points down") << 0 << 2 << tips(2, 2, 3);
+    QTest::newRow("no size") << -1 << 2 << tips(2, 2, 3);
 }
 
 void TestAnalogGeometry::Triangles()
 {
     QFETCH(int, size);
     QFETCH(int, width);
-    QFETCH(int, hour);
-    QFETCH(int, minute);
-    QFETCH(int, second);
+    QFETCH(HandTips, tips);
     const HandTriangles triangles = TrianglesFor(size);
     const QPoint right(width, width);
     const QPoint left(-width, width + 1);
     using Triangle = std::array<QPoint, 3>;
-    QCOMPARE(triangles.hour, (Triangle {right, left, QPoint(0, hour)}));
-    QCOMPARE(triangles.minute, (Triangle {right, left, QPoint(0, minute)}));
-    QCOMPARE(triangles.second, (Triangle {right, left, QPoint(0, second)}));
+    QCOMPARE(triangles.hour, (Triangle {right, left, QPoint(0, tips.hour)}));
+    QCOMPARE(triangles.minute, (Triangle {right, left, QPoint(0, tips.minute)}));
+    QCOMPARE(triangles.second, (Triangle {right, left, QPoint(0, tips.second)}));
 }
 
 QTEST_GUILESS_MAIN(TestAnalogGeometry)

@@ -13,6 +13,12 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
+// Values of DigitalMode and DigitalDisplayMode.
+constexpr int kTwentyFourHours = 0;
+constexpr int kTwelveHours = 1;
+constexpr int kRows = 0;
+constexpr int kLine = 1;
+
 const char *const kFlags[] = {"Digital_TopTexy_d", "Digital_Date_d", "Digital_Week_d",
                               "Digital_Time_d", "Digital_Lunar_d"};
 
@@ -139,14 +145,18 @@ void TestDigitalFrames::SecondsAreDrawnAsThePlainWay_data()
     QTest::addColumn<int>("twelve");
     QTest::addColumn<int>("mode");
     QTest::addColumn<int>("space");
-    QTest::newRow("two minutes in rows") << "2024-03-05T08:58:55" << 130 << 0 << 0 << 0;
-    QTest::newRow("noon in rows, twelve hours") << "2024-03-05T11:59:50" << 30 << 1 << 0 << 2;
-    QTest::newRow("midnight on a line") << "2024-03-05T23:59:50" << 30 << 0 << 1 << 3;
-    QTest::newRow("midnight, rows over each other") << "2024-03-08T23:59:40" << 90 << 1 << 0 << -9;
-    QTest::newRow("line over itself") << "2024-03-05T12:59:50" << 20 << 1 << 1 << -30;
+    const auto row = [](const char *name, const char *start, int seconds, int twelve, int mode,
+                        int space) {
+        QTest::newRow(name) << QString(start) << seconds << twelve << mode << space;
+    };
+    row("two minutes in rows", "2024-03-05T08:58:55", 130, kTwentyFourHours, kRows, 0);
+    row("noon in rows, twelve hours", "2024-03-05T11:59:50", 30, kTwelveHours, kRows, 2);
+    row("midnight on a line", "2024-03-05T23:59:50", 30, kTwentyFourHours, kLine, 3);
+    row("midnight, rows over each other", "2024-03-08T23:59:40", 90, kTwelveHours, kRows, -9);
+    row("line over itself", "2024-03-05T12:59:50", 20, kTwelveHours, kLine, -30);
     // Of five the third is in the middle, however far away the others are.
-    QTest::newRow("line far beyond the area") << "2024-03-05T12:59:50" << 2 << 0 << 1 << 20000000;
-    QTest::newRow("line far over itself") << "2024-03-05T12:59:50" << 2 << 0 << 1 << -20000000;
+    row("line far beyond the area", "2024-03-05T12:59:50", 2, kTwentyFourHours, kLine, 20000000);
+    row("line far over itself", "2024-03-05T12:59:50", 2, kTwentyFourHours, kLine, -20000000);
 }
 
 void TestDigitalFrames::SecondsAreDrawnAsThePlainWay()
