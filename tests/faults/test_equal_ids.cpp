@@ -81,7 +81,6 @@ private:
 void TestEqualIds::init()
 {
     m_directories = std::make_unique<FreshDirectories>();
-    ChosenTime::Milliseconds() = kMorning;
     ChosenTime::Set("2026-11-21T11:59:50");
     pictureplayer::SetTimeScale(0);
 }
