@@ -83,16 +83,16 @@ private slots:
     void MalformedRules_data();
     void MalformedRules();
     void RuleFields();
-    void Boundaries_data();
-    void Boundaries();
+    void BoundariesOfYears_data();
+    void BoundariesOfYears();
     void BoundaryIsTaggedUtc();
     void BoundaryOfEveryRule();
     void IncompleteRulesHaveNoBoundary();
     void BoundaryInYearOutOfRange();
-    void Period_data();
-    void Period();
-    void Shift_data();
-    void Shift();
+    void DaylightPeriodHoldsTheTime_data();
+    void DaylightPeriodHoldsTheTime();
+    void ShiftInAndOutOfThePeriod_data();
+    void ShiftInAndOutOfThePeriod();
     void NoShift_data();
     void NoShift();
     void ShiftFollowsTextsAndYears();
@@ -143,7 +143,7 @@ void TestDaylightRules::RuleFields()
     QCOMPARE(blanks->time, QTime(23, 59, 59));
 }
 
-void TestDaylightRules::Boundaries_data()
+void TestDaylightRules::BoundariesOfYears_data()
 {
     QTest::addColumn<QString>("rule");
     QTest::addColumn<int>("year");
@@ -173,7 +173,7 @@ void TestDaylightRules::Boundaries_data()
     row("last year", "12.Last.5.00:00:00", 9999, "9999-12-31T00:00:00Z");
 }
 
-void TestDaylightRules::Boundaries()
+void TestDaylightRules::BoundariesOfYears()
 {
     QFETCH(QString, rule);
     QFETCH(int, year);
@@ -231,7 +231,7 @@ void TestDaylightRules::BoundaryInYearOutOfRange()
         QVERIFY(!BoundaryInYear(rule, year).isValid());
 }
 
-void TestDaylightRules::Period_data()
+void TestDaylightRules::DaylightPeriodHoldsTheTime_data()
 {
     QTest::addColumn<int>("reading");
     QTest::addColumn<int>("start");
@@ -250,7 +250,7 @@ void TestDaylightRules::Period_data()
     QTest::newRow("equal boundaries, after") << 11 << 10 << 10 << false;
 }
 
-void TestDaylightRules::Period()
+void TestDaylightRules::DaylightPeriodHoldsTheTime()
 {
     QFETCH(int, reading);
     QFETCH(int, start);
@@ -258,7 +258,7 @@ void TestDaylightRules::Period()
     QTEST(InDaylightPeriod(reading, start, end), "inside");
 }
 
-void TestDaylightRules::Shift_data()
+void TestDaylightRules::ShiftInAndOutOfThePeriod_data()
 {
     QTest::addColumn<QString>("start");
     QTest::addColumn<QString>("end");
@@ -286,7 +286,7 @@ void TestDaylightRules::Shift_data()
     south("south, last second of the year", "2026-12-31T23:59:59.999", 3600);
 }
 
-void TestDaylightRules::Shift()
+void TestDaylightRules::ShiftInAndOutOfThePeriod()
 {
     QFETCH(QString, start);
     QFETCH(QString, end);

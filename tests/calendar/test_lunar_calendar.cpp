@@ -144,8 +144,8 @@ private slots:
     void DayOutsideMonthKeepsAnswer();
     void OutOfRange_data();
     void OutOfRange();
-    void Range_data();
-    void Range();
+    void DaysOfTheTable_data();
+    void DaysOfTheTable();
     void SubMenueReadsGlobals();
     void SetupLeavesDayAlone();
 };
@@ -318,7 +318,7 @@ void TestLunarCalendar::OutOfRange()
     QVERIFY(!Lw::HNodeClock::InLunarRange(year, month, day));
 }
 
-void TestLunarCalendar::Range_data()
+void TestLunarCalendar::DaysOfTheTable_data()
 {
     QTest::addColumn<QDate>("date");
     QTest::addColumn<bool>("inside");
@@ -331,7 +331,7 @@ void TestLunarCalendar::Range_data()
     QTest::newRow("day after") << QDate(2051, 2, 11) << false;
 }
 
-void TestLunarCalendar::Range()
+void TestLunarCalendar::DaysOfTheTable()
 {
     QFETCH(QDate, date);
     QTEST(Lw::HNodeClock::InLunarRange(date.year(), date.month(), date.day()), "inside");

@@ -32,8 +32,8 @@ class TestElement : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Sizes_data();
-    void Sizes();
+    void SizesAreBounded_data();
+    void SizesAreBounded();
     void PiecesFollowEachOther();
     void ColumnsOutsideTheStripAreBlank();
     void CellOfNoWidthIsNothing();
@@ -42,7 +42,7 @@ private Q_SLOTS:
     void ComparesImagesNotAddresses();
 };
 
-void TestElement::Sizes_data()
+void TestElement::SizesAreBounded_data()
 {
     QTest::addColumn<long long>("width");
     QTest::addColumn<int>("height");
@@ -57,7 +57,7 @@ void TestElement::Sizes_data()
     QTest::newRow("beyond int") << (1LL << 32) + 30 << 8 << QSize(0, 0);
 }
 
-void TestElement::Sizes()
+void TestElement::SizesAreBounded()
 {
     QFETCH(long long, width);
     QFETCH(int, height);

@@ -200,13 +200,13 @@ class TestIncludes : public QObject
     Q_OBJECT
 
 private slots:
-    void Rooms_data();
-    void Rooms();
+    void IncludesUpAreFaults_data();
+    void IncludesUpAreFaults();
     void TreeFollowsTheDrawing();
     void DrawingHasTheseFloors();
 };
 
-void TestIncludes::Rooms_data()
+void TestIncludes::IncludesUpAreFaults_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("include");
@@ -215,7 +215,7 @@ void TestIncludes::Rooms_data()
         QTest::newRow(one.name) << one.path << one.include << one.fault;
 }
 
-void TestIncludes::Rooms()
+void TestIncludes::IncludesUpAreFaults()
 {
     QFETCH(QString, path);
     QFETCH(QString, include);

@@ -44,8 +44,8 @@ private slots:
     void InkInCommon();
     void StretchesOfAYear();
     void StretchesOfDaylightSaving();
-    void Contrast_data();
-    void Contrast();
+    void ContrastToBlack_data();
+    void ContrastToBlack();
     void HiddenPartsAreNotFound();
     void VisiblePartOfAnArea();
     void HugeSizesAreNotDrawn();
@@ -124,7 +124,7 @@ void TestFit::StretchesOfDaylightSaving()
     QVERIFY(!seconds.contains(At("2026-12-01T22:00:00Z")));
 }
 
-void TestFit::Contrast_data()
+void TestFit::ContrastToBlack_data()
 {
     QTest::addColumn<QRgb>("colour");
     QTest::addColumn<double>("expected");
@@ -137,7 +137,7 @@ void TestFit::Contrast_data()
     QTest::newRow("black") << qRgb(0, 0, 0) << 1.0;
 }
 
-void TestFit::Contrast()
+void TestFit::ContrastToBlack()
 {
     QFETCH(QRgb, colour);
     QFETCH(double, expected);

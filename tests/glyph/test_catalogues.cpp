@@ -133,7 +133,10 @@ private Q_SLOTS:
         QCOMPARE(Translated(kGlyphContext, "PersiaWednesday"), QString("PersiaWednesday"));
     }
 
-    void Languages() { QCOMPARE(ClockCatalogues::Languages(), (QStringList {"en", "fa", "zh"})); }
+    void LanguagesAreFound()
+    {
+        QCOMPARE(ClockCatalogues::Languages(), (QStringList {"en", "fa", "zh"}));
+    }
 
     void LanguageOfALocale_data()
     {
@@ -194,8 +197,8 @@ private Q_SLOTS:
     }
 
     // Exactly the texts that the plugin translates, and none of them left open.
-    void Complete_data() { EachLanguage(); }
-    void Complete()
+    void TextsAreComplete_data() { EachLanguage(); }
+    void TextsAreComplete()
     {
         QFETCH(QString, language);
         QSet<QString> expected;
@@ -215,7 +218,7 @@ private Q_SLOTS:
             QVERIFY2(expected.contains(entry), qPrintable(entry));
     }
 
-    void Wording_data()
+    void TextsHaveTheirWording_data()
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QByteArray>("source");
@@ -239,7 +242,7 @@ private Q_SLOTS:
         row("fa", "DateString", "ＹＭＤ");
         row("fa", "TimeString", "ＨＭＳ");
     }
-    void Wording()
+    void TextsHaveTheirWording()
     {
         QFETCH(QString, language);
         QFETCH(QByteArray, source);
@@ -290,7 +293,7 @@ private Q_SLOTS:
         }
     }
 
-    void Cells_data()
+    void TextsFillTheirCells_data()
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QByteArray>("source");
@@ -311,7 +314,7 @@ private Q_SLOTS:
     }
     // Each character is drawn alone, with ideographic blanks in place of the others: its ink must
     // lie in its own cell, and all of them together must be the label as it is drawn at once.
-    void Cells()
+    void TextsFillTheirCells()
     {
         QFETCH(QString, language);
         QFETCH(QByteArray, source);

@@ -253,7 +253,7 @@ class TestClockSdkImport : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Single_data()
+    void EachElementWritesOneKey_data()
     {
         QTest::addColumn<int>("row");
         for (int i = 0; i < static_cast<int>(std::size(kSingle)); ++i)
@@ -261,7 +261,7 @@ private Q_SLOTS:
                           kSingle[i].child)
                 << i;
     }
-    void Single()
+    void EachElementWritesOneKey()
     {
         QFETCH(int, row);
         const ImportCase &expected = kSingle[row];
@@ -371,14 +371,14 @@ private Q_SLOTS:
         QVERIFY(node.AttributeKeys().isEmpty());
     }
 
-    void Numbers_data()
+    void NumbersAreWholeTexts_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<int>("value");
         for (const TextCase &row : kNumbers)
             QTest::newRow(row.name) << QString::fromUtf8(row.text) << row.value;
     }
-    void Numbers()
+    void NumbersAreWholeTexts()
     {
         QFETCH(QString, text);
         QFETCH(int, value);

@@ -22,17 +22,17 @@ class TestCommandLine : public QObject
 
 private slots:
     void Defaults();
-    void Everything();
+    void AllOptionsAreRead();
     void PreviewAndTravel();
-    void Kiosk();
+    void KioskOptionsAreRead();
     void QtOptionsWithOneDash();
     void DefaultsOfScripts();
-    void Languages();
-    void Help_data();
-    void Help();
+    void LanguagesAreRead();
+    void HelpAndVersionAreTexts_data();
+    void HelpAndVersionAreTexts();
     void HelpTellsBounds();
-    void Refused_data();
-    void Refused();
+    void FaultsAreTold_data();
+    void FaultsAreTold();
 };
 
 void TestCommandLine::Defaults()
@@ -52,7 +52,7 @@ void TestCommandLine::Defaults()
     QVERIFY(options.language.isEmpty() && options.platform.isEmpty());
 }
 
-void TestCommandLine::Everything()
+void TestCommandLine::AllOptionsAreRead()
 {
     const CommandLine line =
         Parsed({"--output", "out", "--frames=1000000", "a.xml", "--at", "1970-01-01T00:00:01Z",
@@ -84,7 +84,7 @@ void TestCommandLine::PreviewAndTravel()
     QCOMPARE(std::get<Options>(fast).speed, 100000.0);
 }
 
-void TestCommandLine::Kiosk()
+void TestCommandLine::KioskOptionsAreRead()
 {
     const CommandLine line = Parsed({"a.xml", "--kiosk", "--require-time", "--offset", "16,-8",
                                      "--rotate", "270", "--status-file", "s.json", "--watch"});
@@ -127,7 +127,7 @@ void TestCommandLine::DefaultsOfScripts()
     QVERIFY(!std::get<Options>(platformSaid).WritesFrames());
 }
 
-void TestCommandLine::Languages()
+void TestCommandLine::LanguagesAreRead()
 {
     const QStringList languages = ClockCatalogues::Languages();
     QVERIFY(!languages.isEmpty());
@@ -139,7 +139,7 @@ void TestCommandLine::Languages()
         QVERIFY(std::get<Failure>(unknown).text.contains(language));
 }
 
-void TestCommandLine::Help_data()
+void TestCommandLine::HelpAndVersionAreTexts_data()
 {
     QTest::addColumn<QString>("option");
     QTest::addColumn<QString>("begins");
@@ -152,7 +152,7 @@ void TestCommandLine::Help_data()
                                     << "clock_player ";
 }
 
-void TestCommandLine::Help()
+void TestCommandLine::HelpAndVersionAreTexts()
 {
     QFETCH(QString, option);
     QFETCH(QString, begins);
@@ -174,7 +174,7 @@ void TestCommandLine::HelpTellsBounds()
     QVERIFY(!text.contains(QLatin1Char('%')));
 }
 
-void TestCommandLine::Refused_data()
+void TestCommandLine::FaultsAreTold_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("about");
@@ -208,7 +208,7 @@ void TestCommandLine::Refused_data()
     row("empty instant", {"a.xml", "--at", ""}, "--at");
 }
 
-void TestCommandLine::Refused()
+void TestCommandLine::FaultsAreTold()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, about);

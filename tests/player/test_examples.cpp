@@ -47,15 +47,15 @@ class TestExamples : public QObject
     Q_OBJECT
 
 private slots:
-    void Plays_data();
-    void Plays();
+    void EachPlaysTheSameAgain_data();
+    void EachPlaysTheSameAgain();
     void StylesDiffer();
     void DaylightSaving_data();
     void DaylightSaving();
     void TextIsAsLargeOnEveryPlatform();
 };
 
-void TestExamples::Plays_data()
+void TestExamples::EachPlaysTheSameAgain_data()
 {
     QTest::addColumn<QString>("example");
     const QStringList examples = kExamples.entryList({"*.xml"}, QDir::Files);
@@ -64,7 +64,7 @@ void TestExamples::Plays_data()
         QTest::newRow(qPrintable(example)) << example;
 }
 
-void TestExamples::Plays()
+void TestExamples::EachPlaysTheSameAgain()
 {
     QFETCH(QString, example);
     const QString instant = QStringLiteral("2024-03-05T13:07:58Z");

@@ -60,8 +60,8 @@ private Q_SLOTS:
     void InterfaceIsTheSecondBase();
     void PlainProperties();
     void InheritedDefaults();
-    void Match_data();
-    void Match();
+    void ClaimsClockElements_data();
+    void ClaimsClockElements();
     void MatchOfANullElement();
     void NewNodeHasNoAttributes();
     void NodeAndPluginAgreeOnTheType();
@@ -191,7 +191,7 @@ void TestLoader::InheritedDefaults()
     plugin->D3DLoseDevice();
 }
 
-void TestLoader::Match_data()
+void TestLoader::ClaimsClockElements_data()
 {
     QTest::addColumn<QString>("tag");
     QTest::addColumn<bool>("claimed");
@@ -203,7 +203,7 @@ void TestLoader::Match_data()
     QTest::newRow("prefixed") << "lw:clock" << false;
 }
 
-void TestLoader::Match()
+void TestLoader::ClaimsClockElements()
 {
     QFETCH(QString, tag);
     QTEST(Claims(tag), "claimed");

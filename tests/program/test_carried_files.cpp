@@ -26,8 +26,8 @@ class TestCarriedFiles : public QObject
 
 private slots:
     void initTestCase();
-    void Checks_data();
-    void Checks();
+    void OddFilesAreTold_data();
+    void OddFilesAreTold();
     void SizesThatAreMadeUpEnd();
     void SwappedForAPipe();
 
@@ -70,7 +70,7 @@ void TestCarriedFiles::initTestCase()
     QVERIFY(sparse.open(QFile::WriteOnly) && sparse.resize(Q_INT64_C(300) << 30));
 }
 
-void TestCarriedFiles::Checks_data()
+void TestCarriedFiles::OddFilesAreTold_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("digest");
@@ -91,7 +91,7 @@ void TestCarriedFiles::Checks_data()
     row("sparse", Path("sparse"), kDigest, Q_INT64_C(300) << 30, "is larger than 142606336 bytes");
 }
 
-void TestCarriedFiles::Checks()
+void TestCarriedFiles::OddFilesAreTold()
 {
     QFETCH(QString, path);
     QFETCH(QString, digest);

@@ -13,13 +13,13 @@ class TestClockIds : public QObject
     Q_OBJECT
 
 private slots:
-    void Distinct_data();
-    void Distinct();
+    void IdsAreMadeDistinct_data();
+    void IdsAreMadeDistinct();
     void NumbersOfPlaces();
     void MoreClocksThanDrawnNumbers();
 };
 
-void TestClockIds::Distinct_data()
+void TestClockIds::IdsAreMadeDistinct_data()
 {
     QTest::addColumn<QVector<ClockId>>("ids");
     QTest::addColumn<QVector<int>>("numbers");
@@ -44,7 +44,7 @@ void TestClockIds::Distinct_data()
         << QVector<ClockId> {given(-3), given(-3), placed(1000)} << QVector<int> {-3, 1001, 1000};
 }
 
-void TestClockIds::Distinct()
+void TestClockIds::IdsAreMadeDistinct()
 {
     QFETCH(QVector<ClockId>, ids);
     QFETCH(QVector<int>, numbers);

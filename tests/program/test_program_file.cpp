@@ -156,20 +156,20 @@ class TestProgramFile : public QObject
     Q_OBJECT
 
 private slots:
-    void Parse();
-    void Accepted_data();
-    void Accepted();
-    void Refused_data();
-    void Refused();
+    void AreasAndAttributesAreRead();
+    void OddTextsAreAccepted_data();
+    void OddTextsAreAccepted();
+    void FaultsAreToldWithTheirLine_data();
+    void FaultsAreToldWithTheirLine();
     void EncodingsGiveOneText();
     void FrameBytesOfPrograms_data();
     void FrameBytesOfPrograms();
     void PathsAreNamedAsTheyAre();
-    void Unreadable_data();
-    void Unreadable();
+    void UnreadableFilesAreTold_data();
+    void UnreadableFilesAreTold();
 };
 
-void TestProgramFile::Parse()
+void TestProgramFile::AreasAndAttributesAreRead()
 {
     const QByteArray contents(R"(<?xml version="1.0"?>
 <program width="256" height="64">
@@ -204,7 +204,7 @@ void TestProgramFile::Parse()
     QVERIFY(program.areas[1].attributes.isEmpty());
 }
 
-void TestProgramFile::Accepted_data()
+void TestProgramFile::OddTextsAreAccepted_data()
 {
     QTest::addColumn<QByteArray>("contents");
     QTest::newRow("smallest") << QByteArray("<program width='1' height='1'>") + kArea
@@ -233,14 +233,14 @@ void TestProgramFile::Accepted_data()
     QTest::newRow("most areas") << Screen(kArea.repeated(kMaximumAreas));
 }
 
-void TestProgramFile::Accepted()
+void TestProgramFile::OddTextsAreAccepted()
 {
     QFETCH(QByteArray, contents);
     const Result<Program> result = ParseProgram(contents, QStringLiteral("p.xml"));
     QVERIFY2(result, result ? "" : qPrintable(result.Error().text));
 }
 
-void TestProgramFile::Refused_data()
+void TestProgramFile::FaultsAreToldWithTheirLine_data()
 {
     QTest::addColumn<QByteArray>("contents");
     QTest::addColumn<QString>("message"); // what it begins with
@@ -250,7 +250,7 @@ void TestProgramFile::Refused_data()
     }
 }
 
-void TestProgramFile::Refused()
+void TestProgramFile::FaultsAreToldWithTheirLine()
 {
     QFETCH(QByteArray, contents);
     QFETCH(QString, message);
@@ -323,7 +323,7 @@ void TestProgramFile::PathsAreNamedAsTheyAre()
     }
 }
 
-void TestProgramFile::Unreadable_data()
+void TestProgramFile::UnreadableFilesAreTold_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("reason");
@@ -337,7 +337,7 @@ void TestProgramFile::Unreadable_data()
                              << "/dev/zero: larger than 4194304 bytes";
 }
 
-void TestProgramFile::Unreadable()
+void TestProgramFile::UnreadableFilesAreTold()
 {
     QFETCH(QString, path);
     QFETCH(QString, reason);

@@ -11,10 +11,10 @@ class TestInstant : public QObject
     Q_OBJECT
 
 private slots:
-    void Parse_data();
-    void Parse();
-    void Malformed_data();
-    void Malformed();
+    void TextsBecomeInstants_data();
+    void TextsBecomeInstants();
+    void MalformedTextsAreRefused_data();
+    void MalformedTextsAreRefused();
     void WholeSeconds_data();
     void WholeSeconds();
     void SystemTime();
@@ -24,7 +24,7 @@ private slots:
 };
 
 // The numbers are those of "date -u -d ... +%s".
-void TestInstant::Parse_data()
+void TestInstant::TextsBecomeInstants_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<qint64>("milliseconds");
@@ -42,7 +42,7 @@ void TestInstant::Parse_data()
     QTest::newRow("far away") << "9999-12-31T23:59:59Z" << qint64(253402300799000);
 }
 
-void TestInstant::Parse()
+void TestInstant::TextsBecomeInstants()
 {
     QFETCH(QString, text);
     QFETCH(qint64, milliseconds);
@@ -51,7 +51,7 @@ void TestInstant::Parse()
     QCOMPARE(*instant, milliseconds);
 }
 
-void TestInstant::Malformed_data()
+void TestInstant::MalformedTextsAreRefused_data()
 {
     QTest::addColumn<QString>("text");
     for (const char *text : {"",
@@ -83,7 +83,7 @@ void TestInstant::Malformed_data()
     QTest::newRow("full-width digits") << QString::fromUtf8("2024-02-2９");
 }
 
-void TestInstant::Malformed()
+void TestInstant::MalformedTextsAreRefused()
 {
     QFETCH(QString, text);
     QVERIFY(!ParseInstant(text));

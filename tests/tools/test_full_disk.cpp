@@ -55,16 +55,16 @@ class TestFullDisk : public QObject
 
 private slots:
     void init();
-    void Export_data() { AddLimits(); }
-    void Export();
+    void ExportIsWholeOrUntouched_data() { AddLimits(); }
+    void ExportIsWholeOrUntouched();
     void ExportAgain_data() { AddLimits(); }
     void ExportAgain();
-    void Lists_data();
-    void Lists();
+    void ListsAreWholeOrUntouched_data();
+    void ListsAreWholeOrUntouched();
     void ReadOnlyDisk();
     void GlyphsOnATemporaryDisk();
-    void Frames_data() { AddLimits(); }
-    void Frames();
+    void FramesAreWholeOrUntouched_data() { AddLimits(); }
+    void FramesAreWholeOrUntouched();
 
 private:
     static void AddLimits();
@@ -146,7 +146,7 @@ Attempt TestFullDisk::TryExport(const Entries &expected, const Entries &before) 
     return {false, NothingOnFailure(run)};
 }
 
-void TestFullDisk::Export()
+void TestFullDisk::ExportIsWholeOrUntouched()
 {
     QFETCH(int, limit);
     QCOMPARE(Export("second", Roomy("whole")).exitCode, 0);
@@ -170,7 +170,7 @@ void TestFullDisk::ExportAgain()
     QVERIFY2(fault.isEmpty(), qPrintable(fault));
 }
 
-void TestFullDisk::Lists_data()
+void TestFullDisk::ListsAreWholeOrUntouched_data()
 {
     const QString program = InTree("examples/six_clocks.xml");
     QTest::addColumn<QStringList>("command");
@@ -182,7 +182,7 @@ void TestFullDisk::Lists_data()
 }
 
 // Over a file that exists, which stays whole.
-void TestFullDisk::Lists()
+void TestFullDisk::ListsAreWholeOrUntouched()
 {
     QFETCH(QStringList, command);
     const QByteArray expected = RunTool(command).output.toUtf8();
@@ -234,7 +234,7 @@ void TestFullDisk::GlyphsOnATemporaryDisk()
 }
 
 // Those of the player, over older ones: each is old or new, and none is cut.
-void TestFullDisk::Frames()
+void TestFullDisk::FramesAreWholeOrUntouched()
 {
     QFETCH(int, limit);
     const QString program = InTree("examples/station.xml");

@@ -110,8 +110,8 @@ class TestLintFit : public QObject
     Q_OBJECT
 
 private slots:
-    void Finds_data();
-    void Finds();
+    void WhatDoesNotFitIsFound_data();
+    void WhatDoesNotFitIsFound();
     void ReportsAnAreaOnce_data();
     void ReportsAnAreaOnce();
     void SaysNothingOfWhatFits();
@@ -133,7 +133,7 @@ private:
     QTemporaryDir m_directory;
 };
 
-void TestLintFit::Finds_data()
+void TestLintFit::WhatDoesNotFitIsFound_data()
 {
     QTest::addColumn<QByteArray>("program");
     QTest::addColumn<QString>("severity");
@@ -142,7 +142,7 @@ void TestLintFit::Finds_data()
         QTest::newRow(finding.name) << finding.program << finding.severity << finding.said;
 }
 
-void TestLintFit::Finds()
+void TestLintFit::WhatDoesNotFitIsFound()
 {
     QFETCH(QByteArray, program);
     QFETCH(QString, severity);

@@ -110,10 +110,10 @@ class TestSameTimes : public QObject
 
 private slots:
     void initTestCase();
-    void Played_data();
-    void Played();
-    void Exported_data() { Played_data(); }
-    void Exported();
+    void PlayedClocksShowTheTime_data();
+    void PlayedClocksShowTheTime();
+    void ExportedClocksShowTheTime_data() { PlayedClocksShowTheTime_data(); }
+    void ExportedClocksShowTheTime();
     void LintSaysTheSameOfEach();
     void SdkHasTheSameOfEach();
     void EveryWayToWriteAPictureClock_data();
@@ -153,7 +153,7 @@ void TestSameTimes::initTestCase()
     m_exported = FrameAt(Path("sent/program.xml"), kInstant, {"--use-files"});
 }
 
-void TestSameTimes::Played_data()
+void TestSameTimes::PlayedClocksShowTheTime_data()
 {
     QTest::addColumn<int>("row");
     for (int i = 0; i < kCount; ++i)
@@ -182,12 +182,12 @@ void TestSameTimes::CompareRow(const QImage &screen)
     }
 }
 
-void TestSameTimes::Played()
+void TestSameTimes::PlayedClocksShowTheTime()
 {
     CompareRow(m_played);
 }
 
-void TestSameTimes::Exported()
+void TestSameTimes::ExportedClocksShowTheTime()
 {
     CompareRow(m_exported);
 }

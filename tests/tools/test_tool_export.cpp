@@ -82,8 +82,8 @@ private slots:
     void FaultyFilesAreReported();
     void EmptyTextHasNoFile();
     void ExportsAgainToTheSamePlace();
-    void Refuses_data();
-    void Refuses();
+    void RefusesOtherDirectories_data();
+    void RefusesOtherDirectories();
     void RefusesToReplaceTheProgram();
     void FaultyImagesAreReported_data();
     void FaultyImagesAreReported();
@@ -279,7 +279,7 @@ void TestToolExport::ExportsAgainToTheSamePlace()
     QCOMPARE(FilesIn(Path("out")), files);
 }
 
-void TestToolExport::Refuses_data()
+void TestToolExport::RefusesOtherDirectories_data()
 {
     QTest::addColumn<QString>("directory");
     QTest::addColumn<QString>("message");
@@ -291,7 +291,7 @@ void TestToolExport::Refuses_data()
                                        << "neither empty nor an earlier export";
 }
 
-void TestToolExport::Refuses()
+void TestToolExport::RefusesOtherDirectories()
 {
     QFETCH(QString, directory);
     QFETCH(QString, message);

@@ -92,10 +92,10 @@ class TestToolHostile : public QObject
     Q_OBJECT
 
 private slots:
-    void Ends_data();
-    void Ends();
-    void Bounds_data();
-    void Bounds();
+    void EveryCommandEnds_data();
+    void EveryCommandEnds();
+    void BoundsAreKept_data();
+    void BoundsAreKept();
     void DocumentTypesAreRefused_data();
     void DocumentTypesAreRefused();
     void ExportWritesNothingBeyondTheBounds();
@@ -103,7 +103,7 @@ private slots:
     void OddTextsSurviveExport();
 };
 
-void TestToolHostile::Ends_data()
+void TestToolHostile::EveryCommandEnds_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::newRow("a hundred thousand unknown children") << ManyChildren("<foo/>", 100000);
@@ -129,7 +129,7 @@ void TestToolHostile::Ends_data()
         << ProgramOf("<clock type='digital'><time fontSize='2000000000'/></clock>");
 }
 
-void TestToolHostile::Ends()
+void TestToolHostile::EveryCommandEnds()
 {
     QFETCH(QByteArray, text);
     const QTemporaryDir directory;
@@ -151,7 +151,7 @@ void TestToolHostile::Ends()
 }
 
 // One program at each bound; its clock cannot be read, so that the player makes nothing of it.
-void TestToolHostile::Bounds_data()
+void TestToolHostile::BoundsAreKept_data()
 {
     QTest::addColumn<QByteArray>("text");
     const auto program = [](const QByteArray &content) {
@@ -172,7 +172,7 @@ void TestToolHostile::Bounds_data()
             + (full + "</clock></area>").repeated(1023) + "</program>";
 }
 
-void TestToolHostile::Bounds()
+void TestToolHostile::BoundsAreKept()
 {
     QFETCH(QByteArray, text);
     const QTemporaryDir directory;

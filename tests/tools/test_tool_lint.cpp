@@ -306,10 +306,10 @@ class TestToolLint : public QObject
     Q_OBJECT
 
 private slots:
-    void Clean_data();
-    void Clean();
-    void Finds_data();
-    void Finds();
+    void SoundProgramsHaveNoWarnings_data();
+    void SoundProgramsHaveNoWarnings();
+    void FaultsAreFound_data();
+    void FaultsAreFound();
     void EveryFindingIsReported();
     void NotesDoNotCount();
     void MissingZoneIsNoted_data();
@@ -331,7 +331,7 @@ private:
     QTemporaryDir m_directory;
 };
 
-void TestToolLint::Clean_data()
+void TestToolLint::SoundProgramsHaveNoWarnings_data()
 {
     QTest::addColumn<QByteArray>("text");
     const QDir examples(InTree("examples"));
@@ -369,7 +369,7 @@ void TestToolLint::Clean_data()
                       "<clock timezone='+00:00'/></area></program>");
 }
 
-void TestToolLint::Clean()
+void TestToolLint::SoundProgramsHaveNoWarnings()
 {
     QFETCH(QByteArray, text);
     const ProcessRun run = Lint(text);
@@ -378,7 +378,7 @@ void TestToolLint::Clean()
     QCOMPARE(run.output, QString());
 }
 
-void TestToolLint::Finds_data()
+void TestToolLint::FaultsAreFound_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<int>("line");
@@ -389,7 +389,7 @@ void TestToolLint::Finds_data()
     }
 }
 
-void TestToolLint::Finds()
+void TestToolLint::FaultsAreFound()
 {
     QFETCH(QByteArray, text);
     QFETCH(int, line);

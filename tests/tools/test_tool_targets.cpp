@@ -41,8 +41,8 @@ class TestToolTargets : public QObject
 
 private slots:
     void init();
-    void Fifo_data() { AddCommands(); }
-    void Fifo();
+    void FifoTakesTheOutput_data() { AddCommands(); }
+    void FifoTakesTheOutput();
     void NullDevice_data() { AddCommands(); }
     void NullDevice();
     void LinkedFile_data() { AddCommands(); }
@@ -87,7 +87,7 @@ void TestToolTargets::AddCommands()
     QTest::newRow("zone") << QStringList {"zone", "Europe/Berlin", "--year", "2026"};
 }
 
-void TestToolTargets::Fifo()
+void TestToolTargets::FifoTakesTheOutput()
 {
     QFETCH(QStringList, command);
     const QString fifo = Path("fifo");

@@ -25,18 +25,18 @@ class TestToolZone : public QObject
     Q_OBJECT
 
 private slots:
-    void Exact_data();
-    void Exact();
+    void SettingsOfExactZones_data();
+    void SettingsOfExactZones();
     void ExactForAWhile();
     void NotExact();
-    void Unknown_data();
-    void Unknown();
+    void UnknownNamesAreRefused_data();
+    void UnknownNamesAreRefused();
     void LintKnowsTheZone();
-    void List();
+    void ListsAllZones();
     void ToFile();
 };
 
-void TestToolZone::Exact_data()
+void TestToolZone::SettingsOfExactZones_data()
 {
     QTest::addColumn<QStringList>("values");
     QTest::newRow("Europe/Berlin")
@@ -48,7 +48,7 @@ void TestToolZone::Exact_data()
     QTest::newRow("Asia/Tokyo") << QStringList {"+09:00", "0", "", ""};
 }
 
-void TestToolZone::Exact()
+void TestToolZone::SettingsOfExactZones()
 {
     QFETCH(QStringList, values);
     const ProcessRun run = RunTool({"zone", QTest::currentDataTag(), "--year", "2026"});
@@ -91,7 +91,7 @@ void TestToolZone::NotExact()
     QCOMPARE(Settings(run.output)["DaylightSavingTimeStart"], QString("3.4.5.02:00:00"));
 }
 
-void TestToolZone::Unknown_data()
+void TestToolZone::UnknownNamesAreRefused_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("message");
@@ -116,7 +116,7 @@ void TestToolZone::Unknown_data()
                           << "no zone";
 }
 
-void TestToolZone::Unknown()
+void TestToolZone::UnknownNamesAreRefused()
 {
     QFETCH(QString, name);
     QFETCH(QString, message);
@@ -158,7 +158,7 @@ void TestToolZone::LintKnowsTheZone()
     QVERIFY2(unused.errors.contains("UseDaylightSavingTime is 0"), qPrintable(unused.errors));
 }
 
-void TestToolZone::List()
+void TestToolZone::ListsAllZones()
 {
     const ProcessRun run = RunTool({"zone", "--list"});
     QCOMPARE(run.exitCode, 0);
