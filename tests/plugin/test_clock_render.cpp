@@ -602,8 +602,8 @@ void TestClockRender::RendererGoneAsTheSizeIsAsked()
     QCOMPARE(m_messages->Lines(), QStringList());
 }
 
-// The frame is counted after it was shown and before the delay is told: at the tenth, the receiver of
-// the delay finds the clock running steadily.
+// The frame is counted after it was shown and before the delay is told: at the tenth, the receiver
+// of the delay finds the clock running steadily.
 void TestClockRender::StateWithinTheFrames()
 {
     m_render->Start(kId, 0); // shows the first
