@@ -70,7 +70,8 @@ private:
         Loss most;
         for (int i = 0; i < element.Count(); ++i) {
             const Piece &piece = element.At(i);
-            const QRect shown(piece.sourceX, 0, std::min(piece.width, element.Width() - piece.x),
+            const QRect shown(piece.sourceX, 0,
+                              std::min<int>(piece.width, element.Width() - piece.x),
                               element.Height());
             if (chosen.isEmpty() || chosen[i])
                 Take(most, piece, shown);

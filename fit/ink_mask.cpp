@@ -30,7 +30,7 @@ bool IsChosen(const QVector<bool> &chosen, int piece)
 // The part of a piece that its element shows, in the strip's pixels.
 QRect SourceOf(const Piece &piece, const Element &element)
 {
-    const int width = std::min(piece.width, element.Width() - piece.x);
+    const int width = std::min<int>(piece.width, element.Width() - piece.x);
     return {piece.sourceX, 0, width, std::min(piece.strip->Height(), element.Height())};
 }
 
@@ -211,7 +211,7 @@ QRect InkBounds::Of(const Element &element, const QVector<bool> &chosen)
         const QRect source = SourceOf(piece, element);
         if (!IsChosen(chosen, i) || source.isEmpty())
             continue;
-        piece.width = source.width();
+        piece.width = static_cast<quint16>(source.width());
         const QRect &ink = OfPiece(piece, source.height());
         if (!ink.isEmpty())
             bounds |= ink.translated(piece.x, 0);

@@ -12,14 +12,16 @@
 
 namespace Lw::HNodeClock {
 
-/// A full-height part of a strip and the x of its left edge in the element, in pixels.
+/// A full-height part of a strip and the x of its left edge in the element, in pixels. Clocks keep
+/// many.
 struct Piece
 {
     const GlyphStrip *strip = nullptr; ///< valid until the next SetUp() of its composer
     quint32 stripKey = 0;              ///< identifies the strip's contents, also after a set-up
     int sourceX = 0;
-    int width = 0;
-    int x = 0;
+    quint16 width = 0;
+    quint16 x = 0;
+    GlyphRows rows; ///< of the strip that show anything
 
     bool operator==(const Piece &other) const
     {
@@ -63,10 +65,16 @@ public:
         if (width <= 0)
             return;
         if (!m_size.isEmpty() && sourceX >= 0 && sourceX < strip.Width() && HasRoom()) {
-            const int present = qMin(width, strip.Width() - sourceX);
+            const int present = std::min({width, strip.Width() - sourceX, kImageSide});
+            const long long x = std::min<long long>(m_end, kImageSide); // of a lost one at most
             const bool visible = m_end < m_size.width();
             m_pieces[visible ? Index(m_count++) : m_pieces.size() - 1 - Index(m_lost++)] = {
-                &strip, strip.Key(), sourceX, present, static_cast<int>(m_end)};
+                &strip,
+                strip.Key(),
+                sourceX,
+                static_cast<quint16>(present),
+                static_cast<quint16>(x),
+                strip.ShownRows()};
         }
         m_end += width;
     }
@@ -86,7 +94,7 @@ public:
         }
         if (m_count > 0) {
             Piece &last = m_pieces[Index(m_count - 1)];
-            last.width = static_cast<int>(qMin<long long>(last.width, x - last.x));
+            last.width = static_cast<quint16>(qMin<long long>(last.width, x - last.x));
         }
     }
 

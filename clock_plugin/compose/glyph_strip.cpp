@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <atomic>
 #include <iterator>
+#include <limits>
 
 namespace Lw::HNodeClock {
 
@@ -30,6 +31,13 @@ quint32 NewKey()
 int WordsFor(int width)
 {
     return (width + kBits - 1) / kBits;
+}
+
+GlyphRows RowsBetween(int first, int end)
+{
+    constexpr int kMost = std::numeric_limits<quint16>::max();
+    return {static_cast<quint16>(std::min(first, kMost)),
+            static_cast<quint16>(std::min(end - first, kMost))};
 }
 
 // One spare word for two-word loads.
@@ -107,6 +115,7 @@ void GlyphPixels::Take(QImage image)
         return SetBytes(0);
     if (TakeInk(image))
         return SetBytes(InkBytes(m_size));
+    m_rows = RowsBetween(0, m_size.height());
     SetBytes(4LL * m_size.width() * m_size.height());
     m_pixmap = QPixmap::fromImage(std::move(image));
 }
@@ -124,6 +133,8 @@ bool GlyphPixels::TakeInk(const QImage &image)
     QVector<quint32> ink = NoInk(image.size());
     quint32 *row = ink.data();
     QRgb colour = 0;
+    int first = height;
+    int end = 0;
     for (int y = 0; y < height; ++y, row += words) {
         const auto *const pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         for (int x = 0; x < width; ++x) {
@@ -134,8 +145,11 @@ bool GlyphPixels::TakeInk(const QImage &image)
             if (pixels[x] != colour || qAlpha(colour) != 255)
                 return false;
             row[x / kBits] |= 1u << x % kBits;
+            first = std::min(first, y);
+            end = y + 1;
         }
     }
+    m_rows = RowsBetween(std::min(first, end), end);
     m_ink = ink;
     m_wordsPerRow = words;
     m_colour = colour;

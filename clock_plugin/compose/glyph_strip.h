@@ -19,6 +19,13 @@ namespace Lw::HNodeClock {
 
 class PictureFile;
 
+/// Rows of a glyph image, from the top.
+struct GlyphRows
+{
+    quint16 first = 0;
+    quint16 count = 0;
+};
+
 /// The pixels of a glyph image. Its bytes count towards GlyphBytesInProcess().
 class GlyphPixels
 {
@@ -52,6 +59,12 @@ public:
     /// last one.
     const quint32 *InkRow(int y) const { return m_ink.constData() + y * m_wordsPerRow; }
     QRgb InkColour() const { return m_colour; }
+    /// All but the rows above and below that are known to be transparent.
+    GlyphRows ShownRows()
+    {
+        Decode();
+        return m_rows;
+    }
     quint32 Key() const { return m_key; }
 
 private:
@@ -73,6 +86,7 @@ private:
     QSize m_size {0, 0};
     int m_wordsPerRow = 0; // of the ink; 0 where the image is not kept as ink
     QRgb m_colour = 0;
+    GlyphRows m_rows;
     QVector<quint32> m_ink;
     QPixmap m_pixmap; // created on first use for ink
 };
@@ -94,6 +108,7 @@ public:
     int Width() const { return Size().width(); }
     int Height() const { return Size().height(); }
     QSize Size() const { return m_pixels ? m_pixels->Size() : QSize(0, 0); }
+    GlyphRows ShownRows() const { return m_pixels ? m_pixels->ShownRows() : GlyphRows(); }
     /// Identifies the pixels; strips that share them have the same key. 0 without pixels.
     quint32 Key() const { return m_pixels ? m_pixels->Key() : 0; }
     /// Bytes in memory, shared by copies; an upper bound for an undecoded image.

@@ -9,6 +9,7 @@
 #include <QRegion>
 #include <QTest>
 
+#include <cstring>
 #include <memory>
 #include <random>
 
@@ -122,6 +123,7 @@ private Q_SLOTS:
     void HoursAroundMidnight();
     void SteadySecondsDamageLittle_data() { AddKinds(); }
     void SteadySecondsDamageLittle();
+    void RowsWithoutInkAreNotDamaged();
     void FirstFrames_data() { AddKinds(); }
     void FirstFrames();
     void TheSameFrameAgain();
@@ -173,6 +175,28 @@ void TestFrameDamage::SteadySecondsDamageLittle()
         if (second > 5) // texts with soft edges grow denser first
             QVERIFY(clock.DamagedPixels() < kSize.width() * kSize.height() / 2);
     }
+}
+
+// Glyph images are as high as their font, digits are not. In a minute each digit changes.
+void TestFrameDamage::RowsWithoutInkAreNotDamaged()
+{
+    ChosenTime::Set("2024-03-05T13:07:00");
+    PlayedClock clock(DigitalClock);
+    QRegion changed;
+    QRegion damaged;
+    for (int second = 1; second < 60; ++second) {
+        const QImage before = clock.Frame();
+        clock.PlaySecond();
+        damaged += clock.Damage();
+        for (int y = 0; y < kSize.height(); ++y) {
+            if (std::memcmp(before.constScanLine(y), clock.Frame().constScanLine(y),
+                            std::size_t(before.bytesPerLine()))
+                != 0)
+                changed += QRect(0, y, kSize.width(), 1);
+        }
+    }
+    QCOMPARE(damaged.boundingRect().top(), changed.boundingRect().top());
+    QCOMPARE(damaged.boundingRect().bottom(), changed.boundingRect().bottom());
 }
 
 void TestFrameDamage::FirstFrames()

@@ -8,7 +8,8 @@ namespace {
 
 QRect PieceRect(const Element &element, const QPoint &position, const Piece &piece)
 {
-    const QRect rect(position.x() + piece.x, position.y(), piece.width, element.Height());
+    const QRect rect(position.x() + piece.x, position.y() + piece.rows.first, piece.width,
+                     piece.rows.count);
     return rect & QRect(position, element.Size());
 }
 
