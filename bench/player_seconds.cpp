@@ -33,13 +33,21 @@ constexpr int kFirstSpeed = 50;
 constexpr int kSecond = 1000; // milliseconds
 constexpr long long kFrameBytes = 64 << 10;
 
+qint64 s_second = 0; // that the clocks show
+
+// The same seconds however slow the machine is: none is left out.
+long long TellSecond()
+{
+    StageTime::TellPlugin(); // costs what it does in the player
+    return kFirstInstant + s_second * kSecond;
+}
+
 /// What the process has taken since it began.
 struct Taken
 {
     ProcessCounts counts = CountsNow();
     double processor; // milliseconds of this thread
     long wakeUps;
-    double steady = StageTime::Steady();
 
     Taken()
     {
@@ -58,12 +66,11 @@ void Print(const char *name, double number)
 }
 
 // The counts of the start show that counting works.
-void Print(const Taken &begun, const Taken &ended, int presentations, double speed)
+void Print(const Taken &begun, const Taken &ended, int presentations, int seconds)
 {
     const ProcessCounts &from = begun.counts;
     const ProcessCounts &to = ended.counts;
-    const double seconds = (ended.steady - begun.steady) * speed / kSecond;
-    Print("presentations a second", presentations / seconds);
+    Print("presentations a second", double(presentations) / seconds);
     Print("wake-ups a second", double(ended.wakeUps - begun.wakeUps) / seconds);
     Print("processor ms a second", (ended.processor - begun.processor) / seconds);
     Print("allocations a second", double(to.allocations - from.allocations) / seconds);
@@ -79,44 +86,46 @@ void Complain(const QString &text)
     std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-void SetSpeed(double speed)
+// Returns when the first area has shown so many seconds, and says how often something was
+// presented.
+int Present(int seconds)
 {
-    StageTime::Travel().SetSpeed(speed, StageTime::Real());
-    Lw::pictureplayer::SetTimeScale(speed);
-}
-
-void Present(int presentations)
-{
+    constexpr unsigned int kFirstArea = 1;
+    const qint64 last = s_second + seconds;
+    int presentations = 0;
     QEventLoop loop;
-    auto *const window = qobject_cast<PlayerWindow *>(QGuiApplication::topLevelWindows().value(0));
-    QObject::connect(window, &PlayerWindow::Painted, &loop, [&loop, &presentations] {
-        if (--presentations <= 0)
+    const auto *const player = Lw::pictureplayer::ForIdentifier(kFirstArea);
+    const auto *const window =
+        qobject_cast<PlayerWindow *>(QGuiApplication::topLevelWindows().value(0));
+    QObject::connect(player, &Lw::pictureplayer::ImageUpdated, &loop, [] { ++s_second; });
+    QObject::connect(window, &PlayerWindow::Painted, &loop, [&] {
+        ++presentations;
+        if (s_second >= last)
             loop.quit();
     });
     loop.exec();
+    return presentations;
 }
 
 // By their names scripts/check-instructions knows what to count.
-__attribute__((noinline)) void PresentSteadySeconds(int seconds)
+__attribute__((noinline)) int PresentSteadySeconds(int seconds)
 {
-    Present(seconds);
+    return Present(seconds);
 }
 
 MaybeFailure MeasurePlayer(const Options &options, int seconds)
 {
-    StageTime::RunFrom(kFirstInstant);
-    SetSpeed(kFirstSpeed);
     WindowShow show(options, Playback::Travelling::Possible, Complain);
     const Result<Program> program = ReadProgram(options.programPath);
     if (const MaybeFailure failure = show.Play(program, SignatureOf(options.programPath)))
         return failure;
+    Lw::pictureplayer::SetTimeScale(kFirstSpeed);
     Present(kFirstSeconds);
-    SetSpeed(options.speed);
+    Lw::pictureplayer::SetTimeScale(options.speed);
     Present(1);
     const Taken begun;
-    PresentSteadySeconds(seconds);
-    Print(begun, Taken(), seconds, options.speed);
-    show.PrintStats();
+    const int presentations = PresentSteadySeconds(seconds);
+    Print(begun, Taken(), presentations, seconds);
     return std::nullopt;
 }
 
@@ -140,9 +149,9 @@ public:
                          [this](const QRegion &region) { m_changed.append(region); });
     }
 
-    void Show(qint64 instant)
+    void ShowNextSecond()
     {
-        StageTime::HoldAt(instant);
+        ++s_second;
         m_changed.clear();
         m_stage.PlayNext();
         const QVector<Layer> layers = m_stage.Layers();
@@ -161,17 +170,16 @@ private:
 __attribute__((noinline)) void DrawSteadySeconds(BareScreen &screen, int seconds, double speed)
 {
     const auto wait = static_cast<long>(1e9 / speed);
-    for (int i = 1; i <= seconds; ++i) {
+    for (int i = 0; i < seconds; ++i) {
         const timespec time {wait / 1000000000, wait % 1000000000};
         ::nanosleep(&time, nullptr);
-        screen.Show(kFirstInstant + qint64(kFirstSeconds + i) * kSecond);
+        screen.ShowNextSecond();
     }
 }
 
 MaybeFailure MeasureFloor(const Options &options, int seconds)
 {
     Lw::pictureplayer::SetTimeScale(0);
-    StageTime::HoldAt(kFirstInstant);
     const Result<Program> program = ReadProgram(options.programPath);
     if (!program)
         return program.Error();
@@ -180,11 +188,11 @@ MaybeFailure MeasureFloor(const Options &options, int seconds)
         return failure;
     stage.Start();
     BareScreen screen(stage);
-    for (int i = 1; i <= kFirstSeconds; ++i)
-        screen.Show(kFirstInstant + qint64(i) * kSecond);
+    for (int i = 0; i <= kFirstSeconds; ++i)
+        screen.ShowNextSecond();
     const Taken begun;
     DrawSteadySeconds(screen, seconds, options.speed);
-    Print(begun, Taken(), seconds, options.speed);
+    Print(begun, Taken(), seconds, seconds);
     return std::nullopt;
 }
 
@@ -198,7 +206,7 @@ MaybeFailure Measure(const QString &program, const QString &seconds, const QStri
     if (const MaybeFailure failure = LoadPlugins(
             QCoreApplication::applicationDirPath() + QStringLiteral("/../plugins"), warnings))
         return failure;
-    if (const MaybeFailure failure = SetTimeSource(&StageTime::TellPlugin))
+    if (const MaybeFailure failure = SetTimeSource(&TellSecond))
         return failure;
     const QTemporaryDir directory;
     Lw::HAppConfig::SetClockOutputPath(directory.path());

@@ -34,7 +34,7 @@ bool IsUndisturbed(const Counts &counts)
 {
     const double presentations = counts.value("presentations a second");
     const double wakeUps = counts.value("wake-ups a second");
-    return presentations > 0.9 && presentations < 1.1 && wakeUps > 0.9 && wakeUps <= 2;
+    return presentations >= 1 && presentations < 1.1 && wakeUps > 0.9 && wakeUps <= 2;
 }
 
 } // namespace
