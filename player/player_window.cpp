@@ -108,8 +108,11 @@ void PlayerWindow::Change(const QRegion &region)
 {
     if (region.isEmpty())
         requestUpdate();
-    for (const QRect &rect : region)
-        Renew(m_view.Placed(rect));
+    else if (m_view.IsPlain())
+        Renew(region.translated(m_view.Whole().topLeft()));
+    else
+        for (const QRect &rect : region)
+            Renew(m_view.Placed(rect));
 }
 
 // A window that cannot be seen is painted whole when it appears.

@@ -71,6 +71,13 @@ void CoverWith(const Layer &layer, const Rows &screen, const QRect &region,
     }
 }
 
+// Of most layers no more than this has to be found out.
+bool IsBeside(const QRect &a, const QRect &b)
+{
+    return a.left() > b.right() || a.right() < b.left() || a.top() > b.bottom()
+        || a.bottom() < b.top();
+}
+
 QRect ShownPart(const Layer &layer, const QRect &region)
 {
     return QRect(layer.geometry.topLeft(), layer.image.size()) & layer.geometry & region;
@@ -94,6 +101,8 @@ void ComposeScreen(QImage &picture, const QVector<Layer> &layers, const QRect &r
     const Rows screen(picture, origin);
     bool isBegun = false; // most regions have one layer, and are touched once
     for (const Layer &layer : layers) {
+        if (IsBeside(layer.geometry, visible))
+            continue;
         const QRect shown = ShownPart(layer, visible);
         if (shown.isEmpty())
             continue;

@@ -1,8 +1,11 @@
 #include "display/frames/spans.h"
 
+#include <QVarLengthArray>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
 
 namespace Lw::HNodeClock {
 
@@ -51,6 +54,19 @@ Spans::Row RowOf(const QPolygonF &outline, int top, int bottom, int width)
     return {static_cast<quint16>(first), static_cast<quint16>(std::max(first, beyond))};
 }
 
+// Empty where all rows are.
+Spans::Row BoundsOf(const Spans::Row *rows, int count)
+{
+    Spans::Row bounds {std::numeric_limits<quint16>::max(), 0};
+    for (int i = 0; i < count; ++i) {
+        if (rows[i].left >= rows[i].right)
+            continue;
+        bounds.left = std::min(bounds.left, rows[i].left);
+        bounds.right = std::max(bounds.right, rows[i].right);
+    }
+    return bounds;
+}
+
 } // namespace
 
 void Spans::Clear(int top)
@@ -81,19 +97,20 @@ void Spans::Set(const QPolygonF &outline, const QSize &image)
     }
 }
 
+// Bands begin at the same heights in every region, so that few arise when regions are united.
 QRegion Spans::Region() const
 {
-    constexpr int kRowsTogether = 16;
-    QRegion region;
-    for (int i = 0; i < m_rows.size();) {
-        const int first = i;
-        QRect rect;
-        for (; i < m_rows.size() && i - first < kRowsTogether; ++i) {
-            const Row &row = m_rows.at(i);
-            rect |= QRect(row.left, m_top + i, row.right - row.left, 1);
-        }
-        region += rect;
+    constexpr int kBandHeight = 16;
+    QVarLengthArray<QRect, 128> bands;
+    const int end = m_top + m_rows.size();
+    for (int top = m_top, next = top; top < end; top = next) {
+        next = std::min(end, (top / kBandHeight + 1) * kBandHeight);
+        const Row bounds = BoundsOf(m_rows.constData() + top - m_top, next - top);
+        if (bounds.left < bounds.right)
+            bands.append(QRect(bounds.left, top, bounds.right - bounds.left, next - top));
     }
+    QRegion region;
+    region.setRects(bands.constData(), bands.size());
     return region;
 }
 
