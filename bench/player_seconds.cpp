@@ -1,6 +1,7 @@
 // clock_player_seconds: steady seconds of the whole player, from its timer to the screen, and what
 // each of them takes of the process. With --floor the pictures are drawn and what changed in them
-// is copied, without a player, an event loop or a window: no player can take less.
+// is copied, without a player, an event loop or a window: no player can take less. Without a number
+// of seconds it is the start, and its floor an application with a font.
 #include "player.h"
 #include "plugins.h"
 #include "process_counts.h"
@@ -12,6 +13,7 @@
 #include "time_travel.h"
 
 #include <QCommandLineParser>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
@@ -196,12 +198,43 @@ MaybeFailure MeasureFloor(const Options &options, int seconds)
     return std::nullopt;
 }
 
-MaybeFailure Measure(const QString &program, const QString &seconds, const QString &speed,
-                     bool isFloor)
+double ProcessMilliseconds()
+{
+    timespec time {};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+}
+
+// Up to the first frame in the window.
+MaybeFailure MeasureStart(const Options &options)
+{
+    WindowShow show(options, Playback::Travelling::Possible, Complain);
+    const Result<Program> program = ReadProgram(options.programPath);
+    if (const MaybeFailure failure = show.Play(program, SignatureOf(options.programPath)))
+        return failure;
+    while (!QGuiApplication::topLevelWindows().constFirst()->isExposed())
+        QCoreApplication::processEvents();
+    Print("processor ms", ProcessMilliseconds());
+    return std::nullopt;
+}
+
+// What no program with texts can do without: an application, and a font.
+void MeasureBareStart()
+{
+    if (QFontMetrics(QFont(QStringLiteral("DejaVu Sans"))).horizontalAdvance(QLatin1Char('0')) > 0)
+        Print("processor ms", ProcessMilliseconds());
+}
+
+struct Request
 {
     Options options;
-    options.programPath = program;
-    options.speed = qBound(kMinimumSpeed, speed.toDouble(), double(kMaximumSpeed));
+    int seconds; ///< 0 for the start
+    bool isFloor;
+    QString files; ///< where the glyph images are; empty: none are there
+};
+
+MaybeFailure Measure(const Request &request)
+{
     QStringList warnings;
     if (const MaybeFailure failure = LoadPlugins(
             QCoreApplication::applicationDirPath() + QStringLiteral("/../plugins"), warnings))
@@ -209,10 +242,12 @@ MaybeFailure Measure(const QString &program, const QString &seconds, const QStri
     if (const MaybeFailure failure = SetTimeSource(&TellSecond))
         return failure;
     const QTemporaryDir directory;
-    Lw::HAppConfig::SetClockOutputPath(directory.path());
+    Lw::HAppConfig::SetClockOutputPath(request.files.isEmpty() ? directory.path() : request.files);
     SetFrameBytes(kFrameBytes);
-    return isFloor ? MeasureFloor(options, seconds.toInt())
-                   : MeasurePlayer(options, seconds.toInt());
+    if (request.seconds == 0)
+        return MeasureStart(request.options);
+    return request.isFloor ? MeasureFloor(request.options, request.seconds)
+                           : MeasurePlayer(request.options, request.seconds);
 }
 
 } // namespace
@@ -224,15 +259,23 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.addPositionalArgument(QStringLiteral("PROGRAM SECONDS SPEED"), {});
+    parser.addPositionalArgument(QStringLiteral("PROGRAM [SECONDS SPEED]"),
+                                 QStringLiteral("without SECONDS: the start"));
     const QCommandLineOption floor(QStringLiteral("floor"));
-    parser.addOption(floor);
+    const QCommandLineOption files(QStringLiteral("files-dir"), {}, QStringLiteral("DIRECTORY"));
+    parser.addOptions({floor, files});
     parser.process(application);
     const QStringList arguments = parser.positionalArguments();
-    if (arguments.size() != 3)
+    if (arguments.size() != 1 && arguments.size() != 3)
         parser.showHelp(2);
-    const MaybeFailure failure =
-        Measure(arguments[0], arguments[1], arguments[2], parser.isSet(floor));
+    Request request {{}, arguments.value(1).toInt(), parser.isSet(floor), parser.value(files)};
+    request.options.programPath = arguments.first();
+    request.options.speed = qBound(kMinimumSpeed, arguments.value(2).toDouble(), 1e3);
+    if (request.seconds == 0 && request.isFloor) {
+        MeasureBareStart();
+        return 0;
+    }
+    const MaybeFailure failure = Measure(request);
     if (failure)
         Complain(failure->text);
     return failure ? 1 : 0;
