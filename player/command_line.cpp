@@ -16,7 +16,7 @@ using namespace ClockStage;
 
 namespace {
 
-/// Checks what the options say, one after the other; the first thing wrong is kept.
+/// Reads and checks the options in order; keeps the first error.
 class OptionReader
 {
 public:
@@ -159,7 +159,7 @@ private:
             return;
         bool isNumber = false;
         m_options.speed = Value(kSpeed).toDouble(&isNumber);
-        // What is not a number is not within the bounds either.
+        // Written so that NaN fails.
         if (!isNumber || !(m_options.speed >= kMinimumSpeed && m_options.speed <= kMaximumSpeed))
             Fail(QStringLiteral("--%1 needs a number from %2 to %3, not \"%4\"")
                      .arg(QLatin1String(kSpeed), QString::number(kMinimumSpeed),

@@ -1,4 +1,4 @@
-// What the person at the shell asked for.
+// player/: parses the command line into Options.
 #pragma once
 
 #include "failure.h"
@@ -28,28 +28,28 @@ struct Options
     QString language;        ///< empty: the locale's
     QString platform;        ///< Qt platform plugin; empty: Qt's own choice
     int frames = kDefaultFrames;
-    int magnification = 1; ///< pixels of the frames' files a pixel of the screen, each way
-    int ledPitch = 0;      ///< pixels from diode to diode; 0: no preview of diodes
-    double speed = 1;      ///< seconds of the clocks for each real one
+    int magnification = 1; ///< pixels in the PNG file per screen pixel, in each direction
+    int ledPitch = 0;      ///< LED pitch in pixels; 0: no LED preview
+    double speed = 1;      ///< clock seconds per real second
     std::optional<qint64> startInstant; ///< UTC milliseconds; nothing: the system's time
-    bool usesFiles = false;             ///< the glyph files that came with the program
+    bool usesFiles = false;             ///< uses the program's own glyph files and generates none
     QPoint offset;                      ///< of the picture in its window, pixels
     int turn = 0;                       ///< of the picture, degrees clockwise: 0, 90, 180 or 270
     QString statusFile;                 ///< empty: none
-    bool isKiosk = false;               ///< nobody attends the device
-    bool requiresTime = false;          ///< shows no clock until the device's clock is set
+    bool isKiosk = false;               ///< the device is unattended
+    bool requiresTime = false;          ///< shows no clocks until the system clock is set
     bool allowsLargeFrames = false;     ///< beyond ClockProgram::kUsualFrameBytes
-    bool watchesProgram = false;        ///< plays the file again whenever it changes
-    bool printsStats = false;           ///< of the deadline meter, at the end
-    bool checkDisplay = false;          ///< only find out whether the display can be reached
+    bool watchesProgram = false;        ///< reloads the program file when it changes
+    bool printsStats = false;           ///< prints the deadline statistics at the end
+    bool checkDisplay = false;          ///< only checks whether the display can be opened
 
     bool WritesFrames() const { return !outputDirectory.isEmpty(); }
 };
 
-/// Called with each sentence that the person at the shell should read.
+/// Called with each message for the user.
 using Warn = std::function<void(const QString &)>;
 
-/// A text that was asked for instead of playing.
+/// The text of --help or --version, to be printed instead of playing.
 struct Information
 {
     QString text;
@@ -57,7 +57,7 @@ struct Information
 
 using CommandLine = std::variant<Options, Information, ClockProgram::Failure>;
 
-/// Reads the arguments, the program's own name first. Needs an application object.
+/// Parses the arguments, including the program name. Needs an application object.
 CommandLine ParseCommandLine(const QStringList &arguments);
 
 } // namespace ClockPlayer

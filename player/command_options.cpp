@@ -52,7 +52,7 @@ struct OptionRow
     const char *letter; ///< its short form; null: none
     const char *value;  ///< what its value is called; null: it takes none
     const char *help;
-    double numbers[2] = {}; ///< that stand in the help; 0: none
+    double numbers[2] = {}; ///< inserted into the help for %1 and %2; 0: none
 };
 
 // clang-format off
@@ -117,7 +117,7 @@ QString HelpOf(const OptionRow &row)
 {
     QString help = QString::fromLatin1(row.help);
     for (const double number : row.numbers) {
-        constexpr int kDigits = 7; // no power of ten up to a million frames
+        constexpr int kDigits = 7; // no exponent notation up to a million
         if (number != 0)
             help = help.arg(number, 0, 'g', kDigits);
     }

@@ -1,5 +1,5 @@
-// The options of the command line: the names of those that only the player has, and what --help
-// says of all.
+// player/: the player's own command-line options: their names, and the text of --help
+// for all options.
 #pragma once
 
 #include <QtGlobal>
@@ -26,12 +26,12 @@ inline constexpr char kPluginDir[] = "plugin-dir";
 inline constexpr char kFilesDir[] = "files-dir";
 inline constexpr char kUseFiles[] = "use-files";
 inline constexpr char kPlatform[] = "platform";
-// For scripts that start the player: what to play, and where to write, when nothing was said.
+// Hidden options for the script `run`: defaults for the program and the output directory.
 inline constexpr char kDefaultProgram[] = "default-program";
 inline constexpr char kDefaultOutput[] = "default-output";
 inline constexpr char kCheckDisplay[] = "check-display";
 
-/// What the one argument is called.
+/// The name of the positional argument.
 inline constexpr char kProgramArgument[] = "PROGRAM.xml";
 
 /// Adds the options, the description and the one argument.

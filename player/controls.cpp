@@ -14,9 +14,9 @@ constexpr qint64 kDay = 24 * kHour;
 struct KeyRow
 {
     int key;
-    bool isShifted; ///< of arrow keys; with the others Shift makes no difference
+    bool isShifted; ///< arrow keys only; other keys ignore Shift
     Command command;
-    const char *name; ///< null: told in the row above
+    const char *name; ///< null: listed in the row above
     const char *meaning;
 };
 

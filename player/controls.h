@@ -1,4 +1,4 @@
-// The keys of the window: what each one does, and what people are told of them. Pure.
+// player/: the keys of the window: the command of each one, and the help text about them. Pure.
 #pragma once
 
 #include <QString>
@@ -10,13 +10,13 @@
 namespace ClockPlayer {
 
 enum class Control {
-    Pause,     ///< or go on
+    Pause,     ///< or resume
     Step,      ///< to another instant
     Now,       ///< back to the present
-    NextClock, ///< the clock that the status tells of
+    NextClock, ///< select the next clock for the status
     Stats,     ///< of the deadline meter, to standard error
-    Status,    ///< shown within the window, or no longer
-    Help,      ///< the same of the keys
+    Status,    ///< show or hide it in the window
+    Help,      ///< show or hide the list of keys
     Quit,
 };
 
@@ -26,10 +26,10 @@ struct Command
     qint64 step; ///< milliseconds
 };
 
-/// What a pressed key (Qt::Key) with its modifiers asks for.
+/// The command of a key (Qt::Key) with its modifiers; nothing if it has none.
 std::optional<Command> CommandOf(int key, Qt::KeyboardModifiers modifiers);
 
-/// One line a key.
+/// One line per key or pair of keys.
 QString KeysText();
 
 } // namespace ClockPlayer

@@ -14,8 +14,8 @@ namespace {
 
 using Lw::HNodeClock::kMillisecondsPerSecond;
 
-// By less than this the system's clock may differ from the steady one between two frames before it
-// counts as stepped.
+// If the system clock and the monotonic one differ by more than this (milliseconds) between two
+// frames, it counts as stepped.
 constexpr double kStep = 250;
 
 QString Line(const QString &name, const Spread &spread)

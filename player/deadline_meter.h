@@ -1,5 +1,5 @@
-// How long frames take to draw, and how long after its whole second each one is seen. Pure: all
-// times are arguments, in milliseconds.
+// player/: measures how long frames take to draw, and how long after its whole second each one
+// appears. Pure: all times are arguments, in milliseconds.
 #pragma once
 
 #include <QString>
@@ -11,8 +11,8 @@
 
 namespace ClockPlayer {
 
-/// Least, middle, 99th percentile and greatest. Middle and percentile are the nearest ranks among
-/// the newest 86400 numbers, a day of seconds; the others are of all.
+/// Minimum, median, 99th percentile and maximum. Median and percentile are nearest ranks among
+/// the newest 86400 numbers, one day; minimum and maximum are over all.
 class Spread
 {
 public:
@@ -22,7 +22,8 @@ public:
     bool IsEmpty() const { return m_kept.isEmpty(); }
     double Minimum() const { return m_minimum; }
     double Maximum() const { return m_maximum; }
-    /// The smallest kept number that the given share of them does not exceed.
+    /// The nearest-rank percentile: the smallest number that at least this share of them does not
+    /// exceed.
     double Percentile(int percent) const;
     double Median() const { return Percentile(50); }
 
@@ -37,8 +38,8 @@ private:
 struct SeenFrame
 {
     qint64 instant = 0; ///< UTC milliseconds that it was drawn for
-    double begun = 0;   ///< when, by a clock that only ever runs,
-    double seen = 0;    ///< and when it had reached the display
+    double begun = 0;   ///< when drawing began, in milliseconds of the monotonic clock
+    double seen = 0;    ///< when it had reached the display, by the same clock
     double drawing = 0; ///< spent on drawing
     double speed = 1;   ///< shown seconds for each real one
 };
@@ -46,25 +47,26 @@ struct SeenFrame
 class DeadlineMeter
 {
 public:
-    /// A frame that nobody waited for: it was drawn, and was not late.
+    /// A frame without a deadline: only its drawing time counts.
     void Drew(double milliseconds);
-    /// The first frame after a jump, and one that shows no later second than the one before, have
-    /// no whole second to be late for.
+    /// Counts a frame shown on the display. The first one after a jump, and one that shows the same
+    /// second again, have no lateness.
     void Saw(const SeenFrame &frame);
-    /// Time was changed on purpose, or nobody could see: the next frame is a first one.
+    /// The time was changed on purpose, or the window was hidden: the next frame counts as the
+    /// first.
     void Jumped() { m_last.reset(); }
 
-    /// Seconds between two frames that no frame showed.
+    /// Seconds skipped between two frames.
     qint64 MissedSeconds() const { return m_missedSeconds; }
-    /// Times that the system's clock was found stepped between two frames.
+    /// How often the system clock was stepped between two frames.
     int ClockSteps() const { return m_clockSteps; }
-    /// Presentations of a second that was on the display already: an area came late.
+    /// Repeated presentations of the same second, when an area was late.
     int SecondPresentations() const { return m_secondPresentations; }
     int Frames() const { return m_frames; }
     const Spread &Drawing() const { return m_drawing; }
     const Spread &Lateness() const { return m_lateness; } ///< in real milliseconds
 
-    /// All of it in lines for people, and for programs that look for "missed seconds: 0".
+    /// The statistics as lines of text; scripts search for "missed seconds: 0".
     QStringList Report() const;
 
 private:

@@ -40,7 +40,7 @@ void SetEcho(int terminal, bool isOn)
 void Write(int terminal, const char *text)
 {
     if (::write(terminal, text, std::strlen(text)) < 0)
-        return; // a terminal that goes away needs no cursor
+        return; // ignored: the terminal has gone
 }
 
 } // namespace
@@ -70,14 +70,15 @@ void NotifyService(const char *state)
 
 MaybeFailure WriteStatus(const QString &path, const QJsonObject &status)
 {
-    return WriteFile(path, QJsonDocument(status).toJson(), Targets::OrdinaryFiles);
+    return WriteFile(path, QJsonDocument(status).toJson(), Targets::RegularFiles);
 }
 
 QuietConsole::QuietConsole() : m_terminal(::open("/dev/tty", O_RDWR | O_NOCTTY | O_CLOEXEC))
 {
     if (m_terminal < 0)
         return;
-    std::signal(SIGTTOU, SIG_IGN); // in the background, to change a terminal would stop the process
+    std::signal(SIGTTOU,
+                SIG_IGN); // changing the terminal from the background would stop the process
     SetEcho(m_terminal, false);
     Write(m_terminal, kHideCursor);
 }

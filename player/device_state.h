@@ -1,5 +1,5 @@
-// player/: what the player says about itself to the device: its clock, the service manager, the
-// status.
+// player/: talks to the device: asks whether its clock is set, notifies the service manager, writes
+// the status file.
 #pragma once
 
 #include "failure.h"
@@ -12,22 +12,22 @@
 
 namespace ClockPlayer {
 
-/// Whether the kernel says that the system's clock is synchronised; nothing where it must not be
-/// asked.
+/// Whether the kernel reports the system clock as synchronised; nullopt if the process may not
+/// ask.
 std::optional<bool> IsTimeSynchronised();
 
-/// Whether the system's clock can be right: it is after this build, and the kernel does not say
-/// that it is unsynchronised.
+/// Whether the system clock is plausible: it is later than the build time, and the kernel does not
+/// report it as unsynchronised.
 bool IsTimeSet();
 
-/// Tells the service manager, where one started the process: "READY=1", "WATCHDOG=1", "STATUS=...".
+/// Sends a state to the service manager, if any: "READY=1", "WATCHDOG=1", "STATUS=...".
 void NotifyService(const char *state);
 
 /// Replaces a file with a JSON object, whole or not at all. What is not an ordinary file fails.
 ClockProgram::MaybeFailure WriteStatus(const QString &path, const QJsonObject &status);
 
-/// Hides the text cursor of the console that the process was started on, and what is typed there,
-/// as long as one lives.
+/// Hides the text cursor and the typed input of the controlling terminal
+/// while it exists.
 class QuietConsole
 {
 public:

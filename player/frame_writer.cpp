@@ -24,7 +24,7 @@ MaybeFailure SaveFrame(const QImage &screen, const QString &path)
 {
     QBuffer png;
     if (screen.save(&png, "PNG"))
-        return WriteFile(path, png.data(), Targets::OrdinaryFiles);
+        return WriteFile(path, png.data(), Targets::RegularFiles);
     return Failure {ExitCode::RuntimeFailure,
                     QStringLiteral("%1: no memory for a PNG file of the frame").arg(path)};
 }

@@ -1,4 +1,4 @@
-// What the player says of glyph images that went wrong.
+// player/: reports glyph images that failed, as the player's warnings or failure.
 #pragma once
 
 #include "failure.h"
@@ -13,9 +13,9 @@ class HNode;
 
 namespace ClockPlayer {
 
-/// For nodes whose images are loaded. Warns of letters that no font has, and of images that are
-/// left out for their memory; fails where images are blank, or could not be written, so that nothing
-/// or something older is shown.
+/// For nodes whose images are loaded. Warns of characters that no font has, and of images
+/// left out because of their memory; fails if images are blank or could not be written, so that
+/// nothing or something older is shown.
 ClockProgram::MaybeFailure CheckGlyphs(const QVector<Lw::HNode *> &nodes,
                                        const QString &programPath, const Warn &warn);
 

@@ -1,4 +1,4 @@
-// clock_player: plays content programs as the display's host does.
+// player/: clock_player: main program. Chooses the platform, reads the program and plays it.
 #include "player.h"
 
 #include "command_support.h"
@@ -34,7 +34,7 @@ int Report(const Failure &failure)
     return static_cast<int>(failure.code);
 }
 
-// In a kiosk: the process begins again, for what was missing may have come.
+// In a kiosk: restarts the process, as what was missing may now be there.
 void StartAgain()
 {
     if (!g_kioskArguments)
@@ -60,8 +60,8 @@ int FailWithoutDisplay()
     return static_cast<int>(ExitCode::RuntimeFailure);
 }
 
-// Qt ends the process from within the application's constructor when it reaches no display. Its
-// warnings up to there are of interest only then.
+// Without a display, Qt ends the process inside the application's constructor. Its
+// earlier warnings are printed only in that case.
 void NoteComplaint(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     static QStringList complaints;
@@ -74,7 +74,7 @@ void NoteComplaint(QtMsgType type, const QMessageLogContext &, const QString &me
     std::_Exit(static_cast<int>(ExitCode::RuntimeFailure));
 }
 
-// Later it ends the process where it lost its display, or cannot go on for another reason.
+// After that, Qt ends the process when it loses the display or on another fatal error.
 void EndTidily(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type != QtFatalMsg) {
@@ -88,7 +88,7 @@ void EndTidily(QtMsgType type, const QMessageLogContext &context, const QString 
 
 CommandLine ReadCommandLine(int argc, char **argv)
 {
-    // The application proper needs a display, which nobody needs for the help text.
+    // A QGuiApplication needs a display, but --help must work without one.
     const QCoreApplication application(argc, argv);
     return ParseCommandLine(QCoreApplication::arguments());
 }

@@ -28,7 +28,7 @@ const Row &RowOf(Notice notice)
 constexpr int kCellWidth = 6; // a letter and the gap after it
 constexpr int kLetterWidth = 5;
 constexpr int kLetterHeight = 7;
-constexpr int kCodeSize = 3; // of the code's pixels, beside those of the text
+constexpr int kCodeScale = 3; // size of the code relative to the text
 constexpr QRgb kPaper = qRgb(0, 0, 64);
 constexpr QRgb kInk = qRgb(255, 255, 255);
 
@@ -75,7 +75,7 @@ int WidthOf(const QString &text)
     return text.size() * kCellWidth - 1;
 }
 
-// Each pixel of the letters is a square of so many a side.
+// Each pixel of the letters is painted as a square of `side` pixels.
 void PaintText(QPainter &painter, QPoint topLeft, const QString &text, int side)
 {
     for (int i = 0; i < text.size(); ++i) {
@@ -108,12 +108,12 @@ QImage NoticePicture(Notice notice, QSize size)
     picture.fill(kPaper);
     const QString code = NoticeCode(notice);
     const QString text = NoticeText(notice);
-    constexpr int kLines = kLetterHeight * (kCodeSize + 1) + 3; // with the space between both
+    constexpr int kLines = kLetterHeight * (kCodeScale + 1) + 3; // with the space between both
     const int fitting = std::min(size.width() / (WidthOf(text) + 2), size.height() / (kLines + 2));
     const int side = std::max(1, fitting);
     QPainter painter(&picture);
     const int top = (size.height() - kLines * side) / 2;
-    const int codeSide = side * kCodeSize;
+    const int codeSide = side * kCodeScale;
     PaintText(painter, {(size.width() - WidthOf(code) * codeSide) / 2, top}, code, codeSide);
     PaintText(
         painter,

@@ -1,4 +1,4 @@
-// player/: what a screen shows where there is no wall to show. It needs no fonts and no files.
+// player/: the notices that a kiosk shows instead of a program, drawn without fonts or files.
 #pragma once
 
 #include <QImage>
@@ -7,11 +7,12 @@
 
 namespace ClockPlayer {
 
-/// Why no program plays. The codes are documented for people who read them from a photograph.
+/// Why no program plays. The codes are documented, so that a photograph of the screen is enough to
+/// tell the cause.
 enum class Notice {
     NoProgram,    ///< P1: the program file cannot be read
     WrongProgram, ///< P2: the program cannot be played
-    NoPlugin,     ///< P3: no plugin could be loaded, or no directory for the glyph images made
+    NoPlugin,     ///< P3: no plugin could be loaded, or no directory for the glyph images
     NoGlyphs,     ///< G1: glyph images are missing, and the clocks would lack texts
     TimeNotSet,   ///< T1: the device's clock is not set
 };

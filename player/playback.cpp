@@ -12,7 +12,7 @@ using namespace ClockStage;
 
 namespace {
 
-constexpr int kTitleInterval = 20; // milliseconds; where time runs fast, titles change no oftener
+constexpr int kTitleInterval = 20; // milliseconds; the title changes at most this often
 
 } // namespace
 
@@ -35,7 +35,7 @@ void Playback::Play(std::unique_ptr<Stage> stage)
     connect(stage.get(), &Stage::Changed, this, &Playback::NotePicture);
     stage->Start();
     m_window.SetStage(*stage);
-    m_stage = std::move(stage); // the one before is deleted last: the window showed it
+    m_stage = std::move(stage); // deletes the previous stage last, as the window was showing it
     ReadClocks();
     ShowStatus();
 }
@@ -89,8 +89,8 @@ void Playback::Travel(const Command &command)
     ShowTravelledTime();
 }
 
-// Each area draws now, and thereby waits anew: for its next second at the speed there is now, or
-// for nothing.
+// Each area redraws now and thereby restarts its timer for the new speed, or stops it when
+// paused.
 void Playback::ShowTravelledTime()
 {
     const TimeTravel &travel = StageTime::Travel();
@@ -101,7 +101,7 @@ void Playback::ShowTravelledTime()
         m_stage->PlayNext();
 }
 
-// What waits for the end of a second would show the old time until then.
+// Otherwise the old time would stay until the pending timers fire.
 void Playback::FollowSteppedClock()
 {
     if (m_stage && StageTime::Travel().IsPresent())

@@ -1,5 +1,5 @@
-// What happens in the window while a program plays: keys travel in time, the title tells where,
-// and every frame is measured.
+// player/: plays a stage in the window: executes its keys, updates title and overlay, and measures
+// every frame.
 #pragma once
 
 #include "controls.h"
@@ -28,22 +28,25 @@ class Playback : public QObject
     Q_OBJECT
 
 public:
-    enum class Travelling { Possible, Impossible }; ///< the plugins take the time from the player
+    enum class Travelling {
+        Possible,
+        Impossible
+    }; ///< whether the plugins take their time from the player
 
     Playback(PlayerWindow &window, Travelling travelling);
     ~Playback() override;
 
-    /// Plays a stage that was built. What played before is shown until the first pictures of the
+    /// Plays a stage that was built. The previous one is shown until the first pictures of the
     /// new stage are drawn.
     void Play(std::unique_ptr<ClockStage::Stage> stage);
-    /// Ends what plays; the window shows something else.
+    /// Stops playing and deletes the stage; the window must already show something else.
     void Clear();
     const ClockStage::Stage *Playing() const { return m_stage.get(); } ///< null: nothing plays
     const DeadlineMeter &Meter() const { return m_meter; }
 
 Q_SIGNALS:
     void StatsWanted();
-    void Presented(); ///< what changed is on the display
+    void Presented(); ///< the changes are on the display
 
 private:
     void Obey(const Command &command);
@@ -68,7 +71,7 @@ private:
     ClockStage::ZoneMemory m_zoneMemory;
     QVector<Lw::HNodeClock::ZoneSettings> m_clocks; ///< of the stage; they stay as it began
     QElapsedTimer m_sinceTitle;
-    int m_clock = 0; ///< that the status tells of
+    int m_clock = 0; ///< shown in the status, from 0; modulo the number of clocks
     bool m_showsStatus = false;
     bool m_showsHelp = false;
 };

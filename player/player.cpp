@@ -58,7 +58,7 @@ MaybeFailure PrepareDirectory(const QString &path)
     return RuntimeFailure(QStringLiteral("%1: cannot write to this directory%2").arg(path, reason));
 }
 
-// The glyph images go to the directory that was named, or to a temporary one.
+// Glyph images go to --files-dir, or to a temporary directory.
 MaybeFailure PrepareFiles(const Options &options)
 {
     QString directory = options.filesDirectory;
@@ -79,8 +79,8 @@ Failure Interrupted()
     return RuntimeFailure(QStringLiteral("interrupted"));
 }
 
-// To make the images of large texts takes seconds, in which no event is handled: the service
-// manager is told that the process is alive, and may go on.
+// Generating the images of large texts takes seconds without returning to the event loop, so the
+// service manager is told here that the process is alive.
 void GoOnBetweenImages()
 {
     constexpr int kNotifyInterval = 1000; // milliseconds
@@ -104,7 +104,7 @@ void QuitFramesBetweenImages()
     std::_Exit(static_cast<int>(Interrupted().code));
 }
 
-// Without a time source in any plugin the clocks can still show the present.
+// If no plugin accepts a time source, the clocks can still show the present.
 MaybeFailure InstallTimeSource(const Options &options, Playback::Travelling &travelling)
 {
     const MaybeFailure failure = SetTimeSource(&StageTime::TellPlugin);
@@ -174,7 +174,7 @@ MaybeFailure PlayToFiles(const Options &options, const Program &program, const W
     const SignalPipe reportSignal({SIGUSR1}, SignalPipe::Times::Always);
     const auto print = [&meter, &warn] { PrintReport(meter, warn); };
     QObject::connect(&reportSignal, &SignalPipe::Received, print);
-    // Nobody waits for the seconds: the frame writer has each picture drawn itself.
+    // No timers: WriteFrames() triggers each picture itself.
     Lw::pictureplayer::SetTimeScale(0);
     FrameRun run = FrameRunOf(options);
     run.meter = &meter;
@@ -197,7 +197,7 @@ MaybeFailure PlayToFiles(const Options &options, const Program &program, const W
 void PrepareEnvironment()
 {
     FixFontResolution();
-    // What has changed is shown at once, not gathered for five milliseconds.
+    // Shows changes immediately instead of after Qt's default delay of five milliseconds.
     if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
         qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
 }

@@ -1,4 +1,4 @@
-// Plays a program from its beginning to its end.
+// player/: plays a program on the display or into frames, as the options say.
 #pragma once
 
 #include "command_line.h"
@@ -8,12 +8,13 @@
 
 namespace ClockPlayer {
 
-/// How Qt measures fonts and presents windows. To be called before the application is constructed.
+/// Sets the environment variables for Qt's font resolution and update delay. Call before the
+/// application is constructed.
 void PrepareEnvironment();
 
-/// Plays on the display until the window is closed or the process is asked to end; or writes the
-/// frames. Only a kiosk takes a program that could not be read. The signature is the program file's
-/// before it was read. Needs a QGuiApplication.
+/// Plays on the display until the window is closed or a signal asks the process to quit; or writes
+/// the frames. Only a kiosk accepts a program that could not be read. The signature is that of the
+/// program file before reading it. Needs a QGuiApplication.
 ClockProgram::MaybeFailure Play(const Options &options,
                                 const ClockProgram::Result<ClockProgram::Program> &program,
                                 const FileSignature &signature, const Warn &warn);

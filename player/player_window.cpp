@@ -103,7 +103,7 @@ void PlayerWindow::ShowAlone()
     showFullScreen();
 }
 
-// A second in which nothing changes is presented too, so that it can be counted.
+// Unchanged seconds are presented too, so that the meter counts them.
 void PlayerWindow::Change(const QRegion &region)
 {
     if (region.isEmpty())
@@ -156,7 +156,7 @@ void PlayerWindow::keyPressEvent(QKeyEvent *event)
     if (m_isAlone)
         return;
     const std::optional<Command> command = CommandOf(event->key(), event->modifiers());
-    // A key that is held down steps on and on, and does nothing else twice.
+    // Auto-repeat applies only to stepping.
     if (command && (!event->isAutoRepeat() || command->control == Control::Step))
         emit Commanded(*command);
 }
@@ -192,7 +192,7 @@ void PlayerWindow::Paint(QPaintDevice &device, const QRegion &region)
 void PlayerWindow::PaintScreen(QPaintDevice &device, const QRegion &region)
 {
     const QRect picture = m_view.Whole();
-    // Some platforms make the window larger than the screen that plays.
+    // Some platforms make the window larger than the program's screen.
     if (!picture.contains(region.boundingRect())) {
         QPainter painter(&device);
         for (const QRect &outside : region - picture)

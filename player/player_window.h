@@ -1,4 +1,4 @@
-// Shows the screen of a stage in a window, or on a framebuffer through Qt's platform plugins.
+// player/: the window, or framebuffer, that shows a stage.
 #pragma once
 
 #include "controls.h"
@@ -18,7 +18,7 @@ class Stage;
 
 namespace ClockPlayer {
 
-/// As large as the stage's screen, pixel for pixel or diode for pixel; or the whole display. What
+/// As large as the stage's screen, magnified by the LED pitch if any; or the whole display. What
 /// changed is composed straight into the picture that the platform brings to the display.
 class PlayerWindow : public QWindow
 {
@@ -29,13 +29,13 @@ public:
 
     /// Shows this stage from now on. It must live until it is replaced or the window is deleted.
     void SetStage(const ClockStage::Stage &stage);
-    /// Shows a notice until the next stage, and forgets the one before.
+    /// Shows a notice until the next SetStage(); the current stage is no longer used.
     void ShowNotice(Notice notice);
-    /// The whole display, without a cursor, and keys do nothing.
+    /// Shows the window full screen without a cursor; keys are ignored.
     void ShowAlone();
     /// Paints all of the window again, soon.
     void Renew() { Renew(QRect(QPoint(), size())); }
-    /// What the stage covers of the window.
+    /// The rectangle of the window that the stage covers, in pixels.
     QRect Picture() const { return m_view.Whole(); }
 
     /// Text over the lower part of the picture; empty for none.
@@ -44,7 +44,8 @@ public:
 Q_SIGNALS:
     void Commanded(const ClockPlayer::Command &command);
     void AboutToPaint();
-    /// What changed is on the display now. Milliseconds of StageTime::Steady().
+    /// Changes are on the display now. `begun` is when painting began, in milliseconds of
+    /// StageTime::Steady().
     void Painted(double begun);
 
 protected:

@@ -1,4 +1,4 @@
-// The content plugins that the player has loaded.
+// player/: loads and uses the content plugins.
 #pragma once
 
 #include "command_line.h"
@@ -13,17 +13,17 @@ class Stage;
 
 namespace ClockPlayer {
 
-/// Loads all plugins of a directory. Fails when not one could be loaded; files that were refused
+/// Loads all plugins of a directory. Fails if none could be loaded; rejected files
 /// beside good ones are reported as warnings.
 ClockProgram::MaybeFailure LoadPlugins(const QString &directory, QStringList &warnings);
 
-/// Gives the plugins that know a time another source of it. Fails when none does.
+/// Sets the time source of all plugins that support one. Fails if none does.
 ClockProgram::MaybeFailure SetTimeSource(long long (*utcMilliseconds)());
 
 /// Finds among the loaded plugins the one that claims an element.
 ClockProgram::PluginFinder LoadedPlugins();
 
-/// Makes a program's nodes by the loaded plugins, and passes on what is to be warned of.
+/// Builds a stage from a program with the loaded plugins; passes on its warnings.
 ClockProgram::MaybeFailure BuildStage(ClockStage::Stage &stage,
                                       const ClockProgram::Program &program, const Options &options,
                                       const Warn &warn);

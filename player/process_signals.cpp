@@ -28,7 +28,7 @@ Route &RouteOf(int number)
     return g_routes.at(static_cast<std::size_t>(number));
 }
 
-// Only what is safe in a signal handler: the flag, and a byte that wakes the event loop.
+// Async-signal-safe: sets the flag and writes a byte that wakes the event loop.
 void Note(int number)
 {
     const int error = errno;

@@ -17,18 +17,18 @@ class SignalPipe : public QObject
 
 public:
     enum class Times {
-        Once, ///< the next of the same number does what it would do without a pipe
+        Once, ///< the next signal of this number has its default action
         Always,
     };
 
     SignalPipe(const std::vector<int> &numbers, Times times, QObject *parent = nullptr);
     ~SignalPipe() override;
 
-    /// Whether this number has ever arrived at a pipe, even if no event loop has run since.
+    /// Whether this signal has ever arrived, even if no event loop has run since.
     static bool HasArrived(int number);
 
 Q_SIGNALS:
-    void Received(); ///< from the event loop; several that came close together are one
+    void Received(); ///< from the event loop; signals in quick succession are merged
 
 private:
     void Empty();
@@ -44,7 +44,7 @@ private:
     int m_ends[2] = {-1, -1};
 };
 
-/// Makes the process end tidily: SIGINT and SIGTERM emit Requested(), and a second one ends the
+/// For a clean exit: SIGINT and SIGTERM emit Requested(), and a second one kills the
 /// process at once. At most one object at a time.
 class QuitSignals : public QObject
 {
@@ -56,7 +56,7 @@ public:
         /// that
         /// is ignored at the start, as by nohup, stays ignored.
         End,
-        Ignore, ///< SIGPIPE does nothing, and SIGHUP is somebody else's
+        Ignore, ///< SIGPIPE is ignored, and SIGHUP is left to another SignalPipe
     };
 
     explicit QuitSignals(Losses losses = Losses::End, QObject *parent = nullptr);

@@ -1,5 +1,5 @@
-// player/: notices that a program file was changed, replaced, or put behind another link, and reads
-// it.
+// player/: detects that a program file was changed, replaced, or its symbolic link redirected, and
+// reads it.
 #pragma once
 
 #include "program_file.h"
@@ -9,28 +9,28 @@
 
 namespace ClockPlayer {
 
-/// What distinguishes a file from another one, and from itself before it was written to. All 0
-/// where there is no file.
+/// Identifies a file and its version. All 0
+/// if there is no file.
 struct FileSignature
 {
     quint64 device = 0;
-    quint64 number = 0; ///< of the file on the device
+    quint64 number = 0; ///< inode number
     qint64 size = 0;
     qint64 modified = 0; ///< nanoseconds
-    qint64 changed = 0;  ///< nanoseconds: also when modes and links change
+    qint64 changed = 0;  ///< ctime, nanoseconds
 
     bool operator==(const FileSignature &other) const;
     bool operator!=(const FileSignature &other) const { return !(*this == other); }
 };
 
-/// Links are followed.
+/// Symbolic links are followed.
 FileSignature SignatureOf(const QString &path);
 
-/// Reads a program beside one that plays, or where a notice can be shown: what is not an ordinary
-/// file is refused, for to open a pipe would wait for its writer.
+/// Reads a program while another one plays or a notice is shown. Fails for anything but a regular
+/// file, as opening a pipe would wait for its writer.
 ClockProgram::Result<ClockProgram::Program> ReadOrdinaryProgram(const QString &path);
 
-/// Decides when a watched file is to be read again. Pure.
+/// Decides when a watched file has to be reloaded. Pure.
 class ProgramWatch
 {
 public:

@@ -1,5 +1,5 @@
-// player/: blanks the screen when no more seconds come, from a thread of its own: a clock that
-// stands still must not be read.
+// player/: a watchdog thread that blanks the screen when no second was presented for some time: a
+// clock that has stopped must not be read.
 #pragma once
 
 #include <QString>
@@ -13,17 +13,17 @@ namespace ClockPlayer {
 class ScreenGuard
 {
 public:
-    /// Calls the function, on its thread, when Feed() was not called for so long. The thread sleeps
-    /// between.
+    /// Calls the function on the watchdog thread when Feed() was not called for that long. The
+    /// thread sleeps in between.
     ScreenGuard(std::function<void()> blank, int milliseconds);
     ~ScreenGuard();
 
     ScreenGuard(const ScreenGuard &) = delete;
     ScreenGuard &operator=(const ScreenGuard &) = delete;
 
-    /// A second was presented. Costs one call of the system.
+    /// Restarts the timeout; call after each presented second. Costs one system call.
     void Feed();
-    /// Whether it has blanked the screen since the last call: all of it must be painted again.
+    /// Whether it has blanked the screen since the last call, so that everything must be repainted.
     bool TakeBlanked() { return m_hasBlanked.exchange(false); }
 
 private:
@@ -37,7 +37,7 @@ private:
     std::thread m_thread; // last: it uses the others
 };
 
-/// Fills a framebuffer such as /dev/fb0 with zeros. Returns whether there was one.
+/// Fills a framebuffer such as /dev/fb0 with zeros. False if it cannot be opened or mapped.
 bool BlankFramebuffer(const QString &device);
 
 /// The framebuffer of a platform text such as "linuxfb:fb=/dev/fb1"; empty for other platforms.

@@ -1,4 +1,4 @@
-// player/: where each pixel of the program's screen is painted: turned, as diodes, and moved. Pure.
+// player/: maps the program's screen to the window: rotation, LED preview and offset. Pure.
 #pragma once
 
 #include "led_screen.h"
@@ -23,16 +23,16 @@ class WallView
 public:
     explicit WallView(const Placing &placing);
 
-    /// Of the program's screen, before everything else; pixels.
+    /// Size of the program's screen in pixels; call first.
     void SetScreenSize(QSize size) { m_screen = size; }
 
-    /// Whether pixels are only moved: Picture() need not be asked.
+    /// Whether pixels are only translated, so that Picture() is not needed.
     bool IsPlain() const { return !m_leds && m_placing.turn == 0; }
     /// What the whole screen covers of the window.
     QRect Whole() const { return Placed({QPoint(), m_screen}); }
     /// What a region of the screen covers of the window.
     QRect Placed(const QRect &region) const;
-    /// The least region of the screen that covers a part of the window.
+    /// The smallest screen rectangle that covers this part of the window.
     QRect Origin(const QRect &part) const;
     /// What is painted at Placed(region). The screen has 32-bit pixels.
     QImage Picture(const QImage &screen, const QRect &region) const;

@@ -22,7 +22,7 @@ using namespace ClockStage;
 
 namespace {
 
-// What is due each second is done with each second that is shown, and this often while none is.
+// Per-second work runs with each presented second, and at this interval while none is presented.
 constexpr int kIdleInterval = 1500; // milliseconds
 constexpr int kStatusInterval = 60000;
 constexpr int kBlankAfter = 5000;
@@ -143,7 +143,7 @@ void WindowShow::FollowSecond()
         KeepStatus();
 }
 
-// A notice stays right without seconds; clocks do not, so nothing is fed for them here.
+// A static notice is fine; stopped clocks are not, so the watchdog is not fed for them here.
 void WindowShow::FollowIdle()
 {
     if (m_notice) {

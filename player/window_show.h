@@ -1,5 +1,5 @@
-// player/: a program in a window, from the first picture to the end of the process. With
-// Options::isKiosk it keeps the screen right without anybody's help: a wall, or a notice why not.
+// player/: plays a program in a window: reloading, notices and the status file. With
+// Options::isKiosk it runs unattended and shows a notice when it cannot play.
 #pragma once
 
 #include "command_line.h"
@@ -66,7 +66,7 @@ private:
     Playback m_playback;
     ProgramWatch m_watch;
     std::optional<Notice> m_notice;
-    QTimer m_idle; ///< runs out where no seconds come
+    QTimer m_idle; ///< fires when no seconds are presented
     QElapsedTimer m_sinceStatus;
     QString m_digest;
     QJsonArray m_faults;

@@ -55,7 +55,7 @@ LockedDirectory &Current()
     return directory;
 }
 
-// -1 where the path is not a directory of this user's, or another process has the lock.
+// -1 if the path is not a directory owned by this user, or another process holds the lock.
 int LockDirectory(const QByteArray &path)
 {
     const int file = ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);

@@ -1,4 +1,4 @@
-// player/: the temporary directory of this process.
+// player/: the temporary directory for glyph files, removed when the process ends.
 #pragma once
 
 #include "failure.h"
@@ -7,11 +7,11 @@
 
 namespace ClockPlayer {
 
-/// Creates the directory and returns its path. It is removed when the process calls exit(). What
-/// players of the same user left behind when they were killed is removed now. Call it once.
+/// Creates the directory and returns its path. It is removed when the process calls exit().
+/// Directories that killed players of the same user left behind are removed too. Call it once.
 ClockProgram::Result<QString> MakeWorkDirectory();
 
-/// For ends that do not call exit(). Does nothing without a directory.
+/// For exits that bypass exit(). Does nothing without a directory.
 void RemoveWorkDirectory();
 
 } // namespace ClockPlayer

@@ -19,10 +19,10 @@ namespace ClockProgram {
 
 namespace {
 
-// Of an image within the plugin's bounds, with 64 bits a pixel and room for what is between them.
+// The largest image within the plugin's bounds at 64 bits per pixel, plus chunk overhead.
 constexpr qint64 kLargestFile = 136LL << 20; // bytes
 
-/// The digest of so many bytes; empty where there are fewer, or they cannot be read.
+/// The MD5 digest of the first `size` bytes; empty if there are fewer or reading fails.
 QString DigestOf(QFile &file, qint64 size)
 {
     constexpr qint64 kBlock = 64 << 10;
@@ -42,8 +42,8 @@ bool IsOrdinary(const struct stat &status)
     return S_ISREG(status.st_mode);
 }
 
-/// Opens an ordinary file; otherwise returns what is wrong. Devices are not opened at all. The name
-/// may be another file's between the two calls, so a pipe must not block, and the open file is
+/// Opens a regular file; otherwise returns what is wrong. Devices are not opened at all. The path
+/// may change between stat() and open(), so the open must not block on a FIFO, and the file is
 /// checked.
 QString Open(QFile &file, const QString &path, struct stat &status)
 {
@@ -61,7 +61,7 @@ QString Open(QFile &file, const QString &path, struct stat &status)
     return {};
 }
 
-/// Picture clocks have no glyph images; what other elements need is not known here.
+/// Picture clocks have no glyph images, and other elements need none that we know of.
 bool NeedsFiles(Lw::HNode &node)
 {
     return node.HaveAttribute(kClockTypeKey)

@@ -1,5 +1,5 @@
-// Glyph files that travel with a program: the "file" elements of its clocks name them, relative to
-// the directory of the program file.
+// program/: glyph files that come with a program, listed in the "file" elements of its clocks,
+// relative to the directory of the program file.
 #pragma once
 
 #include "node_maker.h"
@@ -12,7 +12,7 @@
 
 namespace ClockProgram {
 
-/// Looks at the files that a program names. Clocks share many of them: each is read once.
+/// Checks the files that a program names. Each is read only once, as clocks share many of them.
 class CarriedFiles
 {
 public:
@@ -23,8 +23,8 @@ public:
     {
         return m_directory.absoluteFilePath(record.path);
     }
-    /// What is wrong with a file, to follow its name in a sentence; empty when nothing is. It is
-    /// read only where it has the recorded size, or the record has none (-1).
+    /// What is wrong with a file, as the rest of a sentence after its name; empty if nothing is. It
+    /// is read only where it has the recorded size, or the record has none (-1).
     QString Fault(const Lw::FileRecord &record);
 
 private:
@@ -33,7 +33,7 @@ private:
 };
 
 /// Turns the paths of the files recorded on the nodes into absolute ones. Returns a warning for
-/// each file that is missing, is not an ordinary file, or differs from its recorded digest or size,
+/// each file that is missing, is not a regular file, or differs from its recorded digest or size,
 /// and for each clock that needs images and names none.
 QStringList ResolveCarriedFiles(const Program &program, MadeNodes &made);
 

@@ -1,5 +1,5 @@
-// Identities of the clocks on one screen. A clock's glyph files carry its identity in their names,
-// so two clocks with one identity would draw with each other's glyphs.
+// program/: assigns distinct Ids to the clocks of a program. A clock's Id is part of its glyph
+// files' names, so two clocks with the same Id would overwrite each other's glyphs.
 #pragma once
 
 #include <QVector>
@@ -12,14 +12,14 @@ struct ClockId
     bool given = false; ///< written in the program
 };
 
-/// The number of the clock at a place of the program, from 0, that is given none. It depends on
-/// nothing else, so that a program has the same glyph files whenever it is played.
+/// The default Id of the clock at an index in the program, from 0. It depends on
+/// nothing else, so that a program uses the same glyph files each time it is played.
 int IdOfPlace(int place);
 
-/// The numbers to play with, in the order of the clocks and all different. A given number stays,
-/// at its first clock; another one stays unless it is taken. Clocks that cannot keep theirs get
-/// what the others leave free: the next number upwards from their own, within the range that
-/// plugins draw from as long as that has one.
+/// Distinct Ids in the order of the clocks. The first clock with a given number keeps it;
+/// a default number is kept unless taken. Clocks that cannot keep theirs get
+/// the next free number above their own, within the range that
+/// plugins choose from (1000 to 1999) while that has one, else above it.
 QVector<int> DistinctIds(const QVector<ClockId> &ids);
 
 } // namespace ClockProgram

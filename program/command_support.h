@@ -1,4 +1,4 @@
-// What the command lines of the programs have in common.
+// program/: options, messages and help text shared by the command lines of player and tools.
 #pragma once
 
 #include "failure.h"
@@ -18,7 +18,7 @@ inline constexpr char kOutput[] = "output";
 inline constexpr char kLanguage[] = "language";
 inline constexpr char kLargeFrames[] = "large-frames"; ///< allows what CheckFrameBytes() refuses
 
-/// What every program reads of its environment, as --help tells it.
+/// The environment variables that every program reads, as printed by --help.
 inline constexpr char kSharedEnvironment[] =
     "  LC_ALL, LC_MESSAGES, LANG  language of the clocks' wording without --language;\n"
     "                             the first that is set\n"
@@ -38,13 +38,13 @@ MaybeFailure CheckLanguage(const QString &language);
 /// path of the program and no subcommand.
 QString HelpText(const QCommandLineParser &parser, const QString &usage);
 
-/// A fault of the command line.
+/// A command-line error.
 Failure UsageFailure(const QString &text);
 
-/// Writes a text to standard output, at once. A failure says why it could not be written whole.
+/// Writes a text to standard output and flushes it. A failure gives the system's reason.
 MaybeFailure PrintText(const QString &text);
 
-/// Lines for the person at the shell, on standard error, each behind the program's name.
+/// Prints lines on standard error, each prefixed with the program's name.
 void SayAs(const char *program, const QString &text);
 
 /// Sets 96 dots per inch where QT_FONT_DPI is unset, so that sizes in points are the same number of

@@ -10,7 +10,7 @@
 
 namespace ClockProgram {
 
-/// The numbers are what --help promises.
+/// The codes are documented in --help.
 enum class ExitCode : int {
     Success = 0,
     RuntimeFailure = 1, ///< a plugin, the display, the frames or the glyph files

@@ -53,7 +53,7 @@ Faults WithOlderFile(const Faults &faults)
     return older;
 }
 
-/// Of images that one directory did not take for one reason.
+/// The message for images that could not be written to one directory for one reason.
 QString WriteFailure(const QString &directory, int error, const Faults &faults)
 {
     const QString text =

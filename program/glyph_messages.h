@@ -1,4 +1,4 @@
-// What to tell a person of glyph images that went wrong, in as few sentences as there are reasons.
+// program/: messages about failed glyph images, one per reason.
 #pragma once
 
 #include "glyph_faults.h"
@@ -13,11 +13,11 @@ struct GlyphMessages
 {
     /// For exit code 1: images that are missing, older than what they should show, or blank.
     QStringList failures;
-    /// The clock plays, with boxes for some letters or without some images.
+    /// The clock plays, but with boxes for some characters or without some images.
     QStringList warnings;
 };
 
-/// Nothing at all for a clock without faults.
+/// Empty for a clock without faults.
 GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults);
 
 } // namespace ClockProgram

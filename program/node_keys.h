@@ -1,14 +1,13 @@
-// What the programs themselves know of a node's attributes and of an element's words. All others
-// are between the program file and the plugin.
+// program/: the few attribute keys and XML names that the programs themselves use. All others
+// concern only the program file and the plugin.
 #pragma once
 
 namespace ClockProgram {
 
 /// Identity in the names of glyph files.
 inline constexpr char kIdKey[] = "Id";
-/// Kind of clock.
 inline constexpr char kClockTypeKey[] = "ClockType";
-/// The kind that plugins do not read from an element.
+/// The clock kind that plugins do not import from an element.
 inline constexpr int kPictureClock = 2;
 
 // The words of a program that name this kind.

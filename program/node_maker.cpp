@@ -48,7 +48,7 @@ bool NamesPictureClock(const QDomElement &element)
         || SetsPictureClock(element);
 }
 
-/// The element without its kind, which plugins then read as that of an analog clock.
+/// A copy of the element without its type, so that plugins read it as an analog clock.
 QDomElement WithoutKind(const QDomElement &element)
 {
     QDomElement copy = element.cloneNode().toElement();

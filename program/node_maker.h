@@ -1,4 +1,4 @@
-// Makes the nodes of a program through the plugins that claim its elements.
+// program/: creates the nodes of a program with the plugins that claim its elements.
 #pragma once
 
 #include "program_file.h"
@@ -31,16 +31,16 @@ struct MadeNodes
 /// The plugin that claims an element, or null. It must outlive the nodes.
 using PluginFinder = std::function<Lw::INodePlugin *(QDomElement &)>;
 
-/// Lets a node take over what an element says. Plugins refuse picture clocks before they read zone,
+/// Reads an element into a node. Plugins reject picture clocks before they read zone,
 /// adjustment and daylight saving; programs name that kind all the same (type="picture", the older
 /// form's clockType="2", or an "attribute" child), and the node gets its settings and the kind.
 /// False where the plugin cannot read the element.
 bool ReadElement(Lw::HNode &node, const QDomElement &element);
 
-/// Nodes with their defaults, their place, what the element says and the attributes set by hand,
-/// in this order. Each has an identity of its own, by its place where the program gives none;
-/// where a program gives one twice, the later node gets another and a warning tells so. Fails when
-/// no plugin claims an element, or its plugin cannot read it.
+/// Nodes with their defaults, position and size, the element's settings and the "attribute"
+/// children applied in this order. Each has a distinct Id, derived from its index where the program
+/// gives none; if a program gives an Id twice, the later node gets another one, with a warning.
+/// Fails if no plugin claims an element, or its plugin cannot read it.
 Result<MadeNodes> MakeNodes(const Program &program, const PluginFinder &findPlugin);
 
 } // namespace ClockProgram

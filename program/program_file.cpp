@@ -13,7 +13,7 @@ qint64 PixelsOf(QSize size)
     return qint64(size.width()) * size.height();
 }
 
-/// Reads the elements of one program; the first thing wrong is kept and ends the reading.
+/// Reads the elements of one program; stops at the first error and keeps it.
 class ProgramReader
 {
 public:
@@ -98,7 +98,7 @@ private:
         return minimum;
     }
 
-    /// All of an element at once.
+    /// Reports all wrong numbers of an element in one message.
     void FailOnWrongNumbers(const QDomElement &element)
     {
         if (!m_wrongNumbers.isEmpty())

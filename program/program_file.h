@@ -1,4 +1,4 @@
-// A content program as its file describes it: a screen, and areas with one element each.
+// program/: a content program and its file format: a screen, and areas with one element each.
 //
 //     <program width="256" height="64">
 //       <area x="0" y="0" width="256" height="64">
@@ -21,12 +21,12 @@
 
 namespace ClockProgram {
 
-// Limits of a program. They keep a mistyped number from taking the device's memory.
-constexpr int kMaximumSide = 32767;           ///< pixels, also of positions, either side of zero
+// Limits of a program, so that a mistyped number cannot exhaust the device's memory.
+constexpr int kMaximumSide = 32767; ///< pixels; positions are from -kMaximumSide to kMaximumSide
 constexpr qint64 kMaximumPixels = 32LL << 20; ///< of the screen, and of all areas together
 constexpr int kMaximumAreas = 1024;
 
-// What the file's own elements are called.
+// The names of the file's own elements.
 const QLatin1String kProgramTag("program");
 const QLatin1String kAreaTag("area");
 const QLatin1String kAttributeTag("attribute");
@@ -52,13 +52,13 @@ struct Program
     QDomDocument document; ///< keeps the elements alive
 };
 
-/// Bytes of the frames that playing a program takes: two of the screen, three of each area.
+/// Memory of the frames needed to play a program, in bytes: two screens and three frames per area.
 qint64 FrameBytes(const Program &program);
 
-/// Programs beyond this take more of the device's memory than is meant by most of them.
+/// Above this, a program probably needs more memory than its author intended.
 constexpr qint64 kUsualFrameBytes = 256LL << 20;
 
-/// A failure with the figure where the frames take more than the usual bytes.
+/// A failure with the amount if the frames take more than kUsualFrameBytes.
 MaybeFailure CheckFrameBytes(const Program &program);
 
 /// Reads and checks a program; a failure names the file and the line.
@@ -67,7 +67,7 @@ Result<Program> ReadProgram(const QString &path);
 /// The same from a file's contents; the path is only named in failures.
 Result<Program> ParseProgram(const QByteArray &contents, const QString &path);
 
-/// The same from a document that is read already.
+/// The same from a parsed document.
 Result<Program> InterpretProgram(const QDomDocument &document, const QString &path);
 
 } // namespace ClockProgram

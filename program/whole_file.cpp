@@ -44,7 +44,7 @@ bool WriteAll(int file, const QByteArray &contents)
     return true;
 }
 
-/// File systems that cannot synchronise refuse with EINVAL; their data is as safe as it gets.
+/// File systems without fsync() fail with EINVAL, ENOTSUP or EROFS, which is accepted.
 bool IsOnDisk(int file)
 {
     return fsync(file) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS;
@@ -92,8 +92,8 @@ MaybeFailure WriteDirectly(const QString &path, const QByteArray &contents)
     return isClosed ? std::nullopt : MaybeFailure(WriteFailure(path, LastError()));
 }
 
-/// By /dev/stdout, for instance. Opened by that name a socket would refuse, and a file would lose
-/// what was written to it before.
+/// For example /dev/stdout. Opening it by name fails for a socket, and truncates
+/// a file.
 bool IsStandardOutput(const struct stat &status)
 {
     struct stat output = {};
@@ -106,8 +106,8 @@ bool IsStandardOutput(const struct stat &status)
 MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets targets)
 {
     struct stat status = {};
-    if (targets == Targets::OrdinaryFiles
-        && lstat(QFile::encodeName(path).constData(), &status) == 0 && !S_ISREG(status.st_mode))
+    if (targets == Targets::RegularFiles && lstat(QFile::encodeName(path).constData(), &status) == 0
+        && !S_ISREG(status.st_mode))
         return WriteFailure(path,
                             S_ISLNK(status.st_mode) ? QStringLiteral("this is a link")
                                                     : QStringLiteral("this is not a file"));
@@ -115,7 +115,7 @@ MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets 
         return Replace(path, contents);
     if (IsStandardOutput(status))
         return WriteStandardOutput(contents);
-    // A file that is open but has no name any more is found by /dev/fd only.
+    // A deleted file that is still open is reachable only through /dev/fd.
     const bool hasName = QFileInfo::exists(EndOfLinks(path));
     return S_ISREG(status.st_mode) && hasName ? Replace(path, contents)
                                               : WriteDirectly(path, contents);

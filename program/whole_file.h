@@ -1,4 +1,4 @@
-// Files that programs write for people: complete, or not there.
+// program/: writes whole files: either complete or not at all.
 #pragma once
 
 #include "failure.h"
@@ -8,16 +8,17 @@
 namespace ClockProgram {
 
 enum class Targets {
-    Any,           ///< what a link names, which need not exist yet; devices and FIFOs
-    OrdinaryFiles, ///< a link, device or FIFO fails: among results it belongs to somebody else
+    Any,          ///< follows links, even dangling ones; also devices and FIFOs
+    RegularFiles, ///< fails for a link, device or FIFO: in an output directory it may lead
+                  ///< elsewhere
 };
 
-/// Writes a file. An ordinary file is replaced once the new one is complete on the disk, and stays
-/// as it was after a failure. Another target, such as a device, a FIFO or standard output by its
+/// Writes a file. A regular file is replaced once the new one is complete on disk, and is
+/// unchanged after a failure. Another target, such as a device, a FIFO or standard output under its
 /// name, is written to directly. The failure has the path and the system's reason.
 MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets targets);
 
-/// Writes to standard output, so that nothing is left in a buffer.
+/// Writes to standard output and flushes it.
 MaybeFailure WriteStandardOutput(const QByteArray &contents);
 
 } // namespace ClockProgram

@@ -26,7 +26,7 @@ Failure LineFailure(const QString &path, qint64 line, const QString &reason)
             QStringLiteral("%1:%2: %3").arg(path, QString::number(line), reason)};
 }
 
-/// The name in the XML declaration, which is in ASCII wherever no byte order mark says otherwise.
+/// The encoding named by the XML declaration, which is ASCII unless there is a byte order mark.
 QByteArray DeclaredEncoding(const QByteArray &contents)
 {
     static const QRegularExpression form(
@@ -54,7 +54,7 @@ Result<QString> Decode(const QByteArray &contents, const QString &path)
         QStringLiteral("these bytes are not a text in %1").arg(QString::fromLatin1(codec->name())));
 }
 
-/// What the scan leaves to the parser: names and characters.
+/// Checks what ScanXml() does not: names and characters.
 MaybeFailure CheckSyntax(const QString &text, const QString &path)
 {
     QXmlStreamReader reader(text);

@@ -1,4 +1,4 @@
-// XML files from outside, read within the bounds of xml_scan.h.
+// program/: reads untrusted XML files within the limits of xml_scan.h.
 #pragma once
 
 #include "failure.h"
@@ -13,7 +13,7 @@ namespace ClockProgram {
 /// The bytes of a file; a failure names the file.
 Result<QByteArray> ReadContents(const QString &path);
 
-/// The text in a file's contents, in the encoding that it declares, once it is known to be XML
+/// Decodes a file's contents by its declared encoding and checks that it is XML
 /// within the bounds and without a document type definition. A failure names the path and the line.
 Result<QString> CheckedText(const QByteArray &contents, const QString &path);
 

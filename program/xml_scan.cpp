@@ -106,7 +106,8 @@ private:
         MoveTo(end);
     }
 
-    /// Without a document type definition there are five names, and numbers.
+    /// Without a document type definition only the five predefined entities and character numbers
+    /// exist.
     void CheckReferences(const QStringRef &text)
     {
         for (int i = text.indexOf(QLatin1Char('&')); i >= 0;

@@ -1,5 +1,6 @@
-// Looks over the text of an XML file before any parser does: within bounds, without a document type
-// definition, tags that match. What it says of a fault is written for the person who typed it.
+// program/: scans the text of an XML file before it is parsed: it must be within bounds, without a
+// document type definition, and with matching tags. Its messages are written for the author of the
+// file.
 #pragma once
 
 #include <QString>
@@ -8,9 +9,9 @@
 
 namespace ClockProgram {
 
-// Bounds of an XML file. At each of them reading ends within two seconds and 256 MiB.
+// Bounds of an XML file. A file at any of them is read in under two seconds and 256 MiB.
 constexpr qint64 kMaximumFileSize = 4LL << 20; ///< bytes
-constexpr int kMaximumDepth = 64;              ///< of elements in elements
+constexpr int kMaximumDepth = 64;              ///< nesting of elements
 constexpr int kMaximumElements = 1 << 16;
 constexpr int kMaximumAttributes = 1 << 17;   ///< of all elements together
 constexpr int kMaximumTagAttributes = 1 << 8; ///< of one element
@@ -21,7 +22,7 @@ struct XmlFault
     QString text;
 };
 
-/// The first fault of a text; nothing where none is seen. A text without one may still not be XML:
+/// The first error in a text; nothing if none is found. The text may still not be well-formed:
 /// names and characters are left to the parser.
 std::optional<XmlFault> ScanXml(const QString &text);
 

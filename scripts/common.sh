@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Shared by run, test and .ci/run: installs what is missing, configures, builds. Sourced with
-# "set -euo pipefail" and the working directory at the top of the tree. Everything that is said
-# goes to standard error: standard output is the command's own.
+# "set -euo pipefail" and the working directory at the top of the tree. Messages
+# go to standard error: standard output is for results.
 
 note() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; }
 
@@ -21,10 +21,10 @@ as_root() {
     if ((EUID == 0)); then "$@"; else sudo "$@"; fi
 }
 
-# install_packages NEED... - installs what is missing; needs the network only then
+# install_packages NEED... - installs missing packages; otherwise needs no network
 install_packages() {
     if ! command -v dpkg-query >/dev/null; then
-        note "not a Debian system; taking for granted: $(packages "$@" | xargs)"
+        note "not a Debian system; assuming these are installed: $(packages "$@" | xargs)"
         return
     fi
     local name missing=()
@@ -38,7 +38,7 @@ install_packages() {
         apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# build DIRECTORY CMAKE-ARGUMENT... -- BUILD-ARGUMENT... - says what failed, else nothing
+# build DIRECTORY CMAKE-ARGUMENT... -- BUILD-ARGUMENT... - shows the output only on failure
 build() {
     local directory=$1 configure=()
     shift

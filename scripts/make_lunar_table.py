@@ -5,7 +5,7 @@ Run by hand (Debian: python3-ephem); neither the build nor the tests run it:
 
     /usr/bin/python3 scripts/make_lunar_table.py > tests/calendar/lunar_months.csv
 
-The months come from the sky, not from any table of month lengths. A month begins on the day of a
+The months are computed astronomically, not taken from a table. A month begins on the day of a
 new moon, counted in China: by the mean time of Beijing, 116 degrees 25 minutes east, up to 1928,
 and by UTC+8 from 1929 on, as the calendar was made. Month 11 is the month that holds the winter solstice. Where thirteen months
 begin from one month 11 to the next, the first of them without a major solar term (the sun's
@@ -62,7 +62,7 @@ def major_terms(first_year, last_year):
 
 
 def index_of_month(moons, day):
-    """The month, as an index of its first day, that holds a day."""
+    """The index of the month that contains a day."""
     return max(i for i, first in enumerate(moons) if first <= day)
 
 

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Makes tools/self_test/calendar_digests.h, what clock_tool self-test holds the calendars against.
+"""Makes tools/self_test/calendar_digests.h, the expected calendars of clock_tool self-test.
 
 Run by hand from the top of the tree; neither the build nor the tests run it:
 
@@ -16,7 +16,7 @@ import hashlib
 
 DAY = datetime.timedelta(days=1)
 
-# First day, number of days, month and day of the first: the months that the clock has otherwise.
+# First day, number of days, lunar month and day of the first: the days on which the clock differs.
 LUNAR_EXCEPTIONS = [
     ("1906-04-23", 1, 3, 30),
     ("1906-04-24", 29, 4, 1),
@@ -98,9 +98,9 @@ def main():
     digest("kLunarDigest", lunar_lines())
     print('\n/// "1993-03-21 1372-1-1" and a newline for every day up to the year below.')
     digest("kPersianDigest", persian_lines(firsts))
-    print("\n/// The leap years of the same years, a line each.")
+    print("\n/// The leap years within the same years, one per line.")
     digest("kPersianLeapDigest", leap_lines(firsts))
-    print("\n/// The first year that the texts leave out.")
+    print("\n/// One past the last year in the texts.")
     print(f"inline constexpr int kPersianEnd = {last};")
     print("\n} // namespace ClockTool")
 

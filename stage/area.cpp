@@ -7,7 +7,7 @@ namespace ClockStage {
 
 namespace {
 
-// The node's class is its plugin's, so its signal is known by name only.
+// The node's class belongs to the plugin, so its signal is connected by name.
 const char kRedrawSignal[] = "ReDrawSourceImage()";
 const char kDamageName[] = "frameDamage";
 const char kDamageProperty[] = "region";
@@ -83,7 +83,7 @@ void Area::StartRenderer()
         return;
     connect(player, &Lw::pictureplayer::ImageUpdated, this, &Area::Show);
     m_damage = m_render ? m_render->findChild<QObject *>(QLatin1String(kDamageName)) : nullptr;
-    Show(player->LastImage()); // who is shown it may delete this area
+    Show(player->LastImage()); // a slot may delete this area
 }
 
 void Area::Show(const QImage &image)
@@ -93,7 +93,7 @@ void Area::Show(const QImage &image)
     emit PictureChanged(isWhole ? QRegion(m_geometry) : Damage());
 }
 
-// The plugin's class is known by name only, as its signals are.
+// Read by name: the plugin's class is not linked here.
 QRegion Area::Damage() const
 {
     if (!m_damage)
@@ -107,7 +107,7 @@ void Area::RemoveRenderer()
     Lw::pictureplayer::Register(m_playIdentifier, nullptr);
     if (!m_render)
         return;
-    m_damage.clear(); // the next renderer's first frame has nothing in common with the last one
+    m_damage.clear(); // the next renderer's first frame is completely new
     m_render->Remove();
     delete m_render;
 }

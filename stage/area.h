@@ -1,4 +1,4 @@
-// One area of the screen while it plays: the node, and the renderer that its plugin made for it.
+// stage/: one area of the screen during playback: its node and renderer.
 #pragma once
 
 #include "screen_composer.h"
@@ -23,8 +23,8 @@ namespace ClockStage {
 
 /// Where the glyph images of the nodes come from.
 enum class GlyphFiles {
-    Made,    ///< the node has them made
-    Carried, ///< they came with the program; nothing is made
+    Made,    ///< the node generates them
+    Carried, ///< they came with the program; none are generated
 };
 
 /// Owns node and renderer; either may be deleted by its plugin, after which the area keeps showing
@@ -34,7 +34,7 @@ class Area : public QObject
     Q_OBJECT
 
 public:
-    /// The play identifier is the area's own among all that play, and not 0.
+    /// The play identifier is unique among all playing areas, and not 0.
     Area(unsigned int playIdentifier, Lw::INodePlugin *plugin, std::unique_ptr<Lw::HNode> node,
          GlyphFiles glyphFiles);
     ~Area() override;
@@ -42,15 +42,15 @@ public:
     Lw::HNode *Node() const { return m_node; }
     QRect Geometry() const { return m_geometry; }
 
-    /// Has the glyph images made, unless they were carried, and shows the first picture.
+    /// Generates the glyph images, unless they were carried, and shows the first picture.
     void Start();
-    /// Has the next picture drawn now. Otherwise the host's player does so at its time.
+    /// Draws the next picture now instead of waiting for the host's player.
     void PlayNext();
-    /// What the area shows now.
+    /// The current picture and its place on the screen.
     Layer Picture() const;
 
 Q_SIGNALS:
-    void PictureChanged(QRegion region); ///< of the screen; empty where the picture is the same
+    void PictureChanged(QRegion region); ///< in screen pixels; empty if the picture is the same
     void Restarted(Lw::HNode *node);     ///< on its request, with new glyph images
 
 private:
@@ -68,10 +68,10 @@ private:
     const GlyphFiles m_glyphFiles;
     QPointer<Lw::HNode> m_node;
     QPointer<Lw::IContentRender> m_render;
-    QPointer<QObject> m_damage; ///< the renderer's child that tells what changed; null: has none
+    QPointer<QObject> m_damage; ///< the renderer's frameDamage child; null if it has none
     QImage m_image;
-    // Gathers the redraw requests of one turn of the event loop: a change of many settings asks
-    // once for each of them.
+    // Merges the redraw requests of one turn of the event loop: changing many settings emits
+    // one request for each.
     QTimer m_redraw;
 };
 

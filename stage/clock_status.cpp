@@ -17,7 +17,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-// Read from the table itself: the plugin's sources are not linked here.
+// Taken from the table directly, because the plugin's sources are not linked here.
 QString KeyOf(Attribute attribute)
 {
     return QString::fromLatin1(RowOf(attribute).key);

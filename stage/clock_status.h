@@ -18,12 +18,12 @@ namespace ClockStage {
 /// a node that is not a clock.
 std::optional<Lw::HNodeClock::ZoneSettings> SettingsOf(Lw::HNode *node);
 
-/// What a clock adds to UTC and when that changes. It is kept as long as it holds: the search for
-/// the next change costs more than a frame.
+/// Caches what a clock adds to UTC and when that changes: searching for
+/// the next change costs more than drawing a frame.
 class ZoneMemory
 {
 public:
-    /// Seconds at an instant, UTC milliseconds.
+    /// Seconds to add to UTC at an instant (UTC milliseconds).
     int OffsetAt(const Lw::HNodeClock::ZoneSettings &zone, qint64 instant);
     std::optional<Lw::HNodeClock::ZoneChange> NextChange(const Lw::HNodeClock::ZoneSettings &zone,
                                                          qint64 instant);
@@ -35,7 +35,7 @@ private:
 
     Lw::HNodeClock::ZoneSettings m_zone;
     qint64 m_from = 0;
-    qint64 m_until = 0; ///< m_from where nothing is known
+    qint64 m_until = 0; ///< exclusive; equal to m_from if nothing is cached
     int m_offset = 0;
     std::optional<Lw::HNodeClock::ZoneChange> m_change;
     QString m_changeText;

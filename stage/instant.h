@@ -1,4 +1,4 @@
-// Instants as people write them on a command line.
+// stage/: parses ISO 8601 instants from the command line.
 #pragma once
 
 #include <QString>
@@ -17,7 +17,7 @@ namespace ClockStage {
 /// Without an offset the instant is UTC; without a time it is midnight.
 std::optional<qint64> ParseInstant(const QString &text);
 
-/// The whole second that an instant lies in, also before 1970.
+/// Rounds an instant down to the whole second, also before 1970.
 qint64 WholeSecond(qint64 milliseconds);
 
 } // namespace ClockStage

@@ -13,8 +13,8 @@ constexpr int kSamples = 16;         // of each pixel, each way
 constexpr double kDiodeRadius = 0.4; // of the pitch
 constexpr int kLensLight = 20;       // the brightest channel of kDarkDiode
 
-// How much of the pixel lies within the circle around the middle of the square. The corners are
-// the mask's at any pitch.
+// The coverage of a pixel by the disc in the middle of the square. The corners belong to the mask
+// at any pitch.
 int CoverageOf(int x, int y, int pitch)
 {
     const auto isEdge = [pitch](int place) { return place == 0 || place == pitch - 1; };

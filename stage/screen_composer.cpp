@@ -33,7 +33,7 @@ bool HasColourWords(const QImage &image)
     return image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32;
 }
 
-// Without a branch, so that it is done for several pixels at once.
+// Branch-free, so that the compiler vectorises it.
 void CoverBlack(const QRgb *from, QRgb *to, int count)
 {
     for (int i = 0; i < count; ++i) {

@@ -1,4 +1,4 @@
-// Puts the pictures of the areas together to one screen.
+// stage/: composes the pictures of the areas into one screen.
 #pragma once
 
 #include <QImage>
@@ -7,7 +7,7 @@
 
 namespace ClockStage {
 
-/// The colour that plugins fill their frames with where nothing is drawn: it is see-through.
+/// The colour with which plugins fill the background of frames; it is transparent.
 constexpr QRgb kKeyColour = qRgb(1, 2, 1);
 
 struct Layer
@@ -19,8 +19,8 @@ struct Layer
 /// A screen that shows nothing.
 QImage BlackScreen(QSize size);
 
-/// Draws the layers in their order, the last one on top, over black. Only the pixels of the region
-/// are touched. Every pixel but those of the key colour covers what lies below it. The picture has
+/// Draws the layers in order, the last one on top, over black. Only the pixels of the region
+/// are touched. Pixels of the key colour are transparent, all others opaque. The picture has
 /// 32 bits per pixel without alpha, and the screen's top left at the origin.
 void ComposeScreen(QImage &picture, const QVector<Layer> &layers, const QRect &region,
                    QPoint origin = QPoint());
@@ -28,7 +28,7 @@ void ComposeScreen(QImage &picture, const QVector<Layer> &layers, const QRect &r
 /// Pixels that a magnified screen may have: 256 MiB.
 constexpr qint64 kMaximumMagnifiedPixels = 64LL << 20;
 
-/// The same picture with each pixel drawn as a square of so many pixels a side, at least 1. Null
+/// The picture magnified `times` (at least 1) without smoothing. Null
 /// when it would have too many pixels.
 QImage Magnified(const QImage &screen, int times);
 

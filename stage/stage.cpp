@@ -8,7 +8,7 @@ using namespace ClockProgram;
 
 namespace {
 
-// Areas of two stages may play at once, while one replaces the other.
+// Identifiers are unique per process, as two stages exist while one replaces the other.
 unsigned int NewIdentifier()
 {
     static unsigned int last = 0;

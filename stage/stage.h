@@ -1,4 +1,4 @@
-// All areas of a program while they play.
+// stage/: a program during playback: all its areas.
 #pragma once
 
 #include "area.h"
@@ -19,8 +19,8 @@ class Stage : public QObject
     Q_OBJECT
 
 public:
-    /// Makes the nodes by the plugins that the finder names; they must outlive the stage. After a
-    /// failure the stage must not be started.
+    /// Creates the nodes with the plugins that the finder returns, which must outlive the stage.
+    /// After a failure the stage must not be started.
     ClockProgram::MaybeFailure Build(const ClockProgram::Program &program,
                                      const ClockProgram::PluginFinder &findPlugin,
                                      GlyphFiles glyphFiles);
@@ -30,12 +30,12 @@ public:
     void Start();    ///< every area shows its first picture
     void PlayNext(); ///< every area shows its next picture now
 
-    QVector<Lw::HNode *> Nodes() const; ///< those that still live
+    QVector<Lw::HNode *> Nodes() const; ///< those not deleted by their plugin
     QVector<Layer> Layers() const;
     QImage Screen() const; ///< the composed screen
 
 Q_SIGNALS:
-    /// These pixels of the screen must be composed again. Empty where an area shows the same
+    /// This region of the screen must be recomposed. Empty if an area shows the same
     /// picture for another second.
     void Changed(QRegion region);
     /// A node asked for new glyph images while it played. They are made, unless they were carried,

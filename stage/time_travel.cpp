@@ -84,7 +84,7 @@ ClockSteps::~ClockSteps()
         ::close(m_timer);
 }
 
-// For a time that does not come: only that it is cancelled is of interest.
+// Armed for a time that never comes; only its cancellation matters.
 void ClockSteps::Arm()
 {
     itimerspec never {};

@@ -1,5 +1,5 @@
-// stage/: the time that the clocks of this process show. It is the system's time until somebody
-// travels to another instant.
+// stage/: the time that the clocks of this process show. It is the system's time until TimeTravel
+// moves it to another instant.
 #pragma once
 
 #include <QObject>
@@ -12,7 +12,7 @@ namespace ClockStage {
 /// Both in milliseconds.
 struct RealTime
 {
-    qint64 system = 0; ///< the system's clock since 1970-01-01 UTC; it may be set at any time
+    qint64 system = 0; ///< the system clock, UTC; may be set at any time
     qint64 steady = 0; ///< a monotonic clock, since an arbitrary moment
 };
 
@@ -25,7 +25,7 @@ constexpr qint64 kLatestInstant = 253402300799000;   ///< 9999-12-31T23:59:59Z
 class TimeTravel
 {
 public:
-    /// UTC milliseconds. Away from the present, setting the system's clock has no effect.
+    /// UTC milliseconds. Unless IsPresent(), setting the system clock has no effect.
     qint64 Shown(const RealTime &real) const;
 
     /// Leaves the present for this instant; pause and speed stay as they are.
@@ -34,7 +34,7 @@ public:
     /// Shown seconds per real second, above 0.
     void SetSpeed(double speed, const RealTime &real);
     void SetPaused(bool paused, const RealTime &real);
-    /// Follows the system's clock again, at its speed.
+    /// Follows the system clock again; resets pause and speed.
     void ReturnToPresent();
 
     bool IsPresent() const { return m_present; }
@@ -45,11 +45,11 @@ private:
     bool m_present = true;
     bool m_paused = false;
     double m_speed = 1;
-    qint64 m_instant = 0; ///< shown when the monotonic clock said m_since
+    qint64 m_instant = 0; ///< the instant shown when the monotonic clock was m_since
     qint64 m_since = 0;
 };
 
-/// Tells when the system's clock was set, however little. Gentle slewing does not count.
+/// Signals that the system clock was set, by however little. Slewing is not reported.
 class ClockSteps : public QObject
 {
     Q_OBJECT
@@ -65,7 +65,7 @@ private:
     void Arm();
     void Follow();
 
-    int m_timer; ///< of the kernel, which cancels it when the clock is set
+    int m_timer; ///< a timerfd, which the kernel cancels when the clock is set
 };
 
 /// The shown time. One per process, because a plugin takes its time source as a plain function.
@@ -76,7 +76,7 @@ TimeTravel &Travel();
 /// UTC milliseconds that the clocks show now.
 qint64 Shown();
 
-/// Shown() as a time source for plugins; each call is noted for TakeReading().
+/// Shown() as the plugins' time source; each call is recorded for TakeReading().
 long long TellPlugin();
 
 /// One call of TellPlugin().
@@ -86,7 +86,7 @@ struct Reading
     double steady = 0;  ///< when: milliseconds of the monotonic clock
 };
 
-/// The last call of TellPlugin(), unless it was taken before. Plugins read the time when they begin
+/// The last call of TellPlugin(), once. Plugins read the time when they start
 /// to draw a picture.
 std::optional<Reading> TakeReading();
 
@@ -94,7 +94,7 @@ RealTime Real();
 /// Milliseconds, with fraction, of the clock of RealTime::steady.
 double Steady();
 
-/// Runs from this instant in real time, whatever happens to the system's clock.
+/// Runs from this instant in real time, independently of the system clock.
 void RunFrom(qint64 utcMilliseconds);
 
 /// Pauses at this instant, at the speed of real time.

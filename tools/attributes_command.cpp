@@ -1,4 +1,4 @@
-// clock_tool attributes: the reference table, from the table in the code.
+// tools/: clock_tool attributes: writes the attribute reference page from the attribute table.
 #include "clock_attributes.h"
 #include "commands.h"
 #include "lint/value_checks.h"
@@ -89,7 +89,7 @@ QString DefaultOf(const AttributeRow &row)
     return {};
 }
 
-/// What a flag takes is told above the table.
+/// Empty for a flag: its values are described above the table.
 QString ValuesText(const AttributeRow &row)
 {
     if (row.role == ValueRole::Flag)

@@ -1,4 +1,5 @@
-// The plugin whose archive the tools link, as what finds plugins for the elements of a program.
+// tools/: the plugin whose archive the tools link, as what finds plugins for the elements of a
+// program.
 #pragma once
 
 #include <QtGlobal>

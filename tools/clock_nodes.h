@@ -1,4 +1,4 @@
-// A program with its clocks, made by the clock's own code.
+// tools/: reads a program and creates its clock nodes with the plugin's own code.
 #pragma once
 
 #include "clock_node.h"
@@ -19,7 +19,7 @@ struct ProgramClocks
     int Count() const { return program.areas.size(); }
 };
 
-/// Reads a program and makes its clocks. Warnings are printed.
+/// Reads a program and creates its clocks. Prints warnings.
 Result<ProgramClocks> ReadClocks(const QString &path);
 
 /// The same from a program's text.

@@ -1,4 +1,4 @@
-// The subcommands of clock_tool, one file each.
+// tools/: the subcommands of clock_tool, one per file.
 #pragma once
 
 #include "failure.h"
@@ -16,7 +16,7 @@ using ClockProgram::Result;
 /// How a subcommand ended; messages have been printed.
 using CommandResult = ExitCode;
 
-/// The arguments begin with "clock_tool NAME".
+/// The arguments start with "clock_tool" and the subcommand's name.
 CommandResult RunLint(const QStringList &arguments);
 CommandResult RunFit(const QStringList &arguments);
 CommandResult RunSdk(const QStringList &arguments);
@@ -28,7 +28,7 @@ CommandResult RunFonts(const QStringList &arguments);
 CommandResult RunZone(const QStringList &arguments);
 CommandResult RunSelfTest(const QStringList &arguments);
 
-/// A line for the person at the shell, on standard error.
+/// Prints one line on standard error, prefixed with "clock_tool: ".
 void Say(const QString &text);
 
 /// Prints the reason and returns the exit code.

@@ -1,4 +1,4 @@
-// clock_tool export: a program with its glyph files, ready to be carried away.
+// tools/: clock_tool export: writes a program and its glyph files to a self-contained directory.
 #include "commands.h"
 #include "export_directory.h"
 #include "glyph_export.h"
@@ -38,7 +38,7 @@ constexpr char kDescription[] =
     "of\n"
     "picture clocks are the player's own.";
 
-/// The program would be replaced by what is made of it.
+/// Fails if the export would overwrite the program itself.
 MaybeFailure CheckProgramStays(const QString &directory, const QString &program)
 {
     const QString there = QFileInfo(QDir(directory).filePath(kExportedProgram)).canonicalFilePath();

@@ -26,14 +26,14 @@ Failure Refusal(const QString &path, const QString &reason)
     return {ExitCode::RuntimeFailure, QStringLiteral("%1: %2").arg(path, reason)};
 }
 
-/// Images have the name of their digest; one that was being written has a suffix behind it.
+/// Images are named by their digest; a partly written one has an additional suffix.
 bool IsImageName(const QString &name)
 {
     static const QRegularExpression form(QStringLiteral("^[0-9a-f]{32}\\.png(\\..*)?$"));
     return form.match(name).hasMatch();
 }
 
-/// The line of the program in a list; nothing where the list is not one of an export.
+/// The program's line in files.tsv; nullopt if the file is not an export's list.
 std::optional<SentFile> ProgramIn(const QString &listPath)
 {
     QFile list(listPath);
@@ -66,7 +66,7 @@ QByteArray ListText(const SentFiles &files)
 
 ExportDirectory::ExportDirectory(const QString &path) : m_directory(path), m_lock(LockPath())
 {
-    m_lock.setStaleLockTime(0); // only the end of its process frees a lock
+    m_lock.setStaleLockTime(0); // a lock never becomes stale by age
 }
 
 MaybeFailure ExportDirectory::Take()
@@ -77,7 +77,7 @@ MaybeFailure ExportDirectory::Take()
         return failure;
     if (const MaybeFailure failure = Lock())
         return failure;
-    // Another export may have ended meanwhile.
+    // Another export may have finished between the check and the lock.
     if (const MaybeFailure failure = CheckEntries())
         return failure;
     for (const QString &name : Leftovers()) {
@@ -131,7 +131,7 @@ MaybeFailure ExportDirectory::Lock()
 {
     if (m_lock.tryLock())
         return std::nullopt;
-    // An export killed before it had filled its lock is named nowhere, and only its file is left.
+    // An export killed before it wrote its lock file leaves it empty, with no process to check.
     if (m_lock.error() == QLockFile::LockFailedError && LockHolder().isEmpty()) {
         QThread::msleep(200);
         if (LockHolder().isEmpty() && m_lock.removeStaleLockFile() && m_lock.tryLock())
@@ -144,7 +144,7 @@ MaybeFailure ExportDirectory::Lock()
                    QStringLiteral("cannot write to this directory: no permission, or no room"));
 }
 
-/// Empty where the other export has not written its name yet, or has just ended.
+/// Empty if the other export has not yet written its process id, or has just ended.
 QString ExportDirectory::LockHolder() const
 {
     qint64 process = 0;
@@ -155,7 +155,7 @@ QString ExportDirectory::LockHolder() const
     return QStringLiteral(" (process %1 on %2)").arg(process).arg(host);
 }
 
-/// Nothing is in it, or only what a first export leaves that fails or is interrupted.
+/// The directory is empty, or has only the leftovers of a failed or interrupted first export.
 bool ExportDirectory::IsFree() const
 {
     const QStringList entries = m_directory.entryList(kEverything);
@@ -169,7 +169,7 @@ bool ExportDirectory::IsFree() const
         && std::all_of(images.cbegin(), images.cend(), IsImageName);
 }
 
-/// The list comes to its place just before the program, which may then still be in the work
+/// The list is published just before the program, which may therefore still be in the work
 /// directory of an export that was killed.
 bool ExportDirectory::IsExport() const
 {
@@ -184,7 +184,7 @@ bool ExportDirectory::IsExport() const
     });
 }
 
-/// Directories only: another entry of such a name is nothing of an export.
+/// Directories only: any other entry with such a name is not from an export.
 QStringList ExportDirectory::Leftovers() const
 {
     QStringList names;

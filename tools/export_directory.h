@@ -1,4 +1,5 @@
-// The directory of an export: what is in it, who may write to it, and what an earlier run left.
+// tools/: the target directory of an export: its layout, its lock, and the leftovers of earlier
+// runs.
 #pragma once
 
 #include "commands.h"
@@ -21,21 +22,21 @@ struct SentFile
     qint64 size = 0; // bytes
 };
 
-/// The files to send, by their path relative to the directory.
+/// The files to send, keyed by their path relative to the directory.
 using SentFiles = QMap<QString, SentFile>;
 
 /// The text of files.tsv.
 QByteArray ListText(const SentFiles &files);
 
-/// A directory while one export writes to it.
+/// An export's target directory, locked against other exports.
 class ExportDirectory
 {
 public:
     explicit ExportDirectory(const QString &path);
 
-    /// Makes the directory where it is missing, and locks it; removes what an interrupted export
-    /// left. Fails, and changes nothing, where it holds anything but an export, where a link or
-    /// another kind of entry has the name of a file to write, and where another export runs.
+    /// Creates the directory if needed and locks it; removes leftovers of an interrupted
+    /// export. Fails without changing anything if it contains anything but an export, if a link or
+    /// another kind of entry has the name of a file to write, or if another export is running.
     MaybeFailure Take();
 
     QString LockPath() const;

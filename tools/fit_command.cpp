@@ -1,4 +1,4 @@
-// clock_tool fit: text sizes that fit on every day of a year.
+// tools/: clock_tool fit, which writes a program with font sizes that fit on every day of a year.
 #include "clock_nodes.h"
 #include "commands.h"
 #include "output.h"

@@ -1,4 +1,4 @@
-// clock_tool fonts: at which sizes the digits of a font can be read.
+// tools/: clock_tool fonts, which lists the sizes at which the digits of a font are legible.
 #include "commands.h"
 #include "legibility/legible_sizes.h"
 #include "output.h"
@@ -17,7 +17,7 @@ constexpr char kDescription[] = "Writes a table, as Markdown, of the sizes at wh
                                 "strokes, or the holes that tell 3\n"
                                 "from 8. Without a name, every installed font is listed.";
 
-/// "6, 8, 9", without the sizes that come one after the other up to the largest.
+/// The legible sizes below `from`, as "6, 8, 9".
 QString SizesBelow(const QVector<int> &sizes, int from)
 {
     QStringList below;
@@ -28,7 +28,7 @@ QString SizesBelow(const QVector<int> &sizes, int from)
     return below.isEmpty() ? QStringLiteral("none") : below.join(QStringLiteral(", "));
 }
 
-/// The smallest size from which all are right; 0 where the largest is not.
+/// The smallest size from which all larger ones are legible; 0 if the largest is not.
 int RightFrom(const QVector<int> &sizes)
 {
     int from = kLargestLookedAt + 1;

@@ -97,7 +97,7 @@ private:
         }
     }
 
-    /// Images that could not be made, such as that of an empty text, have no file to send.
+    /// Images that cannot be generated, such as that of an empty text, have no file.
     void AddFiles(QDomElement &element, HClockNode &clock)
     {
         const QString destination = m_directory.filePath(kExportedFiles) + QLatin1Char('/');
@@ -120,7 +120,7 @@ private:
                 missing.append(image.Key());
             if (!image.row->exported || digest.isEmpty())
                 continue;
-            // The clock records an image also where it could not be moved.
+            // The clock records an image even if it could not be moved.
             if (HMD5::FileDigest(path) != digest) {
                 m_failure = ExportFailure(QStringLiteral("%1: cannot be written").arg(path));
                 return;
@@ -154,7 +154,7 @@ private:
             missing.removeAll(GlyphKey(Glyph::TopText));
         if (missing.isEmpty())
             return;
-        // Of rows that are hidden; they have to travel all the same.
+        // These belong to hidden rows, which are exported as well.
         m_failure = ExportFailure(
             OfClock(clock,
                     QStringLiteral("no image can be made for %1: the font is too large")
@@ -205,7 +205,7 @@ private:
         }
     }
 
-    /// Every setting and image has an element of its own: a program near the bounds would be beyond
+    /// An export has one element per setting and image, so a program near the limits may exceed
     /// them.
     MaybeFailure CheckReadable(const QByteArray &program) const
     {
@@ -221,7 +221,7 @@ private:
                               const QByteArray &contents)
     {
         return ClockProgram::WriteFile(work.FilePath(name), contents,
-                                       ClockProgram::Targets::OrdinaryFiles);
+                                       ClockProgram::Targets::RegularFiles);
     }
 
     MaybeFailure Publish(const WorkDirectory &work, const char *name) const

@@ -1,4 +1,4 @@
-// Brings a program with its glyph files into a directory that can be carried away.
+// tools/: writes a program with its glyph files to a self-contained directory.
 #pragma once
 
 #include "clock_nodes.h"
@@ -7,12 +7,12 @@
 
 namespace ClockTool {
 
-/// Told before each clock, which counts from 1.
+/// Called before each clock; clocks are numbered from 1.
 using ExportProgress = std::function<void(int clock)>;
 
-/// Makes the glyph images of the clocks, moves them under their digests' names into the directory,
+/// Generates the glyph images, moves them into the directory under their digests' names,
 /// and writes the list of files and, last, the program. What an earlier export left there is
-/// replaced only when all of it is on the disk, so after a failure it is still whole.
+/// replaced only once everything is on disk, so after a failure it is still complete.
 MaybeFailure ExportProgram(const ProgramClocks &clocks, const QString &directory,
                            const ExportProgress &progress);
 

@@ -1,4 +1,4 @@
-// clock_tool glyphs: an audit of a program's glyph images.
+// tools/: clock_tool glyphs: lists a program's glyph images and where each is used.
 #include "clock_nodes.h"
 #include "commands.h"
 #include "output.h"
@@ -54,7 +54,7 @@ public:
         }
     }
 
-    /// Of the first image that could not be written: without it the table is not the program's.
+    /// The first image that could not be written; without it the table is incomplete.
     MaybeFailure Fault() const { return m_fault; }
 
     QString Table() const

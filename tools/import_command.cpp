@@ -1,4 +1,4 @@
-// clock_tool import: a program from SDK XML, one area a clock.
+// tools/: clock_tool import: makes a program from SDK XML, one area per clock.
 #include "clock_nodes.h"
 #include "commands.h"
 #include "lint/clock_words.h"
@@ -41,7 +41,7 @@ std::optional<QSize> ParseSize(const QString &text)
     return size;
 }
 
-/// The next element in document order that is not within this one, up to the root's end.
+/// The next element in document order outside this one; null at the end of the root.
 QDomElement NextBeside(QDomElement element)
 {
     while (!element.isNull() && element.nextSiblingElement().isNull())
@@ -71,7 +71,7 @@ void SetRectangle(QDomElement &area, const QRect &rectangle)
     area.setAttribute(QStringLiteral("height"), rectangle.height());
 }
 
-/// The SDK's form has two digits of opacity in front, which no clock reads.
+/// SDK XML writes #aarrggbb; clocks ignore the alpha digits.
 void ShortenColours(QDomElement element)
 {
     static const QRegularExpression form(QStringLiteral("^#[0-9a-fA-F]{8}$"));

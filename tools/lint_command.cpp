@@ -1,4 +1,4 @@
-// clock_tool lint: checks programs.
+// tools/: clock_tool lint, which checks programs.
 #include "clock_finder.h"
 #include "command_support.h"
 #include "commands.h"
@@ -60,10 +60,11 @@ void ShowAsJson(const Findings &findings, const QString &path)
         std::fputs(FindingJson(finding, path).constData(), stdout);
 }
 
-// How programs are looked at.
+// The options of a lint run.
 struct Choices
 {
-    std::optional<qint64> year; ///< the begin of the year to look at, UTC milliseconds
+    std::optional<qint64>
+        year; ///< start of the year to check, in UTC milliseconds; nullopt for no fit check
     bool asJson = false;
     bool allowsLargeFrames = false;
 };

@@ -1,4 +1,4 @@
-// clock_tool: checks programs, converts them, and carries their glyph files.
+// tools/: clock_tool: checks, converts and exports programs; picks the subcommand.
 #include "commands.h"
 
 #include "command_support.h"
@@ -58,7 +58,7 @@ QString HelpText()
         + QLatin1String(ClockProgram::kSharedEnvironment);
 }
 
-/// Drops what Qt says of a missing desktop environment.
+/// Drops Qt's warnings about a missing desktop environment.
 void KeepFatalMessages(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtFatalMsg)

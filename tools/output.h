@@ -1,4 +1,4 @@
-// Where results go.
+// tools/: writes a command's result to a file or standard output.
 #pragma once
 
 #include "commands.h"
@@ -7,11 +7,11 @@
 
 namespace ClockTool {
 
-/// Writes a result to a file, or to standard output where the path is empty, and says what failed.
+/// Writes a result to a file, or to standard output if the path is empty; reports failures.
 /// Links are followed.
 CommandResult Deliver(const QString &path, const QByteArray &contents);
 
-/// While it lives, what the clocks print about their files goes nowhere, so that standard output
+/// While it exists, what the clocks print about their files is discarded, so that standard output
 /// holds results only.
 class QuietOutput
 {

@@ -1,4 +1,4 @@
-// clock_tool sdk: the SDK XML of a program's clocks.
+// tools/: clock_tool sdk, which writes the SDK XML of a program's clocks.
 #include "clock_nodes.h"
 #include "commands.h"
 #include "glyph/glyph_set.h"
@@ -18,7 +18,7 @@ constexpr char kDescription[] =
     "areas,\n"
     "and of a picture clock zone and adjustment only.";
 
-// The SDK's own documents have the clocks in other elements; this one only holds them.
+// The SDK's own documents have other parent elements; this one is only a container.
 constexpr char kRoot[] = "clocks";
 
 } // namespace

@@ -1,4 +1,4 @@
-// clock_tool self-test: whether clocks are right on this device.
+// tools/: clock_tool self-test: checks calendars and drawing on this device.
 #include "commands.h"
 #include "output.h"
 #include "self_test/checks.h"
@@ -33,7 +33,7 @@ const char *TextOf(Outcome outcome)
     return "";
 }
 
-/// Says how a group of checks ended; whether none failed.
+/// Prints the results of a group of checks; true if none failed.
 bool Tell(const QVector<CheckResult> &results)
 {
     bool isWell = true;
@@ -54,10 +54,10 @@ CommandResult RunSelfTest(const QStringList &arguments)
     ToolArguments tool(QStringLiteral("self-test"), QString::fromLatin1(kDescription));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
-    const WorkDirectory work; // without one, the frames have no images and say so
+    const WorkDirectory work; // without it the frame checks fail and say so
     const bool isWell[] = {Tell(CheckCalendars()), Tell(CheckDaylightSaving()),
                            Tell(CheckFrames(work.Fault() ? QString() : work.Path()))};
-    // The results are printed as they come; a full device keeps some of them.
+    // Results are printed one by one; on a full device only the first ones are written.
     if (std::ferror(stdout) != 0)
         return Report(
             {ExitCode::RuntimeFailure, QStringLiteral("cannot write to standard output")});

@@ -35,7 +35,7 @@ public:
         : m_reading(std::move(reading)), m_form(form)
     { }
 
-    // The changes are of different clocks. False where the text is no program any more.
+    // The changes are of different clocks. False if the text is no longer a valid program.
     bool Make(const QVector<SizeChange> &changes, bool asSetting)
     {
         TextEdits edits;

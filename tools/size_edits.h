@@ -1,4 +1,4 @@
-// Changes the text sizes in a program's text, and nothing else.
+// tools/: changes font sizes in a program's text, and nothing else.
 #pragma once
 
 #include "commands.h"
@@ -18,8 +18,8 @@ struct SizeChange
     int points = 0;
 };
 
-/// A program's bytes with other sizes. A size is changed where the program sets it; where it does
-/// not, the element that could gets its attribute, else the clock an "attribute" child. Fails for
+/// The program's bytes with these sizes. A size is changed where the program sets it; otherwise
+/// the attribute is added to the element that can hold it, else an "attribute" child. Fails for
 /// a text that cannot be edited.
 Result<QByteArray> WithSizes(const QByteArray &contents, const QString &path,
                              const QVector<SizeChange> &changes);

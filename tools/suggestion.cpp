@@ -37,7 +37,7 @@ QString Nearest(const QString &word, const QStringList &candidates)
     int least = std::min(3, static_cast<int>(folded.size()) / 2) + 1;
     QString nearest;
     for (const QString &candidate : candidates) {
-        // The lengths alone ask for as many changes.
+        // The difference in length alone takes at least that many changes.
         if (std::abs(candidate.size() - folded.size()) >= least)
             continue;
         const int distance = EditDistance(folded, candidate.left(kLongestCompared).toCaseFolded());

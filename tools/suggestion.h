@@ -1,4 +1,4 @@
-// Suggestions for words that are not known.
+// tools/: suggestions for unknown words.
 #pragma once
 
 #include <QString>
@@ -6,10 +6,10 @@
 
 namespace ClockTool {
 
-/// The number of letters to insert, remove or replace to make one text of the other.
+/// The Levenshtein distance: letters to insert, remove or replace.
 int EditDistance(const QString &one, const QString &other);
 
-/// The candidate nearest to a word, without regard to case; empty when none is near enough to be
+/// The candidate nearest to a word, ignoring case; empty if none is near enough to be
 /// a typing error.
 QString Nearest(const QString &word, const QStringList &candidates);
 
@@ -19,7 +19,7 @@ QString Suggestion(const QString &word, const QStringList &candidates);
 /// "; did you mean "x"?" where a candidate is near, else nothing.
 QString DidYouMean(const QString &word, const QStringList &candidates);
 
-/// A text from a file in quotation marks, short and on one line.
+/// A text from a file in quotation marks, on one line, cut after 60 characters.
 QString Quoted(const QString &text);
 
 } // namespace ClockTool

@@ -1,4 +1,4 @@
-// The command line of one subcommand.
+// tools/: the command line of one subcommand.
 #pragma once
 
 #include "commands.h"
@@ -16,20 +16,20 @@ public:
     /// The name is the subcommand's.
     ToolArguments(const QString &name, const QString &description);
 
-    /// A name that ends in "..." stands for one or more, in brackets for any number, and comes
+    /// A name that ends in "..." takes one or more arguments, in brackets any number, and must come
     /// last.
     void AddPositional(const QString &name, const QString &description);
     /// An option with a value.
     void AddOption(const QStringList &names, const QString &description, const QString &value,
                    const QString &defaultValue = {});
-    /// An option without a value that makes the named arguments unneeded.
+    /// An option without a value that replaces the positional arguments.
     void AddAlternative(const QString &name, const QString &description);
     void AddFlag(const QString &name, const QString &description); ///< an option without a value
     void AddOutput();                                              ///< -o FILE
     void AddLanguage();    ///< --language, for commands that make glyph images
     void AddLargeFrames(); ///< --large-frames, for commands that draw a program's clocks
 
-    /// Reads the arguments, which begin with "clock_tool NAME". Returns an exit code when nothing
+    /// Parses the arguments, which start with "clock_tool NAME". Returns an exit code if nothing
     /// is left to do: after --help, --version and errors.
     std::optional<CommandResult> Parse(const QStringList &arguments);
 

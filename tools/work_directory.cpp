@@ -19,7 +19,7 @@ constexpr int kSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 std::atomic<int> g_signalEnd {-1};
 
-// Only what is safe in a signal handler.
+// Async-signal-safe.
 void NoteSignal(int number)
 {
     const int error = errno;
@@ -28,7 +28,7 @@ void NoteSignal(int number)
         errno = error;
 }
 
-/// A signal that is ignored, as by nohup, stays so.
+/// Signals that are ignored, as under nohup, stay ignored.
 void CatchSignals(void (*handler)(int))
 {
     struct sigaction action = {};
@@ -88,7 +88,7 @@ bool WorkDirectory::IsName(const QString &name)
     return form.match(name).hasMatch();
 }
 
-// Not in the handler: removing a directory takes memory. The clock goes on writing meanwhile, until
+// Not in the handler: removing a directory allocates. The main thread keeps writing until
 // the directory is gone.
 void WorkDirectory::EndAtSignal()
 {

@@ -1,4 +1,4 @@
-// Where a command keeps files while it runs.
+// tools/: the temporary directory of a command, removed also when a signal ends the process.
 #pragma once
 
 #include "commands.h"
@@ -10,8 +10,8 @@
 
 namespace ClockTool {
 
-/// A temporary directory that goes with this object, and also where SIGINT, SIGTERM or SIGHUP ends
-/// the process. There may be one at a time.
+/// A temporary directory that is removed with this object, and when SIGINT, SIGTERM or SIGHUP ends
+/// the process. Only one may exist at a time.
 class WorkDirectory
 {
 public:
@@ -27,7 +27,7 @@ public:
     QString Path() const { return m_directory.path(); }
     QString FilePath(const QString &name) const { return m_directory.filePath(name); }
 
-    /// A signal waits while the lock is held.
+    /// Signals are deferred while the lock is held.
     std::unique_lock<std::mutex> HoldSignals() { return std::unique_lock(m_ending); }
 
     /// Whether an entry of a directory has the name of a work directory within it.

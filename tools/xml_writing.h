@@ -1,4 +1,4 @@
-// Indented XML with attributes in alphabetical order, so that the same content is always the same
+// tools/: writes indented XML with sorted attributes, so that the same content is always the same
 // text.
 #pragma once
 
@@ -7,7 +7,7 @@
 
 namespace ClockTool {
 
-/// A document of the element and all that is in it, without comments.
+/// A document with this element and its content, without comments.
 QByteArray WriteXml(const QDomElement &root);
 
 } // namespace ClockTool

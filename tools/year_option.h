@@ -1,4 +1,4 @@
-// The option --at: from when on a year of clocks is looked at.
+// tools/: the option --at: the start of the year that lint and fit check.
 #pragma once
 
 #include "tool_arguments.h"
@@ -7,7 +7,7 @@ namespace ClockTool::YearOption {
 
 void Add(ToolArguments &tool);
 
-/// UTC milliseconds; now where the option is not given. Fails for what is no instant.
+/// UTC milliseconds; now without the option. Fails if the value is not an instant.
 Result<qint64> Read(const ToolArguments &tool);
 
 } // namespace ClockTool::YearOption

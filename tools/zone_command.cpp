@@ -1,4 +1,4 @@
-// clock_tool zone: the settings with which a clock shows a zone's civil time.
+// tools/: clock_tool zone: finds the clock settings for a time zone and checks them.
 #include "commands.h"
 #include "output.h"
 #include "suggestion.h"
@@ -76,13 +76,13 @@ int YearBefore(qint64 utc)
     return DateOf(utc).leftRef(4).toInt() - 1;
 }
 
-/// Nobody should take the settings to be right for ever.
+/// Zone rules change, so every result says when to check again.
 QString CheckAgain(qint64 until)
 {
     return QStringLiteral("; check again after %1").arg(YearBefore(until));
 }
 
-/// How long settings hold that are exact, before what was looked at after the ten years ends.
+/// How long exact settings stay right beyond the ten years.
 QString Lasting(qint64 until, const CivilTime &after)
 {
     if (until < after.end)

@@ -1,4 +1,4 @@
-"""Makes the images of a small controller and tries them in the emulator. See scripts/boot-device."""
+"""Builds the images of a small controller and tests them in the emulator."""
 
 import argparse
 import subprocess

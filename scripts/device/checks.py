@@ -1,4 +1,4 @@
-"""What is tried on the small image."""
+"""Checks of the small image."""
 
 import json
 import time
@@ -8,7 +8,7 @@ from contents import FIRST, OTHER
 from machine import Failed
 from screen import Screen
 
-BOOT_SECONDS = 600  # on a machine that is busy with something else
+BOOT_SECONDS = 600  # on a busy machine
 
 
 class Checks:
@@ -64,7 +64,7 @@ class Checks:
         self.note("killed: the screen was dark, then right again")
 
     def replace(self, machine, screen):
-        """While it plays."""
+        """Replaces the program while it plays."""
         before = starts(machine)
         machine.run(f"cp /{OTHER} /run/clock/new && mv /run/clock/new /run/clock/program.xml")
         screen.await_right(OTHER)
@@ -78,7 +78,7 @@ def starts(machine):
 
 
 def status(machine):
-    """What the player says about itself."""
+    """The status that the player reports."""
     machine.run("killall -USR1 clock_player; sleep 1")
     return json.loads(machine.run("cat /run/clock/status.json"))
 

@@ -1,4 +1,4 @@
-"""What the screen ought to show: frames of the device's own programs in user emulation."""
+"""The expected screen: frames written by the device's own programs in user emulation."""
 
 import os
 import subprocess

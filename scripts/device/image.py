@@ -1,5 +1,5 @@
-"""Makes what a device boots: a kernel, an initramfs and a squashfs, of Debian's packages and a build
-for 32-bit ARM. Nothing in it was configured by a package's scripts: files are copied."""
+"""Builds the device image: a kernel, an initramfs and a squashfs, from Debian's packages and a
+build for 32-bit ARM. Packages are not configured: files are only copied."""
 
 import gzip
 import os
@@ -107,7 +107,7 @@ def pack_initramfs(packed, script, target):
 
 
 def pack_root(folder, target):
-    """gzip blocks: other compressions take more memory than the smallest device has."""
+    """Uses gzip: other compressions need more memory than the smallest device has."""
     Path(target).unlink(missing_ok=True)
     subprocess.run(["mksquashfs", folder, target, "-comp", "gzip", "-b", "64K", "-all-root",
                     "-no-progress", "-quiet", "-no-xattrs"], check=True, stdout=subprocess.DEVNULL)

@@ -1,7 +1,7 @@
 #!/bin/sh
-# First process of the small image: plays one program for ever. A player that ends, for whatever
-# reason, leaves a dark screen and comes back. PLAYER_OPTIONS on the kernel's command line are the
-# player's.
+# Init process of the small image: plays one program forever. If the player exits, for whatever
+# reason, blanks the screen and restarts it. PLAYER_OPTIONS on the kernel's command line are passed
+# to the player.
 export PATH=/bin:/usr/bin LC_ALL=C TMPDIR=/run/tmp RUNTIME_DIRECTORY=/run/clock
 mount -t proc proc /proc
 mount -t sysfs sys /sys
@@ -9,7 +9,7 @@ mount -t tmpfs -o mode=0755,size=24m run /run
 mkdir -p "$TMPDIR" "$RUNTIME_DIRECTORY"
 cp /usr/share/wall.xml /run/clock/program.xml
 
-# What the player says; logread tells it.
+# The player's messages, to be read with logread.
 syslogd -C64
 mkfifo /run/said
 logger -t clock_player </run/said &

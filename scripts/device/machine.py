@@ -86,7 +86,7 @@ class Machine:
         self.console.flush()
 
     def listen(self, pattern, seconds):
-        """What the serial line says, up to what matches."""
+        """Reads the serial line up to a match."""
         end = time.monotonic() + seconds
         while time.monotonic() < end:
             found = re.search(pattern, self.heard, re.DOTALL)
@@ -98,7 +98,7 @@ class Machine:
 
     def run(self, command, seconds=240):
         """What a command on the device writes."""
-        # The line repeats what is sent: the marks are put together only where the command runs.
+        # The line echoes the input, so the markers are split there and joined only by the shell.
         self.serial.sendall(f"echo be''gin; {command}; echo e''nd\n".encode())
         found = self.listen(rb"begin\r?\n(.*?)end\r?\n", seconds)
         return found.group(1).decode(errors="replace").replace("\r", "").strip()

@@ -2,7 +2,7 @@
 from wall import AMBER, BLUE, CHINESE, GOLD, GREEN, LATIN, RED, WHITE
 from wall import Wall, analog, digital, picture, points
 
-# The hands and the texts at this time are apart, and the hour differs in a twelve-hour display.
+# At this time the hands do not cover the texts, and the hour differs in the 12-hour form.
 INSTANT = "2024-03-05T14:50:07Z"
 
 

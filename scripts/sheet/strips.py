@@ -1,4 +1,4 @@
-"""PNG pictures of one width put below one another, no pixel decoded.
+"""Stacks PNG pictures of the same width without decoding pixels.
 
 Each row of a PNG picture is stored as differences to the row above it, which is black above the
 first row. So the packed rows of pictures that end in a black row can follow one another.

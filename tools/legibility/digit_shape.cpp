@@ -8,7 +8,7 @@ namespace ClockTool {
 
 namespace {
 
-/// A picture with a margin of one pixel, so that all that is outside is connected.
+/// A picture with a margin of one pixel, so that the outside is one connected area.
 class Field
 {
 public:
@@ -22,7 +22,7 @@ public:
         }
     }
 
-    /// The connected areas of ink, or of what is none, of more than so many pixels.
+    /// Counts the connected areas of ink, or of background, with more than `speck` pixels.
     int Areas(bool ofInk, int speck)
     {
         int areas = 0;
@@ -39,7 +39,7 @@ public:
 private:
     int At(const QPoint &point) const { return point.y() * m_width + point.x(); }
 
-    /// The pixels of an area. Ink is connected by corners too, so what it encloses is not.
+    /// The size of an area in pixels. Ink is 8-connected, background 4-connected.
     int Fill(const QPoint &start, bool ofInk)
     {
         int pixels = 0;

@@ -1,4 +1,5 @@
-// What the eye tells digits apart by, in pictures of one bit per pixel. Pure.
+// legibility/: strokes and holes of a digit in a one-bit picture, by which the eye tells digits
+// apart. Pure.
 #pragma once
 
 #include <QImage>
@@ -7,8 +8,8 @@ namespace ClockTool {
 
 struct DigitShape
 {
-    int strokes = 0; ///< connected areas of ink, corner to corner too
-    int holes = 0;   ///< areas without ink that ink encloses
+    int strokes = 0; ///< 8-connected areas of ink
+    int holes = 0;   ///< 4-connected areas without ink enclosed by ink
 
     bool operator==(const DigitShape &other) const
     {
@@ -18,7 +19,7 @@ struct DigitShape
 };
 
 /// The shape of the ink of a picture with transparency; ink is what is not transparent. Areas of
-/// less than a four-hundredth of the square of the ink's height are specks and not counted:
+/// at most height² / 400 pixels (height of the ink) are specks and not counted:
 /// below 20 pixels there are none.
 DigitShape ShapeOf(const QImage &picture);
 

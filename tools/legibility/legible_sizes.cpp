@@ -15,7 +15,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-constexpr int kReference = 160; // points, where no stroke is lost
+constexpr int kReferencePoints = 160; // large enough to keep every stroke
 
 /// The ten digits as a strip has them.
 QVector<QImage> DigitsOf(const QFont &font)
@@ -54,7 +54,7 @@ QVector<QImage> SeparatorsOf(const QFont &font, const QString &text)
 QStringList SeparatorFaults(const QString &family, const QFont &font, const QString &text)
 {
     const QVector<QImage> here = SeparatorsOf(font, text);
-    const QVector<QImage> large = SeparatorsOf(GlyphTypeface(family, kReference), text);
+    const QVector<QImage> large = SeparatorsOf(GlyphTypeface(family, kReferencePoints), text);
     QStringList faults;
     for (int i = 0; i < text.size(); ++i) {
         const int strokes = i < here.size() ? ShapeOf(here[i]).strokes : 0;
@@ -73,7 +73,7 @@ const QVector<DigitShape> &ReferenceShapes(const QString &family)
     auto shapes = known.find(family);
     if (shapes == known.end()) {
         shapes = known.insert(family, {});
-        for (const QImage &digit : DigitsOf(GlyphTypeface(family, kReference)))
+        for (const QImage &digit : DigitsOf(GlyphTypeface(family, kReferencePoints)))
             shapes->append(ShapeOf(digit));
     }
     return *shapes;

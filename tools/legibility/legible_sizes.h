@@ -1,5 +1,5 @@
-// At which sizes the digits of a font can be read: small ones lose strokes and holes, since glyph
-// images have one bit per pixel. A QGuiApplication must exist.
+// legibility/: the sizes at which the digits of a font are legible: small ones lose strokes and
+// holes, because glyph images have one bit per pixel. A QGuiApplication must exist.
 #pragma once
 
 #include <QString>
@@ -7,11 +7,11 @@
 
 namespace ClockTool {
 
-/// Sizes above this are right in every font that can be read at all; they are not looked at.
+/// Larger sizes are legible in every usable font and are not checked.
 constexpr int kLargestLookedAt = 60; // points
 
 /// What is wrong with the digits of a family at a size, to follow "at 8 points" in a sentence;
-/// empty when nothing is. The separators are characters that a strip has besides, such as ":".
+/// empty if nothing is. `separators` are the other characters of the strip, such as ":".
 QString LegibilityFault(const QString &family, int points, const QString &separators);
 
 /// The nearest size up to kLargestLookedAt at which nothing is wrong, the larger of two; 0 where

@@ -49,10 +49,10 @@ public:
     ClockLint(const QDomElement &clock, ClockProgram::CarriedFiles &files, Findings &findings)
         : m_clock(clock), m_files(files), m_findings(findings)
     {
-        // The node itself tells what becomes of the element.
+        // The node itself decides what is read from the element.
         m_node.InitData();
         m_understood = ClockProgram::ReadElement(m_node, clock);
-        // What picture clocks read is read as of an analog clock.
+        // Picture clocks read the same elements as analog clocks.
         m_kind = m_understood ? m_node.ClockType() : MeantKind(clock);
         m_type = m_kind == DigitalClock ? DigitalClock : AnalogClock;
         for (QDomElement setting = clock.firstChildElement(ClockProgram::kAttributeTag);
@@ -97,7 +97,7 @@ private:
         CheckAttributes(child, name);
     }
 
-    /// A picture clock shows its pictures and no more.
+    /// A picture clock shows only its pictures.
     void CheckUnseen(const QDomElement &child)
     {
         const bool isHidden =
@@ -144,7 +144,7 @@ private:
                               const QString &attribute)
     {
         if (name.isEmpty() && attribute == QLatin1String(Sdk::kGuid))
-            return; // the exported form has it for the controller
+            return; // written in the exported form for the controller
         const QString read = ReadInPlaceOf(m_type, name, attribute);
         if (!read.isEmpty())
             return m_findings.Note(At(element, attribute),
@@ -164,7 +164,7 @@ private:
     {
         const QString key = setting.attribute(kKey);
         if (key.isEmpty() || !setting.hasAttribute(kValue))
-            return; // the program's structure, which is checked elsewhere
+            return; // reported by InterpretProgram()
         const AttributeRow *row = RowNamed(key);
         if (!row)
             return Warn(
@@ -214,7 +214,7 @@ private:
         static const QRegularExpression digestForm(QStringLiteral("^[0-9a-f]{32}$"));
         const QString digest = file.attribute(QStringLiteral("md5"));
         if (!digestForm.match(digest).hasMatch())
-            return; // the schema's business
+            return; // reported by the schema check
         const QString path = file.attribute(QStringLiteral("path"));
         const QString fault = m_files.Fault(
             {key, path, digest, file.attribute(QStringLiteral("size")).toLongLong(), 0});

@@ -1,4 +1,4 @@
-// Checks one clock of a program against what the clock reads.
+// lint/: checks one clock of a program against what the clock actually imports.
 #pragma once
 
 #include "finding.h"
@@ -11,11 +11,11 @@
 
 namespace ClockTool {
 
-/// Warns of every word and value that the clock does not read, or not as it was meant, of carried
-/// files that are missing or differ, and of settings that are wrong together.
+/// Warns about every word and value that the clock ignores or misreads, about carried
+/// files that are missing or differ, and about settings that conflict.
 void LintClock(const QDomElement &clock, ClockProgram::CarriedFiles &files, Findings &findings);
 
-/// The identity that a program gives a clock, where it gives one.
+/// The Id that the program gives the clock, if any.
 std::optional<int> GivenId(const QDomElement &clock);
 
 } // namespace ClockTool

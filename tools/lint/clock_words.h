@@ -1,4 +1,4 @@
-// The words of a clock element that the clock reads, from its import tables.
+// lint/: the element and attribute names that a clock reads, from its import tables.
 #pragma once
 
 #include "clock_sdk_tables.h"
@@ -18,7 +18,7 @@ struct Reading
 /// The child elements that a clock of a type (0 analog, 1 digital) reads settings from.
 QStringList ElementsRead(int clockType);
 
-/// The attributes that are read of one of them; with an empty name, of the clock element itself.
+/// The XML attributes read from such an element; for an empty name, from the clock element itself.
 QStringList AttributesRead(int clockType, const QString &element);
 
 /// How an attribute is read; empty when it is not.

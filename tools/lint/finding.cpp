@@ -47,7 +47,7 @@ int Findings::Warnings() const
 QVector<Finding> Findings::ByLine() const
 {
     QVector<Finding> sorted = m_all;
-    // Attributes have no order of their own, so the texts give them one.
+    // Attributes have no order in a DOM, so findings of one line are sorted by text.
     std::sort(sorted.begin(), sorted.end(), [](const Finding &one, const Finding &other) {
         return std::tie(one.place.line, one.text) < std::tie(other.place.line, other.text);
     });

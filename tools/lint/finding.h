@@ -1,4 +1,4 @@
-// What a check of a program found, and where.
+// lint/: findings of a check of a program.
 #pragma once
 
 #include <QSet>
@@ -12,7 +12,7 @@ QT_END_NAMESPACE
 namespace ClockTool {
 
 enum class Severity {
-    Warning, ///< not read, or not as it was meant
+    Warning, ///< ignored or misinterpreted by the clock
     Note,    ///< worth knowing; does not affect the exit code
 };
 
@@ -31,7 +31,7 @@ struct Finding
 {
     Place place;
     Severity severity = Severity::Warning;
-    QString text;       ///< a sentence for people, with what would be accepted
+    QString text;       ///< the message, with what would be accepted
     QString suggestion; ///< what to write instead of the attribute's value, or of the name where
                         ///< that is what is wrong; empty for none
 };
@@ -42,12 +42,12 @@ public:
     void Warn(const Place &place, const QString &text, const QString &suggestion = {});
     void Note(const Place &place, const QString &text, const QString &suggestion = {});
     void Add(const Finding &finding);
-    /// The findings within one clock, which does not know its number.
+    /// Adds the findings of one clock, setting its number.
     void AddOfClock(int clock, const Findings &findings);
 
     bool HasWarning(int line) const { return m_lines.contains(line); }
     int Warnings() const;
-    QVector<Finding> ByLine() const; ///< in the order of the file, each once
+    QVector<Finding> ByLine() const; ///< in file order, without duplicates
 
 private:
     QVector<Finding> m_all;

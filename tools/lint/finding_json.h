@@ -1,4 +1,4 @@
-// Findings for programs that read them.
+// lint/: findings for programs that read them.
 #pragma once
 
 #include "finding.h"
@@ -7,7 +7,7 @@
 
 namespace ClockTool {
 
-/// One JSON object in one line, with a line feed. Keys stay as they are; others may be added.
+/// One JSON object on one line, with a newline. The keys are stable; others may be added.
 ///
 ///     file        the program, as it was named
 ///     line        of the element, from 1; 0 for the file

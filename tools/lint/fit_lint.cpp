@@ -14,7 +14,7 @@ namespace {
 using namespace ClockFit;
 using Lw::HNodeClock::HClockNode;
 
-constexpr double kBarelySeen = 2; // contrasts below are warned of
+constexpr double kMinContrast = 2; // lower contrasts are warnings
 
 class FitLint
 {
@@ -112,7 +112,7 @@ private:
     {
         for (const Faint &faint : found.faint) {
             const Place place = ColourPlace(faint.part);
-            if (faint.contrast < kBarelySeen)
+            if (faint.contrast < kMinContrast)
                 m_findings.Warn(place, FaintWords(faint));
             else
                 m_findings.Note(place, FaintWords(faint));

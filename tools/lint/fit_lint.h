@@ -1,4 +1,5 @@
-// Reports what of a program's clocks is cut, covered, invisible or not in its font in a year.
+// lint/: reports which parts of a program's clocks are cut, covered, invisible or missing from
+// their font within a year.
 #pragma once
 
 #include "finding.h"

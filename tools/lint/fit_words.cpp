@@ -81,7 +81,7 @@ QString Subject(Part part)
     return QStringLiteral("the %1 %2").arg(NameOf(part), verb);
 }
 
-// A factor that is not too large when it is read.
+// Rounded down, so that the printed factor still fits.
 QString FactorText(double factor)
 {
     constexpr double kParts = 1000;

@@ -1,4 +1,4 @@
-// The sentences that tell what a check of the year found.
+// lint/: the messages for the findings of the fit check.
 #pragma once
 
 #include "fit.h"
@@ -20,7 +20,7 @@ QString LostMarksWords(const ClockFit::LostMarks &marks);
 QString MissingWords(const ClockFit::MissingCharacters &missing);
 QString TooLargeWords(const ClockFit::TooLarge &tooLarge);
 QString OffScreenWords(const ClockFit::OffScreen &off);
-/// The line is that of the lower clock.
+/// `line` is the line of the lower clock.
 QString ClockOverlapWords(const ClockFit::ClockOverlap &overlap, int line);
 
 } // namespace ClockTool

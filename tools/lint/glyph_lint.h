@@ -1,4 +1,5 @@
-// Reports clocks whose glyph images are too many pixels to be made quickly or kept in memory.
+// lint/: reports clocks whose glyph images are too many pixels to be made quickly or kept in
+// memory.
 #pragma once
 
 #include "finding.h"

@@ -16,7 +16,7 @@ namespace {
 
 using namespace ClockProgram;
 
-/// What keeps the program from being played, or from a small device. The failure's text begins with
+/// Warns of what prevents playback, or needs too much memory. The failure's text begins with
 /// path and line.
 void CheckStructure(const QDomDocument &document, const QString &path, Findings &findings)
 {
@@ -86,7 +86,7 @@ void CheckClocks(const QDomDocument &document, const QString &path, Findings &fi
     }
 }
 
-/// The schema speaks where nothing better was said of a line.
+/// Adds schema errors for lines that have no other warning.
 void CheckSchema(const QByteArray &contents, Findings &findings)
 {
     const SchemaReport report = CheckAgainstSchema(contents);

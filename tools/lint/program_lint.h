@@ -1,4 +1,4 @@
-// Checks a whole program.
+// lint/: lints a whole program: structure, clocks and schema.
 #pragma once
 
 #include "finding.h"

@@ -56,7 +56,7 @@ QString ElementOf(ErrorPointer error)
                 : QString();
 }
 
-/// What an error says of its own element; empty where it only says that something
+/// The message for an error in its own element; empty if the error only says that something
 /// within an element, or beside it, is wrong.
 QString Said(ErrorPointer error)
 {
@@ -65,7 +65,7 @@ QString Said(ErrorPointer error)
         return QStringLiteral("the attributes of <%1> are not as the schema has them")
             .arg(ElementOf(error));
     case XML_RELAXNG_ERR_ELEMWRONG:
-        // After an error, the white space between elements is complained of as well.
+        // After an error libxml2 also complains about the white space between elements.
         if (std::strstr(error->message, "element text there"))
             return {};
         return MessageOf(error);
@@ -88,7 +88,7 @@ void Collect(void *context, ErrorPointer error)
 
 void Ignore(void *, ErrorPointer) { }
 
-/// The time that the library needs grows with the square of the children that one element has.
+/// libxml2's validation time is quadratic in the number of children of an element.
 constexpr unsigned long kMostChildren = 1024;
 
 /// The line of an element with more than that; 0 for none.

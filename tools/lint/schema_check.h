@@ -1,4 +1,4 @@
-// Holds a program against the schema in docs/program.rng.
+// lint/: validates a program against the schema in docs/program.rng.
 #pragma once
 
 #include "finding.h"
@@ -9,12 +9,12 @@ namespace ClockTool {
 
 struct SchemaReport
 {
-    QVector<Finding> faults; ///< at most one a line
-    /// It is known only that something within or near these elements is wrong.
+    QVector<Finding> faults; ///< at most one per line
+    /// The errors only say that something in or near these elements is wrong.
     bool isVague = false;
 };
 
-/// What the schema does not allow.
+/// Reports what violates the schema.
 SchemaReport CheckAgainstSchema(const QByteArray &contents);
 
 } // namespace ClockTool

@@ -1,4 +1,4 @@
-// Where a program sets an attribute of a clock.
+// lint/: finds where a program sets an attribute of a clock.
 #pragma once
 
 #include "finding.h"
@@ -17,11 +17,12 @@ struct SettingPlace
     bool IsSet() const { return !attribute.isEmpty(); }
 };
 
-/// The place that counts: the last "attribute" child with the key, else the last element whose XML
-/// attribute is read into it. The kind is 0 analog or 1 digital. Where nothing sets it, the clock.
+/// The place that takes effect: the last "attribute" child with the key, else the last element
+/// whose XML attribute is read into it. The kind is 0 analog or 1 digital. Where nothing sets it,
+/// the clock.
 SettingPlace PlaceOf(const QDomElement &clock, int clockType, Lw::HNodeClock::Attribute attribute);
 
-/// The same for a finding: an "attribute" child goes by its key.
+/// The same as a finding's place: an "attribute" child is named by its key.
 Place FindingPlace(const SettingPlace &place);
 
 } // namespace ClockTool

@@ -48,7 +48,7 @@ QString ColourFault(const QString &text)
                                : QStringLiteral(": did you mean \"%1\"?").arg(nearest));
 }
 
-/// A stored colour is a number, where one would like to write a name.
+/// A stored colour must be a number; a colour name is a common mistake.
 QString StoredColourFault(const QString &text)
 {
     bool isNumber = false;

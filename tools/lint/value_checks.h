@@ -1,4 +1,4 @@
-// Whether a clock makes of a text what its writer meant.
+// lint/: checks whether a clock reads a value as its author meant it.
 #pragma once
 
 #include "clock_attributes.h"
@@ -14,10 +14,10 @@ namespace ClockTool {
 /// "0 dots; 1 squares"; empty where no number has a name.
 QString NamedCodes(const Lw::HNodeClock::ValueRange &range);
 
-/// "0 to 1"; empty where any number means something.
+/// "0 to 1"; empty if any number is valid.
 QString RangeText(const Lw::HNodeClock::ValueRange &range);
 
-// Each gives what is wrong and what would be accepted, to follow the text in a sentence, or an
+// Each returns what is wrong and what would be accepted, as the rest of a sentence, or an
 // empty text when nothing is.
 
 /// For a text of a clock element that is read by a conversion into an attribute.

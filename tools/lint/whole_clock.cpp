@@ -94,7 +94,7 @@ private:
             m_findings.Note(At(m_clock), note.text);
     }
 
-    /// An analog clock has its dial at least.
+    /// Only digital clocks: an analog one always shows its dial.
     void CheckRows()
     {
         if (m_node.ClockType() != DigitalClock)

@@ -1,4 +1,4 @@
-// What the settings of a clock make together.
+// lint/: checks the settings of a clock in combination.
 #pragma once
 
 #include "finding.h"
@@ -11,8 +11,8 @@ class HClockNode;
 
 namespace ClockTool {
 
-/// Warns of settings that are sound one by one and wrong together. The node has all that the
-/// element and its "attribute" children say.
+/// Warns about settings that are valid individually but wrong together. The node has been set from
+/// the element and its "attribute" children.
 void LintWhole(const QDomElement &clock, Lw::HNodeClock::HClockNode &node, Findings &findings);
 
 } // namespace ClockTool

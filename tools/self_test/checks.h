@@ -1,4 +1,4 @@
-// What clock_tool self-test looks at.
+// self_test/: the checks of clock_tool self-test.
 #pragma once
 
 #include <QImage>
@@ -13,7 +13,7 @@ struct CheckResult
 {
     QString what;
     Outcome outcome = Outcome::Failed;
-    QString why; ///< empty where all is well
+    QString why; ///< empty if the check passed
 };
 
 /// The lunar calendar on every day that it has, the Persian one on every day up to 2060, and its

@@ -22,7 +22,7 @@ using namespace Lw::HNodeClock;
 // A player's format without alpha: the clock smooths nothing in it.
 constexpr int kPlainFormat = QImage::Format_RGB32;
 
-/// While it lives, clocks show one instant, unsmoothed.
+/// While it exists, clocks show one fixed instant, without antialiasing.
 class StillTime
 {
 public:
@@ -63,8 +63,8 @@ QStringList StylePictures()
     return names;
 }
 
-/// Pictures are the installation's own, so that no digest can be given: all can be read, and the
-/// clock draws something of each.
+/// The pictures depend on the installation, so there is no digest: checks that all can be read and
+/// that the clock draws something for each style.
 CheckResult CheckPictureClock()
 {
     const QString what = QStringLiteral("picture clock, %1 styles").arg(kStyleCount);

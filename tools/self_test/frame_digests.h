@@ -1,6 +1,6 @@
-// SHA-256 of the frames of the self-test. They are of the frames that the tests' plain renderers
-// draw, which fill and paint a whole frame each time and are no part of the clocks;
-// tests/tools/test_self_test.cpp draws them again.
+// self_test/: SHA-256 of the frames of the self-test, computed from the frames that the tests'
+// plain renderers draw, which repaint each frame completely and share no code with the clocks;
+// tests/tools/test_self_test.cpp recomputes them.
 #pragma once
 
 namespace ClockTool {

@@ -1,4 +1,4 @@
-// Which zone uses a clock's daylight-saving rules.
+// zones/: finds the zone that uses a clock's daylight-saving rules.
 #pragma once
 
 #include "zone_rule.h"
@@ -13,8 +13,8 @@ struct RuleNote
     QString rightEnd; ///< where the end was entered as published, the one to enter instead
 };
 
-/// A sentence that names a zone whose time these settings give in the ten years from a day, or says
-/// that none is known. Empty without two sound rules, and without zone data for that time.
+/// A sentence that names a zone whose time these settings show during ten years from a day, or says
+/// that none is known. Empty without two valid rules, and without zone data for that time.
 RuleNote NoteOnRules(const ZoneSettings &settings, const QDate &today);
 
 } // namespace ClockTool

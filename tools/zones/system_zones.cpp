@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kYears = 10;
 
-/// Named first where several zones have one time.
+/// Preferred where several zones have the same time.
 constexpr const char *kMuchUsed[] = {
     "Europe/Berlin",     "Europe/London",      "Europe/Athens",    "Atlantic/Azores",
     "America/New_York",  "America/Chicago",    "America/Denver",   "America/Los_Angeles",
@@ -37,7 +37,7 @@ qint64 MidnightOf(const QDate &date)
     return QDateTime(date, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch();
 }
 
-/// Such a name cannot lead out of the directory of zones.
+/// Such a name cannot escape the zone directory.
 bool IsZoneName(const QByteArray &name)
 {
     static const QRegularExpression form(
@@ -60,7 +60,7 @@ CivilTime CivilTimeOf(const QTimeZone &zone, const Span &span)
     return civil;
 }
 
-/// Whether a zone can have a clock's time at all; much quicker than to compare the two.
+/// Quick pre-check: whether a zone can match the settings at all.
 bool MayHave(const QTimeZone &zone, const ZoneSettings &settings, qint64 begin)
 {
     constexpr qint64 kHalfYear = 182 * Lw::HNodeClock::kMillisecondsPerDay;

@@ -1,4 +1,4 @@
-// The system's zones, as lists of changes.
+// zones/: the system's time zones as lists of offset changes.
 #pragma once
 
 #include "zone_rule.h"
@@ -15,7 +15,7 @@ namespace ClockTool {
 /// used: Qt 5 misreads those with an hour before the day's beginning or after its end.
 constexpr int kLastListedYear = 2037;
 
-/// A span in milliseconds since 1970-01-01 UTC, without its end.
+/// A half-open span [begin, end) in milliseconds since 1970-01-01 UTC.
 struct Span
 {
     qint64 begin;
@@ -32,11 +32,11 @@ Span ListedAfter(const Span &span);
 /// "2026-03-29", in UTC.
 QString DateOf(qint64 utc);
 
-/// The names of the system's zones. Names that are only other names of these are understood
-/// besides.
+/// The names of the system's zones. Aliases may be missing here but are accepted as
+/// well.
 QList<QByteArray> ZoneNames();
 
-/// Whether names of zones come from zone data. Without any, Qt has names of fixed offsets.
+/// Whether the system has zone data. Without it, Qt lists only fixed offsets.
 bool HasZoneData(const QList<QByteArray> &names);
 
 /// A zone's civil time over a span; nothing for a name that the system does not know.
@@ -46,7 +46,7 @@ std::optional<CivilTime> CivilTimeOf(const QByteArray &zone, const Span &span);
 /// shares the zone of another city, or a typing error. Empty when there is none.
 QString NearestZone(const QString &name);
 
-/// A zone of which settings give the civil time over the whole span, a much used one where there
+/// A zone whose civil time the settings show over the whole span, a widely used one if there
 /// are several; empty when there is none.
 QByteArray ZoneWith(const ZoneSettings &settings, const Span &span);
 

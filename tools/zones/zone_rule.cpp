@@ -13,7 +13,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// Zones have one or two; one that moves its days every year has more than can all be tried.
+/// Most zones have one or two rules; those with dates that move every year have too many to try.
 constexpr int kMostRules = 40;
 
 QDateTime Utc(qint64 milliseconds)
@@ -45,8 +45,8 @@ qint64 TotalOf(const QVector<WrongTime> &times)
     return total;
 }
 
-/// Offsets that a clock can have, from those of the zone, the most frequent reason for a zone's
-/// offset first: the one at the beginning.
+/// The candidate standard offsets: the zone's own offsets, rounded to minutes, the one at the
+/// beginning first.
 QVector<int> PossibleOffsets(const CivilTime &civil)
 {
     QVector<int> offsets;
@@ -96,7 +96,7 @@ QStringList PossibleRules(const CivilTime &civil, int standard, bool isStart)
     return rules.mid(0, kMostRules);
 }
 
-/// Keeps the best settings of those it is shown; of equal ones the first.
+/// Keeps the best of the settings tried; on a tie the first.
 class Choice
 {
 public:

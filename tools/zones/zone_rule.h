@@ -1,5 +1,5 @@
-// A clock's zone settings for a zone's civil time, and where they go wrong. Pure: zones come as
-// lists of changes, so that no zone data are needed.
+// zones/: finds the clock settings for a zone's civil time, and when they are wrong. Pure: zones
+// are given as lists of changes, so that no zone data are needed.
 #pragma once
 
 #include "calendar/zone_time.h"
@@ -16,7 +16,7 @@ struct OffsetChange
     int offset; ///< from then on, in seconds to add to UTC
 };
 
-/// What a zone's civil time is over a span.
+/// A zone's civil time over a span.
 struct CivilTime
 {
     qint64 begin = 0;              ///< milliseconds since 1970-01-01 UTC
@@ -27,7 +27,7 @@ struct CivilTime
 
 using ZoneSettings = Lw::HNodeClock::ZoneSettings;
 
-/// A time in which a clock shows something else than the zone has.
+/// A period in which a clock differs from its zone.
 struct WrongTime
 {
     qint64 begin; ///< milliseconds since 1970-01-01 UTC
@@ -42,13 +42,13 @@ QVector<WrongTime> WrongTimes(const ZoneSettings &settings, const CivilTime &civ
 /// end of the span.
 qint64 RightUntil(const ZoneSettings &settings, const CivilTime &civil);
 
-/// The texts of the rules that name a standard-time reading in its year: by the last such weekday
-/// of its month where it is the last, and by its count where that is 1 to 4.
+/// The rules that name a standard-time reading in its year: with "Last" if its weekday is the last
+/// one of the month, and with its occurrence if that is 1 to 4.
 QStringList RulesNaming(qint64 reading);
 
 /// The settings with which a clock is wrong for the shortest time in a span. Of those that are
-/// never wrong there, the ones that stay right longest in what comes after it. Where no hour of
-/// daylight saving fits, a fixed offset.
+/// never wrong there, those that stay right longest afterwards. If one hour of
+/// daylight saving fits nowhere, a fixed offset.
 ZoneSettings BestSettings(const CivilTime &civil, const CivilTime &after);
 
 } // namespace ClockTool
