@@ -61,7 +61,7 @@ private:
         const QStringList paths = m_parser.positionalArguments();
         m_options.programPath = paths.isEmpty() ? Text(kDefaultProgram) : paths.first();
         if (paths.size() > 1)
-            Fail(QStringLiteral("only one program can be played, not also \"%1\"").arg(paths[1]));
+            Fail(QStringLiteral("only one program can be played; unexpected \"%1\"").arg(paths[1]));
         else if (m_options.programPath.isEmpty() && !m_options.checkDisplay)
             Fail(QStringLiteral("no program to play"));
     }
@@ -70,14 +70,15 @@ private:
     {
         m_options.usesFiles = IsSet(kUseFiles);
         if (m_options.usesFiles && IsSet(kFilesDir))
-            Fail(QStringLiteral("--files-dir is where images are made; --use-files makes none"));
+            Fail(QStringLiteral(
+                "--files-dir and --use-files exclude each other: --use-files generates no images"));
     }
 
     void ReadWatch()
     {
         m_options.watchesProgram = IsSet(kWatch);
         if (m_options.watchesProgram && m_options.WritesFrames())
-            Fail(QStringLiteral("--%1 is for a window, not for --%2")
+            Fail(QStringLiteral("--%1 cannot be used with --%2")
                      .arg(QLatin1String(kWatch), QLatin1String(kOutput)));
     }
 

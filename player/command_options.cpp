@@ -18,15 +18,16 @@ namespace {
 constexpr char kDescription[] =
     "Plays a content program: an XML file that places clocks on a screen.\n"
     "\n"
-    "In a window, whose title tells the instant, the time of a clock and its next change;\n"
-    "or with --output as PNG files, without a display and without waiting.\n"
-    "A clock that names no time zone shows UTC.\n"
+    "It plays in a window, whose title shows the instant, the time of a clock and its next "
+    "change,\n"
+    "or with --output writes PNG files, without a display and without waiting.\n"
+    "A clock without a time zone shows UTC.\n"
     "\n"
     "Exit codes:\n"
-    "  0  played to its end, or closed\n"
+    "  0  all frames written, or the window was closed\n"
     "  1  a plugin, the display, the frames or the glyph files failed\n"
     "  2  the command line is wrong\n"
-    "  3  the program file is missing or wrong; the message says where\n"
+    "  3  the program file is missing or invalid; the message says where\n"
     "\n"
     "Examples:\n"
     "  clock_player station.xml\n"
@@ -35,10 +36,10 @@ constexpr char kDescription[] =
     "  clock_player station.xml --led 6 --at 2024-03-31T00:59:00Z --speed 10\n"
     "\n"
     "Environment:\n"
-    "  DISPLAY, WAYLAND_DISPLAY   the display, for the platform plugins that have one\n"
-    "  QT_QPA_PLATFORM            platform plugin where --platform names none; where it is\n"
-    "                             unset too, frames are written with \"offscreen\"\n"
-    "  QT_QPA_UPDATE_IDLE_TIME    milliseconds to gather changes for; 0 where it is unset\n";
+    "  DISPLAY, WAYLAND_DISPLAY   the display, for platform plugins that need one\n"
+    "  QT_QPA_PLATFORM            platform plugin without --platform; if neither is given,\n"
+    "                             --output uses \"offscreen\"\n"
+    "  QT_QPA_UPDATE_IDLE_TIME    milliseconds to collect changes before painting (default: 0)\n";
 
 QString Indented(QString text)
 {
@@ -58,56 +59,56 @@ struct OptionRow
 // clang-format off
 constexpr OptionRow kOptions[] = {
     {kOutput, "o", "directory",
-     "Write PNG frames frame_0001.png and so on to <directory>, one for each second of the clocks' "
+     "Write PNG frames frame_0001.png and so on to <directory>, one per second of the clocks' "
      "time, and print the directory's path."},
     {kFrames, nullptr, "number",
      "Number of frames to write, 1 to %1 (default %2).",
      {kMaximumFrames, kDefaultFrames}},
     {kMagnify, nullptr, "number",
-     "Draw each pixel of the frames as a square of so many pixels a side, 1 to %1 (default 1). For "
-     "diodes see --led.",
+     "Draw each pixel of the frames as a square with sides of <number> pixels, 1 to %1 (default 1). "
+     "For LEDs see --led.",
      {kMaximumMagnification}},
     {kLed, nullptr, "pixels",
-     "Preview the wall: draw each pixel as a round diode in a black mask, <pixels> from one to the "
-     "next, %1 to %2. In the window and in frames; not with --magnify.",
+     "Preview the wall: draw each pixel as a round LED in a black mask, with a pitch of <pixels>, "
+     "%1 to %2. In the window and in frames; not with --magnify.",
      {kMinimumLedPitch, kMaximumLedPitch}},
     {kAt, nullptr, "instant",
-     "Begin at <instant> instead of now: ISO 8601, such as 2024-03-31T02:59:58+01:00; UTC without "
-     "an offset. Frames begin at its whole second."},
+     "Start at <instant> instead of now: ISO 8601, such as 2024-03-31T02:59:58+01:00; UTC without "
+     "an offset. The first frame shows the whole second at or before it."},
     {kSpeed, nullptr, "factor",
-     "Let the clocks' time run <factor> times as fast as real time, %1 to %2. Frames then lie so "
-     "many seconds apart.",
+     "Run the clocks <factor> times as fast as real time, %1 to %2. Frames are then "
+     "<factor> seconds apart.",
      {kMinimumSpeed, kMaximumSpeed}},
     {kStats, nullptr, nullptr,
-     "Print at the end to standard error how long frames took to draw and how long after the whole "
-     "second they were seen, in milliseconds. SIGUSR1 prints it meanwhile."},
+     "At the end, print to standard error how long frames took to draw and how long after the "
+     "whole second they appeared, in milliseconds. SIGUSR1 prints it at any time."},
     {kWatch, nullptr, nullptr,
-     "Play the program file again whenever it changes or is replaced. While it is broken the last "
-     "good program plays on, and a message says why."},
+     "Reload the program file whenever it changes or is replaced. While it is broken, the last "
+     "good program keeps playing, and a message says why."},
     {kKiosk, nullptr, nullptr,
-     "For devices that nobody attends: the whole screen, no cursor, no keys. What cannot be played "
-     "gives a notice with a short code on the screen and is tried again; SIGHUP reads the program "
-     "again; a framebuffer is blanked when no more seconds come."},
+     "For unattended devices: full screen, no cursor, no keys. If a program cannot be played, "
+     "the screen shows a notice with a short code and it is tried again; SIGHUP reloads the "
+     "program; a framebuffer is blanked when the player stops presenting seconds."},
     {kRequireTime, nullptr, nullptr,
-     "Show a notice instead of clocks until the device's clock is set. With --kiosk."},
+     "Show a notice instead of clocks until the system clock is set. Needs --kiosk."},
     {kOffset, nullptr, "X,Y",
-     "Place the picture that many pixels from the left and the top of the window; either may be "
-     "negative."},
+     "Place the picture X pixels from the left and Y pixels from the top of the window; either may "
+     "be negative."},
     {kRotate, nullptr, "degrees", "Turn the picture clockwise by 90, 180 or 270 degrees."},
     {kStatusFile, nullptr, "file",
-     "Keep a JSON object about what plays in <file>, replaced each minute, at each fault and on "
+     "Write the playback status as a JSON object to <file>, every minute, at each fault and on "
      "SIGUSR1 (default with --kiosk: status.json in RUNTIME_DIRECTORY, where that is set)."},
     {kLargeFrames, nullptr, nullptr,
-     "Play a program whose frames take more than 256 MiB of memory too."},
+     "Also play programs whose frames take more than 256 MiB of memory."},
     {kPluginDir, nullptr, "directory",
-     "Load the plugins of <directory> (default: \"plugins\" beside the directory that clock_player "
-     "lies in)."},
+     "Load the plugins from <directory> (default: ../plugins, relative to the directory of "
+     "clock_player)."},
     {kFilesDir, nullptr, "directory",
      "Write the glyph images to <directory> and leave them there (default: a temporary "
      "directory)."},
     {kUseFiles, nullptr, nullptr,
-     "Play with the glyph images that came with the program, named by its <file> elements, and "
-     "make none."},
+     "Play with the glyph images named by the program's <file> elements, and generate "
+     "none."},
     {kPlatform, nullptr, "name",
      "Qt platform plugin to show the window with, such as xcb or linuxfb."},
 };

@@ -22,7 +22,7 @@ struct KeyRow
 
 // clang-format off
 constexpr KeyRow kKeys[] = {
-    {Qt::Key_Space, false, {Control::Pause, 0}, "Space", "stop the clocks' time, or let it run on"},
+    {Qt::Key_Space, false, {Control::Pause, 0}, "Space", "pause or resume the clocks' time"},
     {Qt::Key_Right, false, {Control::Step, kSecond}, "Right, Left", "a second forward, back"},
     {Qt::Key_Left, false, {Control::Step, -kSecond}, nullptr, nullptr},
     {Qt::Key_Up, false, {Control::Step, kMinute}, "Up, Down", "a minute forward, back"},
@@ -31,8 +31,8 @@ constexpr KeyRow kKeys[] = {
     {Qt::Key_Left, true, {Control::Step, -kHour}, nullptr, nullptr},
     {Qt::Key_Up, true, {Control::Step, kDay}, "Shift+Up, Down", "24 hours forward, back"},
     {Qt::Key_Down, true, {Control::Step, -kDay}, nullptr, nullptr},
-    {Qt::Key_N, false, {Control::Now, 0}, "N", "now: the system's time again"},
-    {Qt::Key_Tab, false, {Control::NextClock, 0}, "Tab", "the status of the next clock"},
+    {Qt::Key_N, false, {Control::Now, 0}, "N", "return to the system's time"},
+    {Qt::Key_Tab, false, {Control::NextClock, 0}, "Tab", "show the status of the next clock"},
     {Qt::Key_O, false, {Control::Status, 0}, "O", "show or hide the status in the window"},
     {Qt::Key_S, false, {Control::Stats, 0}, "S", "print the deadline statistics"},
     {Qt::Key_H, false, {Control::Help, 0}, "H", "show or hide these keys"},

@@ -26,14 +26,14 @@ MaybeFailure SaveFrame(const QImage &screen, const QString &path)
     if (screen.save(&png, "PNG"))
         return WriteFile(path, png.data(), Targets::RegularFiles);
     return Failure {ExitCode::RuntimeFailure,
-                    QStringLiteral("%1: no memory for a PNG file of the frame").arg(path)};
+                    QStringLiteral("%1: out of memory while encoding the PNG").arg(path)};
 }
 
 Failure TooLarge(const FrameRun &run)
 {
     const int times = run.ledPitch ? run.ledPitch : run.magnification;
     return {ExitCode::RuntimeFailure,
-            QStringLiteral("the screen is too large to be magnified %1 times").arg(times)};
+            QStringLiteral("the screen is too large to be magnified by %1").arg(times)};
 }
 
 QImage Enlarged(const QImage &screen, const FrameRun &run)

@@ -48,7 +48,7 @@ MaybeFailure SetTimeSource(long long (*utcMilliseconds)())
     if (given)
         return std::nullopt;
     return Failure {ExitCode::RuntimeFailure,
-                    QStringLiteral("the time cannot be chosen: no plugin has the function %1")
+                    QStringLiteral("the time cannot be set: no plugin exports %1")
                         .arg(QLatin1String(kTimeSourceSymbol))};
 }
 

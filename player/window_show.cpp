@@ -245,7 +245,8 @@ MaybeFailure WindowShow::Show(const Program &program)
     const QSize display = QGuiApplication::primaryScreen()->size();
     const QRect picture = m_window.Picture();
     if (m_options.isKiosk && !QRect(QPoint(), display).contains(picture))
-        Fault(QStringLiteral("%1: the picture reaches to %2,%3, the display has %4x%5 pixels")
+        Fault(QStringLiteral(
+                  "%1: the picture extends to %2,%3, but the display has only %4x%5 pixels")
                   .arg(program.path)
                   .arg(picture.right() + 1)
                   .arg(picture.bottom() + 1)

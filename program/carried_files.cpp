@@ -57,7 +57,7 @@ QString Open(QFile &file, const QString &path, struct stat &status)
         return QStringLiteral("cannot be read");
     if (!file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle)
         || fstat(descriptor, &status) != 0 || !IsOrdinary(status))
-        return QStringLiteral("is not an ordinary file");
+        return QStringLiteral("is not a regular file");
     return {};
 }
 
@@ -108,7 +108,8 @@ QStringList ResolveCarriedFiles(const Program &program, MadeNodes &made)
         };
         const QList<Lw::FileRecord> records = node.FileRecords();
         if (records.isEmpty() && NeedsFiles(node))
-            warn(QStringLiteral("the clock has no <file> elements; --use-files makes no images"));
+            warn(QStringLiteral(
+                "the clock has no <file> elements, and --use-files generates no images"));
         for (const Lw::FileRecord &record : records) {
             const QString path = files.PathOf(record);
             node.SetFilePath(record.key, path, record.name, record.size, record.kind);

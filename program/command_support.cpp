@@ -39,7 +39,7 @@ MaybeFailure CheckLanguage(const QString &language)
     if (ClockCatalogues::Languages().contains(language))
         return std::nullopt;
     return UsageFailure(
-        QStringLiteral("no language \"%1\"; there are %2").arg(language, LanguageList()));
+        QStringLiteral("unknown language \"%1\"; accepted: %2").arg(language, LanguageList()));
 }
 
 QString HelpText(const QCommandLineParser &parser, const QString &usage)

@@ -22,8 +22,8 @@ inline constexpr char kLargeFrames[] = "large-frames"; ///< allows what CheckFra
 inline constexpr char kSharedEnvironment[] =
     "  LC_ALL, LC_MESSAGES, LANG  language of the clocks' wording without --language;\n"
     "                             the first that is set\n"
-    "  QT_FONT_DPI                dots per inch, for sizes in points; 96 where it is unset\n"
-    "  TMPDIR                     where temporary directories are made\n";
+    "  QT_FONT_DPI                dots per inch, for sizes in points (default: 96)\n"
+    "  TMPDIR                     parent of temporary directories\n";
 
 /// --help and --version.
 void AddInformationOptions(QCommandLineParser &parser);

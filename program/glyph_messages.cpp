@@ -111,7 +111,8 @@ GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults)
     const Faults lacking = OfKind(faults, GlyphFault::MissingCharacters);
     if (!lacking.isEmpty())
         messages.warnings.append(
-            QStringLiteral("no installed font has \"%1\" of %2; boxes are drawn instead")
+            QStringLiteral(
+                "no installed font has the characters \"%1\" of %2; boxes are drawn instead")
                 .arg(Letters(lacking), Images(lacking)));
     AppendIfAny(messages.warnings, OfKind(faults, GlyphFault::NotKept),
                 QStringLiteral("%1 not shown: the images of a clock may take 64 MiB of memory, "

@@ -68,7 +68,7 @@ Result<MadeNode> MakeNode(const Program &program, const ProgramArea &area,
         return ElementFailure(program, area, QStringLiteral("no plugin claims the element <%1>"));
     std::unique_ptr<Lw::HNode> node(plugin->Create());
     if (!node)
-        return ElementFailure(program, area, QStringLiteral("the plugin makes nothing of <%1>"));
+        return ElementFailure(program, area, QStringLiteral("the plugin creates no node for <%1>"));
     node->InitData();
     node->SetPos(area.geometry.topLeft());
     node->SetSize(area.geometry.size());
@@ -101,11 +101,12 @@ void SeparateIds(const Program &program, MadeNodes &made)
         made.nodes[static_cast<std::size_t>(places[i])].node->SetAttribute(kIdKey, numbers[i],
                                                                            false);
         if (ids[i].given)
-            made.warnings.append(AtElement(program.path, program.areas[places[i]].element,
-                                           QStringLiteral("the Id %1 is another clock's; this one "
-                                                          "plays as %2")
-                                               .arg(ids[i].number)
-                                               .arg(numbers[i])));
+            made.warnings.append(
+                AtElement(program.path, program.areas[places[i]].element,
+                          QStringLiteral("the Id %1 is used by another clock; this one "
+                                         "gets the Id %2")
+                              .arg(ids[i].number)
+                              .arg(numbers[i])));
     }
 }
 

@@ -64,7 +64,7 @@ private:
         if (m_failure)
             return;
         if (area.element.isNull() || !area.element.nextSiblingElement().isNull())
-            return Fail(element, QStringLiteral("an <area> holds exactly one element"));
+            return Fail(element, QStringLiteral("an <area> must contain exactly one element"));
         if (m_pixels > kMaximumPixels || m_program.areas.size() == kMaximumAreas)
             return Fail(element,
                         QStringLiteral("too many areas: at most %1, with %2 pixels in all")
@@ -103,7 +103,7 @@ private:
     {
         if (!m_wrongNumbers.isEmpty())
             Fail(element,
-                 QStringLiteral("<%1> needs %2, as whole numbers")
+                 QStringLiteral("<%1> needs whole numbers: %2")
                      .arg(element.tagName(), m_wrongNumbers.join(QStringLiteral(", "))));
     }
 
@@ -137,13 +137,14 @@ MaybeFailure CheckFrameBytes(const Program &program)
     const qint64 bytes = FrameBytes(program);
     if (bytes <= kUsualFrameBytes)
         return std::nullopt;
-    return Failure {ExitCode::ProgramError,
-                    AtElement(program.path, program.document.documentElement(),
-                              QStringLiteral("the frames of screen and areas take %1 MiB, more "
-                                             "than %2 (allowed by --%3)")
-                                  .arg((bytes + (1 << 20) - 1) >> 20)
-                                  .arg(kUsualFrameBytes >> 20)
-                                  .arg(QLatin1String(kLargeFrames)))};
+    return Failure {
+        ExitCode::ProgramError,
+        AtElement(program.path, program.document.documentElement(),
+                  QStringLiteral("the frames of the screen and the areas take %1 MiB, more "
+                                 "than %2 (allowed by --%3)")
+                      .arg((bytes + (1 << 20) - 1) >> 20)
+                      .arg(kUsualFrameBytes >> 20)
+                      .arg(QLatin1String(kLargeFrames)))};
 }
 
 Result<Program> ReadProgram(const QString &path)

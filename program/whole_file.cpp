@@ -109,8 +109,8 @@ MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets 
     if (targets == Targets::RegularFiles && lstat(QFile::encodeName(path).constData(), &status) == 0
         && !S_ISREG(status.st_mode))
         return WriteFailure(path,
-                            S_ISLNK(status.st_mode) ? QStringLiteral("this is a link")
-                                                    : QStringLiteral("this is not a file"));
+                            S_ISLNK(status.st_mode) ? QStringLiteral("is a symbolic link")
+                                                    : QStringLiteral("is not a regular file"));
     if (stat(QFile::encodeName(path).constData(), &status) != 0)
         return Replace(path, contents);
     if (IsStandardOutput(status))

@@ -42,16 +42,15 @@ Result<QString> Decode(const QByteArray &contents, const QString &path)
         codec = QTextCodec::codecForName(declared.isEmpty() ? "UTF-8" : declared);
     if (!codec)
         return LineFailure(path, 1,
-                           QStringLiteral("the encoding \"%1\" is not known; UTF-8 is")
+                           QStringLiteral("unknown encoding \"%1\"; use UTF-8")
                                .arg(QString::fromLatin1(declared)));
     QTextCodec::ConverterState state;
     const QString text = codec->toUnicode(contents.constData(), contents.size(), &state);
     if (state.invalidChars == 0 && state.remainingChars == 0)
         return text;
     const int fault = text.indexOf(QChar(QChar::ReplacementCharacter));
-    return LineFailure(
-        path, text.left(fault).count(QLatin1Char('\n')) + 1,
-        QStringLiteral("these bytes are not a text in %1").arg(QString::fromLatin1(codec->name())));
+    return LineFailure(path, text.left(fault).count(QLatin1Char('\n')) + 1,
+                       QStringLiteral("invalid %1 text").arg(QString::fromLatin1(codec->name())));
 }
 
 /// Checks what ScanXml() does not: names and characters.

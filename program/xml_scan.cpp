@@ -51,7 +51,7 @@ public:
                      .arg(Shown(m_open.last().name))
                      .arg(m_open.last().line));
         if (!m_fault && m_elements == 0)
-            Fail(m_line, QStringLiteral("is not XML: there is no element in it"));
+            Fail(m_line, QStringLiteral("is not XML: it has no element"));
         return m_fault;
     }
 
@@ -119,7 +119,7 @@ private:
                 || is("gt") || is("quot") || is("apos");
             if (end < 0 || !isKnown)
                 return Fail(m_line + text.left(i).count(QLatin1Char('\n')),
-                            QStringLiteral("\"&\" in a text is written as &amp;"));
+                            QStringLiteral("\"&\" in text must be written as &amp;"));
         }
     }
 
@@ -169,7 +169,7 @@ private:
         ++m_at;
         const Tag tag {Name(), line};
         if (tag.name.isEmpty())
-            return Fail(line, QStringLiteral("\"<\" in a text is written as &lt;"));
+            return Fail(line, QStringLiteral("\"<\" in text must be written as &lt;"));
         if (m_open.isEmpty() && m_elements > 0)
             return Fail(line,
                         QStringLiteral("<%1> follows the end of the outermost element")
@@ -207,7 +207,7 @@ private:
         m_open.append(tag);
         if (m_open.size() > kMaximumDepth)
             Fail(tag.line,
-                 QStringLiteral("elements are nested more than %1 deep").arg(kMaximumDepth));
+                 QStringLiteral("elements are nested more than %1 levels deep").arg(kMaximumDepth));
     }
 
     void Attribute(const Tag &tag, QVector<QStringRef> &names)
@@ -245,7 +245,7 @@ private:
         if (end < 0 || value.contains(QLatin1Char('<')))
             return Fail(m_line,
                         QStringLiteral("the value of %1 of <%2> has no closing quotation mark, or "
-                                       "a \"<\" that is written as &lt;")
+                                       "a \"<\" that must be written as &lt;")
                             .arg(Shown(name), Shown(tag.name)));
         CheckReferences(value);
         MoveTo(end + 1);

@@ -20,23 +20,22 @@ namespace {
 using namespace Lw::HNodeClock;
 
 constexpr char kDescription[] =
-    "Writes a program with its glyph files to a directory that can be carried to a player:\n"
+    "Writes a program with its glyph files to a directory that can be copied to a player:\n"
     "\n"
     "  program.xml  the program; every setting is an \"attribute\", every image a \"file\" of its\n"
     "               clock, named relative to program.xml\n"
     "  files/       the glyph images, named by their MD5 digests\n"
-    "  files.tsv    what to send: path, MD5 digest and size in bytes, separated by tabs, under a\n"
-    "               line with these names\n"
+    "  files.tsv    what to send: path, MD5 digest and size in bytes, tab-separated, with a\n"
+    "               header line\n"
     "\n"
     "Play it with: clock_player --use-files DIR/program.xml\n"
     "\n"
-    "The directory must be missing, empty, or hold an earlier export with the program as it was\n"
-    "exported; what an interrupted export left there is removed. One export at a time writes to\n"
-    "it, and never through links within it.\n"
+    "The directory must be missing or empty, or contain an earlier export whose program is\n"
+    "unchanged. Leftovers of an interrupted export are removed. Only one export at a time\n"
+    "writes to it, and links within it are never followed.\n"
     "\n"
-    "The minus image does not travel: a date of type 8 has no minus at the player. The pictures "
-    "of\n"
-    "picture clocks are the player's own.";
+    "The image of the minus is not exported: a date of type 8 has no minus on the player. The\n"
+    "pictures of picture clocks are those installed with the player.";
 
 /// Fails if the export would overwrite the program itself.
 MaybeFailure CheckProgramStays(const QString &directory, const QString &program)
@@ -66,7 +65,7 @@ void SayWhatStaysBehind(const ProgramClocks &clocks)
         if (clock.ClockType() != PictureClock && DateTypeOf(clock) == DateWithMinus)
             Say(ClockProgram::AtElement(
                 clocks.program.path, clocks.program.areas[i].element,
-                QStringLiteral("note: the minus of date type 8 does not travel with the program")));
+                QStringLiteral("note: the minus of date type 8 is not exported")));
     }
 }
 

@@ -72,7 +72,7 @@ ExportDirectory::ExportDirectory(const QString &path) : m_directory(path), m_loc
 MaybeFailure ExportDirectory::Take()
 {
     if (!m_directory.mkpath(QStringLiteral(".")))
-        return Refusal(m_directory.path(), QStringLiteral("cannot make this directory"));
+        return Refusal(m_directory.path(), QStringLiteral("cannot create this directory"));
     if (const MaybeFailure failure = CheckEntries())
         return failure;
     if (const MaybeFailure failure = Lock())
@@ -83,7 +83,7 @@ MaybeFailure ExportDirectory::Take()
     for (const QString &name : Leftovers()) {
         if (!QDir(m_directory.filePath(name)).removeRecursively())
             return Refusal(m_directory.filePath(name),
-                           QStringLiteral("an interrupted export left this, and it cannot be "
+                           QStringLiteral("left by an interrupted export, and cannot be "
                                           "removed"));
     }
     return std::nullopt;
@@ -116,12 +116,12 @@ MaybeFailure ExportDirectory::CheckKinds() const
         const QFileInfo entry(m_directory.filePath(name));
         if (entry.isSymLink())
             return Refusal(entry.filePath(),
-                           QStringLiteral("this is a link; an export does not write through it"));
+                           QStringLiteral("is a symbolic link, which an export does not follow"));
         const bool isFolder = name == QLatin1String(kExportedFiles);
         if (entry.exists() && (isFolder ? !entry.isDir() : !entry.isFile()))
             return Refusal(
                 entry.filePath(),
-                QStringLiteral("this is in the way of an export's %1")
+                QStringLiteral("exists but is not a %1, which the export needs here")
                     .arg(isFolder ? QStringLiteral("directory") : QStringLiteral("file")));
     }
     return std::nullopt;
@@ -139,9 +139,11 @@ MaybeFailure ExportDirectory::Lock()
     }
     if (m_lock.error() == QLockFile::LockFailedError)
         return Refusal(m_directory.path(),
-                       QStringLiteral("another export writes to this directory") + LockHolder());
-    return Refusal(m_directory.path(),
-                   QStringLiteral("cannot write to this directory: no permission, or no room"));
+                       QStringLiteral("another export is writing to this directory")
+                           + LockHolder());
+    return Refusal(
+        m_directory.path(),
+        QStringLiteral("cannot write to this directory: permission denied or no space left"));
 }
 
 /// Empty if the other export has not yet written its process id, or has just ended.

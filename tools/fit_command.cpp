@@ -18,15 +18,15 @@ using namespace ClockFit;
 using namespace Lw::HNodeClock;
 
 constexpr char kDescription[] =
-    "Writes a program with the text sizes that fit: nothing of a text is cut on any day of a "
+    "Writes a program with text sizes that fit: no part of a text is cut on any day of a "
     "year.\n"
-    "Where one text of a clock is cut, it gets the largest size that fits; where several are, all\n"
-    "sizes of the clock are made smaller by one factor. Nothing but these sizes changes: no\n"
-    "space, no comment. Clocks that fit stay as they are.\n"
+    "If one text of a clock is cut, it gets the largest size that fits; if several are, all\n"
+    "sizes of the clock are reduced by one factor. Nothing but these sizes changes, not even\n"
+    "white space or comments. Clocks that fit are left unchanged.\n"
     "\n"
-    "Each change is a line on standard error. Exit codes: 0 everything fits, 1 something is cut "
+    "Each change is reported on standard error. Exit codes: 0 everything fits, 1 a clock is cut "
     "at\n"
-    "every size, and is written as it was.";
+    "every size, and is written unchanged.";
 
 const QLatin1String kGrow("grow");
 
@@ -82,7 +82,7 @@ private:
                 FontAttributes(static_cast<GlyphFont>(font), clock.ClockType()).size;
             changes.append({area, attribute, sizes[index]});
             Tell(area,
-                 QStringLiteral("%1 is %2 points instead of %3")
+                 QStringLiteral("%1 changed from %3 to %2 points")
                      .arg(Key(attribute))
                      .arg(sizes[index])
                      .arg(own[index]));
@@ -132,8 +132,7 @@ CommandResult RunFit(const QStringList &arguments)
     tool.AddLanguage();
     tool.AddLargeFrames();
     YearOption::Add(tool);
-    tool.AddFlag(kGrow,
-                 QStringLiteral("Make the sizes of clocks that fit as large as they can be."));
+    tool.AddFlag(kGrow, QStringLiteral("Also enlarge clocks that fit, as far as they still fit."));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
     if (const MaybeFailure failure = tool.InstallLanguage())

@@ -11,11 +11,11 @@ namespace ClockTool {
 
 namespace {
 
-constexpr char kDescription[] = "Writes a table, as Markdown, of the sizes at which the digits and "
-                                "the colon of fonts are drawn\n"
-                                "right. Glyph images have one bit per pixel: small sizes lose "
-                                "strokes, or the holes that tell 3\n"
-                                "from 8. Without a name, every installed font is listed.";
+constexpr char kDescription[] = "Writes a Markdown table of the sizes at which the digits and the "
+                                "colon of fonts are legible.\n"
+                                "Glyph images have one bit per pixel: small sizes lose strokes, or "
+                                "the holes that distinguish\n"
+                                "3 from 8. Without a name, every installed font is listed.";
 
 /// The legible sizes below `from`, as "6, 8, 9".
 QString SizesBelow(const QVector<int> &sizes, int from)
@@ -39,7 +39,8 @@ int RightFrom(const QVector<int> &sizes)
 
 QString TableOf(const QStringList &families)
 {
-    QString table = QStringLiteral("| Font | Right from, points | Right below |\n|---|---|---|\n");
+    QString table =
+        QStringLiteral("| Font | Legible from (points) | Also legible at |\n|---|---|---|\n");
     for (const QString &family : families) {
         const QVector<int> sizes = LegibleSizes(family, QStringLiteral(":"));
         const int from = RightFrom(sizes);

@@ -157,7 +157,7 @@ private:
         // These belong to hidden rows, which are exported as well.
         m_failure = ExportFailure(
             OfClock(clock,
-                    QStringLiteral("no image can be made for %1: the font is too large")
+                    QStringLiteral("no image can be generated for %1: the font is too large")
                         .arg(missing.join(QStringLiteral(", ")))));
     }
 
@@ -213,7 +213,7 @@ private:
         if (read)
             return std::nullopt;
         return Failure {read.Error().code,
-                        QStringLiteral("%1: the exported program could not be read again: %2")
+                        QStringLiteral("%1: the exported program would be too large to read: %2")
                             .arg(m_clocks.program.path, read.Error().text)};
     }
 

@@ -22,10 +22,11 @@ namespace {
 using namespace Lw::HNodeClock;
 
 constexpr char kDescription[] =
-    "Lists the glyph images of a program, one line a different image, separated by tabs: MD5\n"
-    "digest, size in bytes, width and height in pixels, and where it is used, as area:key, areas\n"
-    "counting from 1. Images that cannot be made, such as that of an empty text, come together\n"
-    "in a line without a digest.";
+    "Lists the glyph images of a program, one line per distinct image, tab-separated: MD5\n"
+    "digest, size in bytes, width and height in pixels, and where it is used, as area:key, with "
+    "areas\n"
+    "numbered from 1. Images that cannot be made, such as that of an empty text, share\n"
+    "one line without a digest.";
 
 struct Image
 {
@@ -120,7 +121,7 @@ private:
 CommandResult RunGlyphs(const QStringList &arguments)
 {
     ToolArguments tool(QStringLiteral("glyphs"), QString::fromLatin1(kDescription));
-    tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to look into."));
+    tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to inspect."));
     tool.AddOutput();
     tool.AddLanguage();
     if (const auto ended = tool.Parse(arguments))

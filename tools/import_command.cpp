@@ -25,8 +25,8 @@ using namespace ClockProgram;
 
 constexpr char kDescription[] =
     "Makes a program from SDK XML. Every clock element, anywhere in the document, gets\n"
-    "an area of its own. Areas are stacked; where the screen would get too high they go on in\n"
-    "further columns. What an element says is kept, colours with six digits.";
+    "its own area. Areas are stacked; where the screen would become too high they continue in\n"
+    "further columns. Elements are kept as they are; colours are written with six digits.";
 
 const QString kArea = QStringLiteral("area");
 const QString kDefaultArea = QStringLiteral("256x128");
@@ -110,7 +110,7 @@ MaybeFailure CheckClocks(const QVector<QDomElement> &clocks, const QString &path
 {
     if (clocks.isEmpty())
         return Failure {ExitCode::ProgramError,
-                        QStringLiteral("%1: there is no <clock> in it").arg(path)};
+                        QStringLiteral("%1: it contains no <clock>").arg(path)};
     if (clocks.size() > kMaximumAreas)
         return Failure {ExitCode::ProgramError,
                         QStringLiteral("%1: %2 clocks; a program has at most %3 areas")
@@ -149,11 +149,11 @@ void SayWhatIsNotCarried(const QVector<QDomElement> &clocks, const QString &path
 {
     const auto count = std::count_if(clocks.cbegin(), clocks.cend(), IsExportedForm);
     if (count > 0)
-        Say(QStringLiteral(
-                "%1: note: clocks in the exported form: %2; the codes of date, week and "
-                "time are not read from it, and fonts, sizes, layout, AM/PM, hands, marks "
-                "and daylight-saving rules have no place in it: these get the defaults "
-                "of a new clock")
+        Say(QStringLiteral("%1: note: clocks in the exported form: %2; the codes of date, week and "
+                           "time are not read from it, and it does not contain fonts, sizes, "
+                           "layout, AM/PM, hands, marks "
+                           "or daylight-saving rules: these get the defaults "
+                           "of a new clock")
                 .arg(path, QString::number(count)));
 }
 

@@ -21,21 +21,22 @@ namespace ClockTool {
 namespace {
 
 constexpr char kDescription[] =
-    "Checks programs against the schema in docs/program.rng, and against what a clock really\n"
-    "reads: unknown words, numbers, colours, time zones and daylight-saving rules that are not\n"
-    "understood, codes outside their tables, fonts that are not installed, clocks sharing an Id.\n"
-    "Then it looks at every text that the clocks show in a year: what is cut or covered, when "
+    "Checks programs against the schema in docs/program.rng, and against what a clock actually\n"
+    "reads: unknown words; malformed numbers, colours, time zones and daylight-saving\n"
+    "rules; codes out of range, fonts that are not installed, clocks sharing an Id.\n"
+    "Then it checks every text that the clocks show in a year: what is cut or covered, when "
     "first,\n"
-    "and which size fits; what can hardly be seen; which characters a font lacks.\n"
+    "and which size fits; what is hard to see; which characters a font lacks.\n"
     "\n"
     "Each finding is a line on standard error: file:line: warning: what, and what is accepted.\n"
-    "Notes tell what is worth knowing and do not affect the exit code.\n"
+    "Notes are informative and do not affect the exit code.\n"
     "\n"
-    "With --format json each finding is a JSON object in a line on standard output: file, line,\n"
+    "With --format json each finding is one line with a JSON object on standard output: file, "
+    "line,\n"
     "clock (from 1), element, attribute, severity (warning or note), text, suggestion.\n"
     "\n"
     "Exit codes: 0 no warning, 1 warnings, 2 wrong command line, 3 a file cannot be read or is\n"
-    "not XML. Of several programs each is checked, and the highest code counts.";
+    "not XML. All given programs are checked, and the highest code is returned.";
 
 constexpr int kMostShown = 1000;
 
@@ -113,7 +114,7 @@ Result<Choices> ReadChoices(const ToolArguments &tool)
     const QString format = tool.Value(kFormat);
     if (format != QLatin1String("text") && format != QLatin1String("json"))
         return ClockProgram::UsageFailure(
-            QStringLiteral("no format \"%1\"; there are text and json").arg(format));
+            QStringLiteral("unknown format \"%1\"; accepted: text, json").arg(format));
     const Result<qint64> begin = YearOption::Read(tool);
     if (!begin)
         return begin.Error();
@@ -134,8 +135,8 @@ CommandResult RunLint(const QStringList &arguments)
     tool.AddLanguage();
     tool.AddLargeFrames();
     YearOption::Add(tool);
-    tool.AddFlag(kNoFit, QStringLiteral("Do not look at what the clocks show in a year."));
-    tool.AddOption({kFormat}, QStringLiteral("How findings are written: text or json."),
+    tool.AddFlag(kNoFit, QStringLiteral("Skip the check of what the clocks show in a year."));
+    tool.AddOption({kFormat}, QStringLiteral("Output format of the findings: text or json."),
                    QStringLiteral("format"), QStringLiteral("text"));
     if (const auto ended = tool.Parse(arguments))
         return *ended;

@@ -19,15 +19,15 @@ struct Command
 };
 
 constexpr Command kCommands[] = {
-    {"lint", RunLint, "check programs, and report what their clocks would not read"},
+    {"lint", RunLint, "check programs, and report what their clocks would ignore or cut"},
     {"fit", RunFit, "write a program with the text sizes that fit all year"},
     {"sdk", RunSdk, "write the SDK XML of a program's clocks"},
     {"import", RunImport, "make a program from SDK XML"},
     {"export", RunExport, "write a program with its glyph files, ready to be copied"},
     {"glyphs", RunGlyphs, "list the glyph images of a program and the clocks that share them"},
     {"attributes", RunAttributes, "write the reference table of the clock's attributes"},
-    {"fonts", RunFonts, "list the sizes at which the digits of a font can be read"},
-    {"zone", RunZone, "write the settings for a zone's time, and whether they are exact"},
+    {"fonts", RunFonts, "list the sizes at which the digits of a font are legible"},
+    {"zone", RunZone, "write the settings for a time zone, and say whether they are exact"},
     {"self-test", RunSelfTest, "check calendars, daylight saving and drawing on this device"},
 };
 
@@ -35,7 +35,7 @@ QString HelpText()
 {
     QString text = QStringLiteral("Usage: clock_tool COMMAND [arguments]\n"
                                   "\n"
-                                  "Checks content programs of clocks, converts them, and carries "
+                                  "Checks, converts and exports content programs of clocks, with "
                                   "their glyph files.\n"
                                   "\n"
                                   "Commands:\n");
@@ -45,14 +45,14 @@ QString HelpText()
                     .arg(QLatin1String(command.summary));
     return text
         + QStringLiteral(
-               "\n\"clock_tool COMMAND --help\" tells more. Messages go to standard error.\n"
+               "\nRun \"clock_tool COMMAND --help\" for details. Messages go to standard error.\n"
                "\n"
                "Exit codes:\n"
                "  0  done; for lint: nothing found; for zone: exact\n"
                "  1  something failed, such as writing; for lint: something was found;\n"
-               "     for zone: not exact, or not known; for self-test: something is wrong here\n"
+               "     for zone: not exact, or no zone data; for self-test: a check failed\n"
                "  2  the command line is wrong\n"
-               "  3  the input is missing or wrong; the message says where\n"
+               "  3  the input is missing or invalid; the message says where\n"
                "\n"
                "Environment:\n")
         + QLatin1String(ClockProgram::kSharedEnvironment);
@@ -86,7 +86,7 @@ int Run(const QStringList &arguments)
     }
     return static_cast<int>(Report(ClockProgram::UsageFailure(
         first.isEmpty() ? QStringLiteral("no command given")
-                        : QStringLiteral("there is no command %1%2")
+                        : QStringLiteral("unknown command %1%2")
                               .arg(Quoted(first), Suggestion(first, CommandNames())))));
 }
 

@@ -14,9 +14,9 @@ namespace {
 
 constexpr char kDescription[] =
     "Writes the SDK XML of a program's clocks: one document element that holds one element per\n"
-    "clock, in the order of the program. That form has no fonts, sizes, spacing, layout and "
+    "clock, in the order of the program. SDK XML has no fonts, sizes, spacing, layout or "
     "areas,\n"
-    "and of a picture clock zone and adjustment only.";
+    "and of a picture clock only the zone and the adjustment.";
 
 // The SDK's own documents have other parent elements; this one is only a container.
 constexpr char kRoot[] = "clocks";
@@ -41,7 +41,7 @@ CommandResult RunSdk(const QStringList &arguments)
         if (clock.ClockType() == Lw::HNodeClock::PictureClock)
             Say(ClockProgram::AtElement(
                 clocks->program.path, clocks->program.areas[i].element,
-                QStringLiteral("a picture clock is written without its kind: it would come back "
+                QStringLiteral("a picture clock is written without its type and would be imported "
                                "as an analog clock")));
         clock.CoverToSDKFormate(root, Lw::ProgramForController);
     }

@@ -12,13 +12,14 @@ namespace ClockTool {
 namespace {
 
 constexpr char kDescription[] =
-    "Tries the clocks' own code on this device: the lunar calendar on every day that it has, the\n"
+    "Tests the clocks' own code on this device: the lunar calendar on every day that it covers, "
+    "the\n"
     "Persian calendar and its leap years, daylight saving at changes that have happened, and a\n"
-    "frame of each kind of clock, drawn from glyph images that are made for it without fonts. One\n"
-    "line each. Picture clocks are tried with the pictures that are installed beside this "
+    "frame of each kind of clock, drawn from generated glyph images that need no fonts. One\n"
+    "line per check. Picture clocks are tested with the pictures installed beside this "
     "program.\n"
     "\n"
-    "Exit codes: 0 all is well, 1 something is not, 2 wrong command line.";
+    "Exit codes: 0 all checks passed, 1 a check failed, 2 wrong command line.";
 
 const char *TextOf(Outcome outcome)
 {

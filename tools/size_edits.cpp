@@ -125,7 +125,8 @@ QVector<SizeChange> TakeRound(QVector<SizeChange> &changes)
 
 Failure CannotBeEdited(const QString &path)
 {
-    return {ExitCode::ProgramError, QStringLiteral("%1: its text cannot be edited").arg(path)};
+    return {ExitCode::ProgramError,
+            QStringLiteral("%1: the sizes in this file cannot be edited").arg(path)};
 }
 
 // The changes that did not take effect in a program.

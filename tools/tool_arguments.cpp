@@ -91,15 +91,15 @@ MaybeFailure ToolArguments::CheckGiven() const
     const bool isAlternative = !m_alternative.isEmpty() && IsSet(m_alternative);
     if (isAlternative && !given.isEmpty())
         return UsageFailure(
-            QStringLiteral("--%1 has no use for \"%2\"").arg(m_alternative, given[0]));
+            QStringLiteral("--%1 takes no argument, got \"%2\"").arg(m_alternative, given[0]));
     if (!isAlternative && given.size() < m_positionals.size()
         && !m_positionals[given.size()].startsWith(QLatin1Char('[')))
         return UsageFailure(QStringLiteral("%1 needs %2")
                                 .arg(m_name, QString(m_positionals[given.size()]).remove(kMore)));
     const bool takesMore = !m_positionals.isEmpty() && m_positionals.last().endsWith(kMore);
     if (given.size() > m_positionals.size() && !takesMore)
-        return UsageFailure(
-            QStringLiteral("%1 has no use for \"%2\"").arg(m_name, given[m_positionals.size()]));
+        return UsageFailure(QStringLiteral("%1: unexpected argument \"%2\"")
+                                .arg(m_name, given[m_positionals.size()]));
     if (m_writesOutput && IsSet(QLatin1String(kOutput)) && Output().isEmpty())
         return UsageFailure(QStringLiteral("-o needs a file"));
     return std::nullopt;

@@ -78,7 +78,7 @@ MaybeFailure WorkDirectory::Fault() const
     if (m_directory.isValid())
         return std::nullopt;
     return Failure {ExitCode::RuntimeFailure,
-                    QStringLiteral("%1: cannot make a directory for temporary files here: %2")
+                    QStringLiteral("%1: cannot create a temporary directory here: %2")
                         .arg(m_parent, m_directory.errorString())};
 }
 

@@ -15,7 +15,7 @@ const QLatin1String kAt("at");
 void Add(ToolArguments &tool)
 {
     tool.AddOption({kAt},
-                   QStringLiteral("Begin of the year to look at, ISO 8601, UTC unless an offset is "
+                   QStringLiteral("Start of the year to check, ISO 8601, UTC unless an offset is "
                                   "given (default: now)."),
                    QStringLiteral("instant"));
 }

@@ -18,16 +18,16 @@ namespace {
 using namespace Lw::HNodeClock;
 
 constexpr char kDescription[] =
-    "Writes the settings with which a clock shows a zone's civil time, ready to be put into the\n"
+    "Writes the settings with which a clock shows a zone's civil time, ready to paste into the\n"
     "<clock> of a program, and the result of comparing them with every change of the\n"
-    "zone in ten years. The zone is named as the system names it: Europe/Berlin. Of several\n"
-    "settings that are right all that time, the ones that stay right longest afterwards are\n"
-    "written, with the date until which they do.\n"
+    "zone in ten years. Zones have their IANA names, such as Europe/Berlin. If several\n"
+    "settings are right for all of that time, those that stay right longest afterwards are\n"
+    "written, with the date until which they are.\n"
     "\n"
-    "The end of daylight saving is in the zone's standard time, as the clock reads it: an hour\n"
+    "The end of daylight saving is in the zone's standard time, as clocks expect it: an hour\n"
     "before the published one.\n"
     "\n"
-    "Where a zone's time cannot be expressed, the settings are those that are wrong for the\n"
+    "If a zone's time cannot be expressed exactly, the settings written are wrong for the\n"
     "shortest time, and every wrong time is listed.\n"
     "\n"
     "Exit codes: 0 exact, 1 not exact, or not known, 2 wrong command line, 3 no such zone.";
@@ -108,7 +108,7 @@ QString Verdict(const QString &zone, const CivilTime &civil, const QVector<Wrong
         text += Comment(QStringLiteral("from %1 to %2: %3")
                             .arg(TextOf(time.begin), TextOf(time.end), ErrorText(time.error)));
     return text
-        + Comment(QStringLiteral("What comes after %1 was not checked").arg(DateOf(civil.end))
+        + Comment(QStringLiteral("Times after %1 were not checked").arg(DateOf(civil.end))
                   + CheckAgain(civil.end));
 }
 
@@ -126,7 +126,7 @@ Failure NoSuchZone(const QString &name)
     return {ExitCode::ProgramError,
             QStringLiteral("the system has no zone %1%2")
                 .arg(Quoted(name),
-                     nearest.isEmpty() ? QStringLiteral("; zones are named as in Europe/Berlin")
+                     nearest.isEmpty() ? QStringLiteral("; use a name such as Europe/Berlin")
                                        : QStringLiteral("; did you mean %1?").arg(nearest))};
 }
 

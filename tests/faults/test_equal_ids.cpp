@@ -236,7 +236,7 @@ void TestEqualIds::PlayerGivesEachItsOwn()
                                       {program, QStringLiteral("--output"), m_directories->Dest(),
                                        QStringLiteral("--frames"), QStringLiteral("2")});
     QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.errors.count(QStringLiteral("the Id 1234 is another clock's")), kClocks - 1);
+    QCOMPARE(run.errors.count(QStringLiteral("the Id 1234 is used by another clock")), kClocks - 1);
     const QImage frame(m_directories->Dest() + QStringLiteral("frame_0002.png"));
     QCOMPARE(frame.size(), QSize(800, 400));
     for (int i = 0; i < kClocks; ++i) {

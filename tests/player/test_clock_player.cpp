@@ -196,7 +196,7 @@ void TestClockPlayer::ScreenTooLargeToMagnify()
     const PlayerRun run = Play({program, "--frames", "1", "--magnify", "16"});
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(run.errors,
-             QStringLiteral("clock_player: the screen is too large to be magnified 16 times\n"));
+             QStringLiteral("clock_player: the screen is too large to be magnified by 16\n"));
     QVERIFY(Frames(Path("out")).isEmpty());
 }
 
@@ -220,7 +220,7 @@ void TestClockPlayer::FramesOfDiodes()
     const PlayerRun tooLarge = Play({large, "--frames", "1", "--led", "9"});
     QCOMPARE(tooLarge.exitCode, 1);
     QCOMPARE(tooLarge.errors,
-             QStringLiteral("clock_player: the screen is too large to be magnified 9 times\n"));
+             QStringLiteral("clock_player: the screen is too large to be magnified by 9\n"));
     QCOMPARE(RunPlayer({"--plugin-dir", kPanels, "-platform", "offscreen", large, "--led", "9"})
                  .exitCode,
              1);
@@ -286,13 +286,13 @@ void TestClockPlayer::ForeignEntriesAreNoFrames_data()
     QTest::addColumn<QString>("command");
     QTest::addColumn<QString>("reason");
     QTest::newRow("link") << "ln -s ../other"
-                          << "this is a link";
+                          << "is a symbolic link";
     QTest::newRow("link to nothing") << "ln -s nowhere"
-                                     << "this is a link";
+                                     << "is a symbolic link";
     QTest::newRow("pipe") << "mkfifo"
-                          << "this is not a file";
+                          << "is not a regular file";
     QTest::newRow("directory") << "mkdir"
-                               << "this is not a file";
+                               << "is not a regular file";
 }
 
 void TestClockPlayer::ForeignEntriesAreNoFrames()
@@ -364,8 +364,8 @@ void TestClockPlayer::EqualGivenIdsAreWarnedOf()
     const PlayerRun run = Play({program, "--frames", "1"});
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.errors,
-             QStringLiteral("clock_player: %1:3: the Id 77 is another clock's; this one "
-                            "plays as 1000\n")
+             QStringLiteral("clock_player: %1:3: the Id 77 is used by another clock; this one "
+                            "gets the Id 1000\n")
                  .arg(program));
     const QImage frame = Frames(Path("out")).value(0);
     QCOMPARE(qBlue(frame.pixel(1, 0)), 107);

@@ -168,8 +168,8 @@ void TestCommandLine::HelpTellsBounds()
 {
     const QString text = std::get<Information>(Parsed({"--help"})).text.simplified();
     for (const char *bounds :
-         {"Number of frames to write, 1 to 1000000 (default 10).", "a side, 1 to 16 (default 1).",
-          "to the next, 3 to 64.", "as real time, 0.01 to 100000.", "wording: en, fa, zh ("})
+         {"Number of frames to write, 1 to 1000000 (default 10).", "pixels, 1 to 16 (default 1).",
+          "pitch of <pixels>, 3 to 64.", "as real time, 0.01 to 100000.", "wording: en, fa, zh ("})
         QVERIFY2(text.contains(QLatin1String(bounds)), bounds);
     QVERIFY(!text.contains(QLatin1Char('%')));
 }

@@ -188,9 +188,9 @@ void TestKiosk::StatusReplacesFilesOnly()
     QVERIFY(!WriteStatus(file, {{"frames", 8}}));
     QVERIFY(QFile::link(file, link));
     QCOMPARE(WriteStatus(link, {{"frames", 9}})->text,
-             link + ": cannot be written: this is a link");
+             link + ": cannot be written: is a symbolic link");
     QCOMPARE(WriteStatus(directory.path(), {})->text,
-             directory.path() + ": cannot be written: this is not a file");
+             directory.path() + ": cannot be written: is not a regular file");
     QFile written(file);
     QVERIFY(written.open(QFile::ReadOnly));
     QCOMPARE(QJsonDocument::fromJson(written.readAll()).object(), QJsonObject({{"frames", 8}}));

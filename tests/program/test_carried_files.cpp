@@ -85,9 +85,9 @@ void TestCarriedFiles::OddFilesAreTold_data()
     row("another size", Path("good"), kDigest, 13, "has 12 bytes, expected 13");
     row("another digest", Path("good"), "x", 12, "has the digest c91fa9");
     row("missing", Path("none"), kDigest, 12, "is missing");
-    row("a directory", Path("directory"), kDigest, 12, "is not an ordinary file");
-    row("a pipe", Path("pipe"), kDigest, 12, "is not an ordinary file");
-    row("a device", "/dev/zero", kDigest, 12, "is not an ordinary file");
+    row("a directory", Path("directory"), kDigest, 12, "is not a regular file");
+    row("a pipe", Path("pipe"), kDigest, 12, "is not a regular file");
+    row("a device", "/dev/zero", kDigest, 12, "is not a regular file");
     row("sparse", Path("sparse"), kDigest, Q_INT64_C(300) << 30, "is larger than 142606336 bytes");
 }
 

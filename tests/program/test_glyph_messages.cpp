@@ -82,7 +82,7 @@ private Q_SLOTS:
                                  Fault(GlyphFault::MissingCharacters, "_toptext", 0, two)});
         QVERIFY(messages.failures.isEmpty());
         QCOMPARE(messages.warnings,
-                 QStringList("no installed font has \"" + one + two
+                 QStringList("no installed font has the characters \"" + one + two
                              + "\" of 2 glyph images (_lunar, _toptext); boxes are drawn instead"));
     }
 

@@ -126,7 +126,7 @@ void TestExportDirectory::LinksAreRefused()
     QVERIFY(QFile::link(Path("elsewhere"), Path("out/" + name)));
     const Entries others = EntriesIn(Path("elsewhere"));
     const QByteArray other = ReadText(Path("elsewhere"));
-    VerifyRefused(Path("out/" + name) + ": this is a link");
+    VerifyRefused(Path("out/" + name) + ": is a symbolic link");
     QCOMPARE(EntriesIn(Path("elsewhere")), others);
     QCOMPARE(ReadText(Path("elsewhere")), other);
 }
@@ -148,7 +148,7 @@ void TestExportDirectory::OtherEntriesAreRefused()
     QFETCH(QString, name);
     QFETCH(QString, replacement);
     QVERIFY(Write("out/" + name, "mine"));
-    VerifyRefused(Path("out/" + replacement) + ": this is in the way");
+    VerifyRefused(Path("out/" + replacement) + ": exists but is not a ");
 }
 
 void TestExportDirectory::NextToAnExportFilesStay()
@@ -245,7 +245,7 @@ void TestExportDirectory::AnotherAtWork()
     {
         QLockFile lock(Path("out/.clock_tool-export.lock"));
         QVERIFY(lock.tryLock());
-        VerifyRefused("another export writes to this directory (process "
+        VerifyRefused("another export is writing to this directory (process "
                       + QString::number(QCoreApplication::applicationPid()));
     }
     QCOMPARE(Export("second").exitCode, 0);
@@ -264,7 +264,7 @@ void TestExportDirectory::ManyAtOnce()
     for (const auto &tool : tools) {
         QVERIFY(tool->waitForFinished());
         const QByteArray errors = tool->readAllStandardError();
-        QVERIFY2(tool->exitCode() == 0 || errors.contains("another export writes"),
+        QVERIFY2(tool->exitCode() == 0 || errors.contains("another export is writing"),
                  errors.constData());
         done += tool->exitCode() == 0 ? 1 : 0;
     }

@@ -70,9 +70,9 @@ const Finding kFindings[] = {
     {"key colour", Wall(Digital(Time("20", "#010201"))), kWarning,
      "the colour of the time is the key colour #010201"},
     {"faint", Wall(Digital(Time("20", "#202020"))), kWarning,
-     "the colour #202020 of the time has a contrast of 1.3 to #000000"},
+     "the colour #202020 of the time has a contrast of 1.3 against its background #000000"},
     {"blue", Wall(Digital(Time("20", "#0000ff"))), kNote,
-     "the colour #0000ff of the time has a contrast of 2.4 to #000000"},
+     "the colour #0000ff of the time has a contrast of 2.4 against its background #000000"},
     {"rows over each other",
      Wall(Digital("<title display=\"false\"/><week display=\"false\"/>\n"
                   "<date display=\"true\" color=\"#ffffff\"/>\n"
@@ -87,7 +87,7 @@ const Finding kFindings[] = {
      Wall("<clock type=\"dial\"><title display=\"false\"/><date display=\"false\"/>\n"
           "<week display=\"false\"/><ampm display=\"false\"/></clock>",
           60, 60),
-     kNote, "a dial with a radius of 30 pixels has no minute marks; from 40.5 on it has"},
+     kNote, "a dial with a radius of 30 pixels has no minute marks; they need at least 40.5"},
     {"hands",
      Wall("<clock type=\"dial\"><analog hourHandColor=\"#ffffff\""
           " minuteHandColor=\"#ffffff\"/></clock>",
@@ -163,7 +163,7 @@ void TestLintFit::ReportsAnAreaOnce_data()
     QTest::newRow("off, no fit") << QByteArray("500") << QStringList {"--no-fit"}
                                  << "the area is outside the screen of 200 x 60 pixels";
     QTest::newRow("partly") << QByteArray("100") << QStringList()
-                            << "the area reaches beyond the screen: 100 pixels at the right";
+                            << "the area extends beyond the screen: 100 pixels at the right";
     QTest::newRow("partly, no fit")
         << QByteArray("100") << QStringList {"--no-fit"} << "the area extends beyond the screen";
 }
@@ -197,7 +197,7 @@ void TestLintFit::TellsTheFirstDay()
         "<week display=\"true\" format=\"1\" fontName=\"DejaVu Sans\""
         " fontSize=\"12\"/></clock>";
     const ProcessRun run = Lint(Wall(week, 85));
-    QVERIFY2(run.errors.contains("; first 2026-08-25T22:00:00Z as \"Wednesday\"; "),
+    QVERIFY2(run.errors.contains("; first at 2026-08-25T22:00:00Z as \"Wednesday\"; "),
              qPrintable(run.errors));
 }
 

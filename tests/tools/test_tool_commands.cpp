@@ -67,7 +67,7 @@ void TestToolCommands::Usage_data()
     QTest::addColumn<QString>("message");
     const QString example = InTree("examples/station.xml");
     QTest::newRow("nothing") << QStringList {} << "no command given";
-    QTest::newRow("unknown command") << QStringList {"lynt"} << "no command \"lynt\"";
+    QTest::newRow("unknown command") << QStringList {"lynt"} << "unknown command \"lynt\"";
     QTest::newRow("misspelt command") << QStringList {"exprot"} << "did you mean \"export\"?";
     QTest::newRow("no program") << QStringList {"lint"} << "needs PROGRAM.xml";
     QTest::newRow("nothing to fit") << QStringList {"fit"} << "needs PROGRAM.xml";

@@ -195,7 +195,8 @@ void TestToolExport::ClocksWithoutFilesAreReported()
                           + inArea("<clock/>") + "</program>"));
     const ProcessRun run = Play(Path("in.xml"), Path("frames"), {"--use-files"});
     QCOMPARE(run.exitCode, 0);
-    const QString text = ": the clock has no <file> elements; --use-files makes no images\n";
+    const QString text =
+        ": the clock has no <file> elements, and --use-files generates no images\n";
     for (const char *line : {"2", "4"})
         QVERIFY2(run.errors.contains("in.xml:" + QString(line) + text), qPrintable(run.errors));
     QCOMPARE(run.errors.count('\n'), 2); // a picture clock has none
@@ -284,9 +285,9 @@ void TestToolExport::RefusesOtherDirectories_data()
     QTest::addColumn<QString>("directory");
     QTest::addColumn<QString>("message");
     QTest::newRow("a file") << "in.xml"
-                            << "cannot make this directory";
+                            << "cannot create this directory";
     QTest::newRow("within a file") << "in.xml/out"
-                                   << "cannot make this directory";
+                                   << "cannot create this directory";
     QTest::newRow("what is no export") << "."
                                        << "neither empty nor an earlier export";
 }
@@ -357,7 +358,7 @@ void TestToolExport::HiddenImageThatCannotBeMade()
     QVERIFY(WriteText(program, ProgramOf(TopTextClock("LED", 30000, false))));
     const ProcessRun run = RunTool({"export", program, directory.filePath("out")});
     QCOMPARE(run.exitCode, 1);
-    QVERIFY2(run.errors.contains("no image can be made for _toptext"), qPrintable(run.errors));
+    QVERIFY2(run.errors.contains("no image can be generated for _toptext"), qPrintable(run.errors));
     QCOMPARE(
         RunPlayer({program, "--output", directory.filePath("frames"), "--frames", "1"}).exitCode,
         0);

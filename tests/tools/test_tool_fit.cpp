@@ -104,8 +104,8 @@ void TestToolFit::ChangesOnlyTheSize()
     expected.replace(mark + "60", mark + QByteArray::number(points));
     QCOMPARE(after, expected);
     QCOMPARE(FitWarnings(after), QString());
-    QVERIFY(m_run.errors.contains("DigitalTimeFSize is " + QString::number(points)
-                                  + " points instead of 60"));
+    QVERIFY(m_run.errors.contains("DigitalTimeFSize changed from 60 to " + QString::number(points)
+                                  + " points"));
 }
 
 // A new clock's sizes are 12 points.

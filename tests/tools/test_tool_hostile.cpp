@@ -224,7 +224,8 @@ void TestToolHostile::ExportWritesNothingBeyondTheBounds()
     QVERIFY(WriteText(path, ProgramOf("<clock type='digital'>" + settings + "</clock>")));
     const ProcessRun run = RunTool(CommandLine("export", path, directory.path()));
     QCOMPARE(run.exitCode, 3);
-    const QString refusal = path + ": the exported program could not be read again: program.xml:";
+    const QString refusal =
+        path + ": the exported program would be too large to read: program.xml:";
     QVERIFY2(run.errors.contains(refusal), qPrintable(run.errors));
     QVERIFY2(run.errors.endsWith("more than 131072 attributes\n"), qPrintable(run.errors));
     QVERIFY(!QFile::exists(directory.filePath("out/program.xml")));
@@ -240,7 +241,7 @@ void TestToolHostile::LargeFramesNeedTheOption()
                       "<program width='5792' height='5792'><area x='0' y='0' width='5792' "
                       "height='5792'><clock type='dial' timezone='+00:00'/></area></program>"));
     const QString refusal = path
-        + ":1: the frames of screen and areas take 640 MiB, more than 256 (allowed by "
+        + ":1: the frames of the screen and the areas take 640 MiB, more than 256 (allowed by "
           "--large-frames)\n";
     const ProcessRun fit = RunTool({"fit", path});
     QCOMPARE(fit.exitCode, 3);

@@ -52,7 +52,7 @@ const QVector<Finding> kNames {
     {"shadowed element",
      Digital("<title/><fixedText/>"),
      2,
-     {"<title> is not read beside <fixedText>"}},
+     {"<title> is ignored because <fixedText> is present"}},
     {"misspelt attribute",
      Digital("<time fontsize='3'/>"),
      2,
@@ -74,7 +74,7 @@ const QVector<Finding> kNames {
     {"a key twice",
      Digital("<attribute key='Id' value='1'/>\n<attribute key='Id' value='2'/>"),
      3,
-     {"Id is set again"}},
+     {"Id is set more than once"}},
     {"other element", ProgramOf("\n<clok/>"), 2, {"<clok>", "<clock>"}},
     {"setting without a value",
      Digital("<date/>\n<attribute key='Id'/>"),
@@ -98,9 +98,9 @@ const QVector<Finding> kValues {
     {"number with a unit",
      Digital("<time fontSize='12pt'/>"),
      2,
-     {"fontSize=\"12pt\"", "counts as 0"}},
-    {"number too large", Digital("<clockTextsSyle space='4294967297'/>"), 2, {"counts as 0"}},
-    {"flag that is no number", Setting("Digital_Date_d", "true"), 2, {"counts as 0"}},
+     {"fontSize=\"12pt\"", "is read as 0"}},
+    {"number too large", Digital("<clockTextsSyle space='4294967297'/>"), 2, {"is read as 0"}},
+    {"flag that is no number", Setting("Digital_Date_d", "true"), 2, {"is read as 0"}},
     {"date code", Digital("<date format='9'/>"), 2, {"format=\"9\"", "0 to 8"}},
     {"negative code", Digital("<week format='-1'/>"), 2, {"0 to 3"}},
     {"time code", Setting("DigitalTimeType", "5"), 2, {"0 to 4"}},
@@ -127,7 +127,7 @@ const QVector<Finding> kTimes {
     {"adjustment",
      ProgramOf("<clock adjust='01:30:00'/>"),
      1,
-     {"adjust=\"01:30:00\"", "changes nothing", "hh:mm:ss"}},
+     {"adjust=\"01:30:00\"", "is ignored", "hh:mm:ss"}},
     {"adjustment of two days",
      Digital("<clockCom clockType='1' timeAdjust='172800'/>"),
      2,
@@ -176,7 +176,7 @@ const QVector<Finding> kFonts {
      Digital("<date display='false'/>\n"
              "<time fontName='WenQuanYi Micro Hei' fontSize='8' format='0'/>"),
      3,
-     {"\"WenQuanYi Micro Hei\" lose strokes at 8 points", "0 has 0 holes instead of 1",
+     {"\"WenQuanYi Micro Hei\" are not legible at 8 points", "0 has 0 holes instead of 1",
       "accepted: 9"}},
     {"colon that vanishes",
      Digital("<date display='false'/><time fontName='WenQuanYi Micro Hei'/>\n"
@@ -187,7 +187,7 @@ const QVector<Finding> kFonts {
      Analog("<date display='false'/><analog hourScaleType='4' hourScaleFontName='DejaVu Serif' "
             "hourScaleFontSize='6'/>"),
      2,
-     {"lose strokes at 6 points", "accepted: 7"}},
+     {"are not legible at 6 points", "accepted: 7"}},
 };
 
 // What does not suit the kind of clock, or hides all of it.
@@ -465,7 +465,7 @@ void TestToolLint::MissingZoneIsNoted()
     QFETCH(bool, isNoted);
     const ProcessRun run = Lint(ProgramOf(clock));
     QCOMPARE(run.exitCode, run.errors.contains(": warning: ") ? 1 : 0);
-    QCOMPARE(run.errors.contains("in.xml:1: note: the clock names no time zone"), isNoted);
+    QCOMPARE(run.errors.contains("in.xml:1: note: the clock has no time zone"), isNoted);
 }
 
 void TestToolLint::SeveralPrograms_data()

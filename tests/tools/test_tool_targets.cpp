@@ -221,8 +221,7 @@ void TestToolTargets::NoTemporaryDirectory()
     const ProcessRun run =
         RunProcess(TOOL, {"glyphs", InTree("examples/station.xml")}, environment);
     QCOMPARE(run.exitCode, 1);
-    const QString expected =
-        file + ": cannot make a directory for temporary files here: Not a directory";
+    const QString expected = file + ": cannot create a temporary directory here: Not a directory";
     QVERIFY2(run.errors.contains(expected), qPrintable(run.errors));
 }
 

@@ -62,7 +62,7 @@ QStringList SeparatorFaults(const QString &family, const QFont &font, const QStr
         if (strokes == 0 && all > 0)
             faults.append(QStringLiteral("\"%1\" is not drawn").arg(text[i]));
         else if (strokes < all)
-            faults.append(QStringLiteral("\"%1\" is not drawn whole").arg(text[i]));
+            faults.append(QStringLiteral("\"%1\" is drawn incompletely").arg(text[i]));
     }
     return faults;
 }

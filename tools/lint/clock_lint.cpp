@@ -90,7 +90,8 @@ private:
             return CheckUnread(child, known);
         const QString shadow = ShadowOf(m_type, name);
         if (!shadow.isEmpty() && m_present.contains(shadow))
-            Warn(At(child), QStringLiteral("<%1> is not read beside <%2>").arg(name, shadow));
+            Warn(At(child),
+                 QStringLiteral("<%1> is ignored because <%2> is present").arg(name, shadow));
         else if (m_seen.contains(name))
             Warn(At(child), QStringLiteral("only the first <%1> of a clock is read").arg(name));
         m_seen.insert(name);
@@ -105,7 +106,7 @@ private:
         if (child.attributes().isEmpty() || isHidden)
             return;
         Warn(At(child),
-             QStringLiteral("<%1> has no effect: a picture clock shows its pictures only")
+             QStringLiteral("<%1> has no effect: a picture clock shows only its pictures")
                  .arg(child.tagName()));
     }
 
@@ -117,7 +118,7 @@ private:
         const int other = m_type == DigitalClock ? AnalogClock : DigitalClock;
         if (ElementsRead(other).contains(child.tagName()))
             Warn(At(child),
-                 QStringLiteral("<%1> is not read of this kind of clock, only of type \"%2\"")
+                 QStringLiteral("<%1> is not read for this kind of clock, only for type \"%2\"")
                      .arg(child.tagName(), QLatin1String(Sdk::kTypeNames[other])));
         else
             Warn(At(child),
@@ -172,7 +173,8 @@ private:
                 QStringLiteral("a clock has no attribute %1%2").arg(Quoted(key), NearestKey(key)),
                 Nearest(key, AllKeys()));
         if (m_settings.contains(key))
-            Warn(At(setting, key), QStringLiteral("%1 is set again; the last one counts").arg(key));
+            Warn(At(setting, key),
+                 QStringLiteral("%1 is set more than once; the last one is used").arg(key));
         m_settings.insert(key);
         const QString value = setting.attribute(kValue);
         CheckValue(setting, key, value, StoredFault(row->attribute, value));

@@ -94,9 +94,9 @@ QString SizeWords(Part part, int points, double factor)
     if (points > 0)
         words += QStringLiteral("; %1 points would fit").arg(points);
     else if (points == 0)
-        words += QStringLiteral("; no size of the %1 alone fits").arg(NameOf(part));
+        words += QStringLiteral("; no size of the %1 fits by itself").arg(NameOf(part));
     if (factor > 0)
-        words += QStringLiteral("; all sizes would fit at %1 of their own").arg(FactorText(factor));
+        words += QStringLiteral("; all sizes would fit if scaled by %1").arg(FactorText(factor));
     return words;
 }
 
@@ -113,9 +113,9 @@ QString CutWords(const QVector<Cut> &cuts, int points, double factor)
         isGone = isGone || cut.isGone;
     }
     const Part part = cuts.first().part;
-    return QStringLiteral("%1 cut: %2%3; first %4%5%6")
+    return QStringLiteral("%1 cut: %2%3; first at %4%5%6")
         .arg(Subject(part), sides.join(QStringLiteral(", ")),
-             isGone ? QStringLiteral(", nothing of it is seen") : QString(), InstantText(first.utc),
+             isGone ? QStringLiteral(", completely hidden") : QString(), InstantText(first.utc),
              As(first.text), SizeWords(part, points, factor));
 }
 
@@ -131,7 +131,7 @@ QString ClippedWords(const Clipped &clipped, int points)
 QString OverlapWords(const Overlap &overlap)
 {
     if (overlap.lower == overlap.upper)
-        return QStringLiteral("the %1 cover each other: %2")
+        return QStringLiteral("the %1 overlap each other: %2")
             .arg(NameOf(overlap.lower), Pixels(overlap.pixels));
     return QStringLiteral("%1 drawn over the %2: up to %3; first %4%5")
         .arg(Subject(overlap.upper), NameOf(overlap.lower), Pixels(overlap.pixels),
@@ -145,8 +145,8 @@ QString FaintWords(const Faint &faint)
         return QStringLiteral("the colour of the %1 is the key colour %2, which the host makes "
                               "transparent")
             .arg(part, ColourText(faint.ink));
-    return QStringLiteral("the colour %1 of the %2 has a contrast of %3 to %4, on which it shows; "
-                          "from 3 on it is easy to see")
+    return QStringLiteral("the colour %1 of the %2 has a contrast of %3 against its background %4; "
+                          "3 or more is easy to see")
         .arg(ColourText(faint.ink), part)
         .arg(faint.contrast, 0, 'f', 1)
         .arg(ColourText(faint.background));
@@ -154,14 +154,14 @@ QString FaintWords(const Faint &faint)
 
 QString SameHandsWords(const SameHands &hands)
 {
-    return QStringLiteral("the %1 and the %2 are both %3: where one is over the other they cannot "
+    return QStringLiteral("the %1 and the %2 are both %3: where they overlap they cannot "
                           "be told apart")
         .arg(NameOf(hands.one), NameOf(hands.other), ColourText(hands.colour));
 }
 
 QString LostMarksWords(const LostMarks &marks)
 {
-    return QStringLiteral("a dial with a radius of %1 pixels has no %2; from %3 on it has")
+    return QStringLiteral("a dial with a radius of %1 pixels has no %2; they need at least %3")
         .arg(marks.radius)
         .arg(NameOf(marks.part))
         .arg(marks.minimumRadius);
@@ -197,7 +197,7 @@ QString OffScreenWords(const OffScreen &off)
         if (pixels > 0)
             sides.append(QStringLiteral("%1 at the %2").arg(Pixels(pixels), SideName(side)));
     }
-    return QStringLiteral("the area reaches beyond the screen: %1")
+    return QStringLiteral("the area extends beyond the screen: %1")
         .arg(sides.join(QStringLiteral(", ")));
 }
 
@@ -208,7 +208,7 @@ QString ClockOverlapWords(const ClockOverlap &overlap, int line)
         : QStringLiteral("%1 drawn over the %2 of the clock in line %3")
               .arg(Subject(overlap.upperPart), NameOf(overlap.lowerPart))
               .arg(line);
-    return QStringLiteral("%1: %2; first on the day from %3")
+    return QStringLiteral("%1: %2; first on the day starting at %3")
         .arg(what, Pixels(overlap.pixels), InstantText(overlap.firstDay));
 }
 

@@ -61,11 +61,12 @@ private:
         if (other == m_lines.constEnd())
             m_lines.insert(*id, clock.lineNumber());
         else
-            findings.Warn(At(clock, QLatin1String(kIdKey)),
-                          QStringLiteral("the Id %1 is that of the clock in line %2, whose glyph "
-                                         "files it would share; accepted: any other number")
-                              .arg(*id)
-                              .arg(*other));
+            findings.Warn(
+                At(clock, QLatin1String(kIdKey)),
+                QStringLiteral("the Id %1 is already used by the clock in line %2, whose glyph "
+                               "files it would share; accepted: any other number")
+                    .arg(*id)
+                    .arg(*other));
     }
 
     CarriedFiles m_files;

@@ -62,7 +62,7 @@ QString Said(ErrorPointer error)
 {
     switch (error->code) {
     case XML_RELAXNG_ERR_ATTRVALID:
-        return QStringLiteral("the attributes of <%1> are not as the schema has them")
+        return QStringLiteral("the attributes of <%1> do not match the schema")
             .arg(ElementOf(error));
     case XML_RELAXNG_ERR_ELEMWRONG:
         // After an error libxml2 also complains about the white space between elements.
@@ -150,11 +150,11 @@ SchemaReport CheckAgainstSchema(const QByteArray &contents)
                                           XML_PARSE_NONET | XML_PARSE_BIG_LINES));
     const Schema schema = LoadSchema();
     if (!document || !schema)
-        return LeftOut(0, QStringLiteral("the schema's check cannot read this document"));
+        return LeftOut(0, QStringLiteral("cannot check this document against the schema"));
     if (const int line = CrowdedLine(xmlDocGetRootElement(document.get())))
         return LeftOut(line,
-                       QStringLiteral("this element has more than %1 elements in it, and the "
-                                      "schema's check was left out")
+                       QStringLiteral("this element has more than %1 children, so the "
+                                      "schema check was skipped")
                            .arg(kMostChildren));
     const Validation validation(xmlRelaxNGNewValidCtxt(schema.get()));
     Faults faults;

@@ -22,13 +22,13 @@ QString NumberFault(Attribute attribute, const QString &text)
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     if (!isNumber)
-        return QStringLiteral("is not a whole number and counts as 0; accepted: a decimal such as "
+        return QStringLiteral("is not a whole number and is read as 0; accepted: a decimal such as "
                               "12");
     const ValueRange &range = RowOf(attribute).range;
     if (range.Contains(number))
         return {};
     const QString codes = NamedCodes(range);
-    return QStringLiteral("is not known; accepted: %1%2")
+    return QStringLiteral("is out of range; accepted: %1%2")
         .arg(RangeText(range), codes.isEmpty() ? codes : QStringLiteral(" (%1)").arg(codes));
 }
 
@@ -57,7 +57,7 @@ QString StoredColourFault(const QString &text)
         return {};
     const QString form = QStringLiteral("red + 256 * green + 65536 * blue");
     if (!isNumber && QColor::isValidColor(text))
-        return QStringLiteral("is not a number and counts as black; accepted: %1, here %2")
+        return QStringLiteral("is not a number and counts as black; accepted: %1, in this case %2")
             .arg(form)
             .arg(Lw::HAppConfig::NameToIntColor(text));
     return QStringLiteral("is not a stored colour; accepted: %1, from 0 to 16777215").arg(form);
@@ -103,7 +103,7 @@ QString FamilyFault(const QString &text)
     if (text.isEmpty() || ClockFit::IsInstalled(text))
         return {};
     const QString nearest = Nearest(text, ClockFit::InstalledFamilies());
-    return QStringLiteral("is not an installed font; \"%1\" is drawn%2")
+    return QStringLiteral("is not an installed font; \"%1\" is used instead%2")
         .arg(ClockFit::FamilyUsed(text),
              nearest.isEmpty()
                  ? QStringLiteral("; accepted: a family that \"fc-list : family\" lists")
@@ -131,7 +131,7 @@ QString SignedTimeFault(const QString &text)
     const bool hasSign = text.startsWith(QLatin1Char('+')) || text.startsWith(QLatin1Char('-'));
     if (hasSign && ParseTimeOfDay(text.mid(1)).isValid())
         return {};
-    return QStringLiteral("is not an adjustment and changes nothing; accepted: a sign and "
+    return QStringLiteral("is not an adjustment and is ignored; accepted: a sign and "
                           "\"hh:mm:ss\", such as \"-00:05:00\"");
 }
 

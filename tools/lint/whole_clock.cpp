@@ -59,9 +59,10 @@ private:
         const QString zone = QLatin1String(Sdk::kTimezone);
         if (!m_clock.hasAttribute(zone) && !older.hasAttribute(QStringLiteral("timeZone"))
             && !HasSetting(Attribute::TimeZone))
-            m_findings.Note(At(m_clock, zone),
-                            QStringLiteral("the clock names no time zone and shows the player's, "
-                                           "which is UTC; accepted: timezone=\"+01:00\", say"));
+            m_findings.Note(
+                At(m_clock, zone),
+                QStringLiteral("the clock has no time zone and shows the player's, "
+                               "which is UTC; accepted: for example timezone=\"+01:00\""));
     }
 
     void CheckRules()
@@ -117,7 +118,7 @@ private:
         const Attribute date = isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType;
         if (m_node.ClockType() != PictureClock && Number(date) == DateWithMinus)
             m_findings.Note(At(m_clock),
-                            QStringLiteral("the minus of date type 8 does not travel with an "
+                            QStringLiteral("the minus of date type 8 is missing from an "
                                            "exported program"));
     }
 
@@ -163,7 +164,7 @@ private:
         const int right = NearestLegibleSize(name, points, marks);
         m_findings.Warn(
             PlaceInClock(size),
-            QStringLiteral("the digits of %1 lose strokes at %2 points: %3%4")
+            QStringLiteral("the digits of %1 are not legible at %2 points: %3%4")
                 .arg(name.isEmpty() ? QStringLiteral("the default font") : Quoted(name))
                 .arg(points)
                 .arg(fault, right > 0 ? QStringLiteral("; accepted: %1").arg(right) : QString()),

@@ -21,7 +21,7 @@ CheckResult Compare(const QString &what, const QCryptographicHash &texts, const 
 {
     if (texts.result().toHex() == expected)
         return {what, Outcome::Ok, QString()};
-    return {what, Outcome::Failed, QStringLiteral("the dates are not those that they should be")};
+    return {what, Outcome::Failed, QStringLiteral("the dates are wrong")};
 }
 
 CheckResult CheckLunar()
@@ -122,7 +122,7 @@ QVector<CheckResult> CheckDaylightSaving()
             && OffsetAt(zone, at) == change.after * kSecondsPerHour)
             continue;
         result.outcome = Outcome::Failed;
-        result.why = QStringLiteral("wrong at the change of %1").arg(QLatin1String(change.name));
+        result.why = QStringLiteral("wrong at this change: %1").arg(QLatin1String(change.name));
     }
     return {result};
 }

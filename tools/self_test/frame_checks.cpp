@@ -52,7 +52,7 @@ CheckResult CheckFrame(const QString &what, int type, const QString &directory,
     drawer.DrawClockDisplayImage(); // an analog clock's texts show from the second frame on
     if (PictureDigest(drawer.DrawClockDisplayImage()) == expected)
         return {what, Outcome::Ok, QString()};
-    return {what, Outcome::Failed, QStringLiteral("the frame is not what it should be")};
+    return {what, Outcome::Failed, QStringLiteral("the frame differs from the expected one")};
 }
 
 QStringList StylePictures()
