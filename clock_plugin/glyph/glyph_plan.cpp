@@ -1,8 +1,8 @@
 #include "glyph/glyph_plan.h"
 
 #include "clock_node.h"
-#include "glyph/glyph_check.h"
 #include "glyph/glyph_cache.h"
+#include "glyph/glyph_check.h"
 #include "glyph/glyph_picture.h"
 #include "image_bounds.h"
 
