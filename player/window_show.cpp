@@ -69,6 +69,11 @@ QJsonObject SpreadObject(const Spread &spread)
             {QStringLiteral("maximum"), spread.Maximum()}};
 }
 
+Notice NoticeOf(const FileSignature &program)
+{
+    return program == FileSignature() ? Notice::NoProgram : Notice::WrongProgram;
+}
+
 } // namespace
 
 WindowShow::WindowShow(const Options &options, Playback::Travelling travelling, const Warn &warn)
@@ -181,16 +186,17 @@ void WindowShow::CheckProgram()
     else
         Fault(failure->text);
     if (m_notice)
-        ShowNotice(signature == FileSignature() ? Notice::NoProgram : Notice::WrongProgram);
+        ShowNotice(NoticeOf(signature));
 }
 
 void WindowShow::ReadAgain()
 {
-    m_watch = ProgramWatch(SignatureOf(m_options.programPath));
+    const FileSignature signature = SignatureOf(m_options.programPath);
+    m_watch = ProgramWatch(signature);
     if (const MaybeFailure failure = Read()) {
         Fault(failure->text);
         if (m_notice)
-            ShowNotice(Notice::WrongProgram);
+            ShowNotice(NoticeOf(signature));
     }
     KeepStatus();
 }

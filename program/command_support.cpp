@@ -55,11 +55,16 @@ Failure UsageFailure(const QString &text)
 
 MaybeFailure PrintText(const QString &text)
 {
-    if (std::fputs(qPrintable(text), stdout) >= 0 && std::fflush(stdout) == 0)
+    return PrintBytes(text.toLocal8Bit());
+}
+
+MaybeFailure PrintBytes(const QByteArray &bytes)
+{
+    if (std::fputs(bytes.constData(), stdout) >= 0 && std::fflush(stdout) == 0)
         return std::nullopt;
     return Failure {
         ExitCode::RuntimeFailure,
-        QStringLiteral("standard output cannot be written: %1").arg(qt_error_string(errno))};
+        QStringLiteral("cannot write to standard output: %1").arg(qt_error_string(errno))};
 }
 
 void SayAs(const char *program, const QString &text)

@@ -41,7 +41,9 @@ QString HelpText(const QCommandLineParser &parser, const QString &usage);
 /// A command-line error.
 Failure UsageFailure(const QString &text);
 
-/// Writes a text to standard output and flushes it. A failure gives the system's reason.
+/// Writes to standard output and flushes it. A failure gives the system's reason.
+MaybeFailure PrintBytes(const QByteArray &bytes);
+/// The same in the locale's encoding.
 MaybeFailure PrintText(const QString &text);
 
 /// Prints lines on standard error, each prefixed with the program's name.

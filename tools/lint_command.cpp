@@ -55,10 +55,12 @@ void Show(const Findings &findings, const QString &path)
                 .arg(path, QString::number(sorted.size() - kMostShown)));
 }
 
-void ShowAsJson(const Findings &findings, const QString &path)
+MaybeFailure ShowAsJson(const Findings &findings, const QString &path)
 {
+    QByteArray lines;
     for (const Finding &finding : findings.ByLine())
-        std::fputs(FindingJson(finding, path).constData(), stdout);
+        lines += FindingJson(finding, path);
+    return ClockProgram::PrintBytes(lines);
 }
 
 // The options of a lint run.
@@ -99,10 +101,10 @@ CommandResult LintFile(const QString &path, const Choices &choices)
         return Report(document.Error());
     Findings findings = LintProgram(*document, *bytes, path);
     LintClocks(*document, path, choices, findings);
-    if (choices.asJson)
-        ShowAsJson(findings, path);
-    else
+    if (!choices.asJson)
         Show(findings, path);
+    else if (const MaybeFailure failure = ShowAsJson(findings, path))
+        return Report(*failure);
     return findings.Warnings() == 0 ? ExitCode::Success : ExitCode::RuntimeFailure;
 }
 

@@ -49,7 +49,7 @@ void TestLegibleSizes::faults_data()
     row("DejaVu Serif", 6, "", "0 has 0 holes instead of 1");
     row("DejaVu Sans", 12, ":", "");
     row("DejaVu Sans", 12, ",/", "");
-    row("DejaVu Sans Mono", 5, "", "0 has 1 strokes instead of 2"); // its dot
+    row("DejaVu Sans Mono", 5, "", "0 has 1 stroke instead of 2"); // its dot
 }
 
 void TestLegibleSizes::faults()

@@ -202,11 +202,18 @@ void TestToolTargets::FullStandardOutput_data()
     QTest::newRow("version of a command") << "sdk --version";
     QTest::newRow("a result") << "attributes";
     QTest::newRow("self-test") << "self-test";
+    QTest::newRow("findings") << "lint --format json PROGRAM";
 }
 
 void TestToolTargets::FullStandardOutput()
 {
     QFETCH(QString, command);
+    // A clock without a time zone is a finding, so there is a line to write.
+    const QString program = Path("program.xml");
+    QVERIFY(WriteText(program,
+                      "<program width='64' height='32'><area x='0' y='0' width='64' height='32'>"
+                      "<clock type='digital'/></area></program>"));
+    command.replace("PROGRAM", program);
     const ProcessRun run = RunInShell("\"$@\" >/dev/full", TOOL, command.split(' '));
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains("cannot write to standard output"), qPrintable(run.errors));

@@ -84,10 +84,12 @@ QString Difference(int digit, const DigitShape &here, const DigitShape &large)
     if (here.strokes == 0)
         return QStringLiteral("%1 is not drawn").arg(digit);
     const bool differsInHoles = here.holes != large.holes;
-    return QStringLiteral("%1 has %2 %3 instead of %4")
+    const int count = differsInHoles ? here.holes : here.strokes;
+    return QStringLiteral("%1 has %2 %3%4 instead of %5")
         .arg(digit)
-        .arg(differsInHoles ? here.holes : here.strokes)
-        .arg(QLatin1String(differsInHoles ? "holes" : "strokes"))
+        .arg(count)
+        .arg(QLatin1String(differsInHoles ? "hole" : "stroke"),
+             QLatin1String(count == 1 ? "" : "s"))
         .arg(differsInHoles ? large.holes : large.strokes);
 }
 
