@@ -49,8 +49,8 @@ class TestSameDrawings : public QObject
 
 private slots:
     void initTestCase();
-    void Frames_data();
-    void Frames();
+    void FramesAreEqual_data();
+    void FramesAreEqual();
     void HandsOfPictures();
     void GlyphFiles_data();
     void GlyphFiles();
@@ -108,7 +108,7 @@ bool TestSameDrawings::Play(const QString &program, const QString &instant, cons
                        + more);
 }
 
-void TestSameDrawings::Frames_data()
+void TestSameDrawings::FramesAreEqual_data()
 {
     QTest::addColumn<QString>("program");
     QTest::addColumn<QString>("instant");
@@ -127,7 +127,7 @@ void TestSameDrawings::Frames_data()
     }
 }
 
-void TestSameDrawings::Frames()
+void TestSameDrawings::FramesAreEqual()
 {
     QFETCH(QString, program);
     QFETCH(QString, instant);
