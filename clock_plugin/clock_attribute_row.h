@@ -106,13 +106,13 @@ enum class ValueRole {
     Number,     ///< any integer
     Code,       ///< one of the integers of the row's range, each of which has a name
     Flag,       ///< 1 on, 0 off
-    Size,       ///< of a font, in points
+    Size,       ///< a font size in points
     Colour,     ///< red + 256 * green + 65536 * blue
     Text,       ///< any text
-    Family,     ///< of fonts; empty is the application's default font
+    Family,     ///< a font family; empty means the application's default font
     Zone,       ///< an offset from UTC: a sign and "hh:mm"
     Adjustment, ///< "hhAmmBss"
-    Rule,       ///< of daylight saving: "month.occurrence.weekday.hh:mm:ss"
+    Rule,       ///< a daylight-saving rule: "month.occurrence.weekday.hh:mm:ss"
 };
 
 /// The kinds of clock that use an attribute.
@@ -129,7 +129,7 @@ enum class Default {
 /// Whether writing the attribute requires the glyph images to be regenerated.
 enum class Redraw { No, Yes };
 
-/// The valid numbers; for a switch that accepts any number, the two documented ones.
+/// The valid numbers. Switches accept any number; their range is 0 to 1, the documented values.
 struct ValueRange
 {
     int first = 0;
@@ -191,7 +191,7 @@ constexpr AttributeRow CodeAttribute(Attribute attribute, const char *key, Clock
     return row;
 }
 
-/// A switch, stored as a number. ShownAttribute() makes those that are stored as flags.
+/// A switch, stored as a number. For a switch stored as a flag, see ShownAttribute().
 constexpr AttributeRow SwitchAttribute(Attribute attribute, const char *key, ClockKinds clocks,
                                        int value, Redraw redraw, const char *label,
                                        const char *meaning)

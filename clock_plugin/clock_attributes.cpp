@@ -1,4 +1,4 @@
-// Look-up of keys and rows in the attribute table.
+// clock_plugin/: finds keys and rows of the attribute table.
 #include "clock_attributes.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // clock_plugin/: the attribute table of a clock: one row per key, in the order in which InitData
 // writes them.
 //
-// The node's defaults and setters, the reference page and the checks of programs are made from this
+// The node's defaults and setters, the reference page and the program checks are all driven by this
 // table. Irregular spellings are part of the contract with the host.
 #pragma once
 

@@ -64,7 +64,7 @@ int HClockNode::Duration()
     return 6000;
 }
 
-// A slot connected to ReDrawSourceImage() may delete the node meanwhile.
+// A slot connected to ReDrawSourceImage() may delete the node.
 void HClockNode::InitData()
 {
     const QPointer<HClockNode> self(this);
@@ -104,9 +104,10 @@ void HClockNode::StoreComputedDefault(Attribute attribute)
     // UseDaylightSavingTime is stored along with the zone.
 }
 
-// Both come from one call, as a slot may change what the host returns next. The zone has no sign,
-// unlike those that editors store; one west of Greenwich is stored as the local time there at
-// midnight UTC: -5 hours as "19:00".
+// Zone and flag come from one call, because a slot may change what the host returns next. The zone
+// is stored without a sign, unlike those of editors, so ParseZoneOffset() takes its first digit for
+// one. One west of Greenwich is stored as the local time there at midnight UTC: -5 hours as
+// "19:00".
 void HClockNode::StoreHostTime()
 {
     int offsetSeconds = 0;

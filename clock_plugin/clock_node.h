@@ -27,10 +27,10 @@ struct ImportElement;
 extern CLOCK_EXPORT QStringList fileList;
 extern CLOCK_EXPORT QStringList fileMd5List;
 
-/// The type of the node and of the plugin that makes it.
+/// The type of the node and of its plugin.
 inline constexpr char kNodeType[] = "LW_Clock_Plugin";
 
-/// The host's number for the kind "image" of a recorded file.
+/// The host's code for a recorded file that is an image.
 inline constexpr int kImageFileKind = 3;
 
 namespace Sdk {
@@ -51,19 +51,23 @@ public:
     QString Type() override;                       ///< kNodeType
     bool NodeMatch(QDomElement &element) override; ///< whether the tag is Sdk::kClock
     /// Reads an SDK clock element; settings it does not mention are kept. False for a null element
-    /// and for a type that is neither analog nor digital: then only its font is read.
+    /// and for a type that is neither analog nor digital: then only its font is read. Also false if
+    /// a slot deletes the node during the call.
     bool UpdateNode(QDomElement element, QList<Lw::FileInfo> &files) override;
     /// Appends the clock's element to the parent. Fonts, sizes, spacing and layout are not part of
-    /// that form; of a picture clock only zone and adjustment are written.
+    /// that form; for a picture clock only GUID, zone and adjustment are written, and the child
+    /// elements are empty.
     void CoverToSDKFormate(QDomElement &parent, Lw::GetProgramModel model) override;
     /// Generates the glyph images under their digest names if the node has no files yet.
     void AfterUpdate(bool isTemp) override;
     /// Generates the glyph images under their plain names. Always true.
     bool NodeAlready(int reason) override;
-    bool AllFileExists() override; ///< always true for a picture clock, which needs none
+    bool AllFileExists() override; ///< whether all required glyph images exist; always true for a
+                                   ///< picture clock, which has none
     void InitData() override; ///< writes the default of every row of the attribute table, in order
     int Duration() override;  ///< 6000 milliseconds
-    /// Appends the node's files in a temporary program's directory; prints the others.
+    /// Appends those of the node's files that are in a temporary program's directory; prints the
+    /// others.
     void GetSDKTempFile(QList<QFileInfo> &out) override;
 
     // Getters.
@@ -75,8 +79,8 @@ public:
     int Digital_Time_d();
     int Digital_Lunar_d();
 
-    // Setters. Each stores its key and emits ReDrawSourceImage() once, also for an equal value,
-    // except where the attribute table says that a key needs no redraw.
+    // Setters. Each stores its key and emits ReDrawSourceImage() once, even if the value is
+    // unchanged, except where the attribute table says that a key needs no redraw.
     /// Stores sign and magnitude of an adjustment in seconds, modulo one day; emits twice.
     void SetTimeAdjust(int seconds);
     void SetTimeZone(QString zone);
@@ -134,14 +138,15 @@ public:
     // Glyph files.
     /// Whether every key's file exists; prints the first one that does not.
     bool CheckFileExists(QStringList keys);
-    /// Moves the node's glyph images under their digests' names into destDir, which ends in a
-    /// separator, and records the new paths. The images must still have their plain names: after an
-    /// AfterUpdate or an earlier call there is nothing to move, and the records then point to
-    /// missing files.
+    /// Moves the node's glyph images into destDir, which ends in a separator, under names formed
+    /// from their digests, and records the new paths. The images must still have their plain names:
+    /// after an AfterUpdate or an earlier call there is nothing to move, and the records then point
+    /// to missing files.
     void ProcessFileName(QString destDir);
-    /// The same for the one image called name + key. No image is lost: the source is removed only
-    /// when the same bytes exist under the digest's name. The record and the entries in both lists
-    /// are added even for an image that is missing or cannot be moved.
+    /// The same for a single image, the file name + key + ".png" of the clock output directory. No
+    /// image is lost: the source is removed only when the same bytes exist under the digest's name.
+    /// The record and the entries in both lists are added even for an image that is missing or
+    /// cannot be moved.
     void SetFileInfo(QString name, QString key, QString destDir);
     /// Records every "file" child on the node, unchanged, and appends it to files.
     void ProcFile(QDomElement &element, QList<Lw::FileInfo> &files);

@@ -55,7 +55,8 @@ std::optional<int> SignedSeconds(const QString &text)
     return {};
 }
 
-/// The clock type that an element names; nullopt for an unknown type.
+/// The clock type that an element names; nullopt for an unknown name. With a clockCom child it is
+/// the number there, known or not; -1 if there is none.
 std::optional<int> ClockTypeIn(const QDomElement &element)
 {
     const QDomElement clockCom = element.firstChildElement(QLatin1String(Sdk::kClockCom));
@@ -147,8 +148,8 @@ void HClockNode::LunarCoverToSDK(QDomElement &element, QString colorKey, QString
     }
 }
 
-// The font is read before the type is checked: an element rejected for its type has set its font
-// nevertheless.
+// The font is read before the type is checked, so an element that is rejected for its type still
+// sets the font.
 bool HClockNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &files)
 {
     if (element.isNull())
@@ -194,7 +195,8 @@ bool HClockNode::PatchDigital(QDomElement &element)
     return true;
 }
 
-// A listener of the redraws may delete the node; the rest of the element is then ignored.
+// A slot connected to ReDrawSourceImage() may delete the node; the rest of the element is then
+// ignored.
 void HClockNode::Import(const QDomElement &clock, const ImportElement *begin,
                         const ImportElement *end)
 {

@@ -23,7 +23,7 @@ public:
 
     bool PluginMatch(QDomElement &element) override; ///< whether the tag is "clock"
     int level() override;                            ///< 4
-    QString type() override;                         ///< as HClockNode::Type() says
+    QString type() override;                         ///< kNodeType
     Lw::HNode *Create() override; ///< a clock node without attributes; the caller owns it
     using INodePlugin::Create;
     /// A renderer for a clock node; the caller owns it. A node of another class is treated as null.

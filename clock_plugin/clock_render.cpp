@@ -22,11 +22,11 @@ constexpr int kIdle = 0;
 constexpr int kStarted = 1;
 constexpr int kRefused = 2;
 
-// The state returns to kIdle once this many ticks were counted.
+// The state returns to kIdle after this many frames.
 constexpr int kStartingTicks = 10;
 
 // Sets every field except the reserved word, which belongs to the host and stays uninitialised. The
-// record is therefore never copied, as a copy would read that word. The host may delete the node
+// record is therefore not copied here, as a copy would read that word. The host may delete the node
 // during any of these calls; without a node, size and position are those of a default record and
 // alpha blending is off.
 std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
@@ -45,7 +45,8 @@ std::unique_ptr<SessionParameter> StartRecord(unsigned int playIdentifier,
     return record;
 }
 
-// Hosts read the frame damage as a property of this child: the renderer itself must not get any.
+// Hosts read the frame damage as a property of this child: the renderer itself must not gain
+// properties.
 class FrameDamage : public QObject
 {
     Q_OBJECT

@@ -18,7 +18,7 @@ namespace Lw::HNodeClock {
 class DrawDisplayImage;
 
 /// Owns the frame drawer and the player; holds the node in a QPointer. The renderer has no timer:
-/// the player calls PlayNext again after the time passed to UpdateEffect.
+/// the player calls PlayNext() again after the delay given to UpdateEffect().
 class CLOCK_EXPORT HClockRender : public Lw::IContentRender
 {
     Q_OBJECT

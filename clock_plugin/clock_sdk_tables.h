@@ -11,7 +11,7 @@
 namespace Lw::HNodeClock {
 
 namespace Sdk {
-inline constexpr char kClockCom[] = "clockCom"; ///< its presence marks the older form
+inline constexpr char kClockCom[] = "clockCom"; ///< child element; present only in the older form
 inline constexpr char kClockType[] = "clockType";
 inline constexpr char kFile[] = "file";
 inline constexpr char kGuid[] = "guid";
@@ -32,7 +32,7 @@ enum class Conversion {
     InvertedNumber, ///< 1 when the number is 0, else 0
     Flag,           ///< the words "true" and "false"
     Colour,         ///< a colour name, converted by the host
-    ParsedColour,   ///< a colour name parsed by QColor, then the host's int of that colour
+    ParsedColour,   ///< a colour name, parsed by QColor and converted to the host's int
     AdjustSeconds,  ///< a number of seconds, stored as sign and magnitude
     AdjustTime,     ///< a sign and "hh:mm:ss", stored in the same way; any other text is ignored
 };
@@ -152,7 +152,8 @@ inline constexpr ImportElement kDigitalImport[] = {
         {Attribute::Digital_Lunar_d, {Sdk::kDisplay, Conversion::Flag}}}},
 };
 
-/// One font for the whole clock; the digital families and sizes are not touched.
+/// The common font of a clock: family, size and colour of the analog texts, but only the colour of
+/// the digital ones.
 inline constexpr ImportElement kFontImport[] = {
     {"font", nullptr, {
         {Attribute::HourScaleFName, {"name"}},

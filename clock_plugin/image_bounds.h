@@ -14,7 +14,8 @@ constexpr qint64 kClockGlyphBytes = 64LL << 20; ///< all glyph images of one clo
 constexpr qint64 kProcessGlyphBytes = 256LL
     << 20; ///< all glyph images of all clocks of the process
 
-/// Whether an image of 32 bits per pixel is not empty and within the bounds.
+/// Whether an image of this size is not empty, within kImageSide, and at 32 bits per pixel within
+/// `bytes`.
 inline bool WithinBounds(const QSize &size, qint64 bytes)
 {
     return !size.isEmpty() && size.width() <= kImageSide && size.height() <= kImageSide

@@ -1,5 +1,5 @@
-// fit/: the checks of one clock in a year: parts that are cut off at the edges of the visible area,
-// and parts that are drawn over others.
+// fit/: checks one clock over a year for parts that are cut off at the edges of its visible area or
+// drawn over other parts.
 #pragma once
 
 #include "clock_year.h"

@@ -15,7 +15,7 @@ namespace ClockFit {
 struct PlacedPart
 {
     Part part;
-    const Lw::HNodeClock::Element *element; ///< valid until the next call
+    const Lw::HNodeClock::Element *element; ///< valid until the next call of the scene
     QPoint topLeft;
 };
 

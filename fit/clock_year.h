@@ -21,7 +21,7 @@ public:
         const HourClass &hours; ///< the hours of the stretch that this state covers
         std::size_t hourClass;  ///< index of `hours`
         qint64 utc;             ///< the first instant of the state, UTC milliseconds
-        bool isMorning;         ///< for the badge
+        bool isMorning;         ///< whether the badge shows AM
         const std::vector<PlacedPart> &texts;
     };
 
@@ -57,8 +57,8 @@ private:
     std::vector<bool> m_isMorning;
 };
 
-/// Records the times of a state in a worst case: the largest measure within its hours and stretch,
-/// and when it and any above 0 are first reached.
+/// Adds the times of a state to a worst case: the largest measure within its hours and stretch,
+/// when it is first reached, and when any value above 0 is.
 void TakeTimes(WorstCase &found, const ClockYear::State &state, const TimeMeasure &measure);
 
 } // namespace ClockFit

@@ -34,7 +34,8 @@ class DialPainter
 public:
     DialPainter(const QSize &area, const QRect &canvas) : m_area(area), m_canvas(canvas) { }
 
-    // Painted around the centre by paint(painter, radius). The boxes do not count as ink.
+    // The ink of what paint(painter, radius) paints around the centre; the boxes behind numerals do
+    // not count.
     template<typename Paint>
     InkMask InkOf(Paint paint) const
     {
@@ -42,8 +43,8 @@ public:
     }
 
     // Moving rotated marks changes their rounding: within the area they are painted at their real
-    // position, and only those beyond its left and top edges are moved. What numerals and their
-    // boxes hide is left out.
+    // position, and only what is beyond its edges is taken from a moved painting. What numerals and
+    // their boxes hide is left out.
     template<typename PaintHiding>
     InkMask Marks(int hourScale, int minuteScale, PaintHiding hide) const
     {

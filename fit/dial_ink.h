@@ -19,7 +19,7 @@ struct DialInk
     Lw::HNodeClock::GlyphStrip digits; ///< of the numerals; null if there are none
     Lw::HNodeClock::GlyphStrip morningBadge;
     Lw::HNodeClock::GlyphStrip afternoonBadge;
-    int coveredNumerals = 0; ///< pixels of numerals that later ones cover
+    int coveredNumerals = 0; ///< pixels of numerals that other numerals cover
     bool isDrawn = true;     ///< false if the canvas would be larger than a frame may be
 
     /// All ink under the texts, with the AM or the PM badge.

@@ -36,7 +36,7 @@ enum class Part {
 
 /// The name for messages: "title", "minute marks".
 QString NameOf(Part part);
-/// The attribute of its family, its size or its colour; nothing for parts that have none.
+/// The attribute of a part's font family, font size or colour; nullopt for parts that have none.
 std::optional<Lw::HNodeClock::Attribute> FamilyAttribute(Part part, int clockType);
 std::optional<Lw::HNodeClock::Attribute> SizeAttribute(Part part, int clockType);
 std::optional<Lw::HNodeClock::Attribute> ColourAttribute(Part part, int clockType);
@@ -83,7 +83,7 @@ struct Overlap
     Moment worst;               ///< when the worst overlap first occurs, likewise
 };
 
-/// A part with too little contrast to its background.
+/// A part with too little contrast against its background.
 struct Faint
 {
     Part part = Part::TopText;

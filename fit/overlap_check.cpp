@@ -152,7 +152,7 @@ private:
 
     ClockYear &m_clock;
     InkBounds m_bounds;
-    std::map<bool, InkMask> m_under; ///< what texts are drawn over, by half of the day
+    std::map<bool, InkMask> m_under; ///< ink of the dial below the texts, by half of the day
     std::map<bool, bool> m_badgeLooked;
     std::map<std::size_t, QRect> m_boxes;
     std::map<Parts, WorstCase> m_found;

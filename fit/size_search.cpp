@@ -1,4 +1,4 @@
-// fit/: searches for the sizes that fit, by bisection between one that fits and one that does not.
+// fit/: finds the sizes that fit, by bisection.
 #include "clock_parts.h"
 
 #include <algorithm>

@@ -9,7 +9,7 @@
 
 namespace ClockFit {
 
-/// Hours whose times have the same width, and hence the same positions.
+/// Hours whose times have the same size, and hence the same positions.
 struct HourClass
 {
     std::vector<int> hours;

@@ -89,7 +89,7 @@ bool HasMark(Part part, int scale, double radius)
     return mark.shape != Mark::None;
 }
 
-// Radii are halves of whole numbers.
+// Radii are multiples of half a pixel.
 double RadiusWithMarks(Part part, int scale)
 {
     double radius = 0.5;

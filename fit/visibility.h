@@ -1,5 +1,5 @@
-// fit/: checks the contrast of a clock's parts to their background, and whether a dial is large
-// enough for its marks.
+// fit/: checks the contrast of a clock's parts against their background, and whether a dial is
+// large enough for its marks.
 #pragma once
 
 #include "dial_ink.h"

@@ -11,7 +11,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-// The first day on which both parts overlap, and the overlap in pixels on that day.
+// The first day on which the two parts overlap (UTC milliseconds), and the overlap on that day.
 struct Common
 {
     int pixels = 0;
@@ -79,7 +79,7 @@ private:
         return most;
     }
 
-    // Any other overlap takes precedence over one of hands.
+    // An overlap without hands takes precedence over one with hands.
     void Take(ClockOverlap &most, const PartInk &under, const PartInk &over)
     {
         const Common common = FirstCommon(under, over, m_check.CheckedYear().begin);

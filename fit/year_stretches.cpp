@@ -14,7 +14,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-// The instants of a year at which what a clock shows may not go on second by second.
+// The instants of a year at which what a clock shows may change other than by one second.
 class Changes
 {
 public:

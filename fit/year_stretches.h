@@ -27,7 +27,7 @@ struct Stretch
 
     /// The first second of the displayed day after the stretch.
     int EndSecond() const { return firstSecond + static_cast<int>(LengthUntil(end)); }
-    /// The number of the clock's seconds that begin in the stretch before an instant.
+    /// How many of the clock's seconds begin between `begin` and an instant.
     qint64 LengthUntil(qint64 utc) const;
     /// The instant of a second of the displayed day, which must be in the stretch.
     qint64 At(int second) const;

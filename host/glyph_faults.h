@@ -17,8 +17,8 @@ struct GlyphFault
         NotWritten,        ///< it could not be written; an older file of that name is kept
         TooLarge,          ///< above 32767 pixels per side or 64 MiB; an older file is kept
         NoFont,            ///< no font is installed at all
-        MissingCharacters, ///< no installed font has some of its characters: boxes are drawn
-                           ///< instead
+        MissingCharacters, ///< some of its characters are in no installed font and are drawn as
+                           ///< boxes instead
         NoInk,             ///< it was generated but is blank although its text is not
         NotKept, ///< not shown: the images of its clock, or of all, would take too much memory
     };
@@ -34,9 +34,10 @@ struct GlyphFault
 /// without faults does not have it.
 inline constexpr char kGlyphFaults[] = "glyphFaults";
 
-/// The faults of the node's last generation: of all images for what was not written, of those that
-/// the clock shows for the rest, and of those that its last renderer could not load. Empty for a
-/// node without generated images and renderer, and for nodes of plugins that do not report faults.
+/// The faults from the last generation and the last renderer: every image that could not be
+/// written; other faults only for images that the clock shows; and the images that the renderer
+/// could not load. Empty for a node that has neither generated images nor had a renderer, and for
+/// nodes of plugins that do not report faults.
 inline QVector<GlyphFault> GlyphFaultsOf(const QObject &node)
 {
     QVector<GlyphFault> faults;

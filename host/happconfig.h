@@ -25,8 +25,8 @@ public:
     /// The device's offset from UTC in seconds, and whether daylight saving is on.
     void GetTimeInfo(int &utcOffsetSeconds, bool &daylightSaving);
 
-    // Not called by plugins; for players and tests. The two directories are created if missing and
-    // given their trailing separator.
+    // Not called by plugins; for players and tests. Directories are created if missing and get a
+    // trailing separator; an empty path restores the default.
     static void SetClockOutputPath(QString directory);
     static void SetTempProgramImagePath(QString directory);
     static void SetTimeInfo(int utcOffsetSeconds, bool daylightSaving);

@@ -14,7 +14,7 @@ struct FileRecord
     QString key;
     QString path;
     QString name;
-    long long size = -1; ///< bytes; -1 where the recorder did not say
+    long long size = -1; ///< bytes; -1 if unknown
     int kind = 0;
 };
 
@@ -26,7 +26,7 @@ public:
 
     QString GetAttribute(QString key);  ///< the value as text; empty when absent
     int GetAttributeToInt(QString key); ///< the value as int; 0 when absent or not a number
-    /// Creates or replaces. With `notify` a host may notify others; this one never does.
+    /// Creates or replaces. `notify` asks the host to tell its listeners; this stand-in ignores it.
     void SetAttribute(QString key, int value, bool notify);
     void SetAttribute(QString key, QString value, bool notify);
     bool HaveAttribute(QString key);
@@ -39,7 +39,7 @@ public:
     void SetGuid(QString guid);
     bool HaveSourcFile(); ///< whether any file is recorded
 
-    // Beyond what plugins call, for players and tests.
+    // Not called by plugins; for players and tests.
     QStringList AttributeKeys();     ///< in order of first writing
     QList<FileRecord> FileRecords(); ///< in order of first recording
     /// Sets a function called after each SetFilePath of any node; null for none. A plugin records

@@ -20,9 +20,10 @@ namespace Lw {
 /// The order of the virtual functions is the vtable layout, which plugins built elsewhere rely on:
 /// never reorder them, add only at the end.
 ///
-/// Comments say what a function is for and, after "here", what this base class does for kinds of
-/// nodes that do not override it. If a comment has only the "here" part, the meaning is defined by
-/// the host and our plugin does not depend on it. Lists are appended to, never cleared.
+/// Comments say what a function is for and, after "here", what this base class does if a subclass
+/// does not override it. If a comment has only the "here" part, the
+/// meaning is defined by the host and our plugin does not depend on it. Lists are appended to,
+/// never cleared.
 class HNode : public QObject, public HData
 {
     Q_OBJECT
@@ -35,12 +36,13 @@ public:
     virtual int Level();    ///< here 0
     /// Lists the recorded files, in order of first recording.
     virtual void GetAllFileList(QList<Lw::HSendFileInfo> &files);
-    virtual void SetGuid(QString guid); ///< here as HData's, and so the next two
+    virtual void SetGuid(QString guid); ///< here calls HData's, like the next two
     virtual QString GetGuid();
     virtual bool HaveSourcFile();
-    virtual bool NodeMatch(QDomElement &element); ///< whether it describes such a node; here false
-    /// Reads the element's settings and appends its files. False if it does not describe such a
-    /// node; here always false.
+    /// Whether the element describes a node of this type; here false.
+    virtual bool NodeMatch(QDomElement &element);
+    /// Reads the element's settings and appends its files. False if it does not describe a node of
+    /// this type; here always false.
     virtual bool UpdateNode(QDomElement element, QList<Lw::FileInfo> &files);
     /// Appends the node's element in the SDK's form to the parent; here nothing.
     virtual void CoverToSDKFormate(QDomElement &parent, Lw::GetProgramModel model);
@@ -48,7 +50,8 @@ public:
     virtual void AfterUpdate(bool isTemp);
     /// Takes ownership. False for null, for this node itself and for its ancestors.
     virtual bool AddChild(Lw::HNode *child);
-    /// The same; also false for a negative index. The order is not kept here.
+    /// The same; also false for a negative index. Here children are appended; the index is
+    /// otherwise ignored.
     virtual bool InsertChild(int index, Lw::HNode *child);
     virtual Lw::HNode *Copy();      ///< a new node owned by the caller; here null
     virtual void ReloadAttribute(); ///< here nothing
@@ -87,7 +90,7 @@ public:
     /// Whether the node takes part in a running update of the program; false until set.
     bool TakesPartInUpdate();
 
-    // Beyond what plugins call, for players and tests.
+    // Not called by plugins; for players and tests.
     void SetSize(QSize size);
     void SetPos(QPoint pos);
     void SetTakesPartInUpdate(bool takesPart);

@@ -23,7 +23,7 @@ public:
     /// Whether the output can blend this node with alpha.
     bool SuportAlphaBlend(Lw::HNode *node);
 
-    // Beyond what plugins call, for players and tests.
+    // Not called by plugins; for players and tests.
     void SetAlphaBlend(bool supported);
     /// Loads every library of the directory that is not loaded yet; a file reached through several
     /// links is loaded once. Returns the number of plugins added; Refusals() lists the others.

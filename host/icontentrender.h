@@ -12,8 +12,8 @@ class IContentRender : public QObject
 {
 public:
     /// Starts playing. The identifier, which is not 0, selects the frame player to use. The
-    /// position is where to start within the content, 0 at its start, in the host's unit; a clock
-    /// ignores it and shows the present.
+    /// position is the offset in the content at which to start, in the host's unit; a clock ignores
+    /// it and shows the current time.
     virtual void Start(unsigned int playIdentifier, long long position) = 0;
     virtual void Pause() = 0;
     virtual void Stop() = 0;       ///< no further frames; the last one stays; Start() starts again

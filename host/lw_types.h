@@ -14,7 +14,7 @@ class HVersion;
 /// byte is unused.
 using LWColor = quint32;
 
-/// The packed colour of three channels from 0 to 255, and the channels of one.
+/// Packs three channels, 0 to 255 each; the functions below unpack them.
 constexpr LWColor PackedColor(int red, int green, int blue)
 {
     return static_cast<LWColor>(red | green << 8 | blue << 16);

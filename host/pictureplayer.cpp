@@ -65,7 +65,7 @@ void pictureplayer::UpdateEffect(int milliseconds, EffectType)
 {
     Stop();
     if (TimeScale() > 0) {
-        // The renderer may delete this player: nothing may follow the call.
+        // PlayNext() may delete this player, so it must be the last statement.
         const auto playNext = [this] {
             if (IContentRender *const render = Renderers().value(d->parameter.playIdentifier))
                 render->PlayNext();

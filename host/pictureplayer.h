@@ -54,26 +54,26 @@ public:
     /// its own. Null only cancels.
     void Init(const SessionParameter *parameter);
     void UpdateImage(QImage image); ///< shown until the next one; may be null
-    /// Schedules the renderer's next PlayNext() after so many milliseconds; with 0 or less, when
-    /// control returns to the event loop. The effect is ignored.
+    /// Schedules the renderer's next PlayNext() after this many milliseconds; with 0 or less, as
+    /// soon as control returns to the event loop. The effect is ignored.
     void UpdateEffect(int milliseconds, EffectType effect);
     void Stop(); ///< cancels the pending call; the last image stays
 
-    // Beyond what plugins call, for players and tests.
+    // Not called by plugins; for players and tests.
     SessionParameter Parameter(); ///< a copy of the last record; all 0 before Init
-    QImage LastImage();           ///< the one given last to UpdateImage; null before
+    QImage LastImage();           ///< the image last passed to UpdateImage(); null before the first
     /// Sets the renderer whose PlayNext the player with this identifier calls. Null unregisters.
     /// The renderer is held by a guarded pointer: once deleted, it is no longer called.
     static void Register(unsigned int playIdentifier, Lw::IContentRender *render);
     /// The player last initialised with this identifier; null if there is none.
     static pictureplayer *ForIdentifier(unsigned int playIdentifier);
-    /// Divides all waits by the scale. With 0 there are no timers: the program calls PlayNext
-    /// itself.
+    /// Divides all waits by the scale. With 0 or less no timer is started: the program calls
+    /// PlayNext itself.
     static void SetTimeScale(double scale);
 
 Q_SIGNALS:
-    void ImageUpdated(QImage image);      ///< within UpdateImage, once the image is kept
-    void EffectUpdated(int milliseconds); ///< within UpdateEffect, at its end
+    void ImageUpdated(QImage image);      ///< emitted by UpdateImage() after storing the image
+    void EffectUpdated(int milliseconds); ///< emitted at the end of UpdateEffect()
 
 private:
     class Private;

@@ -1,4 +1,5 @@
-// host/: the shared timer by which the image players call their renderers. Private to the stand-in.
+// host/: the timer that all image players share to call their renderers. Not part of the host
+// interface.
 #pragma once
 
 #include <QObject>

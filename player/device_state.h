@@ -23,7 +23,7 @@ bool IsTimeSet();
 /// Sends a state to the service manager, if any: "READY=1", "WATCHDOG=1", "STATUS=...".
 void NotifyService(const char *state);
 
-/// Replaces a file with a JSON object, whole or not at all. What is not an ordinary file fails.
+/// Replaces a file atomically with a JSON object. Fails if it is not an ordinary file.
 ClockProgram::MaybeFailure WriteStatus(const QString &path, const QJsonObject &status);
 
 /// Hides the text cursor and the typed input of the controlling terminal

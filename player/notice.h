@@ -10,7 +10,7 @@ namespace ClockPlayer {
 /// Why no program plays. The codes are documented, so that a photograph of the screen is enough to
 /// tell the cause.
 enum class Notice {
-    NoProgram,    ///< P1: the program file cannot be read
+    NoProgram,    ///< P1: there is no program file
     WrongProgram, ///< P2: the program cannot be played
     NoPlugin,     ///< P3: no plugin could be loaded, or no directory for the glyph images
     NoGlyphs,     ///< G1: glyph images are missing, and the clocks would lack texts

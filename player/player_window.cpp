@@ -44,7 +44,8 @@ void PaintOverlay(QPainter &painter, QSize window, const QString &text)
     painter.drawText(lines, kFlags, text);
 }
 
-// Null for what has other pixels than the window, or other words than screens.
+// The device as an image that can be composed into directly; null if it is scaled or has another
+// pixel format.
 QImage *PlainPicture(QPaintDevice &device)
 {
     if (device.devType() != QInternal::Image)

@@ -53,8 +53,7 @@ class QuitSignals : public QObject
 public:
     enum class Losses {
         /// SIGHUP and SIGPIPE emit Requested() too: the terminal or a reader has gone. A SIGHUP
-        /// that
-        /// is ignored at the start, as by nohup, stays ignored.
+        /// that is ignored at the start, as under nohup, stays ignored.
         End,
         Ignore, ///< SIGPIPE is ignored, and SIGHUP is left to another SignalPipe
     };

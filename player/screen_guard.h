@@ -13,8 +13,8 @@ namespace ClockPlayer {
 class ScreenGuard
 {
 public:
-    /// Calls the function on the watchdog thread when Feed() was not called for that long. The
-    /// thread sleeps in between.
+    /// Calls the function on the watchdog thread when Feed() was not called for that long. Not
+    /// before the first Feed(). The thread sleeps in between.
     ScreenGuard(std::function<void()> blank, int milliseconds);
     ~ScreenGuard();
 

@@ -23,8 +23,8 @@ using namespace ClockStage;
 namespace {
 
 // Per-second work runs with each presented second, and at this interval while none is presented.
-constexpr int kIdleInterval = 1500; // milliseconds
-constexpr int kStatusInterval = 60000;
+constexpr int kIdleInterval = 1500;    // milliseconds
+constexpr int kStatusInterval = 60000; // milliseconds
 constexpr int kBlankAfter = 5000;
 constexpr int kKeptFaults = 20;
 

@@ -21,7 +21,7 @@ namespace {
 
 const char kPrefix[] = "clock_player-";
 const char kPattern[] = "clock_player-??????"; // as mkdtemp fills it in
-// Players before this one used such names without a lock.
+// Marks directories that are locked while in use; older versions of the player took no lock.
 const char kMark[] = "/.locked_while_in_use";
 
 // Not QDir::tempPath(), which falls back to other places.

@@ -50,7 +50,7 @@ MaybeFailure PrintText(const QString &text);
 void SayAs(const char *program, const QString &text);
 
 /// Sets 96 dots per inch where QT_FONT_DPI is unset, so that sizes in points are the same number of
-/// pixels on every machine. To be called before the application is constructed.
+/// pixels on every machine. Call it before constructing the application.
 void FixFontResolution();
 
 } // namespace ClockProgram

@@ -11,7 +11,7 @@ namespace ClockProgram {
 /// Each a sentence about one clock without its name, without a full stop.
 struct GlyphMessages
 {
-    /// For exit code 1: images that are missing, older than what they should show, or blank.
+    /// For exit code 1: images that are missing, outdated or blank.
     QStringList failures;
     /// The clock plays, but with boxes for some characters or without some images.
     QStringList warnings;

@@ -61,7 +61,7 @@ constexpr qint64 kUsualFrameBytes = 256LL << 20;
 /// A failure with the amount if the frames take more than kUsualFrameBytes.
 MaybeFailure CheckFrameBytes(const Program &program);
 
-/// Reads and checks a program; a failure names the file and the line.
+/// Reads and checks a program; a failure names the file and, for a fault in the text, the line.
 Result<Program> ReadProgram(const QString &path);
 
 /// The same from a file's contents; the path is only named in failures.

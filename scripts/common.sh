@@ -1,7 +1,7 @@
 # shellcheck shell=bash
-# Shared by run, test and .ci/run: installs what is missing, configures, builds. Sourced with
-# "set -euo pipefail" and the working directory at the top of the tree. Messages
-# go to standard error: standard output is for results.
+# Shared by run, test, .ci/run and most of scripts/: installs what is missing, configures, builds.
+# Sourced with "set -euo pipefail" and the working directory at the top of the tree. Messages go to
+# standard error: standard output is for results.
 
 note() { printf '%s: %s\n' "$(basename "$0")" "$*" >&2; }
 

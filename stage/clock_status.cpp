@@ -23,7 +23,7 @@ QString KeyOf(Attribute attribute)
     return QString::fromLatin1(RowOf(attribute).key);
 }
 
-// With zeros before it up to a width.
+// Padded with leading zeros to a width.
 void AppendNumber(QString &text, int number, int width)
 {
     char digits[16];
@@ -34,8 +34,8 @@ void AppendNumber(QString &text, int number, int width)
     text += QLatin1String(digits, length);
 }
 
-// Date and time with a character between them, such as "2024-03-31T00:59:58". It is done each
-// second, so without QDateTime, which also asks for the system's zone.
+// Date and time with a character between them, such as "2024-03-31T00:59:58". Called every second,
+// so without QDateTime, which would also query the system's zone.
 QString ReadingText(qint64 reading, char between)
 {
     const DisplayedFields fields = SplitReading(reading);

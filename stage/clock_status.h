@@ -27,7 +27,7 @@ public:
     int OffsetAt(const Lw::HNodeClock::ZoneSettings &zone, qint64 instant);
     std::optional<Lw::HNodeClock::ZoneChange> NextChange(const Lw::HNodeClock::ZoneSettings &zone,
                                                          qint64 instant);
-    /// What the status says of it.
+    /// The next change as text for the status.
     QString ChangeText(const Lw::HNodeClock::ZoneSettings &zone, qint64 instant);
 
 private:

@@ -25,7 +25,7 @@ QImage BlackScreen(QSize size);
 void ComposeScreen(QImage &picture, const QVector<Layer> &layers, const QRect &region,
                    QPoint origin = QPoint());
 
-/// Pixels that a magnified screen may have: 256 MiB.
+/// Most pixels of a magnified screen: 64 Mi, which take 256 MiB.
 constexpr qint64 kMaximumMagnifiedPixels = 64LL << 20;
 
 /// The picture magnified `times` (at least 1) without smoothing. Null

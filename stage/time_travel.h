@@ -31,7 +31,7 @@ public:
     /// Leaves the present for this instant; pause and speed stay as they are.
     void GoTo(qint64 instant, const RealTime &real);
     void Step(qint64 milliseconds, const RealTime &real);
-    /// Shown seconds per real second, above 0.
+    /// Shown seconds per real second, above 0. Leaves the present, as do SetPaused() and Step().
     void SetSpeed(double speed, const RealTime &real);
     void SetPaused(bool paused, const RealTime &real);
     /// Follows the system clock again; resets pause and speed.
@@ -97,7 +97,7 @@ double Steady();
 /// Runs from this instant in real time, independently of the system clock.
 void RunFrom(qint64 utcMilliseconds);
 
-/// Pauses at this instant, at the speed of real time.
+/// Pauses at this instant, and resets the speed to 1.
 void HoldAt(qint64 utcMilliseconds);
 
 } // namespace StageTime

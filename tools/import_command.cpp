@@ -104,8 +104,7 @@ QDomElement ProgramOf(QDomDocument &document, const QVector<QDomElement> &clocks
     return program;
 }
 
-/// A clock that the plugin cannot read is better reported with its line in the SDK file than with
-/// that in the program made of it.
+/// Checked here so that a clock the plugin cannot read is reported with its line in the SDK file.
 MaybeFailure CheckClocks(const QVector<QDomElement> &clocks, const QString &path)
 {
     if (clocks.isEmpty())

@@ -83,7 +83,7 @@ private:
         return {};
     }
 
-    // A child that is there and could set the size.
+    // An existing child element that could hold the size.
     WrittenPlace FreePlace(const SizeChange &change, const QDomElement &clock, int clockType)
     {
         for (QDomElement child = clock.firstChildElement(); !child.isNull();

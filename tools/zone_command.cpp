@@ -130,7 +130,7 @@ Failure NoSuchZone(const QString &name)
                                        : QStringLiteral("; did you mean %1?").arg(nearest))};
 }
 
-/// The first day of what is looked at; invalid for a text that is no year of the range.
+/// The first day to check; invalid if the text is not a year in the range.
 QDate FirstDay(const ToolArguments &tool)
 {
     if (!tool.IsSet(kYear))

@@ -1,4 +1,4 @@
-// translations/: installs the shipped translation catalogues of the clock's texts.
+// translations/: installs the translation catalogues that are shipped for the clock's texts.
 #pragma once
 
 #include <QStringList>
@@ -16,14 +16,14 @@ QStringList Languages();
 QString LanguageFor(const QLocale &locale);
 
 /// Installs a language's catalogue on the application, which owns it from then on, in place of the
-/// one installed before. False, and nothing changes, for a language that is not shipped or without
-/// an application.
+/// one installed before. Returns false and changes nothing if the language is not shipped or there
+/// is no application.
 bool Install(const QString &language);
 
 /// The same; an empty language means that of the system locale.
 bool InstallChosen(const QString &language);
 
-/// The code of the language that was installed last; empty where none was.
+/// The code of the installed language; empty if none is.
 QString Installed();
 
 } // namespace ClockCatalogues

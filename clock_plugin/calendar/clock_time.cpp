@@ -18,7 +18,7 @@ bool IsAscii(const QString &text)
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 128; });
 }
 
-// Untrusted texts may have any size, so the length is checked first. QTime::fromString() also
+// Untrusted strings may have any length, so the length is checked first. QTime::fromString() also
 // accepts the locale's digits; a text must mean the same on every device.
 QTime TimeFromText(const QString &text, const QString &pattern, int longest)
 {

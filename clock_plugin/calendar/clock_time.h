@@ -2,7 +2,7 @@
 // Pure functions of their arguments.
 #pragma once
 
-#include "calendar/daylight_saving.h" // for programs that expect all clock settings here
+#include "calendar/daylight_saving.h" // kept for hosts that include only this header
 
 #include <QDate>
 #include <QDateTime>
@@ -11,7 +11,7 @@
 
 namespace Lw::HNodeClock {
 
-/// A point of time as a clock shows it, in the Gregorian calendar.
+/// A point in time as a clock shows it, in the Gregorian calendar.
 struct DisplayedFields
 {
     int year = 0;      ///< there is no year 0: 1 follows -1
@@ -23,13 +23,13 @@ struct DisplayedFields
     int dayOfWeek = 0; ///< 1 Monday to 7 Sunday
 };
 
-/// The fields of a reading, in milliseconds since 1970-01-01 00:00, for every value. The same
-/// fields as of a QDateTime with Qt::UTC, but without constructing one.
+/// The fields of a reading, in milliseconds since 1970-01-01 00:00; any value is valid. Equal to
+/// those of a QDateTime with Qt::UTC, without constructing one.
 DisplayedFields SplitReading(qint64 reading);
 
 /// Formats a date, a time of day or both in Qt's format syntax with ASCII digits, for text that is
 /// stored, exported or read by a program. (Their own toString() writes the system locale's digits.)
-/// Empty for an invalid one.
+/// Empty if it is invalid.
 QString FormatAscii(const QDate &date, const char *format);
 QString FormatAscii(const QTime &time, const char *format);
 QString FormatAscii(const QDateTime &dateTime, const char *format);
@@ -41,8 +41,9 @@ QTime ParseTimeOfDay(const QString &text);
 /// leading "-" means negative, any other first character positive. Any other text gives 0.
 int ParseZoneOffset(const QString &zone);
 
-/// Magnitude in seconds of an adjustment text: hours, minutes and seconds at the positions 0-1,
-/// 3-4 and 6-7, with any characters between them. A field that is not a number counts as 0.
+/// The adjustment in seconds, before the adjust type gives it a direction: hours, minutes and
+/// seconds at the positions 0-1, 3-4 and 6-7, with any characters between them. A field may have a
+/// sign; one that is not a number counts as 0.
 int ParseAdjustment(const QString &adjustment);
 
 /// Zone and adjustment together, in seconds to add to UTC. An adjust type of 1 subtracts the

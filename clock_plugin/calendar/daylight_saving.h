@@ -1,8 +1,8 @@
-// calendar/: daylight saving: parses rules, finds the boundaries they name, and shifts a reading.
-// Pure.
+// calendar/: daylight saving: parses rules, finds the boundaries they name, and says how far a
+// reading is shifted.
 //
 // A reading is what a clock shows, in milliseconds since 1970-01-01 00:00 on that clock. All
-// boundaries are readings of the zone's standard time, the end of the period included.
+// boundaries are readings of the zone's standard time, the end of the period too.
 #pragma once
 
 #include <QDateTime>
@@ -41,12 +41,13 @@ std::optional<DaylightRule> ParseDaylightRule(const QString &text);
 /// a rule with a field out of range, and for years outside 1 to 9999.
 QDateTime BoundaryInYear(const DaylightRule &rule, int year);
 
-/// Whether a reading is in the period from start (inclusive) to end (exclusive). An end before the
-/// start wraps the new year; equal boundaries are no period.
+/// Whether a reading is in the period from start (inclusive) to end (exclusive). If the end is
+/// before the start, the period spans the new year; if they are equal, there is none.
 bool InDaylightPeriod(qint64 reading, qint64 start, qint64 end);
 
 /// Says for each frame whether daylight saving is in force. Parses the rules again only when a text
-/// changes and finds the boundaries only when the year changes; otherwise it does not allocate.
+/// changes and recomputes the boundaries only when the rules or the year change; otherwise it does
+/// not allocate.
 class DaylightSaving
 {
 public:

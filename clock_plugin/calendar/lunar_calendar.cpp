@@ -1,5 +1,5 @@
-// The lunar calendar as its host calls it: thin functions with global state over lunar_date, the
-// Gregorian sums that they offer, and the texts of cycles and days in GB2312.
+// The host's C interface to the lunar calendar: thin wrappers with global state around lunar_date,
+// Gregorian date arithmetic, and the texts of cycles and days in GB2312.
 #include "calendar/lunar_calendar.h"
 
 #include "calendar/lunar_date.h"
@@ -12,7 +12,7 @@
 #include <limits>
 
 // clang-format off
-// Written as bytes, as the slots fit GB2312 only.
+// Written as bytes because the slots have room for GB2312 only.
 constexpr char Gan[10][3] = {
     "\xBC\xD7", "\xD2\xD2", "\xB1\xFB", "\xB6\xA1", "\xCE\xEC", "\xBC\xBA",
     "\xB8\xFD", "\xD0\xC1", "\xC8\xC9", "\xB9\xEF",
@@ -45,8 +45,8 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-// Cycle numbers: the month of 31 January 1900 has number 14, ten days of the day cycle had passed
-// on 1 January 1900, and the year with number 0 is 1864.
+// Positions in the cycles: the lunar month that begins on 31 January 1900 is number 14, ten days of
+// the day cycle had passed on 1 January 1900, and the year with number 0 is 1864.
 constexpr int kFirstYear = 1900;
 constexpr int kFirstMonthCycle = 14;
 constexpr int kFirstDayCycle = 10;

@@ -1,6 +1,6 @@
-// calendar/: the host's C interface to the Chinese lunar calendar, a wrapper of the pure
-// lunar_date. The functions outside the namespace keep query and result in globals, so they are not
-// thread-safe.
+// calendar/: the host's C interface to the Chinese lunar calendar, a wrapper around the pure
+// lunar_date. The functions outside the namespace keep their arguments and result in globals, so
+// they are not thread-safe.
 #pragma once
 
 #include "clock_export.h"
@@ -13,7 +13,7 @@ struct Lunar_info
     int day;       ///< 1 to 30
     int monthDays; ///< length of this lunar month, 29 or 30
     int leapMonth; ///< the year's leap month, 0 for none
-    int isLeap;    ///< 1 while the month is the leap month
+    int isLeap;    ///< 1 if this month is the leap month
 };
 
 /// Positions in the sexagenary cycles.
@@ -35,7 +35,7 @@ extern CLOCK_EXPORT const char Animals[12][3];
 extern CLOCK_EXPORT const char chinese_month[12][5];
 extern CLOCK_EXPORT const char chinese_day[30][5];
 
-// The Gregorian year and month of the current query, a day that is never set here, and the last
+// The Gregorian year and month of the current query; s_day, which is never set here; and the last
 // result.
 extern CLOCK_EXPORT int s_year;
 extern CLOCK_EXPORT int s_month;
@@ -57,12 +57,13 @@ CLOCK_EXPORT int leap(int year);
 /// Days of a Gregorian month of s_year; 28 for a month outside 1 to 12.
 CLOCK_EXPORT int day(int month);
 /// Days from 1 January 1900 to the first of a Gregorian month, negative before it. The month is
-/// clamped to 1 to 12, the answer to the range of int.
+/// clamped to 1 to 12, the result to the range of int.
 CLOCK_EXPORT int get_solar_total(int year, int month);
 /// The weekday of the first of a Gregorian month: 1 Sunday to 7 Saturday.
 CLOCK_EXPORT int get_week(int year, int month);
 
-// Outside the table years have no leap month, and months 29 days, as have months outside 1 to 12.
+// Years outside the table have no leap month, and all their months have 29 days. So does any month
+// outside 1 to 12.
 
 /// The leap month of a lunar year, 0 for none.
 CLOCK_EXPORT int get_leap_month(int year);
@@ -75,7 +76,7 @@ CLOCK_EXPORT int get_lunar_year_total(int year);
 
 /// The stem and branch of a sexagenary number in GB2312: four bytes and a terminating zero.
 CLOCK_EXPORT void get_chinese_era(int cycle, char *out);
-/// The day of a lunar date as two digits and a zero; empty for a day outside 1 to 30.
+/// The day of a lunar date as two digits and a terminating zero; empty for a day outside 1 to 30.
 CLOCK_EXPORT void out_chinese(Lunar_info *info, char *out);
 
 namespace Lw::HNodeClock {

@@ -123,8 +123,8 @@ LunarDate DateInYear(int year, int daysSinceNewYear)
 
 LunarDate LunarDateOf(const QDate &date)
 {
-    // 31 January 1900 is in the table but gives no lunar date: days of January 1900 are counted
-    // from the 1st, which the table does not reach.
+    // 31 January 1900 is in the table but gets no lunar date: days are counted from the first of
+    // the Gregorian month, which the table does not reach.
     if (!date.isValid() || date.toJulianDay() <= kFirstNewYear
         || date.toJulianDay() >= kFirstNewYear + kNewYears.back())
         return {};

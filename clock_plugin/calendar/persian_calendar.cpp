@@ -20,8 +20,9 @@ constexpr int kLongMonthsDays = kLongMonths * 31;
 
 // Each year adds 31/128 of a day to 365 whole ones; a year is leap when the sum passes a whole day.
 // 31/128 is a convergent of the fraction of the mean tropical year, 365.2422 days (after 1/4, 7/29
-// and 8/33); the 38 places the cycle so that 1375 is leap, as in Iran. Years up to -38 are all
-// leap: the rule is defined with fractions that keep their sign.
+// and 8/33); an offset of 38 years aligns the cycle so that 1375 is leap, as in Iran. Years up to
+// -38 are all leap: the rule's remainder keeps the sign of the dividend, and a negative one is
+// below 31.
 constexpr bool IsLeap(int year)
 {
     constexpr int kPhase = 38;

@@ -19,9 +19,9 @@ struct PersianDate
 /// Whether a Persian year has 366 days, for every int.
 bool IsPersianLeapYear(int year);
 
-/// The Persian date of a Gregorian one from 21 March 1993 (1 Farvardin 1372) on. Dates before it,
-/// invalid ones and those of Persian years beyond the range of int give the year 1372 with month
-/// and day -1.
+/// The Persian date of a Gregorian date on or after 21 March 1993 (1 Farvardin 1372). Dates
+/// before it, invalid ones and those of Persian years beyond the range of int give the year 1372
+/// with month and day -1.
 PersianDate ToPersianDate(const QDate &date);
 
 } // namespace Lw::HNodeClock

@@ -1,4 +1,4 @@
-// calendar/: the system clock, for device_clock and for programs. Apart from device_clock, so that
+// calendar/: the system clock, for device_clock and for programs. In a file of its own, so that
 // programs that load the plugin do not link a second replaceable time source.
 #pragma once
 

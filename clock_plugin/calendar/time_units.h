@@ -1,4 +1,5 @@
-// calendar/: units of time, and division rounding down, which also works before the epoch.
+// calendar/: units of time, and division that rounds down, so that it is right before the epoch
+// too.
 #pragma once
 
 #include <QtGlobal>

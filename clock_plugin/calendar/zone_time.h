@@ -14,12 +14,13 @@ namespace Lw::HNodeClock {
 /// The settings that determine the time a clock shows.
 struct ZoneSettings
 {
-    int offset = 0; ///< zone and adjustment: seconds to add to UTC, daylight saving apart
-    QString start;  ///< daylight-saving rules; none where either is empty or malformed
+    int offset = 0; ///< zone plus adjustment: seconds to add to UTC, without daylight saving
+    QString start;  ///< daylight-saving rules; no daylight saving unless both are valid
     QString end;
 
+    /// Whether there is a rule for the start, valid or not.
     bool HasDaylightSaving() const { return !start.isEmpty(); }
-    QString ZoneText() const; ///< the offset's whole minutes, as "+01:00"
+    QString ZoneText() const; ///< the offset in whole minutes, for example "+01:00"
 };
 
 /// Seconds that a clock adds to UTC at an instant.
@@ -36,7 +37,7 @@ struct ZoneChange
 {
     qint64 instant; ///< the first instant with the new offset
     int before;     ///< seconds added to UTC before it
-    int after;      ///< and from it on
+    int after;      ///< seconds added to UTC from then on
 };
 
 /// The first change after an instant; nothing when there is none within 50 years. (A rule may name

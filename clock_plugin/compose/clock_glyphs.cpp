@@ -58,7 +58,7 @@ void ClockGlyphs::Load(const GlyphSource &source, int clockType, int weekType)
 {
     months = QVector<GlyphStrip>(13);
     const QVector<LoadedGlyph> glyphs = GlyphsLoaded(clockType, weekType);
-    // All are released first, so that the new ones fit within the bounds.
+    // Release all old images first, so that the new ones fit within the limits.
     for (const LoadedGlyph &each : glyphs)
         Strip(each.glyph, each.number) = GlyphStrip();
     for (const LoadedGlyph &each : glyphs)
@@ -95,12 +95,13 @@ bool ClockGlyphs::Has(const GlyphStrip &strip) const
                        [&](const GlyphStrip *each) { return each->Key() == strip.Key(); });
 }
 
-// Whether one more image fits: `loaded` if other clocks share it, else a new one of `bytes`.
+// Whether one more image fits within the limits. `loaded` is its strip if it is already loaded,
+// else null; `bytes` is its size.
 bool ClockGlyphs::HasRoom(const GlyphStrip &loaded, qint64 bytes) const
 {
     const bool isLoaded = loaded.Key() != 0;
     const qint64 process = GlyphBytesInProcess() + (isLoaded ? 0 : bytes);
-    // Shortcut: usually all clocks together stay within the bound for one.
+    // Shortcut: all clocks together are usually within the limit for one.
     return process <= kClockGlyphBytes || (isLoaded && Has(loaded))
         || (process <= kProcessGlyphBytes && Bytes() + bytes <= kClockGlyphBytes);
 }

@@ -25,7 +25,7 @@ public:
     /// `source` loads a file by its path.
     const GlyphStrip &Load(const QString &path,
                            const std::function<GlyphStrip(const QString &)> &source);
-    const GlyphStrip &Image() const { return m_image; } ///< as loaded last
+    const GlyphStrip &Image() const { return m_image; } ///< as last loaded
 
 private:
     QString m_path;
@@ -38,7 +38,7 @@ private:
 struct ClockGlyphs
 {
     GlyphStrip lunar;
-    QVector<GlyphStrip> weeks; ///< seven, Monday first; empty until a valid week code was loaded
+    QVector<GlyphStrip> weeks; ///< seven, Monday first; empty until loaded with a valid week code
     GlyphStrip topText;
     GlyphStrip timeNumber;
     GlyphStrip timeCh;
@@ -56,7 +56,7 @@ struct ClockGlyphs
     /// week images as they were.
     void Load(const GlyphSource &source, int clockType, int weekType);
 
-    /// The image in a file; without pixels if the glyph images of this clock, or of the process,
+    /// The image in a file; null if the glyph images of this clock, or of the process,
     /// would then exceed their limits (image_bounds.h). This is decided from the file's size and
     /// kind, before it is decoded.
     GlyphStrip LoadFile(const QString &path) const;
@@ -65,7 +65,7 @@ struct ClockGlyphs
     GlyphSource RecordedFiles(HClockNode &node, QVector<Lw::GlyphFault> *lost = nullptr) const;
 
 private:
-    /// nullopt if the limits do not allow it.
+    /// The image; nullopt if it would exceed the limits.
     std::optional<GlyphStrip> LoadWithinBounds(const QString &path) const;
     QVector<const GlyphStrip *> All() const;
     qint64 Bytes() const;

@@ -1,5 +1,5 @@
-// compose/: the time and date that one clock shows, from the device's time, zone, adjustment,
-// daylight saving, and the Persian date where the clock shows one.
+// compose/: the time and date that one clock shows: the device's time plus the clock's zone,
+// adjustment and daylight saving, as a Persian date where the clock shows one.
 #pragma once
 
 #include "calendar/clock_time.h"
@@ -38,7 +38,7 @@ private:
     void TakePersianDate();
 
     ZoneSettings m_zone;
-    qint64 m_milliseconds = 0; ///< of the reading, as if it were UTC
+    qint64 m_milliseconds = 0; ///< the reading as milliseconds since 1970-01-01 00:00
     DaylightSaving m_daylightSaving;
     DisplayedFields m_gregorian;
     DisplayedFields m_shown;

@@ -12,7 +12,7 @@ namespace {
 // The parts a date format is composed of.
 enum class Part { Year, Month, MonthName, Day, Separator, Minus, Space, Label0, Label1, Label2 };
 
-/// What reserves the width of a date.
+/// Which parts determine the canvas width of a date.
 enum class Canvas { Separators, MonthName, Labels, LabelsWithoutYear };
 
 struct DateFormat
@@ -47,7 +47,7 @@ public:
     { }
 
     // Formats with separators reserve the width of the whole comma-and-slash image for their two
-    // separators, also if hyphens are drawn instead; those with a month name reserve half of it and
+    // separators, even if hyphens are drawn instead; those with a month name reserve half of it and
     // a second space, which remain empty at the right.
     long long CanvasWidth(Canvas canvas) const
     {

@@ -33,11 +33,11 @@ public:
     /// Updates the reading, copies it to the argument (tagged UTC) and returns the weekday, 1
     /// Monday to 7 Sunday.
     int CalculateTimeZone(QDateTime &reading);
-    /// The instant that a daylight-saving rule names in the year of a date, as a standard-time
-    /// reading tagged UTC; invalid for a rule that is empty, malformed or names no day.
+    /// When a daylight-saving rule takes effect in the year of `date`, as a standard-time reading
+    /// tagged UTC; invalid for a rule that is empty, malformed or names no day.
     QDateTime AnalyzeDaylightSavingTime(QDate date, QString rule);
-    /// "AM" or "PM" by the stored hour, which GetTimePixmap() reduces by 12 in 12-hour mode until
-    /// the next time update.
+    /// "AM" if the stored hour is below 12, else "PM". In 12-hour mode GetTimePixmap() subtracts 12
+    /// from it, so from then until the next time update the answer is "AM".
     QString GetTimeAP();
     int CountLeapYear(int year); ///< 1 for a Persian leap year, else 0
     PersianDate CountPersianDate(QDate date);

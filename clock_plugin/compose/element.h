@@ -17,7 +17,7 @@ namespace Lw::HNodeClock {
 struct Piece
 {
     const GlyphStrip *strip = nullptr; ///< valid until the next SetUp() of its composer
-    quint32 stripKey = 0;              ///< identifies the strip's contents, also after a set-up
+    quint32 stripKey = 0; ///< identifies the strip's contents, even after another SetUp()
     int sourceX = 0;
     quint16 width = 0;
     quint16 x = 0;
@@ -31,12 +31,12 @@ struct Piece
     bool operator!=(const Piece &other) const { return !(*this == other); }
 };
 
-/// Pieces never overlap; what is past the canvas is cut off. At most twelve, with those cut off.
+/// Pieces never overlap; anything beyond the canvas is clipped. At most twelve, with those cut off.
 class Element
 {
 public:
     Element() = default;
-    /// A canvas larger than an image may be is empty instead.
+    /// Empty if the canvas would be larger than an image may be.
     Element(long long width, int height)
     {
         if (width > 0 && width <= kImageSide

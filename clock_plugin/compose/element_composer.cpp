@@ -179,7 +179,7 @@ QDate ElementComposer::StandardDate() const
     return QDate(now.year, now.month, now.day);
 }
 
-// An answer that is not "m$dd" or "mm$dd" leaves the numbers unchanged.
+// A result other than "m$dd" or "mm$dd" leaves month and day unchanged.
 void ElementComposer::UpdateLunarDate()
 {
     const QDate date = StandardDate();

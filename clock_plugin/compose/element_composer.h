@@ -14,8 +14,8 @@
 
 namespace Lw::HNodeClock {
 
-/// Elements refer to the loaded images and are valid until the next SetUp(). Each is updated when
-/// it is asked for; within one FrameScope the time is read once for all.
+/// Elements refer to the loaded images and are valid until the next SetUp(). Each is updated on
+/// demand; within one FrameScope the time is read only once.
 class ElementComposer
 {
 public:
@@ -71,7 +71,7 @@ private:
         QPixmap m_pixmap;
     };
 
-    // What an element was composed for: its format, numbers and images; nothing before the first.
+    // What an element was composed for: its format, numbers and images; nullopt until then.
     using Shown = std::optional<std::array<qint64, 5>>;
     static bool Replace(Shown &shown, const Shown &wanted); ///< returns whether they differed
 

@@ -20,8 +20,8 @@ enum DateType {
     DateWithMinus = 8,
 };
 
-/// The time formats. Larger codes show hours, label, minutes and seconds; negative ones a separator
-/// instead of the label.
+/// The time formats. Codes above the list show hours, the hour label, minutes and seconds; negative
+/// codes show a separator instead of the label.
 enum TimeType {
     TimeToSecond = 0,
     TimeToMinute = 1,
@@ -30,7 +30,7 @@ enum TimeType {
     TimeShortHour = 4,
 };
 
-/// An empty element for a format outside the list. The canvas is as high as the label image, also
+/// An empty element for a format outside the list. The canvas is as high as the label image, even
 /// for formats that show no label.
 Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month, int day);
 

@@ -20,7 +20,7 @@ int Number(HClockNode &clock, Attribute attribute)
     return clock.GetAttributeToInt(Key(attribute));
 }
 
-// The AM/PM marks, which are loaded lazily, are counted as well.
+// The AM/PM marks, which are loaded lazily, are counted as well, even if they are hidden.
 QVector<LoadedGlyph> GlyphsOf(HClockNode &clock)
 {
     const int type = Number(clock, Attribute::ClockType);

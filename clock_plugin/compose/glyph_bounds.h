@@ -21,24 +21,24 @@ struct LoadedGlyph
     int number; ///< within a series from 1; 0 for a single image
 };
 
-/// The images that a clock of that type loads when it is set up, in that order. No week images for
-/// a code outside 0 to 3.
+/// The images that a clock of this type loads when it is set up, in loading order. No week images
+/// for a code outside 0 to 3.
 QVector<LoadedGlyph> GlyphsLoaded(int clockType, int weekType);
 
 /// The fault of an image that exceeds the limits.
 Lw::GlyphFault NotKept(const QString &key, const QString &path);
 
 /// Reports in advance which glyph images the clocks of a program cannot load: if those of a clock
-/// exceed 64 MiB, or those of all clocks 256 MiB, further images are not loaded. Equal images count
-/// once. No image is kept.
+/// exceed kClockGlyphBytes, or those of all clocks kProcessGlyphBytes (image_bounds.h), further
+/// images are not loaded. Equal images count once. No image is kept.
 class GlyphAccount
 {
 public:
     // Each adds the images of one clock, in program order, and returns those that it would drop;
     // none for a picture clock.
 
-    /// The images in the files recorded on the clock. Unreadable files are not reported; of the
-    /// others only PNGs are decoded, one at a time.
+    /// The images in the files recorded on the clock. Unreadable files are not reported. Only PNGs
+    /// are decoded, one at a time.
     QVector<Lw::GlyphFault> AddFiles(HClockNode &clock);
     /// The images as planned; the faults have no path.
     QVector<Lw::GlyphFault> AddPlanned(HClockNode &clock,
@@ -53,7 +53,7 @@ private:
 
     bool Keep(OfClock &clock, const QByteArray &identity, const std::function<qint64()> &bytes);
 
-    QHash<QByteArray, qint64> m_bytes; ///< of all clocks, by what distinguishes the images
+    QHash<QByteArray, qint64> m_bytes; ///< of all clocks, by file digest or planned identity
     qint64 m_total = 0;
 };
 

@@ -120,8 +120,8 @@ void GlyphPixels::Take(QImage image)
     m_pixmap = QPixmap::fromImage(std::move(image));
 }
 
-// Only for the formats in which transparent glyphs are decoded: in these a pixel of alpha 0 or 255
-// is the same before and after it becomes part of a pixmap.
+// Only for the formats that transparent PNGs decode to: in these, converting to a pixmap does not
+// change a pixel of alpha 0 or 255.
 bool GlyphPixels::TakeInk(const QImage &image)
 {
     if (image.format() != QImage::Format_ARGB32
@@ -160,7 +160,7 @@ const QPixmap &GlyphPixels::Pixmap()
 {
     if (IsInk() && m_pixmap.isNull()) {
         QImage image(m_size, QImage::Format_ARGB32_Premultiplied);
-        if (image.isNull()) // there is no memory
+        if (image.isNull()) // out of memory
             return m_pixmap;
         image.fill(Qt::transparent);
         PieceCanvas(image).DrawInk(*this, QRect(QPoint(0, 0), m_size), QPoint(0, 0));
@@ -180,7 +180,7 @@ GlyphStrip GlyphStrip::OfFile(const QString &path)
     return loaded.m_pixels ? loaded : OfFile(file, file.MaxBytes());
 }
 
-// A failed decode is not cached: memory may only have been short.
+// A failed decode is not cached: it may have failed only for lack of memory.
 GlyphStrip GlyphStrip::OfFile(PictureFile &file, qint64 bytes)
 {
     const QByteArray digest = file.Digest();

@@ -1,5 +1,5 @@
-// compose/: one glyph image, stored compactly and shared by all clocks of a thread whose files are
-// equal.
+// compose/: one glyph image, stored compactly and shared by all clocks of a thread that use an
+// identical file.
 //
 // Glyph images are drawn in one colour without antialiasing, so they are stored as ink, one bit per
 // pixel. Images made by other programs are stored as pixmaps. A file of up to 64 KiB is read
@@ -82,7 +82,7 @@ private:
     const quint32 m_key;
     QByteArray m_encoded; // null once it is decoded
     qint64 m_bytes = 0;
-    bool m_isExact = false; // whether m_bytes is exact, or an upper bound for an undecoded image
+    bool m_isExact = false; // false while m_bytes is an upper bound for an undecoded image
     QSize m_size {0, 0};
     int m_wordsPerRow = 0; // of the ink; 0 where the image is not kept as ink
     QRgb m_colour = 0;
@@ -96,7 +96,7 @@ class GlyphStrip
 public:
     GlyphStrip() = default; ///< null, like the strip of a missing or damaged file
     explicit GlyphStrip(const QImage &image);
-    /// The content of the file now; later changes of the file have no effect.
+    /// The content of the file at this moment; later changes to the file have no effect.
     static GlyphStrip OfFile(const QString &path);
     static GlyphStrip OfFile(PictureFile &file,
                              qint64 bytes);     ///< `bytes`: upper bound of its size in memory
@@ -131,7 +131,7 @@ private:
 
 /// Bytes of all glyph images of the process; equal files of a thread count once.
 qint64 GlyphBytesInProcess();
-/// Makes the bytes of all images of this thread exact.
+/// Replaces upper bounds in GlyphBytesInProcess() by exact sizes, for all images of this thread.
 void CountLoadedGlyphsExactly();
 
 } // namespace Lw::HNodeClock

@@ -27,7 +27,7 @@ constexpr qint64 kLongest = 2 * kGlyphBytes + kGlyphBytes / 8;
 constexpr qint64 kLongestInk = 4 << 20;
 
 // Formats whose header gives the decoded size (of a GIF, only of its first frame). Others do not:
-// an icon states its own sizes for the pictures in it, and a vector drawing can have any size.
+// an icon's header may misstate the sizes of its pictures, and a vector drawing can have any size.
 constexpr const char *kTrustedFormats[] = {"bmp", "gif",    "jpeg", "jpg",    "pbm", "pbmraw",
                                            "pgm", "pgmraw", "ppm",  "ppmraw", "xbm", "xpm"};
 
@@ -50,8 +50,8 @@ QSize CanvasOfGif(QIODevice &gif)
 }
 
 // Each scan of a progressive JPEG makes the decoder process the whole image again, so a small file
-// could take very long. Usual ones have about ten scans. The start-of-scan marker does not occur
-// within scan data.
+// could take very long to decode. Typical ones have about ten scans. The start-of-scan marker does
+// not occur within scan data.
 bool HasFewScans(QIODevice &jpeg)
 {
     constexpr int kBlock = 64 << 10;
@@ -81,8 +81,9 @@ QImage ReadPng(QIODevice &png)
     return ReadWithinBounds(reader);
 }
 
-/// Opens without blocking on a FIFO and then checks the open file, as its name may have been given
-/// to another. A file of size 0 may be endless, as in /proc.
+/// Opens without blocking on a FIFO and then checks the open file, Opens without blocking on a
+/// FIFO, then checks the opened file, because the path may meanwhile name another one. A file of
+/// size 0 may be endless, as in /proc.
 bool OpenRegular(QFile &file, const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);

@@ -16,7 +16,7 @@ QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
 
-/// A picture file, opened and identified; its pixels are decoded when asked for.
+/// A picture file, opened and identified; its pixels are decoded on demand.
 ///
 /// Null for a path that is empty or does not name a regular file (a device or a pipe could block
 /// for ever), for an unknown format, and for a picture of more than 32767 pixels per side or 64 MiB
@@ -35,7 +35,7 @@ public:
     /// MD5 of the content; empty if reading fails.
     QByteArray Digest();
 
-    /// Upper bound of the bytes that the image takes as a glyph: 32 bits per pixel.
+    /// Upper bound on the bytes that the image takes in memory as a glyph: 32 bits per pixel.
     qint64 MaxBytes() const;
     /// The exact bytes: one bit per pixel for a PNG with one colour, else MaxBytes(). Only a PNG
     /// that may have one colour is decoded for this, temporarily.
@@ -56,7 +56,7 @@ private:
     QSize m_size {0, 0};
 };
 
-/// The picture in a file; null on the conditions given at PictureFile.
+/// The picture in a file; null under the conditions described at PictureFile, or if damaged.
 QImage ReadImageFile(const QString &path);
 QPixmap ReadPixmapFile(const QString &path);
 

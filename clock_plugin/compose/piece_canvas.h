@@ -20,8 +20,8 @@ namespace Lw::HNodeClock {
 class PieceCanvas
 {
 public:
-    /// For opaque ARGB32 images, and for premultiplied ones. Nothing else may write the image while
-    /// the canvas exists.
+    /// For opaque ARGB32 images, and for premultiplied ones. Nothing else may write to the image
+    /// while the canvas exists.
     explicit PieceCanvas(QImage &image)
         : m_image(image), m_pixels(image.bits()), m_line(image.bytesPerLine())
     { }
@@ -31,7 +31,7 @@ public:
     /// The part of an element within a clip, which must be within the image. Strips are cut off at
     /// the element's height.
     void Draw(const Element &element, const QPoint &topLeft, const QRect &clip);
-    /// The source must be within the strip, and the target of its size within the image.
+    /// `source` must be within the strip, and a rectangle of its size at `target` within the image.
     void Draw(const GlyphStrip &strip, const QRect &source, const QPoint &target);
     void DrawInk(const GlyphPixels &ink, const QRect &source, const QPoint &target);
 

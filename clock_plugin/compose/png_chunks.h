@@ -1,5 +1,5 @@
-// compose/: inspects PNG files without decoding them: the chunks that affect the pixels, their size
-// and their pixel format.
+// compose/: inspects PNG files without decoding them: finds the chunks that affect the pixels, the
+// picture's size and its pixel format and their pixel format.
 #pragma once
 
 #include <QByteArray>
@@ -17,14 +17,14 @@ inline constexpr int kPngHeaderEnd = 29;
 
 /// A PNG without text, profile and other chunks that do not affect its pixels: decompressed, these
 /// could be arbitrarily larger than the file. Critical chunks are kept, known or not: the decoder
-/// rejects unknown ones. Reads from the device's current position, where the signature is, to the
-/// last chunk or the end.
+/// rejects unknown ones. Reads from the device's current position, which must be at the signature,
+/// to the last chunk or the end.
 QByteArray PixelChunks(QIODevice &png);
 
 /// The size stated in a PNG's header; empty if the data does not start with a PNG header.
 QSize SizeOfPng(const QByteArray &png);
 
-/// Whether a PNG has 8-bit colours with alpha, as glyph images have, by its header.
+/// Whether the header of a PNG says 8-bit RGBA, not interlaced, like the glyph images we write.
 bool HasGlyphKind(const QByteArray &png);
 
 } // namespace Lw::HNodeClock

@@ -116,7 +116,8 @@ Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minut
 {
     const TimeWriter writer(glyphs, timeType, hour, minute, second);
     const long long width = writer.Width();
-    // The mark is as high as the time, which without digits and separators has no canvas.
+    // The canvas is as high as the label strip. A time without digits and separators has no canvas,
+    // so its mark is not drawn either.
     Element element(width + mark.Width(), width > 0 ? glyphs.timeCh.Height() : 0);
     const TimeFormat &format = FormatOf(timeType);
     for (int i = 0; i < format.count; ++i)

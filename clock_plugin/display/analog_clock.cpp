@@ -81,7 +81,7 @@ void AnalogFace::RefreshDial(const QSize &size)
     m_dial = FramePair::NewImage(size);
     DrawDial();
     DrawBadge();
-    // Copying drops the paint engine and its memory.
+    // A copy has no paint engine, so its memory is released.
     const QImage copy = m_dial.copy();
     if (!copy.isNull())
         m_dial = copy;

@@ -15,7 +15,7 @@
 
 namespace Lw::HNodeClock {
 
-/// Fills hourHand, minuteHand and secondHand for a dial of that many pixels across.
+/// Fills hourHand, minuteHand and secondHand for a dial `size` pixels across.
 void FillHandTriangles(int size);
 
 class AnalogFace

@@ -174,15 +174,15 @@ QVector<Numeral> Numerals(int hourScale, double radius, const DigitCells &cells)
 
 namespace {
 
-// The factors of one hand; the unit of length is a.
+// The proportions of one hand, in units of a = radius / 27.
 struct HandFactors
 {
-    double bar;       // length of the bar, of 23
-    double shaft;     // of the arrow's shaft, tail and point
-    double head;      // where the arrow head begins, of 23
+    double bar;       // length of the bar, as a fraction of 23 a
+    double shaft;     // scale of the arrow's shaft, tail and point
+    double head;      // where the arrow head begins, as a fraction of 23 a
     double halfWidth; // of the arrow's widening
     double ringRadius;
-    double ringCentre;  // below the middle
+    double ringCentre;  // distance below the centre of the dial
     bool ringTruncated; // whether the ring is centred on a whole pixel
 };
 

@@ -1,9 +1,9 @@
 // display/: the shapes of an analog clock as points and boxes, computed from the size of its area
 // alone.
 //
-// All coordinates are pixels relative to the centre of the area, y growing downwards: 12 o'clock is
-// up, at negative y. Marks and hands point up; the painting code rotates them into place.
-// Truncation of coordinates toward zero is intended.
+// All coordinates but those of Centre() and BadgePlace() are pixels relative to the centre of the
+// area, y growing downwards: 12 o'clock is up, at negative y. Marks and hands point up; the
+// painting code rotates them into place. Truncation of coordinates toward zero is intended.
 //
 // Every measure is a multiple of a = R / 27 or of b = R / 90, R being the radius.
 #pragma once
@@ -24,7 +24,7 @@ namespace Lw::HNodeClock {
 /// Half of the smaller side in pixels: exact for the dial, rounded down for the hands.
 double DialRadius(const QSize &area);
 double HandRadius(const QSize &area);
-/// What the dial and the hands are centred on.
+/// The point on which dial and hands are centred, from the area's top left.
 QPoint Centre(const QSize &area);
 
 // Marks.
@@ -63,7 +63,7 @@ struct DigitCells
 
     int width;  ///< of one digit
     int height; ///< of the strip
-    int half;   ///< half a digit's width, by which a single digit is centred on its place
+    int half;   ///< half a digit's width, by which a single digit is shifted left to be centred
 };
 
 struct Numeral
@@ -119,7 +119,7 @@ struct HandTriangles
     std::array<QPoint, 3> second;
 };
 
-/// The triangles for a dial of that many pixels across.
+/// The triangles for a dial `size` pixels across.
 HandTriangles TrianglesFor(int size);
 
 } // namespace Lw::HNodeClock

@@ -1,5 +1,6 @@
-// display/: paints the parts of an analog clock: marks, numerals, hands. All painters must be
-// active with their origin at the centre of the clock; their state is restored.
+// display/: paints the parts of an analog clock: marks, numerals, hands. Unless
+// stated otherwise, painters must be active with their origin at the centre of the clock, and their
+// state is restored.
 #pragma once
 
 #include "display/analog_geometry.h"
@@ -34,7 +35,7 @@ void PaintNumerals(QPainter &painter, int hourScale, double radius, const QPixma
 /// A filled shape of one opaque colour, around the centre.
 struct FlatShape
 {
-    QPolygonF outline; ///< of a hand, before it is turned; empty for a disc
+    QPolygonF outline; ///< of a hand, before rotation; empty for a disc
     double degrees = 0;
     QRect disc; ///< the box of a disc; empty for a hand
     QColor colour;
@@ -46,7 +47,8 @@ struct FlatShape
 QPolygonF OutlineOn(const QPoint &centre, const FlatShape &shape);
 
 void PaintFlat(QPainter &painter, const FlatShape &shape);
-/// The same onto an image whose top left is at `place`; its painter has a brush and no pen.
+/// The same onto an image whose top left corner is at `place` in the frame. The painter's
+/// origin must be at that corner, with the brush set and no pen; its transform is not restored.
 /// `outline` is that of OutlineOn().
 void PaintFlatFrom(QPainter &painter, const QPoint &place, const QPoint &centre,
                    const FlatShape &shape, const QPolygonF &outline);

@@ -1,5 +1,5 @@
-// display/: what the faces of a drawer share: the node and its settings, the elements, the
-// displayed time and the two frames.
+// display/: what the faces of one DrawDisplayImage share: the node and its settings, the elements,
+// the displayed time and the two frames.
 #pragma once
 
 #include "calendar/clock_time.h"
@@ -34,7 +34,7 @@ struct SharedByFaces
 
     /// The displayed time: always Gregorian and in 24-hour form.
     DisplayedFields now {0, 0, 0, 0, 0, -1, 0};
-    int frameWidth = 0; ///< of the node when the frame was begun
+    int frameWidth = 0; ///< pixels; the node's width when the frame was begun
     Rows tops;          ///< top edges of the text rows
     FramePair frames;
 };

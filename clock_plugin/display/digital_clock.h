@@ -16,7 +16,7 @@ public:
     explicit DigitalFace(SharedByFaces &shared) : m_shared(shared) { }
     Q_DISABLE_COPY(DigitalFace)
 
-    /// Places the rows with the layout for `count` rows.
+    /// Places the rows with the layout for `count` rows and a gap of `space` pixels.
     void PlaceRows(const DigitalSettings &settings, int count, int space);
     /// Places the rows as the settings say.
     void PlaceRows(const DigitalSettings &settings);

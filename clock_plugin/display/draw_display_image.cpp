@@ -109,7 +109,7 @@ void DrawDisplayImage::Private::TakeFields(const DisplayedFields &fields)
     shared.now = fields;
 }
 
-// The start time is that of the second frame after construction, and never replaced.
+// The start time is that of the second call after construction; it is never replaced.
 void DrawDisplayImage::Private::RecordStartTime()
 {
     const DisplayedFields &now = shared.now;

@@ -34,8 +34,8 @@ extern CLOCK_EXPORT QPoint hourHand[3];
 extern CLOCK_EXPORT QPoint minuteHand[3];
 extern CLOCK_EXPORT QPoint secondHand[3];
 
-/// Functions that need the node do nothing once it is deleted. DrawClockDisplayImage makes a frame;
-/// the other functions are its steps, in this order. All lengths are in pixels.
+/// Functions that need the node do nothing once it is deleted. DrawClockDisplayImage() draws a
+/// frame; the other functions are its steps, in this order. All lengths are in pixels.
 class CLOCK_EXPORT DrawDisplayImage : public QObject
 {
     Q_OBJECT
@@ -47,20 +47,20 @@ public:
 
     /// Loads the node's glyph images again, after they were regenerated. Null does nothing.
     void ReLoadSourceFile(HClockNode *node);
-    /// The frame for now, in the node's size, filled with the key colour where nothing is drawn. If
+    /// The current frame, in the node's size, filled with the key colour where nothing is drawn. If
     /// the node is deleted or its clock type unknown, the last frame.
     QImage DrawClockDisplayImage();
-    /// Where the frame that DrawClockDisplayImage gave last may differ from the one it gave before
-    /// that, in pixels of the frame: all of it if unknown, empty if the same frame was returned
-    /// again. Computed lazily.
+    /// Where the frame last returned by DrawClockDisplayImage() may differ from the one returned
+    /// before that, in pixels of the frame: all of it if unknown, empty if the same frame was
+    /// returned again. Computed lazily.
     Q_DECL_HIDDEN QRegion FrameDamage() const;
     /// The damage of the next frame will be the whole frame.
     Q_DECL_HIDDEN void ForgetLastFrame();
     /// Reads the device's clock and computes what the clock shows from its node's zone, adjustment
     /// and daylight saving. All drawing uses this reading until the next call.
     void CalculateTimeZone();
-    /// The readings of the second and of the last call of CalculateTimeZone; unchanged before the
-    /// second.
+    /// `start` is the reading at the second call of CalculateTimeZone(), `now` that at the latest
+    /// call. Both are left unchanged until the second call.
     void GetTime(QTime &start, QTime &now);
     QColor GetColorKey();            ///< what the host treats as transparent
     QColor ReturnQcolor(int colour); ///< 0x00BBGGRR, always opaque
@@ -72,21 +72,21 @@ public:
     /// that, so they show from the next frame on. The dial is redrawn only when the device's date,
     /// the node's size or AM/PM has changed.
     void DrawAnalogClock();
-    void DrawAnalogClockDial(); ///< marks and numerals, onto the dial that DrawAnalogClock made
+    void DrawAnalogClockDial(); ///< marks and numerals, onto the dial that DrawAnalogClock created
     /// The AM/PM badge, also onto the dial, if Analog_AMPM_d is 1.
     void DrawAnalogClock_AMPM();
     void DrawAnalogClockPoint(); ///< the hands, onto the frame; sets the hand size too
-    /// The text rows whose flag is 1, onto the dial, at the top edges worked out last.
+    /// The text rows whose flag is 1, onto the dial, at the top edges last computed.
     void DrawAnalogText();
-    /// Fills the three outlines above, for a dial of that many pixels across.
+    /// Fills the three outlines above, for a dial `size` pixels across.
     void SetHandSize(int size);
 
     // Digital clock.
-    /// Works out the top edges of the rows whose flag is not 0, by their number and DigitalSpace.
+    /// Computes the top edges of the rows whose flag is not 0, from their count and DigitalSpace.
     void GetDigitalDisplayArea();
     /// The same for a fixed number of rows, with a gap of `space` pixels, which may be negative.
-    /// Two, three and four do nothing where the node has another number of rows; one and five place
-    /// all five regardless of their flags.
+    /// Those for two, three and four rows do nothing if the node shows a different number of rows;
+    /// those for one and five place all five regardless of their flags.
     void Computations1Count();
     void Computations2Count(int space);
     void Computations3Count(int space);

@@ -27,7 +27,7 @@ QTransform FaceOn(const QSize &size)
     return face;
 }
 
-// For a painter with the face's units.
+// The painter must use the face's units.
 void PaintTurned(QPainter &painter, const QPixmap &picture, double degrees, const QRect &place)
 {
     painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
@@ -53,7 +53,7 @@ void PictureFace::LoadPictures()
     DrawBackground(dial, folder + DialPicture(m_shared.Number(Attribute::PictrueClockType)));
 }
 
-// Only the part of the frame that the dial and the hands reach.
+// The background covers only the part of the frame that the dial and the hands reach.
 void PictureFace::DrawBackground(const QRect &dial, const QString &file)
 {
     constexpr int kAround = 2 * kPaintMargin;

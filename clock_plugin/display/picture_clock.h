@@ -53,7 +53,7 @@ private:
     QImage m_background;        // the scaled dial
     QPoint m_place;             // of the background in a frame
     QSize m_size;               // of the frames that the background is for
-    std::optional<int> m_style; // of the frame; none before the first
+    std::optional<int> m_style; // style last drawn; nullopt before the first frame
     FrameMemory m_memory;
     HandCache m_hourCache;
     HandCache m_secondCache {60};

@@ -6,7 +6,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// The shown rows of an order from top to bottom; places beyond their number are unused.
+// The rows shown, from top to bottom; elements from `count` on are unused.
 struct Shown
 {
     RowOrder rows = {};
@@ -127,7 +127,7 @@ void StackTwo(long long anchor, int space, Row upper, Row lower, const Rows &hei
     positions[lower] = ClampPosition(anchor + space / 2);
 }
 
-// Three rows: the middle one centred on the anchor, the lunar date above it, the last below.
+// Three rows: the middle one centred on the anchor, the lunar date above it, `lower` below it.
 void StackThree(long long anchor, int space, Row middle, Row lower, const Rows &heights,
                 Rows &positions)
 {

@@ -50,7 +50,7 @@ inline constexpr RowOrder kWeekFirst = {Row::TopText, Row::Week, Row::Date, Row:
 struct DigitalArea
 {
     int height = 0; ///< of the area
-    int space = 0;  ///< gap between neighbouring rows; may be negative
+    int space = 0;  ///< gap between neighbouring rows, in pixels; may be negative
     int swap = 0;   ///< 1 exchanges date and week
     Rows flags;     ///< which rows take part: the non-zero ones
     Rows heights;
@@ -62,7 +62,7 @@ struct AnalogArea
     int width = 0;
     int height = 0;
     int space = 0; ///< gap between neighbouring rows; may be negative
-    int swap = 0;  ///< exchanges date and week, as LayOutAnalogRows says
+    int swap = 0;  ///< exchanges date and week; see LayOutAnalogRows()
     Rows flags;    ///< which of the lower rows take part: the non-zero ones
     Rows heights;
 };
@@ -88,9 +88,10 @@ constexpr Rows LowerRows(Rows rows)
     return rows;
 }
 
-/// The rows of an analog clock: the top text around the upper anchor always; date, week and lunar
-/// date around the lower anchor, by their number. Swap exchanges date and week: with two rows when
-/// it is exactly 1, with three when it is not 0. The time row stays as it is.
+/// The rows of an analog clock: the top text always around the upper anchor (the vertical centre of
+/// the upper texts); date, week and lunar date around the lower anchor, by their number. Swap
+/// exchanges date and week: with two rows when it is exactly 1, with three when it is not 0. The
+/// time row stays as it is.
 void LayOutAnalogRows(const AnalogArea &area, Rows &positions);
 
 /// The left edge of the first element on one line, given the sum of the widths of the elements that

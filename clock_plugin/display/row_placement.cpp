@@ -6,7 +6,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// The host may delete the node during a call. All numbers are 0 then.
+// The host may delete the node during a call; from then on every number is 0.
 using GuardedNode = QPointer<HClockNode>;
 
 int Number(const GuardedNode &node, Attribute attribute)
@@ -58,7 +58,7 @@ Placements OnOneLine(const DigitalSettings &settings, ElementComposer &elements)
     return placements;
 }
 
-// The elements one above the other, each centred, at the tops worked out before.
+// The elements one above the other, each centred horizontally, at the top edges given.
 Placements InRows(const DigitalSettings &settings, ElementComposer &elements, const Rows &tops)
 {
     Placements placements;

@@ -19,8 +19,8 @@ inline constexpr char kMinutePicture[] = "minute.png";
 inline constexpr char kSecondPicture[] = "second.png";
 inline constexpr char kCentrePicture[] = "center.png";
 
-/// The folder of all of them, with a separator at its end. It is beside the program's own folder
-/// and cannot be chosen.
+/// The folder of all of them, with a separator at its end. It is next to the folder of the
+/// executable and cannot be configured.
 inline QString StyleFolder()
 {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/../image/ClockType/");

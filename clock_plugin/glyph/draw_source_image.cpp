@@ -32,7 +32,7 @@ struct GlyphRequest
     int size; // points
     int colour;
     QString path;
-    bool isTopText; ///< the file is removed where there is nothing to draw
+    bool isTopText; ///< if there is nothing to draw, the file is removed
 };
 
 namespace {
@@ -143,7 +143,8 @@ QString DrwSourceIMage::PathOf(GlyphShape shape, const QString &id, const QStrin
         + m_typePrefix + id + suffix;
 }
 
-// An empty top text removes its file, or the previous text would stay on the wall.
+// If the top text is empty, its file is removed; otherwise the previous text would stay on the
+// wall.
 GlyphOutcome DrwSourceIMage::Make(HClockNode *node, const QString &key, const GlyphRequest &request)
 {
     GlyphOutcome outcome = DrawAndWrite(request);

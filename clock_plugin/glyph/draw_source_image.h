@@ -25,10 +25,10 @@ struct GlyphRequest;
 /// Use one object per generation.
 ///
 /// Failures are recorded on the node (host/glyph_faults.h). An image that cannot be made or written
-/// leaves an existing file unchanged, and is recorded nevertheless. It cannot be made if it has
-/// width 0, exceeds 32767 pixels per side or 64 MiB, or has a font above 32767 points. The one
-/// exception is a top text of width 0: the file of its plain name is removed, so that a cleared
-/// text no longer shows.
+/// leaves an existing file unchanged, but its path is still recorded on the node. It cannot be made
+/// if it has width 0, exceeds 32767 pixels per side or 64 MiB, or has a font above 32767 points.
+/// The one exception is a top text of width 0: the file of its plain name is removed, so that a
+/// cleared text no longer shows.
 ///
 /// Only changed images are drawn: recently drawn images are cached per process, and a file that
 /// already has the right bytes is not written.
@@ -40,7 +40,7 @@ public:
     DrwSourceIMage();
     ~DrwSourceIMage() override;
 
-    /// Reads type, top text and fonts from the node. Of a clock that is neither analog nor digital
+    /// Reads type, top text and fonts from the node. For a clock that is neither analog nor digital
     /// only the type is read.
     void InitParameters(HClockNode *node);
     /// Writes one text in an image as wide as its advance and as high as its font, and records the
@@ -48,7 +48,7 @@ public:
     /// of 0 or less is 12 points; the colour is as for IntToQColor.
     void DrawImage(HClockNode *node, QString key, QString text, QString id, QString family,
                    int size, int colour, QString fileSuffix);
-    /// Likewise the digits 0 to 9, in ten cells of the widest digit's advance.
+    /// The same for the digits 0 to 9, in ten cells of the widest digit's advance.
     void DrawNumberImage(HClockNode *node, QString key, QString id, QString family, int size,
                          int colour, QString fileSuffix);
     int GetNumberMaxWidth(QFontMetrics metrics); ///< the widest advance among "0" to "9", in pixels
@@ -57,7 +57,7 @@ public:
 public Q_SLOTS:
     /// Writes the node's whole set and records every file on it. With calcMD5 each file gets its
     /// digest name; with isTempUpdate the text images go to the temporary image directory, the
-    /// digit strips to the clock output directory all the same. A picture clock has no set.
+    /// digit strips still go to the clock output directory. A picture clock has no images.
     void DrawClockSourceImage(HClockNode *node, bool calcMD5 = false, bool isTempUpdate = false);
 
 private:
@@ -80,7 +80,7 @@ private:
     Q_DECL_HIDDEN void Record(HClockNode *node, const QString &key, const QString &path);
 
     QScopedPointer<QPainter> m_painter;
-    QScopedPointer<GlyphFace> m_face; ///< used last
+    QScopedPointer<GlyphFace> m_face; ///< the one used last
     FontSettings m_fonts[kGlyphFontCount];
     QString m_topText;
     QString m_typePrefix;

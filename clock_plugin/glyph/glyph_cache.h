@@ -37,13 +37,13 @@ uint qHash(const GlyphContent &content, uint seed);
 /// direction.
 QByteArray FaceOf(const QFont &font);
 
-/// What is known of an image that was drawn.
+/// What is known about an image that was drawn.
 struct GlyphFacts
 {
     qint64 size = 0;   ///< of its file, in bytes
     QByteArray digest; ///< of its file, SHA-1
     bool hasInk = false;
-    QString charactersWithoutGlyph; ///< that no font has
+    QString charactersWithoutGlyph; ///< characters that no installed font has
 };
 
 enum class GlyphState {
@@ -84,10 +84,10 @@ private:
     void FollowApplication();
 
     QPointer<QGuiApplication> m_application;
-    QObject m_listener; // its connections end with the library
+    QObject m_listener; // disconnects when the library is unloaded
     QCache<GlyphContent, GlyphFacts> m_facts;
     QCache<GlyphContent, QByteArray> m_files;
-    std::optional<bool> m_hasFonts; ///< once asked
+    std::optional<bool> m_hasFonts; ///< nullopt until HasFonts() is called
     int m_drawnImages = 0;
 };
 

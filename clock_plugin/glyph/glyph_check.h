@@ -19,15 +19,15 @@ struct GlyphOutcome
     QString text;
     GlyphState state = GlyphState::TooLarge;
     int error = 0;    ///< errno of writing it, or 0
-    GlyphFacts facts; ///< where it was drawn
+    GlyphFacts facts; ///< valid if it was drawn
 };
 
-/// What is wrong with a generated image. For one that the clock does not show, only that it could
-/// not be written.
+/// What is wrong with a generated image; nullopt if nothing is. For an image that the clock does
+/// not show, only a failure to write it is reported.
 std::optional<Lw::GlyphFault> FaultOf(const GlyphImage &image, const GlyphOutcome &outcome,
                                       HClockNode &node);
 
-/// The node's own text; empty for a clock that is neither analog nor digital.
+/// The node's top text; empty for a clock that is neither analog nor digital.
 QString TopTextOf(HClockNode &node);
 
 /// The text of an image: the node's own, that of the table or its translation, or the ten digits.

@@ -23,7 +23,8 @@ QByteArray Sha1(const QByteArray &bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
 }
 
-/// The content of a regular file of that size; null for any other.
+/// The content of a regular file, else null. The size is compared only if it is above kSmall; of
+/// smaller files the caller compares the content.
 QByteArray ReadFileOfSize(const QString &path, qint64 size)
 {
     if (size <= kSmall)

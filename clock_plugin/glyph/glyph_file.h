@@ -11,7 +11,7 @@ QByteArray ReadSmallFile(const QString &path);
 
 /// What a power failure just after writing may do to a file.
 enum class Durability {
-    Ordinary, ///< may damage it; for files that are rewritten and so repaired
+    Ordinary, ///< may damage it; for files that are rewritten anyway
     Synced,   ///< cannot damage it: flushed to disk on return; for files that are never rewritten
 };
 
@@ -19,8 +19,8 @@ enum class Durability {
 bool FileHolds(const QString &path, const QByteArray &bytes);
 bool FileHolds(const QString &path, qint64 size, const QByteArray &digest);
 
-/// Writes an image file atomically: the name never has a half-written image, and a failure leaves
-/// an older file unchanged. Returns 0 or an errno value.
+/// Writes an image file atomically: the name never refers to a half-written image, and a failure
+/// leaves an older file unchanged. Returns 0 or an errno value.
 int WriteImageFile(const QString &path, const QByteArray &bytes, Durability durability);
 
 /// Removes an image file, or a symbolic link in its place (not its target). Anything else of that

@@ -66,8 +66,9 @@ bool CopyWhole(const QString &source, const QString &dest)
     return in.error() == QFile::NoError && out.flush() && out.commit();
 }
 
-/// Renames. True if that succeeded or failed for good; false if a copy is needed: to another file
-/// system, and for the target of a link, as a relative link would break in another directory.
+/// Tries to rename. False if a copy is needed instead: dest is on another file system, or source is
+/// a link (a relative one would break in another directory). True if it succeeded or failed for
+/// good.
 bool IsSettledByRename(const QString &source, const QString &dest)
 {
     if (QFileInfo(source).isSymLink())
@@ -86,7 +87,7 @@ void MoveOver(const QString &source, const QString &dest, const QString &digest)
     if (IsSettledByRename(source, dest))
         return;
     if (QFileInfo(dest).isSymLink())
-        QFile::remove(dest); // the link, not what it leads to
+        QFile::remove(dest); // the link, not its target
     if (CopyWhole(source, dest) && HMD5::FileDigest(dest) == digest)
         QFile::remove(source); // also removes a link
 }

@@ -18,7 +18,7 @@ namespace Lw::HNodeClock {
 /// stroke. An empty family is the application's default font, a size of 0 or less 12 points.
 QFont GlyphTypeface(const QString &family, int points);
 
-/// The advance width of a text in pixels. For a text far too wide for an image, some width that is
+/// The advance width of a text in pixels. A text far too wide for an image gives a width that is
 /// also too wide, but may be less than the real one.
 int GlyphTextWidth(const QFontMetrics &metrics, const QString &text);
 /// The widest advance among "0" to "9", in pixels.
@@ -28,7 +28,7 @@ int WidestDigit(const QFontMetrics &metrics);
 /// or beyond the bounds of glyph images.
 QPixmap EmptyPicture(const QFont &font, int width);
 
-// Each begins the painter on a picture of EmptyPicture(), which must not be null, and draws. The
+// Each begins the painter on a picture from EmptyPicture(), which must not be null, and draws. The
 // painter is still active on return; the caller ends it.
 void BeginText(QPainter &painter, QPixmap &picture, const QFont &font, const QColor &colour,
                const QString &text);

@@ -1,4 +1,5 @@
-// glyph/: how large the glyph images of a clock will be, known from their fonts before any is made.
+// glyph/: how large the glyph images of a clock will be, computed from their fonts before any is
+// drawn.
 #pragma once
 
 #include <QByteArray>
@@ -16,8 +17,8 @@ struct PlannedImage
     QSize size;          ///< pixels
 };
 
-/// The images that a clock makes, hidden ones too, by their keys. Those that are empty or too large
-/// to be made are left out.
+/// The images that a clock generates, hidden ones included, by key. Those that are empty or too
+/// large to be made are left out.
 QHash<QString, PlannedImage> PlannedImages(HClockNode &node);
 
 } // namespace Lw::HNodeClock

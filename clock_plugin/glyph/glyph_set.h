@@ -48,8 +48,8 @@ enum class GlyphShape {
     DigitStrip, ///< the digits 0 to 9 in ten equal cells
 };
 
-// What a strip holds in cells of equal width, which is the width of the strip divided by their
-// number, without remainder.
+// The number of equal cells in a strip. A cell's width is the strip's width divided by this number,
+// rounded down.
 inline constexpr int kDigitCells = 10;    ///< the digits 0 to 9
 inline constexpr int kLabelCells = 3;     ///< of year, month and day, or hour, minute and second
 inline constexpr int kSeparatorCells = 2; ///< comma and slash
@@ -58,7 +58,7 @@ inline constexpr int kLunarCells = 17;
 enum class GlyphWording {
     Verbatim,   ///< drawn as the table has it
     Translated, ///< looked up in the context of DrwSourceIMage
-    TopText,    ///< the node's own text
+    TopText,    ///< the node's top text
 };
 
 /// Which of the node's fonts an image uses.
@@ -78,8 +78,8 @@ struct GlyphRow
     GlyphClocks clocks;
     bool required;   ///< its absence makes a node incomplete
     bool exported;   ///< it is part of an export
-    int generation;  ///< position in generation order; rows at the same position are interleaved by
-                     ///< number
+    int generation;  ///< position in generation order; rows with the same position are sorted
+                     ///< together by number
     int bookkeeping; ///< position in the order of checking and exporting, likewise
     const char *texts[12];
 };
@@ -198,7 +198,7 @@ struct GlyphImage
 
 enum class GlyphOrder { Generation, Bookkeeping };
 
-/// The whole set of a clock of that type, in the order asked for. A type that is neither analog
+/// All images of a clock of this type, in the given order. A type that is neither analog
 /// nor digital has the images common to both.
 QVector<GlyphImage> GlyphImages(GlyphOrder order, int clockType);
 

@@ -37,7 +37,7 @@ constexpr std::uint32_t kSines[kBlockBytes] = {
 };
 // clang-format on
 
-// How far each step of a round rotates; the four repeat.
+// By how many bits each step of a round rotates; the four values repeat.
 constexpr unsigned int kRotations[4][4] = {
     {7, 12, 17, 22}, {5, 9, 14, 20}, {4, 11, 16, 23}, {6, 10, 15, 21}};
 
@@ -91,7 +91,7 @@ bool OpenForReading(QFile &file, const QString &path)
     return !endless && file.open(QFile::ReadOnly);
 }
 
-/// The digest of an open file in lowercase hexadecimal; empty where reading fails on the way.
+/// The digest of an open file in lowercase hexadecimal; empty if reading fails partway.
 QString DigestOfOpenFile(QFile &file)
 {
     HMD5 digest;

@@ -1,4 +1,4 @@
-// glyph/: MD5 digests (RFC 1321) of files, and file names made from them.
+// glyph/: MD5 digests (RFC 1321) of files, and file names formed from them.
 #pragma once
 
 #include "clock_export.h"
@@ -11,9 +11,9 @@ public:
     HMD5();
 
     /// Renames a file, within its directory, to its digest in lowercase hexadecimal, a full stop
-    /// and its old suffix. Returns the new absolute path, or a null text for a file that cannot be
-    /// read. A rename that fails is silent, and both files stay; the usual case is that an
-    /// identical file is there already. Not thread-safe: all calls share one file object.
+    /// and its old suffix. Returns the new absolute path, or a null string for a file that cannot
+    /// be read. A failed rename is not reported and leaves both files in place; usually an
+    /// identical file is already there. Not thread-safe: all calls share one file object.
     static QString GeneratorFile(QString path);
 
     /// The digest of a file as 32 lowercase hexadecimal digits; empty for one that is missing or

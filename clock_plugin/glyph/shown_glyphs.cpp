@@ -15,7 +15,7 @@ using A = Attribute;
 struct ShownRow
 {
     Glyph glyph;
-    std::optional<Attribute> analogFlag; ///< shows the row; nothing where there is no such row
+    std::optional<Attribute> analogFlag; ///< shows the row; nullopt if the clock has no such row
     std::optional<Attribute> digitalFlag;
     std::optional<Attribute> analogFormat; ///< nothing where the image is part of every format
     std::optional<Attribute> digitalFormat;

@@ -1,5 +1,6 @@
 // glyph/: which glyph images a clock shows with its settings. Faults in those of hidden rows and
-// unused formats do not matter.
+// unused formats are not reported, although the label strips also set the height of formats that
+// show no label.
 #pragma once
 
 #include "glyph/glyph_set.h"

@@ -20,7 +20,8 @@ struct Kind
     const char *element;
 };
 
-// The form has no picture clocks: an element without a type gives zone and adjustment.
+// The plugin reads no picture clocks from an element: one without a type gives zone and adjustment,
+// and the attribute ClockType the kind.
 constexpr Kind kKinds[] = {
     {"analog", 0, "<clock type=\"dial\" timezone=\"-05:00\"/>"},
     {"digital", 1, "<clock type=\"digital\" timezone=\"+01:00\"/>"},

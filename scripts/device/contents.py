@@ -12,19 +12,19 @@ LIBRARIES = image.LIBRARIES
 # Besides the packages that programs for 32-bit ARM are built with.
 PACKAGES = ["base-passwd", "busybox-static", "coreutils", "fontconfig-config", "fonts-dejavu-core",
             "linux-image-armmp", "systemd-sysv", "tzdata", "udev"]
-# What the player opens without being linked with it.
+# What the player opens at run time.
 OPENED = [f"{LIBRARIES}/qt5/plugins/platforms/libqlinuxfb.so",
           "usr/share/fonts/truetype/dejavu", "etc/fonts", "usr/share/fontconfig",
           "usr/share/zoneinfo/UTC", "usr/share/zoneinfo/Europe/Berlin"]
 COMMANDS = ["cat", "cp", "dd", "df", "free", "grep", "head", "insmod", "kill", "killall", "ln",
             "logger", "logread", "ls", "mkdir", "mkfifo", "mount", "mv", "pidof", "ps", "rm",
             "setsid", "sh", "sleep", "stty", "syslogd", "wc"]
-DATE = "bin/date"  # of coreutils: it knows times after 2038, which the applet of busybox does not
+DATE = "bin/date"  # coreutils' date, as busybox's cannot set times after 2038
 
 # Programs in the image, of which the first is played.
 FIRST = "usr/share/wall.xml"
 OTHER = "usr/share/other.xml"
-# As large as the sample, so that no part of that may shine through.
+# As large as the sample, so that it covers all of it.
 OTHER_PROGRAM = """<program width="768" height="320">
   <area x="0" y="0" width="768" height="320">
     <clock type="digital" timezone="+08:00">

@@ -10,13 +10,13 @@ from PIL import Image
 import image
 
 
-# Drawn at a time: to start a program in the emulator takes longer than to draw seconds more.
+# Frames drawn per start: starting the emulator takes longer than drawing more frames.
 AT_ONCE = 40
 
 
 class Frames:
-    """Frames of programs in the device's file system. The platform plugins are for programs without a
-    screen, which a device has no use for."""
+    """Frames of programs in the device's file system. The platform plugins are passed
+    separately, as the device does not have the offscreen one."""
 
     def __init__(self, root, platform_plugins, folder):
         self.root = Path(root)

@@ -37,7 +37,7 @@ class Image:
             (self.root / name).mkdir(parents=True)
 
     def add(self, path, links=False):
-        """A file or folder of the packages, under its own path; what links lead to, or the links."""
+        """Adds a file or folder of the packages under its own path, following links unless `links`."""
         source, target = self.source_of(self.path_of([path])), self.root / path
         target.parent.mkdir(parents=True, exist_ok=True)
         if source.is_dir():

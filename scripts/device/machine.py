@@ -9,8 +9,8 @@ from pathlib import Path
 
 from PIL import Image
 
-# Time on the device is counted in instructions, 4 ns each: what it takes does not depend on how busy
-# this machine is.
+# The device's time advances 4 ns per instruction, so that results do not depend on this machine's
+# load.
 ICOUNT = "shift=2,sleep=on"
 
 
@@ -41,7 +41,7 @@ class Machine:
                     "-chardev", f"socket,id=serial,fd={its_serial.fileno()}",
                     "-serial", "chardev:serial"]
         self.serial.settimeout(1)
-        self.heard = b""  # and not yet understood
+        self.heard = b""  # serial output not yet matched
         self.console = open(self.folder / "console.log", "wb")
         with its_monitor, its_serial, open(self.folder / "emulator.log", "w") as log:
             self.process = subprocess.Popen(command, stdout=log, stderr=log,
@@ -97,7 +97,7 @@ class Machine:
         raise Failed(f"nothing like {pattern.decode()!r} on the serial line in {seconds} s")
 
     def run(self, command, seconds=240):
-        """What a command on the device writes."""
+        """Runs a command on the device; gives its output."""
         # The line echoes the input, so the markers are split there and joined only by the shell.
         self.serial.sendall(f"echo be''gin; {command}; echo e''nd\n".encode())
         found = self.listen(rb"begin\r?\n(.*?)end\r?\n", seconds)

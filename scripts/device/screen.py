@@ -1,4 +1,4 @@
-"""Holds a device's screen against the frames of its program."""
+"""Compares a device's screen with the frames of its program."""
 
 import time
 
@@ -6,8 +6,8 @@ from PIL import ImageChops
 
 from machine import Failed
 
-# Part of a second of the device's clock after which the screen shows that second: drawing takes up to
-# a tenth, and the framebuffer is brought to the screen twenty times a second.
+# Part of a second of the device's clock after which the screen shows that second: drawing takes up
+# to a tenth, and the framebuffer is brought to the screen twenty times a second.
 SHOWN_AFTER = 0.35
 SETTLE_SECONDS = 600  # on a machine that is busy with something else
 NOTICE_COLOURS = {(0, 0, 64), (255, 255, 255)}  # player/notice.cpp
@@ -45,7 +45,7 @@ class Screen:
         return not ImageChops.difference(picture, frame).getbbox(), picture, frame
 
     def await_right(self, program):
-        """Until the screen is as it must be; then the uptime of the device, in seconds."""
+        """Waits until the screen is right; gives the device's uptime in seconds."""
         end = time.monotonic() + SETTLE_SECONDS
         while time.monotonic() < end:
             is_right, picture, frame = self.compare(program)
@@ -54,7 +54,7 @@ class Screen:
         raise self.wrong(f"the screen does not show {program}", picture, frame)
 
     def expect_right(self, program, count):
-        """In so many samples."""
+        """Checks that the screen is right in `count` samples."""
         for sample in range(count):
             is_right, picture, frame = self.compare(program)
             if not is_right:

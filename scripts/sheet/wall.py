@@ -98,7 +98,7 @@ class Wall:
         self._y += HEADING_HEIGHT
 
     def samples(self, *samples):
-        """Rows of (label, width, height, attributes), all in cells of the widest and highest."""
+        """Rows of (label, width, height, attributes), all in cells as large as the largest sample."""
         width = max(sample[1] for sample in samples) + GAP
         height = max(sample[2] for sample in samples)
         a_row = (WIDTH - MARGIN) // width

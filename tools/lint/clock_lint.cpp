@@ -243,7 +243,7 @@ private:
     Findings &m_findings;
     HClockNode m_node;
     bool m_understood = false;
-    int m_kind = AnalogClock; // that the element names
+    int m_kind = AnalogClock; // the kind that the element names
     int m_type = AnalogClock; // by which it is read
     QSet<QString> m_present;
     QSet<QString> m_seen;

@@ -24,8 +24,8 @@ QStringList AttributesRead(int clockType, const QString &element);
 /// How an attribute is read; empty when it is not.
 QVector<Reading> ReadingsOf(int clockType, const QString &element, const QString &attribute);
 
-/// The attribute that is read where the exported form of a clock writes this one, which is not
-/// read: "format" for the "value" of a "date". Empty for all others.
+/// The attribute to write instead of one that an export writes and the import ignores:
+/// "format" for the "value" of a "date". Empty for all others.
 QString ReadInPlaceOf(int clockType, const QString &element, const QString &attribute);
 
 /// The element that is read instead of this one where both are present; empty for most.

@@ -132,7 +132,7 @@ private:
         }
     }
 
-    // Of a clock that is partly off the screen, what of its texts is cut is said already.
+    // The cut texts of a clock that is partly off the screen have been reported already.
     void CheckWall()
     {
         const WallFindings found = ClockFit::CheckWall(m_check, m_clocks, m_program.size);

@@ -48,7 +48,7 @@ QString QuotedText(const QString &text)
         line.size() > kLongest ? line.left(kLongest) + QStringLiteral("...") : line);
 }
 
-// ", as "Wednesday""; nothing for parts without a text.
+// ` as "Wednesday"`; empty for parts without a text.
 QString As(const QString &text)
 {
     return text.isEmpty() ? QString() : QStringLiteral(" as %1").arg(QuotedText(text));

@@ -8,8 +8,9 @@
 
 namespace ClockTool {
 
-/// Looks at the files that clocks carry, and of the other clocks at the images that would be made.
-/// None is made for it. Changes the paths of the files recorded on the nodes.
+/// Checks the files that clocks bring along, and for other clocks the sizes of the images they
+/// would need; draws none. Changes the paths of the files recorded on the
+/// nodes.
 void LintGlyphs(const ClockProgram::Program &program, const ClockProgram::MadeNodes &made,
                 Findings &findings);
 

@@ -61,7 +61,7 @@ void CheckWord(const QDomElement &clock, int readKind, Findings &findings)
         WordOf(readKind));
 }
 
-/// A picture clock is read as one of another kind, and needs nothing of it.
+/// A picture clock is read as another kind, but shows none of that.
 void CheckSetting(const QDomElement &clock, int readKind, int shownKind, Findings &findings)
 {
     if (shownKind == readKind || shownKind == PictureClock || WordOf(shownKind).isEmpty())

@@ -1,15 +1,15 @@
-// Reports kinds of clocks that cannot be read, or that contradict each other.
+// tools/lint/: reports kinds of clocks that cannot be read, or that contradict each other.
 #pragma once
 
 #include "finding.h"
 
 namespace ClockTool {
 
-/// The kind that the word of an element was to name, so that its children are judged by it; -1
+/// The kind that a misspelt type was probably meant to name, by which the children are checked; -1
 /// where it is near none.
 int MeantKind(const QDomElement &clock);
 
-/// For a kind that no clock has.
+/// Reports a kind that does not exist.
 void LintUnreadKind(const QDomElement &clock, Findings &findings);
 
 /// The kind by which an element is read, and that which its "attribute" children leave the clock

@@ -12,7 +12,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// The rule an hour earlier on its day; empty where that is another day.
+/// The rule one hour earlier on the same day; empty if that falls on the day before.
 QString HourEarlier(const QString &text)
 {
     const auto rule = ParseDaylightRule(text);

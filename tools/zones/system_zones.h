@@ -42,7 +42,7 @@ bool HasZoneData(const QList<QByteArray> &names);
 /// A zone's civil time over a span; nothing for a name that the system does not know.
 std::optional<CivilTime> CivilTimeOf(const QByteArray &zone, const Span &span);
 
-/// The zone that an unknown name may be meant for: a city without its continent, one that
+/// The zone that an unknown name probably means: a city without its continent, one that
 /// shares the zone of another city, or a typing error. Empty when there is none.
 QString NearestZone(const QString &name);
 

@@ -14,7 +14,7 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr int kMaxRun = 255; // a byte counts them
+constexpr int kMaxRun = 255; // a run's length is stored in one byte
 
 // The four bytes of a pixel, spread so that products with a byte do not overlap.
 constexpr quint64 kBytes = 0x00ff00ff00ff00ff;
@@ -29,7 +29,7 @@ constexpr QRgb Joined(quint64 spread)
     return static_cast<QRgb>(spread | spread >> 24);
 }
 
-// Each byte times a / 255, as painters round it: with t = byte * a, (t + t / 256 + 128) / 256.
+// Each byte times a / 255, rounded as QPainter does: with t = byte * a, (t + t / 256 + 128) / 256.
 constexpr quint64 Times(quint64 spread, quint32 a)
 {
     const quint64 t = spread * a;
@@ -47,8 +47,8 @@ Value Load(const char *from)
 // The inks: what is stored per pixel, and how it blends onto an opaque pixel. A solid pixel hides
 // what is below it.
 
-// A plain colour by its antialiasing: with source = colour * coverage / 255,
-// result = source + below * (255 - coverage) / 255.
+// One colour with the coverage of each pixel by antialiasing: with source = colour * coverage /
+// 255, result = source + below * (255 - coverage) / 255.
 struct ColourInk
 {
     using Soft = quint8;

@@ -1,6 +1,6 @@
-// display/frames/: a shape that is painted once and then only blended: a hand that stays for a
-// minute, one of the sixty positions of a second hand, the centre cap. Antialiasing a hand, or
-// rotating a picture, costs ten to twenty times as much as blending the result.
+// display/frames/: a shape that is painted once and then only blended: a hand that does not move
+// for a minute, one of the sixty positions of a second hand, the centre cap. Antialiasing a hand,
+// or rotating a picture, costs ten to twenty times as much as blending the result.
 //
 // It stores what painting adds to a transparent background, so it can be blended over whatever is
 // below. The formulas in cached_shape.cpp are bit-exact with QPainter.
@@ -29,7 +29,8 @@ public:
     /// The shape of one opaque colour painted at the top left of a premultiplied image, covering
     /// `box` in the frame.
     static CachedShape OfColour(const QImage &painted, const QRect &box, const QColor &colour);
-    /// The pixels of a box in an image of PictureFormat(), and in the frame.
+    /// The pixels in `box` of an image in PictureFormat(); the box has the same position in the
+    /// frame.
     static CachedShape OfPicture(const QImage &painted, const QRect &box);
     /// The frame's pixels under this shape as a new shape that needs no blending; valid as long as
     /// the content below does not change.
@@ -37,7 +38,7 @@ public:
 
     /// The format in which rotated pictures are painted for OfPicture(): the one in which QPainter
     /// blends such pictures onto ARGB32, which depends on how Qt was built. Format_Invalid if the
-    /// formulas do not match this Qt: then nothing can be cached.
+    /// formulas do not match this build of Qt: pictures cannot be cached then.
     static QImage::Format PictureFormat();
 
     bool IsMade() const { return m_kind != Kind::None; }
@@ -63,7 +64,7 @@ private:
 };
 
 /// Paints a picture exactly as on the frame and stores it. The painter passed to paint() uses frame
-/// coordinates; the picture must stay within the box. (Painted with an offset onto a small image,
+/// coordinates; the picture is clipped to the box. (Painted with an offset onto a small image,
 /// some pixels would round differently.)
 CachedShape CachePicture(const QRect &box, const std::function<void(QPainter &)> &paint);
 

@@ -18,12 +18,12 @@ class FrameContents
 {
 public:
     bool Describes(const QImage &image, const Placements &placements) const;
-    /// Makes the image show the placements on the background and nothing else. It must be detached.
-    /// Parts that are known to be unchanged are not redrawn.
+    /// Makes the image, which must be detached, show the placements on the background and nothing
+    /// else. Parts that are known to be unchanged are not redrawn.
     void Draw(QImage &image, const Placements &placements, const QColor &background);
 
-    /// Where an image with these contents may differ from an earlier one with the contents given;
-    /// nullopt if either image is unknown.
+    /// Where an image with these contents may differ from an earlier one with the contents
+    /// `before`; nullopt if either image is unknown.
     std::optional<QRegion> ChangesSince(const FrameContents &before, const QImage &image,
                                         const QImage &imageBefore) const;
 

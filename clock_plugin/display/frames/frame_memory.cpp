@@ -9,8 +9,8 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-// All bytes are written through one pointer: the frame is not shared, so nothing is copied, and its
-// key changes once.
+// All bytes are written through one pointer obtained once: the frame is not shared, so bits() does
+// not detach it, and its cache key changes only once.
 void CopyRegion(const QImage &source, const QPoint &place, const QRegion &region, uchar *target,
                 int targetLine)
 {

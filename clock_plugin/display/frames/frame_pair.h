@@ -15,7 +15,7 @@ class FramePair
 public:
     /// The background colour, which hosts treat as transparent.
     static QColor KeyColour();
-    /// Whether an image of that size can be drawn at all: within the bounds of frames.
+    /// Whether a frame of this size is allowed: not empty and within kFrameBytes.
     static bool Drawable(const QSize &size);
     /// A new image of the frames' format filled with the key colour; null where not drawable.
     static QImage NewImage(const QSize &size);

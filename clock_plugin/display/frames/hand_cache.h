@@ -23,15 +23,15 @@ public:
     /// Everything the shapes depend on except the position.
     using CacheKey = QVarLengthArray<qint64, 32>;
 
-    /// A hand that has one position for each key.
+    /// For a shape with a single position per key.
     HandCache() = default;
     explicit HandCache(int positions) : m_positions(positions) { }
     bool HasPositions() const { return m_positions > 1; }
 
     /// The shape at a position, from 0. If it is not cached yet it is created by paint(), which
-    /// returns a CachedShape. Null if it could not be made, if the shapes cached so far take more
-    /// bytes than the limit, and for other positions: the hand must then be painted. Valid until
-    /// the next call.
+    /// returns a CachedShape. Null for other positions, if it could not be created, or if it is
+    /// not cached yet and the others already take more bytes than the limit: the hand must then be
+    /// painted. Valid until the next call.
     template<typename Paint>
     const CachedShape *At(const CacheKey &key, int position, qint64 limit, Paint paint)
     {
@@ -59,7 +59,7 @@ private:
     int m_positions = 1;
     CacheKey m_key;
     qint64 m_bytes = 0;
-    std::vector<CachedShape> m_shapes; // none before the first, for clocks of other kinds
+    std::vector<CachedShape> m_shapes; // allocated with the first shape
 };
 
 } // namespace Lw::HNodeClock

@@ -46,9 +46,9 @@ public:
     using Rects = QVarLengthArray<QRect, 32>;
 
     bool Match(const Placements &placements) const;
-    /// Remembers these instead, and returns all rectangles in which they differ.
+    /// Replaces the remembered placements and returns the rectangles in which old and new differ.
     Rects Replace(const Placements &placements);
-    /// All rectangles in which these look different from others.
+    /// The rectangles in which these placements differ from `before`.
     Rects ChangesSince(const ShownPlacements &before) const;
 
 private:

@@ -16,7 +16,7 @@ constexpr int kRowsAtOnce = 16;
 
 constexpr int kPixelBytes = 4;
 
-// A real coordinate as a whole one between 0 and a limit.
+// Truncates a coordinate to an integer, clamped to 0 and a limit.
 int Clamped(double value, int limit)
 {
     return static_cast<int>(std::clamp(value, 0.0, static_cast<double>(limit)));

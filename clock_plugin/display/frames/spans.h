@@ -33,7 +33,7 @@ public:
     /// Removes all rows; the next row added is row `top`. Keeps the memory if it is not shared.
     void Clear(int top);
     void AddRow(int left, int right);
-    /// What painting a polygon onto an image of this size may change.
+    /// Sets the spans to the pixels that painting a polygon onto an image of this size may change.
     void Set(const QPolygonF &outline, const QSize &image);
 
     bool IsEmpty() const { return m_rows.isEmpty(); }
@@ -47,9 +47,9 @@ public:
     }
     /// A region of few rectangles that contains the spans.
     QRegion Region() const;
-    /// Copies these pixels, as far as they are inside the source, from an image of the same format,
-    /// 32 bits per pixel, whose top left is at `place` in the target. `target` is the target's
-    /// first byte.
+    /// Copies the spans' pixels that are inside `source`, an image of the target's format with 32
+    /// bits per pixel, whose top left is at `place` in the target. `target` is the target's first
+    /// byte, `targetLine` its bytes per line.
     void Copy(const QImage &source, const QPoint &place, uchar *target, int targetLine) const;
 
 private:

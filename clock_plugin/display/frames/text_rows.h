@@ -1,5 +1,5 @@
-// display/frames/: paints text rows onto a kept picture (the dial) every second, over what is
-// there.
+// display/frames/: paints text rows onto a retained picture (the dial) every second, on top of what
+// it already shows.
 //
 // Each painting makes a translucent row a little denser, until nothing changes any more. From then
 // on (for opaque rows immediately) the same rows are not repainted.
@@ -15,8 +15,8 @@ namespace Lw::HNodeClock {
 class TextRows
 {
 public:
-    /// Paints the rows in their order and returns where the picture changed. Empty rows and a null
-    /// picture are left out.
+    /// Paints the rows in their order and returns where the picture changed. Empty rows are
+    /// skipped; a null picture is left alone.
     QRegion Paint(QImage &picture, const Placements &rows);
 
 private:
