@@ -22,7 +22,7 @@ public:
     ~HNodeClock() override;
 
     bool PluginMatch(QDomElement &element) override; ///< whether the tag is "clock"
-    int level() override;                            ///< 4
+    int level() override;                            ///< the precedence among plugins: 4
     QString type() override;                         ///< kNodeType
     Lw::HNode *Create() override; ///< a clock node without attributes; the caller owns it
     using INodePlugin::Create;

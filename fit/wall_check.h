@@ -32,7 +32,7 @@ struct ClockOverlap
 {
     int lower = 0; ///< clocks, counted from 0
     int upper = 0;
-    Part lowerPart = Part::TopText; ///< the parts with most ink in common
+    Part lowerPart = Part::TopText; ///< the pair with most ink in common on its first day
     Part upperPart = Part::TopText;
     int pixels = 0;
     qint64 firstDay = 0;    ///< beginning of the first day of the overlap, UTC milliseconds

@@ -14,8 +14,8 @@ struct Year
     qint64 end = 0;
 };
 
-/// The year from an instant to the same date and time a calendar year later, UTC. Instants outside
-/// the years 1 to 9999 give the nearest year within.
+/// The year from an instant to the same date and time a calendar year later, UTC. It is moved to
+/// begin between 0001-01-02 and 9998-12-01.
 Year YearFrom(qint64 utcMilliseconds);
 
 /// A stretch of one displayed date and one lunar date, without a change of the clock's offset.

@@ -69,7 +69,7 @@ private:
     std::optional<SeenFrame> m_drawn; ///< on its way to the display
     ClockStage::ClockSteps m_clockSteps;
     ClockStage::ZoneMemory m_zoneMemory;
-    QVector<Lw::HNodeClock::ZoneSettings> m_clocks; ///< of the stage; they stay as it began
+    QVector<Lw::HNodeClock::ZoneSettings> m_clocks; ///< as they were when the stage began to play
     QElapsedTimer m_sinceTitle;
     int m_clock = 0; ///< shown in the status, from 0; modulo the number of clocks
     bool m_showsStatus = false;

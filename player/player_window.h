@@ -68,7 +68,7 @@ private:
     std::optional<Notice> m_notice;
     WallView m_view;
     bool m_isAlone = false;
-    QImage m_screen; ///< composed apart where its pixels are not the window's; else null
+    QImage m_screen; ///< null if it can be composed into the window directly
     QString m_overlay;
 };
 

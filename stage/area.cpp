@@ -64,7 +64,7 @@ void Area::Restart()
 
 void Area::RestartOnRequest()
 {
-    const QPointer<Area> guarded(this); // who is shown the first picture may delete this area
+    const QPointer<Area> guarded(this); // a slot may delete this area
     Restart();
     if (guarded && m_node)
         emit Restarted(m_node);

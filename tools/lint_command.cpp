@@ -84,7 +84,7 @@ void LintClocks(const QDomDocument &document, const QString &path, const Choices
         return LintAreas(*program, findings);
     LintGlyphs(*program, *made, findings);
     const bool isLarge =
-        ClockProgram::CheckFrameBytes(*program).has_value(); // which is found already
+        ClockProgram::CheckFrameBytes(*program).has_value(); // which LintProgram() reports
     if (choices.year && (!isLarge || choices.allowsLargeFrames))
         LintFit(*program, *made, *choices.year, findings);
     else

@@ -17,9 +17,9 @@ namespace Lw::HNodeClock {
 
 class ElementComposer;
 
-/// Zone, adjustment, week code, date code and images are taken at set-up (InitParameters);
-/// everything else is read from the node at each call. All pixmaps are null before set-up, and
-/// where an image is missing.
+/// Zone, adjustment, week code, date code and images are read by InitParameters(); everything else
+/// is read from the node at each call. All pixmaps are null before InitParameters(), and where an
+/// image is missing.
 class CLOCK_EXPORT DrawClockClassifyImage : public QObject
 {
     Q_OBJECT

@@ -34,8 +34,8 @@ enum TimeType {
 /// for formats that show no label.
 Element DateElement(const ClockGlyphs &glyphs, int dateType, int year, int month, int day);
 
-/// The digits of the time followed by the AM/PM mark (null for none); empty if the time itself has
-/// no width.
+/// The time followed by the AM/PM mark, which may be null; empty if the time itself has no
+/// width.
 Element TimeElement(const ClockGlyphs &glyphs, int timeType, int hour, int minute, int second,
                     const GlyphStrip &mark);
 

@@ -64,7 +64,7 @@ Clock MakeClock(const Kind &kind)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_FONT_DPI", "96");            // a point is as many pixels on every display
+    qputenv("QT_FONT_DPI", "96");            // the same number of pixels per point everywhere
     QGuiApplication application(argc, argv); // fonts and images need it
     if (argc != 4)                           // Qt's own options are taken out now
         return Fail("usage: small_host PLUGIN.so GLYPH-DIRECTORY FRAME-DIRECTORY");

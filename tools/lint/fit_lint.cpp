@@ -64,7 +64,7 @@ private:
     {
         const QRect visible = VisibleOf(m_clocks[m_index].area, m_program.size);
         if (visible.isEmpty())
-            return; // nothing of it is on the screen, which is said of the wall
+            return; // off the screen, which CheckWall() reports
         const ClockFindings found = m_check.Check(Node(), visible);
         TellCuts(found.cuts, visible);
         TellClipped(found.clipped, visible);

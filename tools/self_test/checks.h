@@ -16,8 +16,8 @@ struct CheckResult
     QString why; ///< empty if the check passed
 };
 
-/// The lunar calendar on every day that it has, the Persian one on every day up to 2060, and its
-/// leap years.
+/// The lunar calendar on every day that it has, the Persian one on every day up to 20 March
+/// 2061, and its leap years.
 QVector<CheckResult> CheckCalendars();
 
 /// Daylight saving a second before and at changes that have happened.

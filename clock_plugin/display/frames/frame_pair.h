@@ -1,5 +1,5 @@
-// display/frames/: double buffering: two frames drawn alternately, so that a consumer that holds
-// the last one causes no copy.
+// display/frames/: double buffering: two frames drawn alternately, so that drawing need not copy a
+// frame that a consumer still holds.
 #pragma once
 
 #include <QColor>
