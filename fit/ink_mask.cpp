@@ -38,7 +38,7 @@ QRect SourceOf(const Piece &piece, const Element &element)
 
 InkMask::InkMask(const QRect &box) : m_box(box), m_words(WordsFor(box.width()))
 {
-    // One spare word for two-word loads.
+    // One spare word behind the last row.
     if (!box.isEmpty())
         m_bits.resize(m_words * box.height() + 1);
 }

@@ -18,8 +18,8 @@ struct SettingPlace
 };
 
 /// The place that takes effect: the last "attribute" child with the key, else the last element
-/// whose XML attribute is read into it. The kind is 0 analog or 1 digital. Where nothing sets it,
-/// the clock.
+/// whose XML attribute is read into it; an import takes the first of each name. The kind is 0
+/// analog or 1 digital. Where nothing sets it, the clock.
 SettingPlace PlaceOf(const QDomElement &clock, int clockType, Lw::HNodeClock::Attribute attribute);
 
 /// The same as a finding's place: an "attribute" child is named by its key.
