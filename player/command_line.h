@@ -22,7 +22,7 @@ constexpr int kMaximumSpeed = 100000;
 struct Options
 {
     QString programPath;
-    QString pluginDirectory; ///< empty: beside the program
+    QString pluginDirectory; ///< empty: plugins/ beside the program's directory
     QString filesDirectory;  ///< for the glyph files; empty: a temporary one
     QString outputDirectory; ///< for the frames; empty: play on the display
     QString language;        ///< empty: the locale's

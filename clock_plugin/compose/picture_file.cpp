@@ -81,9 +81,8 @@ QImage ReadPng(QIODevice &png)
     return ReadWithinBounds(reader);
 }
 
-/// Opens without blocking on a FIFO and then checks the open file, Opens without blocking on a
-/// FIFO, then checks the opened file, because the path may meanwhile name another one. A file of
-/// size 0 may be endless, as in /proc.
+/// Opens without blocking on a FIFO, then checks the opened file, because the path may meanwhile
+/// name another one. A file of size 0 may be endless, as in /proc.
 bool OpenRegular(QFile &file, const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);

@@ -56,7 +56,7 @@ private:
     QSize m_size {0, 0};
 };
 
-/// The picture in a file; null under the conditions described at PictureFile, or if damaged.
+/// The picture in a file; null under the conditions described at PictureFile, or if it is damaged.
 QImage ReadImageFile(const QString &path);
 QPixmap ReadPixmapFile(const QString &path);
 

@@ -1,5 +1,5 @@
 // compose/: inspects PNG files without decoding them: finds the chunks that affect the pixels, the
-// picture's size and its pixel format and their pixel format.
+// picture's size and its pixel format.
 #pragma once
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
-// display/: paints the parts of an analog clock: marks, numerals, hands. Unless
-// stated otherwise, painters must be active with their origin at the centre of the clock, and their
-// state is restored.
+// display/: paints the parts of an analog clock: marks, numerals, hands. Unless stated
+// otherwise, painters must be active with their origin at the centre of the clock, and their state
+// is restored.
 #pragma once
 
 #include "display/analog_geometry.h"

@@ -23,8 +23,7 @@ class FrameMemory
 public:
     /// Restores the background, with its top left at `place`, and the key colour around it: by
     /// copying what differs if the frame is known, all of it if not. Hands have to stay within
-    /// the background. Does nothing if either image is null or
-    /// their formats differ.
+    /// the background. Does nothing if either image is null or their formats differ.
     void Restore(QImage &frame, const QImage &background, const QPoint &place = QPoint());
 
     /// Exists while hands are painted onto a frame. An unknown frame stays unknown.
