@@ -9,8 +9,7 @@
 namespace ClockTool {
 
 /// Checks the files that clocks bring along, and for other clocks the sizes of the images they
-/// would need; draws none. Changes the paths of the files recorded on the
-/// nodes.
+/// would need; draws none. Changes the paths of the files recorded on the nodes.
 void LintGlyphs(const ClockProgram::Program &program, const ClockProgram::MadeNodes &made,
                 Findings &findings);
 
