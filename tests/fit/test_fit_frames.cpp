@@ -122,7 +122,9 @@ private:
                 return clipped.part == part && utc >= clipped.first.utc;
             };
             const auto &all = m_findings.clipped;
-            if (lost < 0 || (lost > 0 && std::none_of(all.cbegin(), all.cend(), said)))
+            const int unsteady = m_whole.Unsteadiness(part, utc);
+            if (lost < -unsteady
+                || (lost > unsteady && std::none_of(all.cbegin(), all.cend(), said)))
                 Fault(QStringLiteral("%1 px of the %2 are not in its images")
                           .arg(lost)
                           .arg(NameOf(part)),
@@ -140,11 +142,12 @@ private:
         if (!WholeTexts::Tells(clipped.part))
             return;
         for (const qint64 utc : {clipped.first.utc, clipped.worst.utc}) {
-            if (LostAt(clipped.part, utc) <= 0)
+            if (LostAt(clipped.part, utc) + m_whole.Unsteadiness(clipped.part, utc) <= 0)
                 Fault(NameOf(clipped.part) + " is not clipped", utc);
         }
         const qint64 before = clipped.first.utc - kSecond;
-        if (before >= m_year.begin && LostAt(clipped.part, before) > 0)
+        if (before >= m_year.begin
+            && LostAt(clipped.part, before) > m_whole.Unsteadiness(clipped.part, before))
             Fault(NameOf(clipped.part) + " is clipped before", before);
     }
 

@@ -7,6 +7,8 @@
 #include <QFontMetrics>
 #include <QPainter>
 
+#include <algorithm>
+
 using namespace ClockFit;
 using namespace Lw::HNodeClock;
 using A = Attribute;
@@ -143,13 +145,18 @@ QStringList WholeTexts::Pieces(Part part) const
     }
 }
 
-int WholeTexts::Ink(Part part, qint64 utc)
+void WholeTexts::ReadAt(qint64 utc)
 {
     const HeldInstant then(utc);
     ClockReading reading;
     reading.SetUp(m_node);
     reading.Update(&m_node);
     m_shown = reading.Fields();
+}
+
+int WholeTexts::Ink(Part part, qint64 utc)
+{
+    ReadAt(utc);
     const QFont font = FontOf(m_node, part);
     int ink = 0;
     for (const QString &piece : Pieces(part)) {
@@ -159,4 +166,18 @@ int WholeTexts::Ink(Part part, qint64 utc)
         ink += m_known[key];
     }
     return ink;
+}
+
+int WholeTexts::Unsteadiness(Part part, qint64 utc)
+{
+    constexpr int kPixelsOfAPiece = 2;
+    ReadAt(utc);
+    const bool isUnsteady = FontOf(m_node, part).family().startsWith(QLatin1String("WenQuanYi"));
+    int pixels = 0;
+    for (const QString &piece : Pieces(part)) {
+        const bool isLatin = std::all_of(piece.cbegin(), piece.cend(),
+                                         [](QChar letter) { return letter.unicode() < 0x100; });
+        pixels += isUnsteady || !isLatin ? kPixelsOfAPiece : 0;
+    }
+    return pixels;
 }

@@ -15,8 +15,13 @@ public:
     static bool Tells(ClockFit::Part part);
     /// Pixels of ink of a part that is shown at an instant.
     int Ink(ClockFit::Part part, qint64 utc);
+    /// By how many pixels that may differ from one drawing to the next: how FreeType fits the
+    /// outlines of WenQuanYi Micro Hei to pixels depends on what it drew before, other sizes
+    /// included. Other families are steady; characters that they lack are taken from that one.
+    int Unsteadiness(ClockFit::Part part, qint64 utc);
 
 private:
+    void ReadAt(qint64 utc);
     QStringList Pieces(ClockFit::Part part) const;
     QStringList Date() const;
     QStringList Time() const;
