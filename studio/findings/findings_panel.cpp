@@ -21,7 +21,7 @@ constexpr int kDelay = 400;
 
 FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
     : QWidget(parent), m_editor(editor), m_list(new QListWidget),
-      m_mend(new QPushButton(tr("Mend"))), m_none(new QLabel(tr("No findings.")))
+      m_mend(new QPushButton(tr("Mend"))), m_none(new QLabel)
 {
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 6, 8, 6);
@@ -74,6 +74,8 @@ void FindingsPanel::List(const QVector<ClockTool::Finding> &findings)
     for (const ClockTool::Finding &finding : qAsConst(m_findings))
         Add(finding);
     m_list->setVisible(!m_findings.isEmpty());
+    m_none->setText(m_editor.Document().Reading() ? tr("No findings.")
+                                                  : tr("The text is not a valid program."));
     m_none->setVisible(m_findings.isEmpty());
     m_mend->setVisible(!m_findings.isEmpty());
     m_mend->setEnabled(false);

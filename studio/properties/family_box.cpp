@@ -112,6 +112,7 @@ FamilyBox::FamilyBox()
         addItem(family, family);
         setItemData(count() - 1, QFont(family, 11), Qt::FontRole);
     }
+    m_installedEnd = count();
     connect(this, QOverload<int>::of(&QComboBox::activated), this,
             [this](int index) { emit Chosen(itemData(index).toString()); });
 }
@@ -135,7 +136,7 @@ void FamilyBox::showPopup()
 
 void FamilyBox::MarkLacking()
 {
-    for (int i = 1; i < count(); ++i) {
+    for (int i = 1; i < m_installedEnd; ++i) {
         const QString family = itemData(i).toString();
         const QString lacked = LackedCharacters(family, m_text);
         setItemText(i,

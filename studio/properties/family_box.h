@@ -33,6 +33,7 @@ private:
     void MarkLacking();
 
     QString m_text;
+    int m_installedEnd = 0; ///< entries from here on are families that are not installed
 };
 
 /// The distinct characters of a text that a family has no glyph for.

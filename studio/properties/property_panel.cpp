@@ -353,7 +353,9 @@ void PropertyPanel::FitSizes()
         const QRect geometry = reading.Geometry(area);
         const QRect visible =
             (geometry & QRect(QPoint(), m_editor.Wall().Size())).translated(-geometry.topLeft());
-        return clock ? ValueEdits(reading, area, FittingSizes(*clock, visible)) : TextEdits();
+        if (!clock || visible.isEmpty())
+            return TextEdits();
+        return ValueEdits(reading, area, FittingSizes(*clock, visible));
     });
 }
 

@@ -6,6 +6,7 @@
 
 #include "catalogues.h"
 
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -39,6 +40,12 @@ struct FindingsUnderTest
         panel.show();
     }
 
+    /// What is written instead of a list.
+    QString Note() const
+    {
+        const auto *const note = panel.findChild<QLabel *>();
+        return note->isVisible() ? note->text() : QString();
+    }
     int RowWith(const QString &word) const
     {
         const auto &findings = panel.Findings();
@@ -102,6 +109,11 @@ void TestFindings::brokenTextHasNone()
     test.studio.document.Change({{0, "<", ""}}, "typing");
     test.panel.CheckAll();
     QCOMPARE(test.panel.Findings().size(), 0);
+    QCOMPARE(test.Note(), QString("The text is not a valid program."));
+    test.studio.document.History().undo();
+    test.studio.document.Load(QByteArray("<program width=\"8\" height=\"8\"/>"));
+    test.panel.CheckAll();
+    QCOMPARE(test.Note(), QString("No findings."));
 }
 
 // What was found in a text that is no longer there is not listed.

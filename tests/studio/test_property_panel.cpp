@@ -3,6 +3,7 @@
 #include "studio_under_test.h"
 
 #include "editing/value_edits.h"
+#include "properties/family_box.h"
 #include "properties/property_groups.h"
 #include "properties/property_panel.h"
 #include "properties/value_editor.h"
@@ -205,6 +206,8 @@ private slots:
     void setsAdjustment();
     void setsZone();
     void setsSeveralClocks();
+    void offTheWallIsNotFitted();
+    void lackingFamilyStaysMarked();
     void brokenTextCannotBeSet();
     void wheelScrollsThePanel();
 
@@ -423,6 +426,30 @@ void TestPropertyPanel::setsSeveralClocks()
                  QString("11"));
     QCOMPARE(test.studio.document.History().count(), 1);
     QCOMPARE(size->value(), 11);
+}
+
+// Nothing of such a clock can be seen, so no size fits.
+void TestPropertyPanel::offTheWallIsNotFitted()
+{
+    for (const char *x : {"0", "300"}) {
+        PanelUnderTest test(
+            Everything(DigitalClock).replace("x=\"0\"", QByteArray("x=\"") + x + '"'));
+        const QString text = test.studio.document.Text();
+        test.panel.FitSizes();
+        QCOMPARE(test.studio.document.Text() == text, QByteArray(x) == "300");
+    }
+}
+
+void TestPropertyPanel::lackingFamilyStaysMarked()
+{
+    FamilyBox box;
+    box.Show("No Such Family", false);
+    const QString marked = box.currentText();
+    QVERIFY2(marked.contains("not installed"), qPrintable(marked));
+    box.show();
+    box.showPopup();
+    box.hidePopup();
+    QCOMPARE(box.currentText(), marked);
 }
 
 void TestPropertyPanel::brokenTextCannotBeSet()
