@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -46,6 +47,13 @@ QPixmap Card(const QImage &wall)
     return card;
 }
 
+/// Whether a click activates items, as some desktops do.
+bool ActivatesOnClick(const QListWidget &list)
+{
+    return list.style()->styleHint(QStyle::SH_ItemView_ActivateItemOnSingleClick, nullptr, &list)
+        != 0;
+}
+
 /// Calls the handler with an item's data when the item is clicked or activated.
 template<typename Handler>
 void WhenChosen(QListWidget &list, const Handler &handler)
@@ -54,7 +62,10 @@ void WhenChosen(QListWidget &list, const Handler &handler)
         handler(item->data(Qt::UserRole).toString());
     };
     QObject::connect(&list, &QListWidget::itemActivated, &list, chosen);
-    QObject::connect(&list, &QListWidget::itemClicked, &list, chosen);
+    QObject::connect(&list, &QListWidget::itemClicked, &list, [&list, chosen](auto *item) {
+        if (!ActivatesOnClick(list))
+            chosen(item);
+    });
 }
 
 } // namespace

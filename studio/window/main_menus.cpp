@@ -111,12 +111,12 @@ void MainWindow::FillRecent(QMenu &menu)
 void MainWindow::MakeEditMenu()
 {
     QMenu *const menu = menuBar()->addMenu(tr("&Edit"));
-    QAction *const undo = m_document.History().createUndoAction(this, tr("&Undo"));
-    QAction *const redo = m_document.History().createRedoAction(this, tr("&Redo"));
-    undo->setShortcuts(QKeySequence::Undo);
-    redo->setShortcuts(QKeySequence::Redo);
-    menu->addAction(undo);
-    menu->addAction(redo);
+    m_undo = m_document.History().createUndoAction(this, tr("&Undo"));
+    m_redo = m_document.History().createRedoAction(this, tr("&Redo"));
+    m_undo->setShortcuts(QKeySequence::Undo);
+    m_redo->setShortcuts(QKeySequence::Redo);
+    menu->addAction(m_undo);
+    menu->addAction(m_redo);
     menu->addSeparator();
     const auto inText = [this](auto text, auto wall) {
         return [this, text, wall] { m_source->hasFocus() ? (m_source->*text)() : wall(); };
@@ -141,8 +141,8 @@ void MainWindow::MakeEditMenu()
         action->setProperty("needsWall", true);
         m_actions.append(action);
     }
-    m_actions.append(undo);
-    m_actions.append(redo);
+    m_actions.append(m_undo);
+    m_actions.append(m_redo);
 }
 
 void MainWindow::MakeClockMenu()
@@ -233,7 +233,7 @@ void MainWindow::MakeLanguageMenu(QMenu &view)
 {
     QMenu *const menu = view.addMenu(tr("&Language of the clocks"));
     auto *const languages = new QActionGroup(this);
-    const QString now = ClockCatalogues::LanguageFor(QLocale());
+    const QString now = ClockCatalogues::Installed();
     for (const QString &language : ClockCatalogues::Languages()) {
         QAction *const action = menu->addAction(QLocale(language).nativeLanguageName());
         action->setCheckable(true);

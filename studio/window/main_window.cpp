@@ -280,6 +280,8 @@ void MainWindow::UpdateCommands()
         action->setEnabled((hasWall || !(needsWall || needsChoice))
                            && (!needsChoice || !m_editor.Chosen().isEmpty()));
     }
+    m_undo->setEnabled(hasWall && m_document.History().canUndo());
+    m_redo->setEnabled(hasWall && m_document.History().canRedo());
 }
 
 void MainWindow::UpdateState()

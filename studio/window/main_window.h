@@ -115,6 +115,8 @@ private:
     QLabel *m_place = nullptr;
     QLabel *m_zoom = nullptr;
     QList<QAction *> m_actions;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
     QActionGroup *m_drawing = nullptr;
 };
 
