@@ -73,7 +73,8 @@ int main(int argc, char **argv)
     if (const std::optional<QString> information = InformationFor(argc, argv))
         return Print(*information);
     if (!HasDisplay(argc, argv)) {
-        ClockProgram::SayAs("clock_studio", QStringLiteral("no display: the studio needs one"));
+        ClockProgram::SayAs("clock_studio",
+                            QStringLiteral("no display found; the studio needs one"));
         return EXIT_FAILURE;
     }
     ClockProgram::FixFontResolution();

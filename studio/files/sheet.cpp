@@ -18,7 +18,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-constexpr int kPitch = 6;        // pixels per diode in the picture
+constexpr int kPitch = 6;        // pixels per LED in the picture
 constexpr int kResolution = 150; // dots per inch
 constexpr int kMargin = 15;      // millimetres
 
@@ -59,19 +59,21 @@ QString ValueText(const AttributeRow &row, HClockNode &clock)
     if (const char *const name = row.range.NameOf(stored.toInt()))
         return Words(name);
     if (row.role == ValueRole::Flag)
-        return stored.toInt() != 0 ? Translated("yes") : Translated("no");
+        return stored.toInt() != 0 ? Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "yes"))
+                                   : Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "no"));
     return stored.toHtmlEscaped();
 }
 
 QString ClockTable(HClockNode &clock, int number, const QRect &geometry)
 {
-    QString html = QStringLiteral("<h3>%1</h3><p>%2</p><table cellpadding=\"2\">")
-                       .arg(Translated("Clock %1").arg(number),
-                            QStringLiteral("%1, %2 &nbsp; %3 × %4")
-                                .arg(geometry.x())
-                                .arg(geometry.y())
-                                .arg(geometry.width())
-                                .arg(geometry.height()));
+    QString html =
+        QStringLiteral("<h3>%1</h3><p>%2</p><table cellpadding=\"2\">")
+            .arg(Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "Clock %1")).arg(number),
+                 QStringLiteral("%1, %2 &nbsp; %3 × %4")
+                     .arg(geometry.x())
+                     .arg(geometry.y())
+                     .arg(geometry.width())
+                     .arg(geometry.height()));
     int column = 0;
     for (const AttributeRow &row : kAttributeTable) {
         if (!IsUsed(row, clock.ClockType()) || !clock.HaveAttribute(Key(row.attribute)))
@@ -94,13 +96,17 @@ QString SheetText(const QString &title, LiveWall &wall, const QStringList &findi
                  QLocale().toString(QDate::currentDate(), QLocale::LongFormat))
             .arg(wall.Size().width())
             .arg(wall.Size().height());
-    html += QStringLiteral("<h3>%1</h3>").arg(Translated("Findings"));
+    html += QStringLiteral("<h3>%1</h3>")
+                .arg(Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "Findings")));
     if (findings.isEmpty())
-        html += QStringLiteral("<p>%1</p>").arg(Translated("None"));
+        html += QStringLiteral("<p>%1</p>")
+                    .arg(Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "None")));
     for (const QString &finding : findings)
         html += QStringLiteral("<p>%1</p>").arg(finding.toHtmlEscaped());
-    html += QStringLiteral("<p><br/>%1</p>")
-                .arg(Translated("Approved by ______________________   on ______________"));
+    html +=
+        QStringLiteral("<p><br/>%1</p>")
+            .arg(Translated(QT_TRANSLATE_NOOP(
+                "ClockStudio::Sheet", "Approved by ______________________   on ______________")));
     for (int area = 0; area < wall.AreaCount(); ++area) {
         if (HClockNode *const clock = wall.Clock(area))
             html += ClockTable(*clock, area + 1, wall.Geometry(area));
@@ -110,7 +116,7 @@ QString SheetText(const QString &title, LiveWall &wall, const QStringList &findi
 
 } // namespace
 
-bool WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
+void WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
                 const QStringList &findings)
 {
     QPdfWriter writer(&device);
@@ -124,7 +130,6 @@ bool WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
                          picture.isNull() ? wall.Screen() : picture);
     document.setHtml(SheetText(title, wall, findings));
     document.print(&writer);
-    return true;
 }
 
 } // namespace ClockStudio

@@ -10,8 +10,8 @@
 
 namespace ClockStudio {
 
-/// Writes a PDF of A4 pages to an open device. False where it cannot be written.
-bool WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
+/// Writes a PDF of A4 pages to an open device. Errors are left to the device.
+void WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
                 const QStringList &findings);
 
 } // namespace ClockStudio

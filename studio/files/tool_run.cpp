@@ -15,8 +15,8 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kMostOutput = 4 << 20; // bytes that are kept
-constexpr int kPatience = 5000;      // milliseconds for ending after being asked to
+constexpr int kMostOutput = 4 << 20; // kept bytes of standard output
+constexpr int kPatience = 5000;      // milliseconds between SIGTERM and SIGKILL
 
 QString Translated(const char *text)
 {
@@ -46,10 +46,10 @@ public:
         m_dialog.setWindowTitle(QStringLiteral("Clock Studio"));
         m_dialog.setAutoReset(false);
         m_dialog.setAutoClose(false);
-        m_dialog.show(); // nothing else is to be clicked meanwhile
+        m_dialog.show(); // shown at once, so that the window is blocked from the start
     }
 
-    /// Whether the command went well.
+    /// Whether the command succeeded.
     bool Run(const ToolCommand &command)
     {
         QProcess process;
@@ -103,7 +103,7 @@ private:
                     .arg(process.program());
         else if (m_result.errors.isEmpty() && !m_result.isGood)
             m_result.errors =
-                Translated(QT_TRANSLATE_NOOP("ClockStudio::ToolRun", "%1 ended with code %2."))
+                Translated(QT_TRANSLATE_NOOP("ClockStudio::ToolRun", "%1 exited with code %2."))
                     .arg(process.program())
                     .arg(process.exitCode());
     }

@@ -60,7 +60,7 @@ QString ReleasePath(const QString &release)
     return QLatin1String(kReleases) + QLatin1Char('/') + release;
 }
 
-/// Where a release is while it is not complete; lists leave it out.
+/// The path of an incomplete release; hidden, so that ls does not list it.
 QString PartPath(const QString &release)
 {
     return ReleasePath(QStringLiteral(".%1.part").arg(release));
@@ -72,14 +72,15 @@ ToolCommand ScriptInFolder(const WallTarget &target, const QString &script)
     return ScriptAt(target, QStringLiteral("cd -- %1 && %2").arg(Quoted(target.folder), script));
 }
 
-/// The link is made beside the old one and takes its place at once: there is always one.
+/// Creates the new link beside the old one and renames it over it, so that a link exists at all
+/// times.
 QString SwapScript(const QString &release)
 {
     return QStringLiteral("ln -sfn -- %1 .%2.new && mv -T -- .%2.new %2")
         .arg(Quoted(ReleasePath(release)), QLatin1String(kCurrentLink));
 }
 
-/// Images that the release that plays has too are linked to, not sent.
+/// Files unchanged since the current release are hard-linked instead of sent.
 ToolCommand CopyCommand(const WallTarget &target, const QString &exportFolder,
                         const QString &release)
 {
@@ -151,17 +152,18 @@ QString TargetFault(const WallTarget &target)
     if (target.name.trimmed().isEmpty())
         return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallTarget", "The wall needs a name."));
     if (target.IsRemote() && !host.match(target.host).hasMatch())
-        return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallTarget",
-                                            "The host is written as in operator@wall.example."));
+        return Translated(QT_TRANSLATE_NOOP(
+            "ClockStudio::WallTarget",
+            "Write the host as operator@wall.example or operator@wall.example:22."));
     const auto isPath = [](const QString &text) {
         return text.startsWith(QLatin1Char('/')) && !text.contains(QLatin1Char('\n'));
     };
     if (!isPath(target.folder))
-        return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallTarget",
-                                            "The folder is a path that begins with /."));
+        return Translated(
+            QT_TRANSLATE_NOOP("ClockStudio::WallTarget", "The folder must be an absolute path."));
     if (!target.statusFile.isEmpty() && !isPath(target.statusFile))
         return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallTarget",
-                                            "The status file is a path that begins with /."));
+                                            "The status file must be an absolute path."));
     return {};
 }
 

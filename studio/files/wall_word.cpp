@@ -52,17 +52,18 @@ QString WordText(const WallWord &word)
 {
     switch (word.state) {
     case WallWord::State::Plays:
-        return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallWord", "The wall plays it."));
+        return Translated(
+            QT_TRANSLATE_NOOP("ClockStudio::WallWord", "The wall is playing this program."));
     case WallWord::State::PlaysOther:
         return Translated(
-            QT_TRANSLATE_NOOP("ClockStudio::WallWord", "The wall plays something else."));
+            QT_TRANSLATE_NOOP("ClockStudio::WallWord", "The wall is playing something else."));
     case WallWord::State::Notice:
         return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallWord",
                                             "The wall shows the notice %1 instead of a program."))
             .arg(word.notice);
     case WallWord::State::Outdated:
         return Translated(QT_TRANSLATE_NOOP("ClockStudio::WallWord",
-                                            "The wall's player has not been heard of since %1."))
+                                            "The wall's player has not been heard from since %1."))
             .arg(QLocale().toString(word.written.toLocalTime(), QLocale::ShortFormat));
     case WallWord::State::Unknown:
         break;

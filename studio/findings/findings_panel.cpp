@@ -21,14 +21,14 @@ constexpr int kDelay = 400;
 
 FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
     : QWidget(parent), m_editor(editor), m_list(new QListWidget),
-      m_mend(new QPushButton(tr("Mend"))), m_none(new QLabel)
+      m_mend(new QPushButton(tr("Fix"))), m_none(new QLabel)
 {
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 6, 8, 6);
     m_list->setWordWrap(true);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setAccessibleName(tr("Findings"));
-    m_mend->setToolTip(tr("Apply the suggestion of the finding"));
+    m_mend->setToolTip(tr("Apply the suggested fix"));
     layout->addWidget(m_none, 1);
     layout->addWidget(m_list, 1);
     layout->addWidget(m_mend, 0, Qt::AlignTop);
@@ -131,7 +131,7 @@ void FindingsPanel::Mend()
     if (!reading || row < 0 || row >= m_findings.size())
         return;
     if (const auto edit = MendOf(*reading, m_findings[row]))
-        m_editor.Document().Change({*edit}, tr("Mend"));
+        m_editor.Document().Change({*edit}, tr("Fix"));
     Check();
 }
 

@@ -98,7 +98,7 @@ void TimeBar::SetUpDay()
 
 void TimeBar::SetUpSpeed()
 {
-    m_speed->setToolTip(tr("Speed of the time"));
+    m_speed->setToolTip(tr("Playback speed"));
     m_speed->setAccessibleName(m_speed->toolTip());
     for (const double speed : kSpeeds)
         m_speed->addItem(QStringLiteral("%1×").arg(speed), speed);
@@ -106,7 +106,7 @@ void TimeBar::SetUpSpeed()
 
 QToolButton *TimeBar::NextChangeButton()
 {
-    auto *const next = Button(tr("Next change"), tr("Go to shortly before the next change"));
+    auto *const next = Button(tr("Next change"), tr("Jump to just before the next change"));
     auto *const changes = new QMenu(next);
     for (const ChangeName &change : kChanges)
         changes->addAction(tr(change.name), this,
@@ -190,8 +190,8 @@ void TimeBar::ShowTime()
     const bool runs = !StageTime::Travel().IsPaused();
     const QDateTime time = Local(StageTime::Shown());
     m_run->setChecked(runs);
-    m_run->setText(runs ? tr("Pause") : tr("Run"));
-    m_run->setToolTip(runs ? tr("Pause the time") : tr("Let the time run"));
+    m_run->setText(runs ? tr("Pause") : tr("Play"));
+    m_run->setToolTip(runs ? tr("Pause the time") : tr("Resume"));
     if (!m_date->hasFocus() || runs)
         m_date->setDateTime(time);
     if (!m_day->isSliderDown())

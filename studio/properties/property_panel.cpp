@@ -37,7 +37,7 @@ struct KindName
     const char *name;
 };
 
-// In the order in which people reach for them.
+// Most used first.
 constexpr KindName kKinds[] = {
     {DigitalClock, QT_TRANSLATE_NOOP("ClockStudio::PropertyPanel", "Digital")},
     {AnalogClock, QT_TRANSLATE_NOOP("ClockStudio::PropertyPanel", "Analog")},
@@ -102,13 +102,13 @@ PropertyPanel::PropertyPanel(WallEditor &editor, QWidget *parent)
     Refresh();
 }
 
-/// The wheel scrolls the panel: it changes nothing that happens to be under the pointer.
+/// The wheel always scrolls the panel and never changes the control under the pointer.
 bool PropertyPanel::eventFilter(QObject *object, QEvent *event)
 {
     const bool wouldChange = event->type() == QEvent::Wheel
         && (qobject_cast<QComboBox *>(object) || qobject_cast<QAbstractSpinBox *>(object));
     if (wouldChange)
-        event->ignore(); // which hands it on to the scroll area
+        event->ignore(); // so that it reaches the scroll area
     return wouldChange || QScrollArea::eventFilter(object, event);
 }
 
@@ -129,7 +129,7 @@ void PropertyPanel::MakeHead()
         section->AddLine(i == 0 ? tr("Width") : tr("Height"), {m_screenSize[i]});
     }
     auto *const hint = new QLabel(
-        tr("Choose a clock on the wall to change it, or add one with the buttons above the wall."));
+        tr("Select a clock on the wall to change it, or add one with the buttons above the wall."));
     hint->setWordWrap(true);
     section->AddWide(hint);
     m_wall = section;
@@ -171,9 +171,9 @@ void PropertyPanel::MakeGroups()
         m_groups.last().section = MakeGroup(kPropertyGroups[i]);
         m_clock->layout()->addWidget(m_groups.last().section);
     }
-    auto *const place = new Section(tr("Place"));
-    const QString names[] = {tr("Left edge, pixels"), tr("Top edge, pixels"), tr("Width in pixels"),
-                             tr("Height in pixels")};
+    auto *const place = new Section(tr("Position and size"));
+    const QString names[] = {tr("Left edge in pixels"), tr("Top edge in pixels"),
+                             tr("Width in pixels"), tr("Height in pixels")};
     for (int i = 0; i < 4; ++i) {
         m_place[i] = PlaceBox(i < 2 ? -ClockProgram::kMaximumSide : 1, names[i]);
         connect(m_place[i], QOverload<int>::of(&QSpinBox::valueChanged), this,
@@ -302,8 +302,8 @@ void PropertyPanel::ShowClocks(const QVector<HClockNode *> &clocks)
     }
 }
 
-/// One change of the text for all chosen clocks. They are taken from the last to the first: what is
-/// changed in one does not move those before it.
+/// Changes all selected clocks in one undo step, last to first, so that an edit does not shift the
+/// positions of the next.
 void PropertyPanel::ChangeEach(const QString &label, const QString &mergeKey,
                                const std::function<TextEdits(const ProgramReading &, int)> &edits)
 {
@@ -373,7 +373,7 @@ void PropertyPanel::GivePlace()
         for (QRect &rect : rects)
             rect.translate(way);
     }
-    m_editor.Place(rects, tr("Place"), QStringLiteral("place"));
+    m_editor.Place(rects, tr("Move and resize"), QStringLiteral("place"));
 }
 
 void PropertyPanel::Reveal(const QString &key)

@@ -24,7 +24,7 @@ ZoneDialog::ZoneDialog(QWidget *parent)
     m_list->setAccessibleName(tr("Cities"));
     m_list->setUniformItemSizes(true);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    buttons->button(QDialogButtonBox::Ok)->setText(tr("Use this time"));
+    buttons->button(QDialogButtonBox::Ok)->setText(tr("Use this time zone"));
     layout->addWidget(m_search);
     layout->addWidget(m_list);
     layout->addWidget(buttons);

@@ -19,7 +19,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// Of the zone alone, without the adjustment.
+/// The clock's zone settings, without its adjustment.
 ZoneSettings SettingsIn(HClockNode &clock)
 {
     ZoneSettings settings = ClockStage::SettingsOf(&clock).value_or(ZoneSettings());
@@ -85,7 +85,7 @@ void ZoneSection::Show(const QVector<HClockNode *> &clocks)
     const QString city = isMixed ? QString()
         : isUtc                  ? QStringLiteral("UTC")
                                  : ZoneOf(first, QDate::currentDate()).city;
-    m_city->setText(isMixed              ? tr("several")
+    m_city->setText(isMixed              ? tr("Several zones")
                         : city.isEmpty() ? QStringLiteral("UTC%1").arg(first.ZoneText())
                                          : QStringLiteral("%1 (%2)").arg(city, first.ZoneText()));
     m_note->setText(isMixed ? QString() : NoteOn(clock));
@@ -107,7 +107,7 @@ QString ZoneSection::NoteOn(HClockNode &clock) const
         return tr("No daylight saving.");
     const auto next = NextChange(*settings, ClockStage::StageTime::Shown());
     if (!next)
-        return tr("Daylight saving without sound rules.");
+        return tr("Daylight saving is on, but its rules are invalid.");
     const QString date = DateText(next->instant, next->before);
     const QString change = next->after > next->before
         ? tr("Daylight saving begins on %1.").arg(date)
@@ -140,10 +140,12 @@ void ZoneSection::Choose(const QByteArray &zone)
     if (!answer->wrong.isEmpty()) {
         const ClockTool::WrongTime &first = answer->wrong.first();
         m_inexactZone = answer->settings;
-        m_inexact = tr("A clock cannot follow this zone exactly: its daylight saving is not the "
-                       "same every year. It is wrong %n time(s) in ten years, first from %1 to %2.",
-                       nullptr, answer->wrong.size())
-                        .arg(DateText(first.begin, 0), DateText(first.end, 0));
+        m_inexact =
+            tr("A clock cannot follow this zone exactly: its daylight saving is not the "
+               "same every year. The clock will be wrong in %n period(s) of the next ten years, "
+               "first from %1 to %2.",
+               nullptr, answer->wrong.size())
+                .arg(DateText(first.begin, 0), DateText(first.end, 0));
     }
     const ZoneSettings &settings = answer->settings;
     const int saves = settings.HasDaylightSaving() ? 1 : 0;

@@ -2,1505 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fa">
 <context>
-    <name>ClockStudio::ColourButton</name>
-    <message>
-        <source>Other colour…</source>
-        <translation>رنگ دیگر…</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>رنگ</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::FamilyBox</name>
-    <message>
-        <source>Default font</source>
-        <translation>قلم پیش‌فرض</translation>
-    </message>
-    <message>
-        <source>%1 (not installed)</source>
-        <translation>%1 (نصب نیست)</translation>
-    </message>
-    <message>
-        <source>%1 (missing %2)</source>
-        <translation>%1 (بدون %2)</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::FindingsPanel</name>
-    <message>
-        <source>Mend</source>
-        <translation>اصلاح</translation>
-    </message>
-    <message>
-        <source>No findings.</source>
-        <translation>چیزی پیدا نشد.</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>یافته‌ها</translation>
-    </message>
-    <message>
-        <source>Apply the suggestion of the finding</source>
-        <translation>پیشنهاد یافته را بنویس</translation>
-    </message>
-    <message>
-        <source>Clock %1: </source>
-        <translation>ساعت %1: </translation>
-    </message>
-    <message>
-        <source>Line %1</source>
-        <translation>سطر %1</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Gallery</name>
-    <message>
-        <source>Back to the wall</source>
-        <translation>بازگشت به دیوار</translation>
-    </message>
-    <message>
-        <source>Empty wall</source>
-        <translation>دیوار خالی</translation>
-    </message>
-    <message>
-        <source>Open a file…</source>
-        <translation>باز کردن پرونده…</translation>
-    </message>
-    <message>
-        <source>Begin</source>
-        <translation>آغاز</translation>
-    </message>
-    <message>
-        <source>Recent</source>
-        <translation>اخیر</translation>
-    </message>
-    <message>
-        <source>Recent files</source>
-        <translation>پرونده‌های اخیر</translation>
-    </message>
-    <message>
-        <source>Templates</source>
-        <translation>الگوها</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::KeysDialog</name>
-    <message>
-        <source>Keys</source>
-        <translation>کلیدها</translation>
-    </message>
-    <message>
-        <source>Move by one pixel</source>
-        <translation>جابه‌جایی یک پیکسل</translation>
-    </message>
-    <message>
-        <source>Arrow keys</source>
-        <translation>کلیدهای جهت</translation>
-    </message>
-    <message>
-        <source>Move by eight pixels</source>
-        <translation>جابه‌جایی هشت پیکسل</translation>
-    </message>
-    <message>
-        <source>Shift + arrow keys</source>
-        <translation>Shift + کلیدهای جهت</translation>
-    </message>
-    <message>
-        <source>Resize by one pixel</source>
-        <translation>تغییر اندازه یک پیکسل</translation>
-    </message>
-    <message>
-        <source>Alt + arrow keys</source>
-        <translation>Alt + کلیدهای جهت</translation>
-    </message>
-    <message>
-        <source>Select the next clock</source>
-        <translation>انتخاب ساعت بعدی</translation>
-    </message>
-    <message>
-        <source>Tab</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select several clocks</source>
-        <translation>انتخاب چند ساعت</translation>
-    </message>
-    <message>
-        <source>Shift + click, or drag around them</source>
-        <translation>Shift + کلیک، یا کشیدن دور آن‌ها</translation>
-    </message>
-    <message>
-        <source>Drag without snapping</source>
-        <translation>کشیدن بدون چسبیدن</translation>
-    </message>
-    <message>
-        <source>Hold Alt</source>
-        <translation>نگه داشتن Alt</translation>
-    </message>
-    <message>
-        <source>Cancel a drag, clear the selection</source>
-        <translation>لغو کشیدن، بدون انتخاب</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zoom at the pointer</source>
-        <translation>بزرگ‌نمایی در محل نشانگر</translation>
-    </message>
-    <message>
-        <source>Ctrl + wheel</source>
-        <translation>Ctrl + چرخ</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::MainWindow</name>
-    <message>
-        <source>Picture, plain pixels (*.png)</source>
-        <translation>تصویر، پیکسل ساده (*.png)</translation>
-    </message>
-    <message>
-        <source>Picture, as diodes (*.png)</source>
-        <translation>تصویر، به شکل دیود (*.png)</translation>
-    </message>
-    <message>
-        <source>Picture of the wall</source>
-        <translation>تصویر دیوار</translation>
-    </message>
-    <message>
-        <source>wall.png</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sheet for approval</source>
-        <translation>برگهٔ تأیید</translation>
-    </message>
-    <message>
-        <source>wall.pdf</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PDF (*.pdf)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Animated preview</source>
-        <translation>پیش‌نمایش متحرک</translation>
-    </message>
-    <message>
-        <source>wall.gif</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Animated picture (*.gif)</source>
-        <translation>تصویر متحرک (*.gif)</translation>
-    </message>
-    <message>
-        <source>Making the preview…</source>
-        <translation>در حال ساخت پیش‌نمایش…</translation>
-    </message>
-    <message>
-        <source>The preview could not be made: %1</source>
-        <translation>پیش‌نمایش ساخته نشد: %1</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>%1 ذخیره شد</translation>
-    </message>
-    <message>
-        <source>%1 could not be written.</source>
-        <translation>%1 نوشته نشد.</translation>
-    </message>
-    <message>
-        <source>Choose an empty folder, or one with an earlier export</source>
-        <translation>پوشهٔ خالی، یا پوشهٔ خروجی پیشین</translation>
-    </message>
-    <message>
-        <source>Making the glyph files…</source>
-        <translation>در حال ساخت پرونده‌های نویسه…</translation>
-    </message>
-    <message>
-        <source>Exported to %1</source>
-        <translation>خروجی در %1</translation>
-    </message>
-    <message>
-        <source>Import SDK XML</source>
-        <translation>ورود SDK XML</translation>
-    </message>
-    <message>
-        <source>SDK XML (*.xml);;All files (*)</source>
-        <translation>SDK XML (*.xml);;همهٔ پرونده‌ها (*)</translation>
-    </message>
-    <message>
-        <source>Importing…</source>
-        <translation>در حال ورود…</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;پرونده</translation>
-    </message>
-    <message>
-        <source>&amp;New…</source>
-        <translation>&amp;نو…</translation>
-    </message>
-    <message>
-        <source>&amp;Open…</source>
-        <translation>&amp;باز کردن…</translation>
-    </message>
-    <message>
-        <source>&amp;Import SDK XML…</source>
-        <translation>&amp;ورود SDK XML…</translation>
-    </message>
-    <message>
-        <source>Open &amp;recent</source>
-        <translation>باز کردن &amp;اخیر</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;ذخیره</translation>
-    </message>
-    <message>
-        <source>Save &amp;as…</source>
-        <translation>ذخیره با نا&amp;م…</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+S</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Picture of the wall…</source>
-        <translation>&amp;تصویر دیوار…</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+P</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Animated pre&amp;view…</source>
-        <translation>&amp;پیش‌نمایش متحرک…</translation>
-    </message>
-    <message>
-        <source>S&amp;heet for approval…</source>
-        <translation>ب&amp;رگهٔ تأیید…</translation>
-    </message>
-    <message>
-        <source>&amp;Export with glyph files…</source>
-        <translation>&amp;خروجی با پرونده‌های نویسه…</translation>
-    </message>
-    <message>
-        <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sen&amp;d to a wall…</source>
-        <translation>ف&amp;رستادن به دیوار…</translation>
-    </message>
-    <message>
-        <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;خروج</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>هنوز هیچ</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;ویرایش</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;واگرد</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;ازنو</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>&amp;برش</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;رونوشت</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;چسباندن</translation>
-    </message>
-    <message>
-        <source>There is no clock in the clipboard</source>
-        <translation>در بریده‌دان ساعتی نیست</translation>
-    </message>
-    <message>
-        <source>&amp;Duplicate</source>
-        <translation>&amp;تکثیر</translation>
-    </message>
-    <message>
-        <source>Ctrl+D</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>De&amp;lete</source>
-        <translation>&amp;حذف</translation>
-    </message>
-    <message>
-        <source>Select &amp;all clocks</source>
-        <translation>انتخاب &amp;همهٔ ساعت‌ها</translation>
-    </message>
-    <message>
-        <source>&amp;Clock</source>
-        <translation>&amp;ساعت</translation>
-    </message>
-    <message>
-        <source>Bring to &amp;front</source>
-        <translation>آوردن به &amp;جلو</translation>
-    </message>
-    <message>
-        <source>Ctrl+]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Send to &amp;back</source>
-        <translation>بردن به &amp;پشت</translation>
-    </message>
-    <message>
-        <source>Ctrl+[</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;left</source>
-        <translation>تراز &amp;چپ</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+L</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;centre</source>
-        <translation>تراز &amp;میانهٔ افقی</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+C</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;right</source>
-        <translation>تراز &amp;راست</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+R</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;top</source>
-        <translation>تراز &amp;بالا</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+T</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;middle</source>
-        <translation>تراز میانهٔ &amp;عمودی</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+M</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align b&amp;ottom</source>
-        <translation>تراز &amp;پایین</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Distribute &amp;across</source>
-        <translation>پخش &amp;افقی</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+H</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Distribute &amp;down</source>
-        <translation>پخش ع&amp;مودی</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+V</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stack in a ro&amp;w</source>
-        <translation>چیدن در ر&amp;دیف</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+A</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stack in a col&amp;umn</source>
-        <translation>چیدن در س&amp;تون</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+D</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;نما</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;in</source>
-        <translation>&amp;بزرگ‌نمایی</translation>
-    </message>
-    <message>
-        <source>Ctrl+=</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zoom &amp;out</source>
-        <translation>&amp;کوچک‌نمایی</translation>
-    </message>
-    <message>
-        <source>&amp;Fit to window</source>
-        <translation>ا&amp;ندازهٔ پنجره</translation>
-    </message>
-    <message>
-        <source>Ctrl+0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>As &amp;diodes</source>
-        <translation>به شکل &amp;دیود</translation>
-    </message>
-    <message>
-        <source>Ctrl+L</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Panel grid</source>
-        <translation>شبکهٔ &amp;پنل‌ها</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>هیچ</translation>
-    </message>
-    <message>
-        <source>F4</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>F8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Language of the clocks</source>
-        <translation>&amp;زبان ساعت‌ها</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;راهنما</translation>
-    </message>
-    <message>
-        <source>&amp;Keys</source>
-        <translation>&amp;کلیدها</translation>
-    </message>
-    <message>
-        <source>F1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;About Clock Studio</source>
-        <translation>&amp;دربارهٔ استودیوی ساعت</translation>
-    </message>
-    <message>
-        <source>Digital clock</source>
-        <translation>ساعت رقمی</translation>
-    </message>
-    <message>
-        <source>D</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Analog clock</source>
-        <translation>ساعت عقربه‌ای</translation>
-    </message>
-    <message>
-        <source>A</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Picture clock</source>
-        <translation>ساعت تصویری</translation>
-    </message>
-    <message>
-        <source>P</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation>ابزارها</translation>
-    </message>
-    <message>
-        <source>%1: drag a rectangle on the wall (%2)</source>
-        <translation>%1: جایش را روی دیوار بکشید (%2)</translation>
-    </message>
-    <message>
-        <source>About Clock Studio</source>
-        <translation>دربارهٔ استودیوی ساعت</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. What it shows, the clocks&apos; own code draws.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;استودیوی ساعت %1&lt;/h3&gt;&lt;p&gt;دیوارهای ساعت را طراحی می‌کند. آنچه نشان می‌دهد را کد خود ساعت‌ها می‌کشد.&lt;/p&gt;</translation>
-    </message>
-    <message>
-        <source>%1 was deleted from the disk. Your work is still open here.</source>
-        <translation>%1 دیگر روی دیسک نیست. کار شما هنوز اینجاست.</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>ذخیره</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>بستن</translation>
-    </message>
-    <message>
-        <source>Properties</source>
-        <translation>ویژگی‌ها</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>یافته‌ها</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>متن برنامه</translation>
-    </message>
-    <message>
-        <source>Open a program</source>
-        <translation>باز کردن برنامه</translation>
-    </message>
-    <message>
-        <source>Programs (%1);;All files (*)</source>
-        <translation>برنامه‌ها (%1);;همهٔ پرونده‌ها (*)</translation>
-    </message>
-    <message>
-        <source>Saved</source>
-        <translation>ذخیره شد</translation>
-    </message>
-    <message>
-        <source>Save the program</source>
-        <translation>ذخیرهٔ برنامه</translation>
-    </message>
-    <message>
-        <source>wall.xml</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Programs (%1)</source>
-        <translation>برنامه‌ها (%1)</translation>
-    </message>
-    <message>
-        <source>Unsaved work</source>
-        <translation>کار ذخیره‌نشده</translation>
-    </message>
-    <message>
-        <source>Save the changes to %1?</source>
-        <translation>تغییرات %1 ذخیره شود؟</translation>
-    </message>
-    <message>
-        <source>a new wall</source>
-        <translation>دیوار تازه</translation>
-    </message>
-    <message>
-        <source>The studio ended unexpectedly. Unsaved changes to %1 can be recovered.</source>
-        <translation>استودیو ناگهان بسته شد. کار ذخیره‌نشدهٔ %1 نگه داشته شد.</translation>
-    </message>
-    <message>
-        <source>Recover</source>
-        <translation>بازیابی</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>دور انداختن</translation>
-    </message>
-    <message>
-        <source>%1 was changed by another program.</source>
-        <translation>%1 را برنامهٔ دیگری تغییر داد.</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>بار کردن دوباره</translation>
-    </message>
-    <message>
-        <source>Keep mine</source>
-        <translation>نگه داشتن کار من</translation>
-    </message>
-    <message>
-        <source>Clock Studio</source>
-        <translation>استودیوی ساعت</translation>
-    </message>
-    <message>
-        <source>%1[*] – Clock Studio</source>
-        <translation>%1[*] – استودیوی ساعت</translation>
-    </message>
-    <message>
-        <source>Line %1: %2 The wall shows the last valid version.</source>
-        <translation>سطر %1: %2 دیوار آخرین نسخهٔ درست را نشان می‌دهد.</translation>
-    </message>
-    <message>
-        <source>Show the line</source>
-        <translation>نمایش سطر</translation>
-    </message>
-    <message>
-        <source>Findings (%1)</source>
-        <translation>یافته‌ها (%1)</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::NumberEditor</name>
-    <message>
-        <source> pt</source>
-        <translation> pt</translation>
-    </message>
-    <message>
-        <source> px</source>
-        <translation> px</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Preview</name>
-    <message>
-        <source>ImageMagick is not installed (package imagemagick).</source>
-        <translation>ImageMagick نصب نیست (بستهٔ imagemagick).</translation>
-    </message>
-    <message>
-        <source>The pictures of the preview could not be written.</source>
-        <translation>تصویرهای پیش‌نمایش نوشته نشدند.</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::ProgramFiles</name>
-    <message>
-        <source>Untitled</source>
-        <translation>بی‌نام</translation>
-    </message>
-    <message>
-        <source>%1 is damaged or not a text file.</source>
-        <translation>%1 خراب است یا متن نیست.</translation>
-    </message>
-    <message>
-        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
-        <translation>کدگذاری پرونده یکی از نویسه‌های این متن را ندارد.</translation>
-    </message>
-    <message>
-        <source>%1 is not an ordinary file.</source>
-        <translation>%1 پروندهٔ عادی نیست.</translation>
-    </message>
-    <message>
-        <source>%1 could not be saved: %2</source>
-        <translation>%1 ذخیره نشد: %2</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::PropertyPanel</name>
-    <message>
-        <source>Digital</source>
-        <translation>رقمی</translation>
-    </message>
-    <message>
-        <source>Analog</source>
-        <translation>عقربه‌ای</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>تصویری</translation>
-    </message>
-    <message>
-        <source>Resize the wall</source>
-        <translation>اندازهٔ دیوار</translation>
-    </message>
-    <message>
-        <source>Width in pixels</source>
-        <translation>پهنا به پیکسل</translation>
-    </message>
-    <message>
-        <source>Height in pixels</source>
-        <translation>بلندی به پیکسل</translation>
-    </message>
-    <message>
-        <source>Width</source>
-        <translation>پهنا</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>بلندی</translation>
-    </message>
-    <message>
-        <source>Choose a clock on the wall to change it, or add one with the buttons above the wall.</source>
-        <translation>برای تغییر، ساعتی را روی دیوار برگزینید، یا با دکمه‌های بالا یکی بیفزایید.</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>جا</translation>
-    </message>
-    <message>
-        <source>Left edge, pixels</source>
-        <translation>لبهٔ چپ، پیکسل</translation>
-    </message>
-    <message>
-        <source>Top edge, pixels</source>
-        <translation>لبهٔ بالا، پیکسل</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>موقعیت</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>اندازه</translation>
-    </message>
-    <message>
-        <source>Fit sizes to the area</source>
-        <translation>جور کردن اندازه‌ها با ناحیه</translation>
-    </message>
-    <message>
-        <source>Make the texts as large as the area allows on any day of the year</source>
-        <translation>متن‌ها تا جایی که ناحیه در همهٔ روزهای سال اجازه دهد بزرگ شوند</translation>
-    </message>
-    <message>
-        <source>Reset to the default</source>
-        <translation>بازگشت به پیش‌فرض</translation>
-    </message>
-    <message>
-        <source>Wall</source>
-        <translation>دیوار</translation>
-    </message>
-    <message>
-        <source>Clock %1</source>
-        <translation>ساعت %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n clocks</source>
-        <translation>
-            <numerusform>%n ساعت</numerusform>
-            <numerusform>%n ساعت</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Kind of clock</source>
-        <translation>نوع ساعت</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>بازنشانی</translation>
-    </message>
-    <message>
-        <source>Fit sizes</source>
-        <translation>جور کردن اندازه‌ها</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Section</name>
-    <message>
-        <source>Show</source>
-        <translation>نمایش</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::SendDialog</name>
-    <message>
-        <source>Send to a wall</source>
-        <translation>فرستادن به دیوار</translation>
-    </message>
-    <message>
-        <source>empty for this computer, or operator@wall.example</source>
-        <translation>برای این رایانه خالی، یا operator@wall.example</translation>
-    </message>
-    <message>
-        <source>/srv/wall</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the usual one</source>
-        <translation>کلید همیشگی</translation>
-    </message>
-    <message>
-        <source>Wall</source>
-        <translation>دیوار</translation>
-    </message>
-    <message>
-        <source>Host</source>
-        <translation>میزبان</translation>
-    </message>
-    <message>
-        <source>Folder</source>
-        <translation>پوشه</translation>
-    </message>
-    <message>
-        <source>Key file</source>
-        <translation>پروندهٔ کلید</translation>
-    </message>
-    <message>
-        <source>Earlier releases</source>
-        <translation>نسخه‌های پیشین</translation>
-    </message>
-    <message>
-        <source>Play the selected release</source>
-        <translation>پخش دوبارهٔ نسخهٔ برگزیده</translation>
-    </message>
-    <message>
-        <source>Send</source>
-        <translation>فرستادن</translation>
-    </message>
-    <message>
-        <source>Cancelled. The wall shows what it showed before.</source>
-        <translation>لغو شد. دیوار همان را نشان می‌دهد که بود.</translation>
-    </message>
-    <message>
-        <source>Making the glyph files…</source>
-        <translation>در حال ساخت پرونده‌های نویسه…</translation>
-    </message>
-    <message>
-        <source>Sending to %1…</source>
-        <translation>در حال فرستادن به %1…</translation>
-    </message>
-    <message>
-        <source>%1 has release %2. The one before is kept.</source>
-        <translation>%1 نسخهٔ %2 را دارد. نسخهٔ پیشین نگه داشته شد.</translation>
-    </message>
-    <message>
-        <source>There are no releases yet.</source>
-        <translation>هنوز نسخه‌ای نیست.</translation>
-    </message>
-    <message>
-        <source>Changing the release…</source>
-        <translation>در حال تعویض نسخه…</translation>
-    </message>
-    <message>
-        <source>%1 has release %2.</source>
-        <translation>%1 نسخهٔ %2 را دارد.</translation>
-    </message>
-    <message>
-        <source>empty for this computer, or operator@wall.example:22</source>
-        <translation>برای این رایانه خالی، یا operator@wall.example:22</translation>
-    </message>
-    <message>
-        <source>none, or /run/clock-player/status.json</source>
-        <translation>هیچ، یا /run/clock-player/status.json</translation>
-    </message>
-    <message>
-        <source>The player&apos;s status file on the wall. It tells whether the wall plays what was sent.</source>
-        <translation>پرونده وضعیت پخش‌کننده روی دیوار. نشان می‌دهد دیوار آنچه را فرستاده شده پخش می‌کند یا نه.</translation>
-    </message>
-    <message>
-        <source>Status file</source>
-        <translation>پرونده وضعیت</translation>
-    </message>
-    <message>
-        <source>Choose the key file</source>
-        <translation>گزینش پرونده کلید</translation>
-    </message>
-    <message>
-        <source>Removing what was sent…</source>
-        <translation>برداشتن آنچه فرستاده شد…</translation>
-    </message>
-    <message>
-        <source>Waiting for the wall to play it…</source>
-        <translation>در انتظار پخش روی دیوار…</translation>
-    </message>
-    <message>
-        <source>Asking %1…</source>
-        <translation>پرسش از %1…</translation>
-    </message>
-    <message>
-        <source>%1 (plays now)</source>
-        <translation>%1 (در حال پخش)</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::SourceView</name>
-    <message>
-        <source>Program text</source>
-        <translation>متن برنامه</translation>
-    </message>
-    <message>
-        <source>The XML of the program. Changes appear on the wall immediately.</source>
-        <translation>XML برنامه. تغییرات بی‌درنگ روی دیوار دیده می‌شوند.</translation>
-    </message>
-    <message>
-        <source>Typing</source>
-        <translation>تایپ</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::TextEditor</name>
-    <message>
-        <source>mixed</source>
-        <translation>چند متن</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::TextFault</name>
-    <message>
-        <source>A program must not have a document type declaration.</source>
-        <translation>برنامه اعلان نوع سند ندارد.</translation>
-    </message>
-    <message>
-        <source>This is not a program.</source>
-        <translation>این برنامه نیست.</translation>
-    </message>
-    <message>
-        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
-        <translation>کدگذاری پرونده یکی از نویسه‌های این متن را ندارد.</translation>
-    </message>
-    <message>
-        <source>The text is too large for a program.</source>
-        <translation>این متن برای برنامه بلند است.</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::TimeBar</name>
-    <message>
-        <source>Daylight saving</source>
-        <translation>ساعت تابستانی</translation>
-    </message>
-    <message>
-        <source>Midnight</source>
-        <translation>نیمه‌شب</translation>
-    </message>
-    <message>
-        <source>New month</source>
-        <translation>ماه نو</translation>
-    </message>
-    <message>
-        <source>New year</source>
-        <translation>سال نو</translation>
-    </message>
-    <message>
-        <source>New lunar month</source>
-        <translation>ماه قمری نو</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>اکنون</translation>
-    </message>
-    <message>
-        <source>Show the current time</source>
-        <translation>نمایش زمان اکنون</translation>
-    </message>
-    <message>
-        <source>Next change</source>
-        <translation>تغییر بعدی</translation>
-    </message>
-    <message>
-        <source>Go to shortly before the next change</source>
-        <translation>رفتن به کمی پیش از تغییر بعدی</translation>
-    </message>
-    <message>
-        <source>Date and time that the wall shows</source>
-        <translation>تاریخ و زمانی که دیوار نشان می‌دهد</translation>
-    </message>
-    <message>
-        <source>Time of day</source>
-        <translation>زمان روز</translation>
-    </message>
-    <message>
-        <source>Drag through the hours of the day</source>
-        <translation>در ساعت‌های روز بکشید</translation>
-    </message>
-    <message>
-        <source>Speed of the time</source>
-        <translation>سرعت گذر زمان</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>مکث</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>اجرا</translation>
-    </message>
-    <message>
-        <source>Pause the time</source>
-        <translation>نگه داشتن زمان</translation>
-    </message>
-    <message>
-        <source>Let the time run</source>
-        <translation>گذر زمان</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::ToolRun</name>
-    <message>
-        <source>Cancel</source>
-        <translation>لغو</translation>
-    </message>
-    <message>
-        <source>%1 cannot be started. Is it installed?</source>
-        <translation>%1 اجرا نشد. آیا نصب شده است؟</translation>
-    </message>
-    <message>
-        <source>%1 ended with code %2.</source>
-        <translation>%1 با کد %2 پایان یافت.</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallEditor</name>
-    <message>
-        <source>Move</source>
-        <translation>جابه‌جایی</translation>
-    </message>
-    <message>
-        <source>Resize</source>
-        <translation>تغییر اندازه</translation>
-    </message>
-    <message>
-        <source>Align</source>
-        <translation>تراز</translation>
-    </message>
-    <message>
-        <source>Distribute</source>
-        <translation>پخش</translation>
-    </message>
-    <message>
-        <source>Stack</source>
-        <translation>چیدن</translation>
-    </message>
-    <message>
-        <source>Bring to front</source>
-        <translation>آوردن به جلو</translation>
-    </message>
-    <message>
-        <source>Send to back</source>
-        <translation>بردن به پشت</translation>
-    </message>
-    <message>
-        <source>Add a clock</source>
-        <translation>افزودن ساعت</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>حذف</translation>
-    </message>
-    <message>
-        <source>Duplicate</source>
-        <translation>تکثیر</translation>
-    </message>
-    <message>
-        <source>Paste</source>
-        <translation>چسباندن</translation>
-    </message>
-    <message>
-        <source>Resize the wall</source>
-        <translation>اندازهٔ دیوار</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallMouse</name>
-    <message>
-        <source>Move</source>
-        <translation>جابه‌جایی</translation>
-    </message>
-    <message>
-        <source>Resize</source>
-        <translation>تغییر اندازه</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallTarget</name>
-    <message>
-        <source>The wall needs a name.</source>
-        <translation>دیوار نام می‌خواهد.</translation>
-    </message>
-    <message>
-        <source>The host is written as in operator@wall.example.</source>
-        <translation>میزبان مانند operator@wall.example نوشته می‌شود.</translation>
-    </message>
-    <message>
-        <source>The folder is a path that begins with /.</source>
-        <translation>پوشه مسیری است که با / آغاز می‌شود.</translation>
-    </message>
-    <message>
-        <source>The status file is a path that begins with /.</source>
-        <translation>پرونده وضعیت مسیری است که با / آغاز می‌شود.</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallView</name>
-    <message>
-        <source>Wall</source>
-        <translation>دیوار</translation>
-    </message>
-    <message>
-        <source>The clocks of the program as shown on the wall. Tab selects the next one.</source>
-        <translation>ساعت‌های برنامه چنان که دیوار نشان می‌دهد. Tab بعدی را برمی‌گزیند.</translation>
-    </message>
-    <message>
-        <source>Choose a kind of clock above, then drag a rectangle here</source>
-        <translation>نوع ساعت را در بالا برگزینید و جایش را اینجا بکشید</translation>
-    </message>
-    <message>
-        <source>Clock %1 of %2</source>
-        <translation>ساعت %1 از %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n clock(s) selected</source>
-        <translation>
-            <numerusform>%n ساعت برگزیده</numerusform>
-            <numerusform>%n ساعت برگزیده</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::ZoneDialog</name>
-    <message>
-        <source>Choose a city</source>
-        <translation>انتخاب شهر</translation>
-    </message>
-    <message>
-        <source>City, country or offset, such as Berlin or +05:30</source>
-        <translation>شهر، کشور یا اختلاف، مانند Berlin یا +05:30</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>جست‌وجو</translation>
-    </message>
-    <message>
-        <source>Cities</source>
-        <translation>شهرها</translation>
-    </message>
-    <message>
-        <source>Use this time</source>
-        <translation>کاربرد این زمان</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::ZoneSection</name>
-    <message>
-        <source>Time zone</source>
-        <translation>منطقهٔ زمانی</translation>
-    </message>
-    <message>
-        <source>City whose time is shown</source>
-        <translation>شهری که زمانش نشان داده می‌شود</translation>
-    </message>
-    <message>
-        <source>Choose the city whose time the clock shows</source>
-        <translation>شهری را برگزینید که ساعت زمانش را نشان دهد</translation>
-    </message>
-    <message>
-        <source>Adjustment</source>
-        <translation>تنظیم</translation>
-    </message>
-    <message>
-        <source>ahead</source>
-        <translation>جلو</translation>
-    </message>
-    <message>
-        <source>behind</source>
-        <translation>عقب</translation>
-    </message>
-    <message>
-        <source>Direction of the adjustment</source>
-        <translation>جهت تنظیم</translation>
-    </message>
-    <message>
-        <source>City</source>
-        <translation>شهر</translation>
-    </message>
-    <message>
-        <source>Adjust by</source>
-        <translation>تنظیم</translation>
-    </message>
-    <message>
-        <source>several</source>
-        <translation>چند</translation>
-    </message>
-    <message>
-        <source>No daylight saving.</source>
-        <translation>بدون ساعت تابستانی.</translation>
-    </message>
-    <message>
-        <source>Daylight saving without sound rules.</source>
-        <translation>ساعت تابستانی بدون قاعدهٔ درست.</translation>
-    </message>
-    <message>
-        <source>Daylight saving begins on %1.</source>
-        <translation>ساعت تابستانی از %1 آغاز می‌شود.</translation>
-    </message>
-    <message>
-        <source>Daylight saving ends on %1.</source>
-        <translation>ساعت تابستانی در %1 پایان می‌یابد.</translation>
-    </message>
-    <message numerus="yes">
-        <source>A clock cannot follow this zone exactly: its daylight saving is not the same every year. It is wrong %n time(s) in ten years, first from %1 to %2.</source>
-        <translation>
-            <numerusform>ساعت نمی‌تواند این منطقه را دقیق دنبال کند: ساعت تابستانی آن هر سال یکسان نیست. در ده سال %n بار نادرست است، نخست از %1 تا %2.</numerusform>
-            <numerusform>ساعت نمی‌تواند این منطقه را دقیق دنبال کند: ساعت تابستانی آن هر سال یکسان نیست. در ده سال %n بار نادرست است، نخست از %1 تا %2.</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No known zone has these rules.</source>
-        <translation>هیچ منطقه شناخته‌شده‌ای این قاعده‌ها را ندارد.</translation>
-    </message>
-    <message>
-        <source>The rules hold for %1 until %2 at least.</source>
-        <translation>این قاعده‌ها برای %1 دست‌کم تا %2 درست‌اند.</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::PropertyGroups</name>
-    <message>
-        <source>Time</source>
-        <translation>زمان</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>قالب</translation>
-    </message>
-    <message>
-        <source>Hours</source>
-        <translation>ساعت</translation>
-    </message>
-    <message>
-        <source>Font</source>
-        <translation>قلم</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>برچسب</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>متن</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>تاریخ</translation>
-    </message>
-    <message>
-        <source>Weekday</source>
-        <translation>روز هفته</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>زبان</translation>
-    </message>
-    <message>
-        <source>Lunar date</source>
-        <translation>تاریخ قمری</translation>
-    </message>
-    <message>
-        <source>Arrangement</source>
-        <translation>چیدمان</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>آرایش</translation>
-    </message>
-    <message>
-        <source>Gap</source>
-        <translation>فاصله</translation>
-    </message>
-    <message>
-        <source>Hands</source>
-        <translation>عقربه‌ها</translation>
-    </message>
-    <message>
-        <source>Hour</source>
-        <translation>ساعت</translation>
-    </message>
-    <message>
-        <source>Minute</source>
-        <translation>دقیقه</translation>
-    </message>
-    <message>
-        <source>Second</source>
-        <translation>ثانیه</translation>
-    </message>
-    <message>
-        <source>Dial</source>
-        <translation>صفحه</translation>
-    </message>
-    <message>
-        <source>Minutes</source>
-        <translation>دقیقه</translation>
-    </message>
-    <message>
-        <source>Numerals</source>
-        <translation>اعداد</translation>
-    </message>
-    <message>
-        <source>AM and PM</source>
-        <translation>ق.ظ و ب.ظ</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>تصویرها</translation>
-    </message>
-    <message>
-        <source>Style</source>
-        <translation>سبک</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Templates</name>
-    <message>
-        <source>Railway station</source>
-        <translation>ایستگاه راه‌آهن</translation>
-    </message>
-    <message>
-        <source>A station clock beside the time, the date and the platform</source>
-        <translation>ساعت ایستگاه کنار زمان، تاریخ و سکو</translation>
-    </message>
-    <message>
-        <source>Airport</source>
-        <translation>فرودگاه</translation>
-    </message>
-    <message>
-        <source>Local time and UTC over four cities</source>
-        <translation>زمان محلی و UTC بالای چهار شهر</translation>
-    </message>
-    <message>
-        <source>World offices</source>
-        <translation>دفترهای جهان</translation>
-    </message>
-    <message>
-        <source>Five dials with their cities</source>
-        <translation>پنج صفحه با شهرهایشان</translation>
-    </message>
-    <message>
-        <source>Stock exchange</source>
-        <translation>بورس</translation>
-    </message>
-    <message>
-        <source>The time at four exchanges</source>
-        <translation>زمان چهار بورس</translation>
-    </message>
-    <message>
-        <source>Bank</source>
-        <translation>بانک</translation>
-    </message>
-    <message>
-        <source>A plain dial with the date</source>
-        <translation>صفحه‌ای آرام با تاریخ</translation>
-    </message>
-    <message>
-        <source>School</source>
-        <translation>مدرسه</translation>
-    </message>
-    <message>
-        <source>Time, weekday and date, readable from afar</source>
-        <translation>زمان، روز و تاریخ، خوانا از دور</translation>
-    </message>
-    <message>
-        <source>Factory shift</source>
-        <translation>نوبت کارخانه</translation>
-    </message>
-    <message>
-        <source>Large time with seconds, the shift and the date</source>
-        <translation>ثانیه‌های بزرگ، با نوبت و تاریخ</translation>
-    </message>
-    <message>
-        <source>Prayer hall</source>
-        <translation>نمازخانه</translation>
-    </message>
-    <message>
-        <source>A dial with the Persian date and weekday</source>
-        <translation>صفحه با تاریخ و روز ایرانی</translation>
-    </message>
-    <message>
-        <source>Chinese date and lunar date</source>
-        <translation>تاریخ چینی و قمری</translation>
-    </message>
-    <message>
-        <source>The time with the Chinese date, weekday and lunar date</source>
-        <translation>زمان با تاریخ، روز و تاریخ قمری چینی</translation>
-    </message>
-    <message>
-        <source>Hospital</source>
-        <translation>بیمارستان</translation>
-    </message>
-    <message>
-        <source>A clear dial with a second hand, and the weekday</source>
-        <translation>صفحهٔ روشن با ثانیه‌شمار و روز هفته</translation>
-    </message>
-    <message>
-        <source>Sports hall</source>
-        <translation>سالن ورزش</translation>
-    </message>
-    <message>
-        <source>Only the time, with seconds</source>
-        <translation>تنها زمان، با ثانیه</translation>
-    </message>
-    <message>
-        <source>Hotel lobby</source>
-        <translation>سرسرای هتل</translation>
-    </message>
-    <message>
-        <source>Three picture clocks with their cities</source>
-        <translation>سه ساعت تصویری با شهرهایشان</translation>
-    </message>
-    <message>
-        <source>12-hour clock</source>
-        <translation>دوازده‌ساعته</translation>
-    </message>
-    <message>
-        <source>The time with AM and PM</source>
-        <translation>زمان با ق.ظ و ب.ظ</translation>
-    </message>
-    <message>
-        <source>One line</source>
-        <translation>یک سطر</translation>
-    </message>
-    <message>
-        <source>Everything on one line, for long narrow walls</source>
-        <translation>همه در یک سطر، برای دیوارهای باریک</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Sheet</name>
-    <message>
-        <source>yes</source>
-        <translation>بله</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>خیر</translation>
-    </message>
-    <message>
-        <source>Clock %1</source>
-        <translation>ساعت %1</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>یافته‌ها</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>هیچ</translation>
-    </message>
-    <message>
-        <source>Approved by ______________________   on ______________</source>
-        <translation>تأیید ______________________   تاریخ ______________</translation>
-    </message>
-</context>
-<context>
     <name>ClockStudio::Attributes</name>
     <message>
         <source>Kind of clock</source>
@@ -2074,15 +575,1471 @@
         <source>diner</source>
         <translation>رستوران</translation>
     </message>
+    <message>
+        <source>Identity</source>
+        <translation>شناسه</translation>
+    </message>
+    <message>
+        <source>Number of the clock in the names of its glyph files; a new clock gets a random one from 1000 to 1999.</source>
+        <translation>شمارهٔ ساعت در نام پرونده‌های نویسه‌اش؛ ساعت نو شماره‌ای تصادفی از ۱۰۰۰ تا ۱۹۹۹ می‌گیرد.</translation>
+    </message>
+    <message>
+        <source>Whether the clock runs ahead of or behind its zone by the adjustment.</source>
+        <translation>ساعت به اندازهٔ تنظیم از منطقهٔ خود جلوتر است یا عقب‌تر.</translation>
+    </message>
+    <message>
+        <source>How far the clock is off its zone: hours, &quot;A&quot;, minutes, &quot;B&quot;, seconds, two digits each.</source>
+        <translation>اختلاف ساعت با منطقهٔ خود: ساعت، «A»، دقیقه، «B»، ثانیه، هر یک دو رقم.</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>منطقهٔ زمانی</translation>
+    </message>
+    <message>
+        <source>Offset from UTC: a sign, then &quot;hh:mm&quot; or &quot;h:mm&quot;. The first character always counts as the sign.</source>
+        <translation>اختلاف با UTC: یک علامت و سپس «hh:mm» یا «h:mm». نویسهٔ نخست همیشه علامت شمرده می‌شود.</translation>
+    </message>
+    <message>
+        <source>Whether the clock is one hour ahead between the start and the end of daylight saving.</source>
+        <translation>آیا ساعت از آغاز تا پایان ساعت تابستانی یک ساعت جلوتر است.</translation>
+    </message>
+    <message>
+        <source>Start of daylight saving</source>
+        <translation>آغاز ساعت تابستانی</translation>
+    </message>
+    <message>
+        <source>When daylight saving starts, in standard time: month.occurrence.weekday.hh:mm:ss.</source>
+        <translation>زمان آغاز ساعت تابستانی، به وقت استاندارد: ماه.چندمین.روز هفته.hh:mm:ss.</translation>
+    </message>
+    <message>
+        <source>End of daylight saving</source>
+        <translation>پایان ساعت تابستانی</translation>
+    </message>
+    <message>
+        <source>When daylight saving ends, in standard time: month.occurrence.weekday.hh:mm:ss.</source>
+        <translation>زمان پایان ساعت تابستانی، به وقت استاندارد: ماه.چندمین.روز هفته.hh:mm:ss.</translation>
+    </message>
+    <message>
+        <source>Daylight-saving choice</source>
+        <translation>گزینهٔ ساعت تابستانی</translation>
+    </message>
+    <message>
+        <source>The rule chosen in the editor&apos;s list; stored only.</source>
+        <translation>قاعده‌ای که در فهرست ویرایشگر برگزیده شده؛ تنها ذخیره می‌شود.</translation>
+    </message>
+    <message>
+        <source>Zone choice</source>
+        <translation>گزینهٔ منطقه</translation>
+    </message>
+    <message>
+        <source>The zone chosen in the editor&apos;s list; stored only.</source>
+        <translation>منطقه‌ای که در فهرست ویرایشگر برگزیده شده؛ تنها ذخیره می‌شود.</translation>
+    </message>
+    <message>
+        <source>If present, the SDK export writes the node&apos;s GUID.</source>
+        <translation>اگر باشد، خروجی SDK شناسهٔ GUID گره را می‌نویسد.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ColourButton</name>
+    <message>
+        <source>Other colour…</source>
+        <translation>رنگ دیگر…</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>رنگ</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::FamilyBox</name>
+    <message>
+        <source>Default font</source>
+        <translation>قلم پیش‌فرض</translation>
+    </message>
+    <message>
+        <source>%1 (not installed)</source>
+        <translation>%1 (نصب نیست)</translation>
+    </message>
+    <message>
+        <source>%1 (missing %2)</source>
+        <translation>%1 (بدون %2)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::FindingsPanel</name>
+    <message>
+        <source>Fix</source>
+        <translation>اصلاح</translation>
+    </message>
+    <message>
+        <source>No findings.</source>
+        <translation>چیزی پیدا نشد.</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>یافته‌ها</translation>
+    </message>
+    <message>
+        <source>Apply the suggested fix</source>
+        <translation>پیشنهاد یافته را بنویس</translation>
+    </message>
+    <message>
+        <source>Clock %1: </source>
+        <translation>ساعت %1: </translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>سطر %1</translation>
+    </message>
+    <message>
+        <source>The text is not a valid program.</source>
+        <translation>متن یک برنامهٔ معتبر نیست.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Gallery</name>
+    <message>
+        <source>Back to the wall</source>
+        <translation>بازگشت به دیوار</translation>
+    </message>
+    <message>
+        <source>Empty wall</source>
+        <translation>دیوار خالی</translation>
+    </message>
+    <message>
+        <source>Open a file…</source>
+        <translation>باز کردن پرونده…</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>اخیر</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>پرونده‌های اخیر</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>الگوها</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>آغاز</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::KeysDialog</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>میان‌برهای صفحه‌کلید</translation>
+    </message>
+    <message>
+        <source>Move by one pixel</source>
+        <translation>جابه‌جایی یک پیکسل</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>کلیدهای جهت</translation>
+    </message>
+    <message>
+        <source>Move by eight pixels</source>
+        <translation>جابه‌جایی هشت پیکسل</translation>
+    </message>
+    <message>
+        <source>Shift + arrow keys</source>
+        <translation>Shift + کلیدهای جهت</translation>
+    </message>
+    <message>
+        <source>Resize by one pixel</source>
+        <translation>تغییر اندازه یک پیکسل</translation>
+    </message>
+    <message>
+        <source>Alt + arrow keys</source>
+        <translation>Alt + کلیدهای جهت</translation>
+    </message>
+    <message>
+        <source>Select the next clock</source>
+        <translation>انتخاب ساعت بعدی</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Select several clocks</source>
+        <translation>انتخاب چند ساعت</translation>
+    </message>
+    <message>
+        <source>Shift + click, or drag around them</source>
+        <translation>Shift + کلیک، یا کشیدن دور آن‌ها</translation>
+    </message>
+    <message>
+        <source>Drag without snapping</source>
+        <translation>کشیدن بدون چسبیدن</translation>
+    </message>
+    <message>
+        <source>Hold Alt</source>
+        <translation>نگه داشتن Alt</translation>
+    </message>
+    <message>
+        <source>Cancel a drag, clear the selection</source>
+        <translation>لغو کشیدن، بدون انتخاب</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>بزرگ‌نمایی در محل نشانگر</translation>
+    </message>
+    <message>
+        <source>Ctrl + wheel</source>
+        <translation>Ctrl + چرخ</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::MainWindow</name>
+    <message>
+        <source>Picture, plain pixels (*.png)</source>
+        <translation>تصویر، پیکسل ساده (*.png)</translation>
+    </message>
+    <message>
+        <source>Picture, as LEDs (*.png)</source>
+        <translation>تصویر، به شکل LED (*.png)</translation>
+    </message>
+    <message>
+        <source>Picture of the wall</source>
+        <translation>تصویر دیوار</translation>
+    </message>
+    <message>
+        <source>wall.png</source>
+        <translation>wall.png</translation>
+    </message>
+    <message>
+        <source>Approval sheet</source>
+        <translation>برگهٔ تأیید</translation>
+    </message>
+    <message>
+        <source>wall.pdf</source>
+        <translation>wall.pdf</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Animated preview</source>
+        <translation>پیش‌نمایش متحرک</translation>
+    </message>
+    <message>
+        <source>wall.gif</source>
+        <translation>wall.gif</translation>
+    </message>
+    <message>
+        <source>Animated picture (*.gif)</source>
+        <translation>تصویر متحرک (*.gif)</translation>
+    </message>
+    <message>
+        <source>Making the preview…</source>
+        <translation>در حال ساخت پیش‌نمایش…</translation>
+    </message>
+    <message>
+        <source>The preview could not be made: %1</source>
+        <translation>پیش‌نمایش ساخته نشد: %1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>%1 ذخیره شد</translation>
+    </message>
+    <message>
+        <source>Choose an empty folder, or one with an earlier export</source>
+        <translation>پوشهٔ خالی، یا پوشهٔ خروجی پیشین</translation>
+    </message>
+    <message>
+        <source>Generating the glyph files…</source>
+        <translation>در حال ساخت پرونده‌های نویسه…</translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation>خروجی در %1</translation>
+    </message>
+    <message>
+        <source>Import SDK XML</source>
+        <translation>ورود SDK XML</translation>
+    </message>
+    <message>
+        <source>SDK XML (*.xml);;All files (*)</source>
+        <translation>SDK XML (*.xml);;همهٔ پرونده‌ها (*)</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>در حال ورود…</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;پرونده</translation>
+    </message>
+    <message>
+        <source>&amp;New…</source>
+        <translation>&amp;نو…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;باز کردن…</translation>
+    </message>
+    <message>
+        <source>&amp;Import SDK XML…</source>
+        <translation>&amp;ورود SDK XML…</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>باز کردن &amp;اخیر</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;ذخیره</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>ذخیره با نا&amp;م…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Picture of the wall…</source>
+        <translation>&amp;تصویر دیوار…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+P</source>
+        <translation>Ctrl+Shift+P</translation>
+    </message>
+    <message>
+        <source>Animated pre&amp;view…</source>
+        <translation>&amp;پیش‌نمایش متحرک…</translation>
+    </message>
+    <message>
+        <source>Approval s&amp;heet…</source>
+        <translation>ب&amp;رگهٔ تأیید…</translation>
+    </message>
+    <message>
+        <source>&amp;Export with glyph files…</source>
+        <translation>&amp;خروجی با پرونده‌های نویسه…</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Sen&amp;d to a wall…</source>
+        <translation>ف&amp;رستادن به دیوار…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation>Ctrl+Return</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;خروج</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>هنوز هیچ</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;ویرایش</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;واگرد</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;ازنو</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;برش</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;رونوشت</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;چسباندن</translation>
+    </message>
+    <message>
+        <source>There is no clock on the clipboard</source>
+        <translation>در بریده‌دان ساعتی نیست</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>&amp;تکثیر</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>&amp;حذف</translation>
+    </message>
+    <message>
+        <source>Select &amp;all clocks</source>
+        <translation>انتخاب &amp;همهٔ ساعت‌ها</translation>
+    </message>
+    <message>
+        <source>&amp;Clock</source>
+        <translation>&amp;ساعت</translation>
+    </message>
+    <message>
+        <source>Bring to &amp;front</source>
+        <translation>آوردن به &amp;جلو</translation>
+    </message>
+    <message>
+        <source>Ctrl+]</source>
+        <translation>Ctrl+]</translation>
+    </message>
+    <message>
+        <source>Send to &amp;back</source>
+        <translation>بردن به &amp;پشت</translation>
+    </message>
+    <message>
+        <source>Ctrl+[</source>
+        <translation>Ctrl+[</translation>
+    </message>
+    <message>
+        <source>Align &amp;left</source>
+        <translation>تراز &amp;چپ</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+L</source>
+        <translation>Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>Align &amp;centre</source>
+        <translation>تراز &amp;میانهٔ افقی</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Align &amp;right</source>
+        <translation>تراز &amp;راست</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Align &amp;top</source>
+        <translation>تراز &amp;بالا</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+T</source>
+        <translation>Ctrl+Shift+T</translation>
+    </message>
+    <message>
+        <source>Align &amp;middle</source>
+        <translation>تراز میانهٔ &amp;عمودی</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+M</source>
+        <translation>Ctrl+Shift+M</translation>
+    </message>
+    <message>
+        <source>Align b&amp;ottom</source>
+        <translation>تراز &amp;پایین</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+B</source>
+        <translation>Ctrl+Shift+B</translation>
+    </message>
+    <message>
+        <source>Distribute &amp;horizontally</source>
+        <translation>پخش &amp;افقی</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+H</source>
+        <translation>Ctrl+Shift+H</translation>
+    </message>
+    <message>
+        <source>Distribute &amp;vertically</source>
+        <translation>پخش ع&amp;مودی</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>Stack in a ro&amp;w</source>
+        <translation>چیدن در ر&amp;دیف</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Stack in a col&amp;umn</source>
+        <translation>چیدن در س&amp;تون</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+D</source>
+        <translation>Ctrl+Shift+D</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;نما</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>&amp;بزرگ‌نمایی</translation>
+    </message>
+    <message>
+        <source>Ctrl+=</source>
+        <translation>Ctrl+=</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>&amp;کوچک‌نمایی</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to window</source>
+        <translation>ا&amp;ندازهٔ پنجره</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>Show as LE&amp;Ds</source>
+        <translation>نمایش به شکل LE&amp;D</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>&amp;Panel grid</source>
+        <translation>شبکهٔ &amp;پنل‌ها</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>هیچ</translation>
+    </message>
+    <message>
+        <source>F4</source>
+        <translation>F4</translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation>F8</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the clocks</source>
+        <translation>&amp;زبان ساعت‌ها</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;راهنما</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>میان‌برهای &amp;صفحه‌کلید</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation>F1</translation>
+    </message>
+    <message>
+        <source>&amp;About Clock Studio</source>
+        <translation>&amp;دربارهٔ استودیوی ساعت</translation>
+    </message>
+    <message>
+        <source>Digital clock</source>
+        <translation>ساعت رقمی</translation>
+    </message>
+    <message>
+        <source>D</source>
+        <translation>D</translation>
+    </message>
+    <message>
+        <source>Analog clock</source>
+        <translation>ساعت عقربه‌ای</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Picture clock</source>
+        <translation>ساعت تصویری</translation>
+    </message>
+    <message>
+        <source>P</source>
+        <translation>P</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>ابزارها</translation>
+    </message>
+    <message>
+        <source>%1: drag a rectangle on the wall (%2)</source>
+        <translation>%1: جایش را روی دیوار بکشید (%2)</translation>
+    </message>
+    <message>
+        <source>About Clock Studio</source>
+        <translation>دربارهٔ استودیوی ساعت</translation>
+    </message>
+    <message>
+        <source>%1 was deleted from disk. Your work is still open here.</source>
+        <translation>%1 دیگر روی دیسک نیست. کار شما هنوز اینجاست.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>ذخیره</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>بستن</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>ویژگی‌ها</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>یافته‌ها</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>متن برنامه</translation>
+    </message>
+    <message>
+        <source>Open a program</source>
+        <translation>باز کردن برنامه</translation>
+    </message>
+    <message>
+        <source>Programs (%1);;All files (*)</source>
+        <translation>برنامه‌ها (%1);;همهٔ پرونده‌ها (*)</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>ذخیره شد</translation>
+    </message>
+    <message>
+        <source>Save the program</source>
+        <translation>ذخیرهٔ برنامه</translation>
+    </message>
+    <message>
+        <source>wall.xml</source>
+        <translation>wall.xml</translation>
+    </message>
+    <message>
+        <source>Programs (%1)</source>
+        <translation>برنامه‌ها (%1)</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>کار ذخیره‌نشده</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation>تغییرات %1 ذخیره شود؟</translation>
+    </message>
+    <message>
+        <source>a new wall</source>
+        <translation>دیوار تازه</translation>
+    </message>
+    <message>
+        <source>The studio closed unexpectedly. Unsaved changes to %1 can be recovered.</source>
+        <translation>استودیو ناگهان بسته شد. کار ذخیره‌نشدهٔ %1 نگه داشته شد.</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>بازیابی</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>دور انداختن</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 را برنامهٔ دیگری تغییر داد.</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>بار کردن دوباره</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>نگه داشتن کار من</translation>
+    </message>
+    <message>
+        <source>Clock Studio</source>
+        <translation>استودیوی ساعت</translation>
+    </message>
+    <message>
+        <source>%1[*] – Clock Studio</source>
+        <translation>%1[*] – استودیوی ساعت</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 The wall shows the last valid version.</source>
+        <translation>سطر %1: %2 دیوار آخرین نسخهٔ درست را نشان می‌دهد.</translation>
+    </message>
+    <message>
+        <source>Go to line</source>
+        <translation>نمایش سطر</translation>
+    </message>
+    <message>
+        <source>Findings (%1)</source>
+        <translation>یافته‌ها (%1)</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. All clocks are drawn by the clock plugin itself.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;استودیوی ساعت %1&lt;/h3&gt;&lt;p&gt;ویرایشگری برای دیوارهای ساعت. همهٔ ساعت‌ها را خود افزونهٔ ساعت می‌کشد.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::NumberEditor</name>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Preview</name>
+    <message>
+        <source>ImageMagick is not installed (package imagemagick).</source>
+        <translation>ImageMagick نصب نیست (بستهٔ imagemagick).</translation>
+    </message>
+    <message>
+        <source>The pictures of the preview could not be written.</source>
+        <translation>تصویرهای پیش‌نمایش نوشته نشدند.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ProgramFiles</name>
+    <message>
+        <source>Untitled</source>
+        <translation>بی‌نام</translation>
+    </message>
+    <message>
+        <source>%1 is damaged or not a text file.</source>
+        <translation>%1 خراب است یا متن نیست.</translation>
+    </message>
+    <message>
+        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
+        <translation>کدگذاری پرونده یکی از نویسه‌های این متن را ندارد.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::PropertyGroups</name>
+    <message>
+        <source>Time</source>
+        <translation>زمان</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>قالب</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>ساعت</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>قلم</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>برچسب</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>متن</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>تاریخ</translation>
+    </message>
+    <message>
+        <source>Weekday</source>
+        <translation>روز هفته</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>زبان</translation>
+    </message>
+    <message>
+        <source>Lunar date</source>
+        <translation>تاریخ قمری</translation>
+    </message>
+    <message>
+        <source>Arrangement</source>
+        <translation>چیدمان</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>آرایش</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>فاصله</translation>
+    </message>
+    <message>
+        <source>Hands</source>
+        <translation>عقربه‌ها</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>ساعت</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>دقیقه</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>ثانیه</translation>
+    </message>
+    <message>
+        <source>Dial</source>
+        <translation>صفحه</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>دقیقه</translation>
+    </message>
+    <message>
+        <source>Numerals</source>
+        <translation>اعداد</translation>
+    </message>
+    <message>
+        <source>AM and PM</source>
+        <translation>ق.ظ و ب.ظ</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>تصویرها</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>سبک</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::PropertyPanel</name>
+    <message>
+        <source>Digital</source>
+        <translation>رقمی</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>عقربه‌ای</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>تصویری</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>پهنا به پیکسل</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>بلندی به پیکسل</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>پهنا</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>بلندی</translation>
+    </message>
+    <message>
+        <source>Select a clock on the wall to change it, or add one with the buttons above the wall.</source>
+        <translation>برای تغییر، ساعتی را روی دیوار برگزینید، یا با دکمه‌های بالا یکی بیفزایید.</translation>
+    </message>
+    <message>
+        <source>Position and size</source>
+        <translation>جا و اندازه</translation>
+    </message>
+    <message>
+        <source>Left edge in pixels</source>
+        <translation>لبهٔ چپ، پیکسل</translation>
+    </message>
+    <message>
+        <source>Top edge in pixels</source>
+        <translation>لبهٔ بالا، پیکسل</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>موقعیت</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>اندازه</translation>
+    </message>
+    <message>
+        <source>Fit sizes to the area</source>
+        <translation>جور کردن اندازه‌ها با ناحیه</translation>
+    </message>
+    <message>
+        <source>Make the texts as large as the area allows on any day of the year</source>
+        <translation>متن‌ها تا جایی که ناحیه در همهٔ روزهای سال اجازه دهد بزرگ شوند</translation>
+    </message>
+    <message>
+        <source>Reset to the default</source>
+        <translation>بازگشت به پیش‌فرض</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>دیوار</translation>
+    </message>
+    <message>
+        <source>Clock %1</source>
+        <translation>ساعت %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clocks</source>
+        <translation>
+            <numerusform>%n ساعت</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kind of clock</source>
+        <translation>نوع ساعت</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>بازنشانی</translation>
+    </message>
+    <message>
+        <source>Fit sizes</source>
+        <translation>جور کردن اندازه‌ها</translation>
+    </message>
+    <message>
+        <source>Size of the wall</source>
+        <translation>اندازهٔ دیوار</translation>
+    </message>
+    <message>
+        <source>Move and resize</source>
+        <translation>جابه‌جایی و تغییر اندازه</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Section</name>
+    <message>
+        <source>Show</source>
+        <translation>نمایش</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::SendDialog</name>
+    <message>
+        <source>Send to a wall</source>
+        <translation>فرستادن به دیوار</translation>
+    </message>
+    <message>
+        <source>/srv/wall</source>
+        <translation>/srv/wall</translation>
+    </message>
+    <message>
+        <source>empty for ssh&apos;s default key</source>
+        <translation>خالی برای کلید پیش‌فرض ssh</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>دیوار</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>میزبان</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>پوشه</translation>
+    </message>
+    <message>
+        <source>Key file</source>
+        <translation>پروندهٔ کلید</translation>
+    </message>
+    <message>
+        <source>Earlier releases</source>
+        <translation>نسخه‌های پیشین</translation>
+    </message>
+    <message>
+        <source>Play the selected release</source>
+        <translation>پخش دوبارهٔ نسخهٔ برگزیده</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>فرستادن</translation>
+    </message>
+    <message>
+        <source>Cancelled. The wall is unchanged.</source>
+        <translation>لغو شد. دیوار همان را نشان می‌دهد که بود.</translation>
+    </message>
+    <message>
+        <source>Generating the glyph files…</source>
+        <translation>در حال ساخت پرونده‌های نویسه…</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>در حال فرستادن به %1…</translation>
+    </message>
+    <message>
+        <source>%1 now has release %2. The previous one is kept.</source>
+        <translation>%1 نسخهٔ %2 را دارد. نسخهٔ پیشین نگه داشته شد.</translation>
+    </message>
+    <message>
+        <source>There are no releases yet.</source>
+        <translation>هنوز نسخه‌ای نیست.</translation>
+    </message>
+    <message>
+        <source>Switching releases…</source>
+        <translation>در حال تعویض نسخه…</translation>
+    </message>
+    <message>
+        <source>%1 has release %2.</source>
+        <translation>%1 نسخهٔ %2 را دارد.</translation>
+    </message>
+    <message>
+        <source>empty for this computer, or operator@wall.example:22</source>
+        <translation>برای این رایانه خالی، یا operator@wall.example:22</translation>
+    </message>
+    <message>
+        <source>none, or /run/clock-player/status.json</source>
+        <translation>هیچ، یا /run/clock-player/status.json</translation>
+    </message>
+    <message>
+        <source>The player&apos;s status file on the wall. It shows whether the wall is playing what was sent.</source>
+        <translation>پرونده وضعیت پخش‌کننده روی دیوار. نشان می‌دهد دیوار آنچه را فرستاده شده پخش می‌کند یا نه.</translation>
+    </message>
+    <message>
+        <source>Status file</source>
+        <translation>پرونده وضعیت</translation>
+    </message>
+    <message>
+        <source>Choose the key file</source>
+        <translation>گزینش پرونده کلید</translation>
+    </message>
+    <message>
+        <source>Removing the incomplete release…</source>
+        <translation>برداشتن آنچه فرستاده شد…</translation>
+    </message>
+    <message>
+        <source>Waiting for the wall to play the release…</source>
+        <translation>در انتظار پخش روی دیوار…</translation>
+    </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>پرسش از %1…</translation>
+    </message>
+    <message>
+        <source>%1 (playing)</source>
+        <translation>%1 (در حال پخش)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Sheet</name>
+    <message>
+        <source>yes</source>
+        <translation>بله</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>خیر</translation>
+    </message>
+    <message>
+        <source>Clock %1</source>
+        <translation>ساعت %1</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>یافته‌ها</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>هیچ</translation>
+    </message>
+    <message>
+        <source>Approved by ______________________   on ______________</source>
+        <translation>تأیید ______________________   تاریخ ______________</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::SourceView</name>
+    <message>
+        <source>Program text</source>
+        <translation>متن برنامه</translation>
+    </message>
+    <message>
+        <source>The XML of the program. Changes appear on the wall immediately.</source>
+        <translation>XML برنامه. تغییرات بی‌درنگ روی دیوار دیده می‌شوند.</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>تایپ</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Templates</name>
+    <message>
+        <source>Railway station</source>
+        <translation>ایستگاه راه‌آهن</translation>
+    </message>
+    <message>
+        <source>A station clock beside the time, the date and the platform</source>
+        <translation>ساعت ایستگاه کنار زمان، تاریخ و سکو</translation>
+    </message>
+    <message>
+        <source>Airport</source>
+        <translation>فرودگاه</translation>
+    </message>
+    <message>
+        <source>Local time and UTC above four cities</source>
+        <translation>زمان محلی و UTC بالای چهار شهر</translation>
+    </message>
+    <message>
+        <source>World offices</source>
+        <translation>دفترهای جهان</translation>
+    </message>
+    <message>
+        <source>Five dials with their cities</source>
+        <translation>پنج صفحه با شهرهایشان</translation>
+    </message>
+    <message>
+        <source>Stock exchange</source>
+        <translation>بورس</translation>
+    </message>
+    <message>
+        <source>The time at four exchanges</source>
+        <translation>زمان چهار بورس</translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation>بانک</translation>
+    </message>
+    <message>
+        <source>A plain dial with the date</source>
+        <translation>صفحه‌ای آرام با تاریخ</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>مدرسه</translation>
+    </message>
+    <message>
+        <source>Time, weekday and date, readable from a distance</source>
+        <translation>زمان، روز و تاریخ، خوانا از دور</translation>
+    </message>
+    <message>
+        <source>Factory shift</source>
+        <translation>نوبت کارخانه</translation>
+    </message>
+    <message>
+        <source>Large time with seconds, the shift and the date</source>
+        <translation>ثانیه‌های بزرگ، با نوبت و تاریخ</translation>
+    </message>
+    <message>
+        <source>Prayer hall</source>
+        <translation>نمازخانه</translation>
+    </message>
+    <message>
+        <source>A dial with the Persian date and weekday</source>
+        <translation>صفحه با تاریخ و روز ایرانی</translation>
+    </message>
+    <message>
+        <source>Chinese date and lunar date</source>
+        <translation>تاریخ چینی و قمری</translation>
+    </message>
+    <message>
+        <source>The time with the Chinese date, weekday and lunar date</source>
+        <translation>زمان با تاریخ، روز و تاریخ قمری چینی</translation>
+    </message>
+    <message>
+        <source>Hospital</source>
+        <translation>بیمارستان</translation>
+    </message>
+    <message>
+        <source>A clear dial with a second hand, and the weekday</source>
+        <translation>صفحهٔ روشن با ثانیه‌شمار و روز هفته</translation>
+    </message>
+    <message>
+        <source>Sports hall</source>
+        <translation>سالن ورزش</translation>
+    </message>
+    <message>
+        <source>Only the time, with seconds</source>
+        <translation>تنها زمان، با ثانیه</translation>
+    </message>
+    <message>
+        <source>Hotel lobby</source>
+        <translation>سرسرای هتل</translation>
+    </message>
+    <message>
+        <source>Three picture clocks with their cities</source>
+        <translation>سه ساعت تصویری با شهرهایشان</translation>
+    </message>
+    <message>
+        <source>12-hour clock</source>
+        <translation>دوازده‌ساعته</translation>
+    </message>
+    <message>
+        <source>The time with AM or PM</source>
+        <translation>زمان با ق.ظ و ب.ظ</translation>
+    </message>
+    <message>
+        <source>One line</source>
+        <translation>یک سطر</translation>
+    </message>
+    <message>
+        <source>Everything on one line, for long narrow walls</source>
+        <translation>همه در یک سطر، برای دیوارهای باریک</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TextEditor</name>
+    <message>
+        <source>mixed</source>
+        <translation>چند متن</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TextFault</name>
+    <message>
+        <source>A program must not have a document type declaration.</source>
+        <translation>برنامه اعلان نوع سند ندارد.</translation>
+    </message>
+    <message>
+        <source>This is not a program.</source>
+        <translation>این برنامه نیست.</translation>
+    </message>
+    <message>
+        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
+        <translation>کدگذاری پرونده یکی از نویسه‌های این متن را ندارد.</translation>
+    </message>
+    <message>
+        <source>The text is too large for a program.</source>
+        <translation>این متن برای برنامه بلند است.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TimeBar</name>
+    <message>
+        <source>Daylight saving</source>
+        <translation>ساعت تابستانی</translation>
+    </message>
+    <message>
+        <source>Midnight</source>
+        <translation>نیمه‌شب</translation>
+    </message>
+    <message>
+        <source>New month</source>
+        <translation>ماه نو</translation>
+    </message>
+    <message>
+        <source>New year</source>
+        <translation>سال نو</translation>
+    </message>
+    <message>
+        <source>New lunar month</source>
+        <translation>ماه قمری نو</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>اکنون</translation>
+    </message>
+    <message>
+        <source>Show the current time</source>
+        <translation>نمایش زمان اکنون</translation>
+    </message>
+    <message>
+        <source>Next change</source>
+        <translation>تغییر بعدی</translation>
+    </message>
+    <message>
+        <source>Jump to just before the next change</source>
+        <translation>رفتن به کمی پیش از تغییر بعدی</translation>
+    </message>
+    <message>
+        <source>Date and time that the wall shows</source>
+        <translation>تاریخ و زمانی که دیوار نشان می‌دهد</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>زمان روز</translation>
+    </message>
+    <message>
+        <source>Drag through the hours of the day</source>
+        <translation>در ساعت‌های روز بکشید</translation>
+    </message>
+    <message>
+        <source>Playback speed</source>
+        <translation>سرعت پخش</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>مکث</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>پخش</translation>
+    </message>
+    <message>
+        <source>Pause the time</source>
+        <translation>نگه داشتن زمان</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>ادامه</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ToolRun</name>
+    <message>
+        <source>Cancel</source>
+        <translation>لغو</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started. Is it installed?</source>
+        <translation>%1 اجرا نشد. آیا نصب شده است؟</translation>
+    </message>
+    <message>
+        <source>%1 exited with code %2.</source>
+        <translation>%1 با کد %2 پایان یافت.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallEditor</name>
+    <message>
+        <source>Move</source>
+        <translation>جابه‌جایی</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>تغییر اندازه</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>تراز</translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation>پخش</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>چیدن</translation>
+    </message>
+    <message>
+        <source>Bring to front</source>
+        <translation>آوردن به جلو</translation>
+    </message>
+    <message>
+        <source>Send to back</source>
+        <translation>بردن به پشت</translation>
+    </message>
+    <message>
+        <source>Add a clock</source>
+        <translation>افزودن ساعت</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>تکثیر</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>چسباندن</translation>
+    </message>
+    <message>
+        <source>Resize the wall</source>
+        <translation>اندازهٔ دیوار</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallMouse</name>
+    <message>
+        <source>Move</source>
+        <translation>جابه‌جایی</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>تغییر اندازه</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallTarget</name>
+    <message>
+        <source>The wall needs a name.</source>
+        <translation>دیوار نام می‌خواهد.</translation>
+    </message>
+    <message>
+        <source>Write the host as operator@wall.example or operator@wall.example:22.</source>
+        <translation>میزبان را به شکل operator@wall.example یا operator@wall.example:22 بنویسید.</translation>
+    </message>
+    <message>
+        <source>The folder must be an absolute path.</source>
+        <translation>پوشه باید مسیری مطلق باشد.</translation>
+    </message>
+    <message>
+        <source>The status file must be an absolute path.</source>
+        <translation>پروندهٔ وضعیت باید مسیری مطلق باشد.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallView</name>
+    <message>
+        <source>Wall</source>
+        <translation>دیوار</translation>
+    </message>
+    <message>
+        <source>The clocks of the program as shown on the wall. Tab selects the next one.</source>
+        <translation>ساعت‌های برنامه چنان که دیوار نشان می‌دهد. Tab بعدی را برمی‌گزیند.</translation>
+    </message>
+    <message>
+        <source>Choose a type of clock above, then drag a rectangle here</source>
+        <translation>نوع ساعت را در بالا برگزینید و جایش را اینجا بکشید</translation>
+    </message>
+    <message>
+        <source>Clock %1 of %2</source>
+        <translation>ساعت %1 از %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clock(s) selected</source>
+        <translation>
+            <numerusform>%n ساعت برگزیده</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::WallWord</name>
     <message>
-        <source>The wall plays it.</source>
-        <translation>دیوار آن را پخش می‌کند.</translation>
+        <source>The wall is playing this program.</source>
+        <translation>دیوار این برنامه را پخش می‌کند.</translation>
     </message>
     <message>
-        <source>The wall plays something else.</source>
+        <source>The wall is playing something else.</source>
         <translation>دیوار چیز دیگری پخش می‌کند.</translation>
     </message>
     <message>
@@ -2090,7 +2047,7 @@
         <translation>دیوار به جای برنامه پیام %1 را نشان می‌دهد.</translation>
     </message>
     <message>
-        <source>The wall&apos;s player has not been heard of since %1.</source>
+        <source>The wall&apos;s player has not been heard from since %1.</source>
         <translation>از %1 خبری از پخش‌کننده دیوار نیست.</translation>
     </message>
     <message>
@@ -2107,6 +2064,102 @@
     <message>
         <source>%1 could not be saved: %2</source>
         <translation>%1 ذخیره نشد: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ZoneDialog</name>
+    <message>
+        <source>Choose a city</source>
+        <translation>انتخاب شهر</translation>
+    </message>
+    <message>
+        <source>City, country or offset, such as Berlin or +05:30</source>
+        <translation>شهر، کشور یا اختلاف، مانند Berlin یا +05:30</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>جست‌وجو</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>شهرها</translation>
+    </message>
+    <message>
+        <source>Use this time zone</source>
+        <translation>کاربرد این منطقهٔ زمانی</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ZoneSection</name>
+    <message>
+        <source>Time zone</source>
+        <translation>منطقهٔ زمانی</translation>
+    </message>
+    <message>
+        <source>City whose time is shown</source>
+        <translation>شهری که زمانش نشان داده می‌شود</translation>
+    </message>
+    <message>
+        <source>Choose the city whose time the clock shows</source>
+        <translation>شهری را برگزینید که ساعت زمانش را نشان دهد</translation>
+    </message>
+    <message>
+        <source>Adjustment</source>
+        <translation>تنظیم</translation>
+    </message>
+    <message>
+        <source>ahead</source>
+        <translation>جلو</translation>
+    </message>
+    <message>
+        <source>behind</source>
+        <translation>عقب</translation>
+    </message>
+    <message>
+        <source>Direction of the adjustment</source>
+        <translation>جهت تنظیم</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>شهر</translation>
+    </message>
+    <message>
+        <source>Adjust by</source>
+        <translation>تنظیم</translation>
+    </message>
+    <message>
+        <source>Several zones</source>
+        <translation>چند منطقه</translation>
+    </message>
+    <message>
+        <source>No daylight saving.</source>
+        <translation>بدون ساعت تابستانی.</translation>
+    </message>
+    <message>
+        <source>Daylight saving is on, but its rules are invalid.</source>
+        <translation>ساعت تابستانی بدون قاعدهٔ درست.</translation>
+    </message>
+    <message>
+        <source>Daylight saving begins on %1.</source>
+        <translation>ساعت تابستانی از %1 آغاز می‌شود.</translation>
+    </message>
+    <message>
+        <source>Daylight saving ends on %1.</source>
+        <translation>ساعت تابستانی در %1 پایان می‌یابد.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A clock cannot follow this zone exactly: its daylight saving is not the same every year. The clock will be wrong in %n period(s) of the next ten years, first from %1 to %2.</source>
+        <translation>
+            <numerusform>ساعت نمی‌تواند این منطقه را دقیق دنبال کند: ساعت تابستانی آن هر سال یکسان نیست. در ده سال %n بار نادرست است، نخست از %1 تا %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No known zone has these rules.</source>
+        <translation>هیچ منطقه شناخته‌شده‌ای این قاعده‌ها را ندارد.</translation>
+    </message>
+    <message>
+        <source>The rules hold for %1 until %2 at least.</source>
+        <translation>این قاعده‌ها برای %1 دست‌کم تا %2 درست‌اند.</translation>
     </message>
 </context>
 </TS>

@@ -2,1502 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh">
 <context>
-    <name>ClockStudio::ColourButton</name>
-    <message>
-        <source>Other colour…</source>
-        <translation>其他颜色…</translation>
-    </message>
-    <message>
-        <source>Colour</source>
-        <translation>颜色</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::FamilyBox</name>
-    <message>
-        <source>Default font</source>
-        <translation>默认字体</translation>
-    </message>
-    <message>
-        <source>%1 (not installed)</source>
-        <translation>%1（未安装）</translation>
-    </message>
-    <message>
-        <source>%1 (missing %2)</source>
-        <translation>%1（缺少 %2）</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::FindingsPanel</name>
-    <message>
-        <source>Mend</source>
-        <translation>修正</translation>
-    </message>
-    <message>
-        <source>No findings.</source>
-        <translation>未发现问题。</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>检查结果</translation>
-    </message>
-    <message>
-        <source>Apply the suggestion of the finding</source>
-        <translation>写入建议的内容</translation>
-    </message>
-    <message>
-        <source>Clock %1: </source>
-        <translation>时钟 %1：</translation>
-    </message>
-    <message>
-        <source>Line %1</source>
-        <translation>第 %1 行</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Gallery</name>
-    <message>
-        <source>Back to the wall</source>
-        <translation>返回墙面</translation>
-    </message>
-    <message>
-        <source>Empty wall</source>
-        <translation>空白墙</translation>
-    </message>
-    <message>
-        <source>Open a file…</source>
-        <translation>打开文件…</translation>
-    </message>
-    <message>
-        <source>Begin</source>
-        <translation>开始</translation>
-    </message>
-    <message>
-        <source>Recent</source>
-        <translation>最近</translation>
-    </message>
-    <message>
-        <source>Recent files</source>
-        <translation>最近的文件</translation>
-    </message>
-    <message>
-        <source>Templates</source>
-        <translation>模板</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::KeysDialog</name>
-    <message>
-        <source>Keys</source>
-        <translation>按键</translation>
-    </message>
-    <message>
-        <source>Move by one pixel</source>
-        <translation>移动一个像素</translation>
-    </message>
-    <message>
-        <source>Arrow keys</source>
-        <translation>方向键</translation>
-    </message>
-    <message>
-        <source>Move by eight pixels</source>
-        <translation>移动八个像素</translation>
-    </message>
-    <message>
-        <source>Shift + arrow keys</source>
-        <translation>Shift + 方向键</translation>
-    </message>
-    <message>
-        <source>Resize by one pixel</source>
-        <translation>大小改变一个像素</translation>
-    </message>
-    <message>
-        <source>Alt + arrow keys</source>
-        <translation>Alt + 方向键</translation>
-    </message>
-    <message>
-        <source>Select the next clock</source>
-        <translation>选择下一个时钟</translation>
-    </message>
-    <message>
-        <source>Tab</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select several clocks</source>
-        <translation>选择多个时钟</translation>
-    </message>
-    <message>
-        <source>Shift + click, or drag around them</source>
-        <translation>Shift + 单击，或拖动框选</translation>
-    </message>
-    <message>
-        <source>Drag without snapping</source>
-        <translation>拖动时不吸附</translation>
-    </message>
-    <message>
-        <source>Hold Alt</source>
-        <translation>按住 Alt</translation>
-    </message>
-    <message>
-        <source>Cancel a drag, clear the selection</source>
-        <translation>取消拖动，不选任何时钟</translation>
-    </message>
-    <message>
-        <source>Esc</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zoom at the pointer</source>
-        <translation>在指针处缩放</translation>
-    </message>
-    <message>
-        <source>Ctrl + wheel</source>
-        <translation>Ctrl + 滚轮</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::MainWindow</name>
-    <message>
-        <source>Picture, plain pixels (*.png)</source>
-        <translation>图片，普通像素 (*.png)</translation>
-    </message>
-    <message>
-        <source>Picture, as diodes (*.png)</source>
-        <translation>图片，二极管效果 (*.png)</translation>
-    </message>
-    <message>
-        <source>Picture of the wall</source>
-        <translation>墙的图片</translation>
-    </message>
-    <message>
-        <source>wall.png</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sheet for approval</source>
-        <translation>审批单</translation>
-    </message>
-    <message>
-        <source>wall.pdf</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>PDF (*.pdf)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Animated preview</source>
-        <translation>动画预览</translation>
-    </message>
-    <message>
-        <source>wall.gif</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Animated picture (*.gif)</source>
-        <translation>动画图片 (*.gif)</translation>
-    </message>
-    <message>
-        <source>Making the preview…</source>
-        <translation>正在生成预览…</translation>
-    </message>
-    <message>
-        <source>The preview could not be made: %1</source>
-        <translation>无法生成预览：%1</translation>
-    </message>
-    <message>
-        <source>Saved %1</source>
-        <translation>已保存 %1</translation>
-    </message>
-    <message>
-        <source>%1 could not be written.</source>
-        <translation>无法写入 %1。</translation>
-    </message>
-    <message>
-        <source>Choose an empty folder, or one with an earlier export</source>
-        <translation>空文件夹，或含有先前导出的文件夹</translation>
-    </message>
-    <message>
-        <source>Making the glyph files…</source>
-        <translation>正在生成字形文件…</translation>
-    </message>
-    <message>
-        <source>Exported to %1</source>
-        <translation>已导出到 %1</translation>
-    </message>
-    <message>
-        <source>Import SDK XML</source>
-        <translation>导入 SDK XML</translation>
-    </message>
-    <message>
-        <source>SDK XML (*.xml);;All files (*)</source>
-        <translation>SDK XML (*.xml);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>Importing…</source>
-        <translation>正在导入…</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>文件(&amp;F)</translation>
-    </message>
-    <message>
-        <source>&amp;New…</source>
-        <translation>新建(&amp;N)…</translation>
-    </message>
-    <message>
-        <source>&amp;Open…</source>
-        <translation>打开(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Import SDK XML…</source>
-        <translation>导入 SDK XML(&amp;I)…</translation>
-    </message>
-    <message>
-        <source>Open &amp;recent</source>
-        <translation>最近的文件(&amp;R)</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>保存(&amp;S)</translation>
-    </message>
-    <message>
-        <source>Save &amp;as…</source>
-        <translation>另存为(&amp;A)…</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+S</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Picture of the wall…</source>
-        <translation>墙的图片(&amp;P)…</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+P</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Animated pre&amp;view…</source>
-        <translation>动画预览(&amp;V)…</translation>
-    </message>
-    <message>
-        <source>S&amp;heet for approval…</source>
-        <translation>审批单(&amp;H)…</translation>
-    </message>
-    <message>
-        <source>&amp;Export with glyph files…</source>
-        <translation>连同字形文件导出(&amp;E)…</translation>
-    </message>
-    <message>
-        <source>Ctrl+E</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Sen&amp;d to a wall…</source>
-        <translation>发送到墙(&amp;D)…</translation>
-    </message>
-    <message>
-        <source>Ctrl+Return</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>退出(&amp;Q)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>暂无</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>编辑(&amp;E)</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>撤销(&amp;U)</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>重做(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Cu&amp;t</source>
-        <translation>剪切(&amp;T)</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>复制(&amp;C)</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>粘贴(&amp;P)</translation>
-    </message>
-    <message>
-        <source>There is no clock in the clipboard</source>
-        <translation>剪贴板上没有时钟</translation>
-    </message>
-    <message>
-        <source>&amp;Duplicate</source>
-        <translation>创建副本(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Ctrl+D</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>De&amp;lete</source>
-        <translation>删除(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Select &amp;all clocks</source>
-        <translation>选择所有时钟(&amp;A)</translation>
-    </message>
-    <message>
-        <source>&amp;Clock</source>
-        <translation>时钟(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Bring to &amp;front</source>
-        <translation>置于顶层(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Ctrl+]</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Send to &amp;back</source>
-        <translation>置于底层(&amp;B)</translation>
-    </message>
-    <message>
-        <source>Ctrl+[</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;left</source>
-        <translation>左对齐(&amp;L)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+L</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;centre</source>
-        <translation>水平居中(&amp;C)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+C</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;right</source>
-        <translation>右对齐(&amp;R)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+R</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;top</source>
-        <translation>顶部对齐(&amp;T)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+T</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align &amp;middle</source>
-        <translation>垂直居中(&amp;M)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+M</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Align b&amp;ottom</source>
-        <translation>底部对齐(&amp;O)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+B</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Distribute &amp;across</source>
-        <translation>水平分布(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+H</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Distribute &amp;down</source>
-        <translation>垂直分布(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+V</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stack in a ro&amp;w</source>
-        <translation>排成一行(&amp;W)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+A</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stack in a col&amp;umn</source>
-        <translation>排成一列(&amp;U)</translation>
-    </message>
-    <message>
-        <source>Ctrl+Shift+D</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>视图(&amp;V)</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;in</source>
-        <translation>放大(&amp;I)</translation>
-    </message>
-    <message>
-        <source>Ctrl+=</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Zoom &amp;out</source>
-        <translation>缩小(&amp;O)</translation>
-    </message>
-    <message>
-        <source>&amp;Fit to window</source>
-        <translation>适合窗口(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Ctrl+0</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>As &amp;diodes</source>
-        <translation>二极管效果(&amp;D)</translation>
-    </message>
-    <message>
-        <source>Ctrl+L</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Panel grid</source>
-        <translation>模组网格(&amp;P)</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>F4</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>F8</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;Language of the clocks</source>
-        <translation>时钟的语言(&amp;L)</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>帮助(&amp;H)</translation>
-    </message>
-    <message>
-        <source>&amp;Keys</source>
-        <translation>按键(&amp;K)</translation>
-    </message>
-    <message>
-        <source>F1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>&amp;About Clock Studio</source>
-        <translation>关于时钟工作室(&amp;A)</translation>
-    </message>
-    <message>
-        <source>Digital clock</source>
-        <translation>数字时钟</translation>
-    </message>
-    <message>
-        <source>D</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Analog clock</source>
-        <translation>指针时钟</translation>
-    </message>
-    <message>
-        <source>A</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Picture clock</source>
-        <translation>图片时钟</translation>
-    </message>
-    <message>
-        <source>P</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tools</source>
-        <translation>工具</translation>
-    </message>
-    <message>
-        <source>%1: drag a rectangle on the wall (%2)</source>
-        <translation>%1：在墙上画出它的位置（%2）</translation>
-    </message>
-    <message>
-        <source>About Clock Studio</source>
-        <translation>关于时钟工作室</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. What it shows, the clocks&apos; own code draws.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;时钟工作室 %1&lt;/h3&gt;&lt;p&gt;设计时钟墙。所显示的内容由时钟自己的代码绘制。&lt;/p&gt;</translation>
-    </message>
-    <message>
-        <source>%1 was deleted from the disk. Your work is still open here.</source>
-        <translation>%1 已不在磁盘上。您的工作仍在这里。</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Properties</source>
-        <translation>属性</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>检查结果</translation>
-    </message>
-    <message>
-        <source>Source</source>
-        <translation>源文本</translation>
-    </message>
-    <message>
-        <source>Open a program</source>
-        <translation>打开节目</translation>
-    </message>
-    <message>
-        <source>Programs (%1);;All files (*)</source>
-        <translation>节目 (%1);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>Saved</source>
-        <translation>已保存</translation>
-    </message>
-    <message>
-        <source>Save the program</source>
-        <translation>保存节目</translation>
-    </message>
-    <message>
-        <source>wall.xml</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Programs (%1)</source>
-        <translation>节目 (%1)</translation>
-    </message>
-    <message>
-        <source>Unsaved work</source>
-        <translation>未保存的工作</translation>
-    </message>
-    <message>
-        <source>Save the changes to %1?</source>
-        <translation>保存对 %1 的更改吗？</translation>
-    </message>
-    <message>
-        <source>a new wall</source>
-        <translation>新的墙</translation>
-    </message>
-    <message>
-        <source>The studio ended unexpectedly. Unsaved changes to %1 can be recovered.</source>
-        <translation>工作室意外退出。%1 的未保存工作已保留。</translation>
-    </message>
-    <message>
-        <source>Recover</source>
-        <translation>恢复</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>丢弃</translation>
-    </message>
-    <message>
-        <source>%1 was changed by another program.</source>
-        <translation>%1 已被其他程序更改。</translation>
-    </message>
-    <message>
-        <source>Reload</source>
-        <translation>重新载入</translation>
-    </message>
-    <message>
-        <source>Keep mine</source>
-        <translation>保留我的</translation>
-    </message>
-    <message>
-        <source>Clock Studio</source>
-        <translation>时钟工作室</translation>
-    </message>
-    <message>
-        <source>%1[*] – Clock Studio</source>
-        <translation>%1[*] – 时钟工作室</translation>
-    </message>
-    <message>
-        <source>Line %1: %2 The wall shows the last valid version.</source>
-        <translation>第 %1 行：%2 墙上显示的是最后一个正确的版本。</translation>
-    </message>
-    <message>
-        <source>Show the line</source>
-        <translation>显示该行</translation>
-    </message>
-    <message>
-        <source>Findings (%1)</source>
-        <translation>问题（%1）</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::NumberEditor</name>
-    <message>
-        <source> pt</source>
-        <translation> 磅</translation>
-    </message>
-    <message>
-        <source> px</source>
-        <translation> 像素</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Preview</name>
-    <message>
-        <source>ImageMagick is not installed (package imagemagick).</source>
-        <translation>未安装 ImageMagick（软件包 imagemagick）。</translation>
-    </message>
-    <message>
-        <source>The pictures of the preview could not be written.</source>
-        <translation>无法写入预览图片。</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::ProgramFiles</name>
-    <message>
-        <source>Untitled</source>
-        <translation>未命名</translation>
-    </message>
-    <message>
-        <source>%1 is damaged or not a text file.</source>
-        <translation>%1 已损坏或不是文本。</translation>
-    </message>
-    <message>
-        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
-        <translation>文件的编码缺少此文本中的一个字符。</translation>
-    </message>
-    <message>
-        <source>%1 is not an ordinary file.</source>
-        <translation>%1 不是普通文件。</translation>
-    </message>
-    <message>
-        <source>%1 could not be saved: %2</source>
-        <translation>无法保存 %1：%2</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::PropertyPanel</name>
-    <message>
-        <source>Digital</source>
-        <translation>数字</translation>
-    </message>
-    <message>
-        <source>Analog</source>
-        <translation>指针</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>图片</translation>
-    </message>
-    <message>
-        <source>Resize the wall</source>
-        <translation>墙的大小</translation>
-    </message>
-    <message>
-        <source>Width in pixels</source>
-        <translation>宽度（像素）</translation>
-    </message>
-    <message>
-        <source>Height in pixels</source>
-        <translation>高度（像素）</translation>
-    </message>
-    <message>
-        <source>Width</source>
-        <translation>宽</translation>
-    </message>
-    <message>
-        <source>Height</source>
-        <translation>高</translation>
-    </message>
-    <message>
-        <source>Choose a clock on the wall to change it, or add one with the buttons above the wall.</source>
-        <translation>在墙上选择一个时钟进行更改，或用墙上方的按钮添加。</translation>
-    </message>
-    <message>
-        <source>Place</source>
-        <translation>位置</translation>
-    </message>
-    <message>
-        <source>Left edge, pixels</source>
-        <translation>左边缘，像素</translation>
-    </message>
-    <message>
-        <source>Top edge, pixels</source>
-        <translation>上边缘，像素</translation>
-    </message>
-    <message>
-        <source>Position</source>
-        <translation>位置</translation>
-    </message>
-    <message>
-        <source>Size</source>
-        <translation>大小</translation>
-    </message>
-    <message>
-        <source>Fit sizes to the area</source>
-        <translation>使字号适合区域</translation>
-    </message>
-    <message>
-        <source>Make the texts as large as the area allows on any day of the year</source>
-        <translation>使文字在一年中任何一天都尽可能大</translation>
-    </message>
-    <message>
-        <source>Reset to the default</source>
-        <translation>恢复默认值</translation>
-    </message>
-    <message>
-        <source>Wall</source>
-        <translation>墙</translation>
-    </message>
-    <message>
-        <source>Clock %1</source>
-        <translation>时钟 %1</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n clocks</source>
-        <translation>
-            <numerusform>%n 个时钟</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Kind of clock</source>
-        <translation>时钟类型</translation>
-    </message>
-    <message>
-        <source>Reset</source>
-        <translation>重置</translation>
-    </message>
-    <message>
-        <source>Fit sizes</source>
-        <translation>适合大小</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Section</name>
-    <message>
-        <source>Show</source>
-        <translation>显示</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::SendDialog</name>
-    <message>
-        <source>Send to a wall</source>
-        <translation>发送到墙</translation>
-    </message>
-    <message>
-        <source>empty for this computer, or operator@wall.example</source>
-        <translation>本机留空，或 operator@wall.example</translation>
-    </message>
-    <message>
-        <source>/srv/wall</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>the usual one</source>
-        <translation>默认密钥</translation>
-    </message>
-    <message>
-        <source>Wall</source>
-        <translation>墙</translation>
-    </message>
-    <message>
-        <source>Host</source>
-        <translation>主机</translation>
-    </message>
-    <message>
-        <source>Folder</source>
-        <translation>文件夹</translation>
-    </message>
-    <message>
-        <source>Key file</source>
-        <translation>密钥文件</translation>
-    </message>
-    <message>
-        <source>Earlier releases</source>
-        <translation>先前的版本</translation>
-    </message>
-    <message>
-        <source>Play the selected release</source>
-        <translation>重新播放所选版本</translation>
-    </message>
-    <message>
-        <source>Send</source>
-        <translation>发送</translation>
-    </message>
-    <message>
-        <source>Cancelled. The wall shows what it showed before.</source>
-        <translation>已取消。墙显示的内容不变。</translation>
-    </message>
-    <message>
-        <source>Making the glyph files…</source>
-        <translation>正在生成字形文件…</translation>
-    </message>
-    <message>
-        <source>Sending to %1…</source>
-        <translation>正在发送到 %1…</translation>
-    </message>
-    <message>
-        <source>%1 has release %2. The one before is kept.</source>
-        <translation>%1 现为版本 %2。先前的版本已保留。</translation>
-    </message>
-    <message>
-        <source>There are no releases yet.</source>
-        <translation>尚无版本。</translation>
-    </message>
-    <message>
-        <source>Changing the release…</source>
-        <translation>正在更换版本…</translation>
-    </message>
-    <message>
-        <source>%1 has release %2.</source>
-        <translation>%1 现为版本 %2。</translation>
-    </message>
-    <message>
-        <source>empty for this computer, or operator@wall.example:22</source>
-        <translation>本机留空，或 operator@wall.example:22</translation>
-    </message>
-    <message>
-        <source>none, or /run/clock-player/status.json</source>
-        <translation>无，或 /run/clock-player/status.json</translation>
-    </message>
-    <message>
-        <source>The player&apos;s status file on the wall. It tells whether the wall plays what was sent.</source>
-        <translation>屏幕上播放器的状态文件，用于确认屏幕正在播放所发送的内容。</translation>
-    </message>
-    <message>
-        <source>Status file</source>
-        <translation>状态文件</translation>
-    </message>
-    <message>
-        <source>Choose the key file</source>
-        <translation>选择密钥文件</translation>
-    </message>
-    <message>
-        <source>Removing what was sent…</source>
-        <translation>正在删除已发送的内容…</translation>
-    </message>
-    <message>
-        <source>Waiting for the wall to play it…</source>
-        <translation>正在等待屏幕播放…</translation>
-    </message>
-    <message>
-        <source>Asking %1…</source>
-        <translation>正在查询 %1…</translation>
-    </message>
-    <message>
-        <source>%1 (plays now)</source>
-        <translation>%1（正在播放）</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::SourceView</name>
-    <message>
-        <source>Program text</source>
-        <translation>节目文本</translation>
-    </message>
-    <message>
-        <source>The XML of the program. Changes appear on the wall immediately.</source>
-        <translation>节目的 XML。更改立即显示在墙上。</translation>
-    </message>
-    <message>
-        <source>Typing</source>
-        <translation>输入</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::TextEditor</name>
-    <message>
-        <source>mixed</source>
-        <translation>多个文本</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::TextFault</name>
-    <message>
-        <source>A program must not have a document type declaration.</source>
-        <translation>节目没有文档类型声明。</translation>
-    </message>
-    <message>
-        <source>This is not a program.</source>
-        <translation>这不是节目。</translation>
-    </message>
-    <message>
-        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
-        <translation>文件的编码缺少此文本中的一个字符。</translation>
-    </message>
-    <message>
-        <source>The text is too large for a program.</source>
-        <translation>此文本对节目来说太长。</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::TimeBar</name>
-    <message>
-        <source>Daylight saving</source>
-        <translation>夏令时</translation>
-    </message>
-    <message>
-        <source>Midnight</source>
-        <translation>午夜</translation>
-    </message>
-    <message>
-        <source>New month</source>
-        <translation>新的月份</translation>
-    </message>
-    <message>
-        <source>New year</source>
-        <translation>新年</translation>
-    </message>
-    <message>
-        <source>New lunar month</source>
-        <translation>新的农历月</translation>
-    </message>
-    <message>
-        <source>Now</source>
-        <translation>现在</translation>
-    </message>
-    <message>
-        <source>Show the current time</source>
-        <translation>显示当前时间</translation>
-    </message>
-    <message>
-        <source>Next change</source>
-        <translation>下一次变化</translation>
-    </message>
-    <message>
-        <source>Go to shortly before the next change</source>
-        <translation>转到下一次变化前片刻</translation>
-    </message>
-    <message>
-        <source>Date and time that the wall shows</source>
-        <translation>墙显示的日期和时间</translation>
-    </message>
-    <message>
-        <source>Time of day</source>
-        <translation>一天中的时间</translation>
-    </message>
-    <message>
-        <source>Drag through the hours of the day</source>
-        <translation>拖动浏览一天的时间</translation>
-    </message>
-    <message>
-        <source>Speed of the time</source>
-        <translation>时间流逝的速度</translation>
-    </message>
-    <message>
-        <source>Pause</source>
-        <translation>暂停</translation>
-    </message>
-    <message>
-        <source>Run</source>
-        <translation>运行</translation>
-    </message>
-    <message>
-        <source>Pause the time</source>
-        <translation>停住时间</translation>
-    </message>
-    <message>
-        <source>Let the time run</source>
-        <translation>让时间走动</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::ToolRun</name>
-    <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
-        <source>%1 cannot be started. Is it installed?</source>
-        <translation>无法启动 %1。是否已安装？</translation>
-    </message>
-    <message>
-        <source>%1 ended with code %2.</source>
-        <translation>%1 以代码 %2 结束。</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallEditor</name>
-    <message>
-        <source>Move</source>
-        <translation>移动</translation>
-    </message>
-    <message>
-        <source>Resize</source>
-        <translation>改变大小</translation>
-    </message>
-    <message>
-        <source>Align</source>
-        <translation>对齐</translation>
-    </message>
-    <message>
-        <source>Distribute</source>
-        <translation>分布</translation>
-    </message>
-    <message>
-        <source>Stack</source>
-        <translation>排列</translation>
-    </message>
-    <message>
-        <source>Bring to front</source>
-        <translation>置于顶层</translation>
-    </message>
-    <message>
-        <source>Send to back</source>
-        <translation>置于底层</translation>
-    </message>
-    <message>
-        <source>Add a clock</source>
-        <translation>添加时钟</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>删除</translation>
-    </message>
-    <message>
-        <source>Duplicate</source>
-        <translation>创建副本</translation>
-    </message>
-    <message>
-        <source>Paste</source>
-        <translation>粘贴</translation>
-    </message>
-    <message>
-        <source>Resize the wall</source>
-        <translation>墙的大小</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallMouse</name>
-    <message>
-        <source>Move</source>
-        <translation>移动</translation>
-    </message>
-    <message>
-        <source>Resize</source>
-        <translation>改变大小</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallTarget</name>
-    <message>
-        <source>The wall needs a name.</source>
-        <translation>墙需要一个名称。</translation>
-    </message>
-    <message>
-        <source>The host is written as in operator@wall.example.</source>
-        <translation>主机写作 operator@wall.example。</translation>
-    </message>
-    <message>
-        <source>The folder is a path that begins with /.</source>
-        <translation>文件夹是以 / 开头的路径。</translation>
-    </message>
-    <message>
-        <source>The status file is a path that begins with /.</source>
-        <translation>状态文件须是以 / 开头的路径。</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallView</name>
-    <message>
-        <source>Wall</source>
-        <translation>墙</translation>
-    </message>
-    <message>
-        <source>The clocks of the program as shown on the wall. Tab selects the next one.</source>
-        <translation>节目中的时钟，如墙上所示。Tab 选择下一个。</translation>
-    </message>
-    <message>
-        <source>Choose a kind of clock above, then drag a rectangle here</source>
-        <translation>在上方选择时钟类型，然后在此画出位置</translation>
-    </message>
-    <message>
-        <source>Clock %1 of %2</source>
-        <translation>时钟 %1，共 %2 个</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n clock(s) selected</source>
-        <translation>
-            <numerusform>已选 %n 个时钟</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::ZoneDialog</name>
-    <message>
-        <source>Choose a city</source>
-        <translation>选择城市</translation>
-    </message>
-    <message>
-        <source>City, country or offset, such as Berlin or +05:30</source>
-        <translation>城市、国家或偏移，例如 Berlin 或 +05:30</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>搜索</translation>
-    </message>
-    <message>
-        <source>Cities</source>
-        <translation>城市</translation>
-    </message>
-    <message>
-        <source>Use this time</source>
-        <translation>使用此时间</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::ZoneSection</name>
-    <message>
-        <source>Time zone</source>
-        <translation>时区</translation>
-    </message>
-    <message>
-        <source>City whose time is shown</source>
-        <translation>显示其时间的城市</translation>
-    </message>
-    <message>
-        <source>Choose the city whose time the clock shows</source>
-        <translation>选择时钟显示哪个城市的时间</translation>
-    </message>
-    <message>
-        <source>Adjustment</source>
-        <translation>调整</translation>
-    </message>
-    <message>
-        <source>ahead</source>
-        <translation>提前</translation>
-    </message>
-    <message>
-        <source>behind</source>
-        <translation>滞后</translation>
-    </message>
-    <message>
-        <source>Direction of the adjustment</source>
-        <translation>调整的方向</translation>
-    </message>
-    <message>
-        <source>City</source>
-        <translation>城市</translation>
-    </message>
-    <message>
-        <source>Adjust by</source>
-        <translation>调整</translation>
-    </message>
-    <message>
-        <source>several</source>
-        <translation>多个</translation>
-    </message>
-    <message>
-        <source>No daylight saving.</source>
-        <translation>没有夏令时。</translation>
-    </message>
-    <message>
-        <source>Daylight saving without sound rules.</source>
-        <translation>夏令时的规则不正确。</translation>
-    </message>
-    <message>
-        <source>Daylight saving begins on %1.</source>
-        <translation>夏令时于 %1 开始。</translation>
-    </message>
-    <message>
-        <source>Daylight saving ends on %1.</source>
-        <translation>夏令时于 %1 结束。</translation>
-    </message>
-    <message numerus="yes">
-        <source>A clock cannot follow this zone exactly: its daylight saving is not the same every year. It is wrong %n time(s) in ten years, first from %1 to %2.</source>
-        <translation>
-            <numerusform>时钟无法精确跟随此时区：其夏令时每年不同。十年内有 %n 次错误，首次从 %1 到 %2。</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>No known zone has these rules.</source>
-        <translation>没有已知时区使用这些规则。</translation>
-    </message>
-    <message>
-        <source>The rules hold for %1 until %2 at least.</source>
-        <translation>这些规则对 %1 至少有效到 %2。</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::PropertyGroups</name>
-    <message>
-        <source>Time</source>
-        <translation>时间</translation>
-    </message>
-    <message>
-        <source>Format</source>
-        <translation>格式</translation>
-    </message>
-    <message>
-        <source>Hours</source>
-        <translation>小时</translation>
-    </message>
-    <message>
-        <source>Font</source>
-        <translation>字体</translation>
-    </message>
-    <message>
-        <source>Label</source>
-        <translation>标签</translation>
-    </message>
-    <message>
-        <source>Text</source>
-        <translation>文本</translation>
-    </message>
-    <message>
-        <source>Date</source>
-        <translation>日期</translation>
-    </message>
-    <message>
-        <source>Weekday</source>
-        <translation>星期</translation>
-    </message>
-    <message>
-        <source>Language</source>
-        <translation>语言</translation>
-    </message>
-    <message>
-        <source>Lunar date</source>
-        <translation>农历</translation>
-    </message>
-    <message>
-        <source>Arrangement</source>
-        <translation>排列</translation>
-    </message>
-    <message>
-        <source>Layout</source>
-        <translation>布局</translation>
-    </message>
-    <message>
-        <source>Gap</source>
-        <translation>间距</translation>
-    </message>
-    <message>
-        <source>Hands</source>
-        <translation>指针</translation>
-    </message>
-    <message>
-        <source>Hour</source>
-        <translation>时针</translation>
-    </message>
-    <message>
-        <source>Minute</source>
-        <translation>分针</translation>
-    </message>
-    <message>
-        <source>Second</source>
-        <translation>秒针</translation>
-    </message>
-    <message>
-        <source>Dial</source>
-        <translation>表盘</translation>
-    </message>
-    <message>
-        <source>Minutes</source>
-        <translation>分钟</translation>
-    </message>
-    <message>
-        <source>Numerals</source>
-        <translation>数字</translation>
-    </message>
-    <message>
-        <source>AM and PM</source>
-        <translation>上午下午</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>图片</translation>
-    </message>
-    <message>
-        <source>Style</source>
-        <translation>样式</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Templates</name>
-    <message>
-        <source>Railway station</source>
-        <translation>火车站</translation>
-    </message>
-    <message>
-        <source>A station clock beside the time, the date and the platform</source>
-        <translation>车站时钟，旁边是时间、日期和站台</translation>
-    </message>
-    <message>
-        <source>Airport</source>
-        <translation>机场</translation>
-    </message>
-    <message>
-        <source>Local time and UTC over four cities</source>
-        <translation>本地时间和 UTC，下面是四个城市</translation>
-    </message>
-    <message>
-        <source>World offices</source>
-        <translation>世界各地办事处</translation>
-    </message>
-    <message>
-        <source>Five dials with their cities</source>
-        <translation>五个表盘及其城市</translation>
-    </message>
-    <message>
-        <source>Stock exchange</source>
-        <translation>证券交易所</translation>
-    </message>
-    <message>
-        <source>The time at four exchanges</source>
-        <translation>四个交易所的时间</translation>
-    </message>
-    <message>
-        <source>Bank</source>
-        <translation>银行</translation>
-    </message>
-    <message>
-        <source>A plain dial with the date</source>
-        <translation>简洁的表盘和日期</translation>
-    </message>
-    <message>
-        <source>School</source>
-        <translation>学校</translation>
-    </message>
-    <message>
-        <source>Time, weekday and date, readable from afar</source>
-        <translation>时间、星期和日期，远处可读</translation>
-    </message>
-    <message>
-        <source>Factory shift</source>
-        <translation>工厂班次</translation>
-    </message>
-    <message>
-        <source>Large time with seconds, the shift and the date</source>
-        <translation>大号秒数，以及班次和日期</translation>
-    </message>
-    <message>
-        <source>Prayer hall</source>
-        <translation>祈祷厅</translation>
-    </message>
-    <message>
-        <source>A dial with the Persian date and weekday</source>
-        <translation>表盘，配波斯日期和星期</translation>
-    </message>
-    <message>
-        <source>Chinese date and lunar date</source>
-        <translation>公历与农历</translation>
-    </message>
-    <message>
-        <source>The time with the Chinese date, weekday and lunar date</source>
-        <translation>时间，配中文日期、星期和农历</translation>
-    </message>
-    <message>
-        <source>Hospital</source>
-        <translation>医院</translation>
-    </message>
-    <message>
-        <source>A clear dial with a second hand, and the weekday</source>
-        <translation>清晰的表盘，带秒针，以及星期</translation>
-    </message>
-    <message>
-        <source>Sports hall</source>
-        <translation>体育馆</translation>
-    </message>
-    <message>
-        <source>Only the time, with seconds</source>
-        <translation>只有时间，带秒</translation>
-    </message>
-    <message>
-        <source>Hotel lobby</source>
-        <translation>酒店大堂</translation>
-    </message>
-    <message>
-        <source>Three picture clocks with their cities</source>
-        <translation>三个图片时钟及其城市</translation>
-    </message>
-    <message>
-        <source>12-hour clock</source>
-        <translation>十二小时制</translation>
-    </message>
-    <message>
-        <source>The time with AM and PM</source>
-        <translation>时间，带上午下午</translation>
-    </message>
-    <message>
-        <source>One line</source>
-        <translation>单行</translation>
-    </message>
-    <message>
-        <source>Everything on one line, for long narrow walls</source>
-        <translation>全部在一行，适合狭长的墙</translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::Sheet</name>
-    <message>
-        <source>yes</source>
-        <translation>是</translation>
-    </message>
-    <message>
-        <source>no</source>
-        <translation>否</translation>
-    </message>
-    <message>
-        <source>Clock %1</source>
-        <translation>时钟 %1</translation>
-    </message>
-    <message>
-        <source>Findings</source>
-        <translation>检查结果</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>无</translation>
-    </message>
-    <message>
-        <source>Approved by ______________________   on ______________</source>
-        <translation>批准人 ______________________   日期 ______________</translation>
-    </message>
-</context>
-<context>
     <name>ClockStudio::Attributes</name>
     <message>
         <source>Kind of clock</source>
@@ -2071,15 +575,1471 @@
         <source>diner</source>
         <translation>餐馆</translation>
     </message>
+    <message>
+        <source>Identity</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Number of the clock in the names of its glyph files; a new clock gets a random one from 1000 to 1999.</source>
+        <translation>时钟字形文件名中的编号；新时钟随机取 1000 到 1999。</translation>
+    </message>
+    <message>
+        <source>Whether the clock runs ahead of or behind its zone by the adjustment.</source>
+        <translation>时钟按调整量比其时区快还是慢。</translation>
+    </message>
+    <message>
+        <source>How far the clock is off its zone: hours, &quot;A&quot;, minutes, &quot;B&quot;, seconds, two digits each.</source>
+        <translation>时钟与其时区相差多少：小时、“A”、分钟、“B”、秒，各两位数字。</translation>
+    </message>
+    <message>
+        <source>Time zone</source>
+        <translation>时区</translation>
+    </message>
+    <message>
+        <source>Offset from UTC: a sign, then &quot;hh:mm&quot; or &quot;h:mm&quot;. The first character always counts as the sign.</source>
+        <translation>与 UTC 的偏移：符号，然后是“hh:mm”或“h:mm”。第一个字符总是作为符号。</translation>
+    </message>
+    <message>
+        <source>Whether the clock is one hour ahead between the start and the end of daylight saving.</source>
+        <translation>夏令时开始到结束之间，时钟是否快一小时。</translation>
+    </message>
+    <message>
+        <source>Start of daylight saving</source>
+        <translation>夏令时开始</translation>
+    </message>
+    <message>
+        <source>When daylight saving starts, in standard time: month.occurrence.weekday.hh:mm:ss.</source>
+        <translation>夏令时何时开始（标准时间）：月.第几个.星期.hh:mm:ss。</translation>
+    </message>
+    <message>
+        <source>End of daylight saving</source>
+        <translation>夏令时结束</translation>
+    </message>
+    <message>
+        <source>When daylight saving ends, in standard time: month.occurrence.weekday.hh:mm:ss.</source>
+        <translation>夏令时何时结束（标准时间）：月.第几个.星期.hh:mm:ss。</translation>
+    </message>
+    <message>
+        <source>Daylight-saving choice</source>
+        <translation>夏令时选项</translation>
+    </message>
+    <message>
+        <source>The rule chosen in the editor&apos;s list; stored only.</source>
+        <translation>编辑器列表中所选的规则；仅作保存。</translation>
+    </message>
+    <message>
+        <source>Zone choice</source>
+        <translation>时区选项</translation>
+    </message>
+    <message>
+        <source>The zone chosen in the editor&apos;s list; stored only.</source>
+        <translation>编辑器列表中所选的时区；仅作保存。</translation>
+    </message>
+    <message>
+        <source>If present, the SDK export writes the node&apos;s GUID.</source>
+        <translation>如果存在，SDK 导出会写入节点的 GUID。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ColourButton</name>
+    <message>
+        <source>Other colour…</source>
+        <translation>其他颜色…</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>颜色</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::FamilyBox</name>
+    <message>
+        <source>Default font</source>
+        <translation>默认字体</translation>
+    </message>
+    <message>
+        <source>%1 (not installed)</source>
+        <translation>%1（未安装）</translation>
+    </message>
+    <message>
+        <source>%1 (missing %2)</source>
+        <translation>%1（缺少 %2）</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::FindingsPanel</name>
+    <message>
+        <source>Fix</source>
+        <translation>修正</translation>
+    </message>
+    <message>
+        <source>No findings.</source>
+        <translation>未发现问题。</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>Apply the suggested fix</source>
+        <translation>写入建议的内容</translation>
+    </message>
+    <message>
+        <source>Clock %1: </source>
+        <translation>时钟 %1：</translation>
+    </message>
+    <message>
+        <source>Line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>The text is not a valid program.</source>
+        <translation>文本不是有效的节目。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Gallery</name>
+    <message>
+        <source>Back to the wall</source>
+        <translation>返回墙面</translation>
+    </message>
+    <message>
+        <source>Empty wall</source>
+        <translation>空白墙</translation>
+    </message>
+    <message>
+        <source>Open a file…</source>
+        <translation>打开文件…</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>最近</translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation>最近的文件</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>模板</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>开始</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::KeysDialog</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Move by one pixel</source>
+        <translation>移动一个像素</translation>
+    </message>
+    <message>
+        <source>Arrow keys</source>
+        <translation>方向键</translation>
+    </message>
+    <message>
+        <source>Move by eight pixels</source>
+        <translation>移动八个像素</translation>
+    </message>
+    <message>
+        <source>Shift + arrow keys</source>
+        <translation>Shift + 方向键</translation>
+    </message>
+    <message>
+        <source>Resize by one pixel</source>
+        <translation>大小改变一个像素</translation>
+    </message>
+    <message>
+        <source>Alt + arrow keys</source>
+        <translation>Alt + 方向键</translation>
+    </message>
+    <message>
+        <source>Select the next clock</source>
+        <translation>选择下一个时钟</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Select several clocks</source>
+        <translation>选择多个时钟</translation>
+    </message>
+    <message>
+        <source>Shift + click, or drag around them</source>
+        <translation>Shift + 单击，或拖动框选</translation>
+    </message>
+    <message>
+        <source>Drag without snapping</source>
+        <translation>拖动时不吸附</translation>
+    </message>
+    <message>
+        <source>Hold Alt</source>
+        <translation>按住 Alt</translation>
+    </message>
+    <message>
+        <source>Cancel a drag, clear the selection</source>
+        <translation>取消拖动，不选任何时钟</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Zoom at the pointer</source>
+        <translation>在指针处缩放</translation>
+    </message>
+    <message>
+        <source>Ctrl + wheel</source>
+        <translation>Ctrl + 滚轮</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::MainWindow</name>
+    <message>
+        <source>Picture, plain pixels (*.png)</source>
+        <translation>图片，普通像素 (*.png)</translation>
+    </message>
+    <message>
+        <source>Picture, as LEDs (*.png)</source>
+        <translation>图片，LED 效果 (*.png)</translation>
+    </message>
+    <message>
+        <source>Picture of the wall</source>
+        <translation>墙的图片</translation>
+    </message>
+    <message>
+        <source>wall.png</source>
+        <translation>wall.png</translation>
+    </message>
+    <message>
+        <source>Approval sheet</source>
+        <translation>审批单</translation>
+    </message>
+    <message>
+        <source>wall.pdf</source>
+        <translation>wall.pdf</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Animated preview</source>
+        <translation>动画预览</translation>
+    </message>
+    <message>
+        <source>wall.gif</source>
+        <translation>wall.gif</translation>
+    </message>
+    <message>
+        <source>Animated picture (*.gif)</source>
+        <translation>动画图片 (*.gif)</translation>
+    </message>
+    <message>
+        <source>Making the preview…</source>
+        <translation>正在生成预览…</translation>
+    </message>
+    <message>
+        <source>The preview could not be made: %1</source>
+        <translation>无法生成预览：%1</translation>
+    </message>
+    <message>
+        <source>Saved %1</source>
+        <translation>已保存 %1</translation>
+    </message>
+    <message>
+        <source>Choose an empty folder, or one with an earlier export</source>
+        <translation>空文件夹，或含有先前导出的文件夹</translation>
+    </message>
+    <message>
+        <source>Generating the glyph files…</source>
+        <translation>正在生成字形文件…</translation>
+    </message>
+    <message>
+        <source>Exported to %1</source>
+        <translation>已导出到 %1</translation>
+    </message>
+    <message>
+        <source>Import SDK XML</source>
+        <translation>导入 SDK XML</translation>
+    </message>
+    <message>
+        <source>SDK XML (*.xml);;All files (*)</source>
+        <translation>SDK XML (*.xml);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>正在导入…</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;New…</source>
+        <translation>新建(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>打开(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Import SDK XML…</source>
+        <translation>导入 SDK XML(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>Open &amp;recent</source>
+        <translation>最近的文件(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <translation>另存为(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+S</source>
+        <translation>Ctrl+Shift+S</translation>
+    </message>
+    <message>
+        <source>&amp;Picture of the wall…</source>
+        <translation>墙的图片(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+P</source>
+        <translation>Ctrl+Shift+P</translation>
+    </message>
+    <message>
+        <source>Animated pre&amp;view…</source>
+        <translation>动画预览(&amp;V)…</translation>
+    </message>
+    <message>
+        <source>Approval s&amp;heet…</source>
+        <translation>审批单(&amp;H)…</translation>
+    </message>
+    <message>
+        <source>&amp;Export with glyph files…</source>
+        <translation>连同字形文件导出(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Sen&amp;d to a wall…</source>
+        <translation>发送到墙(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Return</source>
+        <translation>Ctrl+Return</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>退出(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>暂无</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>There is no clock on the clipboard</source>
+        <translation>剪贴板上没有时钟</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>创建副本(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>删除(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Select &amp;all clocks</source>
+        <translation>选择所有时钟(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Clock</source>
+        <translation>时钟(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Bring to &amp;front</source>
+        <translation>置于顶层(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Ctrl+]</source>
+        <translation>Ctrl+]</translation>
+    </message>
+    <message>
+        <source>Send to &amp;back</source>
+        <translation>置于底层(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Ctrl+[</source>
+        <translation>Ctrl+[</translation>
+    </message>
+    <message>
+        <source>Align &amp;left</source>
+        <translation>左对齐(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+L</source>
+        <translation>Ctrl+Shift+L</translation>
+    </message>
+    <message>
+        <source>Align &amp;centre</source>
+        <translation>水平居中(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>Align &amp;right</source>
+        <translation>右对齐(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Align &amp;top</source>
+        <translation>顶部对齐(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+T</source>
+        <translation>Ctrl+Shift+T</translation>
+    </message>
+    <message>
+        <source>Align &amp;middle</source>
+        <translation>垂直居中(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+M</source>
+        <translation>Ctrl+Shift+M</translation>
+    </message>
+    <message>
+        <source>Align b&amp;ottom</source>
+        <translation>底部对齐(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+B</source>
+        <translation>Ctrl+Shift+B</translation>
+    </message>
+    <message>
+        <source>Distribute &amp;horizontally</source>
+        <translation>水平分布(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+H</source>
+        <translation>Ctrl+Shift+H</translation>
+    </message>
+    <message>
+        <source>Distribute &amp;vertically</source>
+        <translation>垂直分布(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+V</source>
+        <translation>Ctrl+Shift+V</translation>
+    </message>
+    <message>
+        <source>Stack in a ro&amp;w</source>
+        <translation>排成一行(&amp;W)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>Stack in a col&amp;umn</source>
+        <translation>排成一列(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+D</source>
+        <translation>Ctrl+Shift+D</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Ctrl+=</source>
+        <translation>Ctrl+=</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to window</source>
+        <translation>适合窗口(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>Show as LE&amp;Ds</source>
+        <translation>显示为 LED(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>&amp;Panel grid</source>
+        <translation>模组网格(&amp;P)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>F4</source>
+        <translation>F4</translation>
+    </message>
+    <message>
+        <source>F8</source>
+        <translation>F8</translation>
+    </message>
+    <message>
+        <source>&amp;Language of the clocks</source>
+        <translation>时钟的语言(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>键盘快捷键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>F1</source>
+        <translation>F1</translation>
+    </message>
+    <message>
+        <source>&amp;About Clock Studio</source>
+        <translation>关于时钟工作室(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Digital clock</source>
+        <translation>数字时钟</translation>
+    </message>
+    <message>
+        <source>D</source>
+        <translation>D</translation>
+    </message>
+    <message>
+        <source>Analog clock</source>
+        <translation>指针时钟</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>Picture clock</source>
+        <translation>图片时钟</translation>
+    </message>
+    <message>
+        <source>P</source>
+        <translation>P</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>%1: drag a rectangle on the wall (%2)</source>
+        <translation>%1：在墙上画出它的位置（%2）</translation>
+    </message>
+    <message>
+        <source>About Clock Studio</source>
+        <translation>关于时钟工作室</translation>
+    </message>
+    <message>
+        <source>%1 was deleted from disk. Your work is still open here.</source>
+        <translation>%1 已不在磁盘上。您的工作仍在这里。</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>源文本</translation>
+    </message>
+    <message>
+        <source>Open a program</source>
+        <translation>打开节目</translation>
+    </message>
+    <message>
+        <source>Programs (%1);;All files (*)</source>
+        <translation>节目 (%1);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>已保存</translation>
+    </message>
+    <message>
+        <source>Save the program</source>
+        <translation>保存节目</translation>
+    </message>
+    <message>
+        <source>wall.xml</source>
+        <translation>wall.xml</translation>
+    </message>
+    <message>
+        <source>Programs (%1)</source>
+        <translation>节目 (%1)</translation>
+    </message>
+    <message>
+        <source>Unsaved work</source>
+        <translation>未保存的工作</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation>保存对 %1 的更改吗？</translation>
+    </message>
+    <message>
+        <source>a new wall</source>
+        <translation>新的墙</translation>
+    </message>
+    <message>
+        <source>The studio closed unexpectedly. Unsaved changes to %1 can be recovered.</source>
+        <translation>工作室意外退出。%1 的未保存工作已保留。</translation>
+    </message>
+    <message>
+        <source>Recover</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>丢弃</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 已被其他程序更改。</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>重新载入</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>保留我的</translation>
+    </message>
+    <message>
+        <source>Clock Studio</source>
+        <translation>时钟工作室</translation>
+    </message>
+    <message>
+        <source>%1[*] – Clock Studio</source>
+        <translation>%1[*] – 时钟工作室</translation>
+    </message>
+    <message>
+        <source>Line %1: %2 The wall shows the last valid version.</source>
+        <translation>第 %1 行：%2 墙上显示的是最后一个正确的版本。</translation>
+    </message>
+    <message>
+        <source>Go to line</source>
+        <translation>显示该行</translation>
+    </message>
+    <message>
+        <source>Findings (%1)</source>
+        <translation>问题（%1）</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. All clocks are drawn by the clock plugin itself.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;时钟工作室 %1&lt;/h3&gt;&lt;p&gt;时钟墙的编辑器。所有时钟都由时钟插件自身绘制。&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::NumberEditor</name>
+    <message>
+        <source> pt</source>
+        <translation> 磅</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> 像素</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Preview</name>
+    <message>
+        <source>ImageMagick is not installed (package imagemagick).</source>
+        <translation>未安装 ImageMagick（软件包 imagemagick）。</translation>
+    </message>
+    <message>
+        <source>The pictures of the preview could not be written.</source>
+        <translation>无法写入预览图片。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ProgramFiles</name>
+    <message>
+        <source>Untitled</source>
+        <translation>未命名</translation>
+    </message>
+    <message>
+        <source>%1 is damaged or not a text file.</source>
+        <translation>%1 已损坏或不是文本。</translation>
+    </message>
+    <message>
+        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
+        <translation>文件的编码缺少此文本中的一个字符。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::PropertyGroups</name>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>格式</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>小时</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>字体</translation>
+    </message>
+    <message>
+        <source>Label</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Weekday</source>
+        <translation>星期</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Lunar date</source>
+        <translation>农历</translation>
+    </message>
+    <message>
+        <source>Arrangement</source>
+        <translation>排列</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>布局</translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation>间距</translation>
+    </message>
+    <message>
+        <source>Hands</source>
+        <translation>指针</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>时针</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>分针</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>秒针</translation>
+    </message>
+    <message>
+        <source>Dial</source>
+        <translation>表盘</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>Numerals</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>AM and PM</source>
+        <translation>上午下午</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation>样式</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::PropertyPanel</name>
+    <message>
+        <source>Digital</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>指针</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>宽度（像素）</translation>
+    </message>
+    <message>
+        <source>Height in pixels</source>
+        <translation>高度（像素）</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>宽</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Select a clock on the wall to change it, or add one with the buttons above the wall.</source>
+        <translation>在墙上选择一个时钟进行更改，或用墙上方的按钮添加。</translation>
+    </message>
+    <message>
+        <source>Position and size</source>
+        <translation>位置和大小</translation>
+    </message>
+    <message>
+        <source>Left edge in pixels</source>
+        <translation>左边缘，像素</translation>
+    </message>
+    <message>
+        <source>Top edge in pixels</source>
+        <translation>上边缘，像素</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Fit sizes to the area</source>
+        <translation>使字号适合区域</translation>
+    </message>
+    <message>
+        <source>Make the texts as large as the area allows on any day of the year</source>
+        <translation>使文字在一年中任何一天都尽可能大</translation>
+    </message>
+    <message>
+        <source>Reset to the default</source>
+        <translation>恢复默认值</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>墙</translation>
+    </message>
+    <message>
+        <source>Clock %1</source>
+        <translation>时钟 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clocks</source>
+        <translation>
+            <numerusform>%n 个时钟</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kind of clock</source>
+        <translation>时钟类型</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Fit sizes</source>
+        <translation>适合大小</translation>
+    </message>
+    <message>
+        <source>Size of the wall</source>
+        <translation>墙的大小</translation>
+    </message>
+    <message>
+        <source>Move and resize</source>
+        <translation>移动和调整大小</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Section</name>
+    <message>
+        <source>Show</source>
+        <translation>显示</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::SendDialog</name>
+    <message>
+        <source>Send to a wall</source>
+        <translation>发送到墙</translation>
+    </message>
+    <message>
+        <source>/srv/wall</source>
+        <translation>/srv/wall</translation>
+    </message>
+    <message>
+        <source>empty for ssh&apos;s default key</source>
+        <translation>留空则使用 ssh 的默认密钥</translation>
+    </message>
+    <message>
+        <source>Wall</source>
+        <translation>墙</translation>
+    </message>
+    <message>
+        <source>Host</source>
+        <translation>主机</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Key file</source>
+        <translation>密钥文件</translation>
+    </message>
+    <message>
+        <source>Earlier releases</source>
+        <translation>先前的版本</translation>
+    </message>
+    <message>
+        <source>Play the selected release</source>
+        <translation>重新播放所选版本</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>发送</translation>
+    </message>
+    <message>
+        <source>Cancelled. The wall is unchanged.</source>
+        <translation>已取消。墙显示的内容不变。</translation>
+    </message>
+    <message>
+        <source>Generating the glyph files…</source>
+        <translation>正在生成字形文件…</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>正在发送到 %1…</translation>
+    </message>
+    <message>
+        <source>%1 now has release %2. The previous one is kept.</source>
+        <translation>%1 现为版本 %2。先前的版本已保留。</translation>
+    </message>
+    <message>
+        <source>There are no releases yet.</source>
+        <translation>尚无版本。</translation>
+    </message>
+    <message>
+        <source>Switching releases…</source>
+        <translation>正在更换版本…</translation>
+    </message>
+    <message>
+        <source>%1 has release %2.</source>
+        <translation>%1 现为版本 %2。</translation>
+    </message>
+    <message>
+        <source>empty for this computer, or operator@wall.example:22</source>
+        <translation>本机留空，或 operator@wall.example:22</translation>
+    </message>
+    <message>
+        <source>none, or /run/clock-player/status.json</source>
+        <translation>无，或 /run/clock-player/status.json</translation>
+    </message>
+    <message>
+        <source>The player&apos;s status file on the wall. It shows whether the wall is playing what was sent.</source>
+        <translation>屏幕上播放器的状态文件，用于确认屏幕正在播放所发送的内容。</translation>
+    </message>
+    <message>
+        <source>Status file</source>
+        <translation>状态文件</translation>
+    </message>
+    <message>
+        <source>Choose the key file</source>
+        <translation>选择密钥文件</translation>
+    </message>
+    <message>
+        <source>Removing the incomplete release…</source>
+        <translation>正在删除已发送的内容…</translation>
+    </message>
+    <message>
+        <source>Waiting for the wall to play the release…</source>
+        <translation>正在等待屏幕播放…</translation>
+    </message>
+    <message>
+        <source>Asking %1…</source>
+        <translation>正在查询 %1…</translation>
+    </message>
+    <message>
+        <source>%1 (playing)</source>
+        <translation>%1（正在播放）</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Sheet</name>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Clock %1</source>
+        <translation>时钟 %1</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>检查结果</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Approved by ______________________   on ______________</source>
+        <translation>批准人 ______________________   日期 ______________</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::SourceView</name>
+    <message>
+        <source>Program text</source>
+        <translation>节目文本</translation>
+    </message>
+    <message>
+        <source>The XML of the program. Changes appear on the wall immediately.</source>
+        <translation>节目的 XML。更改立即显示在墙上。</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>输入</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::Templates</name>
+    <message>
+        <source>Railway station</source>
+        <translation>火车站</translation>
+    </message>
+    <message>
+        <source>A station clock beside the time, the date and the platform</source>
+        <translation>车站时钟，旁边是时间、日期和站台</translation>
+    </message>
+    <message>
+        <source>Airport</source>
+        <translation>机场</translation>
+    </message>
+    <message>
+        <source>Local time and UTC above four cities</source>
+        <translation>本地时间和 UTC，下面是四个城市</translation>
+    </message>
+    <message>
+        <source>World offices</source>
+        <translation>世界各地办事处</translation>
+    </message>
+    <message>
+        <source>Five dials with their cities</source>
+        <translation>五个表盘及其城市</translation>
+    </message>
+    <message>
+        <source>Stock exchange</source>
+        <translation>证券交易所</translation>
+    </message>
+    <message>
+        <source>The time at four exchanges</source>
+        <translation>四个交易所的时间</translation>
+    </message>
+    <message>
+        <source>Bank</source>
+        <translation>银行</translation>
+    </message>
+    <message>
+        <source>A plain dial with the date</source>
+        <translation>简洁的表盘和日期</translation>
+    </message>
+    <message>
+        <source>School</source>
+        <translation>学校</translation>
+    </message>
+    <message>
+        <source>Time, weekday and date, readable from a distance</source>
+        <translation>时间、星期和日期，远处可读</translation>
+    </message>
+    <message>
+        <source>Factory shift</source>
+        <translation>工厂班次</translation>
+    </message>
+    <message>
+        <source>Large time with seconds, the shift and the date</source>
+        <translation>大号秒数，以及班次和日期</translation>
+    </message>
+    <message>
+        <source>Prayer hall</source>
+        <translation>祈祷厅</translation>
+    </message>
+    <message>
+        <source>A dial with the Persian date and weekday</source>
+        <translation>表盘，配波斯日期和星期</translation>
+    </message>
+    <message>
+        <source>Chinese date and lunar date</source>
+        <translation>公历与农历</translation>
+    </message>
+    <message>
+        <source>The time with the Chinese date, weekday and lunar date</source>
+        <translation>时间，配中文日期、星期和农历</translation>
+    </message>
+    <message>
+        <source>Hospital</source>
+        <translation>医院</translation>
+    </message>
+    <message>
+        <source>A clear dial with a second hand, and the weekday</source>
+        <translation>清晰的表盘，带秒针，以及星期</translation>
+    </message>
+    <message>
+        <source>Sports hall</source>
+        <translation>体育馆</translation>
+    </message>
+    <message>
+        <source>Only the time, with seconds</source>
+        <translation>只有时间，带秒</translation>
+    </message>
+    <message>
+        <source>Hotel lobby</source>
+        <translation>酒店大堂</translation>
+    </message>
+    <message>
+        <source>Three picture clocks with their cities</source>
+        <translation>三个图片时钟及其城市</translation>
+    </message>
+    <message>
+        <source>12-hour clock</source>
+        <translation>十二小时制</translation>
+    </message>
+    <message>
+        <source>The time with AM or PM</source>
+        <translation>时间，带上午下午</translation>
+    </message>
+    <message>
+        <source>One line</source>
+        <translation>单行</translation>
+    </message>
+    <message>
+        <source>Everything on one line, for long narrow walls</source>
+        <translation>全部在一行，适合狭长的墙</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TextEditor</name>
+    <message>
+        <source>mixed</source>
+        <translation>多个文本</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TextFault</name>
+    <message>
+        <source>A program must not have a document type declaration.</source>
+        <translation>节目没有文档类型声明。</translation>
+    </message>
+    <message>
+        <source>This is not a program.</source>
+        <translation>这不是节目。</translation>
+    </message>
+    <message>
+        <source>The text has a character that the file&apos;s encoding cannot represent.</source>
+        <translation>文件的编码缺少此文本中的一个字符。</translation>
+    </message>
+    <message>
+        <source>The text is too large for a program.</source>
+        <translation>此文本对节目来说太长。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::TimeBar</name>
+    <message>
+        <source>Daylight saving</source>
+        <translation>夏令时</translation>
+    </message>
+    <message>
+        <source>Midnight</source>
+        <translation>午夜</translation>
+    </message>
+    <message>
+        <source>New month</source>
+        <translation>新的月份</translation>
+    </message>
+    <message>
+        <source>New year</source>
+        <translation>新年</translation>
+    </message>
+    <message>
+        <source>New lunar month</source>
+        <translation>新的农历月</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>现在</translation>
+    </message>
+    <message>
+        <source>Show the current time</source>
+        <translation>显示当前时间</translation>
+    </message>
+    <message>
+        <source>Next change</source>
+        <translation>下一次变化</translation>
+    </message>
+    <message>
+        <source>Jump to just before the next change</source>
+        <translation>转到下一次变化前片刻</translation>
+    </message>
+    <message>
+        <source>Date and time that the wall shows</source>
+        <translation>墙显示的日期和时间</translation>
+    </message>
+    <message>
+        <source>Time of day</source>
+        <translation>一天中的时间</translation>
+    </message>
+    <message>
+        <source>Drag through the hours of the day</source>
+        <translation>拖动浏览一天的时间</translation>
+    </message>
+    <message>
+        <source>Playback speed</source>
+        <translation>播放速度</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>暂停</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Pause the time</source>
+        <translation>停住时间</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>继续</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ToolRun</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>%1 cannot be started. Is it installed?</source>
+        <translation>无法启动 %1。是否已安装？</translation>
+    </message>
+    <message>
+        <source>%1 exited with code %2.</source>
+        <translation>%1 以代码 %2 结束。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallEditor</name>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>改变大小</translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation>对齐</translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation>分布</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation>排列</translation>
+    </message>
+    <message>
+        <source>Bring to front</source>
+        <translation>置于顶层</translation>
+    </message>
+    <message>
+        <source>Send to back</source>
+        <translation>置于底层</translation>
+    </message>
+    <message>
+        <source>Add a clock</source>
+        <translation>添加时钟</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>创建副本</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Resize the wall</source>
+        <translation>墙的大小</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallMouse</name>
+    <message>
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>改变大小</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallTarget</name>
+    <message>
+        <source>The wall needs a name.</source>
+        <translation>墙需要一个名称。</translation>
+    </message>
+    <message>
+        <source>Write the host as operator@wall.example or operator@wall.example:22.</source>
+        <translation>请将主机写作 operator@wall.example 或 operator@wall.example:22。</translation>
+    </message>
+    <message>
+        <source>The folder must be an absolute path.</source>
+        <translation>文件夹必须是绝对路径。</translation>
+    </message>
+    <message>
+        <source>The status file must be an absolute path.</source>
+        <translation>状态文件必须是绝对路径。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::WallView</name>
+    <message>
+        <source>Wall</source>
+        <translation>墙</translation>
+    </message>
+    <message>
+        <source>The clocks of the program as shown on the wall. Tab selects the next one.</source>
+        <translation>节目中的时钟，如墙上所示。Tab 选择下一个。</translation>
+    </message>
+    <message>
+        <source>Choose a type of clock above, then drag a rectangle here</source>
+        <translation>在上方选择时钟类型，然后在此画出位置</translation>
+    </message>
+    <message>
+        <source>Clock %1 of %2</source>
+        <translation>时钟 %1，共 %2 个</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clock(s) selected</source>
+        <translation>
+            <numerusform>已选 %n 个时钟</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::WallWord</name>
     <message>
-        <source>The wall plays it.</source>
-        <translation>屏幕正在播放。</translation>
+        <source>The wall is playing this program.</source>
+        <translation>屏幕正在播放此节目。</translation>
     </message>
     <message>
-        <source>The wall plays something else.</source>
+        <source>The wall is playing something else.</source>
         <translation>屏幕正在播放其他内容。</translation>
     </message>
     <message>
@@ -2087,7 +2047,7 @@
         <translation>屏幕显示提示 %1，而不是节目。</translation>
     </message>
     <message>
-        <source>The wall&apos;s player has not been heard of since %1.</source>
+        <source>The wall&apos;s player has not been heard from since %1.</source>
         <translation>自 %1 起没有屏幕播放器的消息。</translation>
     </message>
     <message>
@@ -2104,6 +2064,102 @@
     <message>
         <source>%1 could not be saved: %2</source>
         <translation>无法保存 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ZoneDialog</name>
+    <message>
+        <source>Choose a city</source>
+        <translation>选择城市</translation>
+    </message>
+    <message>
+        <source>City, country or offset, such as Berlin or +05:30</source>
+        <translation>城市、国家或偏移，例如 Berlin 或 +05:30</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Cities</source>
+        <translation>城市</translation>
+    </message>
+    <message>
+        <source>Use this time zone</source>
+        <translation>使用此时区</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::ZoneSection</name>
+    <message>
+        <source>Time zone</source>
+        <translation>时区</translation>
+    </message>
+    <message>
+        <source>City whose time is shown</source>
+        <translation>显示其时间的城市</translation>
+    </message>
+    <message>
+        <source>Choose the city whose time the clock shows</source>
+        <translation>选择时钟显示哪个城市的时间</translation>
+    </message>
+    <message>
+        <source>Adjustment</source>
+        <translation>调整</translation>
+    </message>
+    <message>
+        <source>ahead</source>
+        <translation>提前</translation>
+    </message>
+    <message>
+        <source>behind</source>
+        <translation>滞后</translation>
+    </message>
+    <message>
+        <source>Direction of the adjustment</source>
+        <translation>调整的方向</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>城市</translation>
+    </message>
+    <message>
+        <source>Adjust by</source>
+        <translation>调整</translation>
+    </message>
+    <message>
+        <source>Several zones</source>
+        <translation>多个时区</translation>
+    </message>
+    <message>
+        <source>No daylight saving.</source>
+        <translation>没有夏令时。</translation>
+    </message>
+    <message>
+        <source>Daylight saving is on, but its rules are invalid.</source>
+        <translation>夏令时的规则不正确。</translation>
+    </message>
+    <message>
+        <source>Daylight saving begins on %1.</source>
+        <translation>夏令时于 %1 开始。</translation>
+    </message>
+    <message>
+        <source>Daylight saving ends on %1.</source>
+        <translation>夏令时于 %1 结束。</translation>
+    </message>
+    <message numerus="yes">
+        <source>A clock cannot follow this zone exactly: its daylight saving is not the same every year. The clock will be wrong in %n period(s) of the next ten years, first from %1 to %2.</source>
+        <translation>
+            <numerusform>时钟无法精确跟随此时区：其夏令时每年不同。十年内有 %n 次错误，首次从 %1 到 %2。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No known zone has these rules.</source>
+        <translation>没有已知时区使用这些规则。</translation>
+    </message>
+    <message>
+        <source>The rules hold for %1 until %2 at least.</source>
+        <translation>这些规则对 %1 至少有效到 %2。</translation>
     </message>
 </context>
 </TS>

@@ -45,7 +45,7 @@ WallView::WallView(WallEditor &editor, QWidget *parent)
     });
 }
 
-/// Centres the wall if it fits, else places it by the scroll bars.
+/// Centres the wall if it fits, otherwise places it according to the scroll bars.
 void WallView::PlaceWall()
 {
     m_shown = m_editor.Wall().Size();
@@ -168,7 +168,7 @@ void WallView::PaintHint(QPainter &painter)
     painter.setPen(kHintInk);
     painter.drawText(m_scale.ToView({QPoint(), m_editor.Wall().Size()}),
                      Qt::AlignCenter | Qt::TextWordWrap,
-                     tr("Choose a kind of clock above, then drag a rectangle here"));
+                     tr("Choose a type of clock above, then drag a rectangle here"));
 }
 
 void WallView::resizeEvent(QResizeEvent *)

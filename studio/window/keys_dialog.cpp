@@ -10,7 +10,7 @@ namespace ClockStudio {
 KeysDialog::KeysDialog(const QVector<QPair<QString, QString>> &commands, QWidget *parent)
     : QDialog(parent)
 {
-    setWindowTitle(tr("Keys"));
+    setWindowTitle(tr("Keyboard shortcuts"));
     QVector<QPair<QString, QString>> keys {
         {tr("Move by one pixel"), tr("Arrow keys")},
         {tr("Move by eight pixels"), tr("Shift + arrow keys")},

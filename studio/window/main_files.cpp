@@ -1,4 +1,5 @@
-// MainWindow: saves pictures, the sheet and the preview; exports, imports and sends.
+// studio/window: MainWindow: saves pictures, the approval sheet and the preview; exports, imports
+// and sends.
 #include "main_window.h"
 
 #include "send_dialog.h"
@@ -32,7 +33,7 @@ QString WithSuffix(const QString &path, const QString &suffix)
 void MainWindow::SavePicture()
 {
     const QString plain = tr("Picture, plain pixels (*.png)");
-    const QString diodes = tr("Picture, as diodes (*.png)");
+    const QString diodes = tr("Picture, as LEDs (*.png)");
     QString chosen;
     const QString path =
         WithSuffix(QFileDialog::getSaveFileName(this, tr("Picture of the wall"), tr("wall.png"),
@@ -50,9 +51,9 @@ void MainWindow::SavePicture()
 
 void MainWindow::SaveSheet()
 {
-    const QString path = WithSuffix(QFileDialog::getSaveFileName(this, tr("Sheet for approval"),
-                                                                 tr("wall.pdf"), tr("PDF (*.pdf)")),
-                                    QStringLiteral(".pdf"));
+    const QString path = WithSuffix(
+        QFileDialog::getSaveFileName(this, tr("Approval sheet"), tr("wall.pdf"), tr("PDF (*.pdf)")),
+        QStringLiteral(".pdf"));
     if (path.isEmpty())
         return;
     m_findings->CheckAll();
@@ -60,7 +61,8 @@ void MainWindow::SaveSheet()
     for (const ClockTool::Finding &finding : m_findings->Findings())
         findings.append(finding.text);
     SayWritten(path, WriteWhole(path, [&](QIODevice &file) {
-                   return WriteSheet(file, m_files.Name(), m_wall, findings);
+                   WriteSheet(file, m_files.Name(), m_wall, findings);
+                   return true;
                }));
 }
 
@@ -101,7 +103,7 @@ QString MainWindow::ProgramFileIn(const QTemporaryDir &directory)
     const std::optional<QByteArray> bytes = m_document.Bytes();
     const std::optional<QString> problem = bytes
         ? WriteWhole(path, *bytes)
-        : ProgramFiles::tr("The encoding of the file lacks a character of this text.");
+        : ProgramFiles::tr("The text has a character that the file's encoding cannot represent.");
     if (problem)
         SayProblem(*problem);
     return problem ? QString() : path;
@@ -118,7 +120,7 @@ void MainWindow::ExportProgram()
     if (program.isEmpty())
         return;
     const ToolResult result =
-        RunBehindDialog({ExportCommand(program, folder)}, tr("Making the glyph files…"), this);
+        RunBehindDialog({ExportCommand(program, folder)}, tr("Generating the glyph files…"), this);
     if (result.isGood)
         statusBar()->showMessage(tr("Exported to %1").arg(folder), 4000);
     else if (!result.isCancelled)

@@ -37,7 +37,7 @@ struct DrawingTool
     ClockKind kind;
     const char *text;
     const char *key;
-    int type; ///< as in the attribute
+    int type; ///< the value of the ClockType attribute
 };
 
 constexpr DrawingTool kDrawingTools[] = {
@@ -85,7 +85,7 @@ void MainWindow::MakeFileMenu()
          {QKeySequence(tr("Ctrl+Shift+P"))},
          [this] { SavePicture(); }},
         {tr("Animated pre&view…"), {}, [this] { SavePreview(); }},
-        {tr("S&heet for approval…"), {QKeySequence::Print}, [this] { SaveSheet(); }},
+        {tr("Approval s&heet…"), {QKeySequence::Print}, [this] { SaveSheet(); }},
         kSeparator,
         {tr("&Export with glyph files…"),
          {QKeySequence(tr("Ctrl+E"))},
@@ -129,7 +129,7 @@ void MainWindow::MakeEditMenu()
          inText(&SourceView::paste,
                 [this] {
                     if (!m_editor.Paste())
-                        statusBar()->showMessage(tr("There is no clock in the clipboard"), 4000);
+                        statusBar()->showMessage(tr("There is no clock on the clipboard"), 4000);
                 })},
         {tr("&Duplicate"), {QKeySequence(tr("Ctrl+D"))}, [this] { m_editor.Duplicate(); }, true},
         {tr("De&lete"), {QKeySequence::Delete}, [this] { m_editor.Delete(); }, true},
@@ -168,11 +168,11 @@ void MainWindow::MakeClockMenu()
          {tr("Align &middle"), {QKeySequence(tr("Ctrl+Shift+M"))}, align(Alignment::Middle), true},
          {tr("Align b&ottom"), {QKeySequence(tr("Ctrl+Shift+B"))}, align(Alignment::Bottom), true},
          kSeparator,
-         {tr("Distribute &across"),
+         {tr("Distribute &horizontally"),
           {QKeySequence(tr("Ctrl+Shift+H"))},
           [this] { m_editor.Distribute(Direction::Across); },
           true},
-         {tr("Distribute &down"),
+         {tr("Distribute &vertically"),
           {QKeySequence(tr("Ctrl+Shift+V"))},
           [this] { m_editor.Distribute(Direction::Down); },
           true},
@@ -198,7 +198,7 @@ void MainWindow::MakeViewMenu()
           [this] { m_view->SetZoom(m_view->Zoom() - 1); }},
          {tr("&Fit to window"), {QKeySequence(tr("Ctrl+0"))}, [this] { m_view->ZoomToFit(); }},
          kSeparator});
-    QAction *const diodes = menu->addAction(tr("As &diodes"));
+    QAction *const diodes = menu->addAction(tr("Show as LE&Ds"));
     diodes->setCheckable(true);
     diodes->setShortcut(QKeySequence(tr("Ctrl+L")));
     connect(diodes, &QAction::toggled, this, [this](bool on) {
@@ -249,7 +249,7 @@ void MainWindow::MakeLanguageMenu(QMenu &view)
 void MainWindow::MakeHelpMenu()
 {
     AddMenu(tr("&Help"),
-            {{tr("&Keys"), {QKeySequence(tr("F1"))}, [this] { ShowKeys(); }},
+            {{tr("&Keyboard shortcuts"), {QKeySequence(tr("F1"))}, [this] { ShowKeys(); }},
              {tr("&About Clock Studio"), {}, [this] { ShowAbout(); }}});
 }
 
@@ -265,7 +265,7 @@ void MainWindow::MakeToolBar()
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(space);
     for (QAction *const action : qAsConst(m_actions)) {
-        if (action->text() == tr("As &diodes") || action->text() == tr("Sen&d to a wall…"))
+        if (action->text() == tr("Show as LE&Ds") || action->text() == tr("Sen&d to a wall…"))
             bar->addAction(action);
     }
 }
@@ -332,10 +332,11 @@ void MainWindow::ShowKeys()
 
 void MainWindow::ShowAbout()
 {
-    QMessageBox::about(this, tr("About Clock Studio"),
-                       tr("<h3>Clock Studio %1</h3><p>Designs walls of clocks. All clocks are "
-                          "drawn by the clock plugin itself.</p>")
-                           .arg(QStringLiteral(CLOCK_STUDIO_VERSION)));
+    QMessageBox::about(
+        this, tr("About Clock Studio"),
+        tr("<h3>Clock Studio %1</h3><p>An editor for walls of clocks. All clocks are "
+           "drawn by the clock plugin itself.</p>")
+            .arg(QStringLiteral(CLOCK_STUDIO_VERSION)));
 }
 
 } // namespace ClockStudio

@@ -43,7 +43,7 @@ MainWindow::MainWindow(const QString &recoveryDirectory, QWidget *parent)
     connect(&m_files, &ProgramFiles::ChangedOnDisk, this, &MainWindow::AskAboutChange);
     connect(&m_files, &ProgramFiles::LostOnDisk, this, [this] {
         m_messages->Ask(
-            tr("%1 was deleted from the disk. Your work is still open here.").arg(m_files.Name()),
+            tr("%1 was deleted from disk. Your work is still open here.").arg(m_files.Name()),
             {{tr("Save"), [this] { Save(); }}, {tr("Dismiss"), {}}});
     });
     connect(&m_document, &StudioDocument::Read, this, &MainWindow::UpdateState);
@@ -236,7 +236,7 @@ void MainWindow::OfferRecovery()
     const LeftWork work = left.first();
     const QString name = work.path.isEmpty() ? tr("a new wall") : work.path;
     m_messages->Ask(
-        tr("The studio ended unexpectedly. Unsaved changes to %1 can be recovered.").arg(name),
+        tr("The studio closed unexpectedly. Unsaved changes to %1 can be recovered.").arg(name),
         {{tr("Recover"), [this, work] { Recover(work); }}, {tr("Discard"), [this, work] {
                                                                 RecoveryStore::Remove(work);
                                                                 OfferRecovery();
@@ -293,7 +293,7 @@ void MainWindow::UpdateState()
                          .arg(fault->reason.endsWith(QLatin1Char('.'))
                                   ? fault->reason
                                   : fault->reason + QLatin1Char('.')),
-                     {{tr("Show the line"), [this, line] {
+                     {{tr("Go to line"), [this, line] {
                            m_sourceDock->show();
                            m_source->GoToLine(line);
                            m_source->setFocus();

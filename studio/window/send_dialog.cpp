@@ -22,7 +22,7 @@ namespace {
 
 constexpr int kWidth = 500; // pixels
 
-/// One that Return does not press.
+/// A button that the Return key does not press.
 QPushButton *Button(const QString &text)
 {
     auto *const button = new QPushButton(text);
@@ -73,8 +73,8 @@ void SendDialog::AddFields(QFormLayout &form)
     m_folder->setPlaceholderText(tr("/srv/wall"));
     m_status->setObjectName(QStringLiteral("status"));
     m_status->setPlaceholderText(tr("none, or /run/clock-player/status.json"));
-    m_status->setToolTip(tr("The player's status file on the wall. It tells whether the wall plays "
-                            "what was sent."));
+    m_status->setToolTip(tr("The player's status file on the wall. It shows whether the wall is "
+                            "playing what was sent."));
     form.addRow(tr("Wall"), m_name);
     form.addRow(tr("Host"), m_host);
     form.addRow(tr("Folder"), m_folder);
@@ -89,7 +89,7 @@ QWidget *SendDialog::KeyField()
     auto *const layout = new QHBoxLayout(field);
     layout->setContentsMargins(0, 0, 0, 0);
     m_key->setObjectName(QStringLiteral("key"));
-    m_key->setPlaceholderText(tr("the usual one"));
+    m_key->setPlaceholderText(tr("empty for ssh's default key"));
     auto *const browse = new QToolButton;
     browse->setText(QStringLiteral("…"));
     browse->setAccessibleName(tr("Choose the key file"));
@@ -127,7 +127,7 @@ void SendDialog::AddButtons()
     QPushButton *const send = buttons->addButton(tr("Send"), QDialogButtonBox::AcceptRole);
     send->setObjectName(QStringLiteral("send"));
     layout()->addWidget(buttons);
-    send->setDefault(true); // which counts within the dialog only
+    send->setDefault(true); // has no effect before the button is in the dialog
     connect(send, &QPushButton::clicked, this, &SendDialog::Send);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
@@ -177,7 +177,7 @@ bool SendDialog::IsComplete()
 bool SendDialog::TellOf(const ToolResult &result)
 {
     if (!result.isGood)
-        m_said->setText(result.isCancelled ? tr("Cancelled. The wall shows what it showed before.")
+        m_said->setText(result.isCancelled ? tr("Cancelled. The wall is unchanged.")
                                            : result.errors);
     return result.isGood;
 }
@@ -189,23 +189,24 @@ void SendDialog::Send()
     KeepTarget();
     const QTemporaryDir work;
     const QString folder = work.filePath(QStringLiteral("export"));
-    if (!TellOf(RunBehindDialog({ExportCommand(m_program, folder)}, tr("Making the glyph files…"),
-                                this)))
+    if (!TellOf(RunBehindDialog({ExportCommand(m_program, folder)},
+                                tr("Generating the glyph files…"), this)))
         return;
     const QString release =
         Lw::HNodeClock::FormatAscii(QDateTime::currentDateTimeUtc(), "yyyyMMdd-HHmmss");
     if (Bring(folder, release))
-        Follow(tr("%1 has release %2. The one before is kept.").arg(Target().name, release));
+        Follow(tr("%1 now has release %2. The previous one is kept.").arg(Target().name, release));
 }
 
-/// Nothing half is left where that can still be reached.
+/// After a failure, removes the incomplete release if the target can still be reached.
 bool SendDialog::Bring(const QString &folder, const QString &release)
 {
     const QString what = tr("Sending to %1…").arg(Target().name);
     const bool isBrought =
         TellOf(RunBehindDialog(SendCommands(Target(), folder, release), what, this));
     if (!isBrought)
-        RunBehindDialog({DiscardCommand(Target(), release)}, tr("Removing what was sent…"), this);
+        RunBehindDialog({DiscardCommand(Target(), release)}, tr("Removing the incomplete release…"),
+                        this);
     return isBrought;
 }
 
@@ -213,7 +214,7 @@ void SendDialog::Follow(const QString &said)
 {
     m_said->setText(said);
     if (!Target().statusFile.isEmpty())
-        m_word->setText(tr("Waiting for the wall to play it…"));
+        m_word->setText(tr("Waiting for the wall to play the release…"));
     m_watch.Follow(Target());
     if (m_releases->isVisible())
         ListReleases();
@@ -231,7 +232,7 @@ void SendDialog::ListReleases()
     m_releases->clear();
     const ReleaseList list = ReleasesIn(QString::fromUtf8(result.output));
     for (const QString &release : list.releases) {
-        const QString text = release == list.current ? tr("%1 (plays now)").arg(release) : release;
+        const QString text = release == list.current ? tr("%1 (playing)").arg(release) : release;
         auto *const item = new QListWidgetItem(text, m_releases);
         item->setData(Qt::UserRole, release);
     }
@@ -248,8 +249,7 @@ void SendDialog::PlayRelease()
     if (!item || !IsComplete())
         return;
     const QString release = item->data(Qt::UserRole).toString();
-    if (TellOf(
-            RunBehindDialog({PlayCommand(Target(), release)}, tr("Changing the release…"), this)))
+    if (TellOf(RunBehindDialog({PlayCommand(Target(), release)}, tr("Switching releases…"), this)))
         Follow(tr("%1 has release %2.").arg(Target().name, release));
 }
 

@@ -357,7 +357,7 @@ void TestMainWindow::lostFileIsSaid()
 {
     WindowUnderTest test;
     QVERIFY(QFile::remove(test.path));
-    QTRY_VERIFY(test.Said().contains("deleted from the disk"));
+    QTRY_VERIFY(test.Said().contains("deleted from disk"));
     test.Press("Save");
     QCOMPARE(ContentsOf(test.path), kWall);
 }
@@ -408,7 +408,7 @@ void TestMainWindow::writesASheet()
 {
     WindowUnderTest test;
     const QString sheet = test.work.filePath("wall.pdf");
-    test.Run("Sheet for approval", sheet);
+    test.Run("Approval sheet", sheet);
     const QByteArray written = ContentsOf(sheet);
     QVERIFY(written.startsWith("%PDF-"));
     QVERIFY(written.trimmed().endsWith("%%EOF"));
@@ -434,7 +434,7 @@ void TestMainWindow::failedPictureKeepsTheFile()
     WindowUnderTest test;
     test.Run("Picture of the wall", test.work.filePath("no/such/wall.png"));
     QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
-    test.Run("Sheet for approval", "/proc/wall.pdf");
+    test.Run("Approval sheet", "/proc/wall.pdf");
     QVERIFY2(test.Said().contains("could not be saved"), qPrintable(test.Said()));
 }
 

@@ -332,8 +332,8 @@ void TestPropertyPanel::setsPlace()
         const char *name;
         const char *value;
         QRect place;
-    } steps[] = {{"Left edge, pixels", "-3", {-3, 0, kSide, kSide}},
-                 {"Top edge, pixels", "7", {-3, 7, kSide, kSide}},
+    } steps[] = {{"Left edge in pixels", "-3", {-3, 0, kSide, kSide}},
+                 {"Top edge in pixels", "7", {-3, 7, kSide, kSide}},
                  {"Width in pixels", "120", {-3, 7, 120, kSide}},
                  {"Height in pixels", "90", {-3, 7, 120, 90}}};
     for (const auto &step : steps) {

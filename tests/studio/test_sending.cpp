@@ -422,7 +422,7 @@ void TestSending::DialogSaysWhatIsWrong()
     DialogUnderTest test;
     test.Line("folder").setText("relative");
     test.Press("send");
-    QVERIFY(test.Said().contains("begins with /"));
+    QVERIFY(test.Said().contains("must be an absolute path"));
     test.Line("folder").setText("/proc/no/such");
     test.Press("send");
     QVERIFY2(test.Said().contains("/proc/no"), qPrintable(test.Said()));

@@ -1,0 +1,111 @@
+// The studio's catalogues: complete in every language, with the texts of tables that lupdate
+// cannot see.
+#include "properties/property_groups.h"
+
+#include "clock_attributes.h"
+
+#include <QTranslator>
+#include <QXmlStreamReader>
+#include <QtTest>
+
+using namespace ClockStudio;
+
+class TestStudioCatalogues : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isFinished_data() { Languages(); }
+    void isFinished();
+    void hasTheAttributes_data() { Languages(); }
+    void hasTheAttributes();
+    void hasTheGroups_data() { Languages(); }
+    void hasTheGroups();
+
+private:
+    static void Languages();
+};
+
+void TestStudioCatalogues::Languages()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("Persian") << "fa";
+    QTest::newRow("Chinese") << "zh";
+}
+
+void TestStudioCatalogues::isFinished()
+{
+    QFETCH(QString, language);
+    QFile file(QStringLiteral(CATALOGUES "/studio_%1.ts").arg(language));
+    QVERIFY(file.open(QFile::ReadOnly));
+    QXmlStreamReader xml(&file);
+    QString source;
+    int count = 0;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == QLatin1String("source"))
+            source = xml.readElementText();
+        if (!xml.isStartElement() || xml.name() != QLatin1String("translation"))
+            continue;
+        ++count;
+        QVERIFY2(!xml.attributes().hasAttribute("type"), qPrintable(source));
+        QVERIFY2(!xml.readElementText(QXmlStreamReader::IncludeChildElements).trimmed().isEmpty(),
+                 qPrintable(source));
+    }
+    QVERIFY(!xml.hasError());
+    QVERIFY(count > 300);
+}
+
+/// The texts of a table that a language lacks, in the context.
+class Lacking
+{
+public:
+    Lacking(const QString &language, const char *context) : m_context(context)
+    {
+        if (!m_translator.load(":/translations/studio_" + language + ".qm"))
+            qFatal("no catalogue");
+    }
+    void Check(const char *text)
+    {
+        if (text && *text != '\0' && m_translator.translate(m_context, text).isEmpty())
+            m_texts.append(text);
+    }
+    const QStringList &Texts() const { return m_texts; }
+
+private:
+    QTranslator m_translator;
+    const char *m_context;
+    QStringList m_texts;
+};
+
+void TestStudioCatalogues::hasTheAttributes()
+{
+    QFETCH(QString, language);
+    Lacking lacking(language, "ClockStudio::Attributes");
+    for (const auto &row : Lw::HNodeClock::kAttributeTable) {
+        // The number and the GUID of a clock are not shown.
+        if (row.attribute == Lw::HNodeClock::Attribute::Guid
+            || row.attribute == Lw::HNodeClock::Attribute::Id)
+            continue;
+        lacking.Check(row.label);
+        lacking.Check(row.meaning);
+        for (int code = row.range.first; row.range.names && code <= row.range.last; ++code)
+            lacking.Check(row.range.NameOf(code));
+    }
+    QCOMPARE(lacking.Texts(), QStringList());
+}
+
+void TestStudioCatalogues::hasTheGroups()
+{
+    QFETCH(QString, language);
+    Lacking lacking(language, "ClockStudio::PropertyGroups");
+    for (int i = 0; i < kPropertyGroupCount; ++i) {
+        lacking.Check(kPropertyGroups[i].title);
+        for (const PropertyLine &line : kPropertyGroups[i].lines)
+            lacking.Check(line.label);
+    }
+    QCOMPARE(lacking.Texts(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(TestStudioCatalogues)
+#include "test_studio_catalogues.moc"
