@@ -15,7 +15,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// Where a value is set: an XML attribute of an element. Empty attribute name: nowhere.
+/// Where a value is set: an XML attribute of an element; the name is empty if it is not set.
 struct Source
 {
     int element = -1;
@@ -41,7 +41,7 @@ QString ColourName(int stored)
     return Lw::HAppConfig::IntToColor(stored).name();
 }
 
-/// The text that an import converts to a stored value; nullopt if there is none.
+/// The text that the importer converts to this stored value; nullopt if there is none.
 std::optional<QString> ImportText(Conversion conversion, const QString &stored)
 {
     switch (conversion) {
@@ -292,7 +292,7 @@ TextEdits ResetEdits(const ProgramReading &reading, int area, Attribute attribut
 TextEdits KindEdits(const ProgramReading &reading, int area, int kind)
 {
     const int clock = reading.ClockElement(area);
-    // The older form has the kind as a number in a child element.
+    // The older form stores the kind as a number in a child element.
     const QVector<int> older =
         ChildrenNamed(reading.elements, clock, QLatin1String(Sdk::kClockCom));
     TextEdits edits {older.isEmpty()

@@ -32,7 +32,7 @@ TextEdits ValueEdits(const ProgramReading &reading, int area, const QVector<Stor
 /// The edits that reset an attribute to its default: its setting is removed, if that suffices.
 TextEdits ResetEdits(const ProgramReading &reading, int area, Lw::HNodeClock::Attribute attribute);
 
-/// The edits that make it another kind of clock (see ClockTypeCode).
+/// The edits that change the clock's kind (see ClockTypeCode).
 TextEdits KindEdits(const ProgramReading &reading, int area, int kind);
 
 /// An attribute's default, as stored (text defaults are in the clocks' language).

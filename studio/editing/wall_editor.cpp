@@ -14,7 +14,7 @@ namespace ClockStudio {
 
 namespace {
 
-// How far copies are put from what they are copies of, in pixels.
+// Offset of a copy from its original, in pixels.
 constexpr QPoint kCopyDistance(8, 8);
 
 } // namespace

@@ -1,4 +1,4 @@
-// studio/files: makes an animated GIF of ten seconds of a wall, with ImageMagick.
+// studio/files: creates an animated GIF of ten seconds of a wall, using ImageMagick.
 #pragma once
 
 #include "tool_run.h"

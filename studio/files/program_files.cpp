@@ -97,7 +97,7 @@ void ProgramFiles::Recover(const LeftWork &work)
 
 void ProgramFiles::KeepWork()
 {
-    // Typing on is one step of the history, so only the text tells what is new.
+    // Consecutive typing is a single undo step, so the texts themselves are compared.
     if (IsSaved() || m_keptText == m_document.Text())
         return;
     if (const auto bytes = m_document.Bytes()) {

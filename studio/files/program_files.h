@@ -1,4 +1,4 @@
-// studio/files: the file of the open program: reads, saves, and watches for changes by others.
+// studio/files: loads and saves the open program's file, and watches it for changes by others.
 #pragma once
 
 #include "recovery_store.h"

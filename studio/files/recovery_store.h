@@ -30,7 +30,7 @@ public:
 
     /// False if it could not be written; the previous copy is kept.
     bool Keep(const QString &path, const QByteArray &bytes);
-    /// Call when the work was saved or discarded.
+    /// Call when the work has been saved or discarded.
     void Forget();
 
     /// The work of studios that no longer run; unreadable files are skipped.

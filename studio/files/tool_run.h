@@ -22,7 +22,7 @@ struct ToolCommand
 
 /// The path of clock_tool, beside this program.
 QString ClockToolPath();
-/// Its export of a program to a folder, in the language that the clocks have now.
+/// The clock_tool command that exports a program to a folder, in the clocks' current language.
 ToolCommand ExportCommand(const QString &program, const QString &folder);
 /// Its checks of a program, likewise; each finding is a line of JSON.
 ToolCommand LintCommand(const QString &program);

@@ -11,10 +11,10 @@ namespace ClockStudio {
 struct WallTarget
 {
     QString name;       ///< display name
-    QString host;       ///< "user@host" or "user@host:port"; empty for a folder of this computer
+    QString host;       ///< "user@host" or "user@host:port"; empty for a folder on this computer
     QString folder;     ///< on the host, where the releases are
     QString key;        ///< SSH private key file; empty for ssh's default
-    QString statusFile; ///< on the host, of the player that plays the wall; empty for none
+    QString statusFile; ///< the player's status file on the host; empty for none
 
     bool IsRemote() const { return !host.isEmpty(); }
     QString Login() const; ///< the host without the port
@@ -32,22 +32,22 @@ void KeepTargets(const QVector<WallTarget> &targets);
 /// so nothing that these could misinterpret is accepted.
 QString TargetFault(const WallTarget &target);
 
-/// The commands that copy an export to a target as a release and then play it. Until all of it
-/// is there it is under a name that lists leave out.
+/// The commands that copy an export to a target as a release and then play it. Until the copy is
+/// complete, it has a hidden name that ListCommand does not list.
 QVector<ToolCommand> SendCommands(const WallTarget &target, const QString &exportFolder,
                                   const QString &release);
-/// The one that removes what a sending that was broken off left.
+/// The command that removes what an interrupted transfer left behind.
 ToolCommand DiscardCommand(const WallTarget &target, const QString &release);
 /// The command that switches to a release already on the target.
 ToolCommand PlayCommand(const WallTarget &target, const QString &release);
-/// The one that lists the releases, for ReleasesIn.
+/// The command whose output ReleasesIn parses.
 ToolCommand ListCommand(const WallTarget &target);
-/// The one that writes what a WallWord is read from. Only for a target with a status file.
+/// The command whose output ReadWallWord parses. Only for a target with a status file.
 ToolCommand WordCommand(const WallTarget &target);
 
 struct ReleaseList
 {
-    QStringList releases; ///< the last one first
+    QStringList releases; ///< newest first
     QString current;      ///< the one that plays; empty for none
 };
 

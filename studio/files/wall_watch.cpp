@@ -4,8 +4,9 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kInterval = 2000;    // milliseconds
-constexpr int kPatience = 180'000; // milliseconds: longer than players take between two statuses
+constexpr int kInterval = 2000; // milliseconds
+constexpr int kPatience =
+    180'000; // milliseconds; longer than the interval at which players write their status
 
 } // namespace
 

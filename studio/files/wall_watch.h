@@ -1,4 +1,4 @@
-// studio/files: asks a wall what it plays until it plays what was sent.
+// studio/files: polls a wall's status until it plays what was sent.
 #pragma once
 
 #include "wall_target.h"

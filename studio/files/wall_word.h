@@ -9,11 +9,11 @@ namespace ClockStudio {
 struct WallWord
 {
     enum class State {
-        Unknown,    ///< no status that can be read
+        Unknown,    ///< no readable status
         Plays,      ///< the current release is on the wall
         PlaysOther, ///< something else is
         Notice,     ///< a notice is on the wall instead of a program
-        Outdated    ///< the status is too old to tell: the player does not run
+        Outdated    ///< the status is too old: the player is not running
     };
 
     State state = State::Unknown;
@@ -25,7 +25,7 @@ struct WallWord
 /// status.
 WallWord ReadWallWord(const QByteArray &output, const QDateTime &now);
 
-/// The same for people.
+/// The status as a sentence for the user.
 QString WordText(const WallWord &word);
 
 } // namespace ClockStudio

@@ -18,13 +18,13 @@ QString Translated(const char *text)
 std::optional<QString> WriteWhole(const QString &path,
                                   const std::function<bool(QIODevice &)> &write)
 {
-    // A new file takes the place of the old one, which a device would not survive.
+    // Saving renames a new file over the old one, which would replace a device node.
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
         return Translated(
                    QT_TRANSLATE_NOOP("ClockStudio::WholeFile", "%1 is not an ordinary file."))
             .arg(path);
     QSaveFile file(path);
-    // Closing the file alone does not tell whether its last bytes found room.
+    // Closing alone does not report a full disk.
     if (file.open(QFile::WriteOnly) && write(file) && file.flush() && file.commit())
         return std::nullopt;
     return Translated(QT_TRANSLATE_NOOP("ClockStudio::WholeFile", "%1 could not be saved: %2"))

@@ -1,4 +1,4 @@
-// studio/files: files that are written whole or not at all.
+// studio/files: writes files atomically.
 #pragma once
 
 #include <QString>
@@ -12,8 +12,8 @@ QT_END_NAMESPACE
 
 namespace ClockStudio {
 
-/// Writes a file, or leaves the one that is there as it is. Why it could not be written, as a
-/// sentence; nothing where it was. What writes tells whether it could.
+/// Writes a file atomically: on failure, the old one is unchanged. Returns an error message, or
+/// nullopt on success. `write` returns whether it succeeded.
 std::optional<QString> WriteWhole(const QString &path,
                                   const std::function<bool(QIODevice &)> &write);
 std::optional<QString> WriteWhole(const QString &path, const QByteArray &bytes);

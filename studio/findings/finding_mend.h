@@ -12,7 +12,7 @@ namespace ClockStudio {
 /// What lint finds in a program, without duplicates, in text order.
 QVector<ClockTool::Finding> FindingsIn(const ProgramReading &reading);
 
-/// The element that a finding is about; -1 where it is about the file.
+/// The element that a finding is about; -1 if it is about the whole file.
 int ElementOf(const ProgramReading &reading, const ClockTool::Finding &finding);
 
 /// The key of the attribute that a finding is about; empty where there is none.

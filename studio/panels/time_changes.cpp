@@ -15,9 +15,9 @@ using Lw::HNodeClock::ZoneSettings;
 
 constexpr qint64 kSecond = 1000;
 constexpr qint64 kDay = 86400 * kSecond;
-constexpr int kLongestLunarMonth = 31; // days to search; a lunar month has 29 or 30
+constexpr int kLunarSearchDays = 31; // a lunar month has 29 or 30 days
 
-/// A reading of a clock as a UTC time.
+/// What a clock shows at an instant, in a QDateTime that is marked as UTC.
 QDateTime Reading(const ZoneSettings &clock, qint64 instant)
 {
     return QDateTime::fromMSecsSinceEpoch(
@@ -40,7 +40,7 @@ bool IsLunarMonthStart(const QDate &date)
     return QByteArray(LunarCalendarSetup(date.year(), date.month(), date.day())).endsWith("$01");
 }
 
-/// The first date after one on which a change of a kind happens; invalid where there is none.
+/// The first date after the given one on which such a change happens; invalid if there is none.
 QDate NextDate(ChangeKind kind, const QDate &date)
 {
     switch (kind) {
@@ -51,7 +51,7 @@ QDate NextDate(ChangeKind kind, const QDate &date)
     case ChangeKind::Year:
         return QDate(date.year() + 1, 1, 1);
     case ChangeKind::LunarMonth:
-        for (int days = 1; days <= kLongestLunarMonth; ++days) {
+        for (int days = 1; days <= kLunarSearchDays; ++days) {
             if (IsLunarMonthStart(date.addDays(days)))
                 return date.addDays(days);
         }
@@ -80,7 +80,7 @@ std::optional<qint64> NextChangeOf(ChangeKind kind, const QVector<ZoneSettings> 
     std::optional<qint64> first;
     for (const ZoneSettings &clock : clocks) {
         std::optional<qint64> next = NextOf(kind, clock, instant);
-        // The standard offset may put the midnight just before the instant.
+        // MidnightOf() may give a midnight just before the instant.
         if (next && *next <= instant)
             next = NextOf(kind, clock, instant + kDay);
         if (next && *next > instant && (!first || *next < *first))

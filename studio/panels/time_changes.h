@@ -1,5 +1,5 @@
-// studio/panels: finds the next change of what clocks show: daylight saving, midnight, month, year.
-// Pure.
+// studio/panels: finds the next change of what clocks show: daylight saving, midnight, a new month,
+// year or lunar month. Pure.
 #pragma once
 
 #include "calendar/zone_time.h"

@@ -21,7 +21,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-// Apart from those of the clocks on the wall.
+// Not used by the clocks on the wall.
 constexpr int kIdentity = 99999;
 constexpr unsigned int kPlay = std::numeric_limits<unsigned int>::max();
 
@@ -32,13 +32,13 @@ constexpr int kTextSize = 11;  // points
 constexpr int kInk = 0x00b0ff; // amber, as the host packs it
 constexpr int kDialInk = 0xffffff;
 
-/// 8 March 2026, 10:08:36 UTC: no part is above another, no digit twice in a row.
+/// 8 March 2026, 10:08:36 UTC: no hand covers another, and the digits differ.
 long long PictureTime()
 {
     return 1772964516000LL;
 }
 
-/// While it lives, clocks show the pictures' time.
+/// Makes clocks show the pictures' time until it is destroyed.
 class AtPictureTime
 {
 public:

@@ -13,7 +13,7 @@ QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size);
 /// A sample picture for a code of an attribute; null if there is none. Cached.
 QPixmap CodePicture(Lw::HNodeClock::Attribute attribute, int code);
 
-/// A kind of clock (see ClockTypeCode).
+/// A picture of a kind of clock (see ClockTypeCode).
 QPixmap KindPicture(int kind);
 
 } // namespace ClockStudio

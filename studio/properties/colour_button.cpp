@@ -13,7 +13,7 @@ namespace ClockStudio {
 
 namespace {
 
-// Fully and half-lit LEDs: colours that remain distinguishable on a wall, where dark ones vanish.
+// Colours that remain distinguishable on a wall, where the darkest ones vanish.
 constexpr QRgb kPalette[] = {
     0xffffff, 0xc0c0c0, 0x808080, 0xff3030, 0xff0000, 0xff8000, 0xffb000, 0xffff00,
     0xc0ff00, 0x60ff60, 0x00ff00, 0x00ffa0, 0x00ffff, 0x60c0ff, 0x0080ff, 0x0000ff,

@@ -1,5 +1,5 @@
-// studio/properties: a combo box of font families. Families without all characters that the clock
-// shows are greyed out.
+// studio/properties: a combo box of font families. Families that lack a character the clock shows
+// are greyed out.
 #pragma once
 
 #include "clock_attributes.h"

@@ -30,7 +30,7 @@ struct PropertyGroup
 extern const PropertyGroup kPropertyGroups[];
 extern const int kPropertyGroupCount;
 
-/// Whether a kind of clock (see ClockTypeCode) uses something.
+/// Whether `clocks` includes a kind of clock (see ClockTypeCode).
 bool IsUsedBy(Lw::HNodeClock::ClockKinds clocks, int kind);
 
 } // namespace ClockStudio

@@ -1,4 +1,5 @@
-// studio/properties: the panel: place, kind, zone and everything else that the chosen clocks use.
+// studio/properties: the property panel: kind, zone, position and every other attribute of the
+// selected clocks.
 #pragma once
 
 #include "property_groups.h"
@@ -30,14 +31,14 @@ class PropertyPanel : public QScrollArea
 public:
     explicit PropertyPanel(WallEditor &editor, QWidget *parent = nullptr);
 
-    /// Brings the control of an attribute into view and gives it the keys.
+    /// Scrolls to the control of an attribute and gives it keyboard focus.
     void Reveal(const QString &key);
     ZoneSection &Zone() { return *m_zone; }
 
-    /// Sets values of all chosen clocks that have them.
+    /// Sets these values in every selected clock that uses them.
     void SetValues(const QVector<StoredValue> &values, const QString &label,
                    const QString &mergeKey = {});
-    /// Gives the chosen clocks sizes that fill their areas.
+    /// Sets the font sizes of the selected clocks so that the texts fill their areas.
     void FitSizes();
 
 protected:
@@ -77,7 +78,7 @@ private:
     QSpinBox *m_screenSize[2]; ///< width, height
     ZoneSection *m_zone;
     QVector<Group> m_groups;
-    QVector<ValueEditor *> *m_making = nullptr; ///< the editors of the group that is being made
+    QVector<ValueEditor *> *m_making = nullptr; ///< the editors of the group being built
     bool m_isShowing = false;
 };
 

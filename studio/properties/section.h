@@ -18,7 +18,7 @@ class Section : public QWidget
 public:
     explicit Section(const QString &title);
 
-    /// A switch beside the heading, which shows and hides what is under it.
+    /// Adds a switch beside the heading that shows and hides the controls below.
     void AddSwitch(const QString &explanation);
     void SetSwitch(Qt::CheckState state);
 

@@ -101,7 +101,7 @@ public:
         const ValueRange &range = Row().range;
         for (int code = range.first; code <= range.last; ++code)
             m_box->addItem(TranslatedWords(range.NameOf(code)), code);
-        // The box takes the width of the panel; its list is as wide as its texts.
+        // The closed box is as wide as the panel; the list is as wide as its texts.
         m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         m_box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         Use(m_box);

@@ -40,7 +40,7 @@ private:
 /// The control for the attribute's role.
 ValueEditor *MakeValueEditor(Lw::HNodeClock::Attribute attribute);
 
-/// A label or meaning of the attribute table, translated.
+/// The translation of a label or meaning in the attribute table.
 QString TranslatedWords(const char *words);
 
 } // namespace ClockStudio

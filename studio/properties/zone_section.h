@@ -23,7 +23,7 @@ public:
     ZoneSection();
 
     void Show(const QVector<Lw::HNodeClock::HClockNode *> &clocks);
-    /// Sets the clocks to a zone; shows a warning if that is not exact.
+    /// Sets the clocks to a zone; shows a warning if they cannot follow it exactly.
     void Choose(const QByteArray &zone);
 
 Q_SIGNALS:

@@ -16,7 +16,7 @@ QStringList AreasInText(const QString &text);
 /// one. The new Id is added to takenIds.
 QString AreaForProgram(const QString &areaText, QPoint offset, QSet<int> &takenIds);
 
-/// The identities that a program's text gives its clocks.
+/// The Ids that a program's text sets.
 QSet<int> GivenIds(const ProgramReading &reading);
 
 } // namespace ClockStudio

@@ -8,7 +8,7 @@
 
 namespace ClockStudio {
 
-/// The first line end in a text; "\n" if it has none.
+/// The first line ending in a text; "\n" if it has none.
 QString LineEndOf(const QString &text);
 
 /// Sets an attribute of an element; a new one is added after the existing ones.

@@ -29,7 +29,7 @@ TextFault FaultOf(const Failure &failure)
 }
 
 /// A program without areas cannot be played, but is valid in the editor. Its size is checked by
-/// the normal reader, with a dummy area inserted.
+/// the normal parser, with a dummy area inserted.
 std::optional<Program> ReadEmptyProgram(const QString &text, const XmlElements &elements)
 {
     const XmlElement &root = elements.first();

@@ -1,4 +1,4 @@
-// studio/text: the studio's only model: a program's text. Every change is an undoable edit of it.
+// studio/text: a program's text, the studio's only model. Every change is an undoable edit of it.
 #pragma once
 
 #include "program_reading.h"
@@ -38,7 +38,7 @@ public:
     const std::optional<TextFault> &Fault() const { return m_fault; }
 
 Q_SIGNALS:
-    void Edited(const ClockStudio::TextEdits &edits); ///< the text has changed by these
+    void Edited(const ClockStudio::TextEdits &edits); ///< these edits have been applied
     void Loaded();                                    ///< the whole text was replaced
     void Read(); ///< after either: Reading() and Fault() are up to date
 

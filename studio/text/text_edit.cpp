@@ -60,7 +60,7 @@ TextEdit Smallest(const TextEdit &edit)
 
 TextEdits InSequence(TextEdits edits)
 {
-    // From the end, so that no edit moves the place of a later one.
+    // Last position first, so that no edit shifts the position of the next one.
     std::stable_sort(edits.begin(), edits.end(), [](const TextEdit &one, const TextEdit &other) {
         return one.position > other.position;
     });

@@ -57,7 +57,7 @@ QString ReadValue(const QString &text, TextRange range)
             value += Referenced(text.mid(i + 1, end - i - 1));
             i = end;
         } else if (text[i] == QLatin1Char('\r') && text.midRef(i + 1, 1) == QLatin1String("\n")) {
-            continue; // a line end is one space
+            continue; // CR LF becomes one space
         } else {
             value += IsSpace(text[i]) ? QChar(QLatin1Char(' ')) : text[i];
         }

@@ -23,7 +23,7 @@ struct XmlElement
     QVector<XmlAttribute> attributes;
     TextRange whole;     ///< from "<" of the start tag to ">" of the end tag
     TextRange tag;       ///< the start tag
-    bool closed = false; ///< <so/>
+    bool closed = false; ///< written <name/>
 
     const XmlAttribute *Find(const QString &attribute) const;
     /// Empty where there is no such attribute.

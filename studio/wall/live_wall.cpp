@@ -150,7 +150,7 @@ int LiveWall::FreeIdentity()
                                       : m_freeIdentities.takeLast();
 }
 
-/// The glyph files are overwritten by the next clock with this Id.
+/// Frees the Id; the next clock that gets it overwrites the glyph files.
 void LiveWall::Release(Slot &slot)
 {
     if (slot.identity != 0)

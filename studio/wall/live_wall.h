@@ -87,7 +87,8 @@ private:
     QImage m_screen;
 };
 
-/// Starts an area that shows all of its clock at once: texts of dials come with the second frame.
+/// Starts an area and plays a second frame at once, because a dial draws its texts only in its
+/// second frame.
 void StartWhole(ClockStage::Area &area);
 
 /// Finds the clock plugin for an element (a ClockProgram::PluginFinder).

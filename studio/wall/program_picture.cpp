@@ -12,7 +12,7 @@ QImage PictureOfProgram(const QByteArray &bytes)
     const auto program = ClockProgram::ParseProgram(bytes, QString());
     if (!program)
         return {};
-    // Identities and play numbers not used by the clocks on the wall.
+    // Ids and play numbers not used by the clocks on the wall.
     constexpr int kFirstIdentity = 90000;
     constexpr unsigned int kFirstPlay = 0xf0000000U;
     auto made = ClockProgram::MakeNodes(*program, FindClockPlugin);

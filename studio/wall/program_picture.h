@@ -7,7 +7,7 @@
 
 namespace ClockStudio {
 
-/// A picture of the program at the time shown now; null if it is not a valid program.
+/// A picture of the program at the time currently shown; null if it is not a valid program.
 QImage PictureOfProgram(const QByteArray &bytes);
 
 } // namespace ClockStudio

@@ -6,7 +6,7 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kFar = 3;   // pixels of the view that a click may wander
+constexpr int kFar = 3;   // view pixels that the pointer may move during a click
 constexpr int kReach = 6; // pixels of the view within which sides snap
 
 // The size of a clock placed by a click instead of a drag.

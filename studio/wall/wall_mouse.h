@@ -60,7 +60,7 @@ private:
     std::optional<ClockKind> m_drawing;
     Drag m_drag = Drag::None;
     Handle m_handle = NoHandle;
-    QPoint m_from;          ///< the wall pixel corner where the drag began
+    QPoint m_from;          ///< the pixel corner of the wall where the drag began
     QPoint m_pressed;       ///< of the view
     QVector<QRect> m_rects; ///< the selected areas' rectangles when the drag began
     QRect m_band;

@@ -21,7 +21,8 @@ int MarkStep(int zoom)
     return 2048;
 }
 
-/// Ruler ticks in wall pixels: the distance between numbered ticks and the first one in view.
+/// Ruler ticks in wall pixels: the distance between numbered ticks, and the last
+/// one at or before the edge of the view.
 struct Marks
 {
     int step;
@@ -54,7 +55,7 @@ void PaintTopRuler(QPainter &painter, const WallScale &scale, int length, const 
     }
 }
 
-/// The same lying on its side, so that one way of drawing does for both.
+/// Background and selection mark are drawn transposed, ticks and numbers are not.
 void PaintLeftRuler(QPainter &painter, const WallScale &scale, int length, const QRect &chosen)
 {
     painter.save();

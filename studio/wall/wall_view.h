@@ -20,7 +20,8 @@ public:
     explicit WallView(WallEditor &editor, QWidget *parent = nullptr);
 
     int Zoom() const { return m_scale.zoom; }
-    /// Sets an integral magnification, keeping the point of the view fixed.
+    /// Sets the zoom (view pixels per wall pixel), keeping the wall pixel at `around` in place; by
+    /// default that at the centre.
     void SetZoom(int zoom, std::optional<QPoint> around = {});
     void ZoomToFit();
     bool ShowsDiodes() const { return m_diodes; }
@@ -37,7 +38,7 @@ Q_SIGNALS:
     void PointedAt(const QPoint &pixel); ///< of the wall
     void TextDropped(const QString &text);
     void FileDropped(const QString &path);
-    void MenuWanted(const QPoint &place); ///< of the whole display
+    void MenuWanted(const QPoint &place); ///< in global screen coordinates
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -17,7 +17,7 @@ class Gallery : public QWidget
 public:
     explicit Gallery(QWidget *parent = nullptr);
 
-    /// Updates the recent files. With a program open, the gallery can be left for its wall.
+    /// Updates the recent files. If a program is open, a button leads back to its wall.
     void Refresh(const QStringList &recent, bool isOpen);
 
 Q_SIGNALS:

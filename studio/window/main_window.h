@@ -37,7 +37,7 @@ public:
 
     /// False if the file cannot be opened; the window shows the error.
     bool Open(const QString &path);
-    /// Templates and recent files to begin with.
+    /// Shows the start page: templates and recent files.
     void ShowGallery();
 
     StudioDocument &Document() { return m_document; }
@@ -73,7 +73,7 @@ private:
     bool MayLeave();
     void BeginWith(const QByteArray &bytes);
     void ShowWallPage();
-    /// One after the other, what studios that ended unexpectedly left.
+    /// Offers, one at a time, to recover the unsaved work of studios that crashed.
     void OfferRecovery();
     void Recover(const LeftWork &work);
     void AskAboutChange();

@@ -22,7 +22,7 @@ public:
     struct Answer
     {
         QString text;
-        std::function<void()> act; ///< called after the bar was hidden
+        std::function<void()> act; ///< called after the bar is hidden
     };
 
     /// Shows a message and its buttons in place of the current one.

@@ -6,8 +6,6 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QPalette>
-#include <QStyleFactory>
 #include <QTranslator>
 
 #include <cstring>

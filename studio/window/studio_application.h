@@ -9,10 +9,11 @@ QT_END_NAMESPACE
 
 namespace ClockStudio {
 
-/// Whether a window can be opened, judging by the environment and the arguments.
+/// Whether a window can be opened, judging by the environment and the arguments. Selects the
+/// offscreen platform for --help and --version.
 bool HasDisplay(int argc, char **argv);
 
-/// Sets names, icon, style, translations and the layout direction.
+/// Sets names, icon, translations and the layout direction.
 void SetUpApplication(QApplication &application);
 
 } // namespace ClockStudio
