@@ -103,11 +103,12 @@ QRegion Spans::Region() const
     constexpr int kBandHeight = 16;
     QVarLengthArray<QRect, 128> bands;
     const int end = m_top + m_rows.size();
-    for (int top = m_top, next = top; top < end; top = next) {
-        next = std::min(end, (top / kBandHeight + 1) * kBandHeight);
+    for (int top = m_top; top < end;) {
+        const int next = std::min(end, (top / kBandHeight + 1) * kBandHeight);
         const Row bounds = BoundsOf(m_rows.constData() + top - m_top, next - top);
         if (bounds.left < bounds.right)
             bands.append(QRect(bounds.left, top, bounds.right - bounds.left, next - top));
+        top = next;
     }
     QRegion region;
     region.setRects(bands.constData(), bands.size());
