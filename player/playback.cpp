@@ -89,7 +89,7 @@ void Playback::Travel(const Command &command)
     ShowTravelledTime();
 }
 
-// Each area redraws now and thereby restarts its timer for the new speed, or stops it when
+// Each area redraws now, which restarts its timer for the new speed, or stops it when
 // paused.
 void Playback::ShowTravelledTime()
 {

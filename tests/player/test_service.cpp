@@ -28,7 +28,7 @@ QByteArray ClockProgramText(const QByteArray &title)
         + title + "\" fontName=\"DejaVu Sans\" fontSize=\"8\"/></clock></area></program>";
 }
 
-/// The socket on which a service manager listens. A player waits where nobody does.
+/// The socket on which a service manager listens. A player blocks if nothing reads from it.
 class ServiceManager
 {
 public:
