@@ -177,9 +177,9 @@ namespace {
 // The proportions of one hand, in units of a = radius / 27.
 struct HandFactors
 {
-    double bar;       // length of the bar, as a fraction of 23 a
+    double bar;       // length of the bar, in units of 23 a
     double shaft;     // scale of the arrow's shaft, tail and point
-    double head;      // where the arrow head begins, as a fraction of 23 a
+    double head;      // where the arrow head begins, in units of 23 a
     double halfWidth; // of the arrow's widening
     double ringRadius;
     double ringCentre;  // distance below the centre of the dial

@@ -99,6 +99,7 @@ private:
     QString Write(const QString &name, const QString &contents);
     QString WriteProgram(const QString &areas);
     PlayerRun Play(const QStringList &arguments);
+    void StartWindow(QProcess &process);
     QString Path(const QString &name) const { return m_directory->filePath(name); }
 
     QScopedPointer<QTemporaryDir> m_directory;
@@ -123,6 +124,18 @@ QString TestClockPlayer::WriteProgram(const QString &areas)
 {
     return Write(QStringLiteral("program.xml"),
                  QStringLiteral("<program width=\"8\" height=\"2\">\n%1</program>\n").arg(areas));
+}
+
+/// Plays one panel in a window, with the temporary directory "tmp".
+void TestClockPlayer::StartWindow(QProcess &process)
+{
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("TMPDIR", Path("tmp"));
+    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
+    process.setProcessEnvironment(environment);
+    StartProgram(
+        process, QStringLiteral(PLAYER),
+        {"--plugin-dir", kPanels, "-platform", "offscreen", WriteProgram(Area(0, "<panel/>"))});
 }
 
 /// With the panel plugin, into the directory "out".
@@ -577,26 +590,20 @@ void TestClockPlayer::FilesOfAKilledPlayerAreRemoved()
     const auto left = [this] {
         return QDir(Path("tmp")).entryList({"clock_player-*"}, QDir::Dirs);
     };
-    QProcessEnvironment environment = DisplaylessEnvironment();
-    environment.insert("TMPDIR", Path("tmp"));
-    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
     QProcess process;
-    process.setProcessEnvironment(environment);
-    StartProgram(
-        process, QStringLiteral(PLAYER),
-        {"--plugin-dir", kPanels, "-platform", "offscreen", WriteProgram(Area(0, "<panel/>"))});
+    StartWindow(process);
     const auto plays = [&] {
         return left().size() == 1 && QFile::exists(Path("tmp/" + left()[0] + "/panel_1000"));
     };
     QTRY_VERIFY_WITH_TIMEOUT(plays(), 20000);
     const QStringList arguments {"--plugin-dir", kPanels, "--output",         Path("out"),
                                  "--frames",     "1",     Path("program.xml")};
-    QCOMPARE(RunPlayer(arguments, environment).exitCode, 0);
+    QCOMPARE(RunPlayer(arguments, process.processEnvironment()).exitCode, 0);
     QVERIFY(plays());
     process.kill();
     QVERIFY(process.waitForFinished(20000));
     QVERIFY(plays());
-    QCOMPARE(RunPlayer(arguments, environment).exitCode, 0);
+    QCOMPARE(RunPlayer(arguments, process.processEnvironment()).exitCode, 0);
     QCOMPARE(left(), QStringList());
 }
 
@@ -676,14 +683,8 @@ void TestClockPlayer::SignalEndsTheWindow()
 {
     QFETCH(int, signal);
     QVERIFY(QDir(m_directory->path()).mkdir("tmp"));
-    QProcessEnvironment environment = DisplaylessEnvironment();
-    environment.insert("TMPDIR", Path("tmp"));
-    environment.insert("XDG_RUNTIME_DIR", m_directory->path());
     QProcess process;
-    process.setProcessEnvironment(environment);
-    StartProgram(
-        process, QStringLiteral(PLAYER),
-        {"--plugin-dir", kPanels, "-platform", "offscreen", WriteProgram(Area(0, "<panel/>"))});
+    StartWindow(process);
     // It plays once the panel's file is there, and the redraws go on every millisecond.
     const auto plays = [this] {
         const QStringList directories =

@@ -43,28 +43,32 @@ void Click(WallView &view, Qt::MouseButton button, QPoint pixel)
     QTest::mouseClick(view.viewport(), button, {}, PointOf(view, pixel));
 }
 
+/// The pointer is over the only clock of a wall.
+struct HoveredClock : StudioUnderTest
+{
+    WallView view {editor};
+
+    HoveredClock() : StudioUnderTest(kClock)
+    {
+        view.resize(200, 200);
+        view.show();
+        WaitForClocks();
+        Hover(view, {32, 32});
+    }
+};
+
 void TestWallView::RightButtonSelects()
 {
-    StudioUnderTest studio(kClock);
-    WallView view(studio.editor);
-    view.resize(200, 200);
-    view.show();
-    studio.WaitForClocks();
-    Hover(view, {32, 32});
-    Click(view, Qt::RightButton, {32, 32});
+    HoveredClock studio;
+    Click(studio.view, Qt::RightButton, {32, 32});
     QCOMPARE(studio.editor.Chosen(), QVector<int> {0});
 }
 
 void TestWallView::RightButtonDrawsNothing()
 {
-    StudioUnderTest studio(kClock);
-    WallView view(studio.editor);
-    view.resize(200, 200);
-    view.show();
-    studio.WaitForClocks();
-    Hover(view, {32, 32});
-    view.Mouse().SetDrawing(ClockKind::Digital);
-    Click(view, Qt::RightButton, {32, 32});
+    HoveredClock studio;
+    studio.view.Mouse().SetDrawing(ClockKind::Digital);
+    Click(studio.view, Qt::RightButton, {32, 32});
     QCOMPARE(studio.document.Text(), QString::fromUtf8(kClock));
 }
 
