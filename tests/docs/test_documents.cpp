@@ -108,7 +108,6 @@ class TestDocuments : public QObject
     Q_OBJECT
 
 private slots:
-    void ExampleIsInTheDocument();
     void ExampleRuns();
     void ExampleDrawsTheSameEverywhere();
     void ExampleSaysWhatIsWrong_data();
@@ -130,12 +129,6 @@ private slots:
     void FailedManualLeavesThePage();
 #endif
 };
-
-void TestDocuments::ExampleIsInTheDocument()
-{
-    QCOMPARE(Blocks(Document("docs/integrating.md"), "cpp"),
-             QStringList {Document("docs/examples/small_host.cpp")});
-}
 
 void TestDocuments::ExampleRuns()
 {

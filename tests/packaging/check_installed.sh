@@ -24,7 +24,7 @@ quietly() {
     }
 }
 
-# play PLAYER DIRECTORY - writes the same three frames whoever plays
+# play PLAYER DIRECTORY - writes three frames
 play() {
     (cd / && quietly "$1" "$example" --at 2024-03-05T09:41:27 --frames 3 --output "$2")
 }
@@ -42,7 +42,7 @@ install_tree() {
         [ -f "$prefix/$path" ] || fail "not installed: $path"
     done
     [ "$(readlink "$prefix/bin/clock_player")" = ../lib/clock-player/bin/clock_player ] ||
-        fail "bin/clock_player is no relative link into the tree"
+        fail "bin/clock_player is not a relative link into the tree"
 }
 
 # The installed programs must not find their library, nor the plugin its, in the build.
@@ -71,10 +71,10 @@ block() {
         sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" | sed '1d;$d'
 }
 
-# What the page says, copied into an empty folder, and then installed where nothing of it is.
+# As the page says, in an empty folder, with the installed source; then installed elsewhere.
 build_host() {
     mkdir "$work/host"
-    block cpp >"$work/host/small_host.cpp"
+    cp "$prefix/share/doc/clock-player/examples/small_host.cpp" "$work/host"
     block cmake >"$work/host/CMakeLists.txt"
     block sh >"$work/host/commands"
     (cd "$work/host" && quietly env CMAKE_PREFIX_PATH="$prefix" CMAKE_GENERATOR=Ninja sh -e commands)
