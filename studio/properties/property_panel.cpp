@@ -245,7 +245,7 @@ void PropertyPanel::Refresh()
     m_title->setText(m_editor.Chosen().isEmpty() ? tr("Wall")
                          : m_editor.Chosen().size() == 1
                          ? tr("Clock %1").arg(m_editor.Chosen().first() + 1)
-                         : tr("%n clocks", nullptr, m_editor.Chosen().size()));
+                         : tr("%n clock(s)", nullptr, m_editor.Chosen().size()));
     ShowWall();
     if (!clocks.isEmpty()) {
         ShowClocks(clocks);

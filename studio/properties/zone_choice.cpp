@@ -78,6 +78,7 @@ std::optional<ZoneAnswer> SettingsFor(const QByteArray &zone, const QDate &today
     ZoneAnswer answer;
     answer.settings = BestSettings(*civil, *after);
     answer.wrong = WrongTimes(answer.settings, *civil);
+    answer.otherShift = OtherShift(*civil);
     answer.rightUntil = RightUntil(answer.settings, *after);
     return answer;
 }

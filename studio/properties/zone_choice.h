@@ -32,6 +32,7 @@ struct ZoneAnswer
     ClockTool::ZoneSettings settings;
     /// The periods in the ten years from `today` in which such a clock is wrong; empty if exact.
     QVector<ClockTool::WrongTime> wrong;
+    int otherShift = 0;    ///< the zone's, in seconds, where daylight saving is not an hour; or 0
     qint64 rightUntil = 0; ///< UTC milliseconds; only set if `wrong` is empty
 };
 

@@ -3,6 +3,7 @@
 #include "zone_dialog.h"
 
 #include "calendar/clock_time.h"
+#include "calendar/time_units.h"
 #include "clock_node.h"
 #include "clock_status.h"
 #include "time_travel.h"
@@ -37,6 +38,15 @@ QString DateText(qint64 instant, int offset)
     const QDateTime reading =
         QDateTime::fromMSecsSinceEpoch(instant + qint64(offset) * 1000, Qt::UTC);
     return QLocale().toString(reading.date(), QLocale::LongFormat);
+}
+
+/// Date and time, to the second: some zones' settings are wrong for one.
+QString InstantText(qint64 instant, int offset)
+{
+    const QDateTime reading =
+        QDateTime::fromMSecsSinceEpoch(instant + qint64(offset) * 1000, Qt::UTC);
+    return QLocale().toString(reading.date(), QLocale::ShortFormat) + QLatin1Char(' ')
+        + QLocale().toString(reading.time(), QStringLiteral("HH:mm:ss"));
 }
 
 QString StoredAdjustment(const QTime &time)
@@ -124,6 +134,25 @@ QString ZoneSection::HoldText(const ZoneSettings &zone)
         .arg(known.city, DateText(known.rightUntil - 1, zone.offset));
 }
 
+/// Why no settings give the zone's time, and when the clock will be wrong.
+QString ZoneSection::InexactText(const ZoneAnswer &answer)
+{
+    const QString reason = answer.otherShift != 0
+        ? tr("Daylight saving moves this zone's time by %n minute(s); a clock can only move by an "
+             "hour.",
+             nullptr, answer.otherShift / kSecondsPerMinute)
+        : tr("This zone's changes are not on the same weekday of a month every year, such as the "
+             "last Sunday.");
+    const ClockTool::WrongTime &first = answer.wrong.first();
+    const int offset = answer.settings.offset;
+    const QString times =
+        tr("The clock will be wrong %n time(s) in the next ten years, first from "
+           "%1 to %2.",
+           nullptr, answer.wrong.size())
+            .arg(InstantText(first.begin, offset), InstantText(first.end, offset));
+    return reason + QLatin1Char(' ') + times;
+}
+
 void ZoneSection::OpenDialog()
 {
     ZoneDialog dialog(this);
@@ -136,17 +165,8 @@ void ZoneSection::Choose(const QByteArray &zone)
     const auto answer = SettingsFor(zone, QDate::currentDate());
     if (!answer)
         return;
-    m_inexact.clear();
-    if (!answer->wrong.isEmpty()) {
-        const ClockTool::WrongTime &first = answer->wrong.first();
-        m_inexactZone = answer->settings;
-        m_inexact =
-            tr("A clock cannot follow this zone exactly: its daylight saving is not the "
-               "same every year. The clock will be wrong in %n period(s) of the next ten years, "
-               "first from %1 to %2.",
-               nullptr, answer->wrong.size())
-                .arg(DateText(first.begin, 0), DateText(first.end, 0));
-    }
+    m_inexactZone = answer->settings;
+    m_inexact = answer->wrong.isEmpty() ? QString() : InexactText(*answer);
     const ZoneSettings &settings = answer->settings;
     const int saves = settings.HasDaylightSaving() ? 1 : 0;
     QVector<StoredValue> values {{Attribute::TimeZone, settings.ZoneText()},

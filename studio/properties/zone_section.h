@@ -32,6 +32,7 @@ Q_SIGNALS:
 private:
     void OpenDialog();
     QString NoteOn(Lw::HNodeClock::HClockNode &clock) const;
+    static QString InexactText(const ZoneAnswer &answer);
     static QString HoldText(const ClockTool::ZoneSettings &zone);
     void GiveAdjustment();
 

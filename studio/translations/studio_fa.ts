@@ -1516,12 +1516,6 @@
         <source>Clock %1</source>
         <translation>ساعت %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n clocks</source>
-        <translation>
-            <numerusform>%n ساعت</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Kind of clock</source>
         <translation>نوع ساعت</translation>
@@ -1541,6 +1535,12 @@
     <message>
         <source>Move and resize</source>
         <translation>جابه‌جایی و تغییر اندازه</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clock(s)</source>
+        <translation>
+            <numerusform>%Ln ساعت</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2028,7 +2028,7 @@
     <message numerus="yes">
         <source>%n clock(s) selected</source>
         <translation>
-            <numerusform>%n ساعت برگزیده</numerusform>
+            <numerusform>%Ln ساعت برگزیده</numerusform>
         </translation>
     </message>
 </context>
@@ -2147,12 +2147,6 @@
         <source>Daylight saving ends on %1.</source>
         <translation>ساعت تابستانی در %1 پایان می‌یابد.</translation>
     </message>
-    <message numerus="yes">
-        <source>A clock cannot follow this zone exactly: its daylight saving is not the same every year. The clock will be wrong in %n period(s) of the next ten years, first from %1 to %2.</source>
-        <translation>
-            <numerusform>ساعت نمی‌تواند این منطقه را دقیق دنبال کند: ساعت تابستانی آن هر سال یکسان نیست. در ده سال %n بار نادرست است، نخست از %1 تا %2.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>No known zone has these rules.</source>
         <translation>هیچ منطقه شناخته‌شده‌ای این قاعده‌ها را ندارد.</translation>
@@ -2160,6 +2154,22 @@
     <message>
         <source>The rules hold for %1 until %2 at least.</source>
         <translation>این قاعده‌ها برای %1 دست‌کم تا %2 درست‌اند.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Daylight saving moves this zone&apos;s time by %n minute(s); a clock can only move by an hour.</source>
+        <translation>
+            <numerusform>ساعت تابستانی این منطقه زمان را %Ln دقیقه جابه‌جا می‌کند؛ ساعت تنها می‌تواند یک ساعت جابه‌جا شود.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This zone&apos;s changes are not on the same weekday of a month every year, such as the last Sunday.</source>
+        <translation>تغییرهای این منطقه هر سال در یک روز هفتهٔ ثابت از ماه (مانند آخرین یکشنبه) نیست.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The clock will be wrong %n time(s) in the next ten years, first from %1 to %2.</source>
+        <translation>
+            <numerusform>در ده سال آینده ساعت %Ln بار نادرست خواهد بود، نخست از %1 تا %2.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

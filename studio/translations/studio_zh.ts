@@ -1516,12 +1516,6 @@
         <source>Clock %1</source>
         <translation>时钟 %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n clocks</source>
-        <translation>
-            <numerusform>%n 个时钟</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Kind of clock</source>
         <translation>时钟类型</translation>
@@ -1541,6 +1535,12 @@
     <message>
         <source>Move and resize</source>
         <translation>移动和调整大小</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n clock(s)</source>
+        <translation>
+            <numerusform>%n 个时钟</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2147,12 +2147,6 @@
         <source>Daylight saving ends on %1.</source>
         <translation>夏令时于 %1 结束。</translation>
     </message>
-    <message numerus="yes">
-        <source>A clock cannot follow this zone exactly: its daylight saving is not the same every year. The clock will be wrong in %n period(s) of the next ten years, first from %1 to %2.</source>
-        <translation>
-            <numerusform>时钟无法精确跟随此时区：其夏令时每年不同。十年内有 %n 次错误，首次从 %1 到 %2。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>No known zone has these rules.</source>
         <translation>没有已知时区使用这些规则。</translation>
@@ -2160,6 +2154,22 @@
     <message>
         <source>The rules hold for %1 until %2 at least.</source>
         <translation>这些规则对 %1 至少有效到 %2。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Daylight saving moves this zone&apos;s time by %n minute(s); a clock can only move by an hour.</source>
+        <translation>
+            <numerusform>此时区的夏令时调整 %n 分钟，而时钟只能调整一小时。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This zone&apos;s changes are not on the same weekday of a month every year, such as the last Sunday.</source>
+        <translation>此时区的更改不是每年都在某月的同一个星期日序（如最后一个星期日）。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The clock will be wrong %n time(s) in the next ten years, first from %1 to %2.</source>
+        <translation>
+            <numerusform>未来十年内时钟将有 %n 次错误，首次从 %1 到 %2。</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

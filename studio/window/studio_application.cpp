@@ -14,19 +14,26 @@ namespace ClockStudio {
 
 namespace {
 
+bool Load(QApplication &application, const QLocale &locale, const char *name,
+          const QString &directory)
+{
+    auto *const translator = new QTranslator(&application);
+    return translator->load(locale, QLatin1String(name), QStringLiteral("_"), directory)
+        && QCoreApplication::installTranslator(translator);
+}
+
+/// A language that the studio lacks is replaced as a whole, so that its texts, dates, direction and
+/// Qt's own texts stay in one language.
 void LoadTranslations(QApplication &application)
 {
-    const QLocale locale;
-    auto *const qt = new QTranslator(&application);
-    if (qt->load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
-                 QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(qt);
-    auto *const studio = new QTranslator(&application);
-    if (studio->load(locale, QStringLiteral("studio"), QStringLiteral("_"),
-                     QStringLiteral(":/translations")))
-        QCoreApplication::installTranslator(studio);
+    const QString catalogues = QStringLiteral(":/translations");
+    if (!Load(application, QLocale(), "studio", catalogues)) {
+        QLocale::setDefault(QLocale(QLocale::English));
+        Load(application, QLocale(), "studio", catalogues);
+    }
+    Load(application, QLocale(), "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
     ClockCatalogues::InstallChosen({});
-    QApplication::setLayoutDirection(locale.textDirection());
+    QApplication::setLayoutDirection(QLocale().textDirection());
 }
 
 } // namespace

@@ -108,6 +108,8 @@ class TestZoneRule : public QObject
 private slots:
     void ZoneTexts_data();
     void ZoneTexts();
+    void OtherShifts_data();
+    void OtherShifts();
     void RulesNameTheInstant_data();
     void RulesNameTheInstant();
     void BestSettingsAreFound_data();
@@ -134,6 +136,30 @@ void TestZoneRule::ZoneTexts()
 {
     QFETCH(int, offset);
     QTEST(Settings(offset, "", "").ZoneText(), "text");
+}
+
+void TestZoneRule::OtherShifts_data()
+{
+    QTest::addColumn<CivilTime>("civil");
+    QTest::addColumn<int>("seconds");
+    const char *const begin = "2025-01-01T00:00:00";
+    const char *const end = "2026-01-01T00:00:00";
+    QTest::newRow("an hour") << Berlin() << 0;
+    QTest::newRow("no change") << Civil(begin, end, kHour, {}) << 0;
+    QTest::newRow("half an hour") << Civil(
+        begin, end, 39600, {{"2025-04-05T15:00:00", 37800}, {"2025-10-04T15:30:00", 39600}})
+                                  << 1800;
+    QTest::newRow("two hours, after one of an hour")
+        << Civil(begin, end, 0, {{"2025-03-30T01:00:00", kHour}, {"2025-10-26T01:00:00", -kHour}})
+        << 7200;
+    QTest::newRow("another name for the same time")
+        << Civil(begin, end, kHour, {{"2025-03-30T01:00:00", kHour}}) << 0;
+}
+
+void TestZoneRule::OtherShifts()
+{
+    QFETCH(CivilTime, civil);
+    QTEST(OtherShift(civil), "seconds");
 }
 
 void TestZoneRule::RulesNameTheInstant_data()

@@ -6,6 +6,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <utility>
 
 namespace ClockTool {
 
@@ -148,6 +149,17 @@ QVector<WrongTime> WrongTimes(const ZoneSettings &settings, const CivilTime &civ
             times.append({instants[i], end, error});
     }
     return times;
+}
+
+int OtherShift(const CivilTime &civil)
+{
+    int before = civil.offset;
+    for (const OffsetChange &change : civil.changes) {
+        const int shift = qAbs(change.offset - std::exchange(before, change.offset));
+        if (shift != 0 && shift != DaylightSaving::kShiftSeconds)
+            return shift;
+    }
+    return 0;
 }
 
 qint64 RightUntil(const ZoneSettings &settings, const CivilTime &civil)

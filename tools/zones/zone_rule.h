@@ -38,6 +38,10 @@ struct WrongTime
 /// Where a clock with these settings differs from a zone, in order, by the clock's own arithmetic.
 QVector<WrongTime> WrongTimes(const ZoneSettings &settings, const CivilTime &civil);
 
+/// The first shift that is not the hour of a clock's daylight saving, in seconds; 0 if there is
+/// none.
+int OtherShift(const CivilTime &civil);
+
 /// The first instant of a span at which a clock with these settings differs from the zone, or the
 /// end of the span.
 qint64 RightUntil(const ZoneSettings &settings, const CivilTime &civil);
