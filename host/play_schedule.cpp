@@ -43,13 +43,20 @@ PlaySchedule &PlaySchedule::Instance()
 PlaySchedule::PlaySchedule(QObject *parent)
     : QObject(parent), m_timer(::timerfd_create(CLOCK_MONOTONIC, TFD_NONBLOCK | TFD_CLOEXEC))
 {
-    auto *const notifier = new QSocketNotifier(m_timer, QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, &PlaySchedule::Fire);
+    if (m_timer >= 0) {
+        auto *const notifier = new QSocketNotifier(m_timer, QSocketNotifier::Read, this);
+        connect(notifier, &QSocketNotifier::activated, this, &PlaySchedule::Fire);
+    } else {
+        m_fallback.setSingleShot(true);
+        m_fallback.setTimerType(Qt::PreciseTimer);
+        connect(&m_fallback, &QTimer::timeout, this, &PlaySchedule::Fire);
+    }
 }
 
 PlaySchedule::~PlaySchedule()
 {
-    ::close(m_timer);
+    if (m_timer >= 0)
+        ::close(m_timer);
 }
 
 void PlaySchedule::Wait(const void *waiter, double milliseconds, Due due)
@@ -71,7 +78,7 @@ void PlaySchedule::Cancel(const void *waiter)
 void PlaySchedule::Fire()
 {
     quint64 expirations = 0;
-    if (::read(m_timer, &expirations, sizeof expirations) < 0)
+    if (m_timer >= 0 && ::read(m_timer, &expirations, sizeof expirations) < 0)
         return;
     const qint64 begun = Now();
     m_isFiring = true;
@@ -107,9 +114,20 @@ void PlaySchedule::Arm()
         if (entry.deadline <= first + kCoalesceWindow)
             last = std::max(last, entry.deadline);
     }
+    WakeAt(last);
+}
+
+void PlaySchedule::WakeAt(qint64 deadline)
+{
+    if (m_timer < 0) {
+        const qint64 wait = (deadline - Now() + kMillisecond - 1) / kMillisecond; // rounded up
+        m_fallback.start(
+            static_cast<int>(qBound<qint64>(0, wait, std::numeric_limits<int>::max())));
+        return;
+    }
     itimerspec time {};
-    time.it_value.tv_sec = static_cast<time_t>(last / kSecond);
-    time.it_value.tv_nsec = static_cast<long>(last % kSecond);
+    time.it_value.tv_sec = static_cast<time_t>(deadline / kSecond);
+    time.it_value.tv_nsec = static_cast<long>(deadline % kSecond);
     ::timerfd_settime(m_timer, TFD_TIMER_ABSTIME, &time, nullptr);
 }
 

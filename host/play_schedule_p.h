@@ -3,15 +3,17 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 #include <QVector>
 
 #include <functional>
 
 namespace Lw {
 
-/// The waits of all image players on one kernel timer (timerfd). Waits that end within two
-/// milliseconds of each other end together with the last of them, so that clocks which show the
-/// same second wake the process once. No wait ends early.
+/// The waits of all image players on one kernel timer (timerfd), or on a QTimer if the process has
+/// no file descriptor left for one. Waits that end within two milliseconds of each other end
+/// together with the last of them, so that clocks which show the same second wake the process once.
+/// No wait ends early.
 class PlaySchedule : public QObject
 {
     Q_OBJECT
@@ -40,8 +42,10 @@ private:
     void Fire();
     Due TakeDue(qint64 now);
     void Arm();
+    void WakeAt(qint64 deadline);
 
-    int m_timer;
+    int m_timer;       ///< -1: there is none
+    QTimer m_fallback; ///< used only without m_timer
     bool m_isFiring = false;
     QVector<Entry> m_entries;
 };
