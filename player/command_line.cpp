@@ -138,12 +138,7 @@ private:
 
     void ReadPlacing()
     {
-        if (IsSet(kRotate)) {
-            ReadNumber(kRotate, 0, 270, m_options.turn);
-            if (m_options.turn % 90 != 0)
-                Fail(QStringLiteral("--%1 needs 90, 180 or 270, not \"%2\"")
-                         .arg(QLatin1String(kRotate), Value(kRotate)));
-        }
+        ReadTurn();
         if (!IsSet(kOffset))
             return;
         static const QRegularExpression form(QStringLiteral("\\A(-?[0-9]{1,5}),(-?[0-9]{1,5})\\z"));
@@ -152,6 +147,16 @@ private:
             Fail(QStringLiteral("--%1 needs two whole numbers such as 16,-8, not \"%2\"")
                      .arg(QLatin1String(kOffset), Value(kOffset)));
         m_options.offset = {match.captured(1).toInt(), match.captured(2).toInt()};
+    }
+
+    void ReadTurn()
+    {
+        static const QStringList turns {QStringLiteral("0"), QStringLiteral("90"),
+                                        QStringLiteral("180"), QStringLiteral("270")};
+        if (IsSet(kRotate) && !turns.contains(Value(kRotate)))
+            Fail(QStringLiteral("--%1 needs 0, 90, 180 or 270, not \"%2\"")
+                     .arg(QLatin1String(kRotate), Value(kRotate)));
+        m_options.turn = Value(kRotate).toInt();
     }
 
     void ReadSpeed()

@@ -94,7 +94,7 @@ constexpr OptionRow kOptions[] = {
     {kOffset, nullptr, "X,Y",
      "Place the picture X pixels from the left and Y pixels from the top of the window; either may "
      "be negative."},
-    {kRotate, nullptr, "degrees", "Turn the picture clockwise by 90, 180 or 270 degrees."},
+    {kRotate, nullptr, "degrees", "Turn the picture clockwise by 0, 90, 180 or 270 degrees."},
     {kStatusFile, nullptr, "file",
      "Write the playback status as a JSON object to <file>, every minute, at each fault and on "
      "SIGUSR1 (default with --kiosk: status.json in RUNTIME_DIRECTORY, where that is set)."},

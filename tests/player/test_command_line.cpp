@@ -25,6 +25,7 @@ private slots:
     void AllOptionsAreRead();
     void PreviewAndTravel();
     void KioskOptionsAreRead();
+    void TurnsAreRightAngles();
     void QtOptionsWithOneDash();
     void DefaultsOfScripts();
     void LanguagesAreRead();
@@ -97,12 +98,26 @@ void TestCommandLine::KioskOptionsAreRead()
     const Options plain = std::get<Options>(Parsed({"a.xml"}));
     QVERIFY(!plain.isKiosk && plain.statusFile.isEmpty() && plain.turn == 0);
     for (const QStringList &refused :
-         {QStringList {"--rotate", "45"}, QStringList {"--rotate", "-90"},
-          QStringList {"--offset", "16"}, QStringList {"--offset", "1,2,3"},
+         {QStringList {"--offset", "16"}, QStringList {"--offset", "1,2,3"},
           QStringList {"--require-time"}, QStringList {"--kiosk", "-o", "out"},
           QStringList {"--watch", "-o", "out"}, QStringList {"--rotate", "90", "-o", "out"}}) {
         const CommandLine answer = Parsed(QStringList {"a.xml"} + refused);
         QVERIFY2(std::holds_alternative<Failure>(answer), qPrintable(refused.join(' ')));
+    }
+}
+
+void TestCommandLine::TurnsAreRightAngles()
+{
+    for (const int turn : {0, 90, 180, 270}) {
+        const CommandLine line = Parsed({"a.xml", "--rotate", QString::number(turn)});
+        QCOMPARE(std::get<Options>(line).turn, turn);
+    }
+    for (const char *refused : {"45", "360", "-90", "9e1", "right", ""}) {
+        const CommandLine answer = Parsed({"a.xml", "--rotate", refused});
+        QVERIFY2(std::holds_alternative<Failure>(answer), refused);
+        QCOMPARE(std::get<Failure>(answer).text,
+                 QStringLiteral("--rotate needs 0, 90, 180 or 270, not \"%1\" (see --help)")
+                     .arg(refused));
     }
 }
 
