@@ -120,7 +120,7 @@ void WindowShow::BeginKiosk()
 {
     m_console = std::make_unique<QuietConsole>();
     m_readSignal.reset(new SignalPipe({SIGHUP}, SignalPipe::Times::Always));
-    connect(m_readSignal.get(), &SignalPipe::Received, this, &WindowShow::ReadAgain);
+    connect(m_readSignal.get(), &SignalPipe::Received, this, &WindowShow::FollowReadSignal);
     const QString framebuffer = FramebufferOf(qEnvironmentVariable("QT_QPA_PLATFORM"));
     if (!framebuffer.isEmpty())
         m_guard = std::make_unique<ScreenGuard>([framebuffer] { BlankFramebuffer(framebuffer); },
@@ -187,6 +187,15 @@ void WindowShow::CheckProgram()
         Fault(failure->text);
     if (m_notice)
         ShowNotice(NoticeOf(signature));
+}
+
+// While the clock is not set, no frame may be shown; the program is read once it is set.
+void WindowShow::FollowReadSignal()
+{
+    if (m_notice == Notice::TimeNotSet)
+        KeepStatus();
+    else
+        ReadAgain();
 }
 
 void WindowShow::ReadAgain()

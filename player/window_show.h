@@ -44,6 +44,7 @@ private:
     void FollowIdle();
     void KeepTimeRequired();
     void CheckProgram();
+    void FollowReadSignal();
     void ReadAgain();
     void Report();
     ClockProgram::MaybeFailure Read();

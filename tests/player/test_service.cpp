@@ -2,7 +2,9 @@
 // that are spoiled while they play.
 #include "file_size_limit.h"
 #include "player_process.h"
+#include "stepping_clock.h"
 
+#include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSocketNotifier>
@@ -79,12 +81,13 @@ private slots:
     void SpoiledProgram_data();
     void SpoiledProgram();
     void MissingGlyphs();
+    void ReadSignalWhileTimeIsNotSet();
 
 private:
     QString Path(const QString &name) const { return m_directory->filePath(name); }
     void Write(const QString &name, const QByteArray &contents) const;
     void Spoil(const QString &how) const;
-    void Start();
+    void Start(const QStringList &options = {});
     QJsonObject Status() const;
 
     std::unique_ptr<QTemporaryDir> m_directory;
@@ -114,14 +117,19 @@ void TestService::Write(const QString &name, const QByteArray &contents) const
     QCOMPARE(file.write(contents), qint64(contents.size()));
 }
 
-void TestService::Start()
+// The system's clock is off by the milliseconds in the file "shift", if there is one.
+void TestService::Start(const QStringList &options)
 {
     QProcessEnvironment environment = DisplaylessEnvironment();
+    if (QFile::exists(Path("shift")))
+        environment = WithSteppingClock(environment, Path("shift"));
     environment.insert("NOTIFY_SOCKET", Path("notify"));
     m_process.setProcessEnvironment(environment);
     StartProgram(m_process, QStringLiteral(PLAYER),
-                 {"--kiosk", "--watch", "-platform", "offscreen", "--files-dir", Path("glyphs"),
-                  "--status-file", Path("status.json"), Path("program.xml")});
+                 QStringList {"--kiosk", "--watch", "-platform", "offscreen", "--files-dir",
+                              Path("glyphs"), "--status-file", Path("status.json"),
+                              Path("program.xml")}
+                     + options);
     QTRY_VERIFY_WITH_TIMEOUT(m_manager->Messages().contains("READY=1"), kPatience);
 }
 
@@ -210,6 +218,25 @@ void TestService::MissingGlyphs()
     QCOMPARE(::kill(pid, SIGHUP), 0);
     QTRY_VERIFY_WITH_TIMEOUT(Status()["notice"].isNull(), kPatience);
     QVERIFY(QFile::exists(Path("glyphs/digital_1000_timeNumber.png")));
+}
+
+// The notice stays, instead of clocks until the next second.
+void TestService::ReadSignalWhileTimeIsNotSet()
+{
+    const qint64 shift = -50LL * 365 * 86400 * 1000;
+    Write("shift", QByteArray(reinterpret_cast<const char *>(&shift), sizeof shift));
+    Start({"--require-time"});
+    QTRY_COMPARE_WITH_TIMEOUT(Status()["notice"].toString(), QString("T1"), kPatience);
+    QTest::qWait(1000); // "written" has whole seconds
+    const QString written = Status()["written"].toString();
+    QCOMPARE(::kill(static_cast<pid_t>(m_process.processId()), SIGHUP), 0);
+    QElapsedTimer sinceSignal;
+    sinceSignal.start();
+    while (sinceSignal.elapsed() < 1500 || Status()["written"].toString() == written) {
+        QCOMPARE(Status()["notice"].toString(), QString("T1"));
+        QVERIFY(sinceSignal.elapsed() < kPatience);
+        QTest::qWait(5);
+    }
 }
 
 QTEST_GUILESS_MAIN(TestService)

@@ -82,3 +82,12 @@ extern "C" int gettimeofday(timeval *time, void *) noexcept
     time->tv_usec = now.tv_nsec / 1000;
     return result;
 }
+
+extern "C" std::time_t time(std::time_t *result) noexcept
+{
+    timespec now {};
+    clock_gettime(CLOCK_REALTIME, &now);
+    if (result)
+        *result = now.tv_sec;
+    return now.tv_sec;
+}
