@@ -3,11 +3,12 @@
 #include "output.h"
 #include "suggestion.h"
 #include "tool_arguments.h"
-#include "zones/system_zones.h"
+#include "zone_words/nearest_zone.h"
 
 #include "calendar/system_time.h"
 #include "clock_attributes.h"
 #include "command_support.h"
+#include "system_zones.h"
 
 #include <QDateTime>
 
@@ -15,6 +16,7 @@ namespace ClockTool {
 
 namespace {
 
+using namespace ClockZones;
 using namespace Lw::HNodeClock;
 
 constexpr char kDescription[] =

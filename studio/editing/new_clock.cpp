@@ -1,6 +1,6 @@
 #include "new_clock.h"
 
-#include "zones/system_zones.h"
+#include "system_zones.h"
 
 #include <QDate>
 #include <QFont>
@@ -12,7 +12,7 @@ namespace ClockStudio {
 
 namespace {
 
-using ClockTool::ZoneSettings;
+using ClockZones::ZoneSettings;
 
 constexpr int kSmallestSize = 6; // points
 constexpr int kLargestSize = 400;
@@ -26,11 +26,11 @@ constexpr double kNumeralShare = 0.13;
 ZoneSettings ZoneOfThisComputer()
 {
     static const ZoneSettings settings = [] {
-        const auto span = ClockTool::TenYearsFrom(QDate::currentDate());
+        const auto span = ClockZones::TenYearsFrom(QDate::currentDate());
         const QByteArray name = QTimeZone::systemTimeZoneId();
-        const auto civil = ClockTool::CivilTimeOf(name, span);
-        const auto after = ClockTool::CivilTimeOf(name, ClockTool::ListedAfter(span));
-        return civil && after && span.begin < span.end ? ClockTool::BestSettings(*civil, *after)
+        const auto civil = ClockZones::CivilTimeOf(name, span);
+        const auto after = ClockZones::CivilTimeOf(name, ClockZones::ListedAfter(span));
+        return civil && after && span.begin < span.end ? ClockZones::BestSettings(*civil, *after)
                                                        : ZoneSettings();
     }();
     return settings;

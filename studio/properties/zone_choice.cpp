@@ -1,6 +1,6 @@
 #include "zone_choice.h"
 
-#include "zones/system_zones.h"
+#include "system_zones.h"
 
 #include <QHash>
 #include <QLocale>
@@ -13,7 +13,7 @@ namespace ClockStudio {
 
 namespace {
 
-using namespace ClockTool;
+using namespace ClockZones;
 
 QString OffsetText(int seconds)
 {

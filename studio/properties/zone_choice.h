@@ -2,7 +2,7 @@
 // settings for each.
 #pragma once
 
-#include "zones/zone_rule.h"
+#include "zone_rule.h"
 
 #include <QByteArray>
 #include <QDate>
@@ -29,9 +29,9 @@ bool Matches(const ZoneName &zone, const QString &search);
 
 struct ZoneAnswer
 {
-    ClockTool::ZoneSettings settings;
+    ClockZones::ZoneSettings settings;
     /// The periods in the ten years from `today` in which such a clock is wrong; empty if exact.
-    QVector<ClockTool::WrongTime> wrong;
+    QVector<ClockZones::WrongTime> wrong;
     int otherShift = 0;    ///< the zone's, in seconds, where daylight saving is not an hour; or 0
     qint64 rightUntil = 0; ///< UTC milliseconds; only set if `wrong` is empty
 };
@@ -46,6 +46,6 @@ struct KnownZone
     qint64 rightUntil = 0; ///< milliseconds since 1970-01-01 UTC: so long at least
 };
 
-KnownZone ZoneOf(const ClockTool::ZoneSettings &settings, const QDate &today);
+KnownZone ZoneOf(const ClockZones::ZoneSettings &settings, const QDate &today);
 
 } // namespace ClockStudio

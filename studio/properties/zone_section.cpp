@@ -143,7 +143,7 @@ QString ZoneSection::InexactText(const ZoneAnswer &answer)
              nullptr, answer.otherShift / kSecondsPerMinute)
         : tr("This zone's changes are not on the same weekday of a month every year, such as the "
              "last Sunday.");
-    const ClockTool::WrongTime &first = answer.wrong.first();
+    const ClockZones::WrongTime &first = answer.wrong.first();
     const int offset = answer.settings.offset;
     const QString times =
         tr("The clock will be wrong %n time(s) in the next ten years, first from "

@@ -33,15 +33,15 @@ private:
     void OpenDialog();
     QString NoteOn(Lw::HNodeClock::HClockNode &clock) const;
     static QString InexactText(const ZoneAnswer &answer);
-    static QString HoldText(const ClockTool::ZoneSettings &zone);
+    static QString HoldText(const ClockZones::ZoneSettings &zone);
     void GiveAdjustment();
 
     QPushButton *m_city;
     QLabel *m_note;
     QTimeEdit *m_adjustment;
     QComboBox *m_direction;
-    ClockTool::ZoneSettings m_inexactZone; ///< of a zone that cannot be expressed,
-    QString m_inexact;                     ///< and why; empty where none was chosen
+    ClockZones::ZoneSettings m_inexactZone; ///< of a zone that cannot be expressed,
+    QString m_inexact;                      ///< and why; empty where none was chosen
     bool m_isShowing = false;
 };
 

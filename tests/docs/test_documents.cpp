@@ -1,6 +1,6 @@
 // What the documents say is so: programs and the example work, tables and texts are up to date.
+#include "system_zones.h"
 #include "tool_process.h"
-#include "zones/system_zones.h"
 
 #include "calendar/clock_time.h"
 
@@ -13,7 +13,7 @@
 #include <algorithm>
 #include <future>
 
-using namespace ClockTool;
+using namespace ClockZones;
 
 namespace {
 

@@ -28,6 +28,7 @@ const QVector<Room> kRooms = {
     {"studio/text/", {"studio/text/"}},
     {"stage/", {"stage/"}},
     {"program/", {"program/"}},
+    {"zones/", {"zones/"}},
     {"fit/", {"fit/"}},
     {"clock_plugin", {"clock_plugin/clock_plugin."}},
     {"clock_render", {"clock_plugin/clock_render."}},
@@ -46,9 +47,10 @@ const QVector<Room> kRooms = {
 // The rooms that see less than every floor below them: the programs that load a plugin, and what
 // is pure.
 const QMap<QString, QStringList> kNarrowRooms = {
-    {"player/", {"stage/", "program/", "calendar/", "host/"}},
-    {"stage/", {"program/", "clock_attributes", "calendar/", "host/"}},
+    {"player/", {"stage/", "program/", "zones/", "calendar/", "host/"}},
+    {"stage/", {"program/", "zones/", "clock_attributes", "calendar/", "host/"}},
     {"program/", {"host/"}},
+    {"zones/", {"calendar/"}},
     {"clock_attributes", {"image_bounds"}},
     {"calendar/", {"image_bounds"}}, // for clock_export.h
     {"image_bounds", {}},
@@ -85,9 +87,9 @@ bool MayInclude(int from, int to)
 QString Included(const Sources &sources, const QString &path, const QString &name)
 {
     const QString folder = path.left(path.lastIndexOf('/') + 1);
-    for (const QString &root :
-         {folder, QString("clock_plugin/"), QString("host/"), QString("fit/"), QString("program/"),
-          QString("stage/"), QString("tools/"), QString("studio/"), QString("player/")}) {
+    for (const QString &root : {folder, QString("clock_plugin/"), QString("host/"), QString("fit/"),
+                                QString("program/"), QString("stage/"), QString("zones/"),
+                                QString("tools/"), QString("studio/"), QString("player/")}) {
         const QString candidate = QDir::cleanPath(root + name);
         if (sources.contains(candidate))
             return candidate;
@@ -135,8 +137,8 @@ QString Text(const QString &path)
 Sources SourcesOfTheTree()
 {
     Sources sources;
-    for (const char *folder :
-         {"player", "studio", "tools", "stage", "program", "fit", "clock_plugin", "host"}) {
+    for (const char *folder : {"player", "studio", "tools", "stage", "program", "zones", "fit",
+                               "clock_plugin", "host"}) {
         QDirIterator files(QStringLiteral(SOURCE_DIR "/") + folder, {"*.h", "*.cpp"}, QDir::Files,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {

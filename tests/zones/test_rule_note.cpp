@@ -1,8 +1,9 @@
-#include "zones/rule_note.h"
+#include "zone_words/rule_note.h"
 
 #include <QTest>
 
 using namespace ClockTool;
+using ClockZones::ZoneSettings;
 
 class TestRuleNote : public QObject
 {

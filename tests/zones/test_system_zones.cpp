@@ -1,6 +1,6 @@
 // Every zone of the system: a clock that is set as it is told shows the zone's time, but where it
 // is told otherwise.
-#include "zones/system_zones.h"
+#include "system_zones.h"
 
 #include "calendar/clock_time.h"
 
@@ -8,9 +8,9 @@
 #include <QTest>
 #include <QTimeZone>
 
-Q_DECLARE_METATYPE(ClockTool::ZoneSettings)
+Q_DECLARE_METATYPE(ClockZones::ZoneSettings)
 
-using namespace ClockTool;
+using namespace ClockZones;
 
 namespace {
 
@@ -107,11 +107,8 @@ private slots:
     void OtherNames();
     void UnknownNames_data();
     void UnknownNames();
-    void Nearest_data();
-    void Nearest();
     void ZonesWithSettings_data();
     void ZonesWithSettings();
-    void CitiesAreInZonesThatExist();
     void ZoneData();
 };
 
@@ -289,37 +286,6 @@ void TestSystemZones::UnknownNames()
     QVERIFY(!CivilTimeOf(name, YearsFrom(2026)));
 }
 
-void TestSystemZones::Nearest_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("nearest");
-    QTest::newRow("city") << "Berlin"
-                          << "Europe/Berlin";
-    QTest::newRow("city in small letters") << "berlin"
-                                           << "Europe/Berlin";
-    QTest::newRow("city with a slip") << "Berln"
-                                      << "Europe/Berlin";
-    QTest::newRow("city of two words") << "new york"
-                                       << "America/New_York";
-    QTest::newRow("slip") << "Europe/Berln"
-                          << "Europe/Berlin";
-    QTest::newRow("small letters") << "europe/berlin"
-                                   << "Europe/Berlin";
-    QTest::newRow("another continent") << "Asia/Berlin"
-                                       << "Europe/Berlin";
-    QTest::newRow("nothing like it") << "Xyzzyplugh"
-                                     << "";
-    QTest::newRow("empty") << ""
-                           << "";
-    QTest::newRow("huge") << QString(1 << 20, QLatin1Char('x')) << "";
-}
-
-void TestSystemZones::Nearest()
-{
-    QFETCH(QString, name);
-    QTEST(NearestZone(name), "nearest");
-}
-
 void TestSystemZones::ZonesWithSettings_data()
 {
     QTest::addColumn<ZoneSettings>("settings");
@@ -341,17 +307,6 @@ void TestSystemZones::ZonesWithSettings()
 {
     QFETCH(ZoneSettings, settings);
     QTEST(ZoneWith(settings, YearsFrom(2026)), "zone");
-}
-
-// Each city of the list leads to a zone of the system, and none has one of its own name.
-void TestSystemZones::CitiesAreInZonesThatExist()
-{
-    const QList<QByteArray> zones = ZoneNames();
-    for (const char *city : {"Beijing", "mumbai", "Munich", "San Francisco", "rio_de_janeiro"}) {
-        const QString zone = NearestZone(city);
-        QVERIFY2(zones.contains(zone.toLatin1()), city);
-    }
-    QCOMPARE(NearestZone(QString::fromUtf8("münchen")), QString("Europe/Berlin"));
 }
 
 // Without zone data Qt lists these.

@@ -1,13 +1,13 @@
 // A clock's settings for zones that are given as numbers.
-#include "zones/zone_rule.h"
+#include "zone_rule.h"
 
 #include <QDateTime>
 #include <QTest>
 
-Q_DECLARE_METATYPE(ClockTool::CivilTime)
-Q_DECLARE_METATYPE(ClockTool::ZoneSettings)
+Q_DECLARE_METATYPE(ClockZones::CivilTime)
+Q_DECLARE_METATYPE(ClockZones::ZoneSettings)
 
-using namespace ClockTool;
+using namespace ClockZones;
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "value_checks.h"
 
 #include "suggestion.h"
-#include "zones/zone_rule.h"
 
 #include "calendar/clock_time.h"
+#include "calendar/zone_time.h"
 #include "clock_sdk_tables.h"
 #include "font_check.h"
 #include "happconfig.h"

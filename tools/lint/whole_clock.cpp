@@ -4,7 +4,7 @@
 #include "setting_place.h"
 #include "suggestion.h"
 #include "value_checks.h"
-#include "zones/rule_note.h"
+#include "zone_words/rule_note.h"
 
 #include "calendar/clock_time.h"
 #include "calendar/system_time.h"

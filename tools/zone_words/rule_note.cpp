@@ -10,6 +10,7 @@ namespace ClockTool {
 
 namespace {
 
+using namespace ClockZones;
 using namespace Lw::HNodeClock;
 
 /// The rule one hour earlier on the same day; empty if that falls on the day before.

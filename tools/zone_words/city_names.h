@@ -1,4 +1,4 @@
-// zones/: large cities that have no zone named after them.
+// zone_words/: large cities that have no zone named after them.
 #pragma once
 
 #include <QString>

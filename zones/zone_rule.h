@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QVector>
 
-namespace ClockTool {
+namespace ClockZones {
 
 /// A zone's offset changes.
 struct OffsetChange
@@ -55,4 +55,4 @@ QStringList RulesNaming(qint64 reading);
 /// daylight saving fits nowhere, a fixed offset.
 ZoneSettings BestSettings(const CivilTime &civil, const CivilTime &after);
 
-} // namespace ClockTool
+} // namespace ClockZones

@@ -1,4 +1,4 @@
-// zones/: finds the zone that uses a clock's daylight-saving rules.
+// zone_words/: finds the zone that uses a clock's daylight-saving rules.
 #pragma once
 
 #include "zone_rule.h"
@@ -15,6 +15,6 @@ struct RuleNote
 
 /// A sentence that names a zone whose time these settings show during ten years from a day, or says
 /// that none is known. Empty without two valid rules, and without zone data for that time.
-RuleNote NoteOnRules(const ZoneSettings &settings, const QDate &today);
+RuleNote NoteOnRules(const ClockZones::ZoneSettings &settings, const QDate &today);
 
 } // namespace ClockTool

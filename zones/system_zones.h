@@ -9,7 +9,7 @@
 
 #include <optional>
 
-namespace ClockTool {
+namespace ClockZones {
 
 /// The system's data list each change up to the end of this year. The rules for later years are not
 /// used: Qt 5 misreads those with an hour before the day's beginning or after its end.
@@ -42,12 +42,8 @@ bool HasZoneData(const QList<QByteArray> &names);
 /// A zone's civil time over a span; nothing for a name that the system does not know.
 std::optional<CivilTime> CivilTimeOf(const QByteArray &zone, const Span &span);
 
-/// The zone that an unknown name probably means: a city without its continent, one that
-/// shares the zone of another city, or a typing error. Empty when there is none.
-QString NearestZone(const QString &name);
-
 /// A zone whose civil time the settings show over the whole span, a widely used one if there
 /// are several; empty when there is none.
 QByteArray ZoneWith(const ZoneSettings &settings, const Span &span);
 
-} // namespace ClockTool
+} // namespace ClockZones

@@ -1,8 +1,5 @@
 #include "system_zones.h"
 
-#include "city_names.h"
-#include "suggestion.h"
-
 #include "calendar/clock_time.h"
 #include "calendar/time_units.h"
 
@@ -12,7 +9,7 @@
 
 #include <algorithm>
 
-namespace ClockTool {
+namespace ClockZones {
 
 namespace {
 
@@ -73,11 +70,6 @@ bool MayHave(const QTimeZone &zone, const ZoneSettings &settings, qint64 begin)
     return true;
 }
 
-QString CityOf(const QString &zone)
-{
-    return zone.section(QLatin1Char('/'), -1);
-}
-
 } // namespace
 
 Span TenYearsFrom(const QDate &first)
@@ -115,29 +107,6 @@ std::optional<CivilTime> CivilTimeOf(const QByteArray &name, const Span &span)
     return zone.isValid() ? std::optional(CivilTimeOf(zone, span)) : std::nullopt;
 }
 
-QString NearestZone(const QString &name)
-{
-    const QString word = name.simplified().replace(QLatin1Char(' '), QLatin1Char('_'));
-    QStringList zones;
-    QStringList cities;
-    for (const QByteArray &zone : ZoneNames()) {
-        zones.append(QString::fromLatin1(zone));
-        cities.append(CityOf(zones.last()));
-    }
-    const QString city = CityOf(word);
-    const auto isCity = [&](const QString &other) {
-        return other.compare(city, Qt::CaseInsensitive) == 0;
-    };
-    const auto found = std::find_if(cities.cbegin(), cities.cend(), isCity);
-    if (found != cities.cend())
-        return zones[static_cast<int>(found - cities.cbegin())];
-    const QString shared = ZoneOfCity(city);
-    if (!shared.isEmpty())
-        return shared;
-    const QString nearest = Nearest(word, zones);
-    return nearest.isEmpty() ? zones.value(cities.indexOf(Nearest(city, cities))) : nearest;
-}
-
 QByteArray ZoneWith(const ZoneSettings &settings, const Span &span)
 {
     QList<QByteArray> names;
@@ -152,4 +121,4 @@ QByteArray ZoneWith(const ZoneSettings &settings, const Span &span)
     return {};
 }
 
-} // namespace ClockTool
+} // namespace ClockZones

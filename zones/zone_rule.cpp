@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace ClockTool {
+namespace ClockZones {
 
 namespace {
 
@@ -204,4 +204,4 @@ ZoneSettings BestSettings(const CivilTime &civil, const CivilTime &after)
     return choice.Best();
 }
 
-} // namespace ClockTool
+} // namespace ClockZones
