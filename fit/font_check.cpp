@@ -2,6 +2,7 @@
 
 #include "clock_parts.h"
 
+#include "glyph/glyph_cache.h"
 #include "glyph/glyph_picture.h"
 
 #include <QFontDatabase>
@@ -72,6 +73,11 @@ QStringList FamiliesWith(const QVector<uint> &characters)
 }
 
 } // namespace
+
+bool HasFonts()
+{
+    return Lw::HNodeClock::GlyphCache::Shared().HasFonts();
+}
 
 QString FamilyUsed(const QString &family)
 {

@@ -10,6 +10,8 @@
 
 namespace ClockFit {
 
+/// Whether any font is installed; InstalledFamilies() has names of Qt's own if not.
+bool HasFonts();
 /// The installed font families in alphabetical order; read once per process.
 const QStringList &InstalledFamilies();
 /// Case-insensitive.

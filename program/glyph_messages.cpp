@@ -97,12 +97,17 @@ void AppendIfAny(QStringList &texts, const Faults &faults, const QString &text)
 
 } // namespace
 
+QString NoFontText()
+{
+    return QStringLiteral("no font is installed, so no text can be drawn");
+}
+
 GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults)
 {
     GlyphMessages messages;
     messages.failures = WriteFailures(faults);
     AppendIfAny(messages.failures, OfKind(faults, GlyphFault::NoFont),
-                QStringLiteral("no font is installed, so no text can be drawn: %1"));
+                NoFontText() + QStringLiteral(": %1"));
     AppendIfAny(messages.failures, OfKind(faults, GlyphFault::TooLarge),
                 QStringLiteral("%1 would be larger than 32767 pixels a side or 64 MiB; use a "
                                "smaller font or a shorter text"));

@@ -17,6 +17,9 @@ struct GlyphMessages
     QStringList warnings;
 };
 
+/// Why a clock without any font shows no texts.
+QString NoFontText();
+
 /// Empty for a clock without faults.
 GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults);
 

@@ -368,13 +368,8 @@ void TestToolExport::SystemWithoutFonts()
 {
     const QTemporaryDir directory;
     const QString program = directory.filePath("in.xml");
-    const QString fonts = directory.filePath("fonts.conf");
     QVERIFY(WriteText(program, ProgramOf("<clock type=\"digital\" timezone=\"+00:00\"/>")));
-    QVERIFY(WriteText(fonts, "<fontconfig/>"));
-    QProcessEnvironment environment = DisplaylessEnvironment();
-    environment.insert("FONTCONFIG_FILE", fonts);
-    const ProcessRun run = RunProcess(QStringLiteral(TOOL),
-                                      {"export", program, directory.filePath("out")}, environment);
+    const ProcessRun run = RunToolWithoutFonts({"export", program, directory.filePath("out")});
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.errors.contains("no font is installed"), qPrintable(run.errors));
 }

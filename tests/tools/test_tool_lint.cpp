@@ -318,6 +318,7 @@ private slots:
     void ExportedCodesAreNoted();
     void SeveralPrograms_data();
     void SeveralPrograms();
+    void SystemWithoutFonts();
     void ManyFindings();
 
 private:
@@ -500,6 +501,19 @@ void TestToolLint::SeveralPrograms()
     QCOMPARE(run.errors.count('\n') - notes, lines);
     for (const QString &name : names)
         QCOMPARE(run.errors.contains("/" + name + ":"), name != "sound.xml");
+}
+
+// That is one fault of a clock, whatever its fonts, sizes and characters.
+void TestToolLint::SystemWithoutFonts()
+{
+    const QString program = m_directory.filePath("fonts.xml");
+    QVERIFY(WriteText(program,
+                      ProgramOf("<clock type='digital' timezone='+00:00'>"
+                                "<time fontName='DejaVu Sans' fontSize='20'/></clock>")));
+    const QStringList warnings = Warnings(RunToolWithoutFonts({"lint", program}).errors);
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY2(warnings.first().endsWith("no font is installed, so no text can be drawn"),
+             qPrintable(warnings.first()));
 }
 
 // However much is wrong with one program, the next one is heard of.

@@ -4,21 +4,34 @@
 #include "process_run.h"
 
 #include <QFile>
+#include <QTemporaryDir>
+
+inline bool WriteText(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QFile::WriteOnly) && file.write(text) == text.size();
+}
 
 inline ProcessRun RunTool(const QStringList &arguments)
 {
     return RunProcess(QStringLiteral(TOOL), arguments);
 }
 
+/// On a system without any font.
+inline ProcessRun RunToolWithoutFonts(const QStringList &arguments)
+{
+    const QTemporaryDir directory;
+    const QString fonts = directory.filePath("fonts.conf");
+    if (!WriteText(fonts, "<fontconfig/>"))
+        return {};
+    QProcessEnvironment environment = DisplaylessEnvironment();
+    environment.insert("FONTCONFIG_FILE", fonts);
+    return RunProcess(QStringLiteral(TOOL), arguments, environment);
+}
+
 inline ProcessRun RunPlayer(const QStringList &arguments)
 {
     return RunProcess(QStringLiteral(PLAYER), arguments);
-}
-
-inline bool WriteText(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    return file.open(QFile::WriteOnly) && file.write(text) == text.size();
 }
 
 inline QByteArray ReadText(const QString &path)

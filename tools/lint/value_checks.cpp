@@ -100,7 +100,7 @@ QString AdjustmentFault(const QString &text)
 
 QString FamilyFault(const QString &text)
 {
-    if (text.isEmpty() || ClockFit::IsInstalled(text))
+    if (text.isEmpty() || ClockFit::IsInstalled(text) || !ClockFit::HasFonts())
         return {};
     const QString nearest = Nearest(text, ClockFit::InstalledFamilies());
     return QStringLiteral("is not an installed font; \"%1\" is used instead%2")

@@ -12,7 +12,9 @@
 #include "clock_sdk_tables.h"
 #include "compose/element_layout.h"
 #include "display/analog_geometry.h"
+#include "font_check.h"
 #include "glyph/glyph_set.h"
+#include "glyph_messages.h"
 #include "program_file.h"
 
 namespace ClockTool {
@@ -36,7 +38,7 @@ public:
         CheckRules();
         CheckRows();
         CheckDate();
-        CheckDigits();
+        CheckFonts();
     }
 
 private:
@@ -120,6 +122,17 @@ private:
             m_findings.Note(At(m_clock),
                             QStringLiteral("the minus of date type 8 is missing from an "
                                            "exported program"));
+    }
+
+    /// Fonts that can be used at all; a picture clock has no texts.
+    void CheckFonts()
+    {
+        if (m_node.ClockType() == PictureClock)
+            return;
+        if (ClockFit::HasFonts())
+            CheckDigits();
+        else
+            m_findings.Warn(At(m_clock), ClockProgram::NoFontText());
     }
 
     /// Text rows and numerals that show digits, with the characters between them.
