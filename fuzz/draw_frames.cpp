@@ -21,8 +21,8 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr int kMostSteps = 64;
-constexpr int kMostSets = 1; // of glyph images: they take longer than all else together
+constexpr int kMaxSteps = 64;
+constexpr int kMaxSets = 1; // of glyph images: they take longer than all else together
 
 /// The corpus knows these by their places.
 using DrawerOperation = void (*)(DrawDisplayImage &drawer, int space);
@@ -55,7 +55,7 @@ public:
 
     void Play()
     {
-        for (int step = 0; step < kMostSteps && !m_input.AtEnd(); ++step)
+        for (int step = 0; step < kMaxSteps && !m_input.AtEnd(); ++step)
             Step();
         Draw();
         CompareWithFreshDrawer();
@@ -119,7 +119,7 @@ private:
 
     void MakeGlyphs()
     {
-        if (m_input.Choice(8) != 1 || !m_node || m_sets++ == kMostSets)
+        if (m_input.Choice(8) != 1 || !m_node || m_sets++ == kMaxSets)
             return;
         m_node->NodeAlready(0);
         SetUp();

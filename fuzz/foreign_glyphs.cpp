@@ -19,7 +19,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr int kMostImages = 4;
+constexpr int kMaxImages = 4;
 constexpr int kFrames = 3;
 
 /// A style of the picture clock that is this process's own.
@@ -99,7 +99,7 @@ void ReplaceImages(HClockNode &node, Fuzz::Input &input)
 {
     const QString foreign = Fuzz::Directory() + QStringLiteral("foreign.png");
     const QVector<GlyphImage> glyphs = GlyphImages(GlyphOrder::Generation, node.ClockType());
-    const int images = 1 + input.Choice(kMostImages);
+    const int images = 1 + input.Choice(kMaxImages);
     for (int i = 0; i < images; ++i) {
         // Whole series are replaced, so that the month and the day do not decide what is seen.
         const GlyphRow *const row = glyphs[input.Choice(glyphs.size())].row;

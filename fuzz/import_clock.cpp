@@ -16,7 +16,7 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr int kMostClocks = 8;
+constexpr int kMaxClocks = 8;
 constexpr int kDeepest = 8; // of elements in elements
 
 const QStringList kValues = {
@@ -128,7 +128,7 @@ void ImportDocument(const QByteArray &contents)
     if (!document)
         return;
     const QDomNodeList clocks = document->elementsByTagName(QLatin1String(Sdk::kClock));
-    for (int i = 0; i < clocks.count() && i < kMostClocks; ++i) {
+    for (int i = 0; i < clocks.count() && i < kMaxClocks; ++i) {
         for (const bool withDefaults : {false, true})
             ImportAndExport(clocks.at(i).toElement(), withDefaults);
     }

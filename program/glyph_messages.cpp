@@ -26,14 +26,14 @@ Faults OfKind(const Faults &faults, GlyphFault::Kind kind)
 /// "_toptext, _lunar, _dateCh and 5 more"
 QString Names(const Faults &faults)
 {
-    constexpr int kMost = 3;
+    constexpr int kMaxListed = 3;
     QStringList names;
-    for (const GlyphFault &fault : faults.mid(0, kMost))
+    for (const GlyphFault &fault : faults.mid(0, kMaxListed))
         names.append(fault.key);
     const QString listed = names.join(QStringLiteral(", "));
-    return faults.size() <= kMost
+    return faults.size() <= kMaxListed
         ? listed
-        : QStringLiteral("%1 and %2 more").arg(listed).arg(faults.size() - kMost);
+        : QStringLiteral("%1 and %2 more").arg(listed).arg(faults.size() - kMaxListed);
 }
 
 QString Images(const Faults &faults)

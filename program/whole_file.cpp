@@ -15,7 +15,7 @@ namespace ClockProgram {
 
 namespace {
 
-constexpr int kMostLinks = 40; // as many as the system follows
+constexpr int kMaxLinks = 40; // as many as the system follows
 
 Failure WriteFailure(const QString &path, const QString &reason)
 {
@@ -53,7 +53,7 @@ bool IsOnDisk(int file)
 /// What a chain of links names, whether or not it exists; null where the chain does not end.
 QString EndOfLinks(QString path)
 {
-    for (int followed = 0; followed < kMostLinks; ++followed) {
+    for (int followed = 0; followed < kMaxLinks; ++followed) {
         const QFileInfo entry(path);
         if (!entry.isSymLink())
             return path;

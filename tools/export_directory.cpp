@@ -16,7 +16,7 @@ namespace {
 
 constexpr char kLockName[] = ".clock_tool-export.lock";
 constexpr char kListHead[] = "path\tmd5\tsize\n";
-constexpr qint64 kMostListBytes = 16 << 20;
+constexpr qint64 kMaxListBytes = 16 << 20;
 
 constexpr QDir::Filters kEverything =
     QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
@@ -38,7 +38,7 @@ std::optional<SentFile> ProgramIn(const QString &listPath)
 {
     QFile list(listPath);
     const QFileInfo info(listPath);
-    if (info.isSymLink() || !info.isFile() || info.size() > kMostListBytes
+    if (info.isSymLink() || !info.isFile() || info.size() > kMaxListBytes
         || !list.open(QFile::ReadOnly) || list.readLine() != kListHead)
         return std::nullopt;
     for (QByteArray line = list.readLine(); !line.isEmpty(); line = list.readLine()) {

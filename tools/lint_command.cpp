@@ -38,21 +38,21 @@ constexpr char kDescription[] =
     "Exit codes: 0 no warning, 1 warnings, 2 wrong command line, 3 a file cannot be read or is\n"
     "not XML. All given programs are checked, and the highest code is returned.";
 
-constexpr int kMostShown = 1000;
+constexpr int kMaxShown = 1000;
 
 void Show(const Findings &findings, const QString &path)
 {
     const QVector<Finding> sorted = findings.ByLine();
-    for (const Finding &finding : sorted.mid(0, kMostShown)) {
+    for (const Finding &finding : sorted.mid(0, kMaxShown)) {
         const char *kind = finding.severity == Severity::Note ? "note" : "warning";
         const QString place = finding.place.line > 0
             ? QStringLiteral("%1:%2").arg(path).arg(finding.place.line)
             : path;
         std::fprintf(stderr, "%s: %s: %s\n", qPrintable(place), kind, qPrintable(finding.text));
     }
-    if (sorted.size() > kMostShown)
+    if (sorted.size() > kMaxShown)
         Say(QStringLiteral("%1: and %2 more")
-                .arg(path, QString::number(sorted.size() - kMostShown)));
+                .arg(path, QString::number(sorted.size() - kMaxShown)));
 }
 
 MaybeFailure ShowAsJson(const Findings &findings, const QString &path)

@@ -15,7 +15,7 @@ namespace {
 using namespace Lw::HNodeClock;
 
 /// Most zones have one or two rules; those with dates that move every year have too many to try.
-constexpr int kMostRules = 40;
+constexpr int kMaxRules = 40;
 
 QDateTime Utc(qint64 milliseconds)
 {
@@ -94,7 +94,7 @@ QStringList PossibleRules(const CivilTime &civil, int standard, bool isStart)
             rules += RulesNaming(reading);
     }
     rules.removeDuplicates();
-    return rules.mid(0, kMostRules);
+    return rules.mid(0, kMaxRules);
 }
 
 /// Keeps the best of the settings tried; on a tie the first.

@@ -35,9 +35,9 @@ int WordsFor(int width)
 
 GlyphRows RowsBetween(int first, int end)
 {
-    constexpr int kMost = std::numeric_limits<quint16>::max();
-    return {static_cast<quint16>(std::min(first, kMost)),
-            static_cast<quint16>(std::min(end - first, kMost))};
+    constexpr int kMax = std::numeric_limits<quint16>::max();
+    return {static_cast<quint16>(std::min(first, kMax)),
+            static_cast<quint16>(std::min(end - first, kMax))};
 }
 
 // One spare word for two-word loads.

@@ -15,7 +15,7 @@ namespace {
 constexpr int kKeepingInterval = 4000; // milliseconds
 // Other programs replace a file in several steps; it is checked after this delay, in milliseconds.
 constexpr int kLookingDelay = 200;
-constexpr int kMostRecent = 10;
+constexpr int kMaxRecent = 10;
 const QString kRecentKey = QStringLiteral("recentFiles");
 
 QByteArray DigestOf(const QByteArray &contents)
@@ -143,7 +143,7 @@ void ProgramFiles::NoteRecent(const QString &path)
     QStringList paths = settings.value(kRecentKey).toStringList();
     paths.removeAll(path);
     paths.prepend(path);
-    settings.setValue(kRecentKey, QStringList(paths.mid(0, kMostRecent)));
+    settings.setValue(kRecentKey, QStringList(paths.mid(0, kMaxRecent)));
 }
 
 QStringList ProgramFiles::Recent()

@@ -15,8 +15,8 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kMostOutput = 4 << 20; // kept bytes of standard output
-constexpr int kPatience = 5000;      // milliseconds between SIGTERM and SIGKILL
+constexpr int kMaxOutput = 4 << 20; // kept bytes of standard output
+constexpr int kPatience = 5000;     // milliseconds between SIGTERM and SIGKILL
 
 QString Translated(const char *text)
 {
@@ -83,7 +83,7 @@ private:
 
     void TakeOutput(const QByteArray &output)
     {
-        m_result.output += output.left(kMostOutput - m_result.output.size());
+        m_result.output += output.left(kMaxOutput - m_result.output.size());
         if (const auto percentage = LastPercentage(output)) {
             m_dialog.setRange(0, 100);
             m_dialog.setValue(*percentage);

@@ -10,7 +10,7 @@ namespace ClockStudio {
 namespace {
 
 const QString kGroup = QStringLiteral("targets");
-constexpr int kMostStatus = 1 << 20; // bytes of a status file
+constexpr int kMaxStatus = 1 << 20; // bytes of a status file
 
 QString Translated(const char *text)
 {
@@ -218,7 +218,7 @@ ToolCommand WordCommand(const WallTarget &target)
     return ScriptInFolder(target,
                           QStringLiteral("sha256sum <%1/program.xml && head -c %2 -- %3")
                               .arg(QLatin1String(kCurrentLink))
-                              .arg(kMostStatus)
+                              .arg(kMaxStatus)
                               .arg(Quoted(target.statusFile)));
 }
 

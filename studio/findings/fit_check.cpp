@@ -12,8 +12,8 @@ namespace {
 
 using ClockTool::Finding;
 
-constexpr int kLimit = 120'000;     // milliseconds
-constexpr int kMostFindings = 1000; // more are no help to anybody
+constexpr int kLimit = 120'000;    // milliseconds
+constexpr int kMaxFindings = 1000; // more are no help to anybody
 
 Finding FindingOf(const QJsonObject &object)
 {
@@ -93,7 +93,7 @@ void FitCheck::Take(int exitCode, QProcess::ExitStatus status)
     QVector<Finding> findings;
     for (const QByteArray &line : output.split('\n')) {
         const QJsonDocument document = QJsonDocument::fromJson(line);
-        if (document.isObject() && findings.size() < kMostFindings)
+        if (document.isObject() && findings.size() < kMaxFindings)
             findings.append(FindingOf(document.object()));
     }
     // The tool ends with 1 where it warns, with more where it could not check.

@@ -22,7 +22,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-constexpr int kMost = 9999;     // of plain numbers, such as gaps in pixels
+constexpr int kMax = 9999;      // of plain numbers, such as gaps in pixels
 constexpr int kListWords = 250; // pixels for the words beside a picture
 const QString kMixed = QStringLiteral("–");
 
@@ -127,7 +127,7 @@ public:
     {
         const bool isSize = Row().role == ValueRole::Size;
         // The minimum value represents mixed values.
-        m_box->setRange(isSize ? 0 : -kMost - 1, isSize ? Row().range.last : kMost);
+        m_box->setRange(isSize ? 0 : -kMax - 1, isSize ? Row().range.last : kMax);
         m_box->setSuffix(isSize ? tr(" pt") : tr(" px"));
         m_box->setKeyboardTracking(false);
         m_box->setAccelerated(true);

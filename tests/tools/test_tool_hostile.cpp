@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr double kMostSeconds = 2; // of the processor, for one command
-constexpr long kMostKilobytes = 256 << 10;
+constexpr double kMaxSeconds = 2; // of the processor, for one command
+constexpr long kMaxKilobytes = 256 << 10;
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr bool kMeasures = false;
@@ -36,7 +36,7 @@ double SecondsOf(const rusage &usage)
     return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
-constexpr int kMostMilliseconds = 60000; // a hundred times what an idle machine needs
+constexpr int kMaxMilliseconds = 60000; // a hundred times what an idle machine needs
 
 QByteArray ManyChildren(const QByteArray &child, int count)
 {
@@ -68,7 +68,7 @@ bool ReadsWithinBounds(const std::function<ProcessRun()> &command)
     const double seconds = SecondsOf(after) - before;
     if (!run.crashed && run.exitCode != 0
         && (!kMeasures || IsEmulated()
-            || (seconds < kMostSeconds && after.ru_maxrss < kMostKilobytes)))
+            || (seconds < kMaxSeconds && after.ru_maxrss < kMaxKilobytes)))
         return true;
     qWarning("ended with %d after %f s and %ld kB", run.exitCode, seconds, after.ru_maxrss);
     return false;
@@ -141,7 +141,7 @@ void TestToolHostile::EveryCommandEnds()
         const ProcessRun run = RunTool(CommandLine(command, path, directory.path()));
         QVERIFY2(!run.crashed, command);
         QVERIFY2(run.exitCode == 0 || run.exitCode == 1 || run.exitCode == 3, command);
-        QVERIFY2(timer.elapsed() < kMostMilliseconds, command);
+        QVERIFY2(timer.elapsed() < kMaxMilliseconds, command);
         QVERIFY2(run.errors.size() < (1 << 20), command);
         // Nothing of another file came in.
         QVERIFY2(!run.output.contains("file:///"), command);

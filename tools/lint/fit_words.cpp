@@ -12,7 +12,7 @@ using namespace ClockFit;
 
 namespace {
 
-constexpr int kMostFamilies = 5;
+constexpr int kMaxFamilies = 5;
 
 QString InstantText(qint64 utc)
 {
@@ -62,10 +62,10 @@ QString ColourText(QRgb colour)
 QString Quoted(const QStringList &names)
 {
     QStringList quoted;
-    for (const QString &name : names.mid(0, kMostFamilies))
+    for (const QString &name : names.mid(0, kMaxFamilies))
         quoted.append(QStringLiteral("\"%1\"").arg(name));
-    if (names.size() > kMostFamilies)
-        quoted.append(QStringLiteral("and %1 more").arg(names.size() - kMostFamilies));
+    if (names.size() > kMaxFamilies)
+        quoted.append(QStringLiteral("and %1 more").arg(names.size() - kMaxFamilies));
     return quoted.join(QStringLiteral(", "));
 }
 

@@ -15,7 +15,7 @@ namespace {
 using namespace Lw::HNodeClock;
 using PlannedSet = QHash<QString, PlannedImage>;
 
-constexpr qint64 kMostPixels = 32'000'000; // of the images of a clock
+constexpr qint64 kMaxPixels = 32'000'000; // of the images of a clock
 
 /// Equal images are drawn once.
 qint64 PixelsOf(const PlannedSet &images)
@@ -33,13 +33,13 @@ qint64 PixelsOf(const PlannedSet &images)
 
 void TellLongMaking(const QDomElement &clock, qint64 pixels, Findings &findings)
 {
-    if (pixels > kMostPixels)
+    if (pixels > kMaxPixels)
         findings.Warn(At(clock),
                       QStringLiteral("the images of its texts have %1 megapixels, which takes a "
                                      "small device long to draw; accepted: at most %2, so smaller "
                                      "font sizes or a shorter title")
                           .arg(pixels / 1'000'000)
-                          .arg(kMostPixels / 1'000'000));
+                          .arg(kMaxPixels / 1'000'000));
 }
 
 void TellLost(const QDomElement &clock, const QVector<Lw::GlyphFault> &lost, Findings &findings)

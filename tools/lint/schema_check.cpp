@@ -89,14 +89,14 @@ void Collect(void *context, ErrorPointer error)
 void Ignore(void *, ErrorPointer) { }
 
 /// libxml2's validation time is quadratic in the number of children of an element.
-constexpr unsigned long kMostChildren = 1024;
+constexpr unsigned long kMaxChildren = 1024;
 
 /// The line of an element with more than that; 0 for none.
 int CrowdedLine(xmlNodePtr root)
 {
     xmlNodePtr node = root;
     while (node) {
-        if (xmlChildElementCount(node) > kMostChildren)
+        if (xmlChildElementCount(node) > kMaxChildren)
             return static_cast<int>(xmlGetLineNo(node));
         xmlNodePtr next = xmlFirstElementChild(node);
         while (!next && node && node != root) {
@@ -155,7 +155,7 @@ SchemaReport CheckAgainstSchema(const QByteArray &contents)
         return LeftOut(line,
                        QStringLiteral("this element has more than %1 children, so the "
                                       "schema check was skipped")
-                           .arg(kMostChildren));
+                           .arg(kMaxChildren));
     const Validation validation(xmlRelaxNGNewValidCtxt(schema.get()));
     Faults faults;
     xmlRelaxNGSetValidStructuredErrors(validation.get(), Collect, &faults);
