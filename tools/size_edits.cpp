@@ -24,15 +24,15 @@ struct WrittenPlace
 
 bool IsReadOnlyInto(Attribute attribute, int clockType, const QString &element, const QString &name)
 {
-    const QVector<Reading> readings = ReadingsOf(clockType, element, name);
-    return readings.size() == 1 && readings.first().target == attribute;
+    const QVector<ImportedSetting> settings = SettingsReadFrom(clockType, element, name);
+    return settings.size() == 1 && settings.first().target == attribute;
 }
 
 class SizeEdits
 {
 public:
-    SizeEdits(ProgramReading reading, const TextForm &form)
-        : m_reading(std::move(reading)), m_form(form)
+    SizeEdits(ParsedProgram parsed, const TextForm &form)
+        : m_parsed(std::move(parsed)), m_form(form)
     { }
 
     // The changes are of different clocks. False if the text is no longer a valid program.
@@ -41,17 +41,17 @@ public:
         TextEdits edits;
         for (const SizeChange &change : changes)
             edits.append(EditOf(change, asSetting));
-        QString text = m_reading.text;
+        QString text = m_parsed.text;
         ApplyEdits(text, InSequence(edits));
-        m_reading = ProgramReading(); // which may be as large as the next one
+        m_parsed = ParsedProgram(); // which may be as large as the next one
         auto read = ReadProgramText(text, m_form);
-        auto *const next = std::get_if<ProgramReading>(&read);
+        auto *const next = std::get_if<ParsedProgram>(&read);
         if (next)
-            m_reading = std::move(*next);
+            m_parsed = std::move(*next);
         return next != nullptr;
     }
 
-    std::optional<QByteArray> Bytes() const { return EncodeText(m_reading.text, m_form); }
+    std::optional<QByteArray> Bytes() const { return EncodeText(m_parsed.text, m_form); }
 
 private:
     TextEdit EditOf(const SizeChange &change, bool asSetting)
@@ -59,15 +59,15 @@ private:
         const WrittenPlace place = asSetting ? WrittenPlace() : PlaceOfSize(change);
         const QString value = QString::number(change.points);
         if (place.element >= 0)
-            return SetAttributeEdit(m_reading, place.element, place.name, value);
-        return AppendChildEdit(m_reading, m_reading.ClockElement(change.area),
+            return SetAttributeEdit(m_parsed, place.element, place.name, value);
+        return AppendChildEdit(m_parsed, m_parsed.ClockElement(change.area),
                                QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>")
                                    .arg(Key(change.attribute), value));
     }
 
     WrittenPlace PlaceOfSize(const SizeChange &change)
     {
-        const QDomElement clock = m_reading.program.areas[change.area].element;
+        const QDomElement clock = m_parsed.program.areas[change.area].element;
         for (const int clockType : {AnalogClock, DigitalClock}) {
             const SettingPlace place = PlaceOf(clock, clockType, change.attribute);
             const bool isSetting = place.element.tagName() == ClockProgram::kAttributeTag;
@@ -102,10 +102,10 @@ private:
         for (QDomElement one = clock.firstChildElement(); one != child;
              one = one.nextSiblingElement())
             ++number;
-        return m_reading.elements[m_reading.ClockElement(area)].children[number];
+        return m_parsed.elements[m_parsed.ClockElement(area)].children[number];
     }
 
-    ProgramReading m_reading;
+    ParsedProgram m_parsed;
     const TextForm m_form;
 };
 
@@ -152,10 +152,10 @@ Result<QByteArray> WithSizes(const QByteArray &contents, const QString &path,
     if (!text)
         return CannotBeEdited(path);
     auto read = ReadProgramText(text->text, text->form);
-    auto *const reading = std::get_if<ProgramReading>(&read);
-    if (!reading)
+    auto *const parsed = std::get_if<ParsedProgram>(&read);
+    if (!parsed)
         return CannotBeEdited(path);
-    SizeEdits edits(std::move(*reading), text->form);
+    SizeEdits edits(std::move(*parsed), text->form);
     QVector<SizeChange> open = changes;
     for (const bool asSetting : {false, true}) {
         // The whole text is read again for each round, and not for each change.

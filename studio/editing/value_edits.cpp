@@ -80,13 +80,13 @@ QVector<const ImportElement *> ImportsOf(int kind)
 
 /// The element that an import row reads: the clock itself, or its first child with the name, else
 /// with the fallback name; -1 if none.
-int ElementRead(const ProgramReading &reading, int clock, const ImportElement &import)
+int ElementRead(const ParsedProgram &parsed, int clock, const ImportElement &import)
 {
     if (!import.name)
         return clock;
     for (const char *const name : {import.name, import.fallback}) {
         const QVector<int> found =
-            name ? ChildrenNamed(reading.elements, clock, QLatin1String(name)) : QVector<int>();
+            name ? ChildrenNamed(parsed.elements, clock, QLatin1String(name)) : QVector<int>();
         if (!found.isEmpty())
             return found.first();
     }
@@ -103,28 +103,28 @@ QVector<const ImportRow *> RowsFor(const ImportElement &import, Attribute target
     return rows;
 }
 
-Source StoredSource(const ProgramReading &reading, int clock, Attribute attribute)
+Source StoredSource(const ParsedProgram &parsed, int clock, Attribute attribute)
 {
     Source last;
-    for (const int child : ChildrenNamed(reading.elements, clock, ClockProgram::kAttributeTag)) {
-        if (reading.elements[child].Value(kKeyName) == Key(attribute))
+    for (const int child : ChildrenNamed(parsed.elements, clock, ClockProgram::kAttributeTag)) {
+        if (parsed.elements[child].Value(kKeyName) == Key(attribute))
             last = {child, kValueName, Conversion::Text, true};
     }
     return last;
 }
 
 /// Where the value is set: the last "attribute" child with the key, else the last imported source.
-Source SourceOf(const ProgramReading &reading, int clock, int kind, Attribute attribute)
+Source SourceOf(const ParsedProgram &parsed, int clock, int kind, Attribute attribute)
 {
-    Source found = StoredSource(reading, clock, attribute);
+    Source found = StoredSource(parsed, clock, attribute);
     if (!found.IsNothing())
         return found;
     for (const ImportElement *const import : ImportsOf(kind)) {
-        const int element = ElementRead(reading, clock, *import);
+        const int element = ElementRead(parsed, clock, *import);
         for (const ImportRow *const row : RowsFor(*import, attribute)) {
             for (const ImportSource *const source : {&row->source, &row->fallback}) {
                 if (element >= 0 && source->attribute
-                    && reading.elements[element].Find(QLatin1String(source->attribute))) {
+                    && parsed.elements[element].Find(QLatin1String(source->attribute))) {
                     found = {element, QLatin1String(source->attribute), source->conversion, false};
                     break;
                 }
@@ -136,7 +136,7 @@ Source SourceOf(const ProgramReading &reading, int clock, int kind, Attribute at
 
 /// The usual place for a new value: the specific element, under the documented name.
 /// Elements that set several attributes at once (font, clockCom) are not used.
-std::optional<NewSource> NewSourceOf(const ProgramReading &reading, int clock, int kind,
+std::optional<NewSource> NewSourceOf(const ParsedProgram &parsed, int clock, int kind,
                                      Attribute attribute)
 {
     for (const ImportElement *const import : ImportsOf(kind)) {
@@ -145,7 +145,7 @@ std::optional<NewSource> NewSourceOf(const ProgramReading &reading, int clock, i
         const QVector<const ImportRow *> rows = RowsFor(*import, attribute);
         if (isShared || rows.isEmpty())
             continue;
-        const int element = ElementRead(reading, clock, *import);
+        const int element = ElementRead(parsed, clock, *import);
         const ImportSource &source = rows.first()->source;
         const Source place {element, QLatin1String(source.attribute), source.conversion, false};
         if (element >= 0)
@@ -155,23 +155,23 @@ std::optional<NewSource> NewSourceOf(const ProgramReading &reading, int clock, i
     return std::nullopt;
 }
 
-TextEdit StoredElementEdit(const ProgramReading &reading, int clock, const StoredValue &value)
+TextEdit StoredElementEdit(const ParsedProgram &parsed, int clock, const StoredValue &value)
 {
     return AppendChildEdit(
-        reading, clock,
+        parsed, clock,
         QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>")
             .arg(Key(value.attribute), EscapedValue(value.text, QLatin1Char('"'))));
 }
 
 /// The preferred edit; nullopt if only an "attribute" child can set the value.
-std::optional<TextEdit> BestEdit(const ProgramReading &reading, int area, int kind,
+std::optional<TextEdit> BestEdit(const ParsedProgram &parsed, int area, int kind,
                                  const StoredValue &value)
 {
-    const int clock = reading.ClockElement(area);
-    Source source = SourceOf(reading, clock, kind, value.attribute);
+    const int clock = parsed.ClockElement(area);
+    Source source = SourceOf(parsed, clock, kind, value.attribute);
     QString element;
     if (source.IsNothing()) {
-        const auto made = NewSourceOf(reading, clock, kind, value.attribute);
+        const auto made = NewSourceOf(parsed, clock, kind, value.attribute);
         if (!made)
             return std::nullopt;
         source = made->source;
@@ -183,18 +183,18 @@ std::optional<TextEdit> BestEdit(const ProgramReading &reading, int area, int ki
         return std::nullopt;
     if (!element.isEmpty())
         return AppendChildEdit(
-            reading, clock,
+            parsed, clock,
             QStringLiteral("<%1 %2=\"%3\"/>")
                 .arg(element, source.attribute, EscapedValue(*text, QLatin1Char('"'))));
-    return SetAttributeEdit(reading, source.element, source.attribute, *text);
+    return SetAttributeEdit(parsed, source.element, source.attribute, *text);
 }
 
-std::optional<ProgramReading> ReadAfter(const ProgramReading &reading, const TextEdits &edits)
+std::optional<ParsedProgram> ReadAfter(const ParsedProgram &parsed, const TextEdits &edits)
 {
-    QString text = reading.text;
+    QString text = parsed.text;
     ApplyEdits(text, edits);
-    auto read = ReadProgramText(text, FormAfterEdits(text, reading.form));
-    if (auto *const after = std::get_if<ProgramReading>(&read))
+    auto read = ReadProgramText(text, FormAfterEdits(text, parsed.form));
+    if (auto *const after = std::get_if<ParsedProgram>(&read))
         return *after;
     return std::nullopt;
 }
@@ -213,38 +213,38 @@ bool ChangesOnly(HClockNode &before, HClockNode &after, const StoredValue &value
 }
 
 /// Verifies an edit with the plugin itself.
-bool IsReadAsMeant(const ProgramReading &reading, int area, const TextEdit &edit,
+bool IsReadAsMeant(const ParsedProgram &parsed, int area, const TextEdit &edit,
                    const StoredValue &value)
 {
-    const auto after = ReadAfter(reading, {edit});
-    const auto nodeBefore = ClockOf(reading, area);
+    const auto after = ReadAfter(parsed, {edit});
+    const auto nodeBefore = ClockOf(parsed, area);
     const auto nodeAfter = after ? ClockOf(*after, area) : nullptr;
     return nodeBefore && nodeAfter && ChangesOnly(*nodeBefore, *nodeAfter, value);
 }
 
-TextEdit EditOf(const ProgramReading &reading, int area, int kind, const StoredValue &value)
+TextEdit EditOf(const ParsedProgram &parsed, int area, int kind, const StoredValue &value)
 {
-    const std::optional<TextEdit> best = BestEdit(reading, area, kind, value);
-    if (best && IsReadAsMeant(reading, area, *best, value))
+    const std::optional<TextEdit> best = BestEdit(parsed, area, kind, value);
+    if (best && IsReadAsMeant(parsed, area, *best, value))
         return *best;
-    const int clock = reading.ClockElement(area);
-    const Source stored = StoredSource(reading, clock, value.attribute);
-    return stored.IsNothing() ? StoredElementEdit(reading, clock, value)
-                              : SetAttributeEdit(reading, stored.element, kValueName, value.text);
+    const int clock = parsed.ClockElement(area);
+    const Source stored = StoredSource(parsed, clock, value.attribute);
+    return stored.IsNothing() ? StoredElementEdit(parsed, clock, value)
+                              : SetAttributeEdit(parsed, stored.element, kValueName, value.text);
 }
 
-int KindOf(const ProgramReading &reading, int area)
+int KindOf(const ParsedProgram &parsed, int area)
 {
-    const auto node = ClockOf(reading, area);
+    const auto node = ClockOf(parsed, area);
     return node ? node->ClockType() : DigitalClock;
 }
 
 } // namespace
 
-std::unique_ptr<HClockNode> ClockOf(const ProgramReading &reading, int area)
+std::unique_ptr<HClockNode> ClockOf(const ParsedProgram &parsed, int area)
 {
-    ClockProgram::Program alone = reading.program;
-    alone.areas = {reading.program.areas[area]};
+    ClockProgram::Program alone = parsed.program;
+    alone.areas = {parsed.program.areas[area]};
     auto made = ClockProgram::MakeNodes(alone, FindClockPlugin);
     if (!made)
         return nullptr;
@@ -254,11 +254,11 @@ std::unique_ptr<HClockNode> ClockOf(const ProgramReading &reading, int area)
 
 /// Each edit is computed for the text after the previous ones, as one may add an element that the
 /// next one uses.
-TextEdits ValueEdits(const ProgramReading &reading, int area, const QVector<StoredValue> &values)
+TextEdits ValueEdits(const ParsedProgram &parsed, int area, const QVector<StoredValue> &values)
 {
     TextEdits edits;
-    ProgramReading current = reading;
-    const int kind = KindOf(reading, area);
+    ParsedProgram current = parsed;
+    const int kind = KindOf(parsed, area);
     for (const StoredValue &value : values) {
         const auto node = ClockOf(current, area);
         if (node && node->GetAttribute(Key(value.attribute)) == value.text
@@ -274,42 +274,41 @@ TextEdits ValueEdits(const ProgramReading &reading, int area, const QVector<Stor
     return edits;
 }
 
-TextEdits ResetEdits(const ProgramReading &reading, int area, Attribute attribute)
+TextEdits ResetEdits(const ParsedProgram &parsed, int area, Attribute attribute)
 {
     const StoredValue value {attribute, DefaultValue(attribute)};
     const Source source =
-        SourceOf(reading, reading.ClockElement(area), KindOf(reading, area), attribute);
+        SourceOf(parsed, parsed.ClockElement(area), KindOf(parsed, area), attribute);
     if (!source.IsNothing()) {
         const TextEdit removal = source.isStored
-            ? RemoveElementEdit(reading, source.element)
-            : RemoveAttributeEdit(reading, source.element, source.attribute);
-        if (IsReadAsMeant(reading, area, removal, value))
+            ? RemoveElementEdit(parsed, source.element)
+            : RemoveAttributeEdit(parsed, source.element, source.attribute);
+        if (IsReadAsMeant(parsed, area, removal, value))
             return {removal};
     }
-    return ValueEdits(reading, area, {value});
+    return ValueEdits(parsed, area, {value});
 }
 
-TextEdits KindEdits(const ProgramReading &reading, int area, int kind)
+TextEdits KindEdits(const ParsedProgram &parsed, int area, int kind)
 {
-    const int clock = reading.ClockElement(area);
+    const int clock = parsed.ClockElement(area);
     // The older form stores the kind as a number in a child element.
-    const QVector<int> older =
-        ChildrenNamed(reading.elements, clock, QLatin1String(Sdk::kClockCom));
+    const QVector<int> older = ChildrenNamed(parsed.elements, clock, QLatin1String(Sdk::kClockCom));
     TextEdits edits {older.isEmpty()
-                         ? SetAttributeEdit(reading, clock, QLatin1String(Sdk::kType),
+                         ? SetAttributeEdit(parsed, clock, QLatin1String(Sdk::kType),
                                             QLatin1String(Sdk::kTypeNames[kind]))
-                         : SetAttributeEdit(reading, older.first(), QLatin1String(Sdk::kClockType),
+                         : SetAttributeEdit(parsed, older.first(), QLatin1String(Sdk::kClockType),
                                             QString::number(kind))};
-    for (const int child : ChildrenNamed(reading.elements, clock, ClockProgram::kAttributeTag)) {
-        if (reading.elements[child].Value(kKeyName) == Key(Attribute::ClockType))
-            edits.append(RemoveElementEdit(reading, child));
+    for (const int child : ChildrenNamed(parsed.elements, clock, ClockProgram::kAttributeTag)) {
+        if (parsed.elements[child].Value(kKeyName) == Key(Attribute::ClockType))
+            edits.append(RemoveElementEdit(parsed, child));
     }
     edits = InSequence(edits);
-    const auto after = ReadAfter(reading, edits);
+    const auto after = ReadAfter(parsed, edits);
     const auto node = after ? ClockOf(*after, area) : nullptr;
     if (node && node->ClockType() == kind)
         return edits;
-    return {StoredElementEdit(reading, clock, {Attribute::ClockType, QString::number(kind)})};
+    return {StoredElementEdit(parsed, clock, {Attribute::ClockType, QString::number(kind)})};
 }
 
 QString DefaultValue(Attribute attribute)
@@ -319,12 +318,11 @@ QString DefaultValue(Attribute attribute)
     return fresh.GetAttribute(Key(attribute));
 }
 
-TextRange PlaceOf(const ProgramReading &reading, int area, Attribute attribute)
+TextRange PlaceOf(const ParsedProgram &parsed, int area, Attribute attribute)
 {
-    const int clock = reading.ClockElement(area);
-    const Source source = SourceOf(reading, clock, KindOf(reading, area), attribute);
-    return source.IsNothing() ? reading.elements[clock].tag
-                              : reading.elements[source.element].whole;
+    const int clock = parsed.ClockElement(area);
+    const Source source = SourceOf(parsed, clock, KindOf(parsed, area), attribute);
+    return source.IsNothing() ? parsed.elements[clock].tag : parsed.elements[source.element].whole;
 }
 
 } // namespace ClockStudio

@@ -22,24 +22,24 @@ struct StoredValue
 };
 
 /// The clock node that the plugin creates for an area; null if it creates none.
-std::unique_ptr<Lw::HNodeClock::HClockNode> ClockOf(const ProgramReading &reading, int area);
+std::unique_ptr<Lw::HNodeClock::HClockNode> ClockOf(const ParsedProgram &parsed, int area);
 
 /// The edits after which the plugin reads these values for a clock, and all others unchanged. A
 /// value is changed where the text sets it now; a new one is written in its usual element, or as an
 /// "attribute" element where that would change other values too.
-TextEdits ValueEdits(const ProgramReading &reading, int area, const QVector<StoredValue> &values);
+TextEdits ValueEdits(const ParsedProgram &parsed, int area, const QVector<StoredValue> &values);
 
 /// The edits that reset an attribute to its default: its setting is removed, if that suffices.
-TextEdits ResetEdits(const ProgramReading &reading, int area, Lw::HNodeClock::Attribute attribute);
+TextEdits ResetEdits(const ParsedProgram &parsed, int area, Lw::HNodeClock::Attribute attribute);
 
 /// The edits that change the clock's kind (see ClockTypeCode).
-TextEdits KindEdits(const ProgramReading &reading, int area, int kind);
+TextEdits KindEdits(const ParsedProgram &parsed, int area, int kind);
 
 /// An attribute's default, as stored (text defaults are in the clocks' language).
 QString DefaultValue(Lw::HNodeClock::Attribute attribute);
 
 /// The text range that sets an attribute's value; the clock's start tag if nothing
 /// does.
-TextRange PlaceOf(const ProgramReading &reading, int area, Lw::HNodeClock::Attribute attribute);
+TextRange PlaceOf(const ParsedProgram &parsed, int area, Lw::HNodeClock::Attribute attribute);
 
 } // namespace ClockStudio

@@ -35,13 +35,13 @@ void WallEditor::FollowEdits(const TextEdits &edits)
 
 void WallEditor::ShowText()
 {
-    const ProgramReading *const reading = m_document.Reading();
-    if (!reading)
+    const ParsedProgram *const parsed = m_document.Parsed();
+    if (!parsed)
         return;
-    m_wall.Show(*reading);
+    m_wall.Show(*parsed);
     QVector<int> still;
-    for (int area = 0; area < reading->AreaCount(); ++area) {
-        if (m_places.contains(reading->elements[reading->AreaElement(area)].whole.begin))
+    for (int area = 0; area < parsed->AreaCount(); ++area) {
+        if (m_places.contains(parsed->elements[parsed->AreaElement(area)].whole.begin))
             still.append(area);
     }
     if (still.size() != m_chosen.size()
@@ -51,14 +51,14 @@ void WallEditor::ShowText()
 
 void WallEditor::Choose(const QVector<int> &areas)
 {
-    const ProgramReading &reading = m_document.LastReading();
+    const ParsedProgram &parsed = m_document.LastParsed();
     m_chosen.clear();
     m_places.clear();
     for (const int area : areas) {
-        if (area < 0 || area >= reading.AreaCount() || m_chosen.contains(area))
+        if (area < 0 || area >= parsed.AreaCount() || m_chosen.contains(area))
             continue;
         m_chosen.append(area);
-        m_places.append(reading.elements[reading.AreaElement(area)].whole.begin);
+        m_places.append(parsed.elements[parsed.AreaElement(area)].whole.begin);
     }
     m_document.EndMerging();
     emit ChoiceChanged();
@@ -84,18 +84,18 @@ QVector<QRect> WallEditor::ChosenRects() const
 {
     QVector<QRect> rects;
     for (const int area : m_chosen)
-        rects.append(m_document.LastReading().Geometry(area));
+        rects.append(m_document.LastParsed().Geometry(area));
     return rects;
 }
 
 void WallEditor::Place(const QVector<QRect> &rects, const QString &label, const QString &mergeKey)
 {
-    const ProgramReading *const reading = m_document.Reading();
-    if (!reading)
+    const ParsedProgram *const parsed = m_document.Parsed();
+    if (!parsed)
         return;
     TextEdits edits;
     for (int i = 0; i < qMin(rects.size(), m_chosen.size()); ++i)
-        edits += GeometryEdits(*reading, m_chosen[i], rects[i]);
+        edits += GeometryEdits(*parsed, m_chosen[i], rects[i]);
     m_document.Change(InSequence(edits), label, mergeKey);
 }
 
@@ -144,19 +144,19 @@ void WallEditor::SendToBack()
 /// them is unchanged.
 void WallEditor::Reorder(bool toFront, const QString &label)
 {
-    const ProgramReading *const reading = m_document.Reading();
-    if (!reading || m_chosen.isEmpty())
+    const ParsedProgram *const parsed = m_document.Parsed();
+    if (!parsed || m_chosen.isEmpty())
         return;
-    QVector<int> order(reading->AreaCount());
+    QVector<int> order(parsed->AreaCount());
     std::iota(order.begin(), order.end(), 0);
     std::stable_partition(order.begin(), order.end(),
                           [&](int area) { return m_chosen.contains(area) != toFront; });
     TextEdits edits;
     for (int area = 0; area < order.size(); ++area) {
         if (order[area] != area)
-            edits.append(Replacement(reading->text,
-                                     reading->elements[reading->AreaElement(area)].whole,
-                                     reading->AreaText(order[area])));
+            edits.append(Replacement(parsed->text,
+                                     parsed->elements[parsed->AreaElement(area)].whole,
+                                     parsed->AreaText(order[area])));
     }
     QVector<int> places;
     for (const int area : qAsConst(m_chosen))
@@ -167,11 +167,11 @@ void WallEditor::Reorder(bool toFront, const QString &label)
 
 void WallEditor::Append(const QStringList &areas, const QString &label)
 {
-    const ProgramReading *const reading = m_document.Reading();
-    if (!reading || areas.isEmpty())
+    const ParsedProgram *const parsed = m_document.Parsed();
+    if (!parsed || areas.isEmpty())
         return;
-    const int first = reading->AreaCount();
-    m_document.Change({AppendChildEdit(*reading, 0, areas.join(QLatin1Char('\n')))}, label);
+    const int first = parsed->AreaCount();
+    m_document.Change({AppendChildEdit(*parsed, 0, areas.join(QLatin1Char('\n')))}, label);
     QVector<int> added;
     for (int area = first; area < m_wall.AreaCount(); ++area)
         added.append(area);
@@ -185,38 +185,38 @@ void WallEditor::Add(ClockKind kind, const QRect &geometry)
 
 void WallEditor::Delete()
 {
-    const ProgramReading *const reading = m_document.Reading();
-    if (!reading)
+    const ParsedProgram *const parsed = m_document.Parsed();
+    if (!parsed)
         return;
     TextEdits edits;
     for (const int area : qAsConst(m_chosen))
-        edits.append(RemoveElementEdit(*reading, reading->AreaElement(area)));
+        edits.append(RemoveElementEdit(*parsed, parsed->AreaElement(area)));
     Choose({}); // otherwise an area that moves to the position of a deleted one would be chosen
     m_document.Change(InSequence(edits), tr("Delete"));
 }
 
 void WallEditor::Duplicate()
 {
-    const ProgramReading *const reading = m_document.Reading();
-    if (!reading)
+    const ParsedProgram *const parsed = m_document.Parsed();
+    if (!parsed)
         return;
-    QSet<int> ids = GivenIds(*reading);
+    QSet<int> ids = GivenIds(*parsed);
     QStringList copies;
     for (const int area : qAsConst(m_chosen))
-        copies.append(AreaForProgram(PortableAreaText(*reading, area), kCopyDistance, ids));
+        copies.append(AreaForProgram(PortableAreaText(*parsed, area), kCopyDistance, ids));
     Append(copies, tr("Duplicate"));
 }
 
 void WallEditor::Copy() const
 {
-    const ProgramReading *const reading = m_document.Reading();
-    if (!reading || m_chosen.isEmpty())
+    const ParsedProgram *const parsed = m_document.Parsed();
+    if (!parsed || m_chosen.isEmpty())
         return;
     QVector<int> ordered = m_chosen;
     std::sort(ordered.begin(), ordered.end());
     QStringList texts;
     for (const int area : qAsConst(ordered))
-        texts.append(PortableAreaText(*reading, area));
+        texts.append(PortableAreaText(*parsed, area));
     QGuiApplication::clipboard()->setText(texts.join(QLatin1Char('\n')));
 }
 
@@ -233,11 +233,11 @@ bool WallEditor::Paste()
 
 bool WallEditor::PasteText(const QString &text)
 {
-    const ProgramReading *const reading = m_document.Reading();
+    const ParsedProgram *const parsed = m_document.Parsed();
     const QStringList areas = AreasInText(text);
-    if (!reading || areas.isEmpty())
+    if (!parsed || areas.isEmpty())
         return false;
-    QSet<int> ids = GivenIds(*reading);
+    QSet<int> ids = GivenIds(*parsed);
     QStringList pasted;
     for (const QString &area : areas)
         pasted.append(AreaForProgram(area, kCopyDistance, ids));
@@ -270,8 +270,8 @@ QRect WallEditor::FreePlace(QSize size) const
 
 void WallEditor::SetScreenSize(QSize size)
 {
-    if (const ProgramReading *const reading = m_document.Reading())
-        m_document.Change(InSequence(ScreenSizeEdits(*reading, size)), tr("Resize the wall"),
+    if (const ParsedProgram *const parsed = m_document.Parsed())
+        m_document.Change(InSequence(ScreenSizeEdits(*parsed, size)), tr("Resize the wall"),
                           QStringLiteral("screen size"));
 }
 

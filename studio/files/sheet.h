@@ -2,7 +2,7 @@
 // findings.
 #pragma once
 
-#include "text/program_reading.h"
+#include "text/parsed_program.h"
 #include "wall/live_wall.h"
 
 #include <QString>

@@ -17,10 +17,10 @@ using ClockTool::Finding;
 bool HasFinding(const QString &text, const TextForm &form, const QString &sentence)
 {
     const auto read = ReadProgramText(text, form);
-    const auto *const reading = std::get_if<ProgramReading>(&read);
-    if (!reading)
+    const auto *const parsed = std::get_if<ParsedProgram>(&read);
+    if (!parsed)
         return true;
-    const QVector<Finding> findings = FindingsIn(*reading);
+    const QVector<Finding> findings = FindingsIn(*parsed);
     return std::any_of(findings.cbegin(), findings.cend(),
                        [&sentence](const Finding &finding) { return finding.text == sentence; });
 }
@@ -44,27 +44,27 @@ QVector<TextRange> Candidates(const XmlElement &element, const Finding &finding)
 
 } // namespace
 
-QVector<Finding> FindingsIn(const ProgramReading &reading)
+QVector<Finding> FindingsIn(const ParsedProgram &parsed)
 {
-    const std::optional<QByteArray> contents = EncodeText(reading.text, reading.form);
+    const std::optional<QByteArray> contents = EncodeText(parsed.text, parsed.form);
     if (!contents)
         return {};
-    const QDomDocument &document = reading.program.document;
+    const QDomDocument &document = parsed.program.document;
     ClockTool::Findings findings = ClockTool::LintProgram(document, *contents, QString());
     if (const auto program = ClockProgram::InterpretProgram(document, QString()))
         ClockTool::LintAreas(*program, findings);
     return findings.ByLine();
 }
 
-int ElementOf(const ProgramReading &reading, const Finding &finding)
+int ElementOf(const ParsedProgram &parsed, const Finding &finding)
 {
     if (finding.place.line < 1)
         return -1;
     // The parser reports the line on which a tag ends.
-    const int begin = StartOfLine(reading.text, finding.place.line);
-    const int end = StartOfLine(reading.text, finding.place.line + 1);
-    for (int i = 0; i < reading.elements.size(); ++i) {
-        const XmlElement &element = reading.elements[i];
+    const int begin = StartOfLine(parsed.text, finding.place.line);
+    const int end = StartOfLine(parsed.text, finding.place.line + 1);
+    for (int i = 0; i < parsed.elements.size(); ++i) {
+        const XmlElement &element = parsed.elements[i];
         const bool isThere = element.tag.begin < end && element.tag.end > begin;
         if (isThere && (finding.place.element.isEmpty() || element.name == finding.place.element)
             && (finding.place.attribute.isEmpty() || element.Find(finding.place.attribute)
@@ -81,21 +81,21 @@ QString KeyOf(const Finding &finding, int clockType)
         return finding.place.attribute;
     const QString element =
         finding.place.element == QLatin1String("clock") ? QString() : finding.place.element;
-    const auto readings = ClockTool::ReadingsOf(clockType, element, finding.place.attribute);
-    return readings.isEmpty() ? QString() : Key(readings.last().target);
+    const auto settings = ClockTool::SettingsReadFrom(clockType, element, finding.place.attribute);
+    return settings.isEmpty() ? QString() : Key(settings.last().target);
 }
 
-std::optional<TextEdit> MendOf(const ProgramReading &reading, const Finding &finding)
+std::optional<TextEdit> MendOf(const ParsedProgram &parsed, const Finding &finding)
 {
-    const int element = ElementOf(reading, finding);
+    const int element = ElementOf(parsed, finding);
     if (finding.suggestion.isEmpty() || element < 0)
         return std::nullopt;
-    for (const TextRange range : Candidates(reading.elements[element], finding)) {
+    for (const TextRange range : Candidates(parsed.elements[element], finding)) {
         const TextEdit edit = Smallest(
-            Replacement(reading.text, range, EscapedValue(finding.suggestion, QLatin1Char('"'))));
-        QString text = reading.text;
+            Replacement(parsed.text, range, EscapedValue(finding.suggestion, QLatin1Char('"'))));
+        QString text = parsed.text;
         ApplyEdits(text, {edit});
-        if (!HasFinding(text, reading.form, finding.text))
+        if (!HasFinding(text, parsed.form, finding.text))
             return edit;
     }
     return std::nullopt;

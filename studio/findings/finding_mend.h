@@ -1,7 +1,7 @@
 // studio/findings: runs lint on the program's text, and makes the edits that fix its findings.
 #pragma once
 
-#include "text/program_reading.h"
+#include "text/parsed_program.h"
 
 #include "lint/finding.h"
 
@@ -10,15 +10,15 @@
 namespace ClockStudio {
 
 /// What lint finds in a program, without duplicates, in text order.
-QVector<ClockTool::Finding> FindingsIn(const ProgramReading &reading);
+QVector<ClockTool::Finding> FindingsIn(const ParsedProgram &parsed);
 
 /// The element that a finding is about; -1 if it is about the whole file.
-int ElementOf(const ProgramReading &reading, const ClockTool::Finding &finding);
+int ElementOf(const ParsedProgram &parsed, const ClockTool::Finding &finding);
 
 /// The key of the attribute that a finding is about; empty where there is none.
 QString KeyOf(const ClockTool::Finding &finding, int clockType);
 
 /// The edit that applies a finding's suggestion, if the finding then disappears.
-std::optional<TextEdit> MendOf(const ProgramReading &reading, const ClockTool::Finding &finding);
+std::optional<TextEdit> MendOf(const ParsedProgram &parsed, const ClockTool::Finding &finding);
 
 } // namespace ClockStudio

@@ -47,10 +47,10 @@ void FindingsPanel::Check()
 {
     m_delay.stop();
     m_fit.Drop();
-    const ProgramReading *const reading = m_editor.Document().Reading();
+    const ParsedProgram *const parsed = m_editor.Document().Parsed();
     const auto bytes = m_editor.Document().Bytes();
-    const bool hasClocks = reading && reading->AreaCount() > 0;
-    List(hasClocks ? FindingsIn(*reading) : QVector<ClockTool::Finding>());
+    const bool hasClocks = parsed && parsed->AreaCount() > 0;
+    List(hasClocks ? FindingsIn(*parsed) : QVector<ClockTool::Finding>());
     if (hasClocks && bytes)
         m_fit.Start(*bytes);
 }
@@ -74,8 +74,8 @@ void FindingsPanel::List(const QVector<ClockTool::Finding> &findings)
     for (const ClockTool::Finding &finding : qAsConst(m_findings))
         Add(finding);
     m_list->setVisible(!m_findings.isEmpty());
-    m_none->setText(m_editor.Document().Reading() ? tr("No findings.")
-                                                  : tr("The text is not a valid program."));
+    m_none->setText(m_editor.Document().Parsed() ? tr("No findings.")
+                                                 : tr("The text is not a valid program."));
     m_none->setVisible(m_findings.isEmpty());
     m_mend->setVisible(!m_findings.isEmpty());
     m_mend->setEnabled(false);
@@ -102,15 +102,15 @@ void FindingsPanel::Add(const ClockTool::Finding &finding)
 
 void FindingsPanel::UpdateMend()
 {
-    const ProgramReading *const reading = m_editor.Document().Reading();
+    const ParsedProgram *const parsed = m_editor.Document().Parsed();
     const int row = m_list->currentRow();
-    m_mend->setEnabled(reading && row >= 0 && MendOf(*reading, m_findings[row]).has_value());
+    m_mend->setEnabled(parsed && row >= 0 && MendOf(*parsed, m_findings[row]).has_value());
 }
 
 void FindingsPanel::Choose(int row)
 {
-    const ProgramReading *const reading = m_editor.Document().Reading();
-    if (row < 0 || row >= m_findings.size() || !reading)
+    const ParsedProgram *const parsed = m_editor.Document().Parsed();
+    if (row < 0 || row >= m_findings.size() || !parsed)
         return;
     const ClockTool::Finding finding = m_findings[row];
     UpdateMend();
@@ -126,11 +126,11 @@ void FindingsPanel::Choose(int row)
 
 void FindingsPanel::Mend()
 {
-    const ProgramReading *const reading = m_editor.Document().Reading();
+    const ParsedProgram *const parsed = m_editor.Document().Parsed();
     const int row = m_list->currentRow();
-    if (!reading || row < 0 || row >= m_findings.size())
+    if (!parsed || row < 0 || row >= m_findings.size())
         return;
-    if (const auto edit = MendOf(*reading, m_findings[row]))
+    if (const auto edit = MendOf(*parsed, m_findings[row]))
         m_editor.Document().Change({*edit}, tr("Fix"));
     Check();
 }

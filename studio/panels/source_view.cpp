@@ -129,11 +129,11 @@ void SourceView::contextMenuEvent(QContextMenuEvent *event)
 
 void SourceView::ChooseAtCursor()
 {
-    const ProgramReading *const reading = m_editor.Document().Reading();
-    if (m_isOwnEdit || !reading || !hasFocus())
+    const ParsedProgram *const parsed = m_editor.Document().Parsed();
+    if (m_isOwnEdit || !parsed || !hasFocus())
         return;
     const int area =
-        reading->AreaAt(FromEditor(m_editor.Document().Text(), textCursor().position()));
+        parsed->AreaAt(FromEditor(m_editor.Document().Text(), textCursor().position()));
     if (area >= 0 && m_editor.Chosen() != QVector<int> {area})
         m_editor.Choose({area});
 }
@@ -149,11 +149,11 @@ void SourceView::MarkChosen()
                            QTextCursor::KeepAnchor);
         return cursor;
     };
-    if (const ProgramReading *const reading = m_editor.Document().Reading()) {
+    if (const ParsedProgram *const parsed = m_editor.Document().Parsed()) {
         QColor shade = palette().color(QPalette::Highlight);
         shade.setAlpha(36);
         for (const int area : m_editor.Chosen()) {
-            const TextRange range = reading->elements[reading->AreaElement(area)].whole;
+            const TextRange range = parsed->elements[parsed->AreaElement(area)].whole;
             marks.append(Marked(cursorOver(range), shade, false));
         }
         if (!marks.isEmpty() && !hasFocus() && !m_isOwnEdit) {

@@ -238,7 +238,7 @@ void PropertyPanel::Refresh()
 {
     m_isShowing = true;
     const QVector<HClockNode *> clocks = ChosenClocks();
-    const bool isEditable = m_editor.Document().Reading();
+    const bool isEditable = m_editor.Document().Parsed();
     widget()->setEnabled(isEditable);
     m_wall->setVisible(m_editor.Chosen().isEmpty());
     m_clock->setVisible(!clocks.isEmpty());
@@ -305,57 +305,57 @@ void PropertyPanel::ShowClocks(const QVector<HClockNode *> &clocks)
 /// Changes all selected clocks in one undo step, last to first, so that an edit does not shift the
 /// positions of the next.
 void PropertyPanel::ChangeEach(const QString &label, const QString &mergeKey,
-                               const std::function<TextEdits(const ProgramReading &, int)> &edits)
+                               const std::function<TextEdits(const ParsedProgram &, int)> &edits)
 {
-    const ProgramReading *const reading = m_editor.Document().Reading();
-    if (!reading)
+    const ParsedProgram *const parsed = m_editor.Document().Parsed();
+    if (!parsed)
         return;
     QVector<int> areas = m_editor.Chosen();
     std::sort(areas.begin(), areas.end(), std::greater<int>());
     TextEdits all;
     for (const int area : qAsConst(areas))
-        all += edits(*reading, area);
+        all += edits(*parsed, area);
     m_editor.Document().Change(all, label, mergeKey);
 }
 
 void PropertyPanel::SetValues(const QVector<StoredValue> &values, const QString &label,
                               const QString &mergeKey)
 {
-    ChangeEach(label, mergeKey, [this, &values](const ProgramReading &reading, int area) {
+    ChangeEach(label, mergeKey, [this, &values](const ParsedProgram &parsed, int area) {
         HClockNode *const clock = m_editor.Wall().Clock(area);
         QVector<StoredValue> used;
         for (const StoredValue &value : values) {
             if (clock && IsUsedBy(RowOf(value.attribute).clocks, clock->ClockType()))
                 used.append(value);
         }
-        return ValueEdits(reading, area, used);
+        return ValueEdits(parsed, area, used);
     });
 }
 
 void PropertyPanel::SetKind(int kind)
 {
-    ChangeEach(tr("Kind of clock"), {}, [kind](const ProgramReading &reading, int area) {
-        return KindEdits(reading, area, kind);
+    ChangeEach(tr("Kind of clock"), {}, [kind](const ParsedProgram &parsed, int area) {
+        return KindEdits(parsed, area, kind);
     });
 }
 
 void PropertyPanel::Reset(Attribute attribute)
 {
-    ChangeEach(tr("Reset"), {}, [attribute](const ProgramReading &reading, int area) {
-        return ResetEdits(reading, area, attribute);
+    ChangeEach(tr("Reset"), {}, [attribute](const ParsedProgram &parsed, int area) {
+        return ResetEdits(parsed, area, attribute);
     });
 }
 
 void PropertyPanel::FitSizes()
 {
-    ChangeEach(tr("Fit sizes"), {}, [this](const ProgramReading &reading, int area) {
+    ChangeEach(tr("Fit sizes"), {}, [this](const ParsedProgram &parsed, int area) {
         HClockNode *const clock = m_editor.Wall().Clock(area);
-        const QRect geometry = reading.Geometry(area);
+        const QRect geometry = parsed.Geometry(area);
         const QRect visible =
             (geometry & QRect(QPoint(), m_editor.Wall().Size())).translated(-geometry.topLeft());
         if (!clock || visible.isEmpty())
             return TextEdits();
-        return ValueEdits(reading, area, FittingSizes(*clock, visible));
+        return ValueEdits(parsed, area, FittingSizes(*clock, visible));
     });
 }
 

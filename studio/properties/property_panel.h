@@ -55,7 +55,7 @@ private:
     Section *MakeGroup(const PropertyGroup &group);
     ValueEditor *MakeEditor(Lw::HNodeClock::Attribute attribute);
     void ChangeEach(const QString &label, const QString &mergeKey,
-                    const std::function<TextEdits(const ProgramReading &, int)> &edits);
+                    const std::function<TextEdits(const ParsedProgram &, int)> &edits);
     void SetKind(int kind);
     void GivePlace();
     void Reset(Lw::HNodeClock::Attribute attribute);

@@ -12,23 +12,23 @@ namespace {
 
 constexpr int kFirstId = 1000; // the first of the plugin's random Ids
 
-std::optional<ProgramReading> ReadFragment(const QString &areas)
+std::optional<ParsedProgram> ReadFragment(const QString &areas)
 {
     const QString whole =
         QStringLiteral("<program width=\"1\" height=\"1\">%1</program>").arg(areas);
     auto read = ReadProgramText(whole, TextForm());
-    if (auto *const reading = std::get_if<ProgramReading>(&read))
-        return *reading;
+    if (auto *const parsed = std::get_if<ParsedProgram>(&read))
+        return *parsed;
     return std::nullopt;
 }
 
 /// The "attribute" children of a clock that give its identity.
-QVector<int> IdElements(const ProgramReading &reading, int area)
+QVector<int> IdElements(const ParsedProgram &parsed, int area)
 {
     QVector<int> found;
-    const int clock = reading.ClockElement(area);
-    for (const int child : ChildrenNamed(reading.elements, clock, ClockProgram::kAttributeTag)) {
-        if (reading.elements[child].Value(QStringLiteral("key"))
+    const int clock = parsed.ClockElement(area);
+    for (const int child : ChildrenNamed(parsed.elements, clock, ClockProgram::kAttributeTag)) {
+        if (parsed.elements[child].Value(QStringLiteral("key"))
             == QLatin1String(ClockProgram::kIdKey))
             found.append(child);
     }
@@ -47,46 +47,46 @@ int FreeId(const QSet<int> &taken)
 
 QStringList AreasInText(const QString &text)
 {
-    std::optional<ProgramReading> reading = ReadFragment(text.trimmed());
-    if (!reading) {
+    std::optional<ParsedProgram> parsed = ReadFragment(text.trimmed());
+    if (!parsed) {
         auto whole = ReadProgramText(text.trimmed(), TextForm());
-        if (auto *const program = std::get_if<ProgramReading>(&whole))
-            reading = *program;
+        if (auto *const program = std::get_if<ParsedProgram>(&whole))
+            parsed = *program;
     }
     QStringList areas;
-    for (int area = 0; reading && area < reading->AreaCount(); ++area)
-        areas.append(PortableAreaText(*reading, area));
+    for (int area = 0; parsed && area < parsed->AreaCount(); ++area)
+        areas.append(PortableAreaText(*parsed, area));
     return areas;
 }
 
 QString AreaForProgram(const QString &areaText, QPoint offset, QSet<int> &takenIds)
 {
-    const std::optional<ProgramReading> reading = ReadFragment(areaText);
-    if (!reading || reading->AreaCount() != 1)
+    const std::optional<ParsedProgram> parsed = ReadFragment(areaText);
+    if (!parsed || parsed->AreaCount() != 1)
         return areaText;
-    const QRect moved = reading->Geometry(0).translated(offset);
-    TextEdits edits = GeometryEdits(*reading, 0, moved);
-    const QVector<int> ids = IdElements(*reading, 0);
+    const QRect moved = parsed->Geometry(0).translated(offset);
+    TextEdits edits = GeometryEdits(*parsed, 0, moved);
+    const QVector<int> ids = IdElements(*parsed, 0);
     if (!ids.isEmpty()) {
         const int id = FreeId(takenIds);
         takenIds.insert(id);
         for (const int element : ids)
             edits.append(
-                SetAttributeEdit(*reading, element, QStringLiteral("value"), QString::number(id)));
+                SetAttributeEdit(*parsed, element, QStringLiteral("value"), QString::number(id)));
     }
-    QString text = reading->text;
-    const int end = text.size() - reading->elements[reading->AreaElement(0)].whole.end;
-    const int begin = reading->elements[reading->AreaElement(0)].whole.begin;
+    QString text = parsed->text;
+    const int end = text.size() - parsed->elements[parsed->AreaElement(0)].whole.end;
+    const int begin = parsed->elements[parsed->AreaElement(0)].whole.begin;
     ApplyEdits(text, InSequence(edits));
     return text.mid(begin, text.size() - end - begin);
 }
 
-QSet<int> GivenIds(const ProgramReading &reading)
+QSet<int> GivenIds(const ParsedProgram &parsed)
 {
     QSet<int> ids;
-    for (int area = 0; area < reading.AreaCount(); ++area) {
-        for (const int element : IdElements(reading, area))
-            ids.insert(reading.elements[element].Value(QStringLiteral("value")).toInt());
+    for (int area = 0; area < parsed.AreaCount(); ++area) {
+        for (const int element : IdElements(parsed, area))
+            ids.insert(parsed.elements[element].Value(QStringLiteral("value")).toInt());
     }
     return ids;
 }

@@ -1,7 +1,7 @@
 // studio/text: area elements as text, for copy, paste and duplicate.
 #pragma once
 
-#include "program_reading.h"
+#include "parsed_program.h"
 
 #include <QPoint>
 #include <QStringList>
@@ -17,6 +17,6 @@ QStringList AreasInText(const QString &text);
 QString AreaForProgram(const QString &areaText, QPoint offset, QSet<int> &takenIds);
 
 /// The Ids that a program's text sets.
-QSet<int> GivenIds(const ProgramReading &reading);
+QSet<int> GivenIds(const ParsedProgram &parsed);
 
 } // namespace ClockStudio

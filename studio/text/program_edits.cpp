@@ -29,18 +29,18 @@ std::optional<QString> IndentAt(const QString &text, int position)
     return text.mid(begin, position - begin);
 }
 
-QString IndentOf(const ProgramReading &reading, int element)
+QString IndentOf(const ParsedProgram &parsed, int element)
 {
-    return IndentAt(reading.text, reading.elements[element].whole.begin).value_or(QString());
+    return IndentAt(parsed.text, parsed.elements[element].whole.begin).value_or(QString());
 }
 
 /// The indentation for a new child; nullopt if the program is on one line.
-std::optional<QString> ChildIndent(const ProgramReading &reading, int parent)
+std::optional<QString> ChildIndent(const ParsedProgram &parsed, int parent)
 {
-    const XmlElement &element = reading.elements[parent];
+    const XmlElement &element = parsed.elements[parent];
     if (!element.children.isEmpty())
-        return IndentAt(reading.text, reading.elements[element.children.last()].whole.begin);
-    if (const auto own = IndentAt(reading.text, element.whole.begin))
+        return IndentAt(parsed.text, parsed.elements[element.children.last()].whole.begin);
+    if (const auto own = IndentAt(parsed.text, element.whole.begin))
         return *own + kStep;
     return std::nullopt;
 }
@@ -67,13 +67,13 @@ QString LineEndOf(const QString &text)
     return isPair ? QStringLiteral("\r\n") : QString(*end);
 }
 
-TextEdit SetAttributeEdit(const ProgramReading &reading, int element, const QString &name,
+TextEdit SetAttributeEdit(const ParsedProgram &parsed, int element, const QString &name,
                           const QString &value)
 {
-    const XmlElement &owner = reading.elements[element];
+    const XmlElement &owner = parsed.elements[element];
     if (const XmlAttribute *const attribute = owner.Find(name)) {
-        const QChar quote = reading.text[attribute->value.begin - 1];
-        return Smallest(Replacement(reading.text, attribute->value, EscapedValue(value, quote)));
+        const QChar quote = parsed.text[attribute->value.begin - 1];
+        return Smallest(Replacement(parsed.text, attribute->value, EscapedValue(value, quote)));
     }
     const int place = owner.attributes.isEmpty() ? owner.tag.begin + 1 + owner.name.size()
                                                  : owner.attributes.last().whole.end;
@@ -81,54 +81,54 @@ TextEdit SetAttributeEdit(const ProgramReading &reading, int element, const QStr
             QStringLiteral(" %1=\"%2\"").arg(name, EscapedValue(value, QLatin1Char('"')))};
 }
 
-TextEdit RemoveAttributeEdit(const ProgramReading &reading, int element, const QString &name)
+TextEdit RemoveAttributeEdit(const ParsedProgram &parsed, int element, const QString &name)
 {
-    const XmlAttribute *const attribute = reading.elements[element].Find(name);
+    const XmlAttribute *const attribute = parsed.elements[element].Find(name);
     if (!attribute)
         return {};
     TextRange range = attribute->whole;
-    while (IsBlank(reading.text[range.begin - 1]) || IsLineEnd(reading.text[range.begin - 1]))
+    while (IsBlank(parsed.text[range.begin - 1]) || IsLineEnd(parsed.text[range.begin - 1]))
         --range.begin;
-    return Replacement(reading.text, range, QString());
+    return Replacement(parsed.text, range, QString());
 }
 
-TextEdit AppendChildEdit(const ProgramReading &reading, int parent, const QString &xml)
+TextEdit AppendChildEdit(const ParsedProgram &parsed, int parent, const QString &xml)
 {
-    const XmlElement &element = reading.elements[parent];
-    const QString lineEnd = LineEndOf(reading.text);
-    const std::optional<QString> indent = ChildIndent(reading, parent);
+    const XmlElement &element = parsed.elements[parent];
+    const QString lineEnd = LineEndOf(parsed.text);
+    const std::optional<QString> indent = ChildIndent(parsed, parent);
     const QString child =
         indent ? lineEnd + *indent + Indented(xml, lineEnd, *indent) : Indented(xml, lineEnd, {});
-    const QString after = indent ? lineEnd + IndentOf(reading, parent) : QString();
+    const QString after = indent ? lineEnd + IndentOf(parsed, parent) : QString();
     if (element.closed) {
         const TextRange end {element.tag.end - 2, element.tag.end};
-        return Replacement(reading.text, end,
+        return Replacement(parsed.text, end,
                            QStringLiteral(">") + child + after + ClosingTag(element));
     }
     if (!element.children.isEmpty())
-        return {reading.elements[element.children.last()].whole.end, QString(), child};
-    const bool isEmpty = reading.text[element.tag.end] == QLatin1Char('<');
+        return {parsed.elements[element.children.last()].whole.end, QString(), child};
+    const bool isEmpty = parsed.text[element.tag.end] == QLatin1Char('<');
     return {element.tag.end, QString(), isEmpty ? child + after : child};
 }
 
-TextEdit RemoveElementEdit(const ProgramReading &reading, int element)
+TextEdit RemoveElementEdit(const ParsedProgram &parsed, int element)
 {
-    TextRange range = reading.elements[element].whole;
+    TextRange range = parsed.elements[element].whole;
     int lineEnd = range.end;
-    while (lineEnd < reading.text.size() && IsBlank(reading.text[lineEnd]))
+    while (lineEnd < parsed.text.size() && IsBlank(parsed.text[lineEnd]))
         ++lineEnd;
-    const std::optional<QString> indent = IndentAt(reading.text, range.begin);
-    const bool hasLine = indent && range.begin > indent->size() && lineEnd < reading.text.size()
-        && IsLineEnd(reading.text[lineEnd]);
+    const std::optional<QString> indent = IndentAt(parsed.text, range.begin);
+    const bool hasLine = indent && range.begin > indent->size() && lineEnd < parsed.text.size()
+        && IsLineEnd(parsed.text[lineEnd]);
     if (hasLine) {
         range = {range.begin - indent->size() - 1, lineEnd};
-        if (range.begin > 0 && reading.text.midRef(range.begin - 1, 2) == QLatin1String("\r\n"))
+        if (range.begin > 0 && parsed.text.midRef(range.begin - 1, 2) == QLatin1String("\r\n"))
             --range.begin;
     }
-    return Replacement(reading.text, range, QString());
+    return Replacement(parsed.text, range, QString());
 }
 
-TextEdits GeometryEdits(const ProgramReading &reading, int area, const QRect &geometry)
+TextEdits GeometryEdits(const ParsedProgram &parsed, int area, const QRect &geometry)
 {
     struct Side
     {
@@ -136,7 +136,7 @@ TextEdits GeometryEdits(const ProgramReading &reading, int area, const QRect &ge
         int value;
         int before;
     };
-    const QRect old = reading.Geometry(area);
+    const QRect old = parsed.Geometry(area);
     const Side sides[] = {{"x", geometry.x(), old.x()},
                           {"y", geometry.y(), old.y()},
                           {"width", geometry.width(), old.width()},
@@ -144,28 +144,28 @@ TextEdits GeometryEdits(const ProgramReading &reading, int area, const QRect &ge
     TextEdits edits;
     for (const Side &side : sides) {
         if (side.value != side.before)
-            edits.append(SetAttributeEdit(reading, reading.AreaElement(area),
+            edits.append(SetAttributeEdit(parsed, parsed.AreaElement(area),
                                           QLatin1String(side.name), QString::number(side.value)));
     }
     return edits;
 }
 
-TextEdits ScreenSizeEdits(const ProgramReading &reading, QSize size)
+TextEdits ScreenSizeEdits(const ParsedProgram &parsed, QSize size)
 {
     TextEdits edits;
-    if (size.width() != reading.program.size.width())
+    if (size.width() != parsed.program.size.width())
         edits.append(
-            SetAttributeEdit(reading, 0, QStringLiteral("width"), QString::number(size.width())));
-    if (size.height() != reading.program.size.height())
+            SetAttributeEdit(parsed, 0, QStringLiteral("width"), QString::number(size.width())));
+    if (size.height() != parsed.program.size.height())
         edits.append(
-            SetAttributeEdit(reading, 0, QStringLiteral("height"), QString::number(size.height())));
+            SetAttributeEdit(parsed, 0, QStringLiteral("height"), QString::number(size.height())));
     return edits;
 }
 
-QString PortableAreaText(const ProgramReading &reading, int area)
+QString PortableAreaText(const ParsedProgram &parsed, int area)
 {
-    const QString indent = IndentOf(reading, reading.AreaElement(area));
-    QString text = reading.AreaText(area);
+    const QString indent = IndentOf(parsed, parsed.AreaElement(area));
+    QString text = parsed.AreaText(area);
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     return text.replace(QLatin1Char('\n') + indent, QLatin1String("\n"));

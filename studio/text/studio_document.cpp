@@ -57,7 +57,7 @@ StudioDocument::StudioDocument(QObject *parent) : QObject(parent)
 {
     // Until a valid program is loaded, the wall is empty.
     auto empty = ReadProgramText(QStringLiteral("<program width=\"256\" height=\"128\"/>"), m_form);
-    m_reading = std::get<ProgramReading>(empty);
+    m_parsed = std::get<ParsedProgram>(empty);
 }
 
 bool StudioDocument::Load(const QByteArray &bytes)
@@ -98,8 +98,8 @@ void StudioDocument::Perform(const TextEdits &edits)
 void StudioDocument::ReadText()
 {
     auto read = ReadProgramText(m_text, FormAfterEdits(m_text, m_form));
-    if (auto *const reading = std::get_if<ProgramReading>(&read)) {
-        m_reading = *reading;
+    if (auto *const parsed = std::get_if<ParsedProgram>(&read)) {
+        m_parsed = *parsed;
         m_fault.reset();
     } else {
         m_fault = std::get<TextFault>(read);

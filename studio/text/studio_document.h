@@ -1,7 +1,7 @@
 // studio/text: a program's text, the studio's only model. Every change is an undoable edit of it.
 #pragma once
 
-#include "program_reading.h"
+#include "parsed_program.h"
 
 #include <QObject>
 #include <QUndoStack>
@@ -32,15 +32,15 @@ public:
     void EndMerging() { ++m_mergeSession; }
 
     /// The parsed text; null while it is not a valid program.
-    const ProgramReading *Reading() const { return m_fault ? nullptr : &m_reading; }
+    const ParsedProgram *Parsed() const { return m_fault ? nullptr : &m_parsed; }
     /// The last valid parse.
-    const ProgramReading &LastReading() const { return m_reading; }
+    const ParsedProgram &LastParsed() const { return m_parsed; }
     const std::optional<TextFault> &Fault() const { return m_fault; }
 
 Q_SIGNALS:
     void Edited(const ClockStudio::TextEdits &edits); ///< these edits have been applied
     void Loaded();                                    ///< the whole text was replaced
-    void Read(); ///< after either: Reading() and Fault() are up to date
+    void Read(); ///< after either: Parsed() and Fault() are up to date
 
 private:
     friend class TextCommand;
@@ -49,7 +49,7 @@ private:
 
     QString m_text;
     TextForm m_form;
-    ProgramReading m_reading;
+    ParsedProgram m_parsed;
     std::optional<TextFault> m_fault;
     QUndoStack m_history;
     int m_mergeSession = 0;

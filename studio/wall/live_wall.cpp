@@ -17,10 +17,10 @@ constexpr int kMakingSpan = 40;
 // Above the plugin's random Ids and those that programs usually set.
 constexpr int kFirstIdentity = 100000;
 
-QString MadeFrom(const ProgramReading &reading, int area)
+QString MadeFrom(const ParsedProgram &parsed, int area)
 {
-    const QSize size = reading.Geometry(area).size();
-    return QStringLiteral("%1x%2 ").arg(size.width()).arg(size.height()) + reading.ClockText(area);
+    const QSize size = parsed.Geometry(area).size();
+    return QStringLiteral("%1x%2 ").arg(size.width()).arg(size.height()) + parsed.ClockText(area);
 }
 
 } // namespace
@@ -46,32 +46,32 @@ LiveWall::LiveWall(QObject *parent) : QObject(parent)
 
 LiveWall::~LiveWall() = default;
 
-void LiveWall::Show(const ProgramReading &reading)
+void LiveWall::Show(const ParsedProgram &parsed)
 {
-    m_program = reading.program;
-    std::vector<Slot> taken = TakeOver(reading);
+    m_program = parsed.program;
+    std::vector<Slot> taken = TakeOver(parsed);
     for (Slot &slot : m_slots)
         Release(slot);
     m_slots = std::move(taken);
     m_waiting = static_cast<int>(std::count_if(m_slots.cbegin(), m_slots.cend(),
                                                [](const Slot &slot) { return slot.Waits(); }));
-    if (m_screen.size() != reading.program.size)
-        m_screen = ClockStage::BlackScreen(reading.program.size);
+    if (m_screen.size() != parsed.program.size)
+        m_screen = ClockStage::BlackScreen(parsed.program.size);
     MakeWaiting();
     Compose(m_screen.rect());
 }
 
 /// The slots for a program. An unchanged clock keeps playing, even if it was moved; a changed one
 /// gets the slot of the clock it replaces, unless that one still plays elsewhere.
-std::vector<LiveWall::Slot> LiveWall::TakeOver(const ProgramReading &reading)
+std::vector<LiveWall::Slot> LiveWall::TakeOver(const ParsedProgram &parsed)
 {
-    std::vector<Slot> next(static_cast<std::size_t>(reading.AreaCount()));
+    std::vector<Slot> next(static_cast<std::size_t>(parsed.AreaCount()));
     QMultiHash<QString, int> wanted;
-    for (int area = reading.AreaCount() - 1; area >= 0; --area) {
+    for (int area = parsed.AreaCount() - 1; area >= 0; --area) {
         Slot &slot = next[static_cast<std::size_t>(area)];
-        slot.text = MadeFrom(reading, area);
+        slot.text = MadeFrom(parsed, area);
         slot.area = area;
-        slot.geometry = reading.Geometry(area);
+        slot.geometry = parsed.Geometry(area);
         wanted.insert(slot.text, area);
     }
     const auto move = [&next](Slot &from, int area) {
@@ -90,7 +90,7 @@ std::vector<LiveWall::Slot> LiveWall::TakeOver(const ProgramReading &reading)
         }
     }
     for (Slot &slot : m_slots) {
-        if (slot.identity != 0 && slot.area < reading.AreaCount()
+        if (slot.identity != 0 && slot.area < parsed.AreaCount()
             && next[static_cast<std::size_t>(slot.area)].identity == 0)
             move(slot, slot.area);
     }

@@ -2,7 +2,7 @@
 // recreated.
 #pragma once
 
-#include "text/program_reading.h"
+#include "text/parsed_program.h"
 
 #include "area.h"
 #include "screen_composer.h"
@@ -31,7 +31,7 @@ public:
 
     /// Shows a program. Clocks are created in short batches between events; until then their areas
     /// show the previous picture.
-    void Show(const ProgramReading &reading);
+    void Show(const ParsedProgram &parsed);
     bool IsComplete() const { return m_waiting == 0; }
 
     QSize Size() const { return m_screen.size(); }
@@ -69,7 +69,7 @@ private:
         bool Waits() const { return text != made; }
     };
 
-    std::vector<Slot> TakeOver(const ProgramReading &reading);
+    std::vector<Slot> TakeOver(const ParsedProgram &parsed);
     void MakeWaiting();
     void Make(Slot &slot);
     int FreeIdentity();

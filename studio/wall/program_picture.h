@@ -1,7 +1,7 @@
 // studio/wall: draws a whole program as one picture, for the gallery.
 #pragma once
 
-#include "text/program_reading.h"
+#include "text/parsed_program.h"
 
 #include <QImage>
 

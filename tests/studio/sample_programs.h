@@ -1,7 +1,7 @@
 // The sample programs, and reading them, for the tests of the studio.
 #pragma once
 
-#include "text/program_reading.h"
+#include "text/parsed_program.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,10 +23,10 @@ inline QStringList SamplePaths()
 }
 
 /// A text that must be a program.
-inline ClockStudio::ProgramReading MustRead(const QString &text)
+inline ClockStudio::ParsedProgram MustRead(const QString &text)
 {
     auto read = ClockStudio::ReadProgramText(text, ClockStudio::TextForm());
     if (const auto *fault = std::get_if<ClockStudio::TextFault>(&read))
         qFatal("line %d: %s", fault->line, qPrintable(fault->reason));
-    return std::get<ClockStudio::ProgramReading>(read);
+    return std::get<ClockStudio::ParsedProgram>(read);
 }

@@ -22,10 +22,10 @@ QString Edited(QString text, const TextEdits &edits)
     return text;
 }
 
-int ElementNamed(const ProgramReading &reading, const QString &name)
+int ElementNamed(const ParsedProgram &parsed, const QString &name)
 {
-    for (int i = 0; i < reading.elements.size(); ++i) {
-        if (reading.elements[i].name == name)
+    for (int i = 0; i < parsed.elements.size(); ++i) {
+        if (parsed.elements[i].name == name)
             return i;
     }
     return -1;
@@ -56,38 +56,37 @@ private slots:
 
 void TestProgramEdits::AttributeIsReplaced()
 {
-    const ProgramReading reading = MustRead(kProgram);
-    const TextEdit edit = SetAttributeEdit(reading, reading.ClockElement(0), "type", "digital");
+    const ParsedProgram parsed = MustRead(kProgram);
+    const TextEdit edit = SetAttributeEdit(parsed, parsed.ClockElement(0), "type", "digital");
     QCOMPARE(edit.removed, QString());
     QCOMPARE(edit.inserted, QString("git"));
-    QCOMPARE(Edited(reading.text, {edit}), QString(kProgram).replace("dial", "digital"));
+    QCOMPARE(Edited(parsed.text, {edit}), QString(kProgram).replace("dial", "digital"));
 }
 
 void TestProgramEdits::AttributeIsAdded()
 {
-    const ProgramReading reading = MustRead(kProgram);
-    const int date = ElementNamed(reading, "date");
-    QCOMPARE(Edited(reading.text, {SetAttributeEdit(reading, date, "color", "a\"b")}),
+    const ParsedProgram parsed = MustRead(kProgram);
+    const int date = ElementNamed(parsed, "date");
+    QCOMPARE(Edited(parsed.text, {SetAttributeEdit(parsed, date, "color", "a\"b")}),
              QString(kProgram).replace("\"false\"", "\"false\" color=\"a&quot;b\""));
 }
 
 void TestProgramEdits::AttributeIsRemoved()
 {
-    const ProgramReading reading = MustRead(kProgram);
-    const int date = ElementNamed(reading, "date");
-    QCOMPARE(Edited(reading.text, {RemoveAttributeEdit(reading, date, "display")}),
+    const ParsedProgram parsed = MustRead(kProgram);
+    const int date = ElementNamed(parsed, "date");
+    QCOMPARE(Edited(parsed.text, {RemoveAttributeEdit(parsed, date, "display")}),
              QString(kProgram).replace(" display=\"false\"", ""));
-    QCOMPARE(Edited(reading.text, {RemoveAttributeEdit(reading, date, "color")}),
-             QString(kProgram));
+    QCOMPARE(Edited(parsed.text, {RemoveAttributeEdit(parsed, date, "color")}), QString(kProgram));
 }
 
 void TestProgramEdits::Geometry()
 {
-    const ProgramReading reading = MustRead(kProgram);
-    QCOMPARE(GeometryEdits(reading, 0, QRect(1, 2, 3, 4)).size(), 0);
-    QCOMPARE(Edited(reading.text, GeometryEdits(reading, 0, QRect(1, 20, 30, 4))),
+    const ParsedProgram parsed = MustRead(kProgram);
+    QCOMPARE(GeometryEdits(parsed, 0, QRect(1, 2, 3, 4)).size(), 0);
+    QCOMPARE(Edited(parsed.text, GeometryEdits(parsed, 0, QRect(1, 20, 30, 4))),
              QString(kProgram).replace("y='2' width=\"3\"", "y='20' width=\"30\""));
-    QCOMPARE(Edited(reading.text, ScreenSizeEdits(reading, QSize(128, 32))),
+    QCOMPARE(Edited(parsed.text, ScreenSizeEdits(parsed, QSize(128, 32))),
              QString(kProgram).replace("\"64\"", "\"128\""));
 }
 
@@ -112,18 +111,18 @@ void TestProgramEdits::Child()
 {
     QFETCH(QString, before);
     QFETCH(QString, after);
-    const ProgramReading reading = MustRead(before);
-    const TextEdit edit = AppendChildEdit(reading, reading.ClockElement(0), "<n>\n  <m/>\n</n>");
+    const ParsedProgram parsed = MustRead(before);
+    const TextEdit edit = AppendChildEdit(parsed, parsed.ClockElement(0), "<n>\n  <m/>\n</n>");
     QCOMPARE(Edited(before, {edit}), after);
 }
 
 void TestProgramEdits::ElementIsRemoved()
 {
-    const ProgramReading reading = MustRead(kProgram);
-    QCOMPARE(Edited(kProgram, {RemoveElementEdit(reading, ElementNamed(reading, "date"))}),
+    const ParsedProgram parsed = MustRead(kProgram);
+    QCOMPARE(Edited(kProgram, {RemoveElementEdit(parsed, ElementNamed(parsed, "date"))}),
              QString(kProgram).replace("      <date display=\"false\"/>\n", ""));
     const QString beside = QString(kProgram).replace("<date", "<week/><date");
-    const ProgramReading other = MustRead(beside);
+    const ParsedProgram other = MustRead(beside);
     QCOMPARE(Edited(beside, {RemoveElementEdit(other, ElementNamed(other, "week"))}),
              QString(kProgram));
 }
@@ -132,14 +131,14 @@ void TestProgramEdits::LineEndsStay()
 {
     for (const QString &lineEnd : {QString("\r\n"), QString("\r")}) {
         const QString text = QString(kProgram).replace("\n", lineEnd);
-        const ProgramReading reading = MustRead(text);
+        const ParsedProgram parsed = MustRead(text);
         const QString added =
-            Edited(text, {AppendChildEdit(reading, reading.ClockElement(0), "<n>\n</n>")});
+            Edited(text, {AppendChildEdit(parsed, parsed.ClockElement(0), "<n>\n</n>")});
         QCOMPARE(added.count(lineEnd), text.count(lineEnd) + 2);
         if (lineEnd.size() == 2)
             QCOMPARE(added.count("\n"), added.count("\r\n"));
-        const int date = ElementNamed(reading, "date");
-        QCOMPARE(Edited(text, {RemoveElementEdit(reading, date)}),
+        const int date = ElementNamed(parsed, "date");
+        QCOMPARE(Edited(text, {RemoveElementEdit(parsed, date)}),
                  text.left(text.indexOf("      <date")) + text.mid(text.indexOf("    </clock>")));
     }
 }
@@ -180,8 +179,8 @@ void TestProgramEdits::EditsAreSmallest()
 
 void TestProgramEdits::AreasOfTexts()
 {
-    const ProgramReading reading = MustRead(kProgram);
-    const QString area = PortableAreaText(reading, 0);
+    const ParsedProgram parsed = MustRead(kProgram);
+    const QString area = PortableAreaText(parsed, 0);
     QVERIFY(area.startsWith("<area x=\"1\"") && area.endsWith("\n</area>"));
     QCOMPARE(AreasInText(area), QStringList {area});
     QCOMPARE(AreasInText(area + area), QStringList({area, area}));

@@ -155,7 +155,7 @@ struct PanelUnderTest
     }
     QString InText(Attribute attribute) const
     {
-        return ClockOf(studio.document.LastReading(), 0)->GetAttribute(Key(attribute));
+        return ClockOf(studio.document.LastParsed(), 0)->GetAttribute(Key(attribute));
     }
 
     /// What is wrong after an attribute was set to a value; then all is as it was before.

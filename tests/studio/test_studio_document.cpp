@@ -55,19 +55,19 @@ TextEdit TypedEdit(const QString &text, QRandomGenerator &random)
 }
 
 /// What the wall and the panel do: geometry, attributes, new and removed elements.
-TextEdits StructuredEdits(const ProgramReading &reading, QRandomGenerator &random)
+TextEdits StructuredEdits(const ParsedProgram &parsed, QRandomGenerator &random)
 {
-    const int element = random.bounded(reading.elements.size());
-    switch (reading.AreaCount() > 0 ? random.bounded(4) : 1) {
+    const int element = random.bounded(parsed.elements.size());
+    switch (parsed.AreaCount() > 0 ? random.bounded(4) : 1) {
     case 0:
-        return InSequence(GeometryEdits(reading, random.bounded(reading.AreaCount()),
+        return InSequence(GeometryEdits(parsed, random.bounded(parsed.AreaCount()),
                                         QRect(random.bounded(99), random.bounded(99), 8, 9)));
     case 1:
-        return {SetAttributeEdit(reading, element, "color", RandomText(random))};
+        return {SetAttributeEdit(parsed, element, "color", RandomText(random))};
     case 2:
-        return {RemoveElementEdit(reading, reading.AreaElement(0))};
+        return {RemoveElementEdit(parsed, parsed.AreaElement(0))};
     default:
-        return {AppendChildEdit(reading, reading.ClockElement(0), "<date format=\"1\"/>")};
+        return {AppendChildEdit(parsed, parsed.ClockElement(0), "<date format=\"1\"/>")};
     }
 }
 
@@ -107,14 +107,14 @@ void TestStudioDocument::RandomEdits()
     QVERIFY(document.Load(first));
     QStringList texts {document.Text()};
     while (texts.size() <= kEdits) {
-        const bool isTyped = !document.Reading() || random.bounded(10) == 0;
-        if (!document.Reading() && random.bounded(2) == 0 && document.History().canUndo()) {
+        const bool isTyped = !document.Parsed() || random.bounded(10) == 0;
+        if (!document.Parsed() && random.bounded(2) == 0 && document.History().canUndo()) {
             document.History().undo(); // people take back what breaks the text
             texts.removeLast();
             continue;
         }
         const TextEdits edits = isTyped ? TextEdits {TypedEdit(document.Text(), random)}
-                                        : StructuredEdits(*document.Reading(), random);
+                                        : StructuredEdits(*document.Parsed(), random);
         const int steps = document.History().index();
         document.Change(edits, "edit");
         if (document.History().index() > steps)
@@ -140,7 +140,7 @@ void TestStudioDocument::OpenAndSave()
             const QByteArray bytes = SampleIn(form, path);
             StudioDocument document;
             QVERIFY(document.Load(bytes));
-            QVERIFY2(document.Reading(), qPrintable(path + ": " + form.name));
+            QVERIFY2(document.Parsed(), qPrintable(path + ": " + form.name));
             QVERIFY(document.Bytes() == bytes);
         }
     }
@@ -151,10 +151,10 @@ void TestStudioDocument::MergesOneDrag()
     StudioDocument document;
     QVERIFY(document.Load("<program width=\"8\" height=\"8\"/>"));
     for (const int width : {9, 10, 11})
-        document.Change(ScreenSizeEdits(*document.Reading(), {width, 8}), "width", "width");
+        document.Change(ScreenSizeEdits(*document.Parsed(), {width, 8}), "width", "width");
     QCOMPARE(document.History().count(), 1);
     document.EndMerging();
-    document.Change(ScreenSizeEdits(*document.Reading(), {12, 8}), "width", "width");
+    document.Change(ScreenSizeEdits(*document.Parsed(), {12, 8}), "width", "width");
     QCOMPARE(document.History().count(), 2);
     document.History().undo();
     QCOMPARE(document.Text(), QString("<program width=\"11\" height=\"8\"/>"));
@@ -167,11 +167,11 @@ void TestStudioDocument::LastProgramStays()
     StudioDocument document;
     QVERIFY(document.Load("<program width=\"8\" height=\"8\"/>"));
     document.Change({Replacement(document.Text(), {0, 1}, "")}, "typing");
-    QVERIFY(!document.Reading());
+    QVERIFY(!document.Parsed());
     QVERIFY(document.Fault());
-    QCOMPARE(document.LastReading().program.size, QSize(8, 8));
+    QCOMPARE(document.LastParsed().program.size, QSize(8, 8));
     document.History().undo();
-    QVERIFY(document.Reading());
+    QVERIFY(document.Parsed());
     QVERIFY(!document.Fault());
 }
 
@@ -188,7 +188,7 @@ void TestStudioDocument::NothingChanged()
     StudioDocument document;
     QVERIFY(document.Load("<program width=\"8\" height=\"8\"/>"));
     QSignalSpy edited(&document, &StudioDocument::Read);
-    document.Change(ScreenSizeEdits(*document.Reading(), {8, 8}), "width");
+    document.Change(ScreenSizeEdits(*document.Parsed(), {8, 8}), "width");
     document.Change({{3, "", ""}}, "nothing");
     QCOMPARE(edited.count(), 0);
     QVERIFY(!document.History().canUndo());

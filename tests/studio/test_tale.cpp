@@ -30,7 +30,7 @@ void TestTale::ThreeClocksInTwoZones()
     tale.start(TALE, {STUDIO, work.path()});
     QVERIFY(tale.waitForFinished(240000));
     QVERIFY2(tale.exitCode() == 0, tale.readAll().constData());
-    const ProgramReading wall = MustRead(QString::fromUtf8(ContentsOf(work.filePath("wall.xml"))));
+    const ParsedProgram wall = MustRead(QString::fromUtf8(ContentsOf(work.filePath("wall.xml"))));
     QCOMPARE(wall.AreaCount(), 3);
     QCOMPARE(wall.Geometry(0), QRect(0, 0, 128, 128));
     QCOMPARE(wall.Geometry(1), QRect(128, 0, 128, 64));

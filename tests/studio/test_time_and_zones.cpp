@@ -123,18 +123,18 @@ void TestTimeAndZones::TemplatesAreGood()
 
 void TestTimeAndZones::FindingsAreMended()
 {
-    const ProgramReading reading =
+    const ParsedProgram parsed =
         MustRead("<program width=\"9\" height=\"9\">\n<area x=\"0\" y=\"0\" width=\"9\" "
                  "height=\"9\">\n<clock type=\"digital\">\n<date colour=\"red\"/>\n</clock></area>"
                  "</program>");
     bool isMended = false;
-    for (const ClockTool::Finding &finding : FindingsIn(reading)) {
+    for (const ClockTool::Finding &finding : FindingsIn(parsed)) {
         if (finding.place.element != "date")
             continue; // an area this small has others
         QCOMPARE(finding.place.line, 4);
-        QCOMPARE(reading.elements[ElementOf(reading, finding)].name, QString("date"));
-        if (const auto edit = MendOf(reading, finding)) {
-            QString text = reading.text;
+        QCOMPARE(parsed.elements[ElementOf(parsed, finding)].name, QString("date"));
+        if (const auto edit = MendOf(parsed, finding)) {
+            QString text = parsed.text;
             ApplyEdits(text, {*edit});
             QVERIFY(text.contains("<date color=\"red\"/>"));
             isMended = true;

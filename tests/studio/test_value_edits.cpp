@@ -110,16 +110,16 @@ void TestValueEdits::EveryAttribute()
 {
     QFETCH(int, kind);
     QFETCH(QString, program);
-    const ProgramReading reading = MustRead(program);
-    const auto before = ClockOf(reading, 0);
+    const ParsedProgram parsed = MustRead(program);
+    const auto before = ClockOf(parsed, 0);
     QVERIFY(before);
     QCOMPARE(before->ClockType(), kind);
     for (const AttributeRow &row : kAttributeTable) {
         if (!IsSet(row, kind))
             continue;
         const QString wanted = OtherValue(row, before->GetAttribute(Key(row.attribute)));
-        QString text = reading.text;
-        ApplyEdits(text, ValueEdits(reading, 0, {{row.attribute, wanted}}));
+        QString text = parsed.text;
+        ApplyEdits(text, ValueEdits(parsed, 0, {{row.attribute, wanted}}));
         const auto after = ClockOf(MustRead(text), 0);
         QVERIFY2(after, row.key);
         for (const AttributeRow &other : kAttributeTable) {
@@ -135,11 +135,11 @@ void TestValueEdits::EveryAttribute()
 
 void TestValueEdits::WrittenAsPeopleDo()
 {
-    const ProgramReading reading = MustRead(
+    const ParsedProgram parsed = MustRead(
         ProgramWith("<area x='0' y='0' width='9' height='9'><clock type='digital'/></area>"));
-    const auto text = [&reading](const StoredValue &value) {
-        QString edited = reading.text;
-        ApplyEdits(edited, ValueEdits(reading, 0, {value}));
+    const auto text = [&parsed](const StoredValue &value) {
+        QString edited = parsed.text;
+        ApplyEdits(edited, ValueEdits(parsed, 0, {value}));
         return edited;
     };
     QVERIFY(text({Attribute::DigitalTimeColor, "65280"}).contains("<time color=\"#00ff00\"/>"));
@@ -151,12 +151,12 @@ void TestValueEdits::WrittenAsPeopleDo()
 
 void TestValueEdits::ReplacedWhereItIs()
 {
-    const ProgramReading reading = MustRead(ProgramWith(
+    const ParsedProgram parsed = MustRead(ProgramWith(
         "<area x='0' y='0' width='9' height='9'><clock type='dial'><!-- a --><date color='red' "
         "unknown='x'/><attribute key='AnalogSpace' value='7'/></clock></area>"));
-    const TextEdits colour = ValueEdits(reading, 0, {{Attribute::AnalogDateColor, "255"}});
+    const TextEdits colour = ValueEdits(parsed, 0, {{Attribute::AnalogDateColor, "255"}});
     QCOMPARE(colour.size(), 0); // red is red however it is called
-    const TextEdits space = ValueEdits(reading, 0, {{Attribute::AnalogSpace, "8"}});
+    const TextEdits space = ValueEdits(parsed, 0, {{Attribute::AnalogSpace, "8"}});
     QCOMPARE(space.size(), 1);
     QCOMPARE(space.first().removed, QString("7"));
     QCOMPARE(space.first().inserted, QString("8"));
@@ -166,11 +166,11 @@ void TestValueEdits::ResetRemovesIt()
 {
     const QString plain =
         ProgramWith("<area x='0' y='0' width='9' height='9'><clock type='dial'>\n</clock></area>");
-    const ProgramReading first = MustRead(plain);
+    const ParsedProgram first = MustRead(plain);
     QString text = plain;
     ApplyEdits(text, ValueEdits(first, 0, {{Attribute::HourRectType, "1"}}));
     QVERIFY(text != plain);
-    const ProgramReading changed = MustRead(text);
+    const ParsedProgram changed = MustRead(text);
     ApplyEdits(text, ResetEdits(changed, 0, Attribute::HourRectType));
     QVERIFY(!text.contains("HourRectType"));
     QCOMPARE(ClockOf(MustRead(text), 0)->GetAttribute("HourRectType"), QString("0"));
@@ -181,9 +181,9 @@ void TestValueEdits::EveryKindFromEveryKind()
     for (const int from : {int(AnalogClock), int(DigitalClock), int(PictureClock)}) {
         for (const auto &form : Forms(from)) {
             for (const int to : {int(AnalogClock), int(DigitalClock), int(PictureClock)}) {
-                const ProgramReading reading = MustRead(form.second);
-                QString text = reading.text;
-                ApplyEdits(text, KindEdits(reading, 0, to));
+                const ParsedProgram parsed = MustRead(form.second);
+                QString text = parsed.text;
+                ApplyEdits(text, KindEdits(parsed, 0, to));
                 const auto clock = ClockOf(MustRead(text), 0);
                 QVERIFY2(clock, qPrintable(text));
                 QCOMPARE(clock->ClockType(), to);

@@ -122,7 +122,7 @@ void TestWallEditor::deletesAndUndoes()
     studio.editor.ChooseAll();
     studio.editor.Delete();
     QCOMPARE(studio.wall.AreaCount(), 0);
-    QVERIFY(studio.document.Reading());
+    QVERIFY(studio.document.Parsed());
     QVERIFY(!studio.HasColour(studio.Screen().rect(), kRed));
     studio.document.History().undo();
     QCOMPARE(studio.document.Text(), QString(kTwo));

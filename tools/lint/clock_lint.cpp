@@ -134,9 +134,9 @@ private:
             const QDomAttr attribute = attributes.item(i).toAttr();
             if (!AttributesRead(m_type, name).contains(attribute.name()))
                 CheckUnreadAttribute(element, name, attribute.name());
-            for (const Reading &reading : ReadingsOf(m_type, name, attribute.name()))
+            for (const ImportedSetting &setting : SettingsReadFrom(m_type, name, attribute.name()))
                 if (CheckValue(element, attribute.name(), attribute.value(),
-                               ImportFault(reading.target, reading.conversion, attribute.value())))
+                               ImportFault(setting.target, setting.conversion, attribute.value())))
                     break;
         }
     }

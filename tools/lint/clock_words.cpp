@@ -87,14 +87,15 @@ QStringList AttributesRead(int clockType, const QString &element)
     return names;
 }
 
-QVector<Reading> ReadingsOf(int clockType, const QString &element, const QString &attribute)
+QVector<ImportedSetting> SettingsReadFrom(int clockType, const QString &element,
+                                          const QString &attribute)
 {
-    QVector<Reading> readings;
+    QVector<ImportedSetting> settings;
     ForEachSource(clockType, element, [&](const ImportRow &row, const ImportSource &source) {
         if (attribute == QLatin1String(source.attribute))
-            readings.append({row.target, source.conversion});
+            settings.append({row.target, source.conversion});
     });
-    return readings;
+    return settings;
 }
 
 QString ReadInPlaceOf(int clockType, const QString &element, const QString &attribute)

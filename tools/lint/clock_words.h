@@ -8,8 +8,8 @@
 
 namespace ClockTool {
 
-/// One way in which an XML attribute is read.
-struct Reading
+/// A setting that an XML attribute is read into, and how.
+struct ImportedSetting
 {
     Lw::HNodeClock::Attribute target;
     Lw::HNodeClock::Conversion conversion;
@@ -21,8 +21,9 @@ QStringList ElementsRead(int clockType);
 /// The XML attributes read from such an element; for an empty name, from the clock element itself.
 QStringList AttributesRead(int clockType, const QString &element);
 
-/// How an attribute is read; empty when it is not.
-QVector<Reading> ReadingsOf(int clockType, const QString &element, const QString &attribute);
+/// The settings that an attribute is read into; empty if it is not read.
+QVector<ImportedSetting> SettingsReadFrom(int clockType, const QString &element,
+                                          const QString &attribute);
 
 /// The attribute to write instead of one that an export writes and the import ignores:
 /// "format" for the "value" of a "date". Empty for all others.

@@ -21,10 +21,12 @@ QString NameRead(const QDomElement &element, int clockType, Attribute attribute)
     const QDomNamedNodeMap attributes = element.attributes();
     for (int i = 0; i < attributes.count(); ++i) {
         const QString name = attributes.item(i).nodeName();
-        const QVector<Reading> readings = ReadingsOf(clockType, element.tagName(), name);
-        if (std::any_of(readings.cbegin(), readings.cend(), [attribute](const Reading &reading) {
-                return reading.target == attribute;
-            }))
+        const QVector<ImportedSetting> settings =
+            SettingsReadFrom(clockType, element.tagName(), name);
+        if (std::any_of(settings.cbegin(), settings.cend(),
+                        [attribute](const ImportedSetting &setting) {
+                            return setting.target == attribute;
+                        }))
             return name;
     }
     return {};

@@ -1,4 +1,4 @@
-#include "program_reading.h"
+#include "parsed_program.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -60,19 +60,19 @@ TextFault NoElements(const QString &text)
 
 } // namespace
 
-QString ProgramReading::AreaText(int area) const
+QString ParsedProgram::AreaText(int area) const
 {
     const TextRange range = elements[AreaElement(area)].whole;
     return text.mid(range.begin, range.Size());
 }
 
-QString ProgramReading::ClockText(int area) const
+QString ParsedProgram::ClockText(int area) const
 {
     const TextRange range = elements[ClockElement(area)].whole;
     return text.mid(range.begin, range.Size());
 }
 
-int ProgramReading::AreaAt(int position) const
+int ParsedProgram::AreaAt(int position) const
 {
     for (int area = 0; area < AreaCount(); ++area) {
         if (elements[AreaElement(area)].whole.Contains(position))
@@ -81,7 +81,7 @@ int ProgramReading::AreaAt(int position) const
     return -1;
 }
 
-std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, const TextForm &form)
+std::variant<ParsedProgram, TextFault> ReadProgramText(const QString &text, const TextForm &form)
 {
     const std::optional<QByteArray> contents = EncodeText(text, form);
     if (!contents)
@@ -96,11 +96,11 @@ std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, con
     if (program) {
         if (!elements)
             return NoElements(text);
-        return ProgramReading {text, form, *elements, *program};
+        return ParsedProgram {text, form, *elements, *program};
     }
     if (elements) {
         if (const std::optional<Program> empty = ReadEmptyProgram(text, *elements))
-            return ProgramReading {text, form, *elements, *empty};
+            return ParsedProgram {text, form, *elements, *empty};
     }
     return FaultOf(program.Error());
 }

@@ -1,4 +1,4 @@
-// studio/text: a parsed program together with the text positions of its elements.
+// studio/text: a program as parsed together with the text positions of its elements.
 #pragma once
 
 #include "encoded_text.h"
@@ -10,7 +10,7 @@
 
 namespace ClockStudio {
 
-struct ProgramReading
+struct ParsedProgram
 {
     QString text;
     TextForm form;
@@ -35,6 +35,6 @@ struct TextFault
     int line = 1; ///< counted from 1
 };
 
-std::variant<ProgramReading, TextFault> ReadProgramText(const QString &text, const TextForm &form);
+std::variant<ParsedProgram, TextFault> ReadProgramText(const QString &text, const TextForm &form);
 
 } // namespace ClockStudio
