@@ -93,7 +93,7 @@ void Press(benchmark::State &state, Lw::HNodeClock::Attribute attribute, Qt::Key
 {
     OpenWindow open(WallOf(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))));
     open.WaitForClocks();
-    open.window->Editor().Choose({0});
+    open.window->Editor().Select({0});
     auto *const control = open.window->findChild<QWidget *>(Lw::HNodeClock::Key(attribute)
                                                             + QStringLiteral("Control"));
     control->setFocus();

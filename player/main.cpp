@@ -35,7 +35,7 @@ int Report(const Failure &failure)
 }
 
 // In a kiosk: restarts the process, as what was missing may now be there.
-void StartAgain()
+void Restart()
 {
     if (!g_kioskArguments)
         return;
@@ -70,7 +70,7 @@ void NoteComplaint(QtMsgType type, const QMessageLogContext &, const QString &me
         return;
     Say(complaints.join(QLatin1Char('\n')));
     FailWithoutDisplay();
-    StartAgain();
+    Restart();
     std::_Exit(static_cast<int>(ExitCode::RuntimeFailure));
 }
 
@@ -114,7 +114,7 @@ int RunOnDisplay(int argc, char **argv, const Options &options, const Result<Pro
     qInstallMessageHandler(EndTidily);
     if (!QGuiApplication::primaryScreen()) {
         FailWithoutDisplay();
-        StartAgain();
+        Restart();
         return static_cast<int>(ExitCode::RuntimeFailure);
     }
     if (options.checkDisplay)
@@ -123,7 +123,7 @@ int RunOnDisplay(int argc, char **argv, const Options &options, const Result<Pro
     if (failure && options.isKiosk) {
         Say(failure->text);
         ShowNoticeForAWhile(Notice::NoPlugin);
-        StartAgain();
+        Restart();
     }
     return failure ? Report(*failure) : static_cast<int>(ExitCode::Success);
 }

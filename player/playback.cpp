@@ -111,21 +111,21 @@ void Playback::FollowSteppedClock()
 // A plugin that does not take its time from the player is not measured.
 void Playback::NotePicture()
 {
-    const std::optional<StageTime::Reading> reading = StageTime::TakeReading();
+    const std::optional<StageTime::PluginTime> told = StageTime::TakePluginTime();
     if (!m_window.isExposed()) {
         m_meter.Jumped();
         m_drawn.reset();
         return;
     }
-    if (!reading)
+    if (!told)
         return;
     if (!m_drawn) {
         m_drawn = SeenFrame();
-        m_drawn->instant = reading->instant;
-        m_drawn->begun = reading->steady;
+        m_drawn->instant = told->instant;
+        m_drawn->begun = told->steady;
         m_drawn->speed = StageTime::Travel().Speed();
     }
-    m_drawn->drawing += StageTime::Steady() - reading->steady;
+    m_drawn->drawing += StageTime::Steady() - told->steady;
 }
 
 void Playback::NotePaint(double begun)

@@ -143,7 +143,7 @@ void WindowShow::FollowSecond()
     if (!m_sinceStatus.hasExpired(kStatusInterval))
         return;
     if (m_notice == Notice::NoGlyphs) // there may be room on the disk by now
-        ReadAgain();
+        Reload();
     else
         KeepStatus();
 }
@@ -167,7 +167,7 @@ void WindowShow::KeepTimeRequired()
     if (!isSet && m_notice != Notice::TimeNotSet)
         ShowNotice(Notice::TimeNotSet);
     else if (isSet && m_notice == Notice::TimeNotSet)
-        ReadAgain();
+        Reload();
 }
 
 void WindowShow::CheckProgram()
@@ -195,10 +195,10 @@ void WindowShow::FollowReadSignal()
     if (m_notice == Notice::TimeNotSet)
         KeepStatus();
     else
-        ReadAgain();
+        Reload();
 }
 
-void WindowShow::ReadAgain()
+void WindowShow::Reload()
 {
     const FileSignature signature = SignatureOf(m_options.programPath);
     m_watch = ProgramWatch(signature);

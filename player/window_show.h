@@ -45,7 +45,7 @@ private:
     void KeepTimeRequired();
     void CheckProgram();
     void FollowReadSignal();
-    void ReadAgain();
+    void Reload();
     void Report();
     ClockProgram::MaybeFailure Read();
     ClockProgram::MaybeFailure Show(const ClockProgram::Program &program);

@@ -22,10 +22,10 @@ qint64 WithinLimits(double instant)
     return static_cast<qint64>(qBound(double(kEarliestInstant), instant, double(kLatestInstant)));
 }
 
-std::optional<StageTime::Reading> &LastReading()
+std::optional<StageTime::PluginTime> &LastPluginTime()
 {
-    static std::optional<StageTime::Reading> reading;
-    return reading;
+    static std::optional<StageTime::PluginTime> time;
+    return time;
 }
 
 } // namespace
@@ -117,13 +117,13 @@ qint64 Shown()
 long long TellPlugin()
 {
     const qint64 instant = Shown();
-    LastReading() = Reading {instant, Steady()};
+    LastPluginTime() = PluginTime {instant, Steady()};
     return instant;
 }
 
-std::optional<Reading> TakeReading()
+std::optional<PluginTime> TakePluginTime()
 {
-    return std::exchange(LastReading(), std::nullopt);
+    return std::exchange(LastPluginTime(), std::nullopt);
 }
 
 RealTime Real()

@@ -76,11 +76,11 @@ TimeTravel &Travel();
 /// UTC milliseconds that the clocks show now.
 qint64 Shown();
 
-/// Shown() as the plugins' time source; each call is recorded for TakeReading().
+/// Shown() as the plugins' time source; each call is recorded for TakePluginTime().
 long long TellPlugin();
 
 /// One call of TellPlugin().
-struct Reading
+struct PluginTime
 {
     qint64 instant = 0; ///< UTC milliseconds that the plugin was told
     double steady = 0;  ///< when: milliseconds of the monotonic clock
@@ -88,7 +88,7 @@ struct Reading
 
 /// The last call of TellPlugin(), once. Plugins read the time when they start
 /// to draw a picture.
-std::optional<Reading> TakeReading();
+std::optional<PluginTime> TakePluginTime();
 
 RealTime Real();
 /// Milliseconds, with fraction, of the clock of RealTime::steady.

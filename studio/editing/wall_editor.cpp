@@ -23,7 +23,7 @@ WallEditor::WallEditor(StudioDocument &document, LiveWall &wall, QObject *parent
     : QObject(parent), m_document(document), m_wall(wall)
 {
     connect(&document, &StudioDocument::Edited, this, &WallEditor::FollowEdits);
-    connect(&document, &StudioDocument::Loaded, this, [this] { Choose({}); });
+    connect(&document, &StudioDocument::Loaded, this, [this] { Select({}); });
     connect(&document, &StudioDocument::Read, this, &WallEditor::ShowText);
 }
 
@@ -44,46 +44,46 @@ void WallEditor::ShowText()
         if (m_places.contains(parsed->elements[parsed->AreaElement(area)].whole.begin))
             still.append(area);
     }
-    if (still.size() != m_chosen.size()
-        || !std::is_permutation(still.cbegin(), still.cend(), m_chosen.cbegin()))
-        Choose(still);
+    if (still.size() != m_selected.size()
+        || !std::is_permutation(still.cbegin(), still.cend(), m_selected.cbegin()))
+        Select(still);
 }
 
-void WallEditor::Choose(const QVector<int> &areas)
+void WallEditor::Select(const QVector<int> &areas)
 {
     const ParsedProgram &parsed = m_document.LastParsed();
-    m_chosen.clear();
+    m_selected.clear();
     m_places.clear();
     for (const int area : areas) {
-        if (area < 0 || area >= parsed.AreaCount() || m_chosen.contains(area))
+        if (area < 0 || area >= parsed.AreaCount() || m_selected.contains(area))
             continue;
-        m_chosen.append(area);
+        m_selected.append(area);
         m_places.append(parsed.elements[parsed.AreaElement(area)].whole.begin);
     }
     m_document.EndMerging();
-    emit ChoiceChanged();
+    emit SelectionChanged();
 }
 
 void WallEditor::Toggle(int area)
 {
-    QVector<int> areas = m_chosen;
+    QVector<int> areas = m_selected;
     if (!areas.removeOne(area))
         areas.append(area);
-    Choose(areas);
+    Select(areas);
 }
 
-void WallEditor::ChooseAll()
+void WallEditor::SelectAll()
 {
     QVector<int> all;
     for (int area = 0; area < m_wall.AreaCount(); ++area)
         all.append(area);
-    Choose(all);
+    Select(all);
 }
 
-QVector<QRect> WallEditor::ChosenRects() const
+QVector<QRect> WallEditor::SelectedRects() const
 {
     QVector<QRect> rects;
-    for (const int area : m_chosen)
+    for (const int area : m_selected)
         rects.append(m_document.LastParsed().Geometry(area));
     return rects;
 }
@@ -94,14 +94,14 @@ void WallEditor::Place(const QVector<QRect> &rects, const QString &label, const 
     if (!parsed)
         return;
     TextEdits edits;
-    for (int i = 0; i < qMin(rects.size(), m_chosen.size()); ++i)
-        edits += GeometryEdits(*parsed, m_chosen[i], rects[i]);
+    for (int i = 0; i < qMin(rects.size(), m_selected.size()); ++i)
+        edits += GeometryEdits(*parsed, m_selected[i], rects[i]);
     m_document.Change(InSequence(edits), label, mergeKey);
 }
 
 void WallEditor::MoveBy(QPoint distance)
 {
-    QVector<QRect> rects = ChosenRects();
+    QVector<QRect> rects = SelectedRects();
     for (QRect &rect : rects)
         rect.translate(distance);
     Place(rects, tr("Move"), QStringLiteral("move"));
@@ -109,7 +109,7 @@ void WallEditor::MoveBy(QPoint distance)
 
 void WallEditor::ResizeBy(QPoint distance)
 {
-    QVector<QRect> rects = ChosenRects();
+    QVector<QRect> rects = SelectedRects();
     for (QRect &rect : rects)
         rect = Resized(rect, RightSide | BottomSide, distance);
     Place(rects, tr("Resize"), QStringLiteral("resize"));
@@ -117,17 +117,17 @@ void WallEditor::ResizeBy(QPoint distance)
 
 void WallEditor::Align(Alignment alignment)
 {
-    Place(Aligned(ChosenRects(), alignment, m_wall.Size()), tr("Align"));
+    Place(Aligned(SelectedRects(), alignment, m_wall.Size()), tr("Align"));
 }
 
 void WallEditor::Distribute(Direction direction)
 {
-    Place(Distributed(ChosenRects(), direction), tr("Distribute"));
+    Place(Distributed(SelectedRects(), direction), tr("Distribute"));
 }
 
 void WallEditor::Stack(Direction direction)
 {
-    Place(Stacked(ChosenRects(), direction), tr("Stack"));
+    Place(Stacked(SelectedRects(), direction), tr("Stack"));
 }
 
 void WallEditor::BringToFront()
@@ -145,12 +145,12 @@ void WallEditor::SendToBack()
 void WallEditor::Reorder(bool toFront, const QString &label)
 {
     const ParsedProgram *const parsed = m_document.Parsed();
-    if (!parsed || m_chosen.isEmpty())
+    if (!parsed || m_selected.isEmpty())
         return;
     QVector<int> order(parsed->AreaCount());
     std::iota(order.begin(), order.end(), 0);
     std::stable_partition(order.begin(), order.end(),
-                          [&](int area) { return m_chosen.contains(area) != toFront; });
+                          [&](int area) { return m_selected.contains(area) != toFront; });
     TextEdits edits;
     for (int area = 0; area < order.size(); ++area) {
         if (order[area] != area)
@@ -159,10 +159,10 @@ void WallEditor::Reorder(bool toFront, const QString &label)
                                      parsed->AreaText(order[area])));
     }
     QVector<int> places;
-    for (const int area : qAsConst(m_chosen))
+    for (const int area : qAsConst(m_selected))
         places.append(order.indexOf(area));
     m_document.Change(InSequence(edits), label);
-    Choose(places);
+    Select(places);
 }
 
 void WallEditor::Append(const QStringList &areas, const QString &label)
@@ -175,7 +175,7 @@ void WallEditor::Append(const QStringList &areas, const QString &label)
     QVector<int> added;
     for (int area = first; area < m_wall.AreaCount(); ++area)
         added.append(area);
-    Choose(added);
+    Select(added);
 }
 
 void WallEditor::Add(ClockKind kind, const QRect &geometry)
@@ -189,9 +189,9 @@ void WallEditor::Delete()
     if (!parsed)
         return;
     TextEdits edits;
-    for (const int area : qAsConst(m_chosen))
+    for (const int area : qAsConst(m_selected))
         edits.append(RemoveElementEdit(*parsed, parsed->AreaElement(area)));
-    Choose({}); // otherwise an area that moves to the position of a deleted one would be chosen
+    Select({}); // otherwise an area that moves to the position of a deleted one would be selected
     m_document.Change(InSequence(edits), tr("Delete"));
 }
 
@@ -202,7 +202,7 @@ void WallEditor::Duplicate()
         return;
     QSet<int> ids = GivenIds(*parsed);
     QStringList copies;
-    for (const int area : qAsConst(m_chosen))
+    for (const int area : qAsConst(m_selected))
         copies.append(AreaForProgram(PortableAreaText(*parsed, area), kCopyDistance, ids));
     Append(copies, tr("Duplicate"));
 }
@@ -210,9 +210,9 @@ void WallEditor::Duplicate()
 void WallEditor::Copy() const
 {
     const ParsedProgram *const parsed = m_document.Parsed();
-    if (!parsed || m_chosen.isEmpty())
+    if (!parsed || m_selected.isEmpty())
         return;
-    QVector<int> ordered = m_chosen;
+    QVector<int> ordered = m_selected;
     std::sort(ordered.begin(), ordered.end());
     QStringList texts;
     for (const int area : qAsConst(ordered))

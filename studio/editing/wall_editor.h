@@ -23,13 +23,13 @@ public:
     LiveWall &Wall() { return m_wall; }
 
     /// In the order of selection.
-    const QVector<int> &Chosen() const { return m_chosen; }
-    void Choose(const QVector<int> &areas);
+    const QVector<int> &Selected() const { return m_selected; }
+    void Select(const QVector<int> &areas);
     void Toggle(int area);
-    void ChooseAll();
-    QVector<QRect> ChosenRects() const;
+    void SelectAll();
+    QVector<QRect> SelectedRects() const;
 
-    /// Gives the selected areas these rectangles, in the order of Chosen(); edits with one
+    /// Gives the selected areas these rectangles, in the order of Selected(); edits with one
     /// non-empty mergeKey are undone together.
     void Place(const QVector<QRect> &rects, const QString &label, const QString &mergeKey = {});
     void MoveBy(QPoint distance);
@@ -55,7 +55,7 @@ public:
     void SetScreenSize(QSize size);
 
 Q_SIGNALS:
-    void ChoiceChanged();
+    void SelectionChanged();
 
 private:
     void FollowEdits(const TextEdits &edits);
@@ -65,8 +65,8 @@ private:
 
     StudioDocument &m_document;
     LiveWall &m_wall;
-    QVector<int> m_chosen;
-    QVector<int> m_places; ///< where the chosen areas begin in the text
+    QVector<int> m_selected;
+    QVector<int> m_places; ///< where the selected areas begin in the text
 };
 
 } // namespace ClockStudio

@@ -85,7 +85,7 @@ void ProgramFiles::Begin(const QByteArray &bytes)
     SetPath({}, {});
 }
 
-void ProgramFiles::Recover(const LeftWork &work)
+void ProgramFiles::Recover(const UnsavedWork &work)
 {
     m_document.Load(work.bytes);
     m_isRecovered = true;

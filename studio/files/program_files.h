@@ -35,8 +35,8 @@ public:
 
     /// Starts with a program that has no file yet.
     void Begin(const QByteArray &bytes);
-    void Recover(const LeftWork &work);
-    QVector<LeftWork> LeftWorks() const { return m_store.Left(); }
+    void Recover(const UnsavedWork &work);
+    QVector<UnsavedWork> Recoverable() const { return m_store.Recoverable(); }
     /// Discards unsaved work.
     void GiveUp() { m_store.Forget(); }
     /// Stores unsaved work now; also runs every four seconds.

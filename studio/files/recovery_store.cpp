@@ -17,20 +17,20 @@ QString LockOf(const QString &file)
     return file + QStringLiteral(".lock");
 }
 
-std::optional<LeftWork> ReadWork(const QString &path)
+std::optional<UnsavedWork> ReadWork(const QString &path)
 {
     QFile file(path);
     if (!file.open(QFile::ReadOnly))
         return std::nullopt;
     QDataStream stream(&file);
     quint32 magic = 0;
-    LeftWork work;
+    UnsavedWork work;
     work.file = path;
     stream >> magic;
     if (magic != kMagic)
         return std::nullopt;
     stream >> work.path >> work.bytes;
-    return stream.status() == QDataStream::Ok ? std::optional<LeftWork>(work) : std::nullopt;
+    return stream.status() == QDataStream::Ok ? std::optional<UnsavedWork>(work) : std::nullopt;
 }
 
 } // namespace
@@ -64,9 +64,9 @@ void RecoveryStore::Forget()
     QFile::remove(m_file);
 }
 
-QVector<LeftWork> RecoveryStore::Left() const
+QVector<UnsavedWork> RecoveryStore::Recoverable() const
 {
-    QVector<LeftWork> left;
+    QVector<UnsavedWork> works;
     const QDir directory(m_directory);
     for (const QString &name : directory.entryList({QLatin1Char('*') + kSuffix}, QDir::Files)) {
         const QString path = directory.filePath(name);
@@ -75,12 +75,12 @@ QVector<LeftWork> RecoveryStore::Left() const
         if (path == m_file || !lock.tryLock(0))
             continue;
         if (const auto work = ReadWork(path))
-            left.append(*work);
+            works.append(*work);
     }
-    return left;
+    return works;
 }
 
-void RecoveryStore::Remove(const LeftWork &work)
+void RecoveryStore::Remove(const UnsavedWork &work)
 {
     QFile::remove(work.file);
     QFile::remove(LockOf(work.file));

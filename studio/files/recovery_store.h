@@ -13,7 +13,7 @@
 namespace ClockStudio {
 
 /// Unsaved work of a studio that no longer runs.
-struct LeftWork
+struct UnsavedWork
 {
     QString file;     ///< in the store
     QString path;     ///< of the program; empty for one that was never saved
@@ -34,8 +34,8 @@ public:
     void Forget();
 
     /// The work of studios that no longer run; unreadable files are skipped.
-    QVector<LeftWork> Left() const;
-    static void Remove(const LeftWork &work);
+    QVector<UnsavedWork> Recoverable() const;
+    static void Remove(const UnsavedWork &work);
 
 private:
     QString m_directory;

@@ -213,7 +213,7 @@ ReleaseList ReleasesIn(const QString &listed)
     return list;
 }
 
-ToolCommand WordCommand(const WallTarget &target)
+ToolCommand StatusCommand(const WallTarget &target)
 {
     return ScriptInFolder(target,
                           QStringLiteral("sha256sum <%1/program.xml && head -c %2 -- %3")

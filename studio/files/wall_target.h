@@ -42,8 +42,8 @@ ToolCommand DiscardCommand(const WallTarget &target, const QString &release);
 ToolCommand PlayCommand(const WallTarget &target, const QString &release);
 /// The command whose output ReleasesIn parses.
 ToolCommand ListCommand(const WallTarget &target);
-/// The command whose output ReadWallWord parses. Only for a target with a status file.
-ToolCommand WordCommand(const WallTarget &target);
+/// The command whose output ReadWallStatus parses. Only for a target with a status file.
+ToolCommand StatusCommand(const WallTarget &target);
 
 struct ReleaseList
 {

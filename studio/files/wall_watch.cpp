@@ -49,17 +49,17 @@ void WallWatch::Stop()
 
 void WallWatch::Ask()
 {
-    const ToolCommand command = WordCommand(m_target);
+    const ToolCommand command = StatusCommand(m_target);
     m_process.start(command.program, command.arguments, QIODevice::ReadOnly);
 }
 
 void WallWatch::Take()
 {
-    const WallWord word =
-        ReadWallWord(m_process.readAllStandardOutput(), QDateTime::currentDateTimeUtc());
-    if (word.state != WallWord::State::Plays && !m_since.hasExpired(kPatience))
+    const WallStatus status =
+        ReadWallStatus(m_process.readAllStandardOutput(), QDateTime::currentDateTimeUtc());
+    if (status.state != WallStatus::State::Plays && !m_since.hasExpired(kPatience))
         m_again.start();
-    emit Heard(word);
+    emit Heard(status);
 }
 
 } // namespace ClockStudio

@@ -1,8 +1,8 @@
 // studio/files: polls a wall's status until it plays what was sent.
 #pragma once
 
+#include "wall_status.h"
 #include "wall_target.h"
-#include "wall_word.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -25,7 +25,7 @@ public:
     void Stop();
 
 Q_SIGNALS:
-    void Heard(const ClockStudio::WallWord &word);
+    void Heard(const ClockStudio::WallStatus &status);
 
 private:
     void Ask();

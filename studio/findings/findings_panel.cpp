@@ -20,26 +20,26 @@ constexpr int kDelay = 400;
 } // namespace
 
 FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
-    : QWidget(parent), m_editor(editor), m_list(new QListWidget),
-      m_mend(new QPushButton(tr("Fix"))), m_none(new QLabel)
+    : QWidget(parent), m_editor(editor), m_list(new QListWidget), m_fix(new QPushButton(tr("Fix"))),
+      m_none(new QLabel)
 {
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 6, 8, 6);
     m_list->setWordWrap(true);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setAccessibleName(tr("Findings"));
-    m_mend->setToolTip(tr("Apply the suggested fix"));
+    m_fix->setToolTip(tr("Apply the suggested fix"));
     layout->addWidget(m_none, 1);
     layout->addWidget(m_list, 1);
-    layout->addWidget(m_mend, 0, Qt::AlignTop);
+    layout->addWidget(m_fix, 0, Qt::AlignTop);
     m_delay.setSingleShot(true);
     m_delay.setInterval(kDelay);
     connect(&editor.Document(), &StudioDocument::Read, &m_delay, QOverload<>::of(&QTimer::start));
     connect(&editor.Document(), &StudioDocument::Read, &m_fit, &FitCheck::Drop);
     connect(&m_fit, &FitCheck::Found, this, &FindingsPanel::List);
     connect(&m_delay, &QTimer::timeout, this, &FindingsPanel::Check);
-    connect(m_list, &QListWidget::currentRowChanged, this, &FindingsPanel::Choose);
-    connect(m_mend, &QPushButton::clicked, this, &FindingsPanel::Mend);
+    connect(m_list, &QListWidget::currentRowChanged, this, &FindingsPanel::Select);
+    connect(m_fix, &QPushButton::clicked, this, &FindingsPanel::Fix);
     Check();
 }
 
@@ -64,10 +64,10 @@ void FindingsPanel::CheckAll()
         loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
-/// The one that is chosen stays chosen where it is found again.
+/// The selected finding stays selected if it is found again.
 void FindingsPanel::List(const QVector<ClockTool::Finding> &findings)
 {
-    const QString chosen = m_findings.value(m_list->currentRow()).text;
+    const QString selected = m_findings.value(m_list->currentRow()).text;
     m_findings = findings;
     const QSignalBlocker quiet(m_list);
     m_list->clear();
@@ -77,12 +77,12 @@ void FindingsPanel::List(const QVector<ClockTool::Finding> &findings)
     m_none->setText(m_editor.Document().Parsed() ? tr("No findings.")
                                                  : tr("The text is not a valid program."));
     m_none->setVisible(m_findings.isEmpty());
-    m_mend->setVisible(!m_findings.isEmpty());
-    m_mend->setEnabled(false);
+    m_fix->setVisible(!m_findings.isEmpty());
+    m_fix->setEnabled(false);
     for (int row = 0; row < m_findings.size(); ++row) {
-        if (!chosen.isEmpty() && m_findings[row].text == chosen) {
+        if (!selected.isEmpty() && m_findings[row].text == selected) {
             m_list->setCurrentRow(row);
-            UpdateMend();
+            UpdateFix();
         }
     }
     emit CountChanged(m_findings.size());
@@ -100,37 +100,37 @@ void FindingsPanel::Add(const ClockTool::Finding &finding)
     item->setToolTip(tr("Line %1").arg(finding.place.line));
 }
 
-void FindingsPanel::UpdateMend()
+void FindingsPanel::UpdateFix()
 {
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
     const int row = m_list->currentRow();
-    m_mend->setEnabled(parsed && row >= 0 && MendOf(*parsed, m_findings[row]).has_value());
+    m_fix->setEnabled(parsed && row >= 0 && FixOf(*parsed, m_findings[row]).has_value());
 }
 
-void FindingsPanel::Choose(int row)
+void FindingsPanel::Select(int row)
 {
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
     if (row < 0 || row >= m_findings.size() || !parsed)
         return;
     const ClockTool::Finding finding = m_findings[row];
-    UpdateMend();
+    UpdateFix();
     emit LineWanted(finding.place.line);
     if (finding.place.clock < 1)
         return;
     const int area = finding.place.clock - 1;
-    m_editor.Choose({area});
+    m_editor.Select({area});
     if (auto *const clock = m_editor.Wall().Clock(area))
         emit PropertyWanted(KeyOf(finding, clock->ClockType()));
     m_list->setFocus();
 }
 
-void FindingsPanel::Mend()
+void FindingsPanel::Fix()
 {
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
     const int row = m_list->currentRow();
     if (!parsed || row < 0 || row >= m_findings.size())
         return;
-    if (const auto edit = MendOf(*parsed, m_findings[row]))
+    if (const auto edit = FixOf(*parsed, m_findings[row]))
         m_editor.Document().Change({*edit}, tr("Fix"));
     Check();
 }

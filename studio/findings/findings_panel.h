@@ -3,7 +3,7 @@
 #pragma once
 
 #include "editing/wall_editor.h"
-#include "finding_mend.h"
+#include "finding_fix.h"
 #include "fit_check.h"
 
 #include <QTimer>
@@ -38,13 +38,13 @@ Q_SIGNALS:
 private:
     void List(const QVector<ClockTool::Finding> &findings);
     void Add(const ClockTool::Finding &finding);
-    void Choose(int row);
-    void UpdateMend();
-    void Mend();
+    void Select(int row);
+    void UpdateFix();
+    void Fix();
 
     WallEditor &m_editor;
     QListWidget *m_list;
-    QPushButton *m_mend;
+    QPushButton *m_fix;
     QLabel *m_none;
     QTimer m_delay;
     FitCheck m_fit;

@@ -57,10 +57,10 @@ SourceView::SourceView(WallEditor &editor, QWidget *parent)
     new XmlHighlighter(document(), palette());
     connect(&editor.Document(), &StudioDocument::Loaded, this, &SourceView::TakeText);
     connect(&editor.Document(), &StudioDocument::Edited, this, &SourceView::TakeEdits);
-    connect(&editor.Document(), &StudioDocument::Read, this, &SourceView::MarkChosen);
-    connect(&editor, &WallEditor::ChoiceChanged, this, &SourceView::MarkChosen);
+    connect(&editor.Document(), &StudioDocument::Read, this, &SourceView::MarkSelected);
+    connect(&editor, &WallEditor::SelectionChanged, this, &SourceView::MarkSelected);
     connect(document(), &QTextDocument::contentsChanged, this, &SourceView::GiveEdit);
-    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &SourceView::ChooseAtCursor);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &SourceView::SelectAtCursor);
     connect(this, &QPlainTextEdit::updateRequest, m_numbers, QOverload<>::of(&QWidget::update));
     connect(this, &QPlainTextEdit::blockCountChanged, this, &SourceView::PlaceNumbers);
     PlaceNumbers();
@@ -127,18 +127,18 @@ void SourceView::contextMenuEvent(QContextMenuEvent *event)
     menu->exec(event->globalPos());
 }
 
-void SourceView::ChooseAtCursor()
+void SourceView::SelectAtCursor()
 {
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
     if (m_isOwnEdit || !parsed || !hasFocus())
         return;
     const int area =
         parsed->AreaAt(FromEditor(m_editor.Document().Text(), textCursor().position()));
-    if (area >= 0 && m_editor.Chosen() != QVector<int> {area})
-        m_editor.Choose({area});
+    if (area >= 0 && m_editor.Selected() != QVector<int> {area})
+        m_editor.Select({area});
 }
 
-void SourceView::MarkChosen()
+void SourceView::MarkSelected()
 {
     QList<QTextEdit::ExtraSelection> marks;
     const QString &text = m_editor.Document().Text();
@@ -152,7 +152,7 @@ void SourceView::MarkChosen()
     if (const ParsedProgram *const parsed = m_editor.Document().Parsed()) {
         QColor shade = palette().color(QPalette::Highlight);
         shade.setAlpha(36);
-        for (const int area : m_editor.Chosen()) {
+        for (const int area : m_editor.Selected()) {
             const TextRange range = parsed->elements[parsed->AreaElement(area)].whole;
             marks.append(Marked(cursorOver(range), shade, false));
         }

@@ -27,8 +27,8 @@ private:
     void TakeText();
     void TakeEdits(const TextEdits &edits);
     void GiveEdit();
-    void ChooseAtCursor();
-    void MarkChosen();
+    void SelectAtCursor();
+    void MarkSelected();
     void PaintNumbers(QPaintEvent *event);
     void PlaceNumbers();
 

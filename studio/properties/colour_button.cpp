@@ -69,7 +69,7 @@ void ColourButton::OpenPalette()
         swatch->setAccessibleName(colour.name());
         connect(swatch, &QToolButton::clicked, this, [this, colour, &menu] {
             menu.close();
-            emit Chosen(Stored(colour));
+            emit Selected(Stored(colour));
         });
         grid->addWidget(swatch, i / kColumns, i % kColumns);
     }
@@ -84,7 +84,7 @@ void ColourButton::OpenPicker()
 {
     const QColor colour = QColorDialog::getColor(m_colour, this, tr("Colour"));
     if (colour.isValid())
-        emit Chosen(Stored(colour));
+        emit Selected(Stored(colour));
 }
 
 } // namespace ClockStudio

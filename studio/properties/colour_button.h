@@ -16,7 +16,7 @@ public:
     void Show(const QString &stored, bool isMixed);
 
 Q_SIGNALS:
-    void Chosen(const QString &stored);
+    void Selected(const QString &stored);
 
 private:
     void OpenPalette();

@@ -114,7 +114,7 @@ FamilyBox::FamilyBox()
     }
     m_installedEnd = count();
     connect(this, QOverload<int>::of(&QComboBox::activated), this,
-            [this](int index) { emit Chosen(itemData(index).toString()); });
+            [this](int index) { emit Selected(itemData(index).toString()); });
 }
 
 void FamilyBox::Show(const QString &family, bool isMixed)

@@ -23,7 +23,7 @@ public:
     void showPopup() override;
 
 Q_SIGNALS:
-    void Chosen(const QString &family); ///< empty for the default font
+    void Selected(const QString &family); ///< empty for the default font
 
 public:
     /// The text shown in this font, used to mark families.

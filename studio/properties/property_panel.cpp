@@ -96,7 +96,7 @@ PropertyPanel::PropertyPanel(WallEditor &editor, QWidget *parent)
     setWidget(inner);
     for (QWidget *const control : inner->findChildren<QWidget *>())
         control->installEventFilter(this);
-    connect(&editor, &WallEditor::ChoiceChanged, this, &PropertyPanel::Refresh);
+    connect(&editor, &WallEditor::SelectionChanged, this, &PropertyPanel::Refresh);
     connect(&editor.Wall(), &LiveWall::ClocksMade, this, &PropertyPanel::Refresh);
     connect(&editor.Document(), &StudioDocument::Read, this, &PropertyPanel::Refresh);
     Refresh();
@@ -224,10 +224,10 @@ ValueEditor *PropertyPanel::MakeEditor(Attribute attribute)
     return editor;
 }
 
-QVector<HClockNode *> PropertyPanel::ChosenClocks() const
+QVector<HClockNode *> PropertyPanel::SelectedClocks() const
 {
     QVector<HClockNode *> clocks;
-    for (const int area : m_editor.Chosen()) {
+    for (const int area : m_editor.Selected()) {
         if (HClockNode *const clock = m_editor.Wall().Clock(area))
             clocks.append(clock);
     }
@@ -237,15 +237,15 @@ QVector<HClockNode *> PropertyPanel::ChosenClocks() const
 void PropertyPanel::Refresh()
 {
     m_isShowing = true;
-    const QVector<HClockNode *> clocks = ChosenClocks();
+    const QVector<HClockNode *> clocks = SelectedClocks();
     const bool isEditable = m_editor.Document().Parsed();
     widget()->setEnabled(isEditable);
-    m_wall->setVisible(m_editor.Chosen().isEmpty());
+    m_wall->setVisible(m_editor.Selected().isEmpty());
     m_clock->setVisible(!clocks.isEmpty());
-    m_title->setText(m_editor.Chosen().isEmpty() ? tr("Wall")
-                         : m_editor.Chosen().size() == 1
-                         ? tr("Clock %1").arg(m_editor.Chosen().first() + 1)
-                         : tr("%n clock(s)", nullptr, m_editor.Chosen().size()));
+    m_title->setText(m_editor.Selected().isEmpty() ? tr("Wall")
+                         : m_editor.Selected().size() == 1
+                         ? tr("Clock %1").arg(m_editor.Selected().first() + 1)
+                         : tr("%n clock(s)", nullptr, m_editor.Selected().size()));
     ShowWall();
     if (!clocks.isEmpty()) {
         ShowClocks(clocks);
@@ -262,7 +262,7 @@ void PropertyPanel::ShowWall()
 
 void PropertyPanel::ShowPlace()
 {
-    const QVector<QRect> rects = m_editor.ChosenRects();
+    const QVector<QRect> rects = m_editor.SelectedRects();
     const QRect rect = rects.size() == 1 ? rects.first() : Around(rects);
     const int values[] = {rect.x(), rect.y(), rect.width(), rect.height()};
     for (int i = 0; i < 4; ++i) {
@@ -310,7 +310,7 @@ void PropertyPanel::ChangeEach(const QString &label, const QString &mergeKey,
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
     if (!parsed)
         return;
-    QVector<int> areas = m_editor.Chosen();
+    QVector<int> areas = m_editor.Selected();
     std::sort(areas.begin(), areas.end(), std::greater<int>());
     TextEdits all;
     for (const int area : qAsConst(areas))
@@ -361,9 +361,9 @@ void PropertyPanel::FitSizes()
 
 void PropertyPanel::GivePlace()
 {
-    if (m_isShowing || m_editor.Chosen().isEmpty())
+    if (m_isShowing || m_editor.Selected().isEmpty())
         return;
-    QVector<QRect> rects = m_editor.ChosenRects();
+    QVector<QRect> rects = m_editor.SelectedRects();
     if (rects.size() == 1) {
         rects.first() = QRect(m_place[0]->value(), m_place[1]->value(), m_place[2]->value(),
                               m_place[3]->value());

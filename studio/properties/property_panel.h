@@ -59,7 +59,7 @@ private:
     void SetKind(int kind);
     void GivePlace();
     void Reset(Lw::HNodeClock::Attribute attribute);
-    QVector<Lw::HNodeClock::HClockNode *> ChosenClocks() const;
+    QVector<Lw::HNodeClock::HClockNode *> SelectedClocks() const;
 
     struct Group
     {
@@ -71,7 +71,7 @@ private:
     WallEditor &m_editor;
     QVBoxLayout *m_layout;
     QLabel *m_title;
-    QWidget *m_wall;  ///< shown while no clock is chosen
+    QWidget *m_wall;  ///< shown while no clock is selected
     QWidget *m_clock; ///< shown otherwise
     QButtonGroup *m_kinds;
     QSpinBox *m_place[4];      ///< x, y, width, height

@@ -179,7 +179,7 @@ public:
         : ValueEditor(attribute), m_button(new ColourButton)
     {
         Use(m_button);
-        connect(m_button, &ColourButton::Chosen, this, &ColourEditor::Edited);
+        connect(m_button, &ColourButton::Selected, this, &ColourEditor::Edited);
     }
 
     void Show(const QString &stored, bool isMixed) override { m_button->Show(stored, isMixed); }
@@ -194,7 +194,7 @@ public:
     explicit FamilyEditor(enum Attribute attribute) : ValueEditor(attribute), m_box(new FamilyBox)
     {
         Use(m_box);
-        connect(m_box, &FamilyBox::Chosen, this, &FamilyEditor::Edited);
+        connect(m_box, &FamilyBox::Selected, this, &FamilyEditor::Edited);
     }
 
     void Show(const QString &stored, bool isMixed) override { m_box->Show(stored, isMixed); }

@@ -1989,6 +1989,29 @@
     </message>
 </context>
 <context>
+    <name>ClockStudio::WallStatus</name>
+    <message>
+        <source>The wall is playing this program.</source>
+        <translation>دیوار این برنامه را پخش می‌کند.</translation>
+    </message>
+    <message>
+        <source>The wall is playing something else.</source>
+        <translation>دیوار چیز دیگری پخش می‌کند.</translation>
+    </message>
+    <message>
+        <source>The wall shows the notice %1 instead of a program.</source>
+        <translation>دیوار به جای برنامه پیام %1 را نشان می‌دهد.</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s player has not been heard from since %1.</source>
+        <translation>از %1 خبری از پخش‌کننده دیوار نیست.</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s status cannot be read.</source>
+        <translation>وضعیت دیوار خوانده نمی‌شود.</translation>
+    </message>
+</context>
+<context>
     <name>ClockStudio::WallTarget</name>
     <message>
         <source>The wall needs a name.</source>
@@ -2030,29 +2053,6 @@
         <translation>
             <numerusform>%Ln ساعت برگزیده</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallWord</name>
-    <message>
-        <source>The wall is playing this program.</source>
-        <translation>دیوار این برنامه را پخش می‌کند.</translation>
-    </message>
-    <message>
-        <source>The wall is playing something else.</source>
-        <translation>دیوار چیز دیگری پخش می‌کند.</translation>
-    </message>
-    <message>
-        <source>The wall shows the notice %1 instead of a program.</source>
-        <translation>دیوار به جای برنامه پیام %1 را نشان می‌دهد.</translation>
-    </message>
-    <message>
-        <source>The wall&apos;s player has not been heard from since %1.</source>
-        <translation>از %1 خبری از پخش‌کننده دیوار نیست.</translation>
-    </message>
-    <message>
-        <source>The wall&apos;s status cannot be read.</source>
-        <translation>وضعیت دیوار خوانده نمی‌شود.</translation>
     </message>
 </context>
 <context>

@@ -1989,6 +1989,29 @@
     </message>
 </context>
 <context>
+    <name>ClockStudio::WallStatus</name>
+    <message>
+        <source>The wall is playing this program.</source>
+        <translation>屏幕正在播放此节目。</translation>
+    </message>
+    <message>
+        <source>The wall is playing something else.</source>
+        <translation>屏幕正在播放其他内容。</translation>
+    </message>
+    <message>
+        <source>The wall shows the notice %1 instead of a program.</source>
+        <translation>屏幕显示提示 %1，而不是节目。</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s player has not been heard from since %1.</source>
+        <translation>自 %1 起没有屏幕播放器的消息。</translation>
+    </message>
+    <message>
+        <source>The wall&apos;s status cannot be read.</source>
+        <translation>无法读取屏幕的状态。</translation>
+    </message>
+</context>
+<context>
     <name>ClockStudio::WallTarget</name>
     <message>
         <source>The wall needs a name.</source>
@@ -2030,29 +2053,6 @@
         <translation>
             <numerusform>已选 %n 个时钟</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WallWord</name>
-    <message>
-        <source>The wall is playing this program.</source>
-        <translation>屏幕正在播放此节目。</translation>
-    </message>
-    <message>
-        <source>The wall is playing something else.</source>
-        <translation>屏幕正在播放其他内容。</translation>
-    </message>
-    <message>
-        <source>The wall shows the notice %1 instead of a program.</source>
-        <translation>屏幕显示提示 %1，而不是节目。</translation>
-    </message>
-    <message>
-        <source>The wall&apos;s player has not been heard from since %1.</source>
-        <translation>自 %1 起没有屏幕播放器的消息。</translation>
-    </message>
-    <message>
-        <source>The wall&apos;s status cannot be read.</source>
-        <translation>无法读取屏幕的状态。</translation>
     </message>
 </context>
 <context>

@@ -183,7 +183,7 @@ void LiveWall::PlayNext()
     }
 }
 
-void LiveWall::MakeAgain()
+void LiveWall::RecreateClocks()
 {
     for (Slot &slot : m_slots)
         slot.made.clear();

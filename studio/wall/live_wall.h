@@ -48,7 +48,7 @@ public:
     /// Redraws every clock after a change of the shown time.
     void PlayNext();
     /// Recreates every clock after a change of the language.
-    void MakeAgain();
+    void RecreateClocks();
 
 Q_SIGNALS:
     void Painted(const QRect &region); ///< pixels of the screen that changed

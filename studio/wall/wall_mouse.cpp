@@ -38,9 +38,9 @@ int WallMouse::AreaAt(QPoint pixel) const
 
 Handle WallMouse::HandleUnder(const WallScale &scale, QPoint point) const
 {
-    if (m_editor.Chosen().size() != 1 || m_drawing)
+    if (m_editor.Selected().size() != 1 || m_drawing)
         return NoHandle;
-    return HandleAt(scale, m_editor.ChosenRects().first(), point);
+    return HandleAt(scale, m_editor.SelectedRects().first(), point);
 }
 
 void WallMouse::Press(const WallScale &scale, const Grip &grip)
@@ -61,15 +61,15 @@ void WallMouse::Press(const WallScale &scale, const Grip &grip)
     } else if (area >= 0) {
         if (adds)
             m_editor.Toggle(area);
-        else if (!m_editor.Chosen().contains(area))
-            m_editor.Choose({area});
-        m_drag = m_editor.Chosen().contains(area) ? Drag::Move : Drag::None;
+        else if (!m_editor.Selected().contains(area))
+            m_editor.Select({area});
+        m_drag = m_editor.Selected().contains(area) ? Drag::Move : Drag::None;
     } else {
         if (!adds)
-            m_editor.Choose({});
-        m_drag = Drag::Choose;
+            m_editor.Select({});
+        m_drag = Drag::Select;
     }
-    m_rects = m_editor.ChosenRects();
+    m_rects = m_editor.SelectedRects();
 }
 
 SnapLines WallMouse::Lines(const Grip &grip) const
@@ -78,7 +78,7 @@ SnapLines WallMouse::Lines(const Grip &grip) const
         return {};
     QVector<QRect> others;
     for (int area = 0; area < m_editor.Wall().AreaCount(); ++area) {
-        const bool moves = m_drag != Drag::Draw && m_editor.Chosen().contains(area);
+        const bool moves = m_drag != Drag::Draw && m_editor.Selected().contains(area);
         if (!moves)
             others.append(m_editor.Wall().Geometry(area));
     }
@@ -97,13 +97,13 @@ void WallMouse::Move(const WallScale &scale, const Grip &grip)
     if (!m_isFar)
         return;
     if (m_drag == Drag::Move || m_drag == Drag::Resize)
-        DragChosen(scale, grip);
+        DragSelected(scale, grip);
     else
         DragBand(scale, grip);
     emit Changed();
 }
 
-void WallMouse::DragChosen(const WallScale &scale, const Grip &grip)
+void WallMouse::DragSelected(const WallScale &scale, const Grip &grip)
 {
     const QPoint wanted = scale.NearestCorner(grip.point) - m_from;
     const int reach = qMax(1, kReach / scale.zoom);
@@ -138,20 +138,20 @@ void WallMouse::Release(const WallScale &, const Grip &grip)
     m_guides = {};
     if (drag == Drag::Draw)
         FinishDrawing();
-    else if (drag == Drag::Choose && m_isFar)
-        ChooseWithin(m_band, grip.keys & (Qt::ShiftModifier | Qt::ControlModifier));
+    else if (drag == Drag::Select && m_isFar)
+        SelectWithin(m_band, grip.keys & (Qt::ShiftModifier | Qt::ControlModifier));
     m_editor.Document().EndMerging();
     emit Changed();
 }
 
-void WallMouse::ChooseWithin(const QRect &band, bool keeps)
+void WallMouse::SelectWithin(const QRect &band, bool keeps)
 {
-    QVector<int> areas = keeps ? m_editor.Chosen() : QVector<int>();
+    QVector<int> areas = keeps ? m_editor.Selected() : QVector<int>();
     for (int area = 0; area < m_editor.Wall().AreaCount(); ++area) {
         if (m_editor.Wall().Geometry(area).intersects(band))
             areas.append(area);
     }
-    m_editor.Choose(areas);
+    m_editor.Select(areas);
 }
 
 void WallMouse::FinishDrawing()
@@ -182,7 +182,7 @@ bool WallMouse::Cancel()
 
 std::optional<QRect> WallMouse::Band() const
 {
-    const bool isShown = m_isFar && (m_drag == Drag::Draw || m_drag == Drag::Choose);
+    const bool isShown = m_isFar && (m_drag == Drag::Draw || m_drag == Drag::Select);
     return isShown ? std::optional<QRect>(m_band) : std::nullopt;
 }
 

@@ -46,14 +46,14 @@ Q_SIGNALS:
     void DrawingChanged();
 
 private:
-    enum class Drag { None, Move, Resize, Choose, Draw };
+    enum class Drag { None, Move, Resize, Select, Draw };
 
     int AreaAt(QPoint pixel) const;
     Handle HandleUnder(const WallScale &scale, QPoint point) const;
     SnapLines Lines(const Grip &grip) const;
-    void DragChosen(const WallScale &scale, const Grip &grip);
+    void DragSelected(const WallScale &scale, const Grip &grip);
     void DragBand(const WallScale &scale, const Grip &grip);
-    void ChooseWithin(const QRect &band, bool keeps);
+    void SelectWithin(const QRect &band, bool keeps);
     void FinishDrawing();
 
     WallEditor &m_editor;

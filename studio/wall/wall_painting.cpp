@@ -36,12 +36,12 @@ Marks MarksFrom(int origin, int zoom)
     return {step, before - (before % step + step) % step};
 }
 
-void PaintTopRuler(QPainter &painter, const WallScale &scale, int length, const QRect &chosen)
+void PaintTopRuler(QPainter &painter, const WallScale &scale, int length, const QRect &selected)
 {
     painter.fillRect(0, 0, length, kRulerWidth, kRuler);
-    if (!chosen.isEmpty()) {
-        const QRect span = scale.ToView(chosen);
-        painter.fillRect(span.x(), kRulerWidth - 4, span.width(), 4, kChosen);
+    if (!selected.isEmpty()) {
+        const QRect span = scale.ToView(selected);
+        painter.fillRect(span.x(), kRulerWidth - 4, span.width(), 4, kSelected);
     }
     const Marks marks = MarksFrom(scale.origin.x(), scale.zoom);
     for (int at = marks.first;; at += marks.step / 4) {
@@ -56,15 +56,15 @@ void PaintTopRuler(QPainter &painter, const WallScale &scale, int length, const 
 }
 
 /// Background and selection mark are drawn transposed, ticks and numbers are not.
-void PaintLeftRuler(QPainter &painter, const WallScale &scale, int length, const QRect &chosen)
+void PaintLeftRuler(QPainter &painter, const WallScale &scale, int length, const QRect &selected)
 {
     painter.save();
     painter.rotate(90);
     painter.scale(1, -1);
     painter.fillRect(0, 0, length, kRulerWidth, kRuler);
-    if (!chosen.isEmpty()) {
-        const QRect span = scale.ToView(chosen);
-        painter.fillRect(span.y(), kRulerWidth - 4, span.height(), 4, kChosen);
+    if (!selected.isEmpty()) {
+        const QRect span = scale.ToView(selected);
+        painter.fillRect(span.y(), kRulerWidth - 4, span.height(), 4, kSelected);
     }
     painter.restore();
     const Marks marks = MarksFrom(scale.origin.y(), scale.zoom);
@@ -106,17 +106,17 @@ void PaintModules(QPainter &painter, const WallScale &scale, QSize screen, QSize
     }
 }
 
-void PaintOutline(QPainter &painter, const WallScale &scale, const QRect &area, bool isChosen)
+void PaintOutline(QPainter &painter, const WallScale &scale, const QRect &area, bool isSelected)
 {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(isChosen ? kChosen : kOutline, isChosen ? 2 : 1,
-                        isChosen ? Qt::SolidLine : Qt::DotLine));
+    painter.setPen(QPen(isSelected ? kSelected : kOutline, isSelected ? 2 : 1,
+                        isSelected ? Qt::SolidLine : Qt::DotLine));
     painter.drawRect(scale.ToView(area));
 }
 
 void PaintHandles(QPainter &painter, const WallScale &scale, const QRect &area)
 {
-    painter.setPen(QPen(kChosen, 1));
+    painter.setPen(QPen(kSelected, 1));
     painter.setBrush(Qt::white);
     for (const Handle handle : Handles())
         painter.drawRect(HandleRect(scale, area, handle));
@@ -139,9 +139,9 @@ void PaintGuides(QPainter &painter, const WallScale &scale, const SnapLines &gui
 
 void PaintBand(QPainter &painter, const WallScale &scale, const QRect &band)
 {
-    QColor fill = kChosen;
+    QColor fill = kSelected;
     fill.setAlpha(40);
-    painter.setPen(QPen(kChosen, 1, Qt::DashLine));
+    painter.setPen(QPen(kSelected, 1, Qt::DashLine));
     painter.setBrush(fill);
     painter.drawRect(scale.ToView(band));
 }
@@ -152,20 +152,20 @@ void PaintTag(QPainter &painter, const WallScale &scale, const QRect &rect, cons
     const QSize size = painter.fontMetrics().size(Qt::TextSingleLine, text) + QSize(12, 6);
     const QRect tag(QPoint(view.center().x() - size.width() / 2, view.bottom() + 8), size);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(kChosen);
+    painter.setBrush(kSelected);
     painter.drawRoundedRect(tag, 3, 3);
     painter.setPen(QColor(0x10, 0x18, 0x24));
     painter.drawText(tag, Qt::AlignCenter, text);
 }
 
-void PaintRulers(QPainter &painter, const WallScale &scale, QSize view, const QRect &chosen)
+void PaintRulers(QPainter &painter, const WallScale &scale, QSize view, const QRect &selected)
 {
     QFont font = painter.font();
     font.setPixelSize(10);
     painter.setFont(font);
     painter.setPen(kRulerInk);
-    PaintTopRuler(painter, scale, view.width(), chosen);
-    PaintLeftRuler(painter, scale, view.height(), chosen);
+    PaintTopRuler(painter, scale, view.width(), selected);
+    PaintLeftRuler(painter, scale, view.height(), selected);
     painter.fillRect(0, 0, kRulerWidth, kRulerWidth, kRuler);
 }
 

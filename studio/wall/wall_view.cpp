@@ -37,7 +37,7 @@ WallView::WallView(WallEditor &editor, QWidget *parent)
         viewport()->update(m_scale.ToView(region));
     });
     connect(&m_editor.Wall(), &LiveWall::ClocksMade, viewport(), QOverload<>::of(&QWidget::update));
-    connect(&m_editor, &WallEditor::ChoiceChanged, this, &WallView::TellChoice);
+    connect(&m_editor, &WallEditor::SelectionChanged, this, &WallView::TellChoice);
     connect(&m_mouse, &WallMouse::Changed, viewport(), QOverload<>::of(&QWidget::update));
     connect(&m_mouse, &WallMouse::DrawingChanged, this, [this] {
         viewport()->setCursor(m_mouse.Drawing() ? Qt::CrossCursor : Qt::ArrowCursor);
@@ -112,8 +112,8 @@ void WallView::paintEvent(QPaintEvent *event)
     painter.fillRect(event->rect(), kCanvas);
     PaintWall(painter, event->rect());
     PaintMarks(painter);
-    QRect chosen = Around(m_editor.ChosenRects());
-    PaintRulers(painter, m_scale, viewport()->size(), chosen);
+    QRect selected = Around(m_editor.SelectedRects());
+    PaintRulers(painter, m_scale, viewport()->size(), selected);
 }
 
 void WallView::PaintWall(QPainter &painter, const QRect &exposed)
@@ -137,21 +137,21 @@ void WallView::PaintMarks(QPainter &painter)
         PaintModules(painter, m_scale, m_editor.Wall().Size(), m_module);
     if (m_editor.Wall().AreaCount() == 0 && !m_mouse.Band())
         PaintHint(painter);
-    const QVector<int> &chosen = m_editor.Chosen();
+    const QVector<int> &selected = m_editor.Selected();
     for (int area = 0; area < m_editor.Wall().AreaCount(); ++area) {
         const bool isOutside =
             !QRect(QPoint(), m_editor.Wall().Size()).contains(m_editor.Wall().Geometry(area));
-        if (!chosen.contains(area) && (area == m_mouse.Hovered() || isOutside))
+        if (!selected.contains(area) && (area == m_mouse.Hovered() || isOutside))
             PaintOutline(painter, m_scale, m_editor.Wall().Geometry(area), false);
     }
-    for (const int area : chosen) {
+    for (const int area : selected) {
         if (area < m_editor.Wall().AreaCount())
             PaintOutline(painter, m_scale, m_editor.Wall().Geometry(area), true);
     }
-    if (chosen.size() == 1 && chosen.first() < m_editor.Wall().AreaCount())
-        PaintHandles(painter, m_scale, m_editor.Wall().Geometry(chosen.first()));
+    if (selected.size() == 1 && selected.first() < m_editor.Wall().AreaCount())
+        PaintHandles(painter, m_scale, m_editor.Wall().Geometry(selected.first()));
     PaintGuides(painter, m_scale, m_mouse.Guides(), m_editor.Wall().Size());
-    const QRect dragged = m_mouse.Band().value_or(Around(m_editor.ChosenRects()));
+    const QRect dragged = m_mouse.Band().value_or(Around(m_editor.SelectedRects()));
     if (m_mouse.Band())
         PaintBand(painter, m_scale, dragged);
     if (m_mouse.IsDragging() && !dragged.isEmpty())
@@ -186,7 +186,7 @@ void WallView::mousePressEvent(QMouseEvent *event)
     // The right button opens a menu, for a clock that it selects first.
     const bool selects = event->button() == Qt::RightButton && !m_mouse.IsDragging()
         && !m_mouse.Drawing() && m_mouse.Hovered() >= 0
-        && !m_editor.Chosen().contains(m_mouse.Hovered());
+        && !m_editor.Selected().contains(m_mouse.Hovered());
     if (event->button() == Qt::LeftButton || selects)
         m_mouse.Press(m_scale, {event->pos(), event->modifiers(), m_module});
     if (selects)
@@ -243,8 +243,8 @@ void WallView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape) {
         if (!m_mouse.Cancel())
-            m_editor.Choose({});
-    } else if (m_editor.Chosen().isEmpty() || !MoveByKey(*event)) {
+            m_editor.Select({});
+    } else if (m_editor.Selected().isEmpty() || !MoveByKey(*event)) {
         QAbstractScrollArea::keyPressEvent(event);
     }
 }
@@ -253,22 +253,23 @@ void WallView::keyPressEvent(QKeyEvent *event)
 bool WallView::focusNextPrevChild(bool next)
 {
     const int count = m_editor.Wall().AreaCount();
-    const int now = m_editor.Chosen().isEmpty() ? (next ? -1 : count) : m_editor.Chosen().last();
+    const int now =
+        m_editor.Selected().isEmpty() ? (next ? -1 : count) : m_editor.Selected().last();
     const int then = now + (next ? 1 : -1);
     if (!hasFocus() || then < 0 || then >= count)
         return QAbstractScrollArea::focusNextPrevChild(next);
-    m_editor.Choose({then});
+    m_editor.Select({then});
     return true;
 }
 
 void WallView::TellChoice()
 {
     viewport()->update();
-    const QVector<int> &chosen = m_editor.Chosen();
+    const QVector<int> &selected = m_editor.Selected();
     setAccessibleDescription(
-        chosen.size() == 1
-            ? tr("Clock %1 of %2").arg(chosen.first() + 1).arg(m_editor.Wall().AreaCount())
-            : tr("%n clock(s) selected", nullptr, chosen.size()));
+        selected.size() == 1
+            ? tr("Clock %1 of %2").arg(selected.first() + 1).arg(m_editor.Wall().AreaCount())
+            : tr("%n clock(s) selected", nullptr, selected.size()));
     QAccessibleEvent event(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
 }

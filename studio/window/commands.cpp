@@ -12,7 +12,7 @@ QVector<QAction *> AddCommands(QMenu &menu, const QVector<Command> &commands)
         }
         QAction *const action = menu.addAction(command.text);
         action->setShortcuts(command.keys.toList());
-        action->setProperty("needsChoice", command.needsChoice);
+        action->setProperty("needsSelection", command.needsSelection);
         QObject::connect(action, &QAction::triggered, action, command.act);
         actions.append(action);
     }

@@ -14,7 +14,7 @@ struct Command
     QString text; ///< empty for a separator
     QVector<QKeySequence> keys;
     std::function<void()> act;
-    bool needsChoice = false; ///< enabled only while a clock is selected
+    bool needsSelection = false; ///< enabled only while a clock is selected
 };
 
 /// Adds commands to a menu, in their order.

@@ -136,7 +136,7 @@ void MainWindow::MakeEditMenu()
         kSeparator,
         {tr("Select &all clocks"),
          {QKeySequence::SelectAll},
-         inText(&SourceView::selectAll, [this] { m_editor.ChooseAll(); })}};
+         inText(&SourceView::selectAll, [this] { m_editor.SelectAll(); })}};
     for (QAction *const action : AddCommands(*menu, commands)) {
         action->setProperty("needsWall", true);
         m_actions.append(action);
@@ -241,7 +241,7 @@ void MainWindow::MakeLanguageMenu(QMenu &view)
         languages->addAction(action);
         connect(action, &QAction::triggered, this, [this, language] {
             ClockCatalogues::Install(language);
-            m_wall.MakeAgain();
+            m_wall.RecreateClocks();
         });
     }
 }
@@ -318,7 +318,7 @@ void MainWindow::MakeStatus()
     connect(m_view, &WallView::MenuWanted, this, [this](const QPoint &place) {
         QMenu menu;
         for (QAction *const action : qAsConst(m_actions)) {
-            if (action->property("needsChoice").toBool())
+            if (action->property("needsSelection").toBool())
                 menu.addAction(action);
         }
         menu.exec(place);

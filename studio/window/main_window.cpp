@@ -47,7 +47,7 @@ MainWindow::MainWindow(const QString &recoveryDirectory, QWidget *parent)
             {{tr("Save"), [this] { Save(); }}, {tr("Dismiss"), {}}});
     });
     connect(&m_document, &StudioDocument::Read, this, &MainWindow::UpdateState);
-    connect(&m_editor, &WallEditor::ChoiceChanged, this, &MainWindow::UpdateCommands);
+    connect(&m_editor, &WallEditor::SelectionChanged, this, &MainWindow::UpdateCommands);
     resize(1240, 800);
     ReadSettings();
     UpdateCommands();
@@ -230,10 +230,10 @@ void MainWindow::SayProblem(const QString &text)
 
 void MainWindow::OfferRecovery()
 {
-    const QVector<LeftWork> left = m_files.LeftWorks();
+    const QVector<UnsavedWork> left = m_files.Recoverable();
     if (left.isEmpty())
         return;
-    const LeftWork work = left.first();
+    const UnsavedWork work = left.first();
     const QString name = work.path.isEmpty() ? tr("a new wall") : work.path;
     m_messages->Ask(
         tr("The studio closed unexpectedly. Unsaved changes to %1 can be recovered.").arg(name),
@@ -243,7 +243,7 @@ void MainWindow::OfferRecovery()
                                                             }}});
 }
 
-void MainWindow::Recover(const LeftWork &work)
+void MainWindow::Recover(const UnsavedWork &work)
 {
     if (MayLeave()) {
         m_files.Recover(work);
@@ -275,10 +275,10 @@ void MainWindow::UpdateCommands()
 {
     const bool hasWall = m_pages->currentIndex() == 1;
     for (QAction *const action : qAsConst(m_actions)) {
-        const bool needsChoice = action->property("needsChoice").toBool();
+        const bool needsSelection = action->property("needsSelection").toBool();
         const bool needsWall = action->property("needsWall").toBool();
-        action->setEnabled((hasWall || !(needsWall || needsChoice))
-                           && (!needsChoice || !m_editor.Chosen().isEmpty()));
+        action->setEnabled((hasWall || !(needsWall || needsSelection))
+                           && (!needsSelection || !m_editor.Selected().isEmpty()));
     }
     m_undo->setEnabled(hasWall && m_document.History().canUndo());
     m_redo->setEnabled(hasWall && m_document.History().canRedo());

@@ -75,7 +75,7 @@ private:
     void ShowWallPage();
     /// Offers, one at a time, to recover the unsaved work of studios that crashed.
     void OfferRecovery();
-    void Recover(const LeftWork &work);
+    void Recover(const UnsavedWork &work);
     void AskAboutChange();
     void SayProblem(const QString &text);
     void SayWritten(const QString &path, const std::optional<QString> &problem);

@@ -43,7 +43,7 @@ QLabel *Line()
 SendDialog::SendDialog(const QString &program, QWidget *parent)
     : QDialog(parent), m_program(program), m_targets(KnownTargets()), m_name(new QComboBox),
       m_host(new QLineEdit), m_folder(new QLineEdit), m_key(new QLineEdit), m_status(new QLineEdit),
-      m_said(Line()), m_word(Line()), m_releases(new QListWidget),
+      m_said(Line()), m_wallStatus(Line()), m_releases(new QListWidget),
       m_again(Button(tr("Play the selected release")))
 {
     setWindowTitle(tr("Send to a wall"));
@@ -52,11 +52,11 @@ SendDialog::SendDialog(const QString &program, QWidget *parent)
     AddFields(*form);
     layout->addLayout(form);
     layout->addWidget(m_said);
-    layout->addWidget(m_word);
+    layout->addWidget(m_wallStatus);
     AddReleases();
     AddButtons();
     connect(&m_watch, &WallWatch::Heard, this,
-            [this](const WallWord &word) { m_word->setText(WordText(word)); });
+            [this](const WallStatus &status) { m_wallStatus->setText(StatusText(status)); });
     for (const WallTarget &target : qAsConst(m_targets))
         m_name->addItem(target.name);
     ShowTarget(0);
@@ -148,7 +148,7 @@ void SendDialog::ShowTarget(int index)
     m_key->setText(target.key);
     m_status->setText(target.statusFile);
     m_said->clear();
-    m_word->clear();
+    m_wallStatus->clear();
     m_watch.Stop();
     m_releases->clear();
 }
@@ -169,7 +169,7 @@ void SendDialog::KeepTarget()
 bool SendDialog::IsComplete()
 {
     m_watch.Stop();
-    m_word->clear();
+    m_wallStatus->clear();
     m_said->setText(TargetFault(Target()));
     return m_said->text().isEmpty();
 }
@@ -214,7 +214,7 @@ void SendDialog::Follow(const QString &said)
 {
     m_said->setText(said);
     if (!Target().statusFile.isEmpty())
-        m_word->setText(tr("Waiting for the wall to play the release…"));
+        m_wallStatus->setText(tr("Waiting for the wall to play the release…"));
     m_watch.Follow(Target());
     if (m_releases->isVisible())
         ListReleases();

@@ -51,7 +51,7 @@ private:
     QLineEdit *m_key;
     QLineEdit *m_status;
     QLabel *m_said;
-    QLabel *m_word;
+    QLabel *m_wallStatus;
     QListWidget *m_releases;
     QPushButton *m_again;
     WallWatch m_watch;

@@ -15,7 +15,7 @@ class TestProgramWatch : public QObject
 private slots:
     void ChangedFileIsReadOnce();
     void BrokenFileIsReportedOnceItStaysTheSame();
-    void FileMendedInTimeIsNotReported();
+    void FileFixedInTimeIsNotReported();
     void Signatures();
 };
 
@@ -54,7 +54,7 @@ void TestProgramWatch::BrokenFileIsReportedOnceItStaysTheSame()
     QVERIFY(watch.Check(Version(2)) == Step::Wait);
 }
 
-void TestProgramWatch::FileMendedInTimeIsNotReported()
+void TestProgramWatch::FileFixedInTimeIsNotReported()
 {
     ProgramWatch watch(Version(1));
     QVERIFY(watch.Check(Version(2)) == Step::Read);

@@ -19,7 +19,7 @@ private slots:
     void WholeSeconds();
     void SystemTime();
     void HeldTime();
-    void ReadingsOfPlugins();
+    void OnlyPluginsCallsAreRecorded();
     void RunningTime();
 };
 
@@ -123,19 +123,19 @@ void TestInstant::HeldTime()
     QCOMPARE(StageTime::TellPlugin(), 3000LL);
 }
 
-void TestInstant::ReadingsOfPlugins()
+void TestInstant::OnlyPluginsCallsAreRecorded()
 {
     StageTime::HoldAt(1700);
-    StageTime::TakeReading();
+    StageTime::TakePluginTime();
     QCOMPARE(StageTime::Shown(), qint64(1700));
-    QVERIFY(!StageTime::TakeReading()); // the player's own readings are not noted
+    QVERIFY(!StageTime::TakePluginTime()); // the player's own calls are not recorded
     const double before = StageTime::Steady();
     StageTime::TellPlugin();
-    const std::optional<StageTime::Reading> reading = StageTime::TakeReading();
-    QVERIFY(reading.has_value());
-    QCOMPARE(reading->instant, qint64(1700));
-    QVERIFY(reading->steady >= before && reading->steady <= StageTime::Steady());
-    QVERIFY(!StageTime::TakeReading());
+    const std::optional<StageTime::PluginTime> told = StageTime::TakePluginTime();
+    QVERIFY(told.has_value());
+    QCOMPARE(told->instant, qint64(1700));
+    QVERIFY(told->steady >= before && told->steady <= StageTime::Steady());
+    QVERIFY(!StageTime::TakePluginTime());
 }
 
 void TestInstant::RunningTime()

@@ -1,5 +1,5 @@
 // The list of findings: filled as they arise, with what a check of a whole year finds; a click
-// chooses clock and property, a button mends.
+// selects clock and property, a button fixes it.
 #include "studio_under_test.h"
 
 #include "findings/findings_panel.h"
@@ -65,14 +65,14 @@ class TestFindings : public QObject
 
 private slots:
     void initTestCase() { QVERIFY(ClockCatalogues::Install("en")); }
-    void arisesAndIsMended();
+    void AppearsAndIsFixed();
     void allAtOnce();
     void brokenTextHasNone();
     void typingDropsWhatIsChecked();
     void eventsAreHandledMeanwhile();
 };
 
-void TestFindings::arisesAndIsMended()
+void TestFindings::AppearsAndIsFixed()
 {
     FindingsUnderTest test(QByteArray(kCut).replace("44", "9"));
     QTRY_VERIFY_WITH_TIMEOUT(test.RowWith("cut") < 0, 1000);
@@ -81,12 +81,12 @@ void TestFindings::arisesAndIsMended()
     QTRY_VERIFY_WITH_TIMEOUT(test.RowWith("cut") >= 0, 60000);
     QSignalSpy wanted(&test.panel, &FindingsPanel::PropertyWanted);
     test.panel.findChild<QListWidget *>()->setCurrentRow(test.RowWith("cut"));
-    QCOMPARE(test.studio.editor.Chosen(), QVector<int> {1});
+    QCOMPARE(test.studio.editor.Selected(), QVector<int> {1});
     QCOMPARE(wanted.count(), 1);
     QCOMPARE(wanted.first().first().toString(), QString("DigitalTimeFSize"));
-    auto *const mend = test.panel.findChild<QPushButton *>();
-    QVERIFY(mend->isEnabled());
-    QTest::mouseClick(mend, Qt::LeftButton);
+    auto *const fix = test.panel.findChild<QPushButton *>();
+    QVERIFY(fix->isEnabled());
+    QTest::mouseClick(fix, Qt::LeftButton);
     QVERIFY(!test.studio.document.Text().contains("\"44\""));
     test.panel.CheckAll();
     QVERIFY(test.RowWith("cut") < 0);

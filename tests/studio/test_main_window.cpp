@@ -220,7 +220,7 @@ void TestMainWindow::commandsNeedAWall()
     WindowUnderTest test;
     QVERIFY(test.Command("Send to a wall")->isEnabled());
     QVERIFY(!test.Command("Duplicate")->isEnabled());
-    test.window.Editor().Choose({0});
+    test.window.Editor().Select({0});
     QVERIFY(test.Command("Duplicate")->isEnabled());
     test.window.ShowGallery();
     QVERIFY(!test.Command("Send to a wall")->isEnabled());
@@ -235,17 +235,17 @@ void TestMainWindow::undoFollowsTheHistory()
         return QString::number(int(test.CommandOf(QKeySequence::Undo)->isEnabled()))
             + QString::number(int(test.CommandOf(QKeySequence::Redo)->isEnabled()));
     };
-    test.window.Editor().Choose({0});
+    test.window.Editor().Select({0});
     QCOMPARE(enabled(), QString("00"));
     test.Widen();
-    test.window.Editor().Choose({});
+    test.window.Editor().Select({});
     QCOMPARE(enabled(), QString("10"));
     test.window.ShowGallery();
     QCOMPARE(enabled(), QString("00"));
     test.Press("Back to the wall");
     QCOMPARE(enabled(), QString("10"));
     test.window.Document().History().undo();
-    test.window.Editor().Choose({0});
+    test.window.Editor().Select({0});
     QCOMPARE(enabled(), QString("01"));
 }
 
@@ -389,7 +389,7 @@ void TestMainWindow::recoversAllThatWasLeft()
     QVERIFY(window.Editor().Wall().Size().width() <= 2);
     QVERIFY(window.isWindowModified());
     QVERIFY(window.Files().Path().isEmpty());
-    QVERIFY(window.Files().LeftWorks().isEmpty());
+    QVERIFY(window.Files().Recoverable().isEmpty());
     window.Files().GiveUp();
 }
 

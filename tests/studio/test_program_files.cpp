@@ -165,10 +165,10 @@ void TestProgramFiles::RecoversAfterAKill()
     }
     QTRY_COMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 1);
     RecoveryStore store(directory);
-    QVERIFY(store.Left().isEmpty()); // it still runs
+    QVERIFY(store.Recoverable().isEmpty()); // it still runs
     QCOMPARE(kill(child, SIGKILL), 0);
     QCOMPARE(waitpid(child, nullptr, 0), child);
-    const QVector<LeftWork> left = store.Left();
+    const QVector<UnsavedWork> left = store.Recoverable();
     QCOMPARE(left.size(), 1);
     QCOMPARE(left.first().path, QString("/somewhere/wall.xml"));
     QCOMPARE(left.first().bytes, QByteArray("<kept/>"));
@@ -177,7 +177,7 @@ void TestProgramFiles::RecoversAfterAKill()
     files.Recover(left.first());
     QCOMPARE(document.Text(), QString("<kept/>"));
     QVERIFY(!files.IsSaved());
-    QVERIFY(store.Left().isEmpty()); // it is the work of a studio that runs
+    QVERIFY(store.Recoverable().isEmpty()); // it is the work of a studio that runs
 }
 
 void TestProgramFiles::SavedWorkIsNotRecovered()
@@ -195,7 +195,7 @@ void TestProgramFiles::SavedWorkIsNotRecovered()
         QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 0);
     }
     QVERIFY(Write(directory + "/broken.work", "no work"));
-    QVERIFY(RecoveryStore(directory).Left().isEmpty());
+    QVERIFY(RecoveryStore(directory).Recoverable().isEmpty());
 }
 
 void TestProgramFiles::Recent()

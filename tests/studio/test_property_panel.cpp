@@ -133,7 +133,7 @@ bool IsOfOneFamily(Attribute attribute)
     return attribute == Attribute::AnalogLunarFName || attribute == Attribute::DigitalLunarFName;
 }
 
-/// A wall with one clock that shows everything, chosen, and its panel.
+/// A wall with one clock that shows everything, selected, and its panel.
 struct PanelUnderTest
 {
     StudioUnderTest studio;
@@ -144,7 +144,7 @@ struct PanelUnderTest
         studio.WaitForClocks();
         if (!studio.wall.Clock(0))
             qFatal("%s", qPrintable(studio.wall.Refusal(0)));
-        studio.editor.Choose({0});
+        studio.editor.Select({0});
         panel.resize(360, 700);
         panel.show();
     }
@@ -344,9 +344,9 @@ void TestPropertyPanel::setsPlace()
             QTest::keyClicks(box, step.value);
             QTest::keyClick(box, Qt::Key_Return);
         }
-        QCOMPARE(test.studio.editor.ChosenRects(), QVector<QRect> {step.place});
+        QCOMPARE(test.studio.editor.SelectedRects(), QVector<QRect> {step.place});
     }
-    test.studio.editor.Choose({});
+    test.studio.editor.Select({});
     auto *const width = test.panel.findChild<QSpinBox *>();
     QVERIFY(width->isVisible());
     width->selectAll();
@@ -396,8 +396,8 @@ void TestPropertyPanel::setsZone()
     test.panel.Zone().Choose("Australia/Lord_Howe");
     test.studio.WaitForClocks();
     QVERIFY2(said().contains("by 30 minute"), qPrintable(said()));
-    test.studio.editor.Choose({});
-    test.studio.editor.Choose({0});
+    test.studio.editor.Select({});
+    test.studio.editor.Select({0});
     QVERIFY2(said().contains("by 30 minute"), qPrintable(said()));
     test.panel.Zone().Choose("America/Nuuk"); // on the day before the last Sunday
     test.studio.WaitForClocks();
@@ -416,7 +416,7 @@ void TestPropertyPanel::setsSeveralClocks()
                    .replace("key=\"DigitalSpace\" value=\"0\"", "")
                    .replace("value=\"9\"", "value=\"8\""));
     PanelUnderTest test(two);
-    test.studio.editor.ChooseAll();
+    test.studio.editor.SelectAll();
     auto *const size =
         test.panel.findChild<QSpinBox *>(Key(Attribute::DigitalTimeFSize) + "Control");
     QCOMPARE(size->text(), QString("–"));

@@ -2,8 +2,8 @@
 #include "sample_programs.h"
 
 #include "files/tool_run.h"
+#include "files/wall_status.h"
 #include "files/wall_target.h"
-#include "files/wall_word.h"
 #include "window/send_dialog.h"
 
 #include "catalogues.h"
@@ -287,31 +287,31 @@ void TestSending::Words_data()
 {
     QTest::addColumn<QByteArray>("status");
     QTest::addColumn<int>("state");
-    const auto row = [](const char *name, const char *status, WallWord::State state) {
+    const auto row = [](const char *name, const char *status, WallStatus::State state) {
         QTest::newRow(name) << QByteArray(status) << int(state);
     };
     row("plays", R"({"format": 1, "written": "2026-01-01T12:00:00Z", "program_sha256": "DIGEST"})",
-        WallWord::State::Plays);
+        WallStatus::State::Plays);
     row("plays another",
         R"({"format": 1, "written": "2026-01-01T12:00:00Z", "program_sha256": "0123"})",
-        WallWord::State::PlaysOther);
+        WallStatus::State::PlaysOther);
     row("played nothing yet",
         R"({"format": 1, "written": "2026-01-01T12:00:00Z", "program_sha256": null})",
-        WallWord::State::PlaysOther);
+        WallStatus::State::PlaysOther);
     row("notice",
         R"({"format": 1, "written": "2026-01-01T12:00:00Z", "program_sha256": "DIGEST",
             "notice": "P2"})",
-        WallWord::State::Notice);
+        WallStatus::State::Notice);
     row("an hour old",
         R"({"format": 1, "written": "2026-01-01T11:00:00Z", "program_sha256": "DIGEST"})",
-        WallWord::State::Outdated);
+        WallStatus::State::Outdated);
     row("another format",
         R"({"format": 2, "written": "2026-01-01T12:00:00Z", "program_sha256": "DIGEST"})",
-        WallWord::State::Unknown);
-    row("no time", R"({"format": 1, "program_sha256": "DIGEST"})", WallWord::State::Unknown);
-    row("half", R"({"format": 1, "writ)", WallWord::State::Unknown);
-    row("a list", "[]", WallWord::State::Unknown);
-    row("nothing", "", WallWord::State::Unknown);
+        WallStatus::State::Unknown);
+    row("no time", R"({"format": 1, "program_sha256": "DIGEST"})", WallStatus::State::Unknown);
+    row("half", R"({"format": 1, "writ)", WallStatus::State::Unknown);
+    row("a list", "[]", WallStatus::State::Unknown);
+    row("nothing", "", WallStatus::State::Unknown);
 }
 
 void TestSending::Words()
@@ -329,12 +329,12 @@ void TestSending::Words()
     QCOMPARE(digest.size(), 64);
     QVERIFY(Write(target.statusFile, status.replace("DIGEST", digest)));
     const auto now = QDateTime::fromString("2026-01-01T12:01:00Z", Qt::ISODate);
-    const WallWord word = ReadWallWord(OutputOf(WordCommand(target)), now);
+    const WallStatus word = ReadWallStatus(OutputOf(StatusCommand(target)), now);
     QCOMPARE(int(word.state), state);
-    QVERIFY(!WordText(word).isEmpty());
+    QVERIFY(!StatusText(word).isEmpty());
     QVERIFY(QFile::remove(target.statusFile));
-    QCOMPARE(int(ReadWallWord(OutputOf(WordCommand(target)), now).state),
-             int(WallWord::State::Unknown));
+    QCOMPARE(int(ReadWallStatus(OutputOf(StatusCommand(target)), now).state),
+             int(WallStatus::State::Unknown));
 }
 
 namespace {

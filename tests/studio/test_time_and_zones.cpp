@@ -2,7 +2,7 @@
 #include "sample_programs.h"
 
 #include "files/templates.h"
-#include "findings/finding_mend.h"
+#include "findings/finding_fix.h"
 #include "panels/time_changes.h"
 #include "panels/view_positions.h"
 #include "properties/zone_choice.h"
@@ -42,7 +42,7 @@ private slots:
     void Search();
     void Settings();
     void TemplatesAreGood();
-    void FindingsAreMended();
+    void FindingsAreFixed();
     void EditorPositions();
 };
 
@@ -121,26 +121,26 @@ void TestTimeAndZones::TemplatesAreGood()
     }
 }
 
-void TestTimeAndZones::FindingsAreMended()
+void TestTimeAndZones::FindingsAreFixed()
 {
     const ParsedProgram parsed =
         MustRead("<program width=\"9\" height=\"9\">\n<area x=\"0\" y=\"0\" width=\"9\" "
                  "height=\"9\">\n<clock type=\"digital\">\n<date colour=\"red\"/>\n</clock></area>"
                  "</program>");
-    bool isMended = false;
+    bool isFixed = false;
     for (const ClockTool::Finding &finding : FindingsIn(parsed)) {
         if (finding.place.element != "date")
             continue; // an area this small has others
         QCOMPARE(finding.place.line, 4);
         QCOMPARE(parsed.elements[ElementOf(parsed, finding)].name, QString("date"));
-        if (const auto edit = MendOf(parsed, finding)) {
+        if (const auto edit = FixOf(parsed, finding)) {
             QString text = parsed.text;
             ApplyEdits(text, {*edit});
             QVERIFY(text.contains("<date color=\"red\"/>"));
-            isMended = true;
+            isFixed = true;
         }
     }
-    QVERIFY(isMended);
+    QVERIFY(isFixed);
 }
 
 void TestTimeAndZones::EditorPositions()

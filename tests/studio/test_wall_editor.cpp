@@ -75,7 +75,7 @@ void TestWallEditor::movesWithoutMakingAgain()
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();
     auto *const clock = studio.wall.Clock(0);
-    studio.editor.Choose({0});
+    studio.editor.Select({0});
     studio.editor.MoveBy({64, 0});
     QCOMPARE(studio.wall.Clock(0), clock);
     QVERIFY(studio.document.Text().contains("<area x=\"64\" y=\"0\""));
@@ -107,7 +107,7 @@ void TestWallEditor::addsEveryKind()
         studio.editor.Add(kind, {8, 8, 64, 48});
         studio.WaitForClocks();
         QCOMPARE(studio.wall.AreaCount(), 1);
-        QCOMPARE(studio.editor.Chosen(), QVector<int> {0});
+        QCOMPARE(studio.editor.Selected(), QVector<int> {0});
         QCOMPARE(studio.wall.Geometry(0), QRect(8, 8, 64, 48));
         QVERIFY(studio.wall.Clock(0));
         studio.document.History().undo();
@@ -119,7 +119,7 @@ void TestWallEditor::addsEveryKind()
 void TestWallEditor::deletesAndUndoes()
 {
     StudioUnderTest studio(kTwo);
-    studio.editor.ChooseAll();
+    studio.editor.SelectAll();
     studio.editor.Delete();
     QCOMPARE(studio.wall.AreaCount(), 0);
     QVERIFY(studio.document.Parsed());
@@ -136,10 +136,10 @@ void TestWallEditor::duplicates()
         "<clock type",
         "<clock type=\"digital\"><attribute key=\"Id\" value=\"1000\"/></clock>\n"
         "  </area>\n  <area x=\"0\" y=\"0\" width=\"9\" height=\"9\">\n    <clock type"));
-    studio.editor.Choose({0});
+    studio.editor.Select({0});
     studio.editor.Duplicate();
     const int last = studio.wall.AreaCount() - 1;
-    QCOMPARE(studio.editor.Chosen(), QVector<int> {last});
+    QCOMPARE(studio.editor.Selected(), QVector<int> {last});
     QCOMPARE(studio.document.Text().count("value=\"1000\""), 2);
     QCOMPARE(studio.document.Text().count("value=\"1001\""), 1);
     QCOMPARE(studio.wall.Geometry(last).topLeft(), QPoint(8, 8));
@@ -148,7 +148,7 @@ void TestWallEditor::duplicates()
 void TestWallEditor::copiesAndPastes()
 {
     StudioUnderTest from(kTwo);
-    from.editor.Choose({1});
+    from.editor.Select({1});
     from.editor.Copy();
     QVERIFY(QGuiApplication::clipboard()->text().startsWith("<area x=\"64\""));
     StudioUnderTest to("<program width=\"128\" height=\"64\">\r\n</program>\r\n");
@@ -162,25 +162,25 @@ void TestWallEditor::copiesAndPastes()
 void TestWallEditor::bringsToFront()
 {
     StudioUnderTest studio(kTwo);
-    studio.editor.Choose({0});
+    studio.editor.Select({0});
     studio.editor.BringToFront();
-    QCOMPARE(studio.editor.Chosen(), QVector<int> {1});
+    QCOMPARE(studio.editor.Selected(), QVector<int> {1});
     QCOMPARE(studio.wall.Geometry(1), QRect(0, 0, 64, 32));
     studio.editor.SendToBack();
     QCOMPARE(studio.document.Text(), QString(kTwo));
-    QCOMPARE(studio.editor.Chosen(), QVector<int> {0});
+    QCOMPARE(studio.editor.Selected(), QVector<int> {0});
 }
 
 void TestWallEditor::choiceFollowsTheText()
 {
     StudioUnderTest studio(kTwo);
-    studio.editor.Choose({1});
+    studio.editor.Select({1});
     studio.document.Change({{0, "", "<!-- longer -->\n"}}, "typing");
-    QCOMPARE(studio.editor.Chosen(), QVector<int> {1});
+    QCOMPARE(studio.editor.Selected(), QVector<int> {1});
     const int begin = studio.document.Text().indexOf("  <area x=\"0\"");
     const int end = studio.document.Text().indexOf("  <area x=\"64\"");
     studio.document.Change({{begin, studio.document.Text().mid(begin, end - begin), ""}}, "cut");
-    QCOMPARE(studio.editor.Chosen(), QVector<int> {0});
+    QCOMPARE(studio.editor.Selected(), QVector<int> {0});
 }
 
 void TestWallEditor::brokenTextChangesNothing()
@@ -189,7 +189,7 @@ void TestWallEditor::brokenTextChangesNothing()
     studio.WaitForClocks();
     const QImage before = studio.Screen().copy();
     studio.document.Change({{0, "<", ""}}, "typing");
-    studio.editor.Choose({0});
+    studio.editor.Select({0});
     studio.editor.MoveBy({5, 5});
     studio.editor.Delete();
     studio.editor.Add(ClockKind::Digital, {0, 0, 9, 9});
@@ -204,7 +204,7 @@ void TestWallEditor::refusedClockIsEmpty()
     studio.WaitForClocks();
     QVERIFY(!studio.wall.Clock(0));
     QVERIFY(!studio.wall.Refusal(0).isEmpty());
-    studio.editor.Choose({0});
+    studio.editor.Select({0});
     studio.editor.MoveBy({1, 1});
     QVERIFY(studio.document.Text().contains("<area x=\"1\" y=\"1\""));
 }

@@ -61,7 +61,7 @@ void TestWallView::RightButtonSelects()
 {
     HoveredClock studio;
     Click(studio.view, Qt::RightButton, {32, 32});
-    QCOMPARE(studio.editor.Chosen(), QVector<int> {0});
+    QCOMPARE(studio.editor.Selected(), QVector<int> {0});
 }
 
 void TestWallView::RightButtonDrawsNothing()

@@ -6,7 +6,7 @@
 
 namespace ClockStudio {
 
-struct WallWord
+struct WallStatus
 {
     enum class State {
         Unknown,    ///< no readable status
@@ -21,11 +21,11 @@ struct WallWord
     QDateTime written; ///< when the status was written
 };
 
-/// Reads what WordCommand writes: a line with the digest of the current release's program, then the
-/// status.
-WallWord ReadWallWord(const QByteArray &output, const QDateTime &now);
+/// Reads what StatusCommand writes: a line with the digest of the current release's program, then
+/// the status.
+WallStatus ReadWallStatus(const QByteArray &output, const QDateTime &now);
 
 /// The status as a sentence for the user.
-QString WordText(const WallWord &word);
+QString StatusText(const WallStatus &word);
 
 } // namespace ClockStudio

@@ -19,6 +19,6 @@ int ElementOf(const ParsedProgram &parsed, const ClockTool::Finding &finding);
 QString KeyOf(const ClockTool::Finding &finding, int clockType);
 
 /// The edit that applies a finding's suggestion, if the finding then disappears.
-std::optional<TextEdit> MendOf(const ParsedProgram &parsed, const ClockTool::Finding &finding);
+std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const ClockTool::Finding &finding);
 
 } // namespace ClockStudio

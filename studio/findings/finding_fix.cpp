@@ -1,4 +1,4 @@
-#include "finding_mend.h"
+#include "finding_fix.h"
 
 #include "text/program_edits.h"
 
@@ -85,7 +85,7 @@ QString KeyOf(const Finding &finding, int clockType)
     return settings.isEmpty() ? QString() : Key(settings.last().target);
 }
 
-std::optional<TextEdit> MendOf(const ParsedProgram &parsed, const Finding &finding)
+std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const Finding &finding)
 {
     const int element = ElementOf(parsed, finding);
     if (finding.suggestion.isEmpty() || element < 0)
