@@ -97,14 +97,15 @@ private:
         }
     }
 
-    // A single row or column of pixels is hardly seen.
+    // Of most fonts the "T" and the "/" begin a pixel before their images; nobody sees it.
     void TellClipped(const QVector<Clipped> &all, const QRect &visible)
     {
         for (const Clipped &clipped : all) {
+            if (clipped.pixels <= 1)
+                continue;
             const int points = SizeWithAllInk(m_check, Node(), clipped.part, visible);
-            m_findings.Add(
-                {SizePlace(clipped.part), clipped.pixels > 1 ? Severity::Warning : Severity::Note,
-                 ClippedWords(clipped, points), points > 0 ? QString::number(points) : QString()});
+            m_findings.Warn(SizePlace(clipped.part), ClippedWords(clipped, points),
+                            points > 0 ? QString::number(points) : QString());
         }
     }
 
