@@ -101,25 +101,41 @@ private:
     bool m_fits = true;
 };
 
+struct Fitting
+{
+    QVector<SizeChange> changes;
+    bool fitsAll = true;
+};
+
+/// The program's clocks, which may take much memory, are gone when it returns.
+Result<Fitting> FindSizes(const ToolArguments &tool, const QByteArray &contents, qint64 begin)
+{
+    const Result<ProgramClocks> clocks = ParseClocks(contents, tool.Positional(0));
+    if (!clocks)
+        return clocks.Error();
+    const MaybeFailure large = ClockProgram::CheckFrameBytes(clocks->program);
+    if (large && !tool.AllowsLargeFrames())
+        return *large;
+    FitCommand fit(*clocks, begin, tool.IsSet(kGrow));
+    const QVector<SizeChange> changes = fit.Changes();
+    return Fitting {changes, fit.FitsAll()};
+}
+
 CommandResult Fit(const ToolArguments &tool, qint64 begin)
 {
     const QString path = tool.Positional(0);
     const Result<QByteArray> contents = ClockProgram::ReadContents(path);
     if (!contents)
         return Report(contents.Error());
-    const Result<ProgramClocks> clocks = ParseClocks(*contents, path);
-    if (!clocks)
-        return Report(clocks.Error());
-    const MaybeFailure large = ClockProgram::CheckFrameBytes(clocks->program);
-    if (large && !tool.AllowsLargeFrames())
-        return Report(*large);
-    FitCommand fit(*clocks, begin, tool.IsSet(kGrow));
-    const QVector<SizeChange> changes = fit.Changes();
-    Result<QByteArray> fitted = changes.isEmpty() ? contents : WithSizes(*contents, path, changes);
+    const Result<Fitting> found = FindSizes(tool, *contents, begin);
+    if (!found)
+        return Report(found.Error());
+    const Result<QByteArray> fitted =
+        found->changes.isEmpty() ? contents : WithSizes(*contents, path, found->changes);
     if (!fitted)
         return Report(fitted.Error());
     const CommandResult delivered = Deliver(tool.Output(), *fitted);
-    return delivered == ExitCode::Success && !fit.FitsAll() ? ExitCode::RuntimeFailure : delivered;
+    return delivered == ExitCode::Success && !found->fitsAll ? ExitCode::RuntimeFailure : delivered;
 }
 
 } // namespace

@@ -143,32 +143,41 @@ QVector<SizeChange> Missing(const QByteArray &contents, const QString &path,
     return missing;
 }
 
+// A text with these sizes, in the attributes that hold them or as settings of their own.
+std::optional<QByteArray> Edited(const QByteArray &contents, QVector<SizeChange> changes,
+                                 bool asSetting)
+{
+    const std::optional<EncodedText> text = DecodeText(contents);
+    if (!text)
+        return std::nullopt;
+    auto read = ReadProgramText(text->text, text->form);
+    auto *const parsed = std::get_if<ParsedProgram>(&read);
+    if (!parsed)
+        return std::nullopt;
+    SizeEdits edits(std::move(*parsed), text->form);
+    // The whole text is read again for each round, and not for each change.
+    while (!changes.isEmpty()) {
+        if (!edits.Make(TakeRound(changes), asSetting))
+            return std::nullopt;
+    }
+    return edits.Bytes();
+}
+
 } // namespace
 
 Result<QByteArray> WithSizes(const QByteArray &contents, const QString &path,
                              const QVector<SizeChange> &changes)
 {
-    const std::optional<EncodedText> text = DecodeText(contents);
-    if (!text)
-        return CannotBeEdited(path);
-    auto read = ReadProgramText(text->text, text->form);
-    auto *const parsed = std::get_if<ParsedProgram>(&read);
-    if (!parsed)
-        return CannotBeEdited(path);
-    SizeEdits edits(std::move(*parsed), text->form);
+    QByteArray edited = contents;
     QVector<SizeChange> open = changes;
     for (const bool asSetting : {false, true}) {
-        // The whole text is read again for each round, and not for each change.
-        while (!open.isEmpty()) {
-            if (!edits.Make(TakeRound(open), asSetting))
-                return CannotBeEdited(path);
-        }
-        const std::optional<QByteArray> bytes = edits.Bytes();
+        const std::optional<QByteArray> bytes = Edited(edited, open, asSetting);
         if (!bytes)
-            return CannotBeEdited(path);
-        open = Missing(*bytes, path, changes);
+            break;
+        edited = *bytes;
+        open = Missing(edited, path, changes);
         if (open.isEmpty())
-            return *bytes;
+            return edited;
     }
     return CannotBeEdited(path);
 }

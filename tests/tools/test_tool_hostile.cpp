@@ -83,7 +83,7 @@ QStringList CommandLine(const QByteArray &command, const QString &path, const QS
     return arguments;
 }
 
-const char *const kReaders[] = {"lint", "sdk", "import", "glyphs", "export"};
+const char *const kReaders[] = {"lint", "fit", "sdk", "import", "glyphs", "export"};
 
 } // namespace
 
