@@ -83,11 +83,10 @@ private:
         return {};
     }
 
-    // An existing child element that could hold the size.
+    // A child element that is read and could hold the size.
     WrittenPlace FreePlace(const SizeChange &change, const QDomElement &clock, int clockType)
     {
-        for (QDomElement child = clock.firstChildElement(); !child.isNull();
-             child = child.nextSiblingElement()) {
+        for (const QDomElement &child : ChildrenRead(clock, clockType)) {
             for (const QString &name : AttributesRead(clockType, child.tagName())) {
                 if (IsReadOnlyInto(change.attribute, clockType, child.tagName(), name))
                     return {ElementOf(change.area, clock, child), name};

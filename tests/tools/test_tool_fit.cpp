@@ -91,6 +91,8 @@ void TestToolFit::ChangesOnlyTheSize_data()
     row("setting", Time("") + "<attribute key=\"DigitalTimeFSize\" value=\"60\"/>", "value=\"");
     row("setting that wins",
         Time(" fontSize='9'") + "<attribute value=\"60\" key=\"DigitalTimeFSize\"/>", "value=\"");
+    row("first element of its name", Time(" fontSize=\"60\"") + "<time fontSize='9'/>",
+        "fontSize=\"");
 }
 
 void TestToolFit::ChangesOnlyTheSize()
@@ -119,6 +121,8 @@ void TestToolFit::SizeThatIsNotSetIsAdded()
     QByteArray expected = before;
     expected.replace("Sans Mono\"", "Sans Mono\" fontSize=\"" + QByteArray::number(points) + "\"");
     QCOMPARE(after, expected);
+    const QByteArray unread = Fit(Wall(Digital("<title/><fixedText/>"), size));
+    QVERIFY(unread.contains("<title/>") && unread.contains("<fixedText fontSize=\""));
     const QByteArray bare = Fit(Wall("<clock type=\"digital\"/>"));
     QVERIFY(bare.contains("<attribute key=\"DigitalTopTextFSize\" value=\""));
     QCOMPARE(FitWarnings(bare), QString());

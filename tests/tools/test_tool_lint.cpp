@@ -208,7 +208,7 @@ const QVector<Finding> kKinds {
     {"type beside an older form of another kind",
      Digital("<clockCom clockType='0'/>"),
      1,
-     {"type=\"digital\" is not read beside <clockCom>", "\"dial\""}},
+     {"type=\"digital\" is ignored because of <clockCom>", "\"dial\""}},
     {"older form without a type", Digital("<clockCom/>"), 1, {"clockType", "1 digital"}},
     {"all rows hidden",
      Digital("<title display='false'/><date display='false'/><week display='false'/>"

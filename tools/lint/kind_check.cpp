@@ -55,7 +55,7 @@ void CheckWord(const QDomElement &clock, int readKind, Findings &findings)
         return;
     findings.Warn(
         At(clock, kType),
-        QStringLiteral("type=%1 is not read beside <%2>, by which this is a clock of type "
+        QStringLiteral("type=%1 is ignored because of <%2>, which makes this a clock of type "
                        "\"%3\"; accepted: one of them")
             .arg(Quoted(word), QLatin1String(Sdk::kClockCom), WordOf(readKind)),
         WordOf(readKind));

@@ -15,18 +15,19 @@ using namespace Lw::HNodeClock;
 const QLatin1String kKey("key");
 const QLatin1String kValue("value");
 
+bool IsReadInto(Attribute target, int clockType, const QString &element, const QString &name)
+{
+    const QVector<ImportedSetting> settings = SettingsReadFrom(clockType, element, name);
+    return std::any_of(
+        settings.cbegin(), settings.cend(),
+        [target](const ImportedSetting &setting) { return setting.target == target; });
+}
+
 // The XML attribute of an element that is read into an attribute of the clock; empty for none.
 QString NameRead(const QDomElement &element, int clockType, Attribute attribute)
 {
-    const QDomNamedNodeMap attributes = element.attributes();
-    for (int i = 0; i < attributes.count(); ++i) {
-        const QString name = attributes.item(i).nodeName();
-        const QVector<ImportedSetting> settings =
-            SettingsReadFrom(clockType, element.tagName(), name);
-        if (std::any_of(settings.cbegin(), settings.cend(),
-                        [attribute](const ImportedSetting &setting) {
-                            return setting.target == attribute;
-                        }))
+    for (const QString &name : AttributesRead(clockType, element.tagName())) {
+        if (element.hasAttribute(name) && IsReadInto(attribute, clockType, element.tagName(), name))
             return name;
     }
     return {};
@@ -34,22 +35,32 @@ QString NameRead(const QDomElement &element, int clockType, Attribute attribute)
 
 } // namespace
 
+QVector<QDomElement> ChildrenRead(const QDomElement &clock, int clockType)
+{
+    QVector<QDomElement> children;
+    for (const QString &name : ElementsRead(clockType)) {
+        const QDomElement child = clock.firstChildElement(name);
+        const QString shadow = ShadowOf(clockType, name);
+        if (!child.isNull() && (shadow.isEmpty() || clock.firstChildElement(shadow).isNull()))
+            children.append(child);
+    }
+    return children;
+}
+
 SettingPlace PlaceOf(const QDomElement &clock, int clockType, Attribute attribute)
 {
-    SettingPlace imported = {clock, {}};
-    SettingPlace given = imported;
-    for (QDomElement child = clock.firstChildElement(); !child.isNull();
-         child = child.nextSiblingElement()) {
-        if (child.tagName() == ClockProgram::kAttributeTag) {
-            if (child.attribute(kKey) == Key(attribute))
-                given = {child, kValue};
-            continue;
-        }
+    SettingPlace place = {clock, {}};
+    for (const QDomElement &child : ChildrenRead(clock, clockType)) {
         const QString name = NameRead(child, clockType, attribute);
         if (!name.isEmpty())
-            imported = {child, name};
+            place = {child, name};
     }
-    return given.IsSet() ? given : imported;
+    for (QDomElement child = clock.firstChildElement(ClockProgram::kAttributeTag); !child.isNull();
+         child = child.nextSiblingElement(ClockProgram::kAttributeTag)) {
+        if (child.attribute(kKey) == Key(attribute))
+            place = {child, kValue};
+    }
+    return place;
 }
 
 Place FindingPlace(const SettingPlace &place)

@@ -6,6 +6,7 @@
 #include "clock_attributes.h"
 
 #include <QDomElement>
+#include <QVector>
 
 namespace ClockTool {
 
@@ -17,9 +18,12 @@ struct SettingPlace
     bool IsSet() const { return !attribute.isEmpty(); }
 };
 
-/// The place that takes effect: the last "attribute" child with the key, else the last element
-/// whose XML attribute is read into it; an import takes the first of each name. The kind is 0
-/// analog or 1 digital. Where nothing sets it, the clock.
+/// The child elements that an import reads, in its order: the first of each name. The kind is 0
+/// analog or 1 digital.
+QVector<QDomElement> ChildrenRead(const QDomElement &clock, int clockType);
+
+/// The place that takes effect: the last "attribute" child with the key, else the last element read
+/// that has an XML attribute for it. Where nothing sets it, the clock.
 SettingPlace PlaceOf(const QDomElement &clock, int clockType, Lw::HNodeClock::Attribute attribute);
 
 /// The same as a finding's place: an "attribute" child is named by its key.
