@@ -5,6 +5,9 @@
 #include "display/analog_painting.h"
 #include "image_bounds.h"
 
+#include "happconfig.h"
+#include "key_colour.h"
+
 #include <QPainter>
 
 namespace ClockFit {
@@ -14,7 +17,6 @@ using namespace Lw::HNodeClock;
 namespace {
 
 const QColor kInk(Qt::white);
-const QColor kBoxColour(1, 2, 1); // of the box behind "10" and "11", which hides what is under it
 constexpr int kNoMarks = -1;
 // Pixels around the area: the pen of the marks may reach beyond the radius.
 constexpr int kMargin = 2;
@@ -136,7 +138,8 @@ DialInk DialInkOf(HClockNode &node, const GlyphSource &source)
     const DialPainter dial(area, canvas);
     const auto paintNumerals = [&](QPainter &painter, double radius) {
         if (!digits.IsNull())
-            PaintNumerals(painter, scale, radius, digits.Pixmap(), kBoxColour);
+            PaintNumerals(painter, scale, radius, digits.Pixmap(),
+                          Lw::HAppConfig::IntToColor(Lw::kKeyColour));
     };
     ink.hourMarks = dial.Marks(scale, kNoMarks, paintNumerals);
     ink.minuteMarks =

@@ -5,6 +5,7 @@
 #include "display/analog_geometry.h"
 
 #include "happconfig.h"
+#include "key_colour.h"
 
 #include <QColor>
 
@@ -18,9 +19,6 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-// The key colour, which hosts treat as transparent.
-constexpr QRgb kKeyColour = 0xff010201;
-
 double Linear(int channel)
 {
     const double part = channel / 255.0;
@@ -33,10 +31,14 @@ double Luminance(QRgb colour)
         + 0.0722 * Linear(qBlue(colour));
 }
 
+QRgb PixelOf(int stored)
+{
+    return Lw::HAppConfig::IntToColor(stored).rgb();
+}
+
 QRgb ColourOf(HClockNode &node, Part part)
 {
-    return Lw::HAppConfig::IntToColor(NumberOf(node, *ColourAttribute(part, node.ClockType())))
-        .rgb();
+    return PixelOf(NumberOf(node, *ColourAttribute(part, node.ClockType())));
 }
 
 } // namespace
@@ -53,7 +55,7 @@ QVector<Faint> FaintParts(HClockNode &node, QRgb background)
     QVector<Faint> faint;
     for (const Part part : PartsShown(node)) {
         const QRgb ink = ColourOf(node, part);
-        const bool isKey = ink == kKeyColour;
+        const bool isKey = ink == PixelOf(Lw::kKeyColour);
         const double contrast = isKey ? 1 : ContrastOf(ink, background);
         if (contrast < kFaintContrast)
             faint.append({part, ink, background, contrast, isKey});

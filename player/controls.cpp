@@ -1,15 +1,17 @@
 #include "controls.h"
 
+#include "calendar/time_units.h"
+
 #include <QStringList>
 
 namespace ClockPlayer {
 
 namespace {
 
-constexpr qint64 kSecond = 1000;
-constexpr qint64 kMinute = 60 * kSecond;
+constexpr qint64 kSecond = Lw::HNodeClock::kMillisecondsPerSecond;
+constexpr qint64 kMinute = Lw::HNodeClock::kMillisecondsPerMinute;
 constexpr qint64 kHour = 60 * kMinute;
-constexpr qint64 kDay = 24 * kHour;
+constexpr qint64 kDay = Lw::HNodeClock::kMillisecondsPerDay;
 
 struct KeyRow
 {

@@ -26,18 +26,11 @@ Failure LineFailure(const QString &path, qint64 line, const QString &reason)
             QStringLiteral("%1:%2: %3").arg(path, QString::number(line), reason)};
 }
 
-/// The encoding named by the XML declaration, which is ASCII unless there is a byte order mark.
-QByteArray DeclaredEncoding(const QByteArray &contents)
-{
-    static const QRegularExpression form(
-        QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([A-Za-z0-9._:-]{1,40})[\"']"));
-    return form.match(QString::fromLatin1(contents.left(256))).captured(1).toLatin1();
-}
-
 Result<QString> Decode(const QByteArray &contents, const QString &path)
 {
     QTextCodec *codec = QTextCodec::codecForUtfText(contents, nullptr);
-    const QByteArray declared = DeclaredEncoding(contents);
+    const QByteArray declared =
+        DeclaredEncoding(QString::fromLatin1(contents.left(kDeclarationReach)));
     if (!codec)
         codec = QTextCodec::codecForName(declared.isEmpty() ? "UTF-8" : declared);
     if (!codec)
@@ -67,6 +60,13 @@ MaybeFailure CheckSyntax(const QString &text, const QString &path)
 }
 
 } // namespace
+
+QByteArray DeclaredEncoding(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^<\\?xml[^>]*\\sencoding\\s*=\\s*[\"']([A-Za-z0-9._:-]{1,40})[\"']"));
+    return form.match(text.left(kDeclarationReach)).captured(1).toLatin1();
+}
 
 Result<QByteArray> ReadContents(const QString &path)
 {

@@ -1,14 +1,17 @@
 // stage/: composes the pictures of the areas into one screen.
 #pragma once
 
+#include "key_colour.h"
+
 #include <QImage>
 #include <QRect>
 #include <QVector>
 
 namespace ClockStage {
 
-/// The colour with which plugins fill the background of frames; it is transparent.
-constexpr QRgb kKeyColour = qRgb(1, 2, 1);
+/// The host's key colour as a pixel.
+constexpr QRgb kKeyColour =
+    qRgb(Lw::RedOf(Lw::kKeyColour), Lw::GreenOf(Lw::kKeyColour), Lw::BlueOf(Lw::kKeyColour));
 
 struct Layer
 {

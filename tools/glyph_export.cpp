@@ -9,6 +9,7 @@
 
 #include "clock_sdk_tables.h"
 #include "compose/glyph_bounds.h"
+#include "glyph/glyph_check.h"
 #include "glyph/glyph_set.h"
 #include "glyph/hmd5.h"
 #include "happconfig.h"
@@ -150,7 +151,7 @@ private:
 
     void CheckMissing(HClockNode &clock, QStringList missing)
     {
-        if (clock.GetAttribute(TopTextKey(clock)).isEmpty())
+        if (TopTextOf(clock).isEmpty())
             missing.removeAll(GlyphKey(Glyph::TopText));
         if (missing.isEmpty())
             return;
@@ -159,12 +160,6 @@ private:
             OfClock(clock,
                     QStringLiteral("no image can be generated for %1: the font is too large")
                         .arg(missing.join(QStringLiteral(", ")))));
-    }
-
-    static QString TopTextKey(HClockNode &clock)
-    {
-        return Key(clock.ClockType() == DigitalClock ? Attribute::DigitalTopText
-                                                     : Attribute::AnalogTopText);
     }
 
     void AddFile(QDomElement &element, const QString &key, const QString &path,

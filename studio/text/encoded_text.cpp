@@ -1,6 +1,7 @@
 #include "encoded_text.h"
 
-#include <QRegularExpression>
+#include "xml_document.h"
+
 #include <QTextCodec>
 
 namespace ClockStudio {
@@ -25,16 +26,6 @@ const Mark kBeginnings[] = {
     {"UTF-16BE", QByteArray("\0<", 2)},
 };
 
-constexpr int kDeclarationReach = 200; // characters
-
-/// The encoding that an XML declaration names; empty where it names none.
-QByteArray DeclaredCodec(const QString &text)
-{
-    static const QRegularExpression form(
-        QStringLiteral(R"(\A<\?xml[^>]*\sencoding\s*=\s*["']([A-Za-z0-9._-]+)["'])"));
-    return form.match(text.left(kDeclarationReach)).captured(1).toLatin1();
-}
-
 bool HasWideCharacters(const TextForm &form)
 {
     return form.codec.startsWith("UTF-16");
@@ -50,7 +41,8 @@ TextForm FormOf(const QByteArray &bytes)
         if (bytes.startsWith(beginning.bytes))
             return {beginning.codec, {}};
     }
-    const QByteArray declared = DeclaredCodec(QString::fromLatin1(bytes.left(kDeclarationReach)));
+    const QByteArray declared = ClockProgram::DeclaredEncoding(
+        QString::fromLatin1(bytes.left(ClockProgram::kDeclarationReach)));
     return declared.isEmpty() ? TextForm() : TextForm {declared, {}};
 }
 
@@ -91,7 +83,7 @@ TextForm FormAfterEdits(const QString &text, const TextForm &form)
 {
     if (HasWideCharacters(form))
         return form;
-    const QByteArray declared = DeclaredCodec(text);
+    const QByteArray declared = ClockProgram::DeclaredEncoding(text);
     const bool isUsable = QTextCodec::codecForName(declared) && !declared.startsWith("UTF-16");
     if (!declared.isEmpty() && !isUsable)
         return form;

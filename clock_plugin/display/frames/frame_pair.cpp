@@ -3,17 +3,11 @@
 #include "image_bounds.h"
 
 #include "happconfig.h"
+#include "key_colour.h"
 
 #include <utility>
 
 namespace Lw::HNodeClock {
-
-namespace {
-
-// Red 1, green 2, blue 1 as a stored colour: almost black.
-constexpr int kKeyColour = 0x10201;
-
-} // namespace
 
 QColor FramePair::KeyColour()
 {
