@@ -1,10 +1,13 @@
 // What lint finds of the year that the clocks show, and how it writes findings for programs.
 #include "tool_process.h"
 
+#include <QDir>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <algorithm>
 
 namespace {
 
@@ -77,7 +80,7 @@ const Finding kFindings[] = {
     {"row before the font", Wall(Digital(Time("20", "#010201") + "\n<font color=\"#ffffff\"/>")),
      kWarning, "in.xml:5: warning: the colour of the time is the key colour"},
     {"faint", Wall(Digital(Time("20", "#202020"))), kWarning,
-     "the colour #202020 of the time has a contrast of 1.3 against its background #000000"},
+     "the colour #202020 of the time has a contrast of 1.2 against its background #000000"},
     {"blue", Wall(Digital(Time("20", "#0000ff"))), kNote,
      "the colour #0000ff of the time has a contrast of 2.4 against its background #000000"},
     {"rows over each other",
@@ -121,6 +124,8 @@ private slots:
     void WhatDoesNotFitIsFound();
     void ReportsAnAreaOnce_data();
     void ReportsAnAreaOnce();
+    void SamplesAreClean_data();
+    void SamplesAreClean();
     void SaysNothingOfWhatFits_data();
     void SaysNothingOfWhatFits();
     void TellsTheFirstDay();
@@ -186,6 +191,29 @@ void TestLintFit::ReportsAnAreaOnce()
     QVERIFY2(run.errors.contains("in.xml:2: "), qPrintable(run.errors));
     QVERIFY2(run.errors.contains(said), qPrintable(run.errors));
     QCOMPARE(run.errors.count("the area "), 1);
+}
+
+void TestLintFit::SamplesAreClean_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char *directory : {"examples", "studio/templates"}) {
+        for (const QFileInfo &file : QDir(InTree(directory)).entryInfoList({"*.xml"}))
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+    }
+}
+
+// Except for notes on what cannot be otherwise, or what the sample shows.
+void TestLintFit::SamplesAreClean()
+{
+    QFETCH(QString, path);
+    const ProcessRun run = RunTool({"lint", "--at", "2026-08-20", "--language", "en", path});
+    QCOMPARE(run.exitCode, 0);
+    const QStringList expected {"these rules give the time of ", "missing from an exported",
+                                "a radius of 40 pixels has no minute marks"};
+    for (const QString &line : run.errors.split('\n', Qt::SkipEmptyParts))
+        QVERIFY2(std::any_of(expected.begin(), expected.end(),
+                             [&](const QString &words) { return line.contains(words); }),
+                 qPrintable(line));
 }
 
 // The "T" of DejaVu Sans at 20 points begins a pixel left of its image.

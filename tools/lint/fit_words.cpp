@@ -138,6 +138,7 @@ QString OverlapWords(const Overlap &overlap)
              InstantText(overlap.first.utc), As(overlap.first.text));
 }
 
+// Rounded down: 2.96 is not 3.
 QString FaintWords(const Faint &faint)
 {
     const QString part = NameOf(faint.part);
@@ -148,7 +149,7 @@ QString FaintWords(const Faint &faint)
     return QStringLiteral("the colour %1 of the %2 has a contrast of %3 against its background %4; "
                           "3 or more is easy to see")
         .arg(ColourText(faint.ink), part)
-        .arg(faint.contrast, 0, 'f', 1)
+        .arg(std::floor(faint.contrast * 10) / 10, 0, 'f', 1)
         .arg(ColourText(faint.background));
 }
 
