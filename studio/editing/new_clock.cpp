@@ -14,7 +14,6 @@ namespace {
 
 using ClockZones::ZoneSettings;
 
-constexpr int kSmallestSize = 6; // points
 constexpr int kLargestSize = 400;
 
 // The heights of a digital clock's time and label as fractions of the area's height, and the height
@@ -84,7 +83,7 @@ QString AnalogLines(QSize size)
                           "    <date display=\"false\" format=\"2\" %1/>\n"
                           "    <week display=\"false\" format=\"1\" %1/>\n"
                           "    <ampm display=\"false\"/>\n"
-                          "    <analog hourHandColor=\"#ffffff\" minuteHandColor=\"#ffffff\" "
+                          "    <analog hourHandColor=\"#ffffff\" minuteHandColor=\"#b0c8ff\" "
                           "secondHandColor=\"#ff3030\"\n"
                           "            hourScaleType=\"%2\" hourScaleFontName=\"%3\" "
                           "hourScaleFontSize=\"%4\"\n"
@@ -134,7 +133,7 @@ QString NewClockFamily()
 
 int FittingSize(const QString &family, const QString &text, QSize box)
 {
-    int fits = kSmallestSize;
+    int fits = kSmallestTextSize;
     for (int step = 256; step > 0; step /= 2) {
         const QFontMetrics metrics(QFont(family, fits + step));
         if (fits + step <= kLargestSize && metrics.height() <= box.height()

@@ -9,13 +9,17 @@ namespace ClockStudio {
 /// The kinds of clock that the studio offers.
 enum class ClockKind { Digital, Analog, Picture };
 
+/// The smallest text size that the studio sets, in points: digits of smaller ones are hard to read.
+constexpr int kSmallestTextSize = 6;
+
 /// The text of an unindented area element, with line feeds. The zone is the computer's.
 QString NewAreaText(ClockKind kind, const QRect &geometry);
 
 /// The text of a wall without clocks.
 QString NewProgramText(QSize size);
 
-/// The largest font size in points at which one line of text fits the box (in pixels); at least 6.
+/// The largest font size in points at which one line of text fits the box (in pixels); at least
+/// kSmallestTextSize.
 int FittingSize(const QString &family, const QString &text, QSize box);
 
 /// The font family of new clocks: DejaVu Sans if installed, else the default.

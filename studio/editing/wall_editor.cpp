@@ -14,8 +14,8 @@ namespace ClockStudio {
 
 namespace {
 
-// Offset of a copy from its original, in pixels.
-constexpr QPoint kCopyDistance(8, 8);
+// Offset of a pasted clock from its original, in pixels.
+constexpr QPoint kPasteDistance(8, 8);
 
 } // namespace
 
@@ -200,10 +200,14 @@ void WallEditor::Duplicate()
     const ParsedProgram *const parsed = m_document.Parsed();
     if (!parsed)
         return;
+    QVector<QRect> all;
+    for (int area = 0; area < parsed->AreaCount(); ++area)
+        all.append(parsed->Geometry(area));
+    const QPoint distance = CopyDistance(SelectedRects(), all, m_wall.Size());
     QSet<int> ids = GivenIds(*parsed);
     QStringList copies;
     for (const int area : qAsConst(m_selected))
-        copies.append(AreaForProgram(PortableAreaText(*parsed, area), kCopyDistance, ids));
+        copies.append(AreaForProgram(PortableAreaText(*parsed, area), distance, ids));
     Append(copies, tr("Duplicate"));
 }
 
@@ -240,7 +244,7 @@ bool WallEditor::PasteText(const QString &text)
     QSet<int> ids = GivenIds(*parsed);
     QStringList pasted;
     for (const QString &area : areas)
-        pasted.append(AreaForProgram(area, kCopyDistance, ids));
+        pasted.append(AreaForProgram(area, kPasteDistance, ids));
     Append(pasted, tr("Paste"));
     return true;
 }

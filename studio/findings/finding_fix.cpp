@@ -1,12 +1,16 @@
 #include "finding_fix.h"
 
+#include "editing/new_clock.h"
+#include "editing/value_edits.h"
 #include "text/program_edits.h"
 
 #include "clock_attributes.h"
+#include "clock_node.h"
 #include "lint/clock_words.h"
 #include "lint/program_lint.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace ClockStudio {
 
@@ -40,6 +44,20 @@ QVector<TextRange> Candidates(const XmlElement &element, const Finding &finding)
         ranges.append({attribute->whole.begin, attribute->whole.begin + attribute->name.size()});
     }
     return ranges;
+}
+
+/// Whether the suggestion is a text size at which digits are hard to read.
+bool IsTooSmallText(const ParsedProgram &parsed, const Finding &finding)
+{
+    using namespace Lw::HNodeClock;
+    const int area = finding.place.clock - 1;
+    const auto clock = area >= 0 && area < parsed.AreaCount() ? ClockOf(parsed, area) : nullptr;
+    const QString key = clock ? KeyOf(finding, clock->ClockType()) : QString();
+    return std::any_of(std::begin(kAttributeTable), std::end(kAttributeTable),
+                       [&](const AttributeRow &row) {
+                           return key == QLatin1String(row.key) && row.role == ValueRole::Size
+                               && finding.suggestion.toInt() < kSmallestTextSize;
+                       });
 }
 
 } // namespace
@@ -88,7 +106,7 @@ QString KeyOf(const Finding &finding, int clockType)
 std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const Finding &finding)
 {
     const int element = ElementOf(parsed, finding);
-    if (finding.suggestion.isEmpty() || element < 0)
+    if (finding.suggestion.isEmpty() || element < 0 || IsTooSmallText(parsed, finding))
         return std::nullopt;
     for (const TextRange range : Candidates(parsed.elements[element], finding)) {
         const TextEdit edit = Smallest(

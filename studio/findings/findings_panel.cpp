@@ -10,6 +10,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace ClockStudio {
 
 namespace {
@@ -85,7 +87,11 @@ void FindingsPanel::List(const QVector<ClockTool::Finding> &findings)
             UpdateFix();
         }
     }
-    emit CountChanged(m_findings.size());
+    const auto isWarning = [](const ClockTool::Finding &finding) {
+        return finding.severity == ClockTool::Severity::Warning;
+    };
+    emit CountChanged(
+        static_cast<int>(std::count_if(m_findings.cbegin(), m_findings.cend(), isWarning)));
 }
 
 void FindingsPanel::Add(const ClockTool::Finding &finding)

@@ -31,7 +31,7 @@ public:
     void CheckAll();
 
 Q_SIGNALS:
-    void CountChanged(int count);
+    void CountChanged(int count); ///< of warnings
     void PropertyWanted(const QString &key);
     void LineWanted(int line);
 

@@ -61,7 +61,6 @@ TimeBar::TimeBar(LiveWall &wall, QWidget *parent)
 {
     auto *const now = Button(tr("Now"), tr("Show the current time"));
     connect(now, &QToolButton::clicked, this, &TimeBar::ReturnToPresent);
-    m_run->setCheckable(true);
     SetUpDate();
     SetUpDay();
     SetUpSpeed();
@@ -118,10 +117,8 @@ QToolButton *TimeBar::NextChangeButton()
 
 void TimeBar::FollowControls()
 {
-    connect(m_run, &QToolButton::toggled, this, [this](bool runs) {
-        if (!m_shows)
-            SetRunning(runs);
-    });
+    connect(m_run, &QToolButton::clicked, this,
+            [this] { SetRunning(StageTime::Travel().IsPaused()); });
     connect(m_date, &QDateTimeEdit::dateTimeChanged, this, [this](const QDateTime &time) {
         if (!m_shows)
             GoTo(time.toMSecsSinceEpoch());
@@ -189,7 +186,6 @@ void TimeBar::ShowTime()
     m_shows = true;
     const bool runs = !StageTime::Travel().IsPaused();
     const QDateTime time = Local(StageTime::Shown());
-    m_run->setChecked(runs);
     m_run->setText(runs ? tr("Pause") : tr("Play"));
     m_run->setToolTip(runs ? tr("Pause the time") : tr("Resume"));
     if (!m_date->hasFocus() || runs)

@@ -28,9 +28,11 @@ constexpr unsigned int kPlay = std::numeric_limits<unsigned int>::max();
 constexpr QSize kTextPicture(150, 22);
 constexpr QSize kDialPicture(56, 56);
 constexpr QSize kKindPicture(64, 44);
-constexpr int kTextSize = 11;  // points
+constexpr int kTextSize = 11; // points
+constexpr int kHoursAndMinutes = 1;
 constexpr int kInk = 0x00b0ff; // amber, as the host packs it
 constexpr int kDialInk = 0xffffff;
+constexpr int kDimInk = 0x606060; // of what the picture is not about
 
 /// 8 March 2026, 10:08:36 UTC: no hand covers another, and the digits differ.
 long long PictureTime()
@@ -81,6 +83,33 @@ QVector<StoredValue> BareDial()
     return values;
 }
 
+/// A quarter of a dial of twice the size, where a shape can be told: that with the hand at the
+/// pictures' time, or with some marks.
+struct DialPart
+{
+    Attribute shape;
+    Attribute colour;
+    QPoint corner; ///< of the quarter, in pixels
+};
+
+constexpr DialPart kDialParts[] = {
+    {Attribute::HourRectType, Attribute::HourHandColor, {8, 8}},
+    {Attribute::MinuteRectType, Attribute::MinuteHandColor, {48, 8}},
+    {Attribute::SecondRectType, Attribute::SecondHandColor, {8, 48}},
+    {Attribute::MinuteScaleType, Attribute::MinuteScaleColor, {56, 0}},
+};
+
+QPixmap DialPartPicture(const DialPart &part, int code)
+{
+    QVector<StoredValue> values = BareDial();
+    for (const Attribute colour :
+         {Attribute::HourHandColor, Attribute::MinuteHandColor, Attribute::SecondHandColor,
+          Attribute::HourScaleColor, Attribute::MinuteScaleColor})
+        values.append(Number(colour, colour == part.colour ? kInk : kDimInk));
+    values.append(Number(part.shape, code));
+    return ClockPicture(values, 2 * kDialPicture).copy({part.corner, kDialPicture});
+}
+
 QPixmap Draw(Attribute attribute, int code)
 {
     switch (attribute) {
@@ -95,26 +124,30 @@ QPixmap Draw(Attribute attribute, int code)
                                 << Number(Attribute::DigitalWeekType, code),
                             kTextPicture);
     case Attribute::DigitalTimeType:
-    case Attribute::DigitalMode:
         return ClockPicture(OneLine(Attribute::Digital_Time_d) << Number(attribute, code),
                             kTextPicture);
+    case Attribute::DigitalMode: // in the evening, when the hours differ
+        return ClockPicture(OneLine(Attribute::Digital_Time_d)
+                                << Number(attribute, code)
+                                << Number(Attribute::DigitalTimeType, kHoursAndMinutes),
+                            kTextPicture, QStringLiteral("+12:00"));
     case Attribute::PictrueClockType:
         return ClockPicture({Number(Attribute::ClockType, PictureClock), Number(attribute, code)},
                             kDialPicture);
     case Attribute::HourScaleType:
-    case Attribute::MinuteScaleType:
-    case Attribute::HourRectType:
-    case Attribute::MinuteRectType:
-    case Attribute::SecondRectType:
         return ClockPicture(BareDial() << Number(attribute, code), kDialPicture);
     default:
+        for (const DialPart &part : kDialParts) {
+            if (part.shape == attribute)
+                return DialPartPicture(part, code);
+        }
         return {};
     }
 }
 
 } // namespace
 
-QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size)
+QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size, const QString &zone)
 {
     const AtPictureTime time;
     static HNodeClock plugin;
@@ -124,7 +157,7 @@ QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size)
     node->SetPos({});
     for (const StoredValue &value : values)
         node->SetAttribute(Key(value.attribute), value.text, false);
-    node->SetAttribute(Key(Attribute::TimeZone), QStringLiteral("+00:00"), false);
+    node->SetAttribute(Key(Attribute::TimeZone), zone, false);
     node->SetAttribute(ClockProgram::kIdKey, kIdentity, false);
     ClockStage::Area area(kPlay, &plugin, std::move(node), ClockStage::GlyphFiles::Made);
     StartWhole(area);

@@ -7,8 +7,9 @@
 
 namespace ClockStudio {
 
-/// A picture of a new clock with these values, at a fixed time.
-QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size);
+/// A picture of a new clock with these values, at a fixed time, in the morning in UTC.
+QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size,
+                     const QString &zone = QStringLiteral("+00:00"));
 
 /// A sample picture for a code of an attribute; null if there is none. Cached.
 QPixmap CodePicture(Lw::HNodeClock::Attribute attribute, int code);

@@ -12,7 +12,9 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QSpinBox>
@@ -94,21 +96,30 @@ PropertyPanel::PropertyPanel(WallEditor &editor, QWidget *parent)
     MakePlace();
     MakeGroups();
     setWidget(inner);
-    for (QWidget *const control : inner->findChildren<QWidget *>())
+    for (QWidget *const control : inner->findChildren<QWidget *>()) {
         control->installEventFilter(this);
+        if (control->focusPolicy() == Qt::WheelFocus)
+            control->setFocusPolicy(Qt::StrongFocus);
+    }
     connect(&editor, &WallEditor::SelectionChanged, this, &PropertyPanel::Refresh);
     connect(&editor.Wall(), &LiveWall::ClocksMade, this, &PropertyPanel::Refresh);
     connect(&editor.Document(), &StudioDocument::Read, this, &PropertyPanel::Refresh);
     Refresh();
 }
 
-/// The wheel always scrolls the panel and never changes the control under the pointer.
+/// The wheel always scrolls the panel and never changes the control under the pointer; Return ends
+/// the editing of a value.
 bool PropertyPanel::eventFilter(QObject *object, QEvent *event)
 {
     const bool wouldChange = event->type() == QEvent::Wheel
         && (qobject_cast<QComboBox *>(object) || qobject_cast<QAbstractSpinBox *>(object));
     if (wouldChange)
         event->ignore(); // so that it reaches the scroll area
+    const bool isReturn = event->type() == QEvent::KeyPress && object->isWidgetType()
+        && (qobject_cast<QLineEdit *>(object) || qobject_cast<QAbstractSpinBox *>(object))
+        && static_cast<QKeyEvent *>(event)->matches(QKeySequence::InsertParagraphSeparator);
+    if (isReturn) // after the value has been taken
+        QMetaObject::invokeMethod(this, &PropertyPanel::Finished, Qt::QueuedConnection);
     return wouldChange || QScrollArea::eventFilter(object, event);
 }
 
@@ -195,9 +206,8 @@ Section *PropertyPanel::MakeGroup(const PropertyGroup &group)
     if (group.shown != Attribute::Id) {
         section->AddSwitch(TranslatedWords(RowOf(group.shown).label));
         section->setObjectName(QLatin1String(RowOf(group.shown).key));
-        connect(section, &Section::Switched, this, [this, shown = group.shown](bool on) {
-            SetValues({{shown, QString::number(on ? 1 : 0)}}, TranslatedWords(RowOf(shown).label));
-        });
+        connect(section, &Section::Switched, this,
+                [this, shown = group.shown](bool on) { SetShown(shown, on); });
     }
     for (const PropertyLine &line : group.lines) {
         QVector<QWidget *> editors;
@@ -332,6 +342,30 @@ void PropertyPanel::SetValues(const QVector<StoredValue> &values, const QString 
     });
 }
 
+/// A text that is shown and would be cut gets a size that fits.
+void PropertyPanel::SetShown(Attribute shown, bool on)
+{
+    const StoredValue flag {shown, QString::number(on ? 1 : 0)};
+    ChangeEach(TranslatedWords(RowOf(shown).label), {},
+               [this, &flag, on](const ParsedProgram &parsed, int area) {
+                   const auto clock = ClockOf(parsed, area);
+                   if (!clock || !IsUsedBy(RowOf(flag.attribute).clocks, clock->ClockType()))
+                       return TextEdits();
+                   QVector<StoredValue> values {flag};
+                   clock->SetAttribute(Key(flag.attribute), flag.text, false);
+                   if (const QRect visible = VisiblePart(parsed, area); on && !visible.isEmpty())
+                       values += UncutSizes(*clock, visible);
+                   return ValueEdits(parsed, area, values);
+               });
+}
+
+/// In pixels from the top left of the area; empty if it is off the wall.
+QRect PropertyPanel::VisiblePart(const ParsedProgram &parsed, int area) const
+{
+    const QRect geometry = parsed.Geometry(area);
+    return (geometry & QRect(QPoint(), m_editor.Wall().Size())).translated(-geometry.topLeft());
+}
+
 void PropertyPanel::SetKind(int kind)
 {
     ChangeEach(tr("Kind of clock"), {}, [kind](const ParsedProgram &parsed, int area) {
@@ -350,9 +384,7 @@ void PropertyPanel::FitSizes()
 {
     ChangeEach(tr("Fit sizes"), {}, [this](const ParsedProgram &parsed, int area) {
         HClockNode *const clock = m_editor.Wall().Clock(area);
-        const QRect geometry = parsed.Geometry(area);
-        const QRect visible =
-            (geometry & QRect(QPoint(), m_editor.Wall().Size())).translated(-geometry.topLeft());
+        const QRect visible = VisiblePart(parsed, area);
         if (!clock || visible.isEmpty())
             return TextEdits();
         return ValueEdits(parsed, area, FittingSizes(*clock, visible));

@@ -41,6 +41,9 @@ public:
     /// Sets the font sizes of the selected clocks so that the texts fill their areas.
     void FitSizes();
 
+Q_SIGNALS:
+    void Finished(); ///< Return was pressed in a number or a text
+
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
@@ -56,6 +59,8 @@ private:
     ValueEditor *MakeEditor(Lw::HNodeClock::Attribute attribute);
     void ChangeEach(const QString &label, const QString &mergeKey,
                     const std::function<TextEdits(const ParsedProgram &, int)> &edits);
+    void SetShown(Lw::HNodeClock::Attribute shown, bool on);
+    QRect VisiblePart(const ParsedProgram &parsed, int area) const;
     void SetKind(int kind);
     void GivePlace();
     void Reset(Lw::HNodeClock::Attribute attribute);

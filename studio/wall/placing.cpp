@@ -175,6 +175,24 @@ Snap SnapResize(const QRect &rect, Handle handle, QPoint distance, const SnapLin
     return {distance + way, {Met(across(snapped), lines.x), Met(down(snapped), lines.y)}};
 }
 
+QPoint CopyDistance(const QVector<QRect> &rects, const QVector<QRect> &all, QSize screen)
+{
+    constexpr QPoint kOverlapping(8, 8);
+    const QRect bounds(QPoint(), screen);
+    const QRect from = Around(rects);
+    for (const QPoint step : {QPoint(from.width(), 0), QPoint(0, from.height())}) {
+        if (step.isNull())
+            continue;
+        for (QPoint way = step; bounds.contains(from.translated(way)); way += step) {
+            const QRect to = from.translated(way);
+            if (std::none_of(all.cbegin(), all.cend(),
+                             [&to](const QRect &rect) { return rect.intersects(to); }))
+                return way;
+        }
+    }
+    return kOverlapping;
+}
+
 QRect Around(const QVector<QRect> &rects)
 {
     return std::accumulate(rects.cbegin(), rects.cend(), QRect(),

@@ -59,6 +59,10 @@ QVector<QRect> Distributed(const QVector<QRect> &rects, Direction direction);
 /// Rectangles one after another without gaps, sorted by position.
 QVector<QRect> Stacked(const QVector<QRect> &rects, Direction direction);
 
+/// How far copies of rectangles are moved: beside these on the screen, else below, where no
+/// rectangle of `all` is; otherwise by a few pixels.
+QPoint CopyDistance(const QVector<QRect> &rects, const QVector<QRect> &all, QSize screen);
+
 /// The bounding rectangle.
 QRect Around(const QVector<QRect> &rects);
 

@@ -226,6 +226,8 @@ void MainWindow::MakeViewMenu()
     menu->addAction(m_findingsDock->toggleViewAction());
     m_actions.append(m_sourceDock->toggleViewAction());
     m_actions.append(m_findingsDock->toggleViewAction());
+    for (QAction *const action : menu->actions())
+        action->setProperty("needsWall", action->menu() == nullptr);
 }
 
 /// The language of the clocks is independent of the window's: the wall may be in another country.

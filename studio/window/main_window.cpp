@@ -118,6 +118,8 @@ void MainWindow::MakeDocks()
         m_findingsDock->setWindowTitle(count == 0 ? tr("Findings")
                                                   : tr("Findings (%1)").arg(count));
     });
+    // The keys of the wall work at once after a number is typed.
+    connect(m_properties, &PropertyPanel::Finished, m_view, [this] { m_view->setFocus(); });
     connect(m_findings, &FindingsPanel::PropertyWanted, m_properties, &PropertyPanel::Reveal);
     connect(m_findings, &FindingsPanel::LineWanted, m_source, &SourceView::GoToLine);
 }

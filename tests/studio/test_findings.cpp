@@ -67,6 +67,8 @@ private slots:
     void initTestCase() { QVERIFY(ClockCatalogues::Install("en")); }
     void AppearsAndIsFixed();
     void allAtOnce();
+    void notesAreNotCounted();
+    void tooSmallIsNoFix();
     void brokenTextHasNone();
     void typingDropsWhatIsChecked();
     void eventsAreHandledMeanwhile();
@@ -100,6 +102,31 @@ void TestFindings::allAtOnce()
     test.panel.CheckAll();
     QVERIFY(test.RowWith("cut") >= 0);
     QCOMPARE(test.panel.findChild<QListWidget *>()->count(), test.panel.Findings().size());
+}
+
+/// A clock without a time zone is only noted.
+void TestFindings::notesAreNotCounted()
+{
+    FindingsUnderTest test(
+        QByteArray(kCut).replace("\"44\"", "\"9\"").replace(" timezone=\"+00:00\"", ""));
+    QSignalSpy counted(&test.panel, &FindingsPanel::CountChanged);
+    test.panel.CheckAll();
+    QVERIFY(test.RowWith("zone") >= 0);
+    QCOMPARE(counted.last().first().toInt(), 0);
+}
+
+/// A time in an area four pixels high: what would fit is too small to read.
+void TestFindings::tooSmallIsNoFix()
+{
+    const QByteArray flat = QByteArray(kCut).replace("y=\"32\" width=\"64\" height=\"32\"",
+                                                     "y=\"32\" width=\"64\" height=\"4\"");
+    FindingsUnderTest test(QByteArray(flat).replace("\"44\"", "\"8\""));
+    test.panel.CheckAll();
+    const int row = test.RowWith("would fit");
+    QVERIFY(row >= 0);
+    QVERIFY(!test.panel.Findings()[row].suggestion.isEmpty());
+    test.panel.findChild<QListWidget *>()->setCurrentRow(row);
+    QVERIFY(!test.panel.findChild<QPushButton *>()->isEnabled());
 }
 
 void TestFindings::brokenTextHasNone()

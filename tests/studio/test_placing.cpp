@@ -19,6 +19,8 @@ private slots:
     void AlignsClocks();
     void DistributesEvenly();
     void StacksInOrder();
+    void CopiesGoWhereNothingIs_data();
+    void CopiesGoWhereNothingIs();
 };
 
 void TestPlacing::HandlesResize_data()
@@ -119,6 +121,29 @@ void TestPlacing::StacksInOrder()
     const QVector<QRect> rects {{5, 90, 10, 10}, {0, 7, 30, 20}};
     QCOMPARE(Stacked(rects, Direction::Down), QVector<QRect>({{5, 27, 10, 10}, {0, 7, 30, 20}}));
     QCOMPARE(Stacked({}, Direction::Down), QVector<QRect>());
+}
+
+void TestPlacing::CopiesGoWhereNothingIs_data()
+{
+    QTest::addColumn<QVector<QRect>>("copied");
+    QTest::addColumn<QVector<QRect>>("others");
+    QTest::addColumn<QPoint>("distance");
+    using Rects = QVector<QRect>;
+    const QRect corner(0, 0, 32, 16);
+    QTest::newRow("beside") << Rects {corner} << Rects() << QPoint(32, 0);
+    QTest::newRow("beside the next") << Rects {corner} << Rects {{40, 8, 8, 8}} << QPoint(64, 0);
+    QTest::newRow("below") << Rects {corner} << Rects {{32, 0, 96, 16}} << QPoint(0, 16);
+    QTest::newRow("two together") << Rects {corner, {0, 16, 32, 48}} << Rects() << QPoint(32, 0);
+    QTest::newRow("the wall is full") << Rects {{0, 0, 128, 64}} << Rects() << QPoint(8, 8);
+    QTest::newRow("none") << Rects() << Rects() << QPoint(8, 8);
+    QTest::newRow("off the wall") << Rects {{500, 0, 32, 16}} << Rects() << QPoint(8, 8);
+}
+
+void TestPlacing::CopiesGoWhereNothingIs()
+{
+    QFETCH(QVector<QRect>, copied);
+    QFETCH(QVector<QRect>, others);
+    QTEST(CopyDistance(copied, others + copied, {128, 64}), "distance");
 }
 
 QTEST_GUILESS_MAIN(TestPlacing)

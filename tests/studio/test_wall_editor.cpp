@@ -142,7 +142,7 @@ void TestWallEditor::duplicates()
     QCOMPARE(studio.editor.Selected(), QVector<int> {last});
     QCOMPARE(studio.document.Text().count("value=\"1000\""), 2);
     QCOMPARE(studio.document.Text().count("value=\"1001\""), 1);
-    QCOMPARE(studio.wall.Geometry(last).topLeft(), QPoint(8, 8));
+    QCOMPARE(studio.wall.Geometry(last), QRect(64, 0, 64, 32)); // the free place beside it
 }
 
 void TestWallEditor::copiesAndPastes()
