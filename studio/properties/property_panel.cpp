@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -96,6 +97,7 @@ PropertyPanel::PropertyPanel(WallEditor &editor, QWidget *parent)
     MakePlace();
     MakeGroups();
     setWidget(inner);
+    inner->installEventFilter(this);
     for (QWidget *const control : inner->findChildren<QWidget *>()) {
         control->installEventFilter(this);
         if (control->focusPolicy() == Qt::WheelFocus)
@@ -118,9 +120,19 @@ bool PropertyPanel::eventFilter(QObject *object, QEvent *event)
     const bool isReturn = event->type() == QEvent::KeyPress && object->isWidgetType()
         && (qobject_cast<QLineEdit *>(object) || qobject_cast<QAbstractSpinBox *>(object))
         && static_cast<QKeyEvent *>(event)->matches(QKeySequence::InsertParagraphSeparator);
+    if (object == widget() && event->type() == QEvent::LayoutRequest)
+        KeepWide();
     if (isReturn) // after the value has been taken
         QMetaObject::invokeMethod(this, &PropertyPanel::Finished, Qt::QueuedConnection);
     return wouldChange || QScrollArea::eventFilter(object, event);
+}
+
+/// There is no horizontal scroll bar, and how wide the controls are depends on style and font.
+void PropertyPanel::KeepWide()
+{
+    setMinimumWidth(qMax(kPanelWidth,
+                         widget()->minimumSizeHint().width()
+                             + verticalScrollBar()->sizeHint().width()));
 }
 
 void PropertyPanel::MakeHead()

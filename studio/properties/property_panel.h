@@ -49,6 +49,7 @@ protected:
 
 private:
     void Refresh();
+    void KeepWide();
     void ShowClocks(const QVector<Lw::HNodeClock::HClockNode *> &clocks);
     void ShowPlace();
     void ShowWall();

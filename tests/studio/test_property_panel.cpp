@@ -210,6 +210,7 @@ private slots:
     void lackingFamilyStaysMarked();
     void brokenTextCannotBeSet();
     void wheelScrollsThePanel();
+    void controlsAreNotCut();
 
 private:
     static void Kinds();
@@ -478,6 +479,20 @@ void TestPropertyPanel::wheelScrollsThePanel()
         QApplication::sendEvent(control, &turn);
         QVERIFY2(*test.studio.document.Bytes() == bytes, qPrintable(control->objectName()));
     }
+}
+
+/// Fonts and styles differ in how wide their controls are, and the panel only scrolls down.
+void TestPropertyPanel::controlsAreNotCut()
+{
+    const QFont usual = QApplication::font();
+    for (const int points : {9, 20}) {
+        QApplication::setFont(QFont("DejaVu Sans", points));
+        PanelUnderTest test(Everything(DigitalClock));
+        QTRY_VERIFY2(test.panel.widget()->minimumSizeHint().width()
+                         <= test.panel.viewport()->width(),
+                     qPrintable(QString::number(points)));
+    }
+    QApplication::setFont(usual);
 }
 
 QTEST_MAIN(TestPropertyPanel)
