@@ -93,6 +93,19 @@ enum class Attribute : int {
 /// The values of Attribute::ClockType.
 enum ClockTypeCode { AnalogClock = 0, DigitalClock = 1, PictureClock = 2 };
 
+/// The date formats.
+enum DateType {
+    DateYearMonthDay = 0,
+    DateMonthDayYear = 1,
+    DateDayMonthYear = 2,
+    DateNamedMonthDayYear = 3,
+    DateDayNamedMonthYear = 4,
+    DateLabelled = 5,
+    DateLabelledMonthDay = 6,
+    DatePersian = 7,
+    DateWithMinus = 8,
+};
+
 /// How a value is stored.
 enum class ValueKind {
     Integer,

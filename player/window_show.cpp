@@ -1,5 +1,6 @@
 #include "window_show.h"
 
+#include "clock_report.h"
 #include "glyph_report.h"
 #include "plugins.h"
 #include "stage.h"
@@ -36,22 +37,6 @@ Placing PlacingOf(const Options &options)
 QString TimeText(const QDateTime &time)
 {
     return time.toString(Qt::ISODate);
-}
-
-QJsonObject ClockObject(Lw::HNode *node, qint64 instant)
-{
-    QJsonObject clock;
-    clock.insert(QStringLiteral("id"), node->GetAttributeToInt(kIdKey));
-    const std::optional<Lw::HNodeClock::ZoneSettings> zone = SettingsOf(node);
-    if (!zone)
-        return clock;
-    clock.insert(QStringLiteral("utc_offset_s"), OffsetAt(*zone, instant));
-    const auto change = NextChange(*zone, instant);
-    clock.insert(
-        QStringLiteral("next_change"),
-        change ? QJsonValue(TimeText(QDateTime::fromMSecsSinceEpoch(change->instant, Qt::UTC)))
-               : QJsonValue());
-    return clock;
 }
 
 bool LacksFiles(const Stage &stage)
@@ -316,13 +301,10 @@ void WindowShow::KeepStatus()
 QJsonObject WindowShow::Status()
 {
     const DeadlineMeter &meter = m_playback.Meter();
-    const qint64 instant = StageTime::Shown();
     const std::optional<bool> synchronised = IsTimeSynchronised();
-    QJsonArray clocks;
-    if (m_playback.Playing()) {
-        for (Lw::HNode *const node : m_playback.Playing()->Nodes())
-            clocks.append(ClockObject(node, instant));
-    }
+    const ClockReport report =
+        ReportClocks(m_playback.Playing() ? m_playback.Playing()->Nodes() : QVector<Lw::HNode *>(),
+                     StageTime::Shown(), m_rulesEnds);
     return {
         {QStringLiteral("format"), 1},
         {QStringLiteral("written"), TimeText(QDateTime::currentDateTimeUtc())},
@@ -338,7 +320,8 @@ QJsonObject WindowShow::Status()
         {QStringLiteral("time_set"), IsTimeSet()},
         {QStringLiteral("time_synchronised"),
          synchronised ? QJsonValue(*synchronised) : QJsonValue()},
-        {QStringLiteral("clocks"), clocks},
+        {QStringLiteral("clocks"), report.clocks},
+        {QStringLiteral("warnings"), report.warnings},
         {QStringLiteral("fault_count"), m_faultCount},
         {QStringLiteral("faults"), m_faults},
     };

@@ -9,6 +9,7 @@
 #include "player_window.h"
 #include "process_signals.h"
 #include "program_watch.h"
+#include "rules_end.h"
 #include "screen_guard.h"
 
 #include <QDateTime>
@@ -72,6 +73,7 @@ private:
     QString m_digest;
     QJsonArray m_faults;
     int m_faultCount = 0;
+    ClockZones::RulesEnds m_rulesEnds;
     const QDateTime m_started = QDateTime::currentDateTimeUtc();
 };
 

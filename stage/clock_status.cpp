@@ -17,12 +17,6 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-// Taken from the table directly, because the plugin's sources are not linked here.
-QString KeyOf(Attribute attribute)
-{
-    return QString::fromLatin1(RowOf(attribute).key);
-}
-
 // Padded with leading zeros to a width.
 void AppendNumber(QString &text, int number, int width)
 {
@@ -108,6 +102,11 @@ QString ClockText(const Status &status, ZoneMemory &memory)
 }
 
 } // namespace
+
+QString KeyOf(Attribute attribute)
+{
+    return QString::fromLatin1(RowOf(attribute).key);
+}
 
 std::optional<ZoneSettings> SettingsOf(Lw::HNode *node)
 {

@@ -11,8 +11,14 @@
 namespace Lw {
 class HNode;
 }
+namespace Lw::HNodeClock {
+enum class Attribute : int;
+}
 
 namespace ClockStage {
+
+/// The key of an attribute, from the table itself: the plugin's sources are not linked here.
+QString KeyOf(Lw::HNodeClock::Attribute attribute);
 
 /// The time settings that a node has now; without daylight saving both rules are empty. Nothing for
 /// a node that is not a clock.

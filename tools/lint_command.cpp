@@ -6,6 +6,7 @@
 #include "lint/fit_lint.h"
 #include "lint/glyph_lint.h"
 #include "lint/program_lint.h"
+#include "lint/validity_lint.h"
 #include "tool_arguments.h"
 #include "xml_document.h"
 #include "year_option.h"
@@ -27,6 +28,7 @@ constexpr char kDescription[] =
     "Then it checks every text that the clocks show in a year: what is cut or covered, when "
     "first,\n"
     "and which size fits; what is hard to see; which characters a font lacks.\n"
+    "It warns from 90 days before daylight-saving rules end or a calendar is wrong.\n"
     "\n"
     "Each finding is a line on standard error: file:line: warning: what, and what is accepted.\n"
     "Notes are informative and do not affect the exit code.\n"
@@ -66,8 +68,8 @@ MaybeFailure ShowAsJson(const Findings &findings, const QString &path)
 // The options of a lint run.
 struct Choices
 {
-    std::optional<qint64>
-        year; ///< start of the year to check, in UTC milliseconds; nullopt for no fit check
+    qint64 begin = 0; ///< of the year to check, in UTC milliseconds
+    bool checksFit = true;
     bool asJson = false;
     bool allowsLargeFrames = false;
 };
@@ -83,10 +85,11 @@ void LintClocks(const QDomDocument &document, const QString &path, const Choices
     if (!made)
         return LintAreas(*program, findings);
     LintGlyphs(*program, *made, findings);
+    LintValidity(*program, *made, choices.begin, findings);
     const bool isLarge =
         ClockProgram::CheckFrameBytes(*program).has_value(); // which LintProgram() reports
-    if (choices.year && (!isLarge || choices.allowsLargeFrames))
-        LintFit(*program, *made, *choices.year, findings);
+    if (choices.checksFit && (!isLarge || choices.allowsLargeFrames))
+        LintFit(*program, *made, choices.begin, findings);
     else
         LintAreas(*program, findings);
 }
@@ -123,8 +126,8 @@ Result<Choices> ReadChoices(const ToolArguments &tool)
     Choices choices;
     choices.asJson = format == QLatin1String("json");
     choices.allowsLargeFrames = tool.AllowsLargeFrames();
-    if (!tool.IsSet(kNoFit))
-        choices.year = *begin;
+    choices.begin = *begin;
+    choices.checksFit = !tool.IsSet(kNoFit);
     return choices;
 }
 

@@ -83,6 +83,11 @@ Span ListedAfter(const Span &span)
     return {span.end, qMax(span.end, MidnightOf(QDate(kLastListedYear + 1, 1, 1)))};
 }
 
+Span ListedSince(const QDate &first)
+{
+    return {MidnightOf(first), MidnightOf(QDate(kLastListedYear + 1, 1, 1))};
+}
+
 QString DateOf(qint64 utc)
 {
     return Lw::HNodeClock::FormatAscii(Utc(utc), "yyyy-MM-dd");
@@ -91,6 +96,14 @@ QString DateOf(qint64 utc)
 QList<QByteArray> ZoneNames()
 {
     return QTimeZone::availableTimeZoneIds();
+}
+
+QList<QByteArray> ZonesToTry()
+{
+    QList<QByteArray> names;
+    for (const char *name : kMuchUsed)
+        names.append(name);
+    return names + ZoneNames();
 }
 
 bool HasZoneData(const QList<QByteArray> &names)
@@ -109,10 +122,7 @@ std::optional<CivilTime> CivilTimeOf(const QByteArray &name, const Span &span)
 
 QByteArray ZoneWith(const ZoneSettings &settings, const Span &span)
 {
-    QList<QByteArray> names;
-    for (const char *name : kMuchUsed)
-        names.append(name);
-    for (const QByteArray &name : names + ZoneNames()) {
+    for (const QByteArray &name : ZonesToTry()) {
         const QTimeZone zone(name);
         if (zone.isValid() && MayHave(zone, settings, span.begin)
             && WrongTimes(settings, CivilTimeOf(zone, span)).isEmpty())

@@ -29,12 +29,18 @@ Span TenYearsFrom(const QDate &first);
 /// What follows a span, to the end of kLastListedYear; may be empty.
 Span ListedAfter(const Span &span);
 
+/// From a day to the end of kLastListedYear. The span ends before it begins for a later day.
+Span ListedSince(const QDate &first);
+
 /// "2026-03-29", in UTC.
 QString DateOf(qint64 utc);
 
 /// The names of the system's zones. Aliases may be missing here but are accepted as
 /// well.
 QList<QByteArray> ZoneNames();
+
+/// The same, the most widely used first (again among the others).
+QList<QByteArray> ZonesToTry();
 
 /// Whether the system has zone data. Without it, Qt lists only fixed offsets.
 bool HasZoneData(const QList<QByteArray> &names);

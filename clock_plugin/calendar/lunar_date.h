@@ -1,10 +1,8 @@
 // calendar/: the Chinese lunar calendar of the years 1900 to 2050, looked up in a table of month
 // lengths. Pure.
 //
-// The table is fixed and differs from the calendar in three years: in 1933 (22 July to 20 August)
-// and 1996 (15 July to 13 August, 12 September to 11 October) dates are one day ahead; in 2033 it
-// has a leap month 7 instead of a leap month 11, so that from 25 August to 21 December the month is
-// one too low.
+// The table is fixed and differs from the calendar in three years (calendar_deviations): in 1933 and
+// 1996 some dates are one day ahead; 2033 has a leap month 7 instead of a leap month 11.
 #pragma once
 
 #include <QDate>

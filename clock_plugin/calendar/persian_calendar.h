@@ -1,8 +1,7 @@
 // calendar/: the Persian (Solar Hijri) calendar, computed from a fixed anchor date. Pure.
 //
-// Leap years follow an arithmetic rule (31 in 128 years), not the equinox. From 1993 to 2060 the
-// two differ twice: from 20 March 2025 to 20 March 2026, and from 20 March 2058 to 20 March 2059,
-// the rule is one day ahead of the calendar of Iran.
+// Leap years follow an arithmetic rule (31 in 128 years), not the equinox, which differs from it in
+// two years from 1993 to 2060 (calendar_deviations).
 #pragma once
 
 #include <QDate>

@@ -2,23 +2,11 @@
 // and the numbers shown.
 #pragma once
 
+#include "clock_attribute_row.h" // for the date formats
 #include "compose/clock_glyphs.h"
 #include "compose/element.h"
 
 namespace Lw::HNodeClock {
-
-/// The date formats.
-enum DateType {
-    DateYearMonthDay = 0,
-    DateMonthDayYear = 1,
-    DateDayMonthYear = 2,
-    DateNamedMonthDayYear = 3,
-    DateDayNamedMonthYear = 4,
-    DateLabelled = 5,
-    DateLabelledMonthDay = 6,
-    DatePersian = 7,
-    DateWithMinus = 8,
-};
 
 /// The time formats. Codes above the list show hours, the hour label, minutes and seconds; negative
 /// codes show a separator instead of the label.

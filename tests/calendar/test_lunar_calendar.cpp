@@ -1,4 +1,5 @@
 // The lunar date of every day against a computed calendar, and the host's functions over it.
+#include "calendar/calendar_deviations.h"
 #include "calendar/lunar_calendar.h"
 #include "calendar/lunar_date.h"
 
@@ -9,8 +10,7 @@
 
 #include <limits>
 
-using Lw::HNodeClock::LunarDate;
-using Lw::HNodeClock::LunarDateOf;
+using namespace Lw::HNodeClock;
 
 namespace {
 
@@ -135,6 +135,7 @@ private slots:
     void CalendarFileIsWhole();
     void ExceptionsAreNeeded();
     void EveryDay();
+    void EveryDeviationIsKnown();
     void EveryAnswerOfTheEntryPoint();
     void NoDateOutsideTheTable();
     void EveryFirstOfMonth();
@@ -188,6 +189,29 @@ void TestLunarCalendar::EveryDay()
                               answer.monthDays};
         if (found != day || found.monthDays != day.monthDays)
             QFAIL(qPrintable(date.toString(Qt::ISODate)));
+    }
+}
+
+// Those of month and day, which are shown. What 1906 has depends on whose midnight is meant.
+void TestLunarCalendar::EveryDeviationIsKnown()
+{
+    const QVector<LunarDay> calendar = ReadCalendar();
+    QVector<DeviatingDays> deviations = LunarDeviations();
+    QCOMPARE(deviations.takeLast().first, kLastDay.addDays(1));
+    QVector<DeviatingDays> found;
+    for (QDate date(1907, 1, 1); date <= kLastDay; date = date.addDays(1)) {
+        const LunarDay &day = calendar.at(IndexOf(date));
+        const LunarDate answer = LunarDateOf(date);
+        if (answer.month == day.month && answer.day == day.day)
+            continue;
+        if (found.isEmpty() || found.last().last.addDays(1) != date)
+            found.append({date, date});
+        found.last().last = date;
+    }
+    QCOMPARE(found.size(), deviations.size());
+    for (int i = 0; i < found.size(); ++i) {
+        QCOMPARE(deviations[i].first, found[i].first);
+        QCOMPARE(deviations[i].last, found[i].last);
     }
 }
 

@@ -1,3 +1,4 @@
+#include "calendar/calendar_deviations.h"
 #include "calendar/persian_calendar.h"
 
 #include <QFile>
@@ -10,9 +11,7 @@
 #include <QCalendar>
 #endif
 
-using Lw::HNodeClock::IsPersianLeapYear;
-using Lw::HNodeClock::PersianDate;
-using Lw::HNodeClock::ToPersianDate;
+using namespace Lw::HNodeClock;
 
 namespace {
 
@@ -112,6 +111,13 @@ QString TextByEquinox(const QVector<QDate> &newYears, const QDate &date)
     return TextOfDay(1372 + i, static_cast<int>(newYears.at(i).daysTo(date)) + 1);
 }
 
+bool IsAmong(const QVector<DeviatingDays> &deviations, const QDate &date)
+{
+    return std::any_of(deviations.begin(), deviations.end(), [&date](const DeviatingDays &days) {
+        return days.first <= date && date <= days.last;
+    });
+}
+
 } // namespace
 
 class TestPersianCalendar : public QObject
@@ -121,6 +127,7 @@ class TestPersianCalendar : public QObject
 private slots:
     void EveryDayByEquinox();
     void EveryDayByQt();
+    void EveryDeviationIsKnown();
     void KnownDays_data();
     void KnownDays();
     void Unconvertible_data();
@@ -159,6 +166,16 @@ void TestPersianCalendar::EveryDayByQt()
         QCOMPARE(Text(ToPersianDate(date)), exception.isEmpty() ? byQt : exception);
     }
 #endif
+}
+
+void TestPersianCalendar::EveryDeviationIsKnown()
+{
+    const QVector<QDate> newYears = ReadNewYears();
+    const QVector<DeviatingDays> deviations = PersianDeviations();
+    for (QDate date = kFirstDay; date <= kLastDay; date = date.addDays(1)) {
+        const bool isWrong = Text(ToPersianDate(date)) != TextByEquinox(newYears, date);
+        QCOMPARE(IsAmong(deviations, date), isWrong);
+    }
 }
 
 void TestPersianCalendar::KnownDays_data()

@@ -312,6 +312,8 @@ private slots:
     void FaultsAreFound();
     void EveryFindingIsReported();
     void NotesDoNotCount();
+    void EndsOfClocks_data();
+    void EndsOfClocks();
     void MissingZoneIsNoted_data();
     void MissingZoneIsNoted();
     void ExportedCodesAreNoted_data();
@@ -322,11 +324,11 @@ private slots:
     void ManyFindings();
 
 private:
-    ProcessRun Lint(const QByteArray &text)
+    ProcessRun Lint(const QByteArray &text, const QString &day = "2026-09-01")
     {
         WriteText(m_directory.filePath("in.xml"), text);
         WriteText(m_directory.filePath("in.png"), "hello");
-        return RunTool({"lint", "--no-fit", m_directory.filePath("in.xml")});
+        return RunTool({"lint", "--no-fit", "--at", day, m_directory.filePath("in.xml")});
     }
 
     QTemporaryDir m_directory;
@@ -440,6 +442,48 @@ void TestToolLint::ExportedCodesAreNoted()
              qPrintable(run.errors));
     QVERIFY2(run.errors.contains("the clock reads \"format\""), qPrintable(run.errors));
     QCOMPARE(run.errors.count('\n'), 1);
+}
+
+void TestToolLint::EndsOfClocks_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("day");
+    QTest::addColumn<QString>("finding"); // empty: none of a clock's end
+    const QByteArray lunar = "<lunar display='true'/>";
+    QTest::newRow("91 days before") << lunar << "2033-05-26"
+                                    << "";
+    QTest::newRow("90 days before")
+        << lunar << "2033-05-27"
+        << "in.xml:1: warning: the lunar date is wrong from 2033-08-25T00:00:00Z on\n";
+    QTest::newRow("after the table")
+        << lunar << "2060-01-01"
+        << "in.xml:1: warning: the lunar date is missing from 2051-02-11T00:00:00Z on\n";
+    QTest::newRow("Persian, a day ahead")
+        << QByteArray("<date display='true' format='7'/>") << "2058-06-01"
+        << "in.xml:1: warning: the Persian date is wrong from 2058-03-20T00:00:00Z on\n";
+    const QByteArray israel = "<attribute key='TimeZone' value='+02:00'/>"
+                              "<attribute key='UseDaylightSavingTime' value='1'/>"
+                              "<attribute key='DaylightSavingTimeStart' value='3.4.5.02:00:00'/>"
+                              "<attribute key='DaylightSavingTimeEnd' value='10.Last.7.01:00:00'/>";
+    const QString rules = "the daylight-saving rules are those of Asia/Jerusalem only until "
+                          "2030-03-22T00:00:00Z";
+    QTest::newRow("rules, long before") << israel << "2026-09-01"
+                                        << "in.xml:1: note: " + rules + "\n";
+    QTest::newRow("rules, soon") << israel << "2030-01-01"
+                                 << "in.xml:1: warning: " + rules
+            + "; \"clock_tool zone Asia/Jerusalem\" prints others\n";
+}
+
+void TestToolLint::EndsOfClocks()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, day);
+    QFETCH(QString, finding);
+    const ProcessRun run = Lint(Digital(content), day);
+    QCOMPARE(run.exitCode, finding.contains("warning") ? 1 : 0);
+    QVERIFY2(finding.isEmpty() || run.errors.endsWith(finding), qPrintable(run.errors));
+    QCOMPARE(run.errors.contains(" until 2030") || run.errors.contains(" on\n"),
+             !finding.isEmpty());
 }
 
 void TestToolLint::MissingZoneIsNoted_data()

@@ -1,5 +1,6 @@
 #include "rule_note.h"
 
+#include "rules_end.h"
 #include "system_zones.h"
 
 #include "calendar/clock_time.h"
@@ -33,8 +34,11 @@ RuleNote NoteFor(const ZoneSettings &settings, const Span &span)
     ZoneSettings earlier = settings;
     earlier.end = HourEarlier(settings.end);
     const QByteArray meant = earlier.end.isEmpty() ? QByteArray() : ZoneWith(earlier, span);
-    if (meant.isEmpty())
-        return {QStringLiteral("no known zone uses these rules"), {}};
+    if (meant.isEmpty()) // rules with a known end have a finding of their own
+        return {RulesEnds().Of(settings, span.begin)
+                    ? QString()
+                    : QStringLiteral("no known zone uses these rules"),
+                {}};
     return {
         QStringLiteral("daylight saving ends an hour late for %2: the end is in standard time, an "
                        "hour before the published one; accepted: %1")

@@ -14,7 +14,8 @@ struct RuleNote
 };
 
 /// A sentence that names a zone whose time these settings show during ten years from a day, or says
-/// that none is known. Empty without two valid rules, and without zone data for that time.
+/// that none is known. Empty for rules that a zone left or will leave, without two valid rules, and
+/// without zone data for that time.
 RuleNote NoteOnRules(const ClockZones::ZoneSettings &settings, const QDate &today);
 
 } // namespace ClockTool
