@@ -19,8 +19,6 @@ Result<ProgramClocks> MakeClocks(const Result<Program> &program)
     if (!made)
         return made.Error();
     clocks.made = std::move(*made);
-    for (const QString &warning : qAsConst(clocks.made.warnings))
-        Say(warning);
     return clocks;
 }
 
@@ -33,9 +31,18 @@ Lw::HNodeClock::HClockNode &ProgramClocks::Clock(int area) const
         *made.nodes[static_cast<std::size_t>(area)].node);
 }
 
+void ProgramClocks::SayWarnings() const
+{
+    for (const QString &warning : made.warnings)
+        Say(warning);
+}
+
 Result<ProgramClocks> ReadClocks(const QString &path)
 {
-    return MakeClocks(ClockProgram::ReadProgram(path));
+    Result<ProgramClocks> clocks = MakeClocks(ClockProgram::ReadProgram(path));
+    if (clocks)
+        clocks->SayWarnings();
+    return clocks;
 }
 
 Result<ProgramClocks> ParseClocks(const QByteArray &contents, const QString &path)

@@ -113,6 +113,7 @@ Result<Fitting> FindSizes(const ToolArguments &tool, const QByteArray &contents,
     const Result<ProgramClocks> clocks = ParseClocks(contents, tool.Positional(0));
     if (!clocks)
         return clocks.Error();
+    clocks->SayWarnings();
     const MaybeFailure large = ClockProgram::CheckFrameBytes(clocks->program);
     if (large && !tool.AllowsLargeFrames())
         return *large;

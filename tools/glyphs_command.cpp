@@ -26,7 +26,7 @@ constexpr char kDescription[] =
     "digest, size in bytes, width and height in pixels, and where it is used, as area:key, with "
     "areas\n"
     "numbered from 1. Images that cannot be made, such as that of an empty text, share\n"
-    "one line without a digest.";
+    "one line, with \"-\" for the digest.";
 
 struct Image
 {
@@ -74,11 +74,14 @@ public:
     QString Summary() const
     {
         qint64 bytes = 0;
-        for (const Image &image : m_images)
+        int files = 0;
+        for (const Image &image : m_images) {
             bytes += image.bytes;
-        return QStringLiteral("%1 images, %2 different, %3 bytes to send")
+            files += image.digest.isEmpty() ? 0 : 1;
+        }
+        return QStringLiteral("%1 images, %2 different files, %3 bytes to send")
             .arg(m_count)
-            .arg(m_images.size())
+            .arg(files)
             .arg(bytes);
     }
 

@@ -45,6 +45,7 @@ class TestToolFit : public QObject
 private slots:
     void ChangesOnlyTheSize_data();
     void ChangesOnlyTheSize();
+    void EachWarningIsPrintedOnce();
     void SizeThatIsNotSetIsAdded();
     void SeveralPartsShrinkTogether();
     void OneSizeForAllBecomesSettings();
@@ -108,6 +109,15 @@ void TestToolFit::ChangesOnlyTheSize()
     QCOMPARE(FitWarnings(after), QString());
     QVERIFY(m_run.errors.contains("DigitalTimeFSize changed from 60 to " + QString::number(points)
                                   + " points"));
+}
+
+// The program is read more than once.
+void TestToolFit::EachWarningIsPrintedOnce()
+{
+    const QByteArray clock =
+        Digital(kHidden + Time(" fontSize='60'") + "<attribute key=\"Id\" value=\"7\"/>");
+    Fit(Wall(clock + "</area><area x='0' y='0' width='99' height='60'>" + clock));
+    QCOMPARE(m_run.errors.count("the Id 7 is used by another clock"), 1);
 }
 
 // A new clock's sizes are 12 points.
