@@ -12,6 +12,7 @@ namespace ClockStudio {
 namespace {
 
 constexpr int kSeconds = 10;
+constexpr int kLeastWidth = 640; // pixels, up to which walls are magnified by whole numbers
 const QString kConverter = QStringLiteral("convert");
 
 // UTC milliseconds that the frames show. Static because a time source is a plain function.
@@ -31,11 +32,13 @@ QString WritePreviewFrames(LiveWall &wall, const QString &folder)
                                            "ImageMagick is not installed (package imagemagick).");
     s_instant = ClockStage::StageTime::Shown();
     clock_set_time_source(FrameTime);
+    const int factor = qMax(1, kLeastWidth / qMax(1, wall.Size().width()));
     bool isWritten = true;
     for (int second = 0; second < kSeconds && isWritten; ++second, s_instant += 1000) {
         wall.PlayNext();
         const QString name = QStringLiteral("%1.png").arg(second, 2, 10, QLatin1Char('0'));
-        isWritten = wall.Screen().save(QDir(folder).filePath(name), "PNG");
+        isWritten =
+            wall.Screen().scaled(wall.Size() * factor).save(QDir(folder).filePath(name), "PNG");
     }
     clock_set_time_source(ClockStage::StageTime::TellPlugin);
     wall.PlayNext();

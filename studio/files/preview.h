@@ -6,7 +6,8 @@
 
 namespace ClockStudio {
 
-/// Writes a frame for each of the next ten seconds to a folder. Returns the error message, empty on
+/// Writes a frame for each of the next ten seconds to a folder, magnified if the wall is small.
+/// Returns the error message, empty on
 /// success.
 QString WritePreviewFrames(LiveWall &wall, const QString &folder);
 

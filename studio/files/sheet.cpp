@@ -1,5 +1,8 @@
 #include "sheet.h"
 
+#include "properties/property_groups.h"
+
+#include "calendar/clock_time.h"
 #include "clock_attributes.h"
 #include "clock_node.h"
 #include "happconfig.h"
@@ -18,9 +21,10 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-constexpr int kPitch = 6;        // pixels per LED in the picture
-constexpr int kResolution = 150; // dots per inch
-constexpr int kMargin = 15;      // millimetres
+constexpr int kPitch = 6;          // pixels per LED in the picture
+constexpr int kResolution = 150;   // dots per inch
+constexpr int kPictureWidth = 630; // pixels at 96 dpi: as wide as the text between the margins that
+                                   // QTextDocument sets
 
 QString Translated(const char *text)
 {
@@ -30,21 +34,6 @@ QString Translated(const char *text)
 QString Words(const char *words)
 {
     return QCoreApplication::translate("ClockStudio::Attributes", words).toHtmlEscaped();
-}
-
-bool IsUsed(const AttributeRow &row, int kind)
-{
-    switch (row.clocks) {
-    case ClockKinds::All:
-        return row.attribute != Attribute::Id && row.attribute != Attribute::Guid;
-    case ClockKinds::Analog:
-        return kind == AnalogClock;
-    case ClockKinds::Digital:
-        return kind == DigitalClock;
-    case ClockKinds::Picture:
-        return kind == PictureClock;
-    }
-    return false;
 }
 
 QString ValueText(const AttributeRow &row, HClockNode &clock)
@@ -61,41 +50,62 @@ QString ValueText(const AttributeRow &row, HClockNode &clock)
     if (row.role == ValueRole::Flag)
         return stored.toInt() != 0 ? Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "yes"))
                                    : Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "no"));
-    return stored.toHtmlEscaped();
+    return row.role == ValueRole::Size ? stored + QStringLiteral(" pt") : stored.toHtmlEscaped();
 }
 
+QString Row(const QString &label, const QString &value)
+{
+    return QStringLiteral("<tr><td>%1&nbsp;&nbsp;</td><td><b>%2</b></td></tr>").arg(label, value);
+}
+
+/// Zone, daylight-saving rules where they are used, and the adjustment where there is one.
+QString TimeRows(HClockNode &clock)
+{
+    const auto row = [&clock](Attribute attribute) {
+        return Row(Words(RowOf(attribute).label), ValueText(RowOf(attribute), clock));
+    };
+    QString html = row(Attribute::TimeZone);
+    if (clock.GetAttributeToInt(Key(Attribute::UseDaylightSavingTime)) != 0)
+        html += row(Attribute::DaylightSavingTimeStart) + row(Attribute::DaylightSavingTimeEnd);
+    const int seconds = ParseAdjustment(clock.GetAttribute(Key(Attribute::TimeAdjust)));
+    if (seconds != 0)
+        html += Row(Words(RowOf(Attribute::TimeAdjust).label),
+                    FormatAscii(QTime(0, 0).addSecs(seconds), "hh:mm:ss") + QLatin1Char(' ')
+                        + ValueText(RowOf(Attribute::AdjustType), clock));
+    return html;
+}
+
+/// What the clock shows and how; the settings of what it hides are left out.
 QString ClockTable(HClockNode &clock, int number, const QRect &geometry)
 {
-    QString html =
-        QStringLiteral("<h3>%1</h3><p>%2</p><table cellpadding=\"2\">")
-            .arg(Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "Clock %1")).arg(number),
-                 QStringLiteral("%1, %2 &nbsp; %3 × %4")
-                     .arg(geometry.x())
-                     .arg(geometry.y())
-                     .arg(geometry.width())
-                     .arg(geometry.height()));
-    int column = 0;
+    QString html = QStringLiteral("<h3>%1</h3><p>%2</p><table cellpadding=\"2\">")
+                       .arg(Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "Clock %1: %2"))
+                                .arg(number)
+                                .arg(ValueText(RowOf(Attribute::ClockType), clock)),
+                            QStringLiteral("%1, %2 &nbsp; %3 × %4")
+                                .arg(geometry.x())
+                                .arg(geometry.y())
+                                .arg(geometry.width())
+                                .arg(geometry.height()));
+    html += TimeRows(clock);
     for (const AttributeRow &row : kAttributeTable) {
-        if (!IsUsed(row, clock.ClockType()) || !clock.HaveAttribute(Key(row.attribute)))
-            continue;
-        html += column == 0 ? QStringLiteral("<tr>") : QString();
-        html += QStringLiteral("<td>%1</td><td><b>%2</b>&nbsp;&nbsp;</td>")
-                    .arg(Words(row.label), ValueText(row, clock));
-        column = (column + 1) % 2;
-        html += column == 0 ? QStringLiteral("</tr>") : QString();
+        const QString value = ValueText(row, clock);
+        if (ShowsProperty(clock, row.attribute) && !value.isEmpty())
+            html += Row(Words(row.label), value);
     }
-    return html + (column != 0 ? QStringLiteral("</tr></table>") : QStringLiteral("</table>"));
+    return html + QStringLiteral("</table>");
 }
+
+} // namespace
 
 QString SheetText(const QString &title, LiveWall &wall, const QStringList &findings)
 {
     QString html =
-        QStringLiteral(
-            "<h1>%1</h1><p>%2 &nbsp; %3 × %4</p><p><img src=\"wall\" width=\"640\"/></p>")
+        QStringLiteral("<h1>%1</h1><p>%2 &nbsp; %3 × %4</p><p><img src=\"wall\" width=\"%5\"/></p>")
             .arg(title.toHtmlEscaped(),
-                 QLocale().toString(QDate::currentDate(), QLocale::LongFormat))
-            .arg(wall.Size().width())
-            .arg(wall.Size().height());
+                 QLocale().toString(QDate::currentDate(), QLocale::LongFormat),
+                 QString::number(wall.Size().width()), QString::number(wall.Size().height()),
+                 QString::number(kPictureWidth));
     html += QStringLiteral("<h3>%1</h3>")
                 .arg(Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "Findings")));
     if (findings.isEmpty())
@@ -114,15 +124,13 @@ QString SheetText(const QString &title, LiveWall &wall, const QStringList &findi
     return html;
 }
 
-} // namespace
-
 void WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
                 const QStringList &findings)
 {
     QPdfWriter writer(&device);
     writer.setResolution(kResolution);
     writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins(QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter);
+    writer.setPageMargins(QMarginsF());
     writer.setTitle(title);
     QTextDocument document;
     const QImage picture = ClockStage::LedScreen(kPitch).Diodes(wall.Screen());

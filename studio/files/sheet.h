@@ -14,4 +14,7 @@ namespace ClockStudio {
 void WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
                 const QStringList &findings);
 
+/// Its contents as HTML: of each clock, what it shows and how. The picture is the resource "wall".
+QString SheetText(const QString &title, LiveWall &wall, const QStringList &findings);
+
 } // namespace ClockStudio

@@ -69,7 +69,7 @@ QString StatusText(const WallStatus &status)
         break;
     }
     return Translated(
-        QT_TRANSLATE_NOOP("ClockStudio::WallStatus", "The wall's fields cannot be read."));
+        QT_TRANSLATE_NOOP("ClockStudio::WallStatus", "The wall's status cannot be read."));
 }
 
 } // namespace ClockStudio

@@ -94,15 +94,20 @@ void FindingsPanel::List(const QVector<ClockTool::Finding> &findings)
         static_cast<int>(std::count_if(m_findings.cbegin(), m_findings.cend(), isWarning)));
 }
 
+QString FindingsPanel::TextOf(const ClockTool::Finding &finding)
+{
+    const QString where =
+        finding.place.clock > 0 ? tr("Clock %1: ").arg(finding.place.clock) : QString();
+    return where + finding.text;
+}
+
 void FindingsPanel::Add(const ClockTool::Finding &finding)
 {
     const bool isWarning = finding.severity == ClockTool::Severity::Warning;
-    const QString where =
-        finding.place.clock > 0 ? tr("Clock %1: ").arg(finding.place.clock) : QString();
     auto *const item =
         new QListWidgetItem(style()->standardIcon(isWarning ? QStyle::SP_MessageBoxWarning
                                                             : QStyle::SP_MessageBoxInformation),
-                            where + finding.text, m_list);
+                            TextOf(finding), m_list);
     item->setToolTip(tr("Line %1").arg(finding.place.line));
 }
 

@@ -29,6 +29,8 @@ public:
     void Check();
     /// The same, and waits for all of it while events are handled.
     void CheckAll();
+    /// As listed, with the number of the clock.
+    static QString TextOf(const ClockTool::Finding &finding);
 
 Q_SIGNALS:
     void CountChanged(int count); ///< of warnings

@@ -17,22 +17,6 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-/// Whether the clock uses and shows the property group that contains the attribute.
-bool IsShown(HClockNode &clock, Attribute attribute)
-{
-    for (int i = 0; i < kPropertyGroupCount; ++i) {
-        const PropertyGroup &group = kPropertyGroups[i];
-        for (const PropertyLine &line : group.lines) {
-            const Attribute *const end = line.attributes + line.count;
-            if (std::find(line.attributes, end, attribute) != end)
-                return IsUsedBy(group.clocks, clock.ClockType())
-                    && (group.shown == Attribute::Id
-                        || clock.GetAttributeToInt(Key(group.shown)) != 0);
-        }
-    }
-    return false;
-}
-
 /// The sizes that differ from the clock's, of texts that it shows.
 QVector<StoredValue> ChangedSizes(HClockNode &clock, const ClockFit::FontSizes &sizes)
 {
@@ -40,7 +24,7 @@ QVector<StoredValue> ChangedSizes(HClockNode &clock, const ClockFit::FontSizes &
     for (int font = 0; font < kGlyphFontCount; ++font) {
         const Attribute size = FontAttributes(static_cast<GlyphFont>(font), clock.ClockType()).size;
         const QString text = QString::number(sizes[static_cast<std::size_t>(font)]);
-        if (IsShown(clock, size) && clock.GetAttribute(Key(size)) != text)
+        if (ShowsProperty(clock, size) && clock.GetAttribute(Key(size)) != text)
             values.append({size, text});
     }
     return values;

@@ -1,7 +1,8 @@
 #include "property_groups.h"
 
-#include <QtGlobal>
+#include "clock_node.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace ClockStudio {
@@ -91,6 +92,21 @@ bool IsUsedBy(ClockKinds clocks, int kind)
         return kind == DigitalClock;
     case ClockKinds::Picture:
         return kind == PictureClock;
+    }
+    return false;
+}
+
+bool ShowsProperty(Lw::HNodeClock::HClockNode &clock, A attribute)
+{
+    for (int i = 0; i < kPropertyGroupCount; ++i) {
+        const PropertyGroup &group = kPropertyGroups[i];
+        for (const PropertyLine &line : group.lines) {
+            const A *const end = line.attributes + line.count;
+            if (std::find(line.attributes, end, attribute) != end)
+                return IsUsedBy(group.clocks, clock.ClockType())
+                    && (group.shown == A::Id
+                        || clock.GetAttributeToInt(Lw::HNodeClock::Key(group.shown)) != 0);
+        }
     }
     return false;
 }

@@ -4,6 +4,10 @@
 
 #include "clock_attributes.h"
 
+namespace Lw::HNodeClock {
+class HClockNode;
+}
+
 namespace ClockStudio {
 
 constexpr int kMaxOnLine = 3;
@@ -32,5 +36,8 @@ extern const int kPropertyGroupCount;
 
 /// Whether `clocks` includes a kind of clock (see ClockTypeCode).
 bool IsUsedBy(Lw::HNodeClock::ClockKinds clocks, int kind);
+
+/// Whether a clock uses an attribute of a group and shows what the group sets.
+bool ShowsProperty(Lw::HNodeClock::HClockNode &clock, Lw::HNodeClock::Attribute attribute);
 
 } // namespace ClockStudio

@@ -1668,10 +1668,6 @@
         <translation>خیر</translation>
     </message>
     <message>
-        <source>Clock %1</source>
-        <translation>ساعت %1</translation>
-    </message>
-    <message>
         <source>Findings</source>
         <translation>یافته‌ها</translation>
     </message>
@@ -1682,6 +1678,10 @@
     <message>
         <source>Approved by ______________________   on ______________</source>
         <translation>تأیید ______________________   تاریخ ______________</translation>
+    </message>
+    <message>
+        <source>Clock %1: %2</source>
+        <translation>ساعت %1: %2</translation>
     </message>
 </context>
 <context>

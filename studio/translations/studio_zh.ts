@@ -1668,10 +1668,6 @@
         <translation>否</translation>
     </message>
     <message>
-        <source>Clock %1</source>
-        <translation>时钟 %1</translation>
-    </message>
-    <message>
         <source>Findings</source>
         <translation>检查结果</translation>
     </message>
@@ -1682,6 +1678,10 @@
     <message>
         <source>Approved by ______________________   on ______________</source>
         <translation>批准人 ______________________   日期 ______________</translation>
+    </message>
+    <message>
+        <source>Clock %1: %2</source>
+        <translation>时钟 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -59,7 +59,7 @@ void MainWindow::SaveSheet()
     m_findings->CheckAll();
     QStringList findings;
     for (const ClockTool::Finding &finding : m_findings->Findings())
-        findings.append(finding.text);
+        findings.append(FindingsPanel::TextOf(finding));
     SayWritten(path, WriteWhole(path, [&](QIODevice &file) {
                    WriteSheet(file, m_files.Name(), m_wall, findings);
                    return true;
