@@ -68,7 +68,8 @@ function(clock_install)
     install(TARGETS clock_plugin
         LIBRARY DESTINATION ${CLOCK_INSTALL_ROOT}/plugins COMPONENT runtime NAMELINK_SKIP)
     install(DIRECTORY examples DESTINATION ${CLOCK_INSTALL_DOC} COMPONENT runtime
-        USE_SOURCE_PERMISSIONS FILES_MATCHING PATTERN "*.xml" PATTERN "release")
+        USE_SOURCE_PERMISSIONS FILES_MATCHING PATTERN "*.xml" PATTERN "release"
+            PATTERN "metrics")
     # bash finds the completion of a command by its name; one file has both.
     install(FILES packaging/completion/clock_player
         DESTINATION share/bash-completion/completions COMPONENT runtime)

@@ -38,6 +38,47 @@ QByteArray Wall()
         + Clock(3, "+03:30", "<date display=\"true\" format=\"7\"/>") + "</program>";
 }
 
+// With the build machine's interpreter, also where the player runs in an emulator.
+ProcessRun RunMetrics(const QString &status)
+{
+    QProcess process;
+    process.start(QStringLiteral(EXAMPLES "/fleet/metrics"), {status});
+    ProcessRun run;
+    run.crashed = !process.waitForFinished(kPatience);
+    run.exitCode = process.exitCode();
+    run.output = QString::fromUtf8(process.readAllStandardOutput());
+    run.errors = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+
+// The values of an exposition by name and labels; empty if a line is neither help, type nor sample,
+// or a sample does not follow the type of its metric.
+QMap<QString, double> Samples(const QString &exposition)
+{
+    static const QRegularExpression help("^# HELP ([a-zA-Z_:][a-zA-Z0-9_:]*) .+$");
+    static const QRegularExpression type(
+        "^# TYPE ([a-zA-Z_:][a-zA-Z0-9_:]*) (counter|gauge|untyped)$");
+    static const QRegularExpression sample("^(([a-zA-Z_:][a-zA-Z0-9_:]*)(?:\\{(?:[a-zA-Z_][a-zA-Z0-"
+                                           "9_]*=\"(?:[^\"\\\\]|\\\\[\"\\\\n])*\","
+                                           "?)+\\})?) ([-+0-9.e]+)$");
+    QMap<QString, double> values;
+    QString helped;
+    QString typed;
+    for (const QString &line : exposition.split('\n', Qt::SkipEmptyParts)) {
+        const auto value = sample.match(line);
+        if (help.match(line).hasMatch())
+            helped = help.match(line).captured(1);
+        else if (type.match(line).captured(1) == helped && !helped.isEmpty())
+            typed = helped;
+        else if (value.hasMatch() && value.captured(2) == typed
+                 && !values.contains(value.captured(1)))
+            values.insert(value.captured(1), value.captured(3).toDouble());
+        else
+            return {};
+    }
+    return exposition.endsWith('\n') ? values : QMap<QString, double>();
+}
+
 } // namespace
 
 class TestStatus : public QObject
@@ -47,6 +88,9 @@ class TestStatus : public QObject
 private slots:
     void ValidUntil();
     void WarningsBeforeTheEnd();
+    void Metrics();
+    void MetricsOfNoStatus_data();
+    void MetricsOfNoStatus();
 
 private:
     QJsonObject StatusAt(const QString &instant);
@@ -102,6 +146,48 @@ void TestStatus::WarningsBeforeTheEnd()
                                       {"text",
                                        "the daylight-saving rules are those of Asia/Jerusalem only "
                                        "until 2030-03-22T00:00:00Z"}}}));
+}
+
+// 2030-03-22 is 21995 days after the first of 1970.
+void TestStatus::Metrics()
+{
+    QVERIFY(!StatusAt("2029-12-22T00:00:00Z").isEmpty());
+    const ProcessRun run = RunMetrics(m_directory.filePath("status.json"));
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.exitCode, 0);
+    const QMap<QString, double> values = Samples(run.output);
+    const QString until = "clock_player_clock_valid_until_timestamp_seconds{id=\"%1\"}";
+    QCOMPARE(values.value(until.arg(1001)), 21995 * 86400.0);
+    QVERIFY(!values.contains(until.arg(1000)));
+    QCOMPARE(values.value("clock_player_clock_utc_offset_seconds{id=\"1003\"}"), 12600.0);
+    QCOMPARE(values.value("clock_player_warnings"), 1.0);
+    QCOMPARE(values.value("clock_player_faults_total", -1), 0.0);
+    QCOMPARE(values.value("clock_player_notice{code=\"\"}", -1), 0.0);
+    const double now = static_cast<double>(QDateTime::currentSecsSinceEpoch());
+    QVERIFY(qAbs(values.value("clock_player_written_timestamp_seconds") - now) < 3600);
+}
+
+void TestStatus::MetricsOfNoStatus_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("half") << QByteArray("{\"format\": 1,");
+    QTest::newRow("another object") << QByteArray("{\"format\": 1}");
+    QTest::newRow("no object") << QByteArray("[]");
+    QTest::newRow("not text") << QByteArray("\xff\xfe\x00", 3);
+}
+
+void TestStatus::MetricsOfNoStatus()
+{
+    QFETCH(QByteArray, contents);
+    QFile file(m_directory.filePath("no_status.json"));
+    QVERIFY(file.open(QFile::WriteOnly) && file.write(contents) == contents.size());
+    file.close();
+    const ProcessRun run = RunMetrics(file.fileName());
+    QCOMPARE(run.exitCode, 1);
+    QCOMPARE(run.output, QString());
+    QVERIFY2(run.errors.startsWith("metrics: ") && run.errors.count('\n') == 1,
+             qPrintable(run.errors));
 }
 
 QTEST_GUILESS_MAIN(TestStatus)
