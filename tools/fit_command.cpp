@@ -2,7 +2,7 @@
 #include "clock_nodes.h"
 #include "commands.h"
 #include "output.h"
-#include "size_edits.h"
+#include "setting_edits.h"
 #include "tool_arguments.h"
 #include "year_option.h"
 
@@ -37,9 +37,9 @@ public:
         : m_clocks(clocks), m_check(YearFrom(begin)), m_grows(grows)
     { }
 
-    QVector<SizeChange> Changes()
+    QVector<SettingChange> Changes()
     {
-        QVector<SizeChange> changes;
+        QVector<SettingChange> changes;
         for (int area = 0; area < m_clocks.Count(); ++area) {
             HClockNode &clock = m_clocks.Clock(area);
             const std::optional<FontSizes> sizes = SizesFor(area, clock);
@@ -70,7 +70,7 @@ private:
         return SizesThatFit(m_check, clock, visible);
     }
 
-    void AddChanges(QVector<SizeChange> &changes, int area, HClockNode &clock,
+    void AddChanges(QVector<SettingChange> &changes, int area, HClockNode &clock,
                     const FontSizes &sizes)
     {
         const FontSizes own = SizesOf(clock);
@@ -80,7 +80,7 @@ private:
                 continue;
             const Attribute attribute =
                 FontAttributes(static_cast<GlyphFont>(font), clock.ClockType()).size;
-            changes.append({area, attribute, sizes[index]});
+            changes.append({area, attribute, QString::number(sizes[index])});
             Tell(area,
                  QStringLiteral("%1 changed from %3 to %2 points")
                      .arg(Key(attribute))
@@ -103,7 +103,7 @@ private:
 
 struct Fitting
 {
-    QVector<SizeChange> changes;
+    QVector<SettingChange> changes;
     bool fitsAll = true;
 };
 
@@ -118,7 +118,7 @@ Result<Fitting> FindSizes(const ToolArguments &tool, const QByteArray &contents,
     if (large && !tool.AllowsLargeFrames())
         return *large;
     FitCommand fit(*clocks, begin, tool.IsSet(kGrow));
-    const QVector<SizeChange> changes = fit.Changes();
+    const QVector<SettingChange> changes = fit.Changes();
     return Fitting {changes, fit.FitsAll()};
 }
 
@@ -132,7 +132,7 @@ CommandResult Fit(const ToolArguments &tool, qint64 begin)
     if (!found)
         return Report(found.Error());
     const Result<QByteArray> fitted =
-        found->changes.isEmpty() ? contents : WithSizes(*contents, path, found->changes);
+        found->changes.isEmpty() ? contents : WithSettings(*contents, path, found->changes);
     if (!fitted)
         return Report(fitted.Error());
     const CommandResult delivered = Deliver(tool.Output(), *fitted);

@@ -3,6 +3,7 @@
 #include "output.h"
 #include "suggestion.h"
 #include "tool_arguments.h"
+#include "zone_refresh.h"
 #include "zone_words/nearest_zone.h"
 
 #include "calendar/system_time.h"
@@ -32,11 +33,18 @@ constexpr char kDescription[] =
     "If a zone's time cannot be expressed exactly, the settings written are wrong for the\n"
     "shortest time, and every wrong time is listed.\n"
     "\n"
-    "Exit codes: 0 exact, 1 not exact, or not known, 2 wrong command line, 3 no such zone.";
+    "With --refresh it writes a program instead: each clock whose daylight-saving rules its zone\n"
+    "has left gets the zone's present settings, and nothing else changes, not even white space or\n"
+    "comments. The zone is found by the rules. Each change is reported on standard error; -o may\n"
+    "name the program itself.\n"
+    "\n"
+    "Exit codes: 0 exact, 1 not exact, or not known, or a clock could not be refreshed, 2 wrong\n"
+    "command line, 3 no such zone, or not a program.";
 
 constexpr int kFirstYear = 1970;
 
 const QString kList = QStringLiteral("list");
+const QString kRefresh = QStringLiteral("refresh");
 const QString kYear = QStringLiteral("year");
 
 QString TextOf(qint64 utc)
@@ -44,18 +52,13 @@ QString TextOf(qint64 utc)
     return QDateTime::fromMSecsSinceEpoch(utc, Qt::UTC).toString(Qt::ISODate);
 }
 
-QString SettingLine(Attribute attribute, const QString &value)
-{
-    return QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>\n").arg(Key(attribute), value);
-}
-
 QString SettingLines(const ZoneSettings &settings)
 {
-    return SettingLine(Attribute::TimeZone, settings.ZoneText())
-        + SettingLine(Attribute::UseDaylightSavingTime,
-                      QString::number(settings.HasDaylightSaving() ? 1 : 0))
-        + SettingLine(Attribute::DaylightSavingTimeStart, settings.start)
-        + SettingLine(Attribute::DaylightSavingTimeEnd, settings.end);
+    QString lines;
+    for (const ZoneValue &row : ZoneValues(settings))
+        lines += QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>\n")
+                     .arg(Key(row.attribute), row.value);
+    return lines;
 }
 
 QString Comment(const QString &text)
@@ -170,18 +173,29 @@ CommandResult WriteSettings(const ToolArguments &tool, const Span &span)
     return wrong.isEmpty() ? ExitCode::Success : ExitCode::RuntimeFailure;
 }
 
+CommandResult Refresh(const ToolArguments &tool, const QDate &today)
+{
+    if (!HasZoneData(ZoneNames()))
+        return Report(NoZoneData());
+    return RefreshZones(tool.Positional(0), tool.Output(),
+                        QDateTime(today, QTime(0, 0), Qt::UTC).toMSecsSinceEpoch());
+}
+
 } // namespace
 
 CommandResult RunZone(const QStringList &arguments)
 {
     ToolArguments tool(QStringLiteral("zone"), QString::fromLatin1(kDescription));
-    tool.AddPositional(QStringLiteral("ZONE"), QStringLiteral("The zone, such as Europe/Berlin."));
+    tool.AddPositional(
+        QStringLiteral("ZONE"),
+        QStringLiteral("The zone, such as Europe/Berlin; with --refresh a program."));
     tool.AddOption({kYear},
                    QStringLiteral("The ten years begin with <year>, %1 to %2 (default: today).")
                        .arg(kFirstYear)
                        .arg(kLastListedYear),
                    kYear);
     tool.AddOutput();
+    tool.AddFlag(kRefresh, QStringLiteral("Write a program with current daylight-saving rules."));
     tool.AddAlternative(kList, QStringLiteral("List the system's zones, one per line."));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
@@ -192,6 +206,8 @@ CommandResult RunZone(const QStringList &arguments)
         return Report(ClockProgram::UsageFailure(QStringLiteral("--year needs a year from %1 to %2")
                                                      .arg(kFirstYear)
                                                      .arg(kLastListedYear)));
+    if (tool.IsSet(kRefresh))
+        return Refresh(tool, first);
     return WriteSettings(tool, TenYearsFrom(first));
 }
 

@@ -41,7 +41,9 @@ std::optional<RulesEnd> FindEnd(const ZoneSettings &settings, qint64 now)
             continue;
         const std::optional<qint64> end = LastAgreement(settings, *civil, now);
         if (end && (!found || *end > found->until))
-            found = RulesEnd {*end, zone, *end < span.end};
+            found = RulesEnd {*end, zone, {zone}, *end < span.end};
+        else if (end && *end == found->until)
+            found->all.append(zone);
         if (found && !found->isListed)
             break; // no zone can use them longer
     }

@@ -21,7 +21,8 @@ std::optional<qint64> LastAgreement(const ZoneSettings &settings, const CivilTim
 struct RulesEnd
 {
     qint64 until = 0;      ///< UTC milliseconds; in the past if the zone has already left them
-    QByteArray zone;       ///< of several zones the one that uses them longest
+    QByteArray zone;       ///< the first of these that use them longest
+    QList<QByteArray> all; ///< these; just one where the zone data end
     bool isListed = false; ///< false: the zone data end then, and no other end is known
 };
 

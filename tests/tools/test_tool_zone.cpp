@@ -34,6 +34,13 @@ private slots:
     void LintKnowsTheZone();
     void ListsAllZones();
     void ToFile();
+    void RefreshesRules_data();
+    void RefreshesRules();
+    void LeavesCurrentRules();
+    void RefreshDoesNotGuess();
+    void RefreshesInPlace();
+    void RefreshKeepsTheFile_data();
+    void RefreshKeepsTheFile();
 };
 
 void TestToolZone::SettingsOfExactZones_data()
@@ -177,6 +184,124 @@ void TestToolZone::ToFile()
     QCOMPARE(run.exitCode, 0);
     QCOMPARE(run.output, QString());
     QCOMPARE(Settings(QString::fromUtf8(ReadText(path)))["TimeZone"], QString("+09:00"));
+}
+
+namespace {
+
+// Bytes that a rewriting of the XML would change: quotes, white space, a comment, an encoding.
+QByteArray OddProgram(const QByteArray &zone, const QByteArray &uses, const QByteArray &start,
+                      const QByteArray &end)
+{
+    return "<?xml version='1.0'  encoding='ISO-8859-1'?>\r\n<!-- caf\xe9 -->\r\n"
+           "<program width='64'   height=\"32\"><area x='0' y='0' width='64' height='32'>\n"
+           "\t<clock type='digital' "
+        + zone + ">\n<attribute  value='" + uses
+        + "' key='UseDaylightSavingTime' />\n"
+          "<attribute key='DaylightSavingTimeStart' value='"
+        + start + "'/><!--x--><attribute key='DaylightSavingTimeEnd'\nvalue='" + end
+        + "'/></clock></area></program>\n\n";
+}
+
+} // namespace
+
+void TestToolZone::RefreshesRules_data()
+{
+    QTest::addColumn<QString>("year");
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    // Mexico gave up summer time after October 2022.
+    QTest::newRow("summer time is given up")
+        << "2026" << OddProgram("timezone='-06:00'", "1", "4.1.7.02:00:00", "10.Last.7.01:00:00")
+        << OddProgram("timezone='-06:00'", "0", "", "");
+    // The United States had April to October until 2006, and have March to November since.
+    QTest::newRow("other rules") << "2010"
+                                 << OddProgram("timezone=\"-5:00\"", "1", "4.1.7.02:00:00",
+                                               "10.Last.7.01:00:00")
+                                 << OddProgram("timezone=\"-5:00\"", "1", "3.2.7.02:00:00",
+                                               "11.1.7.01:00:00");
+    // Turkey kept summer time from 2016 on, but Greece has the same rules still.
+    QTest::newRow("another zone has them")
+        << "2026" << OddProgram("timezone='+02:00'", "1", "3.Last.7.03:00:00", "10.Last.7.03:00:00")
+        << OddProgram("timezone='+02:00'", "1", "3.Last.7.03:00:00", "10.Last.7.03:00:00");
+}
+
+void TestToolZone::RefreshesRules()
+{
+    QFETCH(QString, year);
+    QFETCH(QByteArray, before);
+    QFETCH(QByteArray, after);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("in.xml");
+    const QString refreshed = folder.filePath("out.xml");
+    QVERIFY(WriteText(path, before));
+    const ProcessRun run = RunTool({"zone", "--refresh", path, "--year", year, "-o", refreshed});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(ReadText(refreshed), after);
+    QCOMPARE(ReadText(path), before);
+    QCOMPARE(run.errors.isEmpty(), before == after);
+    QVERIFY2(before == after
+                 || run.errors.contains("DaylightSavingTimeStart changed from "
+                                        "\"4.1.7.02:00:00\" to"),
+             qPrintable(run.errors));
+}
+
+void TestToolZone::LeavesCurrentRules()
+{
+    const QDir examples(InTree("examples"));
+    for (const QString &name : examples.entryList({"*.xml"}, QDir::Files)) {
+        const QString path = examples.filePath(name);
+        const ProcessRun run = RunTool({"zone", "--refresh", path, "--year", "2026"});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.errors, QString());
+        QCOMPARE(run.output.toUtf8(), ReadText(path));
+    }
+}
+
+// Omsk and Novosibirsk kept summer time in 2011; today they are an hour apart.
+void TestToolZone::RefreshDoesNotGuess()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("in.xml");
+    const QByteArray program =
+        OddProgram("timezone='+06:00'", "1", "3.Last.7.02:00:00", "10.Last.7.02:00:00");
+    QVERIFY(WriteText(path, program));
+    const ProcessRun run = RunTool({"zone", "--refresh", path, "--year", "2026", "-o", path});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY2(run.errors.contains("left these rules on 2011-10-29 differ now: ")
+                 && run.errors.contains("Asia/Omsk") && run.errors.contains("Asia/Novosibirsk"),
+             qPrintable(run.errors));
+    QCOMPARE(ReadText(path), program);
+}
+
+void TestToolZone::RefreshesInPlace()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("in.xml");
+    QVERIFY(WriteText(
+        path, OddProgram("timezone='-06:00'", "1", "4.1.7.02:00:00", "10.Last.7.01:00:00")));
+    QCOMPARE(RunTool({"zone", "--refresh", path, "--year", "2026", "-o", path}).exitCode, 0);
+    QCOMPARE(ReadText(path), OddProgram("timezone='-06:00'", "0", "", ""));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList {"in.xml"});
+}
+
+void TestToolZone::RefreshKeepsTheFile_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::newRow("not XML") << QByteArray("<program width='64'");
+    QTest::newRow("not a program") << QByteArray("<html/>");
+    QTest::newRow("empty") << QByteArray();
+}
+
+void TestToolZone::RefreshKeepsTheFile()
+{
+    QFETCH(QByteArray, contents);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("in.xml");
+    QVERIFY(WriteText(path, contents));
+    const ProcessRun run = RunTool({"zone", "--refresh", path, "-o", path});
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(ReadText(path), contents);
+    QCOMPARE(RunTool({"zone", "--refresh"}).exitCode, 2);
 }
 
 QTEST_GUILESS_MAIN(TestToolZone)

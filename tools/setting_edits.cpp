@@ -1,9 +1,10 @@
-#include "size_edits.h"
+#include "setting_edits.h"
 
 #include "clock_nodes.h"
 #include "lint/clock_words.h"
 #include "lint/setting_place.h"
 
+#include "clock_sdk_tables.h"
 #include "text/program_edits.h"
 
 #include <QSet>
@@ -15,7 +16,7 @@ namespace {
 using namespace ClockStudio;
 using namespace Lw::HNodeClock;
 
-// Where a size is written: an XML attribute of the clock or of one of its children.
+// Where a setting is written: an XML attribute of the clock or of one of its children.
 struct WrittenPlace
 {
     int element = -1; ///< of the text; -1 where a new child is needed
@@ -28,18 +29,18 @@ bool IsReadOnlyInto(Attribute attribute, int clockType, const QString &element, 
     return settings.size() == 1 && settings.first().target == attribute;
 }
 
-class SizeEdits
+class SettingEdits
 {
 public:
-    SizeEdits(ParsedProgram parsed, const TextForm &form)
+    SettingEdits(ParsedProgram parsed, const TextForm &form)
         : m_parsed(std::move(parsed)), m_form(form)
     { }
 
     // The changes are of different clocks. False if the text is no longer a valid program.
-    bool Make(const QVector<SizeChange> &changes, bool asSetting)
+    bool Make(const QVector<SettingChange> &changes, bool asSetting)
     {
         TextEdits edits;
-        for (const SizeChange &change : changes)
+        for (const SettingChange &change : changes)
             edits.append(EditOf(change, asSetting));
         QString text = m_parsed.text;
         ApplyEdits(text, InSequence(edits));
@@ -54,20 +55,20 @@ public:
     std::optional<QByteArray> Bytes() const { return EncodeText(m_parsed.text, m_form); }
 
 private:
-    TextEdit EditOf(const SizeChange &change, bool asSetting)
+    TextEdit EditOf(const SettingChange &change, bool asSetting)
     {
-        const WrittenPlace place = asSetting ? WrittenPlace() : PlaceOfSize(change);
-        const QString value = QString::number(change.points);
+        const WrittenPlace place = asSetting ? WrittenPlace() : PlaceOfSetting(change);
         if (place.element >= 0)
-            return SetAttributeEdit(m_parsed, place.element, place.name, value);
+            return SetAttributeEdit(m_parsed, place.element, place.name, change.value);
         return AppendChildEdit(m_parsed, m_parsed.ClockElement(change.area),
                                QStringLiteral("<attribute key=\"%1\" value=\"%2\"/>")
-                                   .arg(Key(change.attribute), value));
+                                   .arg(Key(change.attribute), change.value));
     }
 
-    WrittenPlace PlaceOfSize(const SizeChange &change)
+    WrittenPlace PlaceOfSetting(const SettingChange &change)
     {
         const QDomElement clock = m_parsed.program.areas[change.area].element;
+        const QString zone = QLatin1String(Sdk::kTimezone);
         for (const int clockType : {AnalogClock, DigitalClock}) {
             const SettingPlace place = PlaceOf(clock, clockType, change.attribute);
             const bool isSetting = place.element.tagName() == ClockProgram::kAttributeTag;
@@ -76,6 +77,9 @@ private:
                     || IsReadOnlyInto(change.attribute, clockType, place.element.tagName(),
                                       place.attribute)))
                 return {ElementOf(change.area, clock, place.element), place.attribute};
+            if (!place.IsSet() && clock.hasAttribute(zone)
+                && IsReadOnlyInto(change.attribute, clockType, QString(), zone))
+                return {m_parsed.ClockElement(change.area), zone};
             const WrittenPlace free = FreePlace(change, clock, clockType);
             if (!place.IsSet() && free.element >= 0)
                 return free;
@@ -83,8 +87,8 @@ private:
         return {};
     }
 
-    // A child element that is read and could hold the size.
-    WrittenPlace FreePlace(const SizeChange &change, const QDomElement &clock, int clockType)
+    // A child element that is read and could hold the setting.
+    WrittenPlace FreePlace(const SettingChange &change, const QDomElement &clock, int clockType)
     {
         for (const QDomElement &child : ChildrenRead(clock, clockType)) {
             for (const QString &name : AttributesRead(clockType, child.tagName())) {
@@ -109,12 +113,12 @@ private:
 };
 
 // One change of each clock; what is left goes on in the list.
-QVector<SizeChange> TakeRound(QVector<SizeChange> &changes)
+QVector<SettingChange> TakeRound(QVector<SettingChange> &changes)
 {
-    QVector<SizeChange> round;
-    QVector<SizeChange> rest;
+    QVector<SettingChange> round;
+    QVector<SettingChange> rest;
     QSet<int> areas;
-    for (const SizeChange &change : changes) {
+    for (const SettingChange &change : changes) {
         (areas.contains(change.area) ? rest : round).append(change);
         areas.insert(change.area);
     }
@@ -125,25 +129,25 @@ QVector<SizeChange> TakeRound(QVector<SizeChange> &changes)
 Failure CannotBeEdited(const QString &path)
 {
     return {ExitCode::ProgramError,
-            QStringLiteral("%1: the sizes in this file cannot be edited").arg(path)};
+            QStringLiteral("%1: the settings in this file cannot be edited").arg(path)};
 }
 
 // The changes that did not take effect in a program.
-QVector<SizeChange> Missing(const QByteArray &contents, const QString &path,
-                            const QVector<SizeChange> &changes)
+QVector<SettingChange> Missing(const QByteArray &contents, const QString &path,
+                               const QVector<SettingChange> &changes)
 {
     const Result<ProgramClocks> clocks = ParseClocks(contents, path);
-    QVector<SizeChange> missing;
-    for (const SizeChange &change : changes) {
+    QVector<SettingChange> missing;
+    for (const SettingChange &change : changes) {
         if (!clocks
-            || clocks->Clock(change.area).GetAttributeToInt(Key(change.attribute)) != change.points)
+            || clocks->Clock(change.area).GetAttribute(Key(change.attribute)) != change.value)
             missing.append(change);
     }
     return missing;
 }
 
 // A text with these sizes, in the attributes that hold them or as settings of their own.
-std::optional<QByteArray> Edited(const QByteArray &contents, QVector<SizeChange> changes,
+std::optional<QByteArray> Edited(const QByteArray &contents, QVector<SettingChange> changes,
                                  bool asSetting)
 {
     const std::optional<EncodedText> text = DecodeText(contents);
@@ -153,7 +157,7 @@ std::optional<QByteArray> Edited(const QByteArray &contents, QVector<SizeChange>
     auto *const parsed = std::get_if<ParsedProgram>(&read);
     if (!parsed)
         return std::nullopt;
-    SizeEdits edits(std::move(*parsed), text->form);
+    SettingEdits edits(std::move(*parsed), text->form);
     // The whole text is read again for each round, and not for each change.
     while (!changes.isEmpty()) {
         if (!edits.Make(TakeRound(changes), asSetting))
@@ -164,11 +168,11 @@ std::optional<QByteArray> Edited(const QByteArray &contents, QVector<SizeChange>
 
 } // namespace
 
-Result<QByteArray> WithSizes(const QByteArray &contents, const QString &path,
-                             const QVector<SizeChange> &changes)
+Result<QByteArray> WithSettings(const QByteArray &contents, const QString &path,
+                                const QVector<SettingChange> &changes)
 {
     QByteArray edited = contents;
-    QVector<SizeChange> open = changes;
+    QVector<SettingChange> open = changes;
     for (const bool asSetting : {false, true}) {
         const std::optional<QByteArray> bytes = Edited(edited, open, asSetting);
         if (!bytes)
