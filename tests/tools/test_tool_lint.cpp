@@ -101,14 +101,14 @@ const QVector<Finding> kValues {
      {"fontSize=\"12pt\"", "is read as 0"}},
     {"number too large", Digital("<clockTextsSyle space='4294967297'/>"), 2, {"is read as 0"}},
     {"flag that is no number", Setting("Digital_Date_d", "true"), 2, {"is read as 0"}},
-    {"date code", Digital("<date format='9'/>"), 2, {"format=\"9\"", "0 to 8"}},
+    {"date code", Digital("<date format='99'/>"), 2, {"format=\"99\"", "accepted: 0 to "}},
     {"negative code", Digital("<week format='-1'/>"), 2, {"0 to 3"}},
     {"time code", Setting("DigitalTimeType", "5"), 2, {"0 to 4"}},
     {"hour marks", Analog("<analog hourScaleType='5'/>"), 2, {"0 to 4"}},
     {"minute marks", Analog("<analog minuteScaleType='3'/>"), 2, {"0 to 2"}},
     {"kind", Setting("ClockType", "3"), 2, {"0 to 2"}},
     {"font size", Digital("<time fontSize='0'/>"), 2, {"1 to 32767"}},
-    {"tag of several lines", Digital("<date\n  format='9'\n/>"), 4, {"0 to 8"}},
+    {"tag of several lines", Digital("<date\n  format='99'\n/>"), 4, {"accepted: 0 to "}},
     {"opacity behind the colour",
      Digital("<date color='#11223344'/>"),
      2,
@@ -409,7 +409,7 @@ void TestToolLint::FaultsAreFound()
 
 void TestToolLint::EveryFindingIsReported()
 {
-    const ProcessRun run = Lint(Digital("<date format='9' color='x y z' fontname='DejaVu Sans'/>\n"
+    const ProcessRun run = Lint(Digital("<date format='99' color='x y z' fontname='DejaVu Sans'/>\n"
                                         "<week display='yes'/>\n<tim/>"));
     QCOMPARE(run.exitCode, 1);
     QCOMPARE(Warnings(run.errors).size(), 5);
