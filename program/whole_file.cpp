@@ -64,18 +64,8 @@ QString EndOfLinks(QString path)
 
 MaybeFailure Replace(const QString &path, const QByteArray &contents)
 {
-    const QString target = EndOfLinks(path);
-    if (target.isNull())
-        return WriteFailure(path, qt_error_string(ELOOP));
-    QSaveFile file(target);
-    // commit() ignores what flushing and synchronising report.
-    if (!file.open(QFile::WriteOnly) || file.write(contents) != contents.size() || !file.flush())
-        return WriteFailure(path, file.errorString());
-    if (!IsOnDisk(file.handle()))
-        return WriteFailure(path, LastError());
-    if (!file.commit())
-        return WriteFailure(path, file.errorString());
-    return std::nullopt;
+    const std::optional<QString> reason = ReplaceFile(path, contents);
+    return reason ? MaybeFailure(WriteFailure(path, *reason)) : std::nullopt;
 }
 
 MaybeFailure WriteDirectly(const QString &path, const QByteArray &contents)
@@ -119,6 +109,20 @@ MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets 
     const bool hasName = QFileInfo::exists(EndOfLinks(path));
     return S_ISREG(status.st_mode) && hasName ? Replace(path, contents)
                                               : WriteDirectly(path, contents);
+}
+
+std::optional<QString> ReplaceFile(const QString &path, const QByteArray &contents)
+{
+    const QString target = EndOfLinks(path);
+    if (target.isNull())
+        return qt_error_string(ELOOP);
+    QSaveFile file(target);
+    // commit() ignores what flushing and synchronising report.
+    if (!file.open(QFile::WriteOnly) || file.write(contents) != contents.size() || !file.flush())
+        return file.errorString();
+    if (!IsOnDisk(file.handle()))
+        return LastError();
+    return file.commit() ? std::nullopt : std::optional<QString>(file.errorString());
 }
 
 MaybeFailure WriteStandardOutput(const QByteArray &contents)

@@ -18,6 +18,10 @@ enum class Targets {
 /// name, is written to directly. The failure has the path and the system's reason.
 MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets targets);
 
+/// Replaces a regular file, or that at the end of its links, once the new one is complete on disk;
+/// it is unchanged after a failure. Returns the system's reason for one.
+std::optional<QString> ReplaceFile(const QString &path, const QByteArray &contents);
+
 /// Writes to standard output and flushes it.
 MaybeFailure WriteStandardOutput(const QByteArray &contents);
 

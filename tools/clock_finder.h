@@ -1,5 +1,5 @@
-// tools/: the plugin whose archive the tools link, as what finds plugins for the elements of a
-// program.
+// tools/: the plugin whose archive tools and studio link, as what finds plugins for the elements of
+// a program.
 #pragma once
 
 #include <QtGlobal>

@@ -1,7 +1,6 @@
 #include "value_edits.h"
 
-#include "wall/live_wall.h"
-
+#include "clock_finder.h"
 #include "clock_node.h"
 #include "clock_sdk_tables.h"
 #include "happconfig.h"
@@ -245,7 +244,7 @@ std::unique_ptr<HClockNode> ClockOf(const ParsedProgram &parsed, int area)
 {
     ClockProgram::Program alone = parsed.program;
     alone.areas = {parsed.program.areas[area]};
-    auto made = ClockProgram::MakeNodes(alone, FindClockPlugin);
+    auto made = ClockProgram::MakeNodes(alone, ClockTool::FindClockPlugin);
     if (!made)
         return nullptr;
     Lw::HNode *const node = made->nodes.front().node.release();

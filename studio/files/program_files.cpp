@@ -1,6 +1,6 @@
 #include "program_files.h"
 
-#include "whole_file.h"
+#include "saved_file.h"
 
 #include "xml_document.h"
 
@@ -67,7 +67,7 @@ std::optional<QString> ProgramFiles::Save(const QString &path)
     const std::optional<QByteArray> bytes = m_document.Bytes();
     if (!bytes)
         return tr("The text has a character that the file's encoding cannot represent.");
-    if (const auto problem = WriteWhole(path, *bytes))
+    if (const auto problem = SaveFile(path, *bytes))
         return problem;
     m_isRecovered = false;
     m_document.EndMerging();

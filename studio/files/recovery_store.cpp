@@ -1,8 +1,9 @@
 #include "recovery_store.h"
 
+#include "whole_file.h"
+
 #include <QDataStream>
 #include <QDir>
-#include <QSaveFile>
 #include <QUuid>
 
 namespace ClockStudio {
@@ -51,12 +52,9 @@ RecoveryStore::~RecoveryStore()
 
 bool RecoveryStore::Keep(const QString &path, const QByteArray &bytes)
 {
-    QSaveFile file(m_file);
-    if (!file.open(QFile::WriteOnly))
-        return false;
-    QDataStream stream(&file);
-    stream << kMagic << path << bytes;
-    return stream.status() == QDataStream::Ok && file.flush() && file.commit();
+    QByteArray work;
+    QDataStream(&work, QIODevice::WriteOnly) << kMagic << path << bytes;
+    return !ClockProgram::ReplaceFile(m_file, work);
 }
 
 void RecoveryStore::Forget()

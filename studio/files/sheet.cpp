@@ -8,6 +8,7 @@
 #include "happconfig.h"
 #include "led_screen.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDate>
 #include <QLocale>
@@ -124,10 +125,11 @@ QString SheetText(const QString &title, LiveWall &wall, const QStringList &findi
     return html;
 }
 
-void WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
-                const QStringList &findings)
+QByteArray SheetPdf(const QString &title, LiveWall &wall, const QStringList &findings)
 {
-    QPdfWriter writer(&device);
+    QBuffer pdf;
+    pdf.open(QBuffer::WriteOnly);
+    QPdfWriter writer(&pdf);
     writer.setResolution(kResolution);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins(QMarginsF());
@@ -138,6 +140,7 @@ void WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
                          picture.isNull() ? wall.Screen() : picture);
     document.setHtml(SheetText(title, wall, findings));
     document.print(&writer);
+    return pdf.data();
 }
 
 } // namespace ClockStudio

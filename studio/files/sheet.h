@@ -1,4 +1,4 @@
-// studio/files: writes the approval sheet as a PDF: the wall, the settings of its clocks, and the
+// studio/files: the approval sheet as a PDF: the wall, the settings of its clocks, and the
 // findings.
 #pragma once
 
@@ -10,9 +10,8 @@
 
 namespace ClockStudio {
 
-/// Writes a PDF of A4 pages to an open device. Errors are left to the device.
-void WriteSheet(QIODevice &device, const QString &title, LiveWall &wall,
-                const QStringList &findings);
+/// A PDF of A4 pages.
+QByteArray SheetPdf(const QString &title, LiveWall &wall, const QStringList &findings);
 
 /// Its contents as HTML: of each clock, what it shows and how. The picture is the resource "wall".
 QString SheetText(const QString &title, LiveWall &wall, const QStringList &findings);

@@ -1,7 +1,7 @@
 #include "fit_check.h"
 
+#include "files/saved_file.h"
 #include "files/tool_run.h"
-#include "files/whole_file.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -73,7 +73,7 @@ void FitCheck::Begin()
 {
     m_isDropped = false;
     const QString path = m_work.filePath(QStringLiteral("program.xml"));
-    const std::optional<QString> problem = WriteWhole(path, *m_next);
+    const std::optional<QString> problem = SaveFile(path, *m_next);
     m_next.reset();
     if (problem) {
         emit Ended();

@@ -1309,6 +1309,10 @@
         <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. All clocks are drawn by the clock plugin itself.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;استودیوی ساعت %1&lt;/h3&gt;&lt;p&gt;ویرایشگری برای دیوارهای ساعت. همهٔ ساعت‌ها را خود افزونهٔ ساعت می‌کشد.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>The picture could not be made.</source>
+        <translation>تصویر ساخته نشد.</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::NumberEditor</name>

@@ -1309,6 +1309,10 @@
         <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. All clocks are drawn by the clock plugin itself.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;时钟工作室 %1&lt;/h3&gt;&lt;p&gt;时钟墙的编辑器。所有时钟都由时钟插件自身绘制。&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>The picture could not be made.</source>
+        <translation>无法生成图片。</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::NumberEditor</name>

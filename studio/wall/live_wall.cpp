@@ -1,7 +1,7 @@
 #include "live_wall.h"
 
+#include "clock_finder.h"
 #include "clock_node.h"
-#include "clock_plugin.h"
 #include "happconfig.h"
 #include "node_keys.h"
 #include "node_maker.h"
@@ -24,12 +24,6 @@ QString MadeFrom(const ParsedProgram &parsed, int area)
 }
 
 } // namespace
-
-Lw::INodePlugin *FindClockPlugin(QDomElement &element)
-{
-    static Lw::HNodeClock::HNodeClock plugin;
-    return plugin.PluginMatch(element) ? &plugin : nullptr;
-}
 
 void StartWhole(ClockStage::Area &area)
 {
@@ -125,7 +119,7 @@ void LiveWall::Make(Slot &slot)
         slot.identity = FreeIdentity();
     ClockProgram::Program alone = m_program;
     alone.areas = {m_program.areas[slot.area]};
-    auto result = ClockProgram::MakeNodes(alone, FindClockPlugin);
+    auto result = ClockProgram::MakeNodes(alone, ClockTool::FindClockPlugin);
     if (!result) {
         slot.refusal = result.Error().text;
         return;

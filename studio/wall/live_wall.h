@@ -91,7 +91,4 @@ private:
 /// second frame.
 void StartWhole(ClockStage::Area &area);
 
-/// Finds the clock plugin for an element (a ClockProgram::PluginFinder).
-Lw::INodePlugin *FindClockPlugin(QDomElement &element);
-
 } // namespace ClockStudio

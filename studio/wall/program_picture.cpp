@@ -2,6 +2,7 @@
 
 #include "live_wall.h"
 
+#include "clock_finder.h"
 #include "node_keys.h"
 #include "stage.h"
 
@@ -15,7 +16,7 @@ QImage PictureOfProgram(const QByteArray &bytes)
     // Ids and play numbers not used by the clocks on the wall.
     constexpr int kFirstIdentity = 90000;
     constexpr unsigned int kFirstPlay = 0xf0000000U;
-    auto made = ClockProgram::MakeNodes(*program, FindClockPlugin);
+    auto made = ClockProgram::MakeNodes(*program, ClockTool::FindClockPlugin);
     if (!made)
         return {};
     QVector<ClockStage::Layer> layers;

@@ -36,51 +36,51 @@ Marks MarksFrom(int origin, int zoom)
     return {step, before - (before % step + step) % step};
 }
 
-void PaintTopRuler(QPainter &painter, const WallScale &scale, int length, const QRect &selected)
+/// A ruler at the top or the left of the view: places along it and across it, in view pixels.
+struct Ruler
 {
-    painter.fillRect(0, 0, length, kRulerWidth, kRuler);
-    if (!selected.isEmpty()) {
-        const QRect span = scale.ToView(selected);
-        painter.fillRect(span.x(), kRulerWidth - 4, span.width(), 4, kSelected);
-    }
-    const Marks marks = MarksFrom(scale.origin.x(), scale.zoom);
-    for (int at = marks.first;; at += marks.step / 4) {
-        const int x = scale.origin.x() + at * scale.zoom;
-        if (x > length)
-            break;
-        const bool isNumbered = at % marks.step == 0;
-        painter.drawLine(x, kRulerWidth - (isNumbered ? 10 : 5), x, kRulerWidth - 1);
-        if (isNumbered)
-            painter.drawText(x + 3, 11, QString::number(at));
-    }
-}
+    Qt::Orientation orientation;
 
-/// Background and selection mark are drawn transposed, ticks and numbers are not.
-void PaintLeftRuler(QPainter &painter, const WallScale &scale, int length, const QRect &selected)
+    int Along(QPoint point) const { return orientation == Qt::Horizontal ? point.x() : point.y(); }
+    QPoint At(int along, int across) const
+    {
+        return orientation == Qt::Horizontal ? QPoint(along, across) : QPoint(across, along);
+    }
+    /// From the place to the edge at the wall.
+    QRect Strip(int from, int to, int across) const
+    {
+        return {At(from, across), At(to, kRulerWidth) - QPoint(1, 1)};
+    }
+};
+
+void PaintNumber(QPainter &painter, const Ruler &ruler, int along, int number)
 {
     painter.save();
-    painter.rotate(90);
-    painter.scale(1, -1);
-    painter.fillRect(0, 0, length, kRulerWidth, kRuler);
+    painter.translate(ruler.At(along + 3, 11));
+    painter.rotate(ruler.orientation == Qt::Horizontal ? 0 : 90);
+    painter.drawText(0, 0, QString::number(number));
+    painter.restore();
+}
+
+void PaintRuler(QPainter &painter, const Ruler &ruler, const WallScale &scale, int length,
+                const QRect &selected)
+{
+    painter.fillRect(ruler.Strip(0, length, 0), kRuler);
     if (!selected.isEmpty()) {
         const QRect span = scale.ToView(selected);
-        painter.fillRect(span.y(), kRulerWidth - 4, span.height(), 4, kSelected);
+        painter.fillRect(ruler.Strip(ruler.Along(span.topLeft()),
+                                     ruler.Along(span.bottomRight()) + 1, kRulerWidth - 4),
+                         kSelected);
     }
-    painter.restore();
-    const Marks marks = MarksFrom(scale.origin.y(), scale.zoom);
-    for (int at = marks.first;; at += marks.step / 4) {
-        const int y = scale.origin.y() + at * scale.zoom;
-        if (y > length)
-            break;
+    const int origin = ruler.Along(scale.origin);
+    const Marks marks = MarksFrom(origin, scale.zoom);
+    for (int at = marks.first; origin + at * scale.zoom <= length; at += marks.step / 4) {
+        const int along = origin + at * scale.zoom;
         const bool isNumbered = at % marks.step == 0;
-        painter.drawLine(kRulerWidth - (isNumbered ? 10 : 5), y, kRulerWidth - 1, y);
-        if (isNumbered) {
-            painter.save();
-            painter.translate(11, y + 3);
-            painter.rotate(90);
-            painter.drawText(0, 0, QString::number(at));
-            painter.restore();
-        }
+        painter.drawLine(ruler.At(along, kRulerWidth - (isNumbered ? 10 : 5)),
+                         ruler.At(along, kRulerWidth - 1));
+        if (isNumbered)
+            PaintNumber(painter, ruler, along, at);
     }
 }
 
@@ -164,8 +164,8 @@ void PaintRulers(QPainter &painter, const WallScale &scale, QSize view, const QR
     font.setPixelSize(10);
     painter.setFont(font);
     painter.setPen(kRulerInk);
-    PaintTopRuler(painter, scale, view.width(), selected);
-    PaintLeftRuler(painter, scale, view.height(), selected);
+    PaintRuler(painter, {Qt::Horizontal}, scale, view.width(), selected);
+    PaintRuler(painter, {Qt::Vertical}, scale, view.height(), selected);
     painter.fillRect(0, 0, kRulerWidth, kRulerWidth, kRuler);
 }
 

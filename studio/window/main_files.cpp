@@ -5,13 +5,14 @@
 #include "send_dialog.h"
 
 #include "files/preview.h"
+#include "files/saved_file.h"
 #include "files/sheet.h"
 #include "files/tool_run.h"
-#include "files/whole_file.h"
 #include "findings/findings_panel.h"
 
 #include "led_screen.h"
 
+#include <QBuffer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QStatusBar>
@@ -44,9 +45,11 @@ void MainWindow::SavePicture()
     const QImage picture = chosen == diodes
         ? ClockStage::LedScreen(kPicturePitch).Diodes(m_wall.Screen())
         : m_wall.Screen();
-    SayWritten(path, WriteWhole(path, [&picture](QIODevice &file) {
-                   return !picture.isNull() && picture.save(&file, "PNG");
-               }));
+    QBuffer png;
+    if (png.open(QBuffer::WriteOnly) && picture.save(&png, "PNG"))
+        SayWritten(path, SaveFile(path, png.data()));
+    else
+        SayProblem(tr("The picture could not be made."));
 }
 
 void MainWindow::SaveSheet()
@@ -60,10 +63,7 @@ void MainWindow::SaveSheet()
     QStringList findings;
     for (const ClockTool::Finding &finding : m_findings->Findings())
         findings.append(FindingsPanel::TextOf(finding));
-    SayWritten(path, WriteWhole(path, [&](QIODevice &file) {
-                   WriteSheet(file, m_files.Name(), m_wall, findings);
-                   return true;
-               }));
+    SayWritten(path, SaveFile(path, SheetPdf(m_files.Name(), m_wall, findings)));
 }
 
 void MainWindow::SavePreview()
@@ -84,7 +84,7 @@ void MainWindow::SavePreview()
         RunBehindDialog({PreviewCommand(work.path(), made)}, tr("Making the preview…"), this);
     QFile file(made);
     if (result.isGood && file.open(QFile::ReadOnly))
-        SayWritten(path, WriteWhole(path, file.readAll()));
+        SayWritten(path, SaveFile(path, file.readAll()));
     else if (!result.isCancelled)
         SayProblem(tr("The preview could not be made: %1").arg(result.errors));
 }
@@ -102,7 +102,7 @@ QString MainWindow::ProgramFileIn(const QTemporaryDir &directory)
     const QString path = directory.filePath(QStringLiteral("program.xml"));
     const std::optional<QByteArray> bytes = m_document.Bytes();
     const std::optional<QString> problem = bytes
-        ? WriteWhole(path, *bytes)
+        ? SaveFile(path, *bytes)
         : ProgramFiles::tr("The text has a character that the file's encoding cannot represent.");
     if (problem)
         SayProblem(*problem);
