@@ -3,16 +3,24 @@
 import argparse
 import subprocess
 import sys
+from itertools import groupby
 from pathlib import Path
 
 import contents
 import image
-from checks import Checks
+from checks import ShortChecks
 from frames import Frames
+from long_checks import LongChecks
 from machine import Failed, Machine
+from service_checks import ServiceChecks
+from service_contents import make_service
+from spoilt_checks import SpoiltChecks
 
 SIZE = (768, 320)  # of the screen, and of the programs
 CLOCK = "2024-03-05T13:07:30"
+# What is checked, and on which image, which neighbours share.
+ALL = {ShortChecks: contents.make_small, LongChecks: contents.make_small,
+       SpoiltChecks: contents.make_small, ServiceChecks: make_service}
 
 
 def note(text):
@@ -35,36 +43,48 @@ class Devices:
 
 
 def read_arguments():
+    names = [name for kind in ALL for name in kind.CHECKS]
     parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
     parser.add_argument("--short", action="store_true",
-                        help="boot, compare, set the clock, replace the program, kill the player")
+                        help="only " + ", ".join(ShortChecks.CHECKS))
+    parser.add_argument("--only", action="append", metavar="CHECK", choices=names,
+                        help="may be repeated: " + ", ".join(names))
     parser.add_argument("build", type=Path, help="with the player for 32-bit ARM")
     parser.add_argument("sysroot", type=Path, help="which it was built with")
     return parser.parse_args()
 
 
-def make_devices(build, sysroot, folder):
+def chosen(arguments):
+    """The kinds of checks, each with the names of those to do."""
+    for kind in [ShortChecks] if arguments.short else ALL:
+        names = [name for name in kind.CHECKS if not arguments.only or name in arguments.only]
+        if names:
+            yield kind, names
+
+
+def run_checks(arguments, folder):
     packages = folder / "packages"
     note("unpacking Debian's packages")
     image.unpack_packages(contents.PACKAGES, packages)
-    note("making the images")
+    sysroot = arguments.sysroot.resolve()
     sources = [packages, sysroot]
-    root, disk = contents.make_small(build, sources, folder)
-    initramfs = contents.make_initramfs(sources, folder)
-    devices = Devices(image.kernel_of(packages), initramfs, disk, folder)
-    frames = Frames(root, sysroot / image.LIBRARIES / "qt5/plugins/platforms", folder / "frames")
-    return devices, frames
+    kernel, initramfs = image.kernel_of(packages), contents.make_initramfs(sources, folder)
+    plugins = sysroot / image.LIBRARIES / "qt5/plugins/platforms"
+    for make, kinds in groupby(chosen(arguments), lambda pair: ALL[pair[0]]):
+        root, disk = make(arguments.build, sources, folder)
+        devices = Devices(kernel, initramfs, disk, folder)
+        note(f"image: {devices.size() / 1e6:.1f} MB")
+        frames = Frames(root, plugins, folder / "frames")
+        for kind, names in kinds:
+            kind(devices, frames, folder, note).do(names)
 
 
 def main():
     arguments = read_arguments()
     folder = arguments.build.resolve() / "device"
     folder.mkdir(parents=True, exist_ok=True)
-    devices, frames = make_devices(arguments.build, arguments.sysroot.resolve(), folder)
-    note(f"image: {devices.size() / 1e6:.1f} MB")
-    checks = Checks(devices, frames, folder, note)
     try:
-        checks.short() if arguments.short else checks.all()
+        run_checks(arguments, folder)
     except Failed as failure:
         console = folder / "machine/console.log"
         said = console.read_text(errors="replace")[-2000:] if console.exists() else ""

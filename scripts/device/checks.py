@@ -1,22 +1,42 @@
-"""Checks of the small image."""
+"""What the checks of all images have in common, and the checks of the short form."""
 
 import json
+import re
 import time
 from contextlib import contextmanager
+from itertools import groupby
 
 from contents import FIRST, OTHER
 from machine import Failed
-from screen import Screen
+from screen import SETTLE_SECONDS, Screen
 
 BOOT_SECONDS = 600  # on a busy machine
+# Of the device's clock: after a player was killed, its last frame is not shown for longer.
+DARK_SECONDS = 2
+# What differs between two times although nothing piles up.
+MOST_GROWTH = {"kB": 64, "files": 2, "kB of memory free": 3072, "kB of the player": 512}
 
 
 class Checks:
+    """CHECKS has the names of the checks, each with the settings of its device; neighbours with
+    equal settings share a device. `note` is called with results."""
+
+    CHECKS = {}
+    SETTINGS = {}  # of all its devices
+    PROGRAM = "/run/clock/program.xml"  # that plays
+    STATUS = "/run/clock/status.json"
+
     def __init__(self, devices, frames, folder, note):
         self.devices = devices
         self.frames = frames
         self.folder = folder
         self.note = note
+
+    def do(self, names):
+        for settings, group in groupby(names, self.CHECKS.get):
+            with self.booted(**{**self.SETTINGS, **settings}) as device:
+                for name in group:
+                    getattr(self, name)(*device)
 
     @contextmanager
     def booted(self, **settings):
@@ -28,21 +48,91 @@ class Checks:
         finally:
             machine.close()
 
-    def short(self):
-        with self.booted() as device:
-            self.equal(*device, 5)
-            self.set_clock(*device)
-            self.kill(*device)
-            self.replace(*device)
+    def restarts(self, machine):
+        """How often the player was restarted."""
+        raise NotImplementedError
 
-    def all(self):
-        self.short()
-        with self.booted(memory=64) as device:
-            self.equal(*device, 3)
+    def log(self, machine):
+        """What the player said at last."""
+        raise NotImplementedError
 
-    def equal(self, machine, screen, count):
-        uptime = screen.await_right(FIRST)
-        self.note(f"right {uptime:.1f} s after the kernel's start; " + memory(machine))
+    def expect_restarts(self, machine, before, count):
+        counted = self.restarts(machine) - before
+        if counted != count:
+            raise Failed(f"{counted} restarts instead of {count}:\n{self.log(machine)}")
+
+    def status(self, machine):
+        """What the player says about itself."""
+        machine.run("kill -USR1 $(pidof clock_player); sleep 1")
+        return json.loads(machine.run(f"cat {self.STATUS}"))
+
+    def await_notice(self, machine, screen, code):
+        screen.await_notice(code)
+        shown = self.status(machine)["notice"]
+        if shown != code:
+            raise Failed(f"the notice is {shown}, not {code}")
+
+    def put(self, machine, program):
+        """Replaces the program as one should, in one step."""
+        machine.run(f"cp /{program} {self.PROGRAM}.new && mv {self.PROGRAM}.new {self.PROGRAM}")
+
+    def ended(self, machine, screen, command, what, dark_seconds=DARK_SECONDS):
+        """The screen becomes dark, and right again after one restart."""
+        screen.await_right(FIRST)
+        before = self.restarts(machine)
+        since = uptime(machine)
+        machine.run(command)
+        screen.await_dark()
+        dark_after = uptime(machine) - since
+        if dark_after > dark_seconds:
+            raise Failed(f"{what}: the screen was dark only {dark_after:.1f} s later")
+        screen.await_right(FIRST)
+        self.expect_restarts(machine, before, 1)
+        self.note(f"{what}: the screen was dark within {dark_after:.1f} s, then right again")
+
+    def replace(self, machine, screen):
+        """Replaces the program while it plays."""
+        screen.await_right(FIRST)
+        before = self.restarts(machine)
+        for program in (OTHER, FIRST):
+            self.put(machine, program)
+            screen.await_right(program)
+        self.expect_restarts(machine, before, 0)
+        self.note("the program was replaced twice: the screen showed the new one each time")
+
+    def restart_often(self, machine, screen):
+        """Nothing piles up."""
+        screen.await_right(FIRST)
+        before, first = used(machine), self.restarts(machine)
+        for number in range(first, first + 30):
+            machine.run("kill -9 $(pidof clock_player)")
+            self.await_restart(machine, number)
+        screen.await_right(FIRST)
+        self.expect_restarts(machine, first, 30)
+        after = used(machine)
+        expect_no_growth(before, after)
+        self.note(f"thirty restarts: {after}, before {before}")
+
+    def await_restart(self, machine, before):
+        end = time.monotonic() + SETTLE_SECONDS
+        while self.restarts(machine) == before or not machine.run("pidof clock_player || :"):
+            time.sleep(0.3)  # asking takes the device's time, too
+            if time.monotonic() > end:
+                raise Failed(f"no restart:\n{self.log(machine)}")
+
+
+class ShortChecks(Checks):
+    CHECKS = dict.fromkeys(["boot", "set_clock", "kill", "replace"], {})
+
+    def restarts(self, machine):
+        return int(machine.run("cat /run/starts")) - 1
+
+    def log(self, machine):
+        return machine.run("logread")
+
+    def boot(self, machine, screen, count=5):
+        seconds = screen.await_right(FIRST)
+        self.note(f"right {seconds:.1f} s after the kernel's start; {memory(machine)}")
         screen.expect_right(FIRST, count)
         self.note(f"{count} of {count} samples of the screen equal the frames")
 
@@ -51,36 +141,35 @@ class Checks:
                         "2024-07-01 12:00:00"):
             machine.run(f"/bin/date -s '{instant}'")
             screen.await_right(FIRST)
-        self.note("the clock was set forward and back, past 2038 too: the screen followed")
+        self.note("the clock was set forward, back and to 2038: the screen followed")
 
     def kill(self, machine, screen):
         """A player that is killed leaves a dark screen, not a wrong time, and comes back."""
-        before = starts(machine)
-        machine.run("killall -9 clock_player")
-        screen.await_dark()
-        screen.await_right(FIRST)
-        if starts(machine) != before + 1:
-            raise Failed(f"{starts(machine) - before} starts after one kill")
-        self.note("killed: the screen was dark, then right again")
-
-    def replace(self, machine, screen):
-        """Replaces the program while it plays."""
-        before = starts(machine)
-        machine.run(f"cp /{OTHER} /run/clock/new && mv /run/clock/new /run/clock/program.xml")
-        screen.await_right(OTHER)
-        if starts(machine) != before:
-            raise Failed("the player ended when its program was replaced")
-        self.note("the program was replaced: the screen shows the new one")
+        self.ended(machine, screen, "killall -9 clock_player", "killed")
 
 
-def starts(machine):
-    return int(machine.run("cat /run/starts"))
+def uptime(machine):
+    return float(machine.run("cat /proc/uptime").split()[0])
 
 
-def status(machine):
-    """The status that the player reports."""
-    machine.run("killall -USR1 clock_player; sleep 1")
-    return json.loads(machine.run("cat /run/clock/status.json"))
+def used(machine):
+    """What may pile up: kB and files that were written, without the system's log, which has a limit
+    of its own; kB of memory that are free; kB of the player's memory."""
+    sizes = machine.run("du -kxs /run /tmp /var; [ ! -d /run/log ] || du -ks /run/log")
+    kilobytes = [int(line.split()[0]) for line in sizes.split("\n")]
+    files = machine.run("find /run /tmp /var -xdev ! -path '/run/log/*' | wc -l")
+    memory = dict(re.findall(r"(MemAvailable|VmRSS):\s*(\d+)", machine.run(
+        "grep MemAvailable /proc/meminfo; grep VmRSS /proc/$(pidof clock_player)/status")))
+    return {"kB": sum(kilobytes[:3]) - sum(kilobytes[3:]), "files": int(files),
+            "kB of memory free": int(memory["MemAvailable"]),
+            "kB of the player": int(memory["VmRSS"])}
+
+
+def expect_no_growth(before, after):
+    for what, most in MOST_GROWTH.items():
+        growth = after[what] - before[what]
+        if (-growth if "free" in what else growth) > most:
+            raise Failed(f"{what}: {after}, before {before}")
 
 
 def memory(machine):

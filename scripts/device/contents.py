@@ -1,4 +1,5 @@
-"""What the images of a device contain: Debian's packages, the player, and a few lines of their own."""
+"""What the images of a device contain: Debian's packages, the player, and a few lines of their
+own."""
 
 import subprocess
 from pathlib import Path
@@ -16,9 +17,9 @@ PACKAGES = ["base-passwd", "busybox-static", "coreutils", "fontconfig-config", "
 OPENED = [f"{LIBRARIES}/qt5/plugins/platforms/libqlinuxfb.so",
           "usr/share/fonts/truetype/dejavu", "etc/fonts", "usr/share/fontconfig",
           "usr/share/zoneinfo/UTC", "usr/share/zoneinfo/Europe/Berlin"]
-COMMANDS = ["cat", "cp", "dd", "df", "free", "grep", "head", "insmod", "kill", "killall", "ln",
-            "logger", "logread", "ls", "mkdir", "mkfifo", "mount", "mv", "pidof", "ps", "rm",
-            "setsid", "sh", "sleep", "stty", "syslogd", "wc"]
+COMMANDS = ["cat", "cp", "dd", "df", "du", "find", "grep", "head", "insmod", "kill", "killall",
+            "ln", "logger", "logread", "ls", "mkdir", "mkfifo", "mount", "mv", "pidof", "ps", "rm",
+            "setsid", "sh", "sleep", "stty", "syslogd", "truncate", "wc"]
 DATE = "bin/date"  # coreutils' date, as busybox's cannot set times after 2038
 
 # Programs in the image, of which the first is played.
@@ -47,6 +48,8 @@ def add_player(build, packed):
     packed.add_text(FIRST, (TREE / "examples/wall.xml").read_text())
     packed.add_text(OTHER, OTHER_PROGRAM)
     packed.add(DATE)
+    subprocess.run(["arm-linux-gnueabihf-gcc", SCRIPTS / "synchronise.c",
+                    "-o", packed.root / "bin/synchronise"], check=True)
     packed.add_busybox(COMMANDS)
 
 

@@ -10,7 +10,7 @@ from PIL import Image
 import image
 
 
-# Frames drawn per start: starting the emulator takes longer than drawing more frames.
+# Frames drawn per start, and kept: starting the emulator takes longer than drawing more frames.
 AT_ONCE = 40
 
 
@@ -34,6 +34,7 @@ class Frames:
         # The texts of a dial appear in the second frame.
         before = datetime.fromtimestamp(first - 1, timezone.utc)
         image.clean(self.folder)
+        self.known.clear()
         # Paths that exist in the device's file system are read there: its fonts, its settings.
         subprocess.run(["qemu-arm", "-L", self.root,
                         "-E", f"QT_QPA_PLATFORM_PLUGIN_PATH={self.platform_plugins}",

@@ -13,7 +13,9 @@ LIBRARY_FOLDERS = ["lib/arm-linux-gnueabihf", LIBRARIES, "lib", "lib/systemd",
                    "usr/lib/arm-linux-gnueabihf/systemd"]
 # In this order: later ones need earlier ones.
 MODULES = ["virtio_mmio", "virtio_blk", "virtio_dma_buf", "drm", "drm_kms_helper",
-           "drm_shmem_helper", "virtio-gpu", "squashfs"]
+           "drm_shmem_helper", "squashfs"]
+# One of these is loaded after the others.
+SCREEN_MODULES = ["virtio-gpu", "cirrus"]
 # Where file systems are mounted, and what is written to.
 FOLDERS = ["dev", "proc", "run", "sys", "tmp", "var/tmp"]
 
@@ -37,7 +39,7 @@ class Image:
             (self.root / name).mkdir(parents=True)
 
     def add(self, path, links=False):
-        """Adds a file or folder of the packages under its own path, following links unless `links`."""
+        """Adds a file or folder of the packages at its own path; follows links unless `links`."""
         source, target = self.source_of(self.path_of([path])), self.root / path
         target.parent.mkdir(parents=True, exist_ok=True)
         if source.is_dir():
@@ -93,10 +95,12 @@ class Image:
 
 def pack_initramfs(packed, script, target):
     """The modules that the screen and the disk need, and a script that mounts the disk."""
-    packed.add_busybox(["cat", "insmod", "mkdir", "mount", "sh", "switch_root"])
-    for number, module in enumerate(MODULES):
+    packed.add_busybox(["cat", "devmem", "insmod", "mkdir", "mount", "sh", "switch_root"])
+    targets = {module: f"{number}-{module}.ko" for number, module in enumerate(MODULES)}
+    targets.update({module: f"screen-{module}.ko" for module in SCREEN_MODULES})
+    for module, target_name in targets.items():
         source = next(packed.source_of("lib/modules").rglob(f"{module}.ko"))
-        shutil.copyfile(source, packed.root / f"{number}-{module}.ko")
+        shutil.copyfile(source, packed.root / target_name)
     packed.add_text("init", script, 0o755)
     names = "\0".join(str(file.relative_to(packed.root)) for file in sorted(packed.root.rglob("*")))
     archive = subprocess.run(["cpio", "--null", "--create", "--format=newc", "--quiet",

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Fifty players that run on this machine, fed by examples/fleet/release: a new program reaches all of
-# them, none ever plays half of one, a transfer that breaks off leaves the older one, and files that
-# are there do not travel again.
+# Fifty players on this machine, fed by examples/fleet/release: a new program reaches all of them,
+# none ever plays half of one, a transfer that breaks off leaves the older one, and files that are
+# there do not travel again.
 #
 #   check_fleet.sh TREE PROGRAMS
 set -euo pipefail

@@ -1,0 +1,96 @@
+"""Checks of the image that runs the packaged unit under systemd."""
+
+from checks import Checks, memory, uptime
+from contents import FIRST
+from machine import Failed
+from service_contents import SLOW
+
+UNIT = "clock-player"
+WATCHDOG_SECONDS = 20  # of the unit
+LATE_SECONDS = 20  # within which it must find a framebuffer, without being restarted for it
+BLANK_SECONDS = 5  # of the player, without a presented second
+FIRST_THREAD = f"/sys/fs/cgroup/system.slice/{UNIT}.service/first"
+
+
+class ServiceChecks(Checks):
+    CHECKS = {"unit_boot": {}, "unit_kill": {}, "unit_hang": {}, "unit_watchdog": {},
+              "unit_replace": {}, "unit_slow_glyphs": {}, "unit_restart_often": {},
+              "unit_late_screen": {"words": "SCREEN_IS_LATE=1 systemd.show_status=false"}}
+    SETTINGS = {"memory": 128, "words": "systemd.show_status=false"}
+    PROGRAM = "/etc/clock-player/program.xml"
+    STATUS = "/run/clock-player/status.json"
+
+    def restarts(self, machine):
+        return int(machine.run(f"systemctl show -P NRestarts {UNIT}"))
+
+    def log(self, machine):
+        return machine.run(f"journalctl -n 40 --no-pager -o cat -u {UNIT} -u init.scope")
+
+    def unit_boot(self, machine, screen):
+        seconds = screen.await_right(FIRST)
+        screen.expect_right(FIRST, 3)
+        self.note(f"unit: right {seconds:.1f} s after the kernel's start; {memory(machine)}")
+
+    def unit_kill(self, machine, screen):
+        self.ended(machine, screen, "kill -9 $(pidof clock_player)", "unit: killed")
+
+    def unit_hang(self, machine, screen):
+        """The player's first thread, which draws, is frozen; the one that guards the screen is
+        not."""
+        screen.await_right(FIRST)
+        before, since = self.restarts(machine), uptime(machine)
+        freeze(machine)
+        screen.await_dark()
+        dark_after = uptime(machine) - since
+        if dark_after > BLANK_SECONDS + 2:
+            raise Failed(f"the screen was dark only {dark_after:.1f} s later")
+        machine.run(f"echo 0 >{FIRST_THREAD}/cgroup.freeze")
+        screen.await_right(FIRST)
+        self.expect_restarts(machine, before, 0)
+        self.note(f"unit: without seconds the player blanked the screen {dark_after:.1f} s later, "
+                  "and then repainted it")
+
+    def unit_watchdog(self, machine, screen):
+        self.ended(machine, screen, "kill -STOP $(pidof clock_player)", "unit: stopped",
+                   WATCHDOG_SECONDS + 3)
+        if "Watchdog timeout" not in self.log(machine):
+            raise Failed(f"no watchdog:\n{self.log(machine)}")
+
+    def unit_replace(self, machine, screen):
+        self.replace(machine, screen)
+
+    def unit_slow_glyphs(self, machine, screen):
+        """Longer than the watchdog waits: the screen is dark, and nothing is restarted."""
+        screen.await_right(FIRST)
+        before, since = self.restarts(machine), uptime(machine)
+        self.put(machine, SLOW)
+        screen.await_dark()
+        screen.await_right(SLOW)
+        took = uptime(machine) - since
+        if took < WATCHDOG_SECONDS:
+            raise Failed(f"its glyphs took only {took:.1f} s")
+        self.expect_restarts(machine, before, 0)
+        self.put(machine, FIRST)
+        screen.await_right(FIRST)
+        self.note(f"unit: a program whose glyphs take {took:.0f} s was waited for")
+
+    def unit_restart_often(self, machine, screen):
+        self.restart_often(machine, screen)
+
+    def unit_late_screen(self, machine, screen):
+        """The unit was started without a framebuffer, and may nevertheless open it."""
+        machine.run("sleep 10")
+        machine.run("insmod /dev/late.ko")
+        since = uptime(machine)
+        screen.await_right(FIRST)
+        right_after = uptime(machine) - since
+        if right_after > LATE_SECONDS:
+            raise Failed(f"right only {right_after:.1f} s after its framebuffer came")
+        self.note(f"unit: right {right_after:.1f} s after its framebuffer came")
+
+
+def freeze(machine):
+    """Stops the first thread of the player, and no other."""
+    machine.run(f"mkdir -p {FIRST_THREAD} && echo threaded >{FIRST_THREAD}/cgroup.type && "
+                f"echo $(pidof clock_player) >{FIRST_THREAD}/cgroup.threads && "
+                f"echo 1 >{FIRST_THREAD}/cgroup.freeze")

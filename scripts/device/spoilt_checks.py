@@ -1,0 +1,73 @@
+"""Checks of programs and disks that are spoilt while a device plays."""
+
+from checks import ShortChecks, expect_no_growth, used
+from contents import FIRST, OTHER
+from machine import Failed
+
+PROGRAM = ShortChecks.PROGRAM
+# To put in the program's place: a directory, a pipe, half a program, a file that is too large, and
+# nothing.
+SPOILT = {"directory": f"mkdir {PROGRAM}",
+          "pipe": f"mkfifo {PROGRAM}",
+          "half": f"head -c 900 /{FIRST} >{PROGRAM}",
+          "200 MB": f"truncate -s 200M {PROGRAM}",
+          "nothing": ":"}
+
+
+class SpoiltChecks(ShortChecks):
+    CHECKS = dict.fromkeys(["spoilt", "spoilt_at_start", "full_disk"], {})
+
+    def spoilt(self, machine, screen):
+        """Whatever the program is replaced by, the screen goes on to show the last good one."""
+        screen.await_right(FIRST)
+        first = self.restarts(machine)
+        self.spoil(machine, screen)
+        before = used(machine)  # what the first round took may be kept for the next
+        self.spoil(machine, screen)
+        after = used(machine)
+        expect_no_growth(before, after)
+        self.expect_restarts(machine, first, 0)
+        self.note(f"the program was replaced by {', '.join(SPOILT)}: the screen stayed right; "
+                  f"{after}, after the first time {before}")
+
+    def spoil(self, machine, screen):
+        """Each is one more fault."""
+        faults = self.status(machine)["fault_count"]
+        for count, (what, command) in enumerate(SPOILT.items(), faults + 1):
+            machine.run(f"rm -rf {PROGRAM}; {command}; sleep 5")
+            screen.expect_right(FIRST, 1)
+            told = self.status(machine)
+            if told["fault_count"] != count:
+                raise Failed(f"{what}: {told['faults']}")
+        self.put(machine, FIRST)
+        machine.run("sleep 3")
+
+    def spoilt_at_start(self, machine, screen):
+        """Without a good program it starts with a notice, and takes the next one."""
+        for what, command in SPOILT.items():
+            machine.run(f"rm -rf {PROGRAM}; {command}; killall -9 clock_player")
+            screen.await_dark()
+            self.await_notice(machine, screen, "P1" if what == "nothing" else "P2")
+            machine.run(f"rm -rf {PROGRAM}")
+            self.put(machine, OTHER)
+            screen.await_right(OTHER)
+        self.put(machine, FIRST)
+        screen.await_right(FIRST)
+        self.note(f"started with {', '.join(SPOILT)}: a notice until there was a program")
+
+    def full_disk(self, machine, screen):
+        """Clocks whose glyph images are there already go on, and start; others wait for room."""
+        screen.await_right(FIRST)
+        machine.run("dd if=/dev/zero of=/run/filler bs=4k 2>/dev/null; ! echo x >/run/more")
+        screen.await_right(FIRST)
+        machine.run("/bin/date -s '2024-03-06 23:59:57'; sleep 4")
+        screen.await_right(FIRST)
+        self.kill(machine, screen)
+        machine.run(f"ln -s /{OTHER} {PROGRAM}.new && mv {PROGRAM}.new {PROGRAM}")
+        screen.await_notice("G1")
+        machine.run("rm /run/filler /run/more")
+        screen.await_right(OTHER)
+        self.put(machine, FIRST)
+        screen.await_right(FIRST)
+        self.note("the disk was filled: the screen stayed right, after a restart too; a program "
+                  "without glyph images waited for room")
