@@ -169,12 +169,12 @@ void ZoneSection::Choose(const QByteArray &zone)
     m_inexact = answer->wrong.isEmpty() ? QString() : InexactText(*answer);
     const ZoneSettings &settings = answer->settings;
     const int saves = settings.HasDaylightSaving() ? 1 : 0;
-    QVector<StoredValue> values {{Attribute::TimeZone, settings.ZoneText()},
-                                 {Attribute::UseDaylightSavingTime, QString::number(saves)}};
-    if (saves != 0)
-        values += {{Attribute::DaylightSavingTimeStart, settings.start},
-                   {Attribute::DaylightSavingTimeEnd, settings.end}};
-    emit Edited(values, tr("Time zone"));
+    // Rules that are no longer used are emptied: lint would warn of them.
+    emit Edited({{Attribute::TimeZone, settings.ZoneText()},
+                 {Attribute::UseDaylightSavingTime, QString::number(saves)},
+                 {Attribute::DaylightSavingTimeStart, settings.start},
+                 {Attribute::DaylightSavingTimeEnd, settings.end}},
+                tr("Time zone"));
 }
 
 void ZoneSection::GiveAdjustment()

@@ -406,6 +406,8 @@ void TestPropertyPanel::setsZone()
     test.panel.Zone().Choose("Asia/Tokyo");
     test.studio.WaitForClocks();
     QVERIFY2(said().contains("No daylight saving"), qPrintable(said()));
+    QCOMPARE(test.InText(Attribute::DaylightSavingTimeStart), QString());
+    QCOMPARE(test.InText(Attribute::DaylightSavingTimeEnd), QString());
 }
 
 void TestPropertyPanel::setsSeveralClocks()
