@@ -42,7 +42,7 @@ std::optional<RulesEnd> FindEnd(const ZoneSettings &settings, qint64 now)
         const std::optional<qint64> end = LastAgreement(settings, *civil, now);
         if (end && (!found || *end > found->until))
             found = RulesEnd {*end, zone, {zone}, *end < span.end};
-        else if (end && *end == found->until)
+        else if (end && *end == found->until && !found->all.contains(zone))
             found->all.append(zone);
         if (found && !found->isListed)
             break; // no zone can use them longer

@@ -17,11 +17,11 @@ constexpr int kYears = 10;
 
 /// Preferred where several zones have the same time.
 constexpr const char *kMuchUsed[] = {
-    "Europe/Berlin",     "Europe/London",      "Europe/Athens",    "Atlantic/Azores",
-    "America/New_York",  "America/Chicago",    "America/Denver",   "America/Los_Angeles",
-    "America/Anchorage", "America/Halifax",    "America/St_Johns", "America/Havana",
-    "Australia/Sydney",  "Australia/Adelaide", "Pacific/Auckland", "Pacific/Chatham",
-    "Africa/Cairo",
+    "Europe/Berlin",     "Europe/London",       "Europe/Athens",     "Atlantic/Azores",
+    "America/New_York",  "America/Chicago",     "America/Denver",    "America/Los_Angeles",
+    "America/Anchorage", "America/Halifax",     "America/St_Johns",  "America/Havana",
+    "Australia/Sydney",  "Australia/Adelaide",  "Pacific/Auckland",  "Pacific/Chatham",
+    "Africa/Cairo",      "America/Mexico_City", "America/Sao_Paulo", "Europe/Moscow",
 };
 
 QDateTime Utc(qint64 milliseconds)

@@ -67,6 +67,7 @@ private slots:
     void EarliestEnd();
     void NinetyDaysBefore();
     void Texts();
+    void EachZoneOnce();
     void OneMemoryForAll();
 };
 
@@ -195,6 +196,17 @@ void TestClockValidity::Texts()
                      "2030-03-22T00:00:00Z"));
     QCOMPARE(TextOf({At("2051-02-10T16:00:00"), ValidityEnd::LunarTable, {}}),
              QString("the lunar date is missing from 2051-02-10T16:00:00Z on"));
+}
+
+void TestClockValidity::EachZoneOnce()
+{
+    RulesEnds rules;
+    const auto end = rules.Of(Zone(-6 * kHour, "4.1.7.02:00:00", "10.Last.7.01:00:00"),
+                              At("2026-11-22T00:00:00"));
+    QCOMPARE(end->zone, QByteArray("America/Mexico_City"));
+    QVERIFY(end->all.contains("America/Merida"));
+    for (const QByteArray &zone : end->all)
+        QCOMPARE(end->all.count(zone), 1);
 }
 
 // One memory serves different rules, and forgets when the day changes.

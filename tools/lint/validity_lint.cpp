@@ -13,9 +13,10 @@ using namespace ClockZones;
 void Tell(const QDomElement &clock, const Validity &validity, qint64 instant, Findings &findings)
 {
     const bool isRules = validity.end == ValidityEnd::Rules;
-    const QString advice = isRules
-        ? QStringLiteral("; \"clock_tool zone --refresh\" updates them from then on")
-        : QString();
+    QString advice;
+    if (isRules)
+        advice = QStringLiteral("; \"clock_tool zone --refresh\" updates them")
+            + (instant < validity.until ? QStringLiteral(" from then on") : QString());
     if (IsDue(validity, instant))
         findings.Warn(At(clock), TextOf(validity) + advice);
     else if (isRules)
