@@ -33,6 +33,8 @@ class TestWallEditor : public QObject
     Q_OBJECT
 
 private slots:
+    // No hand of a dial is over its title at the top.
+    void initTestCase() { ChosenTime::Set("2024-03-05T10:10:35"); }
     void showsFrames();
     void showsTextsOfDialsAtOnce();
     void movesWithoutMakingAgain();
@@ -61,11 +63,11 @@ void TestWallEditor::showsFrames()
 // The clock itself draws them from its second frame on, which a held time never asks for.
 void TestWallEditor::showsTextsOfDialsAtOnce()
 {
-    StudioUnderTest studio(
-        "<program width=\"128\" height=\"128\">"
-        "<area x=\"0\" y=\"0\" width=\"128\" height=\"128\"><clock type=\"dial\">"
-        "<title display=\"true\" value=\"I\" color=\"#12ff34\"/></clock></area>"
-        "</program>");
+    StudioUnderTest studio("<program width=\"128\" height=\"128\">"
+                           "<area x=\"0\" y=\"0\" width=\"128\" height=\"128\">"
+                           "<clock type=\"dial\" timezone=\"+00:00\">"
+                           "<title display=\"true\" value=\"I\" color=\"#12ff34\"/></clock></area>"
+                           "</program>");
     studio.WaitForClocks();
     QVERIFY(studio.HasColour(studio.Screen().rect(), 0x12ff34));
 }
