@@ -35,10 +35,10 @@ void WallEditor::FollowEdits(const TextEdits &edits)
 
 void WallEditor::ShowText()
 {
+    m_wall.Show(m_document.LastParsed());
     const ParsedProgram *const parsed = m_document.Parsed();
     if (!parsed)
         return;
-    m_wall.Show(*parsed);
     QVector<int> still;
     for (int area = 0; area < parsed->AreaCount(); ++area) {
         if (m_places.contains(parsed->elements[parsed->AreaElement(area)].whole.begin))

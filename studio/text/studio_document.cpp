@@ -55,7 +55,11 @@ private:
 
 StudioDocument::StudioDocument(QObject *parent) : QObject(parent)
 {
-    // Until a valid program is loaded, the wall is empty.
+    ForgetLast();
+}
+
+void StudioDocument::ForgetLast()
+{
     auto empty = ReadProgramText(QStringLiteral("<program width=\"256\" height=\"128\"/>"), m_form);
     m_parsed = std::get<ParsedProgram>(empty);
 }
@@ -68,6 +72,7 @@ bool StudioDocument::Load(const QByteArray &bytes)
     m_text = read->text;
     m_form = read->form;
     m_history.clear();
+    ForgetLast();
     EndMerging();
     emit Loaded();
     ReadText();

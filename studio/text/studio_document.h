@@ -33,7 +33,7 @@ public:
 
     /// The parsed text; null while it is not a valid program.
     const ParsedProgram *Parsed() const { return m_fault ? nullptr : &m_parsed; }
-    /// The last valid parse.
+    /// The last valid parse since the text was loaded; an empty wall until there is one.
     const ParsedProgram &LastParsed() const { return m_parsed; }
     const std::optional<TextFault> &Fault() const { return m_fault; }
 
@@ -45,6 +45,7 @@ Q_SIGNALS:
 private:
     friend class TextCommand;
     void Perform(const TextEdits &edits);
+    void ForgetLast();
     void ReadText();
 
     QString m_text;

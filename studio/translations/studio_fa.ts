@@ -1294,10 +1294,6 @@
         <translation>%1[*] – استودیوی ساعت</translation>
     </message>
     <message>
-        <source>Line %1: %2 The wall shows the last valid version.</source>
-        <translation>سطر %1: %2 دیوار آخرین نسخهٔ درست را نشان می‌دهد.</translation>
-    </message>
-    <message>
         <source>Go to line</source>
         <translation>نمایش سطر</translation>
     </message>
@@ -1312,6 +1308,14 @@
     <message>
         <source>The picture could not be made.</source>
         <translation>تصویر ساخته نشد.</translation>
+    </message>
+    <message>
+        <source>The wall shows the last valid version.</source>
+        <translation>دیوار آخرین نسخهٔ درست را نشان می‌دهد.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>سطر %1: %2</translation>
     </message>
 </context>
 <context>

@@ -1294,10 +1294,6 @@
         <translation>%1[*] – 时钟工作室</translation>
     </message>
     <message>
-        <source>Line %1: %2 The wall shows the last valid version.</source>
-        <translation>第 %1 行：%2 墙上显示的是最后一个正确的版本。</translation>
-    </message>
-    <message>
         <source>Go to line</source>
         <translation>显示该行</translation>
     </message>
@@ -1312,6 +1308,14 @@
     <message>
         <source>The picture could not be made.</source>
         <translation>无法生成图片。</translation>
+    </message>
+    <message>
+        <source>The wall shows the last valid version.</source>
+        <translation>墙上显示的是最后一个正确的版本。</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>第 %1 行：%2</translation>
     </message>
 </context>
 <context>

@@ -290,11 +290,12 @@ void MainWindow::UpdateState()
 {
     if (const auto &fault = m_document.Fault()) {
         const int line = fault->line;
-        m_fault->Ask(tr("Line %1: %2 The wall shows the last valid version.")
-                         .arg(line)
-                         .arg(fault->reason.endsWith(QLatin1Char('.'))
-                                  ? fault->reason
-                                  : fault->reason + QLatin1Char('.')),
+        const QString shown = m_wall.AreaCount() == 0
+            ? QString()
+            : QLatin1Char(' ') + tr("The wall shows the last valid version.");
+        const QString end =
+            fault->reason.endsWith(QLatin1Char('.')) ? QString() : QStringLiteral(".");
+        m_fault->Ask(tr("Line %1: %2").arg(QString::number(line), fault->reason + end) + shown,
                      {{tr("Go to line"), [this, line] {
                            m_sourceDock->show();
                            m_source->GoToLine(line);

@@ -336,6 +336,9 @@ void TestMainWindow::damagedFileIsSaid()
                   "<program width=\"8\" height=\"8\">&b;</program>"));
     test.window.Open(bomb);
     QVERIFY2(test.Said().contains("Line 1"), qPrintable(test.Said()));
+    // The wall of the file before is no version of this one.
+    QVERIFY2(!test.Said().contains("last valid"), qPrintable(test.Said()));
+    QCOMPARE(test.window.Editor().Wall().AreaCount(), 0);
     const QString huge = test.work.filePath("huge.xml");
     QFile file(huge);
     QVERIFY(file.open(QFile::WriteOnly) && file.resize(200LL << 20));
