@@ -31,10 +31,10 @@ QString SizesBelow(const QVector<int> &sizes, int from)
 /// The smallest size from which all larger ones are legible; 0 if the largest is not.
 int RightFrom(const QVector<int> &sizes)
 {
-    int from = kLargestLookedAt + 1;
+    int from = kLargestChecked + 1;
     while (from > 1 && sizes.contains(from - 1))
         --from;
-    return from > kLargestLookedAt ? 0 : from;
+    return from > kLargestChecked ? 0 : from;
 }
 
 QString TableOf(const QStringList &families)
@@ -46,7 +46,7 @@ QString TableOf(const QStringList &families)
         const int from = RightFrom(sizes);
         table += QStringLiteral("| %1 | %2 | %3 |\n")
                      .arg(family, from > 0 ? QString::number(from) : QStringLiteral("none"),
-                          SizesBelow(sizes, from > 0 ? from : kLargestLookedAt + 1));
+                          SizesBelow(sizes, from > 0 ? from : kLargestChecked + 1));
     }
     return table;
 }

@@ -12,13 +12,13 @@ class TestLegibleSizes : public QObject
 
 private slots:
     void initTestCase();
-    void faults_data();
-    void faults();
-    void nearest_data();
-    void nearest();
-    void largeSizesAreNotLookedAt();
-    void everySizeIsRightOrHasAReason();
-    void noSizeThatIsNotLookedAtIsNamed();
+    void NamesWhatASizeLoses_data();
+    void NamesWhatASizeLoses();
+    void NamesTheNearestLegibleSize_data();
+    void NamesTheNearestLegibleSize();
+    void LargeSizesAreNotChecked();
+    void EverySizeIsLegibleOrHasAReason();
+    void NamesOnlySizesThatAreChecked();
 };
 
 void TestLegibleSizes::initTestCase()
@@ -27,7 +27,7 @@ void TestLegibleSizes::initTestCase()
         QVERIFY2(QFontDatabase().families().contains(family), family);
 }
 
-void TestLegibleSizes::faults_data()
+void TestLegibleSizes::NamesWhatASizeLoses_data()
 {
     QTest::addColumn<QString>("family");
     QTest::addColumn<int>("points");
@@ -52,7 +52,7 @@ void TestLegibleSizes::faults_data()
     row("DejaVu Sans Mono", 5, "", "0 has 1 stroke instead of 2"); // its dot
 }
 
-void TestLegibleSizes::faults()
+void TestLegibleSizes::NamesWhatASizeLoses()
 {
     QFETCH(QString, family);
     QFETCH(int, points);
@@ -60,10 +60,10 @@ void TestLegibleSizes::faults()
     QFETCH(QString, fault);
     const QString found = LegibilityFault(family, points, separators);
     QVERIFY2(fault.isEmpty() ? found.isEmpty() : found.contains(fault), qPrintable(found));
-    QCOMPARE(LegibilityFault(family, points, separators), found); // remembered
+    QCOMPARE(LegibilityFault(family, points, separators), found); // cached
 }
 
-void TestLegibleSizes::nearest_data()
+void TestLegibleSizes::NamesTheNearestLegibleSize_data()
 {
     QTest::addColumn<QString>("family");
     QTest::addColumn<int>("points");
@@ -74,33 +74,33 @@ void TestLegibleSizes::nearest_data()
     QTest::newRow("much too small") << "DejaVu Sans" << 1 << 6;
 }
 
-void TestLegibleSizes::nearest()
+void TestLegibleSizes::NamesTheNearestLegibleSize()
 {
     QFETCH(QString, family);
     QFETCH(int, points);
     QTEST(NearestLegibleSize(family, points, ":"), "right");
 }
 
-void TestLegibleSizes::largeSizesAreNotLookedAt()
+void TestLegibleSizes::LargeSizesAreNotChecked()
 {
-    for (const int points : {kLargestLookedAt + 1, 32767, 2147483647})
+    for (const int points : {kLargestChecked + 1, 32767, 2147483647})
         QVERIFY(LegibilityFault("DejaVu Sans", points, ":").isEmpty());
 }
 
-void TestLegibleSizes::everySizeIsRightOrHasAReason()
+void TestLegibleSizes::EverySizeIsLegibleOrHasAReason()
 {
     const QVector<int> right = LegibleSizes("DejaVu Sans", ":");
     QVERIFY(!right.isEmpty());
-    for (int points = 1; points <= kLargestLookedAt; ++points)
+    for (int points = 1; points <= kLargestChecked; ++points)
         QCOMPARE(right.contains(points), LegibilityFault("DejaVu Sans", points, ":").isEmpty());
 }
 
 // At one bit per pixel its strokes run together at all sizes that are checked.
-void TestLegibleSizes::noSizeThatIsNotLookedAtIsNamed()
+void TestLegibleSizes::NamesOnlySizesThatAreChecked()
 {
     const QString dense = QString::fromUtf8("鬱");
     QVERIFY(LegibleSizes("DejaVu Sans", dense).isEmpty());
-    QCOMPARE(NearestLegibleSize("DejaVu Sans", kLargestLookedAt, dense), 0);
+    QCOMPARE(NearestLegibleSize("DejaVu Sans", kLargestChecked, dense), 0);
 }
 
 QTEST_MAIN(TestLegibleSizes)

@@ -66,12 +66,12 @@ class TestFindings : public QObject
 private slots:
     void initTestCase() { QVERIFY(ClockCatalogues::Install("en")); }
     void AppearsAndIsFixed();
-    void allAtOnce();
-    void notesAreNotCounted();
-    void tooSmallIsNoFix();
-    void brokenTextHasNone();
-    void typingDropsWhatIsChecked();
-    void eventsAreHandledMeanwhile();
+    void CheckAllIncludesTheYear();
+    void NotesAreNotCounted();
+    void IllegibleSizeIsNotOfferedAsFix();
+    void InvalidTextHasNoFindings();
+    void TypingDropsTheCheckOfTheYear();
+    void EventsAreHandledDuringTheCheck();
 };
 
 void TestFindings::AppearsAndIsFixed()
@@ -96,7 +96,7 @@ void TestFindings::AppearsAndIsFixed()
     QVERIFY(test.studio.document.Text().contains("\"44\""));
 }
 
-void TestFindings::allAtOnce()
+void TestFindings::CheckAllIncludesTheYear()
 {
     FindingsUnderTest test(kCut);
     test.panel.CheckAll();
@@ -105,7 +105,7 @@ void TestFindings::allAtOnce()
 }
 
 /// A clock without a time zone is only noted.
-void TestFindings::notesAreNotCounted()
+void TestFindings::NotesAreNotCounted()
 {
     FindingsUnderTest test(
         QByteArray(kCut).replace("\"44\"", "\"9\"").replace(" timezone=\"+00:00\"", ""));
@@ -116,7 +116,7 @@ void TestFindings::notesAreNotCounted()
 }
 
 /// A time in an area four pixels high: what would fit is too small to read.
-void TestFindings::tooSmallIsNoFix()
+void TestFindings::IllegibleSizeIsNotOfferedAsFix()
 {
     const QByteArray flat = QByteArray(kCut).replace("y=\"32\" width=\"64\" height=\"32\"",
                                                      "y=\"32\" width=\"64\" height=\"4\"");
@@ -129,7 +129,7 @@ void TestFindings::tooSmallIsNoFix()
     QVERIFY(!test.panel.findChild<QPushButton *>()->isEnabled());
 }
 
-void TestFindings::brokenTextHasNone()
+void TestFindings::InvalidTextHasNoFindings()
 {
     FindingsUnderTest test(kCut);
     test.panel.CheckAll();
@@ -144,7 +144,7 @@ void TestFindings::brokenTextHasNone()
 }
 
 // What was found in a text that is no longer there is not listed.
-void TestFindings::typingDropsWhatIsChecked()
+void TestFindings::TypingDropsTheCheckOfTheYear()
 {
     FindingsUnderTest test(kCut);
     test.panel.Check();
@@ -156,7 +156,7 @@ void TestFindings::typingDropsWhatIsChecked()
     QVERIFY(test.RowWith("cut") < 0);
 }
 
-void TestFindings::eventsAreHandledMeanwhile()
+void TestFindings::EventsAreHandledDuringTheCheck()
 {
     const int area = kCut.indexOf("  <area");
     const QByteArray areas = kCut.mid(area, kCut.indexOf("</program>") - area);

@@ -12,12 +12,12 @@ class TestLanguages : public QObject
     Q_OBJECT
 
 private slots:
-    void followTheLocale_data();
-    void followTheLocale();
+    void FollowTheLocale_data();
+    void FollowTheLocale();
     void cleanup() { QLocale::setDefault(QLocale::c()); }
 };
 
-void TestLanguages::followTheLocale_data()
+void TestLanguages::FollowTheLocale_data()
 {
     QTest::addColumn<QLocale>("locale");
     QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -41,7 +41,7 @@ void TestLanguages::followTheLocale_data()
                              << "2 个时钟";
 }
 
-void TestLanguages::followTheLocale()
+void TestLanguages::FollowTheLocale()
 {
     QFETCH(QLocale, locale);
     QLocale::setDefault(locale);

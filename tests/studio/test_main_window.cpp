@@ -173,23 +173,23 @@ class TestMainWindow : public QObject
 
 private slots:
     void initTestCase();
-    void keysAreUnique();
-    void commandsNeedAWall();
-    void undoFollowsTheHistory();
-    void galleryOpensOnce_data();
-    void galleryOpensOnce();
-    void closingAsks();
-    void savesAndOpensRecent();
-    void dropsAFile();
-    void damagedFileIsSaid();
-    void changedFileIsAskedAbout();
-    void lostFileIsSaid();
-    void recoversAllThatWasLeft();
-    void writesAPicture();
-    void writesASheet();
-    void writesAPreview();
-    void failedPictureKeepsTheFile();
-    void exportsAndImports();
+    void KeysAreUnique();
+    void CommandsNeedAWall();
+    void UndoFollowsTheHistory();
+    void GalleryOpensOnce_data();
+    void GalleryOpensOnce();
+    void ClosingAsksToSave();
+    void SavesAndOpensRecent();
+    void DropsAFile();
+    void DamagedFileIsReported();
+    void ChangedFileIsAskedAbout();
+    void DeletedFileIsReported();
+    void RecoversAllUnsavedWork();
+    void WritesAPicture();
+    void WritesASheet();
+    void WritesAPreview();
+    void FailedPictureKeepsTheFile();
+    void ExportsAndImports();
 };
 
 void TestMainWindow::initTestCase()
@@ -202,7 +202,7 @@ void TestMainWindow::initTestCase()
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
 }
 
-void TestMainWindow::keysAreUnique()
+void TestMainWindow::KeysAreUnique()
 {
     WindowUnderTest test;
     QStringList keys;
@@ -215,7 +215,7 @@ void TestMainWindow::keysAreUnique()
     QVERIFY(keys.size() > 30);
 }
 
-void TestMainWindow::commandsNeedAWall()
+void TestMainWindow::CommandsNeedAWall()
 {
     WindowUnderTest test;
     QVERIFY(test.Command("Send to a wall")->isEnabled());
@@ -228,7 +228,7 @@ void TestMainWindow::commandsNeedAWall()
     QVERIFY(test.Command("Open")->isEnabled());
 }
 
-void TestMainWindow::undoFollowsTheHistory()
+void TestMainWindow::UndoFollowsTheHistory()
 {
     WindowUnderTest test;
     const auto enabled = [&test] {
@@ -249,14 +249,14 @@ void TestMainWindow::undoFollowsTheHistory()
     QCOMPARE(enabled(), QString("01"));
 }
 
-void TestMainWindow::galleryOpensOnce_data()
+void TestMainWindow::GalleryOpensOnce_data()
 {
     QTest::addColumn<bool>("activatesOnClick");
     QTest::newRow("click") << true;
     QTest::newRow("double click") << false;
 }
 
-void TestMainWindow::galleryOpensOnce()
+void TestMainWindow::GalleryOpensOnce()
 {
     QFETCH(bool, activatesOnClick);
     ActivatingStyle style(activatesOnClick);
@@ -273,7 +273,7 @@ void TestMainWindow::galleryOpensOnce()
     QCOMPARE(chosen.count(), 1);
 }
 
-void TestMainWindow::closingAsks()
+void TestMainWindow::ClosingAsksToSave()
 {
     WindowUnderTest test;
     test.Widen();
@@ -294,7 +294,7 @@ void TestMainWindow::closingAsks()
     QCOMPARE(none.Questions(), 0);
 }
 
-void TestMainWindow::savesAndOpensRecent()
+void TestMainWindow::SavesAndOpensRecent()
 {
     WindowUnderTest test;
     test.Widen();
@@ -311,7 +311,7 @@ void TestMainWindow::savesAndOpensRecent()
     QCOMPARE(test.window.Files().Path(), test.path);
 }
 
-void TestMainWindow::dropsAFile()
+void TestMainWindow::DropsAFile()
 {
     WindowUnderTest test;
     const QString other = test.work.filePath("other.xml");
@@ -327,7 +327,7 @@ void TestMainWindow::dropsAFile()
     QCOMPARE(test.window.Editor().Wall().Size().width(), 66);
 }
 
-void TestMainWindow::damagedFileIsSaid()
+void TestMainWindow::DamagedFileIsReported()
 {
     WindowUnderTest test;
     const QString bomb = test.work.filePath("bomb.xml");
@@ -347,7 +347,7 @@ void TestMainWindow::damagedFileIsSaid()
     QCOMPARE(test.window.Files().Path(), bomb);
 }
 
-void TestMainWindow::changedFileIsAskedAbout()
+void TestMainWindow::ChangedFileIsAskedAbout()
 {
     WindowUnderTest test;
     QVERIFY(Write(test.path, QByteArray(kWall).replace("64", "66")));
@@ -356,7 +356,7 @@ void TestMainWindow::changedFileIsAskedAbout()
     QCOMPARE(test.window.Editor().Wall().Size().width(), 66);
 }
 
-void TestMainWindow::lostFileIsSaid()
+void TestMainWindow::DeletedFileIsReported()
 {
     WindowUnderTest test;
     QVERIFY(QFile::remove(test.path));
@@ -365,7 +365,7 @@ void TestMainWindow::lostFileIsSaid()
     QCOMPARE(ContentsOf(test.path), kWall);
 }
 
-void TestMainWindow::recoversAllThatWasLeft()
+void TestMainWindow::RecoversAllUnsavedWork()
 {
     const QTemporaryDir work;
     for (const char *name : {"1", "2"}) { // as studios that were killed leave it
@@ -396,7 +396,7 @@ void TestMainWindow::recoversAllThatWasLeft()
     window.Files().GiveUp();
 }
 
-void TestMainWindow::writesAPicture()
+void TestMainWindow::WritesAPicture()
 {
     WindowUnderTest test;
     const QString picture = test.work.filePath("wall.png");
@@ -407,7 +407,7 @@ void TestMainWindow::writesAPicture()
              test.window.Editor().Wall().Screen().convertToFormat(QImage::Format_RGB32));
 }
 
-void TestMainWindow::writesASheet()
+void TestMainWindow::WritesASheet()
 {
     WindowUnderTest test;
     const QString sheet = test.work.filePath("wall.pdf");
@@ -418,7 +418,7 @@ void TestMainWindow::writesASheet()
     QVERIFY(written.contains("/Page"));
 }
 
-void TestMainWindow::writesAPreview()
+void TestMainWindow::WritesAPreview()
 {
     if (QStandardPaths::findExecutable("convert").isEmpty())
         QSKIP("no ImageMagick");
@@ -432,7 +432,7 @@ void TestMainWindow::writesAPreview()
     QVERIFY(reader.read() != first);
 }
 
-void TestMainWindow::failedPictureKeepsTheFile()
+void TestMainWindow::FailedPictureKeepsTheFile()
 {
     WindowUnderTest test;
     test.Run("Picture of the wall", test.work.filePath("no/such/wall.png"));
@@ -441,7 +441,7 @@ void TestMainWindow::failedPictureKeepsTheFile()
     QVERIFY2(test.Said().contains("could not be saved"), qPrintable(test.Said()));
 }
 
-void TestMainWindow::exportsAndImports()
+void TestMainWindow::ExportsAndImports()
 {
     WindowUnderTest test;
     const QString folder = test.work.filePath("export");

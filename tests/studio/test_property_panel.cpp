@@ -194,23 +194,23 @@ class TestPropertyPanel : public QObject
 
 private slots:
     void initTestCase();
-    void everyAttributeHasAControl();
-    void setsEveryProperty_data() { Kinds(); }
-    void setsEveryProperty();
-    void showsAndHidesEveryPart_data() { Kinds(); }
-    void showsAndHidesEveryPart();
-    void resetsEveryProperty_data() { Kinds(); }
-    void resetsEveryProperty();
-    void setsKind();
-    void setsPlace();
-    void setsAdjustment();
-    void setsZone();
-    void setsSeveralClocks();
-    void offTheWallIsNotFitted();
-    void lackingFamilyStaysMarked();
-    void brokenTextCannotBeSet();
-    void wheelScrollsThePanel();
-    void controlsAreNotCut();
+    void EveryAttributeHasAControl();
+    void SetsEveryProperty_data() { Kinds(); }
+    void SetsEveryProperty();
+    void ShowsAndHidesEveryPart_data() { Kinds(); }
+    void ShowsAndHidesEveryPart();
+    void ResetsEveryProperty_data() { Kinds(); }
+    void ResetsEveryProperty();
+    void SetsKind();
+    void SetsPlace();
+    void SetsAdjustment();
+    void SetsZone();
+    void SetsSeveralClocks();
+    void ClockOffTheWallIsNotFitted();
+    void MissingFamilyStaysMarked();
+    void InvalidTextDisablesThePanel();
+    void WheelScrollsThePanel();
+    void ControlsAreNotCut();
 
 private:
     static void Kinds();
@@ -231,7 +231,7 @@ void TestPropertyPanel::initTestCase()
     QVERIFY(ClockCatalogues::Install("en"));
 }
 
-void TestPropertyPanel::everyAttributeHasAControl()
+void TestPropertyPanel::EveryAttributeHasAControl()
 {
     PanelUnderTest test(Everything(DigitalClock));
     for (const AttributeRow &row : kAttributeTable) {
@@ -240,7 +240,7 @@ void TestPropertyPanel::everyAttributeHasAControl()
     }
 }
 
-void TestPropertyPanel::setsEveryProperty()
+void TestPropertyPanel::SetsEveryProperty()
 {
     QFETCH(int, kind);
     PanelUnderTest test(Everything(kind));
@@ -265,7 +265,7 @@ void TestPropertyPanel::setsEveryProperty()
     QCOMPARE(count, used);
 }
 
-void TestPropertyPanel::showsAndHidesEveryPart()
+void TestPropertyPanel::ShowsAndHidesEveryPart()
 {
     QFETCH(int, kind);
     PanelUnderTest test(Everything(kind));
@@ -283,7 +283,7 @@ void TestPropertyPanel::showsAndHidesEveryPart()
     QCOMPARE(count, kind == DigitalClock ? 5 : kind == AnalogClock ? 5 : 0);
 }
 
-void TestPropertyPanel::resetsEveryProperty()
+void TestPropertyPanel::ResetsEveryProperty()
 {
     QFETCH(int, kind);
     PanelUnderTest test(Everything(kind));
@@ -307,7 +307,7 @@ void TestPropertyPanel::resetsEveryProperty()
     }
 }
 
-void TestPropertyPanel::setsKind()
+void TestPropertyPanel::SetsKind()
 {
     PanelUnderTest test(Everything(DigitalClock));
     for (const int kind : {AnalogClock, PictureClock, DigitalClock}) {
@@ -325,7 +325,7 @@ void TestPropertyPanel::setsKind()
     }
 }
 
-void TestPropertyPanel::setsPlace()
+void TestPropertyPanel::SetsPlace()
 {
     PanelUnderTest test(Everything(DigitalClock));
     const struct
@@ -356,7 +356,7 @@ void TestPropertyPanel::setsPlace()
     QCOMPARE(test.studio.wall.Size(), QSize(320, kSide));
 }
 
-void TestPropertyPanel::setsAdjustment()
+void TestPropertyPanel::SetsAdjustment()
 {
     PanelUnderTest test(Everything(DigitalClock));
     const QImage before = test.studio.Screen().copy();
@@ -380,7 +380,7 @@ void TestPropertyPanel::setsAdjustment()
 
 // The next change and how long the rules hold; why a zone cannot be expressed, for as long as it is
 // the clock's.
-void TestPropertyPanel::setsZone()
+void TestPropertyPanel::SetsZone()
 {
     PanelUnderTest test(Everything(DigitalClock));
     const auto said = [&test] {
@@ -410,7 +410,7 @@ void TestPropertyPanel::setsZone()
     QCOMPARE(test.InText(Attribute::DaylightSavingTimeEnd), QString());
 }
 
-void TestPropertyPanel::setsSeveralClocks()
+void TestPropertyPanel::SetsSeveralClocks()
 {
     QByteArray two = Everything(DigitalClock);
     const int area = two.indexOf("<area");
@@ -435,7 +435,7 @@ void TestPropertyPanel::setsSeveralClocks()
 }
 
 // Nothing of such a clock can be seen, so no size fits.
-void TestPropertyPanel::offTheWallIsNotFitted()
+void TestPropertyPanel::ClockOffTheWallIsNotFitted()
 {
     for (const char *x : {"0", "300"}) {
         PanelUnderTest test(
@@ -446,7 +446,7 @@ void TestPropertyPanel::offTheWallIsNotFitted()
     }
 }
 
-void TestPropertyPanel::lackingFamilyStaysMarked()
+void TestPropertyPanel::MissingFamilyStaysMarked()
 {
     FamilyBox box;
     box.Show("No Such Family", false);
@@ -458,7 +458,7 @@ void TestPropertyPanel::lackingFamilyStaysMarked()
     QCOMPARE(box.currentText(), marked);
 }
 
-void TestPropertyPanel::brokenTextCannotBeSet()
+void TestPropertyPanel::InvalidTextDisablesThePanel()
 {
     PanelUnderTest test(Everything(DigitalClock));
     test.studio.document.Change({{0, "<", ""}}, "typing");
@@ -467,7 +467,7 @@ void TestPropertyPanel::brokenTextCannotBeSet()
 }
 
 // Scrolling through the panel with the wheel changes nothing that happens to be under it.
-void TestPropertyPanel::wheelScrollsThePanel()
+void TestPropertyPanel::WheelScrollsThePanel()
 {
     PanelUnderTest test(Everything(DigitalClock));
     const QByteArray bytes = *test.studio.document.Bytes();
@@ -484,7 +484,7 @@ void TestPropertyPanel::wheelScrollsThePanel()
 }
 
 /// Fonts and styles differ in how wide their controls are, and the panel only scrolls down.
-void TestPropertyPanel::controlsAreNotCut()
+void TestPropertyPanel::ControlsAreNotCut()
 {
     const QFont usual = QApplication::font();
     for (const int points : {9, 20}) {

@@ -15,12 +15,12 @@ class TestStudioCatalogues : public QObject
     Q_OBJECT
 
 private slots:
-    void isFinished_data();
-    void isFinished();
-    void hasTheAttributes_data() { Languages(); }
-    void hasTheAttributes();
-    void hasTheGroups_data() { Languages(); }
-    void hasTheGroups();
+    void EveryTextIsTranslated_data();
+    void EveryTextIsTranslated();
+    void HasTheAttributes_data() { Languages(); }
+    void HasTheAttributes();
+    void HasTheGroups_data() { Languages(); }
+    void HasTheGroups();
 
 private:
     static void Languages();
@@ -33,7 +33,7 @@ void TestStudioCatalogues::Languages()
     QTest::newRow("Chinese") << "zh";
 }
 
-void TestStudioCatalogues::isFinished_data()
+void TestStudioCatalogues::EveryTextIsTranslated_data()
 {
     QTest::addColumn<QString>("language");
     QTest::addColumn<int>("least");
@@ -42,7 +42,7 @@ void TestStudioCatalogues::isFinished_data()
     QTest::newRow("English plurals") << "en" << 4;
 }
 
-void TestStudioCatalogues::isFinished()
+void TestStudioCatalogues::EveryTextIsTranslated()
 {
     QFETCH(QString, language);
     QFETCH(int, least);
@@ -88,7 +88,7 @@ private:
     QStringList m_texts;
 };
 
-void TestStudioCatalogues::hasTheAttributes()
+void TestStudioCatalogues::HasTheAttributes()
 {
     QFETCH(QString, language);
     Lacking lacking(language, "ClockStudio::Attributes");
@@ -105,7 +105,7 @@ void TestStudioCatalogues::hasTheAttributes()
     QCOMPARE(lacking.Texts(), QStringList());
 }
 
-void TestStudioCatalogues::hasTheGroups()
+void TestStudioCatalogues::HasTheGroups()
 {
     QFETCH(QString, language);
     Lacking lacking(language, "ClockStudio::PropertyGroups");

@@ -35,23 +35,23 @@ class TestWallEditor : public QObject
 private slots:
     // No hand of a dial is over its title at the top.
     void initTestCase() { ChosenTime::Set("2024-03-05T10:10:35"); }
-    void showsFrames();
-    void showsTextsOfDialsAtOnce();
-    void movesWithoutMakingAgain();
-    void makesOnlyWhatChanged();
-    void addsEveryKind();
-    void deletesAndUndoes();
-    void duplicates();
-    void copiesAndPastes();
-    void bringsToFront();
-    void choiceFollowsTheText();
-    void brokenTextChangesNothing();
-    void refusedClockIsEmpty();
-    void manyClocksDoNotBlock();
-    void largeFontsDoNotBlock();
+    void ShowsFrames();
+    void ShowsTextsOfDialsAtOnce();
+    void MovesWithoutRecreating();
+    void RecreatesOnlyWhatChanged();
+    void AddsEveryKind();
+    void DeletesAndUndoes();
+    void DuplicatesSelected();
+    void CopiesAndPastes();
+    void BringsToFront();
+    void SelectionFollowsTheText();
+    void InvalidTextChangesNothing();
+    void RefusedClockIsEmpty();
+    void ManyClocksDoNotBlock();
+    void LargeFontsDoNotBlock();
 };
 
-void TestWallEditor::showsFrames()
+void TestWallEditor::ShowsFrames()
 {
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();
@@ -61,7 +61,7 @@ void TestWallEditor::showsFrames()
 }
 
 // The clock itself draws them from its second frame on, which a held time never asks for.
-void TestWallEditor::showsTextsOfDialsAtOnce()
+void TestWallEditor::ShowsTextsOfDialsAtOnce()
 {
     StudioUnderTest studio("<program width=\"128\" height=\"128\">"
                            "<area x=\"0\" y=\"0\" width=\"128\" height=\"128\">"
@@ -72,7 +72,7 @@ void TestWallEditor::showsTextsOfDialsAtOnce()
     QVERIFY(studio.HasColour(studio.Screen().rect(), 0x12ff34));
 }
 
-void TestWallEditor::movesWithoutMakingAgain()
+void TestWallEditor::MovesWithoutRecreating()
 {
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();
@@ -88,7 +88,7 @@ void TestWallEditor::movesWithoutMakingAgain()
     QVERIFY(studio.HasColour({0, 0, 64, 32}, kRed));
 }
 
-void TestWallEditor::makesOnlyWhatChanged()
+void TestWallEditor::RecreatesOnlyWhatChanged()
 {
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();
@@ -102,7 +102,7 @@ void TestWallEditor::makesOnlyWhatChanged()
     QVERIFY(studio.HasColour({0, 0, 64, 32}, 0x0000ff));
 }
 
-void TestWallEditor::addsEveryKind()
+void TestWallEditor::AddsEveryKind()
 {
     for (const ClockKind kind : {ClockKind::Digital, ClockKind::Analog, ClockKind::Picture}) {
         StudioUnderTest studio("<program width=\"128\" height=\"64\"/>");
@@ -118,7 +118,7 @@ void TestWallEditor::addsEveryKind()
     }
 }
 
-void TestWallEditor::deletesAndUndoes()
+void TestWallEditor::DeletesAndUndoes()
 {
     StudioUnderTest studio(kTwo);
     studio.editor.SelectAll();
@@ -132,7 +132,7 @@ void TestWallEditor::deletesAndUndoes()
     QVERIFY(studio.HasColour({0, 0, 64, 32}, kRed));
 }
 
-void TestWallEditor::duplicates()
+void TestWallEditor::DuplicatesSelected()
 {
     StudioUnderTest studio(QByteArray(kTwo).replace(
         "<clock type",
@@ -147,7 +147,7 @@ void TestWallEditor::duplicates()
     QCOMPARE(studio.wall.Geometry(last), QRect(64, 0, 64, 32)); // the free place beside it
 }
 
-void TestWallEditor::copiesAndPastes()
+void TestWallEditor::CopiesAndPastes()
 {
     StudioUnderTest from(kTwo);
     from.editor.Select({1});
@@ -161,7 +161,7 @@ void TestWallEditor::copiesAndPastes()
     QCOMPARE(to.wall.AreaCount(), 1);
 }
 
-void TestWallEditor::bringsToFront()
+void TestWallEditor::BringsToFront()
 {
     StudioUnderTest studio(kTwo);
     studio.editor.Select({0});
@@ -173,7 +173,7 @@ void TestWallEditor::bringsToFront()
     QCOMPARE(studio.editor.Selected(), QVector<int> {0});
 }
 
-void TestWallEditor::choiceFollowsTheText()
+void TestWallEditor::SelectionFollowsTheText()
 {
     StudioUnderTest studio(kTwo);
     studio.editor.Select({1});
@@ -185,7 +185,7 @@ void TestWallEditor::choiceFollowsTheText()
     QCOMPARE(studio.editor.Selected(), QVector<int> {0});
 }
 
-void TestWallEditor::brokenTextChangesNothing()
+void TestWallEditor::InvalidTextChangesNothing()
 {
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();
@@ -200,7 +200,7 @@ void TestWallEditor::brokenTextChangesNothing()
     QVERIFY(studio.HasColour({0, 0, 64, 32}, kRed));
 }
 
-void TestWallEditor::refusedClockIsEmpty()
+void TestWallEditor::RefusedClockIsEmpty()
 {
     StudioUnderTest studio(QByteArray(kTwo).replace("type=\"digital\"", "type=\"sundial\""));
     studio.WaitForClocks();
@@ -211,7 +211,7 @@ void TestWallEditor::refusedClockIsEmpty()
     QVERIFY(studio.document.Text().contains("<area x=\"1\" y=\"1\""));
 }
 
-void TestWallEditor::manyClocksDoNotBlock()
+void TestWallEditor::ManyClocksDoNotBlock()
 {
     const QByteArray area =
         "<area x=\"0\" y=\"0\" width=\"32\" height=\"16\"><clock type=\"digital\"/>"
@@ -225,7 +225,7 @@ void TestWallEditor::manyClocksDoNotBlock()
 }
 
 // A step of size for all of them draws every image of the font: clock by clock, between events.
-void TestWallEditor::largeFontsDoNotBlock()
+void TestWallEditor::LargeFontsDoNotBlock()
 {
     const QByteArray area = "<area x=\"0\" y=\"0\" width=\"128\" height=\"64\">"
                             "<clock type=\"digital\"><time fontSize=\"200\"/></clock></area>\n";

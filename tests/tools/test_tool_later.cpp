@@ -11,11 +11,11 @@ class TestToolLater : public QObject
     Q_OBJECT
 
 private slots:
-    void zoneData_data();
-    void zoneData();
+    void ZoneDataEndWith2037_data();
+    void ZoneDataEndWith2037();
 };
 
-void TestToolLater::zoneData_data()
+void TestToolLater::ZoneDataEndWith2037_data()
 {
     QTest::addColumn<QDate>("today");
     QTest::addColumn<QStringList>("more");
@@ -35,7 +35,7 @@ void TestToolLater::zoneData_data()
         << "exact from 2027-01-01 to 2037-01-01";
 }
 
-void TestToolLater::zoneData()
+void TestToolLater::ZoneDataEndWith2037()
 {
     QFETCH(QDate, today);
     QFETCH(QStringList, more);

@@ -116,7 +116,7 @@ QStringList DigitFaults(const QString &family, const QVector<QImage> &digits)
 QString LegibilityFault(const QString &family, int points, const QString &separators)
 {
     static QHash<QString, QString> known;
-    if (points > kLargestLookedAt)
+    if (points > kLargestChecked)
         return {};
     const QString key = QStringLiteral("%1\n%2\n%3").arg(family).arg(points).arg(separators);
     const auto found = known.constFind(key);
@@ -134,9 +134,9 @@ QString LegibilityFault(const QString &family, int points, const QString &separa
 
 int NearestLegibleSize(const QString &family, int points, const QString &separators)
 {
-    for (int away = 1; away <= kLargestLookedAt; ++away) {
+    for (int away = 1; away <= kLargestChecked; ++away) {
         for (const int size : {points + away, points - away}) {
-            if (size > 0 && size <= kLargestLookedAt
+            if (size > 0 && size <= kLargestChecked
                 && LegibilityFault(family, size, separators).isEmpty())
                 return size;
         }
@@ -147,7 +147,7 @@ int NearestLegibleSize(const QString &family, int points, const QString &separat
 QVector<int> LegibleSizes(const QString &family, const QString &separators)
 {
     QVector<int> sizes;
-    for (int size = 1; size <= kLargestLookedAt; ++size) {
+    for (int size = 1; size <= kLargestChecked; ++size) {
         if (LegibilityFault(family, size, separators).isEmpty())
             sizes.append(size);
     }

@@ -8,17 +8,17 @@
 namespace ClockTool {
 
 /// Larger sizes are legible in every usable font and are not checked.
-constexpr int kLargestLookedAt = 60; // points
+constexpr int kLargestChecked = 60; // points
 
 /// What is wrong with the digits of a family at a size, to follow "at 8 points" in a sentence;
 /// empty if nothing is. `separators` are the other characters of the strip, such as ":".
 QString LegibilityFault(const QString &family, int points, const QString &separators);
 
-/// The nearest size up to kLargestLookedAt at which nothing is wrong, the larger of two; 0 where
+/// The nearest size up to kLargestChecked at which nothing is wrong, the larger of two; 0 where
 /// there is none.
 int NearestLegibleSize(const QString &family, int points, const QString &separators);
 
-/// All sizes from 1 to kLargestLookedAt at which nothing is wrong.
+/// All sizes from 1 to kLargestChecked at which nothing is wrong.
 QVector<int> LegibleSizes(const QString &family, const QString &separators);
 
 } // namespace ClockTool
