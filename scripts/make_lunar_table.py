@@ -49,7 +49,7 @@ def sun_longitude(instant):
 
 
 def major_terms(first_year, last_year):
-    """Days on which the sun's longitude reaches a multiple of 30 degrees, with that multiple."""
+    """The days on which the sun reaches a multiple of 30 degrees of longitude, and the multiples."""
     terms = []
     instant = ephem.Date((first_year, 1, 1))
     while instant < ephem.Date((last_year + 1, 1, 1)):
@@ -63,12 +63,12 @@ def major_terms(first_year, last_year):
 
 
 def index_of_month(moons, day):
-    """The index of the month that contains a day."""
+    """The index of the month that contains the day."""
     return max(i for i, first in enumerate(moons) if first <= day)
 
 
 def months_of_solstice_year(moons, terms, begin, end, year):
-    """Months from the one that holds a winter solstice up to the one that holds the next."""
+    """The months from one with a winter solstice up to, but not including, the next such month."""
     numbers = [11, 12, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10]
     leap_is_due = end - begin == 13
     position = -1

@@ -5,8 +5,8 @@ Run by hand (Debian: python3-ephem); neither the build nor the tests run it:
 
     /usr/bin/python3 scripts/make_nowruz_table.py > tests/calendar/nowruz.csv
 
-The year begins on the day of the March equinox where that falls before noon at UTC+3:30, and on
-the day after it otherwise.
+The year begins on the day of the March equinox if that is before noon at UTC+3:30, otherwise on the
+next day.
 """
 
 import datetime

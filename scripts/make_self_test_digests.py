@@ -5,9 +5,9 @@ Run by hand from the top of the tree; neither the build nor the tests run it:
 
     scripts/make_self_test_digests.py > tools/self_test/calendar_digests.h
 
-The dates come from tests/calendar/lunar_months.csv and nowruz.csv, which are computed from the sky,
-with the days on which the clock is known to differ (docs/calendars.md) put in by hand below. No
-output of the clock goes into them.
+The dates come from tests/calendar/lunar_months.csv and nowruz.csv, which are computed
+astronomically. The days on which the clock differs (docs/calendars.md) are corrected by hand below,
+without using the clock's output.
 """
 
 import csv
@@ -29,7 +29,7 @@ LUNAR_EXCEPTIONS = [
     ("2033-11-22", 30, 10, 1),
     ("2033-12-22", 29, 11, 1),
 ]
-# Years that the clock begins a day before the equinox does.
+# Years that begin a day earlier on the clock.
 PERSIAN_EXCEPTIONS = {1404, 1437}
 
 

@@ -4,9 +4,8 @@
     outline_text.py FONT HEIGHT TEXT...
 
 Each TEXT becomes one <path>, named n1, n2 and so on, with y downwards. The paths share one scale:
-HEIGHT is the height of the bounding box of all texts. They share one centre line, at y = 0,
-so that a row of them stands on one baseline; each is centred by itself on x = 0, ink and not
-advance width.
+HEIGHT is the height of the bounding box of all texts, whose vertical centre is y = 0, so that a
+row of texts has one baseline. The ink of each text is centred on x = 0.
 Needs python3-fonttools.
 """
 

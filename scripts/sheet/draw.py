@@ -1,4 +1,4 @@
-"""Plays the contact sheet's programs and puts their frames together. See scripts/contact-sheet."""
+"""Plays the contact sheet's programs and stacks their frames. See scripts/contact-sheet."""
 import pathlib
 import subprocess
 import sys
@@ -11,7 +11,7 @@ EXAMPLES = pathlib.Path(__file__).parents[2] / "examples"
 
 
 def second_frame(player, program, language, instant, *size):
-    """The texts of a dial appear in the frame after the dial's first."""
+    """A dial shows its texts from its second frame on."""
     with tempfile.TemporaryDirectory() as directory:
         subprocess.run(
             [player, program, "--output", directory, "--frames", "2", *size]

@@ -1,4 +1,4 @@
-"""What the contact sheet shows."""
+"""The samples on the contact sheet."""
 from wall import AMBER, BLUE, CHINESE, GOLD, GREEN, LATIN, RED, WHITE
 from wall import Wall, analog, digital, picture, points
 

@@ -1,7 +1,7 @@
 """Stacks PNG pictures of the same width without decoding pixels.
 
 Each row of a PNG picture is stored as differences to the row above it, which is black above the
-first row. So the packed rows of pictures that end in a black row can follow one another.
+first row. Packed rows of pictures that end in a black row can therefore be concatenated.
 """
 import struct
 import zlib
@@ -33,7 +33,7 @@ def read(data):
 
 
 def joined(pictures):
-    """One PNG picture of several: same width and pixel format, last rows black."""
+    """One PNG picture from several of the same width and pixel format, whose last rows are black."""
     read_pictures = [read(picture) for picture in pictures]
     width, _, pixel_format, _ = read_pictures[0]
     if any((each[0], each[2]) != (width, pixel_format) for each in read_pictures):

@@ -1,6 +1,6 @@
-"""A content program that is laid out like a page: headings, and samples in rows, each with a label.
+"""A content program laid out like a page: headings, and rows of samples with labels.
 
-Headings and labels are clocks too, of which only the top text is shown.
+Headings and labels are clocks that show only their top text.
 """
 import xml.etree.ElementTree as ElementTree
 
@@ -19,7 +19,7 @@ AMBER, BLUE, GREEN, RED, GOLD = "#ffb000", "#60c0ff", "#60ff60", "#ff4040", "#ff
 
 
 def colour(name):
-    """#rrggbb as clocks keep it: red in the lowest byte."""
+    """#rrggbb as clocks store it, with red in the lowest byte."""
     red, green, blue = (int(name[i : i + 2], 16) for i in (1, 3, 5))
     return red | green << 8 | blue << 16
 
@@ -30,7 +30,7 @@ def points(name, family, size, ink):
 
 
 def analog(**settings):
-    """A dial without texts; the keys of attributes say what is different."""
+    """A dial without texts, changed by the attributes."""
     return {
         "ClockType": ANALOG,
         "HourHandColor": colour(AMBER),
@@ -56,7 +56,7 @@ def analog(**settings):
 
 
 def digital(**settings):
-    """A digital clock that shows nothing; the keys of attributes say what it shows."""
+    """A digital clock that shows only what the attributes switch on."""
     return {
         "ClockType": DIGITAL,
         "Digital_TopTexy_d": 0,
@@ -85,7 +85,7 @@ def text(words, size, ink, family=LATIN):
 
 
 class Wall:
-    """Areas from top to bottom, in the language and from the instant that they are played in."""
+    """Areas from top to bottom, and the language and instant at which they are played."""
 
     def __init__(self, language, instant):
         self.language = language
