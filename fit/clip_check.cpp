@@ -1,4 +1,4 @@
-#include "clip_check.h"
+#include "clock_checks.h"
 
 #include "worst_case.h"
 

@@ -1,5 +1,5 @@
 // fit/: checks one clock over a year for parts that are cut off at the edges of its visible area or
-// drawn over other parts.
+// of their images, or drawn over other parts.
 #pragma once
 
 #include "clock_year.h"
@@ -7,10 +7,13 @@
 
 namespace ClockFit {
 
-// Moment::text is left empty; the caller fills it in.
+// Of cuts and overlaps, Moment::text is left empty; the caller fills it in.
 
 /// `visible` is in pixels from the area's top left.
 QVector<Cut> CutsOf(ClockYear &clock, const QRect &visible);
+
+/// Ink beyond the edges of the clock's own images.
+QVector<Clipped> ClippedOf(ClockYear &clock, Lw::HNodeClock::HClockNode &node, GlyphImages &images);
 
 QVector<Overlap> OverlapsOf(ClockYear &clock);
 

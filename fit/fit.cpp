@@ -1,6 +1,5 @@
 #include "fit.h"
 
-#include "clip_check.h"
 #include "clock_checks.h"
 #include "clock_parts.h"
 #include "clock_year.h"

@@ -2,7 +2,7 @@
 #include "clock_finder.h"
 #include "command_support.h"
 #include "commands.h"
-#include "lint/finding_json.h"
+#include "lint/finding.h"
 #include "lint/fit_lint.h"
 #include "lint/glyph_lint.h"
 #include "lint/program_lint.h"

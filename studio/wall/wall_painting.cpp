@@ -1,7 +1,5 @@
 #include "wall_painting.h"
 
-#include "view_colours.h"
-
 #include <QPainter>
 
 namespace ClockStudio {

@@ -1,6 +1,5 @@
 #include "wall_view.h"
 
-#include "view_colours.h"
 #include "wall_painting.h"
 
 #include <QAccessible>

@@ -1,6 +1,8 @@
 #include "finding.h"
 
 #include <QDomElement>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <tuple>
@@ -10,6 +12,22 @@ namespace ClockTool {
 Place At(const QDomElement &element, const QString &attribute)
 {
     return {element.lineNumber(), element.tagName(), attribute, 0};
+}
+
+QByteArray FindingJson(const Finding &finding, const QString &file)
+{
+    const bool isNote = finding.severity == Severity::Note;
+    const QJsonObject object = {
+        {QStringLiteral("file"), file},
+        {QStringLiteral("line"), finding.place.line},
+        {QStringLiteral("clock"), finding.place.clock},
+        {QStringLiteral("element"), finding.place.element},
+        {QStringLiteral("attribute"), finding.place.attribute},
+        {QStringLiteral("severity"), isNote ? QStringLiteral("note") : QStringLiteral("warning")},
+        {QStringLiteral("text"), finding.text},
+        {QStringLiteral("suggestion"), finding.suggestion},
+    };
+    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
 void Findings::Warn(const Place &place, const QString &text, const QString &suggestion)

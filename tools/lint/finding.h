@@ -1,6 +1,7 @@
 // lint/: findings of a check of a program.
 #pragma once
 
+#include <QByteArray>
 #include <QSet>
 #include <QString>
 #include <QVector>
@@ -35,6 +36,9 @@ struct Finding
     QString suggestion; ///< what to write instead of the attribute's value, or of the name where
                         ///< that is what is wrong; empty for none
 };
+
+/// One JSON object on one line, with a newline; docs/fit.md lists the keys.
+QByteArray FindingJson(const Finding &finding, const QString &file);
 
 class Findings
 {
