@@ -33,11 +33,11 @@ class TestSheet : public QObject
 
 private slots:
     void initTestCase() { QVERIFY(ClockCatalogues::Install("en")); }
-    void saysWhatIsShown();
-    void textsAreNotMarkup();
+    void SaysWhatIsShown();
+    void TextsAreNotMarkup();
 };
 
-void TestSheet::saysWhatIsShown()
+void TestSheet::SaysWhatIsShown()
 {
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();
@@ -57,7 +57,7 @@ void TestSheet::saysWhatIsShown()
         QVERIFY2(!second.contains(QLatin1String(hidden)), hidden);
 }
 
-void TestSheet::textsAreNotMarkup()
+void TestSheet::TextsAreNotMarkup()
 {
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();

@@ -85,15 +85,15 @@ class TestTextSizes : public QObject
 
 private slots:
     void initTestCase() { QVERIFY(ClockCatalogues::Install("en")); }
-    void shownTextIsNotCut();
-    void shownTextThatFitsKeepsItsSize();
-    void fittedTextsCanBeRead();
-    void returnEndsTyping();
-    void picturesDiffer_data();
-    void picturesDiffer();
+    void ShownTextIsNotCut();
+    void ShownTextThatFitsKeepsItsSize();
+    void FittedTextsCanBeRead();
+    void ReturnEndsTyping();
+    void PicturesDiffer_data();
+    void PicturesDiffer();
 };
 
-void TestTextSizes::shownTextIsNotCut()
+void TestTextSizes::ShownTextIsNotCut()
 {
     SizesUnderTest test(Clock("false", 12));
     const QByteArray bytes = *test.studio.document.Bytes();
@@ -108,7 +108,7 @@ void TestTextSizes::shownTextIsNotCut()
     QCOMPARE(*test.studio.document.Bytes(), bytes);
 }
 
-void TestTextSizes::shownTextThatFitsKeepsItsSize()
+void TestTextSizes::ShownTextThatFitsKeepsItsSize()
 {
     SizesUnderTest test(Clock("false", 12));
     test.Show(Attribute::Digital_TopTexy_d);
@@ -117,7 +117,7 @@ void TestTextSizes::shownTextThatFitsKeepsItsSize()
     QCOMPARE(test.Number(Attribute::DigitalTimeFSize), 12);
 }
 
-void TestTextSizes::fittedTextsCanBeRead()
+void TestTextSizes::FittedTextsCanBeRead()
 {
     SizesUnderTest test(Clock("true", 60)); // more than twice what fits
     QVERIFY(InkWidth("00:00", 30) > 96);
@@ -129,7 +129,7 @@ void TestTextSizes::fittedTextsCanBeRead()
 }
 
 /// So that the wall can have the keys.
-void TestTextSizes::returnEndsTyping()
+void TestTextSizes::ReturnEndsTyping()
 {
     SizesUnderTest test(Clock("true", 12));
     QSignalSpy finished(&test.panel, &PropertyPanel::Finished);
@@ -149,7 +149,7 @@ void TestTextSizes::returnEndsTyping()
     QTRY_COMPARE(finished.count(), 2);
 }
 
-void TestTextSizes::picturesDiffer_data()
+void TestTextSizes::PicturesDiffer_data()
 {
     QTest::addColumn<int>("attribute");
     QTest::newRow("hours of the day") << int(Attribute::DigitalMode);
@@ -160,7 +160,7 @@ void TestTextSizes::picturesDiffer_data()
     QTest::newRow("hour marks") << int(Attribute::HourScaleType);
 }
 
-void TestTextSizes::picturesDiffer()
+void TestTextSizes::PicturesDiffer()
 {
     QFETCH(int, attribute);
     const LiveWall wall; // which has the files of the pictures
