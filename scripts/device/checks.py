@@ -74,7 +74,8 @@ class Checks:
 
     def put(self, machine, program):
         """Replaces the program as one should, in one step."""
-        machine.run(f"cp /{program} {self.PROGRAM}.new && mv {self.PROGRAM}.new {self.PROGRAM}")
+        machine.run(f"cp /{program} {self.PROGRAM}.new && "
+                    f"mv -f {self.PROGRAM}.new {self.PROGRAM}")
 
     def ended(self, machine, screen, command, what, dark_seconds=DARK_SECONDS):
         """The screen becomes dark, and right again after one restart."""

@@ -15,7 +15,8 @@ SPOILT = {"directory": f"mkdir {PROGRAM}",
 
 
 class SpoiltChecks(ShortChecks):
-    CHECKS = dict.fromkeys(["spoilt", "spoilt_at_start", "full_disk"], {})
+    # In this order: the others leave glyph images that a full disk would have no room for.
+    CHECKS = dict.fromkeys(["full_disk", "spoilt", "spoilt_at_start"], {})
 
     def spoilt(self, machine, screen):
         """Whatever the program is replaced by, the screen goes on to show the last good one."""
@@ -63,7 +64,7 @@ class SpoiltChecks(ShortChecks):
         machine.run("/bin/date -s '2024-03-06 23:59:57'; sleep 4")
         screen.await_right(FIRST)
         self.kill(machine, screen)
-        machine.run(f"ln -s /{OTHER} {PROGRAM}.new && mv {PROGRAM}.new {PROGRAM}")
+        machine.run(f"ln -s /{OTHER} {PROGRAM}.new && mv -f {PROGRAM}.new {PROGRAM}")
         screen.await_notice("G1")
         machine.run("rm /run/filler /run/more")
         screen.await_right(OTHER)
