@@ -10,7 +10,7 @@ namespace ClockStudio {
 namespace {
 
 constexpr int kDigestLength = 64;   // of SHA-256 in hexadecimal digits
-constexpr int kOutdatedAfter = 180; // seconds; players write their fields each minute
+constexpr int kOutdatedAfter = 180; // seconds; players write their status each minute
 
 QString Translated(const char *text)
 {
