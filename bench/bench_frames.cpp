@@ -39,12 +39,14 @@ QDateTime Shown()
     return QDateTime::fromMSecsSinceEpoch(Lw::HNodeClock::UtcMilliseconds(), Qt::UTC);
 }
 
+constexpr int kFirstSeconds = 61; // a minute, in which each position of the second hand is kept
+
 // The player keeps the frame that it shows until it is given the next one.
 template<typename Frame>
 void PlayFrames(benchmark::State &state, bench::SteppedTime &time, Frame frame)
 {
     QImage shown;
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < kFirstSeconds; ++i) {
         shown = frame();
         time.Step();
     }

@@ -95,6 +95,7 @@ std::vector<std::unique_ptr<Lw::HNodeClock::HClockNode>> NodesAlike(const benchm
 void GlyphGenerationAlike(benchmark::State &state)
 {
     const auto nodes = NodesAlike(state);
+    const bench::CountsPerIteration counts(state);
     for (auto _ : state) {
         state.PauseTiming();
         EmptyOutput();
@@ -115,6 +116,7 @@ void GlyphFilesCreated(benchmark::State &state)
         for (const Lw::FileRecord &record : node->FileRecords())
             files.append({record.path, ReadSmallFile(record.path)});
     }
+    const bench::CountsPerIteration counts(state);
     for (auto _ : state) {
         state.PauseTiming();
         EmptyOutput();

@@ -1,6 +1,7 @@
 // Many clocks at once, and what one keeps in memory.
 #include "bench_support.h"
 
+#include "calendar/time_units.h"
 #include "display/draw_display_image.h"
 
 #include <QImage>
@@ -69,7 +70,7 @@ void Memory(benchmark::State &state)
     }
 }
 
-// By how much the heap grows from the thousandth frame to the last.
+// By how much the heap grows after the first day, in which each position of a hand is drawn.
 void Growth(benchmark::State &state)
 {
     const auto node = bench::NewNode(static_cast<int>(state.range(0)), kArea, kPoints);
@@ -79,7 +80,7 @@ void Growth(benchmark::State &state)
         PlayedClock clock(node.get());
         long long before = 0;
         for (long long frame = 0; frame < state.range(1); ++frame) {
-            if (frame == 1000)
+            if (frame == Lw::HNodeClock::kSecondsPerDay)
                 before = HeapInUse();
             time.Step();
             clock.Play();

@@ -1,7 +1,6 @@
 """Builds the images of a small controller and tests them in the emulator."""
 
 import argparse
-import subprocess
 import sys
 from itertools import groupby
 from pathlib import Path

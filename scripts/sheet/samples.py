@@ -1,5 +1,5 @@
 """The samples on the contact sheet."""
-from wall import AMBER, BLUE, CHINESE, GOLD, GREEN, LATIN, RED, WHITE
+from wall import AMBER, BLUE, CHINESE, GREEN, LATIN, WHITE
 from wall import Wall, analog, digital, picture, points
 
 # At this time the hands do not cover the texts, and the hour differs in the 12-hour form.
