@@ -1,8 +1,8 @@
 // calendar/: the Chinese lunar calendar of the years 1900 to 2050, looked up in a table of month
 // lengths. Pure.
 //
-// The table is fixed and differs from the calendar in three years (calendar_deviations): in 1933 and
-// 1996 some dates are one day ahead; 2033 has a leap month 7 instead of a leap month 11.
+// The table is fixed and differs from the calendar in three years (calendar_deviations): in 1933
+// and 1996 some dates are one day ahead; 2033 has a leap month 7 instead of a leap month 11.
 #pragma once
 
 #include <QDate>
