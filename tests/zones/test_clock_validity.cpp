@@ -1,22 +1,13 @@
 // Until when clocks are right: rules by the zones' announced changes, dates by the known deviations
 // of the calendars.
 #include "clock_validity.h"
+#include "zone_times.h"
 
-#include <QDateTime>
 #include <QTest>
 
 using namespace ClockZones;
 
 namespace {
-
-constexpr int kHour = 3600;
-
-qint64 At(const char *iso)
-{
-    QDateTime utc = QDateTime::fromString(QString::fromLatin1(iso), Qt::ISODate);
-    utc.setTimeSpec(Qt::UTC);
-    return utc.toMSecsSinceEpoch();
-}
 
 ZoneSettings Zone(int offset, const char *start = "", const char *end = "")
 {

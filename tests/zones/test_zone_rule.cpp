@@ -1,7 +1,7 @@
 // A clock's settings for zones that are given as numbers.
 #include "zone_rule.h"
+#include "zone_times.h"
 
-#include <QDateTime>
 #include <QTest>
 
 Q_DECLARE_METATYPE(ClockZones::CivilTime)
@@ -10,15 +10,6 @@ Q_DECLARE_METATYPE(ClockZones::ZoneSettings)
 using namespace ClockZones;
 
 namespace {
-
-constexpr int kHour = 3600;
-
-qint64 At(const char *iso)
-{
-    QDateTime utc = QDateTime::fromString(QString::fromLatin1(iso), Qt::ISODate);
-    utc.setTimeSpec(Qt::UTC);
-    return utc.toMSecsSinceEpoch();
-}
 
 struct Change
 {

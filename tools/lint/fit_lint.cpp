@@ -97,7 +97,7 @@ private:
         }
     }
 
-    // Of most fonts the "T" and the "/" begin a pixel before their images; nobody sees it.
+    // In most fonts "T" and "/" begin one pixel outside their image, which is not visible.
     void TellClipped(const QVector<Clipped> &all, const QRect &visible)
     {
         for (const Clipped &clipped : all) {
