@@ -1,10 +1,8 @@
 #include "clock_lint.h"
 
 #include "clock_words.h"
-#include "kind_check.h"
 #include "suggestion.h"
 #include "value_checks.h"
-#include "whole_clock.h"
 
 #include "clock_node.h"
 #include "glyph/glyph_set.h"

@@ -9,6 +9,10 @@
 
 #include <optional>
 
+namespace Lw::HNodeClock {
+class HClockNode;
+}
+
 namespace ClockTool {
 
 /// Warns about every word and value that the clock ignores or misreads, about carried
@@ -17,5 +21,22 @@ void LintClock(const QDomElement &clock, ClockProgram::CarriedFiles &files, Find
 
 /// The Id that the program gives the clock, if any.
 std::optional<int> GivenId(const QDomElement &clock);
+
+// Steps of LintClock(), in kind_check.cpp and whole_clock.cpp.
+
+/// The kind that a misspelt type was probably meant to name, by which the children are checked; -1
+/// where it is near none.
+int MeantKind(const QDomElement &clock);
+
+/// Reports a kind that does not exist.
+void LintUnreadKind(const QDomElement &clock, Findings &findings);
+
+/// The kind by which an element is read, and that which its "attribute" children leave the clock
+/// with.
+void LintKinds(const QDomElement &clock, int readKind, int shownKind, Findings &findings);
+
+/// Warns about settings that are valid individually but wrong together. The node has been set from
+/// the element and its "attribute" children.
+void LintWhole(const QDomElement &clock, Lw::HNodeClock::HClockNode &node, Findings &findings);
 
 } // namespace ClockTool

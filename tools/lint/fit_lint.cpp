@@ -1,6 +1,7 @@
-#include "fit_lint.h"
-
+// lint/: reports which parts of a program's clocks are cut, covered, invisible or missing from
+// their font within a year.
 #include "fit_words.h"
+#include "program_lint.h"
 #include "setting_place.h"
 
 #include "clock_node.h"

@@ -1,4 +1,6 @@
-#include "glyph_lint.h"
+// lint/: reports clocks whose glyph images are too many pixels to be made quickly or kept in
+// memory.
+#include "program_lint.h"
 
 #include "carried_files.h"
 #include "clock_node.h"

@@ -1,12 +1,10 @@
-#include "kind_check.h"
-
+// lint/: reports kinds of clocks that cannot be read, or that contradict each other.
+#include "clock_lint.h"
 #include "suggestion.h"
 
 #include "clock_attributes.h"
 #include "clock_sdk_tables.h"
 #include "program_file.h"
-
-#include <QDomElement>
 
 namespace ClockTool {
 

@@ -6,7 +6,6 @@
 
 #include "clock_sdk_tables.h"
 #include "node_keys.h"
-#include "program_file.h"
 
 #include <QHash>
 

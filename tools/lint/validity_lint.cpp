@@ -1,4 +1,5 @@
-#include "validity_lint.h"
+// lint/: reports clocks that are wrong, or will be: by their daylight-saving rules or calendars.
+#include "program_lint.h"
 
 #include "clock_terms.h"
 

@@ -1,5 +1,5 @@
-#include "whole_clock.h"
-
+// lint/: checks the settings of a clock in combination.
+#include "clock_lint.h"
 #include "legibility/legible_sizes.h"
 #include "setting_place.h"
 #include "suggestion.h"
