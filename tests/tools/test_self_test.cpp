@@ -1,9 +1,8 @@
 // The self-test's frames drawn by the plain renderers, and the command as a process.
 #include "plain_clocks.h"
 #include "plain_digital.h"
-#include "self_test/blot_glyphs.h"
 #include "self_test/checks.h"
-#include "self_test/frame_digests.h"
+#include "self_test/frame_checks.h"
 #include "tool_process.h"
 
 #include "calendar/device_clock.h"

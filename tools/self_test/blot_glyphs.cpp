@@ -1,9 +1,9 @@
-#include "blot_glyphs.h"
+// self_test/: the clock whose glyph images are generated patterns.
+#include "frame_checks.h"
 
 #include "glyph/glyph_set.h"
 
 #include <QDateTime>
-#include <QImage>
 
 namespace ClockTool {
 

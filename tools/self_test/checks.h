@@ -1,7 +1,6 @@
 // self_test/: the checks of clock_tool self-test.
 #pragma once
 
-#include <QImage>
 #include <QString>
 #include <QVector>
 
@@ -27,8 +26,5 @@ QVector<CheckResult> CheckDaylightSaving();
 /// is smoothed, so that the frames are the same on every machine. They are written to the
 /// directory and read by the clocks from there; without a directory the frames fail.
 QVector<CheckResult> CheckFrames(const QString &directory);
-
-/// SHA-256 of a picture's size and of the red, green and blue of its pixels, row by row.
-QByteArray PictureDigest(const QImage &picture);
 
 } // namespace ClockTool

@@ -1,6 +1,6 @@
-#include "blot_glyphs.h"
+#include "frame_checks.h"
+
 #include "checks.h"
-#include "frame_digests.h"
 
 #include "calendar/device_clock.h"
 #include "display/draw_display_image.h"
