@@ -4,7 +4,6 @@
 #include "output.h"
 #include "setting_edits.h"
 #include "tool_arguments.h"
-#include "year_option.h"
 
 #include "fit.h"
 #include "wall_check.h"
@@ -148,13 +147,13 @@ CommandResult RunFit(const QStringList &arguments)
     tool.AddOutput();
     tool.AddLanguage();
     tool.AddLargeFrames();
-    YearOption::Add(tool);
+    tool.AddYear();
     tool.AddFlag(kGrow, QStringLiteral("Also enlarge clocks that fit, as far as they still fit."));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
     if (const MaybeFailure failure = tool.InstallLanguage())
         return Report(*failure);
-    const Result<qint64> begin = YearOption::Read(tool);
+    const Result<qint64> begin = tool.YearBegin();
     if (!begin)
         return Report(begin.Error());
     return Fit(tool, *begin);

@@ -5,7 +5,6 @@
 #include "output.h"
 #include "whole_file.h"
 #include "work_directory.h"
-#include "xml_writing.h"
 
 #include "clock_sdk_tables.h"
 #include "compose/glyph_bounds.h"

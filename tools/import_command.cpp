@@ -4,7 +4,6 @@
 #include "lint/clock_words.h"
 #include "output.h"
 #include "tool_arguments.h"
-#include "xml_writing.h"
 
 #include "clock_sdk_tables.h"
 #include "command_support.h"

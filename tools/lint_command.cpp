@@ -6,7 +6,6 @@
 #include "lint/program_lint.h"
 #include "tool_arguments.h"
 #include "xml_document.h"
-#include "year_option.h"
 
 #include "hnode.h"
 
@@ -117,7 +116,7 @@ Result<Choices> ReadChoices(const ToolArguments &tool)
     if (format != QLatin1String("text") && format != QLatin1String("json"))
         return ClockProgram::UsageFailure(
             QStringLiteral("unknown format \"%1\"; accepted: text, json").arg(format));
-    const Result<qint64> begin = YearOption::Read(tool);
+    const Result<qint64> begin = tool.YearBegin();
     if (!begin)
         return begin.Error();
     Choices choices;
@@ -136,7 +135,7 @@ CommandResult RunLint(const QStringList &arguments)
     tool.AddPositional(QStringLiteral("PROGRAM.xml..."), QStringLiteral("The programs to check."));
     tool.AddLanguage();
     tool.AddLargeFrames();
-    YearOption::Add(tool);
+    tool.AddYear();
     tool.AddFlag(kNoFit, QStringLiteral("Skip the check of what the clocks show in a year."));
     tool.AddOption({kFormat}, QStringLiteral("Output format of the findings: text or json."),
                    QStringLiteral("format"), QStringLiteral("text"));

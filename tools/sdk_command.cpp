@@ -4,7 +4,6 @@
 #include "glyph/glyph_set.h"
 #include "output.h"
 #include "tool_arguments.h"
-#include "xml_writing.h"
 
 #include <QDomDocument>
 

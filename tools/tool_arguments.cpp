@@ -1,8 +1,11 @@
 #include "tool_arguments.h"
 
+#include "output.h"
+
+#include "calendar/system_time.h"
 #include "catalogues.h"
 #include "command_support.h"
-#include "output.h"
+#include "instant.h"
 
 namespace ClockTool {
 
@@ -11,6 +14,7 @@ namespace {
 using namespace ClockProgram;
 
 const QLatin1String kMore("...");
+const QLatin1String kAt("at");
 
 } // namespace
 
@@ -54,6 +58,26 @@ void ToolArguments::AddOutput()
 void ToolArguments::AddLanguage()
 {
     AddLanguageOption(m_parser);
+}
+
+void ToolArguments::AddYear()
+{
+    AddOption({kAt},
+              QStringLiteral("Start of the year to check, ISO 8601, UTC unless an offset is "
+                             "given (default: now)."),
+              QStringLiteral("instant"));
+}
+
+Result<qint64> ToolArguments::YearBegin() const
+{
+    if (!IsSet(kAt))
+        return Lw::HNodeClock::SystemMilliseconds();
+    const std::optional<qint64> instant = ClockStage::ParseInstant(Value(kAt));
+    if (!instant)
+        return UsageFailure(
+            QStringLiteral("--at needs an instant such as 2026-09-01T12:00:00Z, not \"%1\"")
+                .arg(Value(kAt)));
+    return *instant;
 }
 
 void ToolArguments::AddLargeFrames()

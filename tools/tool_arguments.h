@@ -27,6 +27,7 @@ public:
     void AddFlag(const QString &name, const QString &description); ///< an option without a value
     void AddOutput();                                              ///< -o FILE
     void AddLanguage();    ///< --language, for commands that make glyph images
+    void AddYear();        ///< --at, for commands that check a year
     void AddLargeFrames(); ///< --large-frames, for commands that draw a program's clocks
 
     /// Parses the arguments, which start with "clock_tool NAME". Returns an exit code if nothing
@@ -39,6 +40,9 @@ public:
     bool IsSet(const QString &option) const { return m_parser.isSet(option); }
     QString Output() const; ///< empty: standard output
     bool AllowsLargeFrames() const;
+    /// The start of the year to check in UTC milliseconds; now without the option. Fails if the
+    /// value is not an instant.
+    Result<qint64> YearBegin() const;
 
     /// Installs the language's catalogue; a failure where there is none.
     MaybeFailure InstallLanguage() const;
