@@ -1,6 +1,5 @@
+// fit/: checks which texts lose ink at the edges of their own images.
 #include "clock_checks.h"
-
-#include "worst_case.h"
 
 #include "display/analog_geometry.h"
 

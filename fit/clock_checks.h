@@ -1,5 +1,5 @@
-// fit/: checks one clock over a year for parts that are cut off at the edges of its visible area or
-// of their images, or drawn over other parts.
+// fit/: checks one clock for parts that are cut off at the edges of its visible area or of their
+// images, drawn over other parts, hard to see, or left out of a small dial.
 #pragma once
 
 #include "clock_year.h"
@@ -7,7 +7,8 @@
 
 namespace ClockFit {
 
-// Of cuts and overlaps, Moment::text is left empty; the caller fills it in.
+// Over a year: cut_check.cpp, clip_check.cpp and overlap_check.cpp. Of cuts and overlaps,
+// Moment::text is left empty; the caller fills it in.
 
 /// `visible` is in pixels from the area's top left.
 QVector<Cut> CutsOf(ClockYear &clock, const QRect &visible);
@@ -16,5 +17,17 @@ QVector<Cut> CutsOf(ClockYear &clock, const QRect &visible);
 QVector<Clipped> ClippedOf(ClockYear &clock, Lw::HNodeClock::HClockNode &node, GlyphImages &images);
 
 QVector<Overlap> OverlapsOf(ClockYear &clock);
+
+// On any day: visibility.cpp.
+
+/// The contrast ratio of two colours as WCAG 2.1 defines it: from 1 to 21, in either order.
+double ContrastOf(QRgb one, QRgb other);
+
+/// Parts with a lower contrast are reported.
+inline constexpr double kFaintContrast = 3;
+
+QVector<Faint> FaintParts(Lw::HNodeClock::HClockNode &node, QRgb background);
+QVector<SameHands> SameHandsOf(Lw::HNodeClock::HClockNode &node);
+QVector<LostMarks> LostMarksOf(Lw::HNodeClock::HClockNode &node);
 
 } // namespace ClockFit

@@ -1,3 +1,4 @@
+// fit/: checks which parts of a clock are cut off at the edges of its visible area.
 #include "clock_checks.h"
 
 #include <algorithm>

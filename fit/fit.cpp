@@ -4,7 +4,6 @@
 #include "clock_parts.h"
 #include "clock_year.h"
 #include "font_check.h"
-#include "visibility.h"
 
 namespace ClockFit {
 

@@ -1,3 +1,4 @@
+// fit/: checks which parts of a clock are drawn over other parts.
 #include "clock_checks.h"
 
 #include <map>

@@ -1,5 +1,6 @@
-#include "visibility.h"
-
+// fit/: checks the contrast of a clock's parts against their background, and whether a dial is
+// large enough for its marks.
+#include "clock_checks.h"
 #include "clock_parts.h"
 
 #include "display/analog_geometry.h"

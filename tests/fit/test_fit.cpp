@@ -1,7 +1,7 @@
 // The parts of a check: ink, days, contrast, and findings that are known beforehand.
+#include "clock_checks.h"
 #include "clock_under_test.h"
 #include "ink_mask.h"
-#include "visibility.h"
 #include "wall_check.h"
 #include "year_stretches.h"
 
