@@ -1,4 +1,5 @@
-#include "xml_scan.h"
+// program/: scans the text of an XML file before it is parsed.
+#include "xml_document.h"
 
 #include <QVector>
 
