@@ -3,7 +3,7 @@
 #include "clock_node.h"
 
 #include "glyph/draw_source_image.h"
-#include "glyph/glyph_move.h"
+#include "glyph/glyph_file.h"
 #include "glyph/glyph_set.h"
 #include "glyph/hmd5.h"
 

@@ -2,7 +2,6 @@
 
 #include "clock_node.h"
 #include "glyph/draw_source_image.h"
-#include "glyph/shown_glyphs.h"
 
 #include <algorithm>
 

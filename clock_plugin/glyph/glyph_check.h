@@ -1,5 +1,5 @@
-// glyph/: checks whether the glyph images of a clock show what they should: font, size, ink and
-// writing.
+// glyph/: which glyph images a clock shows, and whether they show what they should: font, size, ink
+// and writing.
 #pragma once
 
 #include "glyph/glyph_drawing.h"
@@ -21,6 +21,10 @@ struct GlyphOutcome
     int error = 0;    ///< errno of writing it, or 0
     GlyphFacts facts; ///< valid if it was drawn
 };
+
+/// Whether the clock ever shows the image with its settings. False for an image that its kind of
+/// clock does not have.
+bool IsShown(const GlyphImage &image, HClockNode &node);
 
 /// What is wrong with a generated image; nullopt if nothing is. For an image that the clock does
 /// not show, only a failure to write it is reported.

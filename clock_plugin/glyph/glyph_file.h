@@ -1,4 +1,4 @@
-// glyph/: reads, compares, writes and removes the files of glyph images.
+// glyph/: reads, compares, writes, moves and removes the files of glyph images.
 #pragma once
 
 #include <QByteArray>
@@ -26,5 +26,11 @@ int WriteImageFile(const QString &path, const QByteArray &bytes, Durability dura
 /// Removes an image file, or a symbolic link in its place (not its target). Anything else of that
 /// name is kept, and so are write-protected files. Fails silently.
 void RemoveImageFile(const QString &path);
+
+/// Moves the image at source to dest, whose file name is `digest`. The source is removed only once
+/// dest has the same bytes; a dest whose content does not match its name is replaced. If source is
+/// a symbolic link, the contents are copied and the link is removed; the file that it names is
+/// kept. Does nothing without a digest: source is then missing or unreadable. Fails silently.
+void MoveToDigestName(const QString &source, const QString &dest, const QString &digest);
 
 } // namespace Lw::HNodeClock

@@ -1,5 +1,5 @@
-#include "glyph/glyph_move.h"
-
+// glyph/: moves a glyph image to a directory under its digest's name.
+#include "glyph/glyph_file.h"
 #include "glyph/hmd5.h"
 
 #include <QDir>

@@ -1,4 +1,7 @@
-#include "glyph/shown_glyphs.h"
+// glyph/: which glyph images a clock shows with its settings. Faults in those of hidden rows and
+// unused formats are not reported, although the label strips also set the height of formats that
+// show no label.
+#include "glyph/glyph_check.h"
 
 #include "clock_node.h"
 

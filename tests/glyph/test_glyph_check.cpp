@@ -4,7 +4,6 @@
 #include "without_privileges.h"
 
 #include "glyph/glyph_check.h"
-#include "glyph/shown_glyphs.h"
 
 #include <QTest>
 
