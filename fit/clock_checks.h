@@ -23,9 +23,7 @@ QVector<Overlap> OverlapsOf(ClockYear &clock);
 /// The contrast ratio of two colours as WCAG 2.1 defines it: from 1 to 21, in either order.
 double ContrastOf(QRgb one, QRgb other);
 
-/// Parts with a lower contrast are reported.
-inline constexpr double kFaintContrast = 3;
-
+/// Parts with a contrast below 3.
 QVector<Faint> FaintParts(Lw::HNodeClock::HClockNode &node, QRgb background);
 QVector<SameHands> SameHandsOf(Lw::HNodeClock::HClockNode &node);
 QVector<LostMarks> LostMarksOf(Lw::HNodeClock::HClockNode &node);

@@ -20,6 +20,8 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
+constexpr double kFaintContrast = 3; // parts with a lower one are reported
+
 double Linear(int channel)
 {
     const double part = channel / 255.0;

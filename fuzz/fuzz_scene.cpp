@@ -53,8 +53,8 @@ QList<Lw::FileRecord> MakeGlyphs(int clockType)
     return node.FileRecords();
 }
 
-} // namespace
-
+/// The images of a clock of that type with its default settings, made at the first call and kept
+/// until the process ends. None for a picture clock.
 const QList<Lw::FileRecord> &PreparedGlyphs(int clockType)
 {
     static const QList<Lw::FileRecord> analog = MakeGlyphs(AnalogClock);
@@ -62,6 +62,8 @@ const QList<Lw::FileRecord> &PreparedGlyphs(int clockType)
     static const QList<Lw::FileRecord> none;
     return clockType == AnalogClock ? analog : clockType == DigitalClock ? digital : none;
 }
+
+} // namespace
 
 void MakeScene(HClockNode &node, int clockType)
 {

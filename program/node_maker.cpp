@@ -12,6 +12,12 @@ namespace ClockProgram {
 
 namespace {
 
+// The words of a program that name a picture clock.
+constexpr char kTypeWord[] = "type";
+constexpr char kPictureWord[] = "picture";
+constexpr char kOlderForm[] = "clockCom";
+constexpr char kOlderTypeWord[] = "clockType";
+
 bool SetsKey(const ProgramArea &area, const QString &key)
 {
     return std::any_of(area.attributes.cbegin(), area.attributes.cend(),

@@ -13,8 +13,7 @@ namespace {
 constexpr int kLongestShown = 60;
 constexpr int kLongestCompared = 64;
 
-} // namespace
-
+/// The Levenshtein distance: letters to insert, remove or replace.
 int EditDistance(const QString &one, const QString &other)
 {
     QVector<int> row(other.size() + 1);
@@ -30,6 +29,8 @@ int EditDistance(const QString &one, const QString &other)
     }
     return row.last();
 }
+
+} // namespace
 
 QString Nearest(const QString &word, const QStringList &candidates)
 {

@@ -6,9 +6,6 @@
 
 namespace ClockTool {
 
-/// The Levenshtein distance: letters to insert, remove or replace.
-int EditDistance(const QString &one, const QString &other);
-
 /// The candidate nearest to a word, ignoring case; empty if none is near enough to be
 /// a typing error.
 QString Nearest(const QString &word, const QStringList &candidates);

@@ -78,8 +78,7 @@ bool IsSeen(uint letter)
         && category != QChar::Other_Format;
 }
 
-} // namespace
-
+/// The distinct characters of a text that no installed font has; boxes are drawn for them.
 QString CharactersWithoutGlyph(const QFontMetrics &metrics, const QString &text)
 {
     QString lacking;
@@ -90,6 +89,8 @@ QString CharactersWithoutGlyph(const QFontMetrics &metrics, const QString &text)
     }
     return lacking;
 }
+
+} // namespace
 
 DrawnGlyph DrawGlyphImage(QPainter &painter, const GlyphContent &content, const QFont &font)
 {

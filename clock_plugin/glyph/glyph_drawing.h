@@ -9,7 +9,6 @@
 
 QT_BEGIN_NAMESPACE
 class QFont;
-class QFontMetrics;
 class QPainter;
 QT_END_NAMESPACE
 
@@ -24,9 +23,6 @@ inline QColor ColourOf(int stored)
     const auto packed = static_cast<LWColor>(stored);
     return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
 }
-
-/// The distinct characters of a text that no installed font has; boxes are drawn for them.
-QString CharactersWithoutGlyph(const QFontMetrics &metrics, const QString &text);
 
 /// Draws and encodes one image. The painter must not be active.
 DrawnGlyph DrawGlyphImage(QPainter &painter, const GlyphContent &content, const QFont &font);
