@@ -28,8 +28,8 @@ bool DrawSeconds(Lw::HNodeClock::DrawDisplayImage &drawer, bench::SteppedTime &t
     return !shown.isNull();
 }
 
-// The environment's length decides where the stack begins. Qt blends buffers of its stack with other
-// instructions if they are not aligned for its vectors, so the stack is aligned here.
+// The environment's length decides where the stack begins. Qt blends buffers of its stack with
+// other instructions if they are not aligned for its vectors, so the stack is aligned here.
 __attribute__((noinline)) bool DrawSteadySeconds(Lw::HNodeClock::DrawDisplayImage &drawer,
                                                  bench::SteppedTime &time, int seconds)
 {
