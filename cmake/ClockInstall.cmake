@@ -77,7 +77,8 @@ function(clock_install)
     install(FILES packaging/clock-player.service
         DESTINATION lib/systemd/system COMPONENT runtime)
     install(DIRECTORY docs/ DESTINATION ${CLOCK_INSTALL_DOC} COMPONENT runtime
-        FILES_MATCHING PATTERN "*.md" PATTERN "program.rng" PATTERN "*.svg" PATTERN "*.cpp")
+        FILES_MATCHING PATTERN "*.md" PATTERN "program.rng" PATTERN "*.svg" PATTERN "*.cpp"
+            REGEX "/examples/CMakeLists\\.txt$")
     clock_install_host()
     if(TARGET clock_studio)
         clock_install_studio()

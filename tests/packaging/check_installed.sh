@@ -65,18 +65,19 @@ compare_frames() {
     diff -r "$work/built" "$work/installed" || fail "the installed player draws other frames"
 }
 
-# block LANGUAGE - the code block of docs/integrating.md in that language, under "A complete program"
-block() {
+# The commands of docs/integrating.md under "A complete program".
+commands() {
     sed -n '/^## A complete program/,/^## /p' "$here/../../docs/integrating.md" |
-        sed -n "/^\`\`\`$1\$/,/^\`\`\`\$/p" | sed '1d;$d'
+        sed -n "/^\`\`\`sh\$/,/^\`\`\`\$/p" | sed '1d;$d'
 }
 
-# As the page says, in an empty folder, with the installed source; then installed elsewhere.
+# As the page says, in an empty folder, with the installed sources; then installed elsewhere.
 build_host() {
     mkdir "$work/host"
-    cp "$prefix/share/doc/clock-player/examples/small_host.cpp" "$work/host"
-    block cmake >"$work/host/CMakeLists.txt"
-    block sh >"$work/host/commands"
+    for file in small_host.cpp CMakeLists.txt; do
+        cp "$prefix/share/doc/clock-player/examples/$file" "$work/host"
+    done
+    commands >"$work/host/commands"
     (cd "$work/host" && quietly env CMAKE_PREFIX_PATH="$prefix" CMAKE_GENERATOR=Ninja sh -e commands)
     grep -q "$prefix/lib/cmake" "$work/host/build/CMakeCache.txt" ||
         fail "another clock-player was found"
