@@ -17,7 +17,7 @@ from spoilt_checks import SpoiltChecks
 
 SIZE = (768, 320)  # of the screen, and of the programs
 CLOCK = "2024-03-05T13:07:30"
-# What is checked, and on which image, which neighbours share.
+# The checks, each with the function that makes their image; neighbours share an image.
 ALL = {ShortChecks: contents.make_small, LongChecks: contents.make_small,
        SpoiltChecks: contents.make_small, ServiceChecks: make_service}
 
@@ -48,13 +48,13 @@ def read_arguments():
                         help="only " + ", ".join(ShortChecks.CHECKS))
     parser.add_argument("--only", action="append", metavar="CHECK", choices=names,
                         help="may be repeated: " + ", ".join(names))
-    parser.add_argument("build", type=Path, help="with the player for 32-bit ARM")
-    parser.add_argument("sysroot", type=Path, help="which it was built with")
+    parser.add_argument("build", type=Path, help="build directory of the player for 32-bit ARM")
+    parser.add_argument("sysroot", type=Path, help="sysroot it was built with")
     return parser.parse_args()
 
 
 def chosen(arguments):
-    """The kinds of checks, each with the names of those to do."""
+    """The classes of checks to do, each with the names of its checks."""
     for kind in [ShortChecks] if arguments.short else ALL:
         names = [name for name in kind.CHECKS if not arguments.only or name in arguments.only]
         if names:
@@ -87,9 +87,9 @@ def main():
     except Failed as failure:
         console = folder / "machine/console.log"
         said = console.read_text(errors="replace")[-2000:] if console.exists() else ""
-        note(f"FAILED: {failure}\nThe device said at last:\n{said}")
+        note(f"FAILED: {failure}\nLast output of the device:\n{said}")
         return 1
-    note("all is well")
+    note("all checks passed")
     return 0
 
 

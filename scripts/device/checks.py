@@ -1,4 +1,4 @@
-"""What the checks of all images have in common, and the checks of the short form."""
+"""What all checks have in common, and the checks of --short."""
 
 import json
 import re
@@ -11,9 +11,9 @@ from machine import Failed
 from screen import SETTLE_SECONDS, Screen
 
 BOOT_SECONDS = 600  # on a busy machine
-# Of the device's clock: after a player was killed, its last frame is not shown for longer.
+# How long the last frame of a killed player may be shown, by the device's clock.
 DARK_SECONDS = 2
-# What differs between two times although nothing piles up.
+# Growth between two measurements that is not a leak.
 MOST_GROWTH = {"kB": 64, "files": 2, "kB of memory free": 3072, "kB of the player": 512}
 
 
@@ -49,11 +49,11 @@ class Checks:
             machine.close()
 
     def restarts(self, machine):
-        """How often the player was restarted."""
+        """How often the player has been restarted."""
         raise NotImplementedError
 
     def log(self, machine):
-        """What the player said at last."""
+        """The player's last messages."""
         raise NotImplementedError
 
     def expect_restarts(self, machine, before, count):
@@ -62,7 +62,7 @@ class Checks:
             raise Failed(f"{counted} restarts instead of {count}:\n{self.log(machine)}")
 
     def status(self, machine):
-        """What the player says about itself."""
+        """The player's status file, rewritten now."""
         machine.run("kill -USR1 $(pidof clock_player); sleep 1")
         return json.loads(machine.run(f"cat {self.STATUS}"))
 
@@ -73,7 +73,7 @@ class Checks:
             raise Failed(f"the notice is {shown}, not {code}")
 
     def put(self, machine, program):
-        """Replaces the program as one should, in one step."""
+        """Replaces the program in one step, as its writers should."""
         machine.run(f"cp /{program} {self.PROGRAM}.new && "
                     f"mv -f {self.PROGRAM}.new {self.PROGRAM}")
 
@@ -86,7 +86,7 @@ class Checks:
         screen.await_dark()
         dark_after = uptime(machine) - since
         if dark_after > dark_seconds:
-            raise Failed(f"{what}: the screen was dark only {dark_after:.1f} s later")
+            raise Failed(f"{what}: the screen took {dark_after:.1f} s to become dark")
         screen.await_right(FIRST)
         self.expect_restarts(machine, before, 1)
         self.note(f"{what}: the screen was dark within {dark_after:.1f} s, then right again")
@@ -102,7 +102,7 @@ class Checks:
         self.note("the program was replaced twice: the screen showed the new one each time")
 
     def restart_often(self, machine, screen):
-        """Nothing piles up."""
+        """Nothing grows over thirty restarts."""
         screen.await_right(FIRST)
         before, first = used(machine), self.restarts(machine)
         for number in range(first, first + 30):
@@ -117,7 +117,7 @@ class Checks:
     def await_restart(self, machine, before):
         end = time.monotonic() + SETTLE_SECONDS
         while self.restarts(machine) == before or not machine.run("pidof clock_player || :"):
-            time.sleep(0.3)  # asking takes the device's time, too
+            time.sleep(0.3)  # asking takes the device's time
             if time.monotonic() > end:
                 raise Failed(f"no restart:\n{self.log(machine)}")
 
@@ -154,8 +154,8 @@ def uptime(machine):
 
 
 def used(machine):
-    """What may pile up: kB and files that were written, without the system's log, which has a limit
-    of its own; kB of memory that are free; kB of the player's memory."""
+    """What could grow: kB and files written, without the system's log, which has its own limit;
+    free memory and the player's memory, in kB."""
     sizes = machine.run("du -kxs /run /tmp /var; [ ! -d /run/log ] || du -ks /run/log")
     kilobytes = [int(line.split()[0]) for line in sizes.split("\n")]
     files = machine.run("find /run /tmp /var -xdev ! -path '/run/log/*' | wc -l")

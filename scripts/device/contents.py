@@ -1,4 +1,4 @@
-"""What the images of a device contain: Debian's packages, the player, and a few lines of their
+"""What the images of a device contain: Debian's packages, the player, and a few files of their
 own."""
 
 import subprocess
@@ -22,10 +22,10 @@ COMMANDS = ["cat", "cp", "dd", "df", "du", "find", "grep", "head", "insmod", "ki
             "setsid", "sh", "sleep", "stty", "syslogd", "truncate", "wc"]
 DATE = "bin/date"  # coreutils' date, as busybox's cannot set times after 2038
 
-# Programs in the image, of which the first is played.
+# Programs in the image. The first one is played.
 FIRST = "usr/share/wall.xml"
 OTHER = "usr/share/other.xml"
-# As large as the sample, so that it covers all of it.
+# As large as the first one, so that it covers all of it.
 OTHER_PROGRAM = """<program width="768" height="320">
   <area x="0" y="0" width="768" height="320">
     <clock type="digital" timezone="+08:00">
@@ -39,7 +39,7 @@ OTHER_PROGRAM = """<program width="768" height="320">
 
 
 def add_player(build, packed):
-    """What is installed where a device plays, and what that needs."""
+    """Adds the installed player, and what it needs at run time."""
     subprocess.run(["cmake", "--install", build, "--prefix", packed.root / "usr", "--strip",
                     "--component", "runtime"], check=True, stdout=subprocess.DEVNULL)
     image.remove(packed.root / "usr/share/doc", packed.root / "usr/share/man")
@@ -54,7 +54,7 @@ def add_player(build, packed):
 
 
 def make_small(build, sources, folder):
-    """The disk of the image whose first process is a script. Gives its folder, and the disk."""
+    """The disk of the image whose first process is a script. Returns its folder and the disk."""
     small = image.Image(sources, image.clean(folder / "small"))
     add_player(build, small)
     small.add_libraries()

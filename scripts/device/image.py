@@ -16,7 +16,7 @@ MODULES = ["virtio_mmio", "virtio_blk", "virtio_dma_buf", "drm", "drm_kms_helper
            "drm_shmem_helper", "squashfs"]
 # One of these is loaded after the others.
 SCREEN_MODULES = ["virtio-gpu", "cirrus"]
-# Where file systems are mounted, and what is written to.
+# Mount points, and folders that are written to.
 FOLDERS = ["dev", "proc", "run", "sys", "tmp", "var/tmp"]
 
 
@@ -62,7 +62,7 @@ class Image:
         raise SystemExit(f"no package has {paths[0]}")
 
     def add_libraries(self):
-        """Every library that something in the image is linked with, and the loader."""
+        """Adds every library that a file of the image is linked with, and the loader."""
         waiting = [file for file in self.root.rglob("*")]
         while waiting:
             for name in needed_libraries(waiting.pop()):
@@ -76,7 +76,7 @@ class Image:
             self.add("lib/ld-linux-armhf.so.3")
 
     def add_busybox(self, commands):
-        """busybox, and links to it with the names of commands."""
+        """Adds busybox, and links to it with the names of commands."""
         self.add("bin/busybox")
         for name in commands:
             self.add_link(f"bin/{name}", "busybox")
@@ -94,7 +94,7 @@ class Image:
 
 
 def pack_initramfs(packed, script, target):
-    """The modules that the screen and the disk need, and a script that mounts the disk."""
+    """Packs the modules that screen and disk need, and a script that mounts the disk."""
     packed.add_busybox(["cat", "devmem", "insmod", "mkdir", "mount", "sh", "switch_root"])
     targets = {module: f"{number}-{module}.ko" for number, module in enumerate(MODULES)}
     targets.update({module: f"screen-{module}.ko" for module in SCREEN_MODULES})
@@ -119,7 +119,7 @@ def pack_root(folder, target):
 
 
 def unpack_packages(names, folder):
-    """Debian's packages for armhf with all that they depend on, unpacked once for these names."""
+    """Unpacks Debian's packages for armhf and all that they depend on, unless already there."""
     folder = Path(folder)
     stamp = folder / "made-of"
     release = "bookworm"

@@ -1,7 +1,6 @@
 #!/bin/sh
-# Init process of the small image: plays one program forever. If the player exits, for whatever
-# reason, blanks the screen and restarts it. PLAYER_OPTIONS on the kernel's command line are passed
-# to the player.
+# Init process of the small image: plays a program forever. Whenever the player exits, blanks the
+# screen and restarts it. PLAYER_OPTIONS on the kernel's command line are passed to the player.
 export PATH=/bin:/usr/bin LC_ALL=C TMPDIR=/run/tmp RUNTIME_DIRECTORY=/run/clock
 mount -t proc proc /proc
 mount -t sysfs sys /sys

@@ -31,17 +31,17 @@ class LongChecks(ShortChecks):
         screen.expect_right(FIRST, 3)
         self.replace(machine, screen)
         self.kill(machine, screen)
-        self.note("all that on a framebuffer with 16 bits per pixel, larger than the program")
+        self.note("the same on a framebuffer with 16 bits per pixel, larger than the program")
 
     def late_screen(self, machine, screen):
-        """Until there is a framebuffer the player tries again."""
+        """The player tries again until there is a framebuffer."""
         machine.run("sleep 10")
         tried = self.log(machine).count("no display can be reached")
         if tried < 2:
             raise Failed(f"without a framebuffer: {self.log(machine)}")
         machine.run("insmod /dev/late.ko")
         screen.await_right(FIRST)
-        self.note(f"no framebuffer: tried {tried} times; it came, and the screen is right")
+        self.note(f"no framebuffer: tried {tried} times; the screen was right once there was one")
 
     def no_time(self, machine, screen):
         """With --require-time, the clock must be after the build and synchronised."""
@@ -58,7 +58,7 @@ class LongChecks(ShortChecks):
                   "after it was lost")
 
     def far_times(self, machine, screen):
-        """In 1970, and while 2038 and 2106 come, which need more than 31 and 32 bits."""
+        """In 1970, and across the ends of 31 and 32 bits in 2038 and 2106."""
         screen.await_right(FIRST)
         before = self.restarts(machine)
         for instant, seconds in (("1970-01-01 01:00:00", 3600), ("2038-01-19 03:14:04", 2**31 - 4),
@@ -72,12 +72,12 @@ class LongChecks(ShortChecks):
         self.expect_restarts(machine, before, 0)
         machine.run("/bin/date -s '2024-03-05 14:00:00'")  # the device's own find fails beyond 2038
         screen.await_right(FIRST)
-        self.note("right in 1970, and through the ends of 2^31 and 2^32 seconds")
+        self.note("right in 1970, and across 2^31 and 2^32 seconds")
 
     def steady(self, machine, screen):
-        """Ten minutes: every sample is right, no second is missed, and what a second takes."""
+        """Ten minutes: every sample is right and no second missed; measures what a second takes."""
         screen.await_right(FIRST)
-        machine.run("sleep 70")  # what a first minute takes is kept
+        machine.run("sleep 70")  # the first minute fills caches
         first, begun, before = self.status(machine), work(machine), used(machine)
         samples = 0
         while uptime(machine) - begun[0] < STEADY_SECONDS:
@@ -90,19 +90,19 @@ class LongChecks(ShortChecks):
         if missed or abs(shown - seconds) > 3:
             raise Failed(f"in {seconds:.0f} s {shown} seconds were shown, {missed} missed")
         expect_no_growth(before, after)
-        # The commands of the check take some of the device's time, too, which is not counted.
+        # Of the player alone, without the commands of the check.
         share = (ended[1] - begun[1]) / seconds
         self.note(f"{seconds:.0f} s: {samples} of {samples} samples equal the frames, no second of "
-                  f"{shown} missed; {share * MIPS:.2f} million instructions a second; "
+                  f"{shown} missed; {share * MIPS:.2f} million instructions per second; "
                   f"lateness in ms {last['lateness_ms']}; {after}, before {before}")
 
 
 def seconds_of(status):
-    """The seconds that were shown and missed."""
+    """How many seconds were shown and missed."""
     return status["frames"] - status["second_presentations"], status["missed_seconds"]
 
 
 def work(machine):
-    """Seconds since the start, and those that the player had the processor for."""
+    """The device's uptime and the player's processor time, in seconds."""
     told = machine.run("cat /proc/uptime; cat /proc/$(pidof clock_player)/schedstat").split()
     return float(told[0]), int(told[2]) / 1e9

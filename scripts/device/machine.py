@@ -14,9 +14,9 @@ from PIL import Image
 ICOUNT = "shift=2,sleep=on"
 MIPS = 250  # of the device
 KERNEL_WORDS = "console=ttyAMA0 quiet loglevel=3 vt.global_cursor_default=0"
-# For each kernel module of a screen the emulator's device, and by how much red, green and blue may
-# be off. The second one has a size of its own and 5, 6 and 5 bits per pixel; hands that are blended
-# over a dial of 16 bits are rounded twice.
+# For each kernel module of a screen: the emulator's device, and by how much red, green and blue may
+# be off. The second has its own size and 5, 6 and 5 bits per pixel; hands that are blended over a
+# dial of 16 bits are rounded twice.
 SCREENS = {"virtio-gpu": ("virtio-gpu-device,xres={},yres={}", (0, 0, 0)),
            "cirrus": ("cirrus-vga,romfile=", (15, 7, 15))}
 
@@ -26,7 +26,7 @@ class Failed(Exception):
 
 
 class Machine:
-    """Runs until it is closed. What the emulator and the serial line say is kept in the folder."""
+    """Runs until it is closed. The output of emulator and serial line is kept in the folder."""
 
     def __init__(self, kernel, initramfs, disk, folder, memory=128, size=(320, 160), clock=None,
                  screen="virtio-gpu", words=""):
@@ -108,7 +108,7 @@ class Machine:
         raise Failed(f"nothing like {pattern.decode()!r} on the serial line in {seconds} s")
 
     def run(self, command, seconds=240):
-        """Runs a command on the device, which must succeed; gives its output."""
+        """Runs a command on the device, which must succeed; returns its output."""
         # The line echoes the input, so the markers are split there and joined only by the shell.
         self.serial.sendall(f"echo be''gin; {{ {command}\n}}; echo e''nd $?\n".encode())
         found = self.listen(rb"begin\r?\n(.*?)end (\d+)\r?\n", seconds)

@@ -8,7 +8,7 @@ from PIL import Image, ImageChops
 from machine import Failed
 
 # Part of a second of the device's clock after which the screen shows that second: drawing takes up
-# to a tenth, and the framebuffer is brought to the screen twenty times a second.
+# to a tenth, and the framebuffer is copied to the screen twenty times a second.
 SHOWN_AFTER = 0.35
 POLL_SECONDS = 0.1
 SETTLE_SECONDS = 600  # on a machine that is busy with something else
@@ -53,7 +53,7 @@ class Screen:
         return all(map(le, most, self.machine.tolerance)), picture, expected
 
     def await_right(self, program):
-        """Waits until the screen is right; gives the device's uptime in seconds."""
+        """Waits until the screen is right; returns the device's uptime in seconds."""
         end = time.monotonic() + SETTLE_SECONDS
         while time.monotonic() < end:
             is_right, picture, frame = self.compare(program)

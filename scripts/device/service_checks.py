@@ -43,12 +43,12 @@ class ServiceChecks(Checks):
         screen.await_dark()
         dark_after = uptime(machine) - since
         if dark_after > BLANK_SECONDS + 2:
-            raise Failed(f"the screen was dark only {dark_after:.1f} s later")
+            raise Failed(f"the screen took {dark_after:.1f} s to become dark")
         machine.run(f"echo 0 >{FIRST_THREAD}/cgroup.freeze")
         screen.await_right(FIRST)
         self.expect_restarts(machine, before, 0)
-        self.note(f"unit: without seconds the player blanked the screen {dark_after:.1f} s later, "
-                  "and then repainted it")
+        self.note(f"unit: frozen: the player blanked the screen {dark_after:.1f} s later, "
+                  "and repainted it when thawed")
 
     def unit_watchdog(self, machine, screen):
         self.ended(machine, screen, "kill -STOP $(pidof clock_player)", "unit: stopped",
@@ -60,7 +60,7 @@ class ServiceChecks(Checks):
         self.replace(machine, screen)
 
     def unit_slow_glyphs(self, machine, screen):
-        """Longer than the watchdog waits: the screen is dark, and nothing is restarted."""
+        """Glyphs take longer than the watchdog waits: the screen is dark, nothing is restarted."""
         screen.await_right(FIRST)
         before, since = self.restarts(machine), uptime(machine)
         self.put(machine, SLOW)
@@ -72,25 +72,25 @@ class ServiceChecks(Checks):
         self.expect_restarts(machine, before, 0)
         self.put(machine, FIRST)
         screen.await_right(FIRST)
-        self.note(f"unit: a program whose glyphs take {took:.0f} s was waited for")
+        self.note(f"unit: the watchdog waited for a program whose glyphs took {took:.0f} s")
 
     def unit_restart_often(self, machine, screen):
         self.restart_often(machine, screen)
 
     def unit_late_screen(self, machine, screen):
-        """The unit was started without a framebuffer, and may nevertheless open it."""
+        """Started without a framebuffer, the unit may open one that appears later."""
         machine.run("sleep 10")
         machine.run("insmod /dev/late.ko")
         since = uptime(machine)
         screen.await_right(FIRST)
         right_after = uptime(machine) - since
         if right_after > LATE_SECONDS:
-            raise Failed(f"right only {right_after:.1f} s after its framebuffer came")
-        self.note(f"unit: right {right_after:.1f} s after its framebuffer came")
+            raise Failed(f"right only {right_after:.1f} s after its framebuffer appeared")
+        self.note(f"unit: right {right_after:.1f} s after its framebuffer appeared")
 
 
 def freeze(machine):
-    """Stops the first thread of the player, and no other."""
+    """Freezes the player's first thread, and no other."""
     machine.run(f"mkdir -p {FIRST_THREAD} && echo threaded >{FIRST_THREAD}/cgroup.type && "
                 f"echo $(pidof clock_player) >{FIRST_THREAD}/cgroup.threads && "
                 f"echo 1 >{FIRST_THREAD}/cgroup.freeze")

@@ -5,16 +5,16 @@ from contents import FIRST, add_player
 
 FOLDERS = ["etc/systemd", "lib/systemd", "lib/udev/rules.d", "usr/lib/tmpfiles.d"]
 PROGRAMS = ["bin/journalctl", "bin/systemctl", "bin/systemd-tmpfiles", "bin/udevadm"]
-# Nobody logs in, and nothing but /etc/clock-player, /run and /var is written to.
+# Not needed: there are no logins, and only /etc/clock-player, /run and /var are written to.
 MASKED = ["getty.target", "ldconfig.service", "proc-sys-fs-binfmt_misc.automount",
           "systemd-firstboot.service", "systemd-hwdb-update.service",
           "systemd-journal-catalog-update.service", "systemd-machine-id-commit.service",
           "systemd-remount-fs.service", "systemd-sysusers.service", "systemd-update-done.service"]
-# Of udev's rules.
+# Named in udev's rules.
 GROUPS = ["input", "kvm", "render", "sgx", "systemd-journal", "systemd-network"]
 
-# A program whose glyph images take longer than the unit's watchdog waits: the texts of its clocks
-# become larger and larger than what is seen of them.
+# A program whose glyph images take longer than the unit's watchdog waits: its texts are much larger
+# than its areas.
 SLOW = "usr/share/slow.xml"
 SLOW_CLOCK = """  <area x="{x}" y="{y}" width="192" height="80">
     <clock type="digital" timezone="+01:00">
@@ -51,7 +51,7 @@ def slow_program():
 
 
 def add_users(packed):
-    """As base-passwd would, and the groups that systemd's and udev's scripts would add."""
+    """Adds the users and groups that base-passwd and the scripts of systemd and udev would add."""
     masters = packed.source_of("usr/share/base-passwd")
     packed.add_text("etc/passwd", (masters / "passwd.master").read_text())
     groups = "".join(f"{name}:*:{900 + number}:\n" for number, name in enumerate(GROUPS))
@@ -73,7 +73,7 @@ def add_units(packed):
 
 
 def make_service(build, sources, folder):
-    """Gives its folder, and the disk."""
+    """Returns its folder and the disk."""
     packed = image.Image(sources, image.clean(folder / "service"))
     for path in FOLDERS:
         packed.add(path, links=True)

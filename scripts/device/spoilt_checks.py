@@ -1,12 +1,11 @@
-"""Checks of programs and disks that are spoilt while a device plays."""
+"""Checks of damaged programs and a full disk, while a device plays and at the start."""
 
 from checks import ShortChecks, expect_no_growth, used
 from contents import FIRST, OTHER
 from machine import Failed
 
 PROGRAM = ShortChecks.PROGRAM
-# To put in the program's place: a directory, a pipe, half a program, a file that is too large, and
-# nothing.
+# What replaces the program, and the command that makes it.
 SPOILT = {"directory": f"mkdir {PROGRAM}",
           "pipe": f"mkfifo {PROGRAM}",
           "half": f"head -c 900 /{FIRST} >{PROGRAM}",
@@ -19,10 +18,10 @@ class SpoiltChecks(ShortChecks):
     CHECKS = dict.fromkeys(["full_disk", "spoilt", "spoilt_at_start"], {})
 
     def spoilt(self, machine, screen):
-        """Whatever the program is replaced by, the screen goes on to show the last good one."""
+        """Whatever replaces the program, the screen keeps showing the last good one."""
         screen.await_right(FIRST)
         first = self.restarts(machine)
-        for _ in range(2):  # what the first rounds take may be kept for the next
+        for _ in range(2):  # the first rounds fill caches
             self.spoil(machine, screen)
         before = used(machine)
         self.spoil(machine, screen)
@@ -33,7 +32,7 @@ class SpoiltChecks(ShortChecks):
                   f"{after}, one round earlier {before}")
 
     def spoil(self, machine, screen):
-        """Each is one more fault."""
+        """Replaces the program by each in turn; each counts as one more fault."""
         faults = self.status(machine)["fault_count"]
         for count, (what, command) in enumerate(SPOILT.items(), faults + 1):
             machine.run(f"rm -rf {PROGRAM}; {command}; sleep 5")
@@ -45,7 +44,7 @@ class SpoiltChecks(ShortChecks):
         machine.run("sleep 3")
 
     def spoilt_at_start(self, machine, screen):
-        """Without a good program it starts with a notice, and takes the next one."""
+        """Started without a good program, the player shows a notice, then the next good program."""
         for what, command in SPOILT.items():
             machine.run(f"rm -rf {PROGRAM}; {command}; killall -9 clock_player")
             screen.await_dark()
@@ -58,7 +57,7 @@ class SpoiltChecks(ShortChecks):
         self.note(f"started with {', '.join(SPOILT)}: a notice until there was a program")
 
     def full_disk(self, machine, screen):
-        """Clocks whose glyph images are there already go on, and start; others wait for room."""
+        """Clocks whose glyph images exist play on, also after a restart; others wait for space."""
         screen.await_right(FIRST)
         machine.run("dd if=/dev/zero of=/run/filler bs=4k 2>/dev/null; ! echo x >/run/more")
         screen.await_right(FIRST)
@@ -72,4 +71,4 @@ class SpoiltChecks(ShortChecks):
         self.put(machine, FIRST)
         screen.await_right(FIRST)
         self.note("the disk was filled: the screen stayed right, after a restart too; a program "
-                  "without glyph images waited for room")
+                  "without glyph images waited for space")
