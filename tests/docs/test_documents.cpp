@@ -292,7 +292,8 @@ void TestDocuments::ZoneTables()
 void TestDocuments::LinksLeadSomewhere_data()
 {
     QTest::addColumn<QString>("path");
-    QTest::newRow("README.md") << "README.md";
+    for (const char *page : {"README.md", "SECURITY.md", "image/README.md"})
+        QTest::newRow(page) << page;
     for (const QString &name : QDir(InTree("docs")).entryList({"*.md"}))
         QTest::newRow(qPrintable(name)) << "docs/" + name;
 }
