@@ -133,6 +133,8 @@ private slots:
     void ZoneTables();
     void LinksLeadSomewhere_data();
     void LinksLeadSomewhere();
+    void NamedFilesExist_data();
+    void NamedFilesExist();
     void QuotedLinesExist();
 #ifdef HAVE_MANUALS
     void ManualsHoldTheHelp_data();
@@ -310,6 +312,29 @@ void TestDocuments::LinksLeadSomewhere()
         QVERIFY2(QFileInfo::exists(target), qPrintable(target));
         if (!link.captured(2).isEmpty())
             QVERIFY2(AnchorsOf(target).contains(link.captured(2)), qPrintable(link.captured(0)));
+    }
+}
+
+void TestDocuments::NamedFilesExist_data()
+{
+    LinksLeadSomewhere_data();
+}
+
+// What is written as code and begins with a folder of the tree; XX means any language.
+void TestDocuments::NamedFilesExist()
+{
+    QFETCH(QString, path);
+    const QRegularExpression code("```.*?```|`[^`]+`",
+                                  QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpression file("(?<![\\w./-])(\\w[\\w-]*)/[\\w./-]*\\w(?![\\w./*-])");
+    QStringList folders = QDir(InTree(".")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    folders = folders.filter(QRegularExpression("^(?!build)"));
+    for (auto part = code.globalMatch(Document(path)); part.hasNext();) {
+        for (auto match = file.globalMatch(part.next().captured()); match.hasNext();) {
+            const QRegularExpressionMatch name = match.next();
+            if (folders.contains(name.captured(1)) && !name.captured().contains("XX"))
+                QVERIFY2(QFileInfo::exists(InTree(name.captured())), qPrintable(name.captured()));
+        }
     }
 }
 
