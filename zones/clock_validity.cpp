@@ -5,6 +5,9 @@
 
 #include <QDateTime>
 
+#include <cstddef>
+#include <iterator>
+
 namespace ClockZones {
 
 namespace {
@@ -29,6 +32,17 @@ constexpr EndRow kEnds[] = {
     {ValidityEnd::LunarTable, "lunar_table", "the lunar date is missing from %1 on"},
     {ValidityEnd::PersianDate, "persian_calendar", "the Persian date is wrong from %1 on"},
 };
+
+constexpr bool EndsFollowEnumeration()
+{
+    for (std::size_t i = 0; i < std::size(kEnds); ++i) {
+        if (static_cast<std::size_t>(kEnds[i].end) != i)
+            return false;
+    }
+    return true;
+}
+
+static_assert(EndsFollowEnumeration(), "row i of the table must describe end i");
 
 const EndRow &RowOf(ValidityEnd end)
 {
@@ -56,7 +70,7 @@ private:
     std::optional<Validity> m_found;
 };
 
-/// The instant at which a day begins in standard time, as the lunar date has it.
+/// The instant at which a day begins in standard time, which the lunar date uses.
 qint64 StandardBegin(const QDate &day, const ZoneSettings &zone)
 {
     return MidnightOf(day) - zone.offset * kMillisecondsPerSecond;

@@ -12,7 +12,7 @@
 namespace ClockZones {
 
 /// The end of the last period, at least two years long and begun by `now`, in which a clock with
-/// these settings shows the zone's time. Nothing if there is none: so many changes that agree prove
+/// these settings shows the zone's time. Nothing if there is none. Two years of agreement show
 /// that the rules are meant for the zone. Pure.
 std::optional<qint64> LastAgreement(const ZoneSettings &settings, const CivilTime &civil,
                                     qint64 now);
@@ -21,12 +21,12 @@ std::optional<qint64> LastAgreement(const ZoneSettings &settings, const CivilTim
 struct RulesEnd
 {
     qint64 until = 0;      ///< UTC milliseconds; in the past if the zone has already left them
-    QByteArray zone;       ///< the first of these that use them longest
-    QList<QByteArray> all; ///< these; just one where the zone data end
+    QByteArray zone;       ///< the first of the zones that use them longest
+    QList<QByteArray> all; ///< all of those zones; only one if the zone data end
     bool isListed = false; ///< false: the zone data end then, and no other end is known
 };
 
-/// Finds the end of rules, and remembers it for a day: where no widely used zone has the rules, all
+/// Finds the end of rules, and caches it for a day: where no widely used zone has the rules, all
 /// zones are read.
 class RulesEnds
 {

@@ -16,7 +16,7 @@ namespace {
 constexpr int kYears = 10;
 
 /// Preferred where several zones have the same time.
-constexpr const char *kMuchUsed[] = {
+constexpr const char *kWidelyUsed[] = {
     "Europe/Berlin",     "Europe/London",       "Europe/Athens",     "Atlantic/Azores",
     "America/New_York",  "America/Chicago",     "America/Denver",    "America/Los_Angeles",
     "America/Anchorage", "America/Halifax",     "America/St_Johns",  "America/Havana",
@@ -58,7 +58,7 @@ CivilTime CivilTimeOf(const QTimeZone &zone, const Span &span)
 }
 
 /// Quick pre-check: whether a zone can match the settings at all.
-bool MayHave(const QTimeZone &zone, const ZoneSettings &settings, qint64 begin)
+bool MayMatch(const QTimeZone &zone, const ZoneSettings &settings, qint64 begin)
 {
     constexpr qint64 kHalfYear = 182 * Lw::HNodeClock::kMillisecondsPerDay;
     for (const qint64 at : {begin, begin + kHalfYear}) {
@@ -101,7 +101,7 @@ QList<QByteArray> ZoneNames()
 QList<QByteArray> ZonesToTry()
 {
     QList<QByteArray> names;
-    for (const char *name : kMuchUsed)
+    for (const char *name : kWidelyUsed)
         names.append(name);
     return names + ZoneNames();
 }
@@ -124,7 +124,7 @@ QByteArray ZoneWith(const ZoneSettings &settings, const Span &span)
 {
     for (const QByteArray &name : ZonesToTry()) {
         const QTimeZone zone(name);
-        if (zone.isValid() && MayHave(zone, settings, span.begin)
+        if (zone.isValid() && MayMatch(zone, settings, span.begin)
             && WrongTimes(settings, CivilTimeOf(zone, span)).isEmpty())
             return name;
     }

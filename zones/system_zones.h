@@ -35,11 +35,10 @@ Span ListedSince(const QDate &first);
 /// "2026-03-29", in UTC.
 QString DateOf(qint64 utc);
 
-/// The names of the system's zones. Aliases may be missing here but are accepted as
-/// well.
+/// The names of the system's zones. Aliases may be missing here but are accepted as well.
 QList<QByteArray> ZoneNames();
 
-/// The same, the most widely used first (again among the others).
+/// The same, preceded by the most widely used ones, which are then repeated among the others.
 QList<QByteArray> ZonesToTry();
 
 /// Whether the system has zone data. Without it, Qt lists only fixed offsets.

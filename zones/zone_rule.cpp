@@ -85,10 +85,10 @@ QStringList PossibleRules(const CivilTime &civil, int standard, bool isStart)
     QStringList rules;
     int before = civil.offset;
     for (const OffsetChange &change : civil.changes) {
-        const int met = isStart ? change.offset : before;
-        const int left = isStart ? before : change.offset;
+        const int daylightSide = isStart ? change.offset : before;
+        const int otherSide = isStart ? before : change.offset;
         before = change.offset;
-        if (met != daylight || left == daylight)
+        if (daylightSide != daylight || otherSide == daylight)
             continue;
         for (const qint64 reading : ReadingsNear(change.at + standard * kMillisecondsPerSecond))
             rules += RulesNaming(reading);

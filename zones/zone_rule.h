@@ -9,7 +9,7 @@
 
 namespace ClockZones {
 
-/// A zone's offset changes.
+/// One change of a zone's offset.
 struct OffsetChange
 {
     qint64 at;  ///< milliseconds since 1970-01-01 UTC
@@ -51,8 +51,8 @@ qint64 RightUntil(const ZoneSettings &settings, const CivilTime &civil);
 QStringList RulesNaming(qint64 reading);
 
 /// The settings with which a clock is wrong for the shortest time in a span. Of those that are
-/// never wrong there, those that stay right longest afterwards. If one hour of
-/// daylight saving fits nowhere, a fixed offset.
+/// never wrong there, those that stay right longest afterwards. If one hour of daylight saving fits
+/// nowhere, a fixed offset.
 ZoneSettings BestSettings(const CivilTime &civil, const CivilTime &after);
 
 } // namespace ClockZones
