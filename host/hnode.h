@@ -21,9 +21,8 @@ namespace Lw {
 /// never reorder them, add only at the end.
 ///
 /// Comments say what a function is for and, after "here", what this base class does if a subclass
-/// does not override it. If a comment has only the "here" part, the
-/// meaning is defined by the host and our plugin does not depend on it. Lists are appended to,
-/// never cleared.
+/// does not override it. If a comment has only the "here" part, the meaning is defined by the host
+/// and our plugin does not depend on it. Lists are appended to, never cleared.
 class HNode : public QObject, public HData
 {
     Q_OBJECT
