@@ -25,7 +25,7 @@ char **g_kioskArguments = nullptr; // null: not a kiosk
 
 void Say(const QString &text)
 {
-    SayAs("clock_player", text);
+    PrintErrorLines("clock_player", text);
 }
 
 int Report(const Failure &failure)

@@ -99,7 +99,7 @@ void QuitFramesBetweenImages()
 {
     if (!QuitSignals::IsRequested())
         return;
-    SayAs("clock_player", Interrupted().text);
+    PrintErrorLines("clock_player", Interrupted().text);
     RemoveWorkDirectory();
     std::_Exit(static_cast<int>(Interrupted().code));
 }
@@ -205,7 +205,7 @@ void PrepareEnvironment()
 MaybeFailure Play(const Options &options, const Result<Program> &program,
                   const FileSignature &signature, const Warn &warn)
 {
-    ClockCatalogues::InstallChosen(options.language);
+    ClockCatalogues::InstallOrDefault(options.language);
     QStringList warnings;
     if (const MaybeFailure failure = LoadPlugins(PluginDirectory(options), warnings))
         return failure;

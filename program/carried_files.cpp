@@ -37,28 +37,29 @@ QString DigestOf(QFile &file, qint64 size)
     return QString::fromLatin1(hash.result().toHex());
 }
 
-bool IsOrdinary(const struct stat &status)
+bool IsRegular(const struct stat &status)
 {
     return S_ISREG(status.st_mode);
 }
 
 /// Opens a regular file; otherwise returns what is wrong. Devices are not opened at all. The path
 /// may change between stat() and open(), so the open must not block on a FIFO, and the file is
-/// checked.
+/// checked again.
 QString Open(QFile &file, const QString &path, struct stat &status)
 {
     const QByteArray name = QFile::encodeName(path);
     if (name.contains('\0') || stat(name.constData(), &status) != 0)
         return QStringLiteral("is missing");
-    const bool wasOrdinary = IsOrdinary(status);
-    const int descriptor =
-        wasOrdinary ? open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC) : -1;
-    if (wasOrdinary && descriptor < 0)
+    const QString notRegular = QStringLiteral("is not a regular file");
+    if (!IsRegular(status))
+        return notRegular;
+    const int descriptor = open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
         return QStringLiteral("cannot be read");
-    if (!file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle)
-        || fstat(descriptor, &status) != 0 || !IsOrdinary(status))
-        return QStringLiteral("is not a regular file");
-    return {};
+    const bool isOpen =
+        file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle);
+    const bool isStillRegular = isOpen && fstat(descriptor, &status) == 0 && IsRegular(status);
+    return isStillRegular ? QString() : notRegular;
 }
 
 /// Picture clocks have no glyph images, and other elements need none that we know of.

@@ -6,19 +6,20 @@ namespace ClockProgram {
 
 namespace {
 
-constexpr int kFirstDrawn = 1000;
-constexpr int kLastDrawn = 1999;
+constexpr int kFirstRandomId = 1000;
+constexpr int kLastRandomId = 1999;
 
 int FreeNumber(const QSet<int> &taken, int number)
 {
-    constexpr int count = kLastDrawn - kFirstDrawn + 1;
-    const int start = number >= kFirstDrawn && number <= kLastDrawn ? number - kFirstDrawn : 0;
+    constexpr int count = kLastRandomId - kFirstRandomId + 1;
+    const int start =
+        number >= kFirstRandomId && number <= kLastRandomId ? number - kFirstRandomId : 0;
     for (int step = 0; step < count; ++step) {
-        const int candidate = kFirstDrawn + (start + step) % count;
+        const int candidate = kFirstRandomId + (start + step) % count;
         if (!taken.contains(candidate))
             return candidate;
     }
-    int beyond = kLastDrawn + 1;
+    int beyond = kLastRandomId + 1;
     while (taken.contains(beyond))
         ++beyond;
     return beyond;
@@ -26,9 +27,9 @@ int FreeNumber(const QSet<int> &taken, int number)
 
 } // namespace
 
-int IdOfPlace(int place)
+int DefaultIdAt(int index)
 {
-    return kFirstDrawn + place % (kLastDrawn - kFirstDrawn + 1);
+    return kFirstRandomId + index % (kLastRandomId - kFirstRandomId + 1);
 }
 
 QVector<int> DistinctIds(const QVector<ClockId> &ids)

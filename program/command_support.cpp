@@ -67,7 +67,7 @@ MaybeFailure PrintBytes(const QByteArray &bytes)
         QStringLiteral("cannot write to standard output: %1").arg(qt_error_string(errno))};
 }
 
-void SayAs(const char *program, const QString &text)
+void PrintErrorLines(const char *program, const QString &text)
 {
     for (const QString &line : text.split(QLatin1Char('\n')))
         std::fprintf(stderr, "%s: %s\n", program, qPrintable(line));

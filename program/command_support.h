@@ -46,8 +46,8 @@ MaybeFailure PrintBytes(const QByteArray &bytes);
 /// The same in the locale's encoding.
 MaybeFailure PrintText(const QString &text);
 
-/// Prints lines on standard error, each prefixed with the program's name.
-void SayAs(const char *program, const QString &text);
+/// Prints a text's lines to standard error, each prefixed with the program's name.
+void PrintErrorLines(const char *program, const QString &text);
 
 /// Sets 96 dots per inch where QT_FONT_DPI is unset, so that sizes in points are the same number of
 /// pixels on every machine. Call it before constructing the application.

@@ -13,9 +13,9 @@ namespace ClockProgram {
 /// The codes are documented in --help.
 enum class ExitCode : int {
     Success = 0,
-    RuntimeFailure = 1, ///< a plugin, the display, the frames or the glyph files
+    RuntimeFailure = 1, ///< anything else that failed, such as a plugin, the display or writing
     UsageError = 2,     ///< the command line
-    ProgramError = 3,   ///< the program file
+    ProgramError = 3,   ///< the program file or another input
 };
 
 struct Failure

@@ -76,17 +76,17 @@ QStringList WriteFailures(const Faults &faults)
     return texts;
 }
 
-QString Letters(const Faults &faults)
+QString DistinctCharacters(const Faults &faults)
 {
-    QString letters;
+    QString characters;
     for (const GlyphFault &fault : faults) {
-        for (const uint letter : fault.characters.toUcs4()) {
-            const QString written = QString::fromUcs4(&letter, 1);
-            if (!letters.contains(written))
-                letters += written;
+        for (const uint code : fault.characters.toUcs4()) {
+            const QString character = QString::fromUcs4(&code, 1);
+            if (!characters.contains(character))
+                characters += character;
         }
     }
-    return letters;
+    return characters;
 }
 
 void AppendIfAny(QStringList &texts, const Faults &faults, const QString &text)
@@ -109,7 +109,7 @@ GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults)
     AppendIfAny(messages.failures, OfKind(faults, GlyphFault::NoFont),
                 NoFontText() + QStringLiteral(": %1"));
     AppendIfAny(messages.failures, OfKind(faults, GlyphFault::TooLarge),
-                QStringLiteral("%1 would be larger than 32767 pixels a side or 64 MiB; use a "
+                QStringLiteral("%1 would be larger than 32767 pixels per side or 64 MiB; use a "
                                "smaller font or a shorter text"));
     AppendIfAny(messages.failures, OfKind(faults, GlyphFault::NoInk),
                 QStringLiteral("the font draws nothing for %1"));
@@ -118,9 +118,9 @@ GlyphMessages DescribeGlyphFaults(const QVector<Lw::GlyphFault> &faults)
         messages.warnings.append(
             QStringLiteral(
                 "no installed font has the characters \"%1\" of %2; boxes are drawn instead")
-                .arg(Letters(lacking), Images(lacking)));
+                .arg(DistinctCharacters(lacking), Images(lacking)));
     AppendIfAny(messages.warnings, OfKind(faults, GlyphFault::NotKept),
-                QStringLiteral("%1 not shown: the images of a clock may take 64 MiB of memory, "
+                QStringLiteral("cannot show %1: a clock's images may take 64 MiB of memory, "
                                "those of all clocks 256 MiB"));
     return messages;
 }

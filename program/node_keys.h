@@ -1,10 +1,10 @@
-// program/: the few attribute keys that player and tools use themselves. All others concern only
-// the program file and the plugin.
+// program/: the few attribute keys that player, tools and studio use themselves. All others concern
+// only the program file and the plugin.
 #pragma once
 
 namespace ClockProgram {
 
-/// Identity in the names of glyph files.
+/// The key of a clock's Id, which is part of the names of its glyph files.
 inline constexpr char kIdKey[] = "Id";
 inline constexpr char kClockTypeKey[] = "ClockType";
 /// The clock kind that plugins do not import from an element.

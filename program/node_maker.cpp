@@ -98,7 +98,7 @@ void SeparateIds(const Program &program, MadeNodes &made)
             continue;
         places.append(i);
         const bool given = SetsKey(program.areas[i], kIdKey);
-        ids.append({given ? node.GetAttributeToInt(kIdKey) : IdOfPlace(i), given});
+        ids.append({given ? node.GetAttributeToInt(kIdKey) : DefaultIdAt(i), given});
     }
     const QVector<int> numbers = DistinctIds(ids);
     for (int i = 0; i < ids.size(); ++i) {

@@ -32,8 +32,8 @@ struct MadeNodes
 using PluginFinder = std::function<Lw::INodePlugin *(QDomElement &)>;
 
 /// Reads an element into a node. Plugins reject picture clocks before they read zone,
-/// adjustment and daylight saving; programs name that kind all the same (type="picture", the older
-/// form's clockType="2", or an "attribute" child), and the node gets its settings and the kind.
+/// adjustment and daylight saving; for an element that names that kind (type="picture", the older
+/// form's clockType="2", or an "attribute" child) the node still gets these settings, and the kind.
 /// False where the plugin cannot read the element.
 bool ReadElement(Lw::HNode &node, const QDomElement &element);
 

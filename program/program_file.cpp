@@ -124,7 +124,7 @@ private:
 qint64 FrameBytes(const Program &program)
 {
     constexpr int kPixel = 4;   // bytes
-    constexpr int kScreens = 2; // what is composed, and what shows it
+    constexpr int kScreens = 2; // the composed screen and the window's backing store
     constexpr int kFrames = 3;  // a renderer's two, and the dial or the pictures that it keeps
     qint64 pixels = kScreens * PixelsOf(program.size);
     for (const ProgramArea &area : program.areas)

@@ -19,7 +19,7 @@ enum class Targets {
 MaybeFailure WriteFile(const QString &path, const QByteArray &contents, Targets targets);
 
 /// Replaces a regular file, or that at the end of its links, once the new one is complete on disk;
-/// it is unchanged after a failure. Returns the system's reason for one.
+/// it is unchanged after a failure. Returns the reason for a failure, nothing on success.
 std::optional<QString> ReplaceFile(const QString &path, const QByteArray &contents);
 
 /// Writes to standard output and flushes it.

@@ -48,7 +48,7 @@ public:
             Current() == QLatin1Char('<') ? Markup() : Text();
         if (!m_fault && !m_open.isEmpty())
             Fail(m_line,
-                 QStringLiteral("<%1> of line %2 is never closed")
+                 QStringLiteral("the <%1> in line %2 is never closed")
                      .arg(Shown(m_open.last().name))
                      .arg(m_open.last().line));
         if (!m_fault && m_elements == 0)
@@ -159,7 +159,7 @@ private:
         const Tag open = m_open.takeLast();
         if (open.name != name)
             Fail(m_line,
-                 QStringLiteral("</%1> does not match <%2> of line %3")
+                 QStringLiteral("</%1> does not match the <%2> in line %3")
                      .arg(Shown(name), Shown(open.name))
                      .arg(open.line));
     }

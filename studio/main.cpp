@@ -62,7 +62,7 @@ int Print(const QString &text)
     const ClockProgram::MaybeFailure failure = ClockProgram::PrintText(text);
     if (!failure)
         return EXIT_SUCCESS;
-    ClockProgram::SayAs("clock_studio", failure->text);
+    ClockProgram::PrintErrorLines("clock_studio", failure->text);
     return EXIT_FAILURE;
 }
 
@@ -73,8 +73,8 @@ int main(int argc, char **argv)
     if (const std::optional<QString> information = InformationFor(argc, argv))
         return Print(*information);
     if (!HasDisplay(argc, argv)) {
-        ClockProgram::SayAs("clock_studio",
-                            QStringLiteral("no display found; the studio needs one"));
+        ClockProgram::PrintErrorLines("clock_studio",
+                                      QStringLiteral("no display found; the studio needs one"));
         return EXIT_FAILURE;
     }
     ClockProgram::FixFontResolution();

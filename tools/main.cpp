@@ -96,7 +96,7 @@ namespace ClockTool {
 
 void Say(const QString &text)
 {
-    ClockProgram::SayAs("clock_tool", text);
+    ClockProgram::PrintErrorLines("clock_tool", text);
 }
 
 CommandResult Report(const Failure &failure)

@@ -141,7 +141,7 @@ MaybeFailure ToolArguments::InstallLanguage() const
         if (const MaybeFailure failure = CheckLanguage(Value(option)))
             return failure;
     }
-    ClockCatalogues::InstallChosen(Value(option));
+    ClockCatalogues::InstallOrDefault(Value(option));
     return std::nullopt;
 }
 

@@ -14,6 +14,12 @@ static void RegisterCatalogues()
 
 namespace ClockCatalogues {
 
+namespace {
+
+QString s_installed; // the code of the language
+
+} // namespace
+
 QStringList Languages()
 {
     RegisterCatalogues();
@@ -29,8 +35,6 @@ QString LanguageFor(const QLocale &locale)
     const QString language = locale.name().section(QLatin1Char('_'), 0, 0);
     return Languages().contains(language) ? language : QStringLiteral("en");
 }
-
-static QString s_installed; // the code of the language
 
 QString Installed()
 {
@@ -57,7 +61,7 @@ bool Install(const QString &language)
     return true;
 }
 
-bool InstallChosen(const QString &language)
+bool InstallOrDefault(const QString &language)
 {
     return Install(language.isEmpty() ? LanguageFor(QLocale::system()) : language);
 }

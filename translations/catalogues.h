@@ -21,7 +21,7 @@ QString LanguageFor(const QLocale &locale);
 bool Install(const QString &language);
 
 /// The same; an empty language means that of the system locale.
-bool InstallChosen(const QString &language);
+bool InstallOrDefault(const QString &language);
 
 /// The code of the installed language; empty if none is.
 QString Installed();

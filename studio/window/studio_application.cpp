@@ -32,7 +32,7 @@ void LoadTranslations(QApplication &application)
         Load(application, QLocale(), "studio", catalogues);
     }
     Load(application, QLocale(), "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    ClockCatalogues::InstallChosen({});
+    ClockCatalogues::InstallOrDefault({});
     QApplication::setLayoutDirection(QLocale().textDirection());
 }
 

@@ -3,8 +3,8 @@
 #include <QtTest>
 
 using ClockProgram::ClockId;
+using ClockProgram::DefaultIdAt;
 using ClockProgram::DistinctIds;
-using ClockProgram::IdOfPlace;
 
 Q_DECLARE_METATYPE(QVector<ClockId>)
 
@@ -56,12 +56,12 @@ void TestClockIds::NumbersOfPlaces()
 {
     const auto numbers = [](const ClockId &third) {
         return DistinctIds(
-            {{IdOfPlace(0), false}, {IdOfPlace(1), false}, third, {IdOfPlace(3), false}});
+            {{DefaultIdAt(0), false}, {DefaultIdAt(1), false}, third, {DefaultIdAt(3), false}});
     };
-    QCOMPARE(numbers({IdOfPlace(2), false}), (QVector<int> {1000, 1001, 1002, 1003}));
+    QCOMPARE(numbers({DefaultIdAt(2), false}), (QVector<int> {1000, 1001, 1002, 1003}));
     QCOMPARE(numbers({1001, true}), (QVector<int> {1000, 1002, 1001, 1003}));
-    QCOMPARE(IdOfPlace(999), 1999);
-    QCOMPARE(IdOfPlace(1000), 1000);
+    QCOMPARE(DefaultIdAt(999), 1999);
+    QCOMPARE(DefaultIdAt(1000), 1000);
 }
 
 void TestClockIds::MoreClocksThanDrawnNumbers()

@@ -65,12 +65,13 @@ private Q_SLOTS:
         const GlyphMessages messages =
             DescribeGlyphFaults({Fault(GlyphFault::NoInk, "_a"), Fault(GlyphFault::TooLarge, "_b"),
                                  Fault(GlyphFault::NoFont, "_c"), Fault(GlyphFault::NoFont, "_d")});
-        QCOMPARE(messages.failures,
-                 (QStringList {"no font is installed, so no text can be drawn: 2 glyph images "
-                               "(_c, _d)",
-                               "the glyph image _b would be larger than 32767 pixels a side or 64 "
-                               "MiB; use a smaller font or a shorter text",
-                               "the font draws nothing for the glyph image _a"}));
+        QCOMPARE(
+            messages.failures,
+            (QStringList {"no font is installed, so no text can be drawn: 2 glyph images "
+                          "(_c, _d)",
+                          "the glyph image _b would be larger than 32767 pixels per side or 64 "
+                          "MiB; use a smaller font or a shorter text",
+                          "the font draws nothing for the glyph image _a"}));
     }
 
     void MissingCharactersAreAWarning()
@@ -92,8 +93,8 @@ private Q_SLOTS:
             {Fault(GlyphFault::NotKept, "_lunar"), Fault(GlyphFault::NotKept, "_timeCh")});
         QVERIFY(messages.failures.isEmpty());
         QCOMPARE(messages.warnings,
-                 QStringList("2 glyph images (_lunar, _timeCh) not shown: the images of a clock "
-                             "may take 64 MiB of memory, those of all clocks 256 MiB"));
+                 QStringList("cannot show 2 glyph images (_lunar, _timeCh): a clock's images may "
+                             "take 64 MiB of memory, those of all clocks 256 MiB"));
     }
 };
 

@@ -9,7 +9,7 @@
 namespace {
 
 const QString kLeftOut = QStringLiteral(
-    "warning: 3 glyph images (_lunar, _chWeek_3, _timeNumber) not shown: the images of a clock may "
+    "warning: cannot show 3 glyph images (_lunar, _chWeek_3, _timeNumber): a clock's images may "
     "take 64 MiB of memory, those of all clocks 256 MiB");
 
 /// A digital clock, in line 2, with four carried images of 64 MiB.
