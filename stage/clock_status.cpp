@@ -5,10 +5,9 @@
 #include "clock_attributes.h"
 #include "hnode.h"
 
-#include <QStringList>
-
 #include <charconv>
 #include <cstdlib>
+#include <limits>
 #include <utility>
 
 namespace ClockStage {
@@ -17,53 +16,63 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-// Padded with leading zeros to a width.
-void AppendNumber(QString &text, int number, int width)
+constexpr int kStatusLength = 160; // of most
+const QLatin1String kSeparator(" | ");
+
+// Padded with leading zeros to as many digits as the power of ten has. Returns the end.
+char *PutNumber(char *to, int number, int power)
 {
-    char digits[16];
-    const auto length =
-        static_cast<int>(std::to_chars(digits, digits + sizeof digits, number).ptr - digits);
-    for (int i = length; i < width; ++i)
-        text += QLatin1Char('0');
-    text += QLatin1String(digits, length);
+    for (; power > 1 && number < power; power /= 10)
+        *to++ = '0';
+    return std::to_chars(to, to + std::numeric_limits<int>::digits10 + 1, number).ptr;
+}
+
+void AppendNumber(QString &text, int number)
+{
+    char digits[std::numeric_limits<int>::digits10 + 1];
+    text += QLatin1String(digits, static_cast<int>(PutNumber(digits, number, 1) - digits));
 }
 
 // Date and time with a character between them, such as "2024-03-31T00:59:58". Called every second,
 // so without QDateTime, which would also query the system's zone.
-QString ReadingText(qint64 reading, char between)
+void AppendReading(QString &text, qint64 reading, char between)
 {
     const DisplayedFields fields = SplitReading(reading);
-    QString text;
-    text.reserve(32);
+    char characters[32];
+    char *end = characters;
     if (fields.year < 0)
-        text += QLatin1Char('-');
-    AppendNumber(text, std::abs(fields.year), 4);
+        *end++ = '-';
+    end = PutNumber(end, std::abs(fields.year), 1000);
     for (const auto &[separator, number] :
          {std::pair('-', fields.month), std::pair('-', fields.day), std::pair(between, fields.hour),
           std::pair(':', fields.minute), std::pair(':', fields.second)}) {
-        text += QLatin1Char(separator);
-        AppendNumber(text, number, 2);
+        *end++ = separator;
+        end = PutNumber(end, number, 10);
     }
-    return text;
-}
-
-QString InstantText(qint64 instant)
-{
-    return ReadingText(instant, 'T') + QLatin1Char('Z');
+    text += QLatin1String(characters, static_cast<int>(end - characters));
 }
 
 // Whole minutes as "+01:00"; an adjusted clock may also have seconds.
-QString OffsetText(int seconds)
+void AppendOffset(QString &text, int seconds)
 {
     const int size = std::abs(seconds);
-    QString text(QLatin1Char(seconds < 0 ? '-' : '+'));
-    AppendNumber(text, size / kSecondsPerHour, 2);
-    text += QLatin1Char(':');
-    AppendNumber(text, size / kSecondsPerMinute % 60, 2);
+    char characters[32];
+    char *end = characters;
+    *end++ = seconds < 0 ? '-' : '+';
+    end = PutNumber(end, size / kSecondsPerHour, 10);
+    *end++ = ':';
+    end = PutNumber(end, size / kSecondsPerMinute % 60, 10);
     if (size % kSecondsPerMinute) {
-        text += QLatin1Char(':');
-        AppendNumber(text, size % kSecondsPerMinute, 2);
+        *end++ = ':';
+        end = PutNumber(end, size % kSecondsPerMinute, 10);
     }
+    text += QLatin1String(characters, static_cast<int>(end - characters));
+}
+
+QString ReadingText(qint64 reading, char between)
+{
+    QString text;
+    AppendReading(text, reading, between);
     return text;
 }
 
@@ -75,30 +84,39 @@ QString ChangeText(const std::optional<ZoneChange> &change)
         const QString text = ReadingText(change->instant + offset * kMillisecondsPerSecond, 'T');
         return text.section(QLatin1Char('T'), 1);
     };
-    return QStringLiteral("daylight saving %1 %2: %3 becomes %4")
+    return QStringLiteral("daylight saving %1 %2Z: %3 becomes %4")
         .arg(change->after > change->before ? QStringLiteral("begins") : QStringLiteral("ends"),
-             InstantText(change->instant), timeOfDay(change->before), timeOfDay(change->after));
+             ReadingText(change->instant, 'T'), timeOfDay(change->before),
+             timeOfDay(change->after));
 }
 
-QString TravelText(const Status &status)
+void AppendTravel(QString &text, const Status &status)
 {
-    QString text = InstantText(status.instant);
+    AppendReading(text, status.instant, 'T');
+    text += QLatin1Char('Z');
     if (status.speed != 1)
         text += QStringLiteral(" x%1").arg(status.speed);
     if (status.paused)
-        text += QStringLiteral(" paused");
-    return text;
+        text += QLatin1String(" paused");
 }
 
-QString ClockText(const Status &status, ZoneMemory &memory)
+// Without QString::arg(), which takes longer than all else in the line.
+void AppendPlace(QString &text, const Status &status)
 {
-    const int offset = memory.OffsetAt(*status.clock, status.instant);
-    const QString reading = ReadingText(status.instant + offset * kMillisecondsPerSecond, ' ')
-        + QLatin1Char(' ') + OffsetText(offset);
-    if (status.clockCount == 1)
-        return reading;
-    return QStringLiteral("clock ") + QString::number(status.clockNumber) + QStringLiteral(" of ")
-        + QString::number(status.clockCount) + QStringLiteral(": ") + reading;
+    text += QLatin1String("clock ");
+    AppendNumber(text, status.clockNumber);
+    text += QLatin1String(" of ");
+    AppendNumber(text, status.clockCount);
+    text += QLatin1String(": ");
+}
+
+void AppendClock(QString &text, const Status &status, int offset)
+{
+    if (status.clockCount != 1)
+        AppendPlace(text, status);
+    AppendReading(text, status.instant + offset * kMillisecondsPerSecond, ' ');
+    text += QLatin1Char(' ');
+    AppendOffset(text, offset);
 }
 
 } // namespace
@@ -157,10 +175,16 @@ void ZoneMemory::Learn(const ZoneSettings &zone, qint64 instant)
 
 QString StatusText(const Status &status, ZoneMemory &memory)
 {
-    QStringList parts {TravelText(status)};
-    if (status.clock)
-        parts += {ClockText(status, memory), memory.ChangeText(*status.clock, status.instant)};
-    return parts.join(QStringLiteral(" | "));
+    QString text;
+    text.reserve(kStatusLength);
+    AppendTravel(text, status);
+    if (status.clock) {
+        text += kSeparator;
+        AppendClock(text, status, memory.OffsetAt(*status.clock, status.instant));
+        text += kSeparator;
+        text += memory.ChangeText(*status.clock, status.instant);
+    }
+    return text;
 }
 
 } // namespace ClockStage
