@@ -1,6 +1,7 @@
-# Counts which lines and branches run, for scripts/coverage. Nothing is optimised, so that a line of
-# the source is a line of the program, and whole counts are written by tests of several threads.
+# Counts which lines and branches of the plugin run, for scripts/coverage. What is counted is not
+# optimised, so that a line of the source is a line of the program; everything else is, as some tests
+# measure time. Tests of several threads write whole counts.
 if(CLOCK_COVERAGE)
-    add_compile_options(--coverage -O0 -fprofile-update=atomic)
+    set(CLOCK_COUNTED_OPTIONS --coverage -O0 -fprofile-update=atomic)
     add_link_options(--coverage)
 endif()
