@@ -3,38 +3,12 @@
 #include "year_ink.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace ClockFit {
 
 using namespace Lw::HNodeClock;
 
 namespace {
-
-// The first day on which the two parts overlap (UTC milliseconds), and the overlap on that day.
-struct Common
-{
-    int pixels = 0;
-    qint64 day = 0;
-};
-
-Common FirstCommon(const PartInk &one, const PartInk &other, qint64 begin)
-{
-    if (one.year.Common(other.year) == 0)
-        return {};
-    const std::vector<DayInk> always = {{begin, std::numeric_limits<qint64>::max(), {}}};
-    const std::vector<DayInk> &days = one.days.empty() ? always : one.days;
-    const std::vector<DayInk> &otherDays = other.days.empty() ? always : other.days;
-    for (std::size_t i = 0, j = 0; i < days.size() && j < otherDays.size();) {
-        const InkMask &mask = one.days.empty() ? one.year : days[i].mask;
-        const InkMask &otherMask = other.days.empty() ? other.year : otherDays[j].mask;
-        const int pixels = mask.Common(otherMask);
-        if (pixels > 0)
-            return {pixels, std::max(days[i].begin, otherDays[j].begin)};
-        ++(days[i].end <= otherDays[j].end ? i : j);
-    }
-    return {};
-}
 
 bool IsHand(const PartInk &ink)
 {
@@ -82,7 +56,7 @@ private:
     // An overlap without hands takes precedence over one with hands.
     void Take(ClockOverlap &most, const PartInk &under, const PartInk &over)
     {
-        const Common common = FirstCommon(under, over, m_check.CheckedYear().begin);
+        const CommonInk common = FirstCommon(under, over, m_check.CheckedYear().begin);
         const bool isOfHands = IsHand(under) || IsHand(over);
         const bool isMore =
             most.isOfHands == isOfHands ? common.pixels > most.pixels : most.isOfHands;

@@ -10,6 +10,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
 
 namespace ClockFit {
 
@@ -139,6 +140,26 @@ std::vector<PartInk> YearInkOf(HClockNode &node, const GlyphSource &source, cons
     if (node.ClockType() == AnalogClock)
         ink.AddStill(Part::SecondHand, HandsDisc(node));
     return ink.Run();
+}
+
+CommonInk FirstCommon(const PartInk &one, const PartInk &other, qint64 begin)
+{
+    if (one.year.Common(other.year) == 0)
+        return {};
+    const std::vector<DayInk> always = {{begin, std::numeric_limits<qint64>::max(), {}}};
+    const std::vector<DayInk> &days = one.days.empty() ? always : one.days;
+    const std::vector<DayInk> &otherDays = other.days.empty() ? always : other.days;
+    for (std::size_t i = 0, j = 0; i < days.size() && j < otherDays.size();) {
+        const InkMask &mask = one.days.empty() ? one.year : days[i].mask;
+        const InkMask &otherMask = other.days.empty() ? other.year : otherDays[j].mask;
+        const bool areTogether =
+            days[i].begin < otherDays[j].end && otherDays[j].begin < days[i].end;
+        const int pixels = areTogether ? mask.Common(otherMask) : 0;
+        if (pixels > 0)
+            return {pixels, std::max(days[i].begin, otherDays[j].begin)};
+        ++(days[i].end <= otherDays[j].end ? i : j);
+    }
+    return {};
 }
 
 } // namespace ClockFit

@@ -22,6 +22,17 @@ struct PartInk
     std::vector<DayInk> days; ///< empty for parts that are the same every day
 };
 
+/// The ink that two parts have in common on a day.
+struct CommonInk
+{
+    int pixels = 0;
+    qint64 day = 0; ///< its beginning, UTC milliseconds
+};
+
+/// The first day from an instant on with ink in common. Days begin and end at midnight in each
+/// clock's own zone; those that are together for a part of them count, too.
+CommonInk FirstCommon(const PartInk &one, const PartInk &other, qint64 begin);
+
 /// The parts in screen pixels; topLeft is that of the area. Hands are represented by the disc that
 /// they sweep over. A picture clock has one part, stored as HourMarks.
 std::vector<PartInk> YearInkOf(Lw::HNodeClock::HClockNode &node,
