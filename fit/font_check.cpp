@@ -35,10 +35,23 @@ QString TextOf(const QVector<uint> &characters)
     return QString::fromUcs4(characters.constData(), characters.size());
 }
 
-// Invisible characters and those that only modify others need no glyph.
+bool IsVariationSelector(uint character)
+{
+    return (character >= 0xFE00 && character <= 0xFE0F)
+        || (character >= 0xE0100 && character <= 0xE01EF);
+}
+
+// Invisible characters need no glyph. Those for private use do: fonts of symbols have them.
 bool NeedsGlyph(uint character)
 {
-    return QChar::isPrint(character) && !QChar::isSpace(character);
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+        return false;
+    default:
+        return !QChar::isSpace(character) && !IsVariationSelector(character);
+    }
 }
 
 // Checks the family itself, without Qt's fallback families.

@@ -93,6 +93,12 @@ const Finding kFindings[] = {
                   "<date display=\"false\"/><week display=\"false\"/>"
                   "<time display=\"false\"/>")),
      kNote, QString::fromUtf8("the family \"DejaVu Sans\" of the title lacks \"北\": ")},
+    {"a symbol that is not in the font",
+     Wall(Digital("<title display=\"true\" value=\"&#xE000;\" fontName=\"DejaVu Sans Mono\"/>\n"
+                  "<date display=\"false\"/><week display=\"false\"/>"
+                  "<time display=\"false\"/>")),
+     kWarning,
+     QString::fromUtf8("the family \"DejaVu Sans Mono\" of the title lacks \"\xEE\x80\x80\": ")},
     {"small dial",
      Wall("<clock type=\"dial\"><title display=\"false\"/><date display=\"false\"/>\n"
           "<week display=\"false\"/><ampm display=\"false\"/></clock>",
