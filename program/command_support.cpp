@@ -1,6 +1,7 @@
 #include "command_support.h"
 
 #include "catalogues.h"
+#include "whole_file.h"
 
 #include <QCommandLineParser>
 
@@ -55,16 +56,7 @@ Failure UsageFailure(const QString &text)
 
 MaybeFailure PrintText(const QString &text)
 {
-    return PrintBytes(text.toLocal8Bit());
-}
-
-MaybeFailure PrintBytes(const QByteArray &bytes)
-{
-    if (std::fputs(bytes.constData(), stdout) >= 0 && std::fflush(stdout) == 0)
-        return std::nullopt;
-    return Failure {
-        ExitCode::RuntimeFailure,
-        QStringLiteral("cannot write to standard output: %1").arg(qt_error_string(errno))};
+    return WriteStandardOutput(text.toLocal8Bit());
 }
 
 void PrintErrorLines(const char *program, const QString &text)

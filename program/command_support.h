@@ -41,9 +41,7 @@ QString HelpText(const QCommandLineParser &parser, const QString &usage);
 /// A command-line error.
 Failure UsageFailure(const QString &text);
 
-/// Writes to standard output and flushes it. A failure gives the system's reason.
-MaybeFailure PrintBytes(const QByteArray &bytes);
-/// The same in the locale's encoding.
+/// Writes to standard output in the locale's encoding. A failure gives the system's reason.
 MaybeFailure PrintText(const QString &text);
 
 /// Prints a text's lines to standard error, each prefixed with the program's name.

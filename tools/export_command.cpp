@@ -79,9 +79,9 @@ void ShowProgress(int clock, int count)
 }
 
 /// For programs that show it as a bar.
-void SayPercentage(int clock, int count)
+void SayPercentage(int percentage)
 {
-    std::printf("%d%%\n", 100 * clock / count);
+    std::printf("%d%%\n", percentage);
     std::fflush(stdout);
 }
 
@@ -108,10 +108,14 @@ CommandResult RunExport(const QStringList &arguments)
     SayWhatStaysBehind(clocks);
     const bool saysPercentage = tool.IsSet(kProgress);
     const auto progress = [&clocks, saysPercentage](int clock) {
-        saysPercentage ? SayPercentage(clock, clocks.Count()) : ShowProgress(clock, clocks.Count());
+        saysPercentage ? SayPercentage(100 * (clock - 1) / clocks.Count())
+                       : ShowProgress(clock, clocks.Count());
     };
-    const MaybeFailure failure = ExportProgram(clocks, directory, progress);
-    return failure ? Report(*failure) : ExitCode::Success;
+    if (const MaybeFailure failure = ExportProgram(clocks, directory, progress))
+        return Report(*failure);
+    if (saysPercentage)
+        SayPercentage(100);
+    return ExitCode::Success;
 }
 
 } // namespace ClockTool

@@ -5,6 +5,7 @@
 #include "lint/finding.h"
 #include "lint/program_lint.h"
 #include "tool_arguments.h"
+#include "whole_file.h"
 #include "xml_document.h"
 
 #include "hnode.h"
@@ -58,7 +59,7 @@ MaybeFailure ShowAsJson(const Findings &findings, const QString &path)
     QByteArray lines;
     for (const Finding &finding : findings.ByLine())
         lines += FindingJson(finding, path);
-    return ClockProgram::PrintBytes(lines);
+    return ClockProgram::WriteStandardOutput(lines);
 }
 
 // The options of a lint run.
