@@ -47,8 +47,8 @@ void ScreenGuard::Watch()
         quint64 expirations = 0;
         if (::read(m_timer, &expirations, sizeof expirations) < 0)
             continue;
-        m_hasBlanked = true;
         m_blank();
+        m_hasBlanked = true; // last: the window is repainted once it is seen
     }
 }
 

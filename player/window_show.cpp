@@ -8,7 +8,6 @@
 #include "hnode.h"
 #include "node_keys.h"
 
-#include <QCryptographicHash>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
@@ -239,9 +238,7 @@ MaybeFailure WindowShow::Show(const Program &program)
     m_notice.reset();
     connect(stage.get(), &Stage::Restarted, this, &WindowShow::CheckRestarted);
     m_playback.Play(std::move(stage));
-    if (const Result<QByteArray> contents = ReadContents(program.path))
-        m_digest = QString::fromLatin1(
-            QCryptographicHash::hash(*contents, QCryptographicHash::Sha256).toHex());
+    m_digest = QString::fromLatin1(program.digest.toHex());
     const QSize display = QGuiApplication::primaryScreen()->size();
     const QRect picture = m_window.Picture();
     if (m_options.isKiosk && !QRect(QPoint(), display).contains(picture))

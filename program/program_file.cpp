@@ -2,6 +2,7 @@
 
 #include "command_support.h"
 
+#include <QCryptographicHash>
 #include <QStringList>
 
 namespace ClockProgram {
@@ -160,7 +161,10 @@ Result<Program> ParseProgram(const QByteArray &contents, const QString &path)
     const Result<QDomDocument> document = ParseDocument(contents, path);
     if (!document)
         return document.Error();
-    return InterpretProgram(*document, path);
+    Result<Program> program = InterpretProgram(*document, path);
+    if (program)
+        program->digest = QCryptographicHash::hash(contents, QCryptographicHash::Sha256);
+    return program;
 }
 
 Result<Program> InterpretProgram(const QDomDocument &document, const QString &path)

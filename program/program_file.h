@@ -50,6 +50,7 @@ struct Program
     QSize size;
     QVector<ProgramArea> areas;
     QDomDocument document; ///< keeps the elements alive
+    QByteArray digest;     ///< SHA-256 of the text that was parsed; empty for a document alone
 };
 
 /// Memory of the frames needed to play a program, in bytes: two screens and three frames per area.
