@@ -106,6 +106,12 @@ void ProgramFiles::KeepWork()
     }
 }
 
+void ProgramFiles::GiveUp()
+{
+    m_store.Forget();
+    m_keptText.clear(); // it is stored again if it stays open, as when another file cannot be read
+}
+
 void ProgramFiles::SetPath(const QString &path, const QByteArray &contents)
 {
     if (!m_watcher.files().isEmpty())

@@ -38,7 +38,7 @@ public:
     void Recover(const UnsavedWork &work);
     QVector<UnsavedWork> Recoverable() const { return m_store.Recoverable(); }
     /// Discards unsaved work.
-    void GiveUp() { m_store.Forget(); }
+    void GiveUp();
     /// Stores unsaved work now; also runs every four seconds.
     void KeepWork();
 

@@ -47,12 +47,14 @@ ToolCommand ScriptAt(const WallTarget &target, const QString &script)
             SshOptions(target) << QStringLiteral("--") << target.Login() << script};
 }
 
+/// The words of a command as rsync splits it: a quote within quotes is doubled.
 QString SshForRsync(const WallTarget &target)
 {
-    QStringList words {QStringLiteral("ssh")};
-    for (const QString &option : SshOptions(target))
-        words.append(option.contains(QLatin1Char(' ')) ? Quoted(option) : option);
-    return words.join(QLatin1Char(' '));
+    QString command = QStringLiteral("ssh");
+    for (QString option : SshOptions(target))
+        command +=
+            QStringLiteral(" '%1'").arg(option.replace(QLatin1Char('\''), QLatin1String("''")));
+    return command;
 }
 
 QString ReleasePath(const QString &release)

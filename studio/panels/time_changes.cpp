@@ -1,6 +1,6 @@
 #include "time_changes.h"
 
-#include "calendar/lunar_calendar.h"
+#include "calendar/lunar_date.h"
 
 #include <QDateTime>
 
@@ -10,7 +10,6 @@ namespace ClockStudio {
 
 namespace {
 
-using Lw::HNodeClock::InLunarRange;
 using Lw::HNodeClock::ZoneSettings;
 
 constexpr qint64 kSecond = 1000;
@@ -35,9 +34,7 @@ qint64 MidnightOf(const ZoneSettings &clock, const QDate &date)
 
 bool IsLunarMonthStart(const QDate &date)
 {
-    if (!InLunarRange(date.year(), date.month(), date.day()))
-        return false;
-    return QByteArray(LunarCalendarSetup(date.year(), date.month(), date.day())).endsWith("$01");
+    return Lw::HNodeClock::LunarDateOf(date).day == 1;
 }
 
 /// The first date after the given one on which such a change happens; invalid if there is none.

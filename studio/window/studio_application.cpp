@@ -41,15 +41,8 @@ void LoadTranslations(QApplication &application)
 bool HasDisplay(int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i) {
-        const bool needsNone = std::strcmp(argv[i], "--help") == 0
-            || std::strcmp(argv[i], "-h") == 0 || std::strcmp(argv[i], "--version") == 0
-            || std::strcmp(argv[i], "-v") == 0;
         if (std::strcmp(argv[i], "-platform") == 0)
             return true;
-        if (needsNone) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-            return true;
-        }
     }
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
         || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");

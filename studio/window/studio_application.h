@@ -9,8 +9,7 @@ QT_END_NAMESPACE
 
 namespace ClockStudio {
 
-/// Whether a window can be opened, judging by the environment and the arguments. Selects the
-/// offscreen platform for --help and --version.
+/// Whether a window can be opened, judging by the environment and the arguments.
 bool HasDisplay(int argc, char **argv);
 
 /// Sets names, icon, translations and the layout direction.

@@ -49,6 +49,7 @@ private slots:
     void SavedWorkIsNotRecovered();
     void Recent();
     void KeepsWhatIsTypedOn();
+    void KeepsWhatWasGivenUp();
     void FullDiskKeepsFileAndWork();
     void ReadOnlyDiskKeepsFileAndWork();
 };
@@ -232,6 +233,23 @@ void TestProgramFiles::KeepsWhatIsTypedOn()
         QVERIFY(ContentsOf(directory + '/' + kept.first()).contains(document.Text().toUtf8()));
     }
     QCOMPARE(document.History().count(), 1);
+}
+
+// Work is given up for another program, which then cannot be read: the work goes on.
+void TestProgramFiles::KeepsWhatWasGivenUp()
+{
+    const QTemporaryDir work;
+    const QString directory = work.filePath("recovery");
+    StudioDocument document;
+    ProgramFiles files(document, directory);
+    files.Begin(kWall);
+    document.Change(Widened(document), "wider");
+    files.KeepWork();
+    files.GiveUp();
+    QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 0);
+    QVERIFY(files.Open(work.filePath("missing.xml")));
+    files.KeepWork();
+    QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 1);
 }
 
 void TestProgramFiles::FullDiskKeepsFileAndWork()

@@ -82,6 +82,8 @@ int SocketAt(quint16 &port)
     return isGood ? made : -1;
 }
 
+const QString kClientKey = "the client's key"; // a file name that takes quoting
+
 /// A server for ssh on this machine, with a key of its own that lets this user in.
 class SshServer
 {
@@ -89,8 +91,8 @@ public:
     SshServer()
     {
         const QString server = QStandardPaths::findExecutable("sshd", {"/usr/sbin"});
-        if (server.isEmpty() || !MakeKey("host") || !MakeKey("client")
-            || !QFile::copy(m_work.filePath("client.pub"), m_work.filePath("authorized")))
+        if (server.isEmpty() || !MakeKey("host") || !MakeKey(kClientKey)
+            || !QFile::copy(m_work.filePath(kClientKey) + ".pub", m_work.filePath("authorized")))
             return;
         close(SocketAt(m_port));
         m_server.start(server,
@@ -107,7 +109,7 @@ public:
     }
 
     bool IsThere() const { return m_isThere; }
-    QString Key() const { return m_work.filePath("client"); }
+    QString Key() const { return m_work.filePath(kClientKey); }
     QString Host() const
     {
         return qEnvironmentVariable("USER", "root") + QStringLiteral("@127.0.0.1:%1").arg(m_port);
