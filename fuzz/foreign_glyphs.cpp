@@ -72,7 +72,7 @@ void WritePicture(const QString &path, Fuzz::Input &input)
     picture.save(path, input.Choice(4) == 1 ? "bmp" : "png");
 }
 
-// Frames over a month: every month's name and every weekday's is asked for now and then.
+// Frames now, a second later, and half a day after that.
 void DrawFrames(HClockNode &node)
 {
     DrawDisplayImage drawer(&node);

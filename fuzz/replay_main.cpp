@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -36,11 +37,13 @@ bool Replay(const QString &path)
 int main(int argc, char **argv)
 {
     LLVMFuzzerInitialize(&argc, &argv);
-    int replayed = 0;
+    bool isComplete = argc > 1;
     for (int i = 1; i < argc; ++i) {
-        for (const QString &path : FilesAt(QFile::decodeName(argv[i])))
-            replayed += Replay(path) ? 1 : 0;
+        const QStringList files = FilesAt(QFile::decodeName(argv[i]));
+        if (files.isEmpty() || !std::all_of(files.begin(), files.end(), &Replay)) {
+            std::fprintf(stderr, "%s: no input, or one that cannot be read\n", argv[i]);
+            isComplete = false;
+        }
     }
-    std::fprintf(stderr, "%d inputs replayed\n", replayed);
-    return replayed > 0 ? 0 : 1;
+    return isComplete ? 0 : 1;
 }

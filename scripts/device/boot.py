@@ -50,7 +50,10 @@ def read_arguments():
                         help="may be repeated: " + ", ".join(names))
     parser.add_argument("build", type=Path, help="build directory of the player for 32-bit ARM")
     parser.add_argument("sysroot", type=Path, help="sysroot it was built with")
-    return parser.parse_args()
+    arguments = parser.parse_args()
+    if arguments.short and not set(arguments.only or names) & set(ShortChecks.CHECKS):
+        parser.error("--short has none of the checks that --only names")
+    return arguments
 
 
 def chosen(arguments):
