@@ -47,7 +47,7 @@ using Open = int (*)(const char *, int, ...);
 int CountedOpen(Open next, const char *path, int flags, va_list arguments)
 {
     s_filesOpened.fetch_add(1, std::memory_order_relaxed);
-    const auto mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    const auto mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
     return next(path, flags, mode);
 }
 
