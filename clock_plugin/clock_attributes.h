@@ -36,7 +36,8 @@ inline constexpr const char *kDates[] = {"year/month/day",
 inline constexpr const char *kTimes[] = {
     "hours:minutes:seconds", "hours:minutes", "hours, minutes and seconds with labels",
     "hours and minutes with labels", "hours:minutes without a leading zero"};
-inline constexpr const char *kWeeks[] = {"Chinese", "English", "short English", "Persian"};
+inline constexpr const char *kWeeks[] = {"language of the clocks", "English", "short English",
+                                         "Persian"};
 inline constexpr const char *kHours[] = {"twenty-four hours", "twelve hours"};
 inline constexpr const char *kLayouts[] = {"rows", "one line"};
 } // namespace CodeNames

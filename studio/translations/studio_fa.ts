@@ -272,8 +272,8 @@
         <translation>ساعت:دقیقه بدون صفر آغازین</translation>
     </message>
     <message>
-        <source>Chinese</source>
-        <translation>چینی</translation>
+        <source>language of the clocks</source>
+        <translation>زبان ساعت‌ها</translation>
     </message>
     <message>
         <source>English</source>

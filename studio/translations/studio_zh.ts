@@ -272,8 +272,8 @@
         <translation>时:分，无前导零</translation>
     </message>
     <message>
-        <source>Chinese</source>
-        <translation>中文</translation>
+        <source>language of the clocks</source>
+        <translation>时钟的语言</translation>
     </message>
     <message>
         <source>English</source>
