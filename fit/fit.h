@@ -170,6 +170,10 @@ private:
     GlyphImages m_images;
 };
 
+/// The files of a picture clock's style (any number) that cannot be read beside this program: the
+/// dial's first, then those of the hands. By name, without the folder.
+QStringList UnreadableStyleFiles(int style);
+
 /// The largest size of one part at which it is not cut.
 struct PartSize
 {

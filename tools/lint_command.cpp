@@ -82,6 +82,7 @@ void LintClocks(const QDomDocument &document, const QString &path, const Choices
     if (!made)
         return LintAreas(*program, findings);
     LintGlyphs(*program, *made, findings);
+    LintStyles(*program, *made, findings);
     LintValidity(*program, *made, choices.begin, findings);
     const bool isLarge =
         ClockProgram::CheckFrameBytes(*program).has_value(); // which LintProgram() reports

@@ -1,6 +1,7 @@
 // What lint finds, in which line, and what it suggests.
 #include "tool_process.h"
 
+#include <QImage>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -321,6 +322,7 @@ private slots:
     void SeveralPrograms_data();
     void SeveralPrograms();
     void SystemWithoutFonts();
+    void StylePictures();
     void ManyFindings();
 
 private:
@@ -566,6 +568,34 @@ void TestToolLint::SystemWithoutFonts()
     QCOMPARE(warnings.size(), 1);
     QVERIFY2(warnings.first().endsWith("no font is installed, so no text can be drawn"),
              qPrintable(warnings.first()));
+}
+
+// The tool looks where the player does: beside itself.
+void TestToolLint::StylePictures()
+{
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath("bin/clock_tool");
+    const QString program = folder.filePath("picture.xml");
+    QVERIFY(QDir().mkpath(folder.filePath("bin")) && QFile::copy(QStringLiteral(TOOL), copy));
+    QVERIFY(WriteText(program,
+                      ProgramOf("<clock type='picture' timezone='+00:00'>\n"
+                                "<attribute key='PictrueClockType' value='2'/></clock>")));
+    QCOMPARE(Warnings(RunTool({"lint", "--no-fit", program}).errors), QStringList());
+    QStringList told = Warnings(RunProcess(copy, {"lint", "--no-fit", program}).errors);
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told.first().contains(
+                 "picture.xml:2: warning: cannot read picbutton2.png, hour.png, minute.png, "
+                 "second.png, center.png in "),
+             qPrintable(told.first()));
+
+    QVERIFY(QDir().mkpath(folder.filePath("image/ClockType")));
+    QImage picture(20, 20, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    for (const char *const name : {"picbutton2", "hour", "minute", "center"})
+        QVERIFY(picture.save(folder.filePath("image/ClockType/%1.png").arg(name)));
+    told = Warnings(RunProcess(copy, {"lint", "--no-fit", program}).errors);
+    QCOMPARE(told.size(), 1);
+    QVERIFY2(told.first().contains("cannot read second.png in "), qPrintable(told.first()));
 }
 
 // However much is wrong with one program, the next one is heard of.

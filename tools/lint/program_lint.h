@@ -23,6 +23,10 @@ void LintAreas(const ClockProgram::Program &program, Findings &findings);
 void LintGlyphs(const ClockProgram::Program &program, const ClockProgram::MadeNodes &made,
                 Findings &findings);
 
+/// Picture clocks whose pictures cannot be read beside this program, where the player's are too.
+void LintStyles(const ClockProgram::Program &program, const ClockProgram::MadeNodes &made,
+                Findings &findings);
+
 /// Parts of clocks that are cut, covered, invisible or missing from their font in the year that
 /// begins at an instant, in milliseconds since 1970-01-01 UTC.
 void LintFit(const ClockProgram::Program &program, const ClockProgram::MadeNodes &made,

@@ -5,12 +5,12 @@
 #include "calendar/device_clock.h"
 #include "display/draw_display_image.h"
 #include "display/style_pictures.h"
+#include "fit.h"
 #include "glyph/glyph_set.h"
 #include "happconfig.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QtEndian>
 
 namespace ClockTool {
@@ -55,12 +55,12 @@ CheckResult CheckFrame(const QString &what, int type, const QString &directory,
     return {what, Outcome::Failed, QStringLiteral("the frame differs from the expected one")};
 }
 
-QStringList StylePictures()
+QStringList UnreadablePictures()
 {
-    QStringList names {kHourPicture, kMinutePicture, kSecondPicture, kCentrePicture};
+    QStringList files;
     for (int style = 1; style <= kStyleCount; ++style)
-        names.append(DialPicture(style));
-    return names;
+        files += ClockFit::UnreadableStyleFiles(style);
+    return files;
 }
 
 /// The pictures depend on the installation, so there is no digest: checks that all can be read and
@@ -72,10 +72,9 @@ CheckResult CheckPictureClock()
         return {
             what, Outcome::NotChecked,
             QStringLiteral("no pictures in %1").arg(QFileInfo(StyleFolder()).absoluteFilePath())};
-    for (const QString &name : StylePictures()) {
-        if (QImageReader(StyleFolder() + name).read().isNull())
-            return {what, Outcome::Failed, QStringLiteral("%1 cannot be read").arg(name)};
-    }
+    const QStringList unreadable = UnreadablePictures();
+    if (!unreadable.isEmpty())
+        return {what, Outcome::Failed, QStringLiteral("%1 cannot be read").arg(unreadable.first())};
     HClockNode clock;
     SetUpBlotClock(clock, PictureClock, QString());
     DrawDisplayImage drawer(&clock);
