@@ -5,6 +5,7 @@
 #include "text/program_edits.h"
 
 #include "clock_attributes.h"
+#include "clock_finder.h"
 #include "clock_node.h"
 #include "lint/clock_words.h"
 #include "lint/program_lint.h"
@@ -18,15 +19,26 @@ namespace {
 
 using ClockTool::Finding;
 
-bool HasFinding(const QString &text, const TextForm &form, const QString &sentence)
+bool HasFinding(const QString &text, const TextForm &form, const QString &sentence, qint64 instant)
 {
     const auto read = ReadProgramText(text, form);
     const auto *const parsed = std::get_if<ParsedProgram>(&read);
     if (!parsed)
         return true;
-    const QVector<Finding> findings = FindingsIn(*parsed);
+    const QVector<Finding> findings = FindingsIn(*parsed, instant);
     return std::any_of(findings.cbegin(), findings.cend(),
                        [&sentence](const Finding &finding) { return finding.text == sentence; });
+}
+
+/// The checks that are quick enough for the thread of the window.
+void LintClocks(const ClockProgram::Program &program, qint64 instant, ClockTool::Findings &findings)
+{
+    ClockTool::LintAreas(program, findings);
+    const auto made = ClockProgram::MakeNodes(program, ClockTool::FindClockPlugin);
+    if (!made)
+        return;
+    ClockTool::LintStyles(program, *made, findings);
+    ClockTool::LintValidity(program, *made, instant, findings);
 }
 
 /// The ranges that the suggestion may replace: a value, an attribute's name, or a key.
@@ -62,7 +74,7 @@ bool IsTooSmallText(const ParsedProgram &parsed, const Finding &finding)
 
 } // namespace
 
-QVector<Finding> FindingsIn(const ParsedProgram &parsed)
+QVector<Finding> FindingsIn(const ParsedProgram &parsed, qint64 instant)
 {
     const std::optional<QByteArray> contents = EncodeText(parsed.text, parsed.form);
     if (!contents)
@@ -70,7 +82,7 @@ QVector<Finding> FindingsIn(const ParsedProgram &parsed)
     const QDomDocument &document = parsed.program.document;
     ClockTool::Findings findings = ClockTool::LintProgram(document, *contents, QString());
     if (const auto program = ClockProgram::InterpretProgram(document, QString()))
-        ClockTool::LintAreas(*program, findings);
+        LintClocks(*program, instant, findings);
     return findings.ByLine();
 }
 
@@ -100,10 +112,12 @@ QString KeyOf(const Finding &finding, int clockType)
     const QString element =
         finding.place.element == QLatin1String("clock") ? QString() : finding.place.element;
     const auto settings = ClockTool::SettingsReadFrom(clockType, element, finding.place.attribute);
-    return settings.isEmpty() ? QString() : Key(settings.last().target);
+    if (!settings.isEmpty())
+        return Key(settings.last().target);
+    return RowNamed(finding.place.attribute) ? finding.place.attribute : QString();
 }
 
-std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const Finding &finding)
+std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const Finding &finding, qint64 instant)
 {
     const int element = ElementOf(parsed, finding);
     if (finding.suggestion.isEmpty() || element < 0 || IsTooSmallText(parsed, finding))
@@ -113,7 +127,7 @@ std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const Finding &findin
             Replacement(parsed.text, range, EscapedValue(finding.suggestion, QLatin1Char('"'))));
         QString text = parsed.text;
         ApplyEdits(text, {edit});
-        if (!HasFinding(text, parsed.form, finding.text))
+        if (!HasFinding(text, parsed.form, finding.text, instant))
             return edit;
     }
     return std::nullopt;

@@ -9,8 +9,9 @@
 
 namespace ClockStudio {
 
-/// What lint finds in a program, without duplicates, in text order.
-QVector<ClockTool::Finding> FindingsIn(const ParsedProgram &parsed);
+/// What lint finds in a program at an instant (UTC milliseconds) but for the checks of its glyph
+/// images and of a year, without duplicates, in text order.
+QVector<ClockTool::Finding> FindingsIn(const ParsedProgram &parsed, qint64 instant);
 
 /// The element that a finding is about; -1 if it is about the whole file.
 int ElementOf(const ParsedProgram &parsed, const ClockTool::Finding &finding);
@@ -20,6 +21,7 @@ QString KeyOf(const ClockTool::Finding &finding, int clockType);
 
 /// The edit that applies a finding's suggestion, if the finding then disappears. None for texts too
 /// small to read.
-std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const ClockTool::Finding &finding);
+std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const ClockTool::Finding &finding,
+                              qint64 instant);
 
 } // namespace ClockStudio

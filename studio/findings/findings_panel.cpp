@@ -1,6 +1,10 @@
 #include "findings_panel.h"
 
+#include "finding_words.h"
+
+#include "calendar/system_time.h"
 #include "clock_node.h"
+#include "clock_status.h"
 
 #include <QEventLoop>
 #include <QHBoxLayout>
@@ -23,10 +27,16 @@ constexpr int kDelay = 400;
 
 FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
     : QWidget(parent), m_editor(editor), m_list(new QListWidget), m_fix(new QPushButton(tr("Fix"))),
-      m_none(new QLabel)
+      m_none(new QLabel), m_unchecked(new QLabel)
 {
-    auto *const layout = new QHBoxLayout(this);
-    layout->setContentsMargins(8, 6, 8, 6);
+    auto *const all = new QVBoxLayout(this);
+    all->setContentsMargins(8, 6, 8, 6);
+    auto *const layout = new QHBoxLayout;
+    all->addLayout(layout, 1);
+    all->addWidget(m_unchecked);
+    m_none->setObjectName(QStringLiteral("note"));
+    m_unchecked->setWordWrap(true);
+    m_unchecked->hide();
     m_list->setWordWrap(true);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setAccessibleName(tr("Findings"));
@@ -39,6 +49,7 @@ FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
     connect(&editor.Document(), &StudioDocument::Read, &m_delay, QOverload<>::of(&QTimer::start));
     connect(&editor.Document(), &StudioDocument::Read, &m_fit, &FitCheck::Drop);
     connect(&m_fit, &FitCheck::Found, this, &FindingsPanel::List);
+    connect(&m_fit, &FitCheck::Failed, this, &FindingsPanel::SayUnchecked);
     connect(&m_delay, &QTimer::timeout, this, &FindingsPanel::Check);
     connect(m_list, &QListWidget::currentRowChanged, this, &FindingsPanel::Select);
     connect(m_fix, &QPushButton::clicked, this, &FindingsPanel::Fix);
@@ -52,9 +63,17 @@ void FindingsPanel::Check()
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
     const auto bytes = m_editor.Document().Bytes();
     const bool hasClocks = parsed && parsed->AreaCount() > 0;
-    List(hasClocks ? FindingsIn(*parsed) : QVector<ClockTool::Finding>());
+    List(hasClocks ? FindingsIn(*parsed, Lw::HNodeClock::SystemMilliseconds())
+                   : QVector<ClockTool::Finding>());
+    m_unchecked->hide();
     if (hasClocks && bytes)
         m_fit.Start(*bytes);
+}
+
+void FindingsPanel::SayUnchecked(const QString &reason)
+{
+    m_unchecked->setText(tr("The days of a year are not checked: %1").arg(reason));
+    m_unchecked->show();
 }
 
 void FindingsPanel::CheckAll()
@@ -94,11 +113,13 @@ void FindingsPanel::List(const QVector<ClockTool::Finding> &findings)
         static_cast<int>(std::count_if(m_findings.cbegin(), m_findings.cend(), isWarning)));
 }
 
-QString FindingsPanel::TextOf(const ClockTool::Finding &finding)
+QString FindingsPanel::TextOf(const ClockTool::Finding &finding) const
 {
-    const QString where =
-        finding.place.clock > 0 ? tr("Clock %1: ").arg(finding.place.clock) : QString();
-    return where + finding.text;
+    if (finding.place.clock < 1)
+        return finding.text;
+    const auto zone = ClockStage::SettingsOf(m_editor.Wall().Clock(finding.place.clock - 1));
+    return tr("Clock %1: ").arg(finding.place.clock)
+        + (zone ? WithLocalTimes(finding.text, *zone) : finding.text);
 }
 
 void FindingsPanel::Add(const ClockTool::Finding &finding)
@@ -111,11 +132,17 @@ void FindingsPanel::Add(const ClockTool::Finding &finding)
     item->setToolTip(tr("Line %1").arg(finding.place.line));
 }
 
-void FindingsPanel::UpdateFix()
+std::optional<TextEdit> FindingsPanel::FixFor(int row) const
 {
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
-    const int row = m_list->currentRow();
-    m_fix->setEnabled(parsed && row >= 0 && FixOf(*parsed, m_findings[row]).has_value());
+    if (!parsed || row < 0 || row >= m_findings.size())
+        return std::nullopt;
+    return FixOf(*parsed, m_findings[row], Lw::HNodeClock::SystemMilliseconds());
+}
+
+void FindingsPanel::UpdateFix()
+{
+    m_fix->setEnabled(FixFor(m_list->currentRow()).has_value());
 }
 
 void FindingsPanel::Select(int row)
@@ -137,11 +164,7 @@ void FindingsPanel::Select(int row)
 
 void FindingsPanel::Fix()
 {
-    const ParsedProgram *const parsed = m_editor.Document().Parsed();
-    const int row = m_list->currentRow();
-    if (!parsed || row < 0 || row >= m_findings.size())
-        return;
-    if (const auto edit = FixOf(*parsed, m_findings[row]))
+    if (const auto edit = FixFor(m_list->currentRow()))
         m_editor.Document().Change({*edit}, tr("Fix"));
     Check();
 }

@@ -29,8 +29,8 @@ public:
     void Check();
     /// The same, and waits for all of it while events are handled.
     void CheckAll();
-    /// As listed, with the number of the clock.
-    static QString TextOf(const ClockTool::Finding &finding);
+    /// As listed: with the number of the clock, and times as it shows them.
+    QString TextOf(const ClockTool::Finding &finding) const;
 
 Q_SIGNALS:
     void CountChanged(int count); ///< of warnings
@@ -40,7 +40,9 @@ Q_SIGNALS:
 private:
     void List(const QVector<ClockTool::Finding> &findings);
     void Add(const ClockTool::Finding &finding);
+    void SayUnchecked(const QString &reason);
     void Select(int row);
+    std::optional<TextEdit> FixFor(int row) const;
     void UpdateFix();
     void Fix();
 
@@ -48,6 +50,7 @@ private:
     QListWidget *m_list;
     QPushButton *m_fix;
     QLabel *m_none;
+    QLabel *m_unchecked; ///< why the list lacks the findings of a year
     QTimer m_delay;
     FitCheck m_fit;
     QVector<ClockTool::Finding> m_findings;

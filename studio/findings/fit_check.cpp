@@ -12,8 +12,8 @@ namespace {
 
 using ClockTool::Finding;
 
-constexpr int kLimit = 120'000;    // milliseconds
-constexpr int kMaxFindings = 1000; // more are no help to anybody
+constexpr int kLimit = 2 * 60 * 1000; // milliseconds
+constexpr int kMaxFindings = 1000;    // listed
 
 Finding FindingOf(const QJsonObject &object)
 {
@@ -42,7 +42,7 @@ FitCheck::FitCheck(QObject *parent) : QObject(parent)
             &FitCheck::Take);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
-            emit Ended();
+            Fail(tr("%1 is missing or cannot be started.").arg(m_process.program()));
     });
 }
 
@@ -75,10 +75,8 @@ void FitCheck::Begin()
     const QString path = m_work.filePath(QStringLiteral("program.xml"));
     const std::optional<QString> problem = SaveFile(path, *m_next);
     m_next.reset();
-    if (problem) {
-        emit Ended();
-        return;
-    }
+    if (problem)
+        return Fail(*problem);
     const ToolCommand command = LintCommand(path);
     m_process.start(command.program, command.arguments, QIODevice::ReadOnly);
     m_limit.start();
@@ -86,6 +84,7 @@ void FitCheck::Begin()
 
 void FitCheck::Take(int exitCode, QProcess::ExitStatus status)
 {
+    const bool isLate = !m_limit.isActive();
     m_limit.stop();
     const QByteArray output = m_process.readAllStandardOutput();
     if (m_next)
@@ -96,9 +95,22 @@ void FitCheck::Take(int exitCode, QProcess::ExitStatus status)
         if (document.isObject() && findings.size() < kMaxFindings)
             findings.append(FindingOf(document.object()));
     }
+    if (m_isDropped) {
+        emit Ended();
+        return;
+    }
+    if (isLate)
+        return Fail(tr("it takes longer than two minutes."));
     // The tool ends with 1 where it warns, with more where it could not check.
-    if (!m_isDropped && status == QProcess::NormalExit && exitCode <= 1)
-        emit Found(findings);
+    if (status != QProcess::NormalExit || exitCode > 1)
+        return Fail(tr("%1 ended with code %2.").arg(m_process.program()).arg(exitCode));
+    emit Found(findings);
+    emit Ended();
+}
+
+void FitCheck::Fail(const QString &reason)
+{
+    emit Failed(reason);
     emit Ended();
 }
 

@@ -30,14 +30,17 @@ public:
     bool IsRunning() const { return m_process.state() != QProcess::NotRunning; }
 
 Q_SIGNALS:
-    /// In the order of the text. Not told where the tool cannot be run, or takes minutes, as it may
-    /// for hundreds of clocks above each other.
+    /// In the order of the text.
     void Found(const QVector<ClockTool::Finding> &findings);
-    void Ended(); ///< after Found, or without it
+    /// In place of Found: the tool cannot be run, or takes minutes, as it may for hundreds of
+    /// clocks above each other.
+    void Failed(const QString &reason);
+    void Ended(); ///< after either, or without if the check was dropped
 
 private:
     void Begin();
     void Take(int exitCode, QProcess::ExitStatus status);
+    void Fail(const QString &reason);
 
     QTemporaryDir m_work;
     std::optional<QByteArray> m_next; ///< to be checked when what runs has ended

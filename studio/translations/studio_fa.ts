@@ -696,6 +696,25 @@
         <source>The text is not a valid program.</source>
         <translation>متن یک برنامهٔ معتبر نیست.</translation>
     </message>
+    <message>
+        <source>The days of a year are not checked: %1</source>
+        <translation>روزهای یک سال بررسی نشده‌اند: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::FitCheck</name>
+    <message>
+        <source>%1 is missing or cannot be started.</source>
+        <translation>%1 موجود نیست یا اجرا نمی‌شود.</translation>
+    </message>
+    <message>
+        <source>%1 ended with code %2.</source>
+        <translation>%1 با کد %2 پایان یافت.</translation>
+    </message>
+    <message>
+        <source>it takes longer than two minutes.</source>
+        <translation>بیش از دو دقیقه طول می‌کشد.</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::Gallery</name>

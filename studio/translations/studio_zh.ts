@@ -696,6 +696,25 @@
         <source>The text is not a valid program.</source>
         <translation>文本不是有效的节目。</translation>
     </message>
+    <message>
+        <source>The days of a year are not checked: %1</source>
+        <translation>未检查一年中的各天：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ClockStudio::FitCheck</name>
+    <message>
+        <source>%1 is missing or cannot be started.</source>
+        <translation>%1 缺失或无法启动。</translation>
+    </message>
+    <message>
+        <source>%1 ended with code %2.</source>
+        <translation>%1 以代码 %2 结束。</translation>
+    </message>
+    <message>
+        <source>it takes longer than two minutes.</source>
+        <translation>用时超过两分钟。</translation>
+    </message>
 </context>
 <context>
     <name>ClockStudio::Gallery</name>

@@ -62,7 +62,7 @@ void MainWindow::SaveSheet()
     m_findings->CheckAll();
     QStringList findings;
     for (const ClockTool::Finding &finding : m_findings->Findings())
-        findings.append(FindingsPanel::TextOf(finding));
+        findings.append(m_findings->TextOf(finding));
     SayWritten(path, SaveFile(path, SheetPdf(m_files.Name(), m_wall, findings)));
 }
 

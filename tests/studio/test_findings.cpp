@@ -2,6 +2,7 @@
 // selects clock and property, a button fixes it.
 #include "studio_under_test.h"
 
+#include "findings/finding_words.h"
 #include "findings/findings_panel.h"
 
 #include "catalogues.h"
@@ -43,7 +44,7 @@ struct FindingsUnderTest
     /// What is written instead of a list.
     QString Note() const
     {
-        const auto *const note = panel.findChild<QLabel *>();
+        const auto *const note = panel.findChild<QLabel *>("note");
         return note->isVisible() ? note->text() : QString();
     }
     int RowWith(const QString &word) const
@@ -72,6 +73,8 @@ private slots:
     void InvalidTextHasNoFindings();
     void TypingDropsTheCheckOfTheYear();
     void EventsAreHandledDuringTheCheck();
+    void TimesAreThoseOfTheClock();
+    void EndOfRulesIsListedAtOnce();
 };
 
 void TestFindings::AppearsAndIsFixed()
@@ -166,6 +169,42 @@ void TestFindings::EventsAreHandledDuringTheCheck()
     test.panel.CheckAll();
     QVERIFY(isAlive);
     QVERIFY(test.RowWith("cut") >= 0);
+}
+
+// Berlin's clocks go forward at 01:00 UTC; India's offset has minutes.
+void TestFindings::TimesAreThoseOfTheClock()
+{
+    const Lw::HNodeClock::ZoneSettings berlin {3600, "3.Last.7.02:00:00", "10.Last.7.02:00:00"};
+    QCOMPARE(WithLocalTimes("from 2026-03-29T01:00:00Z on", berlin),
+             QString("from 2026-03-29 03:00:00 (UTC+02:00) on"));
+    QCOMPARE(WithLocalTimes("2026-03-29T00:59:59Z, 2026-12-31T23:30:00Z", berlin),
+             QString("2026-03-29 01:59:59 (UTC+01:00), 2027-01-01 00:30:00 (UTC+01:00)"));
+    QCOMPARE(WithLocalTimes("2026-01-01T00:00:00Z", {19800, {}, {}}),
+             QString("2026-01-01 05:30:00 (UTC+05:30)"));
+    QCOMPARE(WithLocalTimes("2026-01-01T00:00:00Z", {-12600, {}, {}}),
+             QString("2025-12-31 20:30:00 (UTC-03:30)"));
+    QCOMPARE(WithLocalTimes("no time, 2026-99-99T00:00:00Z", berlin),
+             QString("no time, 2026-99-99T00:00:00Z"));
+    FindingsUnderTest test(QByteArray(kCut).replace("+00:00", "+01:00"));
+    test.panel.CheckAll();
+    const QString listed = test.panel.findChild<QListWidget *>()->item(test.RowWith("cut"))->text();
+    QVERIFY2(listed.contains("(UTC+01:00)"), qPrintable(listed));
+}
+
+// Without the check of the year. Winnipeg left these rules in 2006.
+void TestFindings::EndOfRulesIsListedAtOnce()
+{
+    const QByteArray old = "timezone=\"-06:00\"><attribute key=\"UseDaylightSavingTime\" "
+                           "value=\"1\"/>\n<attribute key=\"DaylightSavingTimeStart\" "
+                           "value=\"4.1.7.02:00:00\"/>\n<attribute "
+                           "key=\"DaylightSavingTimeEnd\" value=\"10.Last.7.02:00:00\"/>";
+    const ParsedProgram parsed =
+        MustRead(QString::fromUtf8(QByteArray(kCut).replace("timezone=\"+00:00\">", old)));
+    const qint64 instant = QDateTime(QDate(2023, 6, 1), QTime(), Qt::UTC).toMSecsSinceEpoch();
+    const QVector<ClockTool::Finding> findings = FindingsIn(parsed, instant);
+    QVERIFY(std::any_of(findings.cbegin(), findings.cend(), [](const ClockTool::Finding &finding) {
+        return finding.place.clock == 1 && finding.text.contains("zone --refresh");
+    }));
 }
 
 QTEST_MAIN(TestFindings)
