@@ -1,5 +1,5 @@
-// tools/: the plugin whose archive tools and studio link, as what finds plugins for the elements of
-// a program.
+// tools/: finds the plugin for an element of a program: the clock plugin, which tools and studio
+// link statically.
 #pragma once
 
 #include <QtGlobal>

@@ -26,7 +26,7 @@ Result<ProgramClocks> MakeClocks(const Result<Program> &program)
 
 Lw::HNodeClock::HClockNode &ProgramClocks::Clock(int area) const
 {
-    // Only the clock's own plugin made nodes.
+    // Only the clock plugin makes nodes here.
     return static_cast<Lw::HNodeClock::HClockNode &>(
         *made.nodes[static_cast<std::size_t>(area)].node);
 }

@@ -38,7 +38,7 @@ constexpr char kDescription[] =
     "pictures of picture clocks are those installed with the player.";
 
 /// Fails if the export would overwrite the program itself.
-MaybeFailure CheckProgramStays(const QString &directory, const QString &program)
+MaybeFailure CheckProgramIsElsewhere(const QString &directory, const QString &program)
 {
     const QString there = QFileInfo(QDir(directory).filePath(kExportedProgram)).canonicalFilePath();
     if (there.isEmpty() || there != QFileInfo(program).canonicalFilePath())
@@ -58,7 +58,7 @@ int DateTypeOf(HClockNode &clock)
         Key(isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType));
 }
 
-void SayWhatStaysBehind(const ProgramClocks &clocks)
+void NoteMissingMinus(const ProgramClocks &clocks)
 {
     for (int i = 0; i < clocks.Count(); ++i) {
         HClockNode &clock = clocks.Clock(i);
@@ -93,7 +93,7 @@ CommandResult RunExport(const QStringList &arguments)
     tool.AddPositional(QStringLiteral("PROGRAM.xml"), QStringLiteral("The program to export."));
     tool.AddPositional(QStringLiteral("DIR"), QStringLiteral("The directory to write to."));
     tool.AddLanguage();
-    tool.AddFlag(kProgress, QStringLiteral("Say on standard output how much is done, in percent."));
+    tool.AddFlag(kProgress, QStringLiteral("Print the progress on standard output, in percent."));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
     if (const MaybeFailure failure = tool.InstallLanguage())
@@ -103,9 +103,9 @@ CommandResult RunExport(const QStringList &arguments)
         return Report(read.Error());
     const ProgramClocks &clocks = *read;
     const QString directory = QFileInfo(tool.Positional(1)).absoluteFilePath();
-    if (const MaybeFailure failure = CheckProgramStays(directory, clocks.program.path))
+    if (const MaybeFailure failure = CheckProgramIsElsewhere(directory, clocks.program.path))
         return Report(*failure);
-    SayWhatStaysBehind(clocks);
+    NoteMissingMinus(clocks);
     const bool saysPercentage = tool.IsSet(kProgress);
     const auto progress = [&clocks, saysPercentage](int clock) {
         saysPercentage ? SayPercentage(100 * (clock - 1) / clocks.Count())

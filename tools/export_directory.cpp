@@ -69,7 +69,7 @@ ExportDirectory::ExportDirectory(const QString &path) : m_directory(path), m_loc
     m_lock.setStaleLockTime(0); // a lock never becomes stale by age
 }
 
-MaybeFailure ExportDirectory::Take()
+MaybeFailure ExportDirectory::Prepare()
 {
     if (!m_directory.mkpath(QStringLiteral(".")))
         return Refusal(m_directory.path(), QStringLiteral("cannot create this directory"));

@@ -37,7 +37,7 @@ public:
     /// Creates the directory if needed and locks it; removes leftovers of an interrupted
     /// export. Fails without changing anything if it contains anything but an export, if a link or
     /// another kind of entry has the name of a file to write, or if another export is running.
-    MaybeFailure Take();
+    MaybeFailure Prepare();
 
     QString LockPath() const;
 

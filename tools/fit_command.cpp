@@ -106,7 +106,7 @@ struct Fitting
     bool fitsAll = true;
 };
 
-/// The program's clocks, which may take much memory, are gone when it returns.
+/// The program's clocks, which may take much memory, are freed when it returns.
 Result<Fitting> FindSizes(const ToolArguments &tool, const QByteArray &contents, qint64 begin)
 {
     const Result<ProgramClocks> clocks = ParseClocks(contents, tool.Positional(0));

@@ -29,7 +29,7 @@ QString SizesBelow(const QVector<int> &sizes, int from)
 }
 
 /// The smallest size from which all larger ones are legible; 0 if the largest is not.
-int RightFrom(const QVector<int> &sizes)
+int LegibleFrom(const QVector<int> &sizes)
 {
     int from = kLargestChecked + 1;
     while (from > 1 && sizes.contains(from - 1))
@@ -43,7 +43,7 @@ QString TableOf(const QStringList &families)
         QStringLiteral("| Font | Legible from (points) | Also legible at |\n|---|---|---|\n");
     for (const QString &family : families) {
         const QVector<int> sizes = LegibleSizes(family, QStringLiteral(":"));
-        const int from = RightFrom(sizes);
+        const int from = LegibleFrom(sizes);
         table += QStringLiteral("| %1 | %2 | %3 |\n")
                      .arg(family, from > 0 ? QString::number(from) : QStringLiteral("none"),
                           SizesBelow(sizes, from > 0 ? from : kLargestChecked + 1));

@@ -37,19 +37,19 @@ class Exporter
 {
 public:
     Exporter(const ProgramClocks &clocks, const QString &directory)
-        : m_clocks(clocks), m_directory(directory), m_taken(directory)
+        : m_clocks(clocks), m_directory(directory), m_target(directory)
     { }
 
     MaybeFailure Run(const ExportProgress &progress)
     {
-        if (const MaybeFailure failure = m_taken.Take())
+        if (const MaybeFailure failure = m_target.Prepare())
             return failure;
         // Within the directory, so that files are renamed and not copied.
-        WorkDirectory work(m_directory.path(), m_taken.LockPath());
+        WorkDirectory work(m_directory.path(), m_target.LockPath());
         if (const MaybeFailure failure = work.Fault())
             return failure;
         if (!m_directory.mkpath(kExportedFiles))
-            return ExportFailure(QStringLiteral("%1: cannot make this directory")
+            return ExportFailure(QStringLiteral("%1: cannot create this directory")
                                      .arg(m_directory.filePath(kExportedFiles)));
         Lw::HAppConfig::SetClockOutputPath(work.Path());
         BeginProgram();
@@ -230,7 +230,7 @@ private:
 
     const ProgramClocks &m_clocks;
     QDir m_directory;
-    ExportDirectory m_taken;
+    ExportDirectory m_target;
     QDomDocument m_document;
     QDomElement m_program;
     GlyphAccount m_account;

@@ -41,7 +41,7 @@ std::optional<QSize> ParseSize(const QString &text)
 }
 
 /// The next element in document order outside this one; null at the end of the root.
-QDomElement NextBeside(QDomElement element)
+QDomElement NextOutside(QDomElement element)
 {
     while (!element.isNull() && element.nextSiblingElement().isNull())
         element = element.parentNode().toElement();
@@ -57,7 +57,7 @@ QVector<QDomElement> ClocksIn(const QDomElement &root)
         if (isClock)
             clocks.append(element);
         const QDomElement inner = element.firstChildElement();
-        element = isClock || inner.isNull() ? NextBeside(element) : inner;
+        element = isClock || inner.isNull() ? NextOutside(element) : inner;
     }
     return clocks;
 }
@@ -108,7 +108,7 @@ MaybeFailure CheckClocks(const QVector<QDomElement> &clocks, const QString &path
 {
     if (clocks.isEmpty())
         return Failure {ExitCode::ProgramError,
-                        QStringLiteral("%1: it contains no <clock>").arg(path)};
+                        QStringLiteral("%1: contains no <clock>").arg(path)};
     if (clocks.size() > kMaximumAreas)
         return Failure {ExitCode::ProgramError,
                         QStringLiteral("%1: %2 clocks; a program has at most %3 areas")
@@ -143,12 +143,12 @@ bool IsExportedForm(const QDomElement &clock)
     return false;
 }
 
-void SayWhatIsNotCarried(const QVector<QDomElement> &clocks, const QString &path)
+void NoteExportedForm(const QVector<QDomElement> &clocks, const QString &path)
 {
     const auto count = std::count_if(clocks.cbegin(), clocks.cend(), IsExportedForm);
     if (count > 0)
         Say(QStringLiteral("%1: note: clocks in the exported form: %2; the codes of date, week and "
-                           "time are not read from it, and it does not contain fonts, sizes, "
+                           "time in that form are not read, and it contains no fonts, sizes, "
                            "layout, AM/PM, hands, marks "
                            "or daylight-saving rules: these get the defaults "
                            "of a new clock")
@@ -184,7 +184,7 @@ Result<QByteArray> ImportFile(const QString &path, QSize size)
     const Result<Program> check = ParseProgram(program, QStringLiteral("the resulting program"));
     if (!check)
         return check.Error();
-    SayWhatIsNotCarried(clocks, path);
+    NoteExportedForm(clocks, path);
     return program;
 }
 

@@ -37,15 +37,15 @@ const char *TextOf(Outcome outcome)
 /// Prints the results of a group of checks; true if none failed.
 bool Tell(const QVector<CheckResult> &results)
 {
-    bool isWell = true;
+    bool passed = true;
     for (const CheckResult &result : results) {
         const QString why = result.why.isEmpty() ? QString() : QStringLiteral(": ") + result.why;
         std::printf("%s ... %s%s\n", qPrintable(result.what), TextOf(result.outcome),
                     qPrintable(why));
-        isWell = isWell && result.outcome != Outcome::Failed;
+        passed = passed && result.outcome != Outcome::Failed;
     }
     std::fflush(stdout);
-    return isWell;
+    return passed;
 }
 
 } // namespace
@@ -56,13 +56,13 @@ CommandResult RunSelfTest(const QStringList &arguments)
     if (const auto ended = tool.Parse(arguments))
         return *ended;
     const WorkDirectory work; // without it the frame checks fail and say so
-    const bool isWell[] = {Tell(CheckCalendars()), Tell(CheckDaylightSaving()),
+    const bool passed[] = {Tell(CheckCalendars()), Tell(CheckDaylightSaving()),
                            Tell(CheckFrames(work.Fault() ? QString() : work.Path()))};
     // Results are printed one by one; on a full device only the first ones are written.
     if (std::ferror(stdout) != 0)
         return Report(
             {ExitCode::RuntimeFailure, QStringLiteral("cannot write to standard output")});
-    for (const bool well : isWell) {
+    for (const bool well : passed) {
         if (!well)
             return ExitCode::RuntimeFailure;
     }

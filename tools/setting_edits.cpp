@@ -23,7 +23,7 @@ struct WrittenPlace
     QString name;
 };
 
-bool IsReadOnlyInto(Attribute attribute, int clockType, const QString &element, const QString &name)
+bool SetsOnly(Attribute attribute, int clockType, const QString &element, const QString &name)
 {
     const QVector<ImportedSetting> settings = SettingsReadFrom(clockType, element, name);
     return settings.size() == 1 && settings.first().target == attribute;
@@ -36,7 +36,7 @@ public:
         : m_parsed(std::move(parsed)), m_form(form)
     { }
 
-    // The changes are of different clocks. False if the text is no longer a valid program.
+    // At most one change per clock. False if the text is no longer a valid program.
     bool Make(const QVector<SettingChange> &changes, bool asSetting)
     {
         TextEdits edits;
@@ -74,11 +74,11 @@ private:
             const bool isSetting = place.element.tagName() == ClockProgram::kAttributeTag;
             if (place.IsSet()
                 && (isSetting
-                    || IsReadOnlyInto(change.attribute, clockType, place.element.tagName(),
-                                      place.attribute)))
+                    || SetsOnly(change.attribute, clockType, place.element.tagName(),
+                                place.attribute)))
                 return {ElementOf(change.area, clock, place.element), place.attribute};
             if (!place.IsSet() && clock.hasAttribute(zone)
-                && IsReadOnlyInto(change.attribute, clockType, QString(), zone))
+                && SetsOnly(change.attribute, clockType, QString(), zone))
                 return {m_parsed.ClockElement(change.area), zone};
             const WrittenPlace free = FreePlace(change, clock, clockType);
             if (!place.IsSet() && free.element >= 0)
@@ -92,7 +92,7 @@ private:
     {
         for (const QDomElement &child : ChildrenRead(clock, clockType)) {
             for (const QString &name : AttributesRead(clockType, child.tagName())) {
-                if (IsReadOnlyInto(change.attribute, clockType, child.tagName(), name))
+                if (SetsOnly(change.attribute, clockType, child.tagName(), name))
                     return {ElementOf(change.area, clock, child), name};
             }
         }
@@ -112,7 +112,7 @@ private:
     const TextForm m_form;
 };
 
-// One change of each clock; what is left goes on in the list.
+// Takes the first change of each clock out of the list.
 QVector<SettingChange> TakeRound(QVector<SettingChange> &changes)
 {
     QVector<SettingChange> round;
@@ -146,7 +146,7 @@ QVector<SettingChange> Missing(const QByteArray &contents, const QString &path,
     return missing;
 }
 
-// A text with these sizes, in the attributes that hold them or as settings of their own.
+// A text with these changes, in the XML attributes that are read or in "attribute" children.
 std::optional<QByteArray> Edited(const QByteArray &contents, QVector<SettingChange> changes,
                                  bool asSetting)
 {
@@ -158,7 +158,7 @@ std::optional<QByteArray> Edited(const QByteArray &contents, QVector<SettingChan
     if (!parsed)
         return std::nullopt;
     SettingEdits edits(std::move(*parsed), text->form);
-    // The whole text is read again for each round, and not for each change.
+    // The whole text is parsed once per round, not once per change.
     while (!changes.isEmpty()) {
         if (!edits.Make(TakeRound(changes), asSetting))
             return std::nullopt;

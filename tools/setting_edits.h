@@ -18,8 +18,8 @@ struct SettingChange
     QString value; ///< in the stored form
 };
 
-/// The program's bytes with these settings. One is changed where the program sets it; otherwise
-/// the attribute is added to the element that can hold it, else an "attribute" child. Fails for
+/// The program's bytes with these settings. A setting is changed where the program has it; else
+/// it is added to an element that can hold it, or else as an "attribute" child. Fails for
 /// a text that cannot be edited.
 Result<QByteArray> WithSettings(const QByteArray &contents, const QString &path,
                                 const QVector<SettingChange> &changes);

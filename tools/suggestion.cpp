@@ -66,9 +66,9 @@ QString Suggestion(const QString &word, const QStringList &candidates)
 
 QString Quoted(const QString &text)
 {
-    const bool isLong = text.size() > kLongestShown;
-    return QLatin1Char('"') + text.left(kLongestShown).simplified()
-        + QLatin1String(isLong ? "...\"" : "\"");
+    const QString line = text.simplified();
+    const bool isLong = line.size() > kLongestShown;
+    return QLatin1Char('"') + line.left(kLongestShown) + QLatin1String(isLong ? "...\"" : "\"");
 }
 
 } // namespace ClockTool

@@ -83,7 +83,7 @@ Result<qint64> ToolArguments::YearBegin() const
 void ToolArguments::AddLargeFrames()
 {
     AddFlag(QLatin1String(ClockProgram::kLargeFrames),
-            QStringLiteral("Draw a program whose frames take more than 256 MiB of memory too."));
+            QStringLiteral("Also draw programs whose frames take more than 256 MiB of memory."));
 }
 
 bool ToolArguments::AllowsLargeFrames() const

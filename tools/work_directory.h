@@ -15,7 +15,7 @@ namespace ClockTool {
 class WorkDirectory
 {
 public:
-    /// In TMPDIR, or within a directory, under a hidden name that WorkDirectory::IsName() knows.
+    /// In TMPDIR, or within `parent` under a hidden name that IsName() recognises.
     explicit WorkDirectory(const QString &parent = QString());
     /// The same, and a signal removes this file as well.
     WorkDirectory(const QString &parent, const QString &file);

@@ -30,15 +30,15 @@ constexpr char kDescription[] =
     "The end of daylight saving is in the zone's standard time, as clocks expect it: an hour\n"
     "before the published one.\n"
     "\n"
-    "If a zone's time cannot be expressed exactly, the settings written are wrong for the\n"
-    "shortest time, and every wrong time is listed.\n"
+    "If a zone's time cannot be expressed exactly, the settings that are wrong for the shortest\n"
+    "time are written, and every wrong time is listed.\n"
     "\n"
-    "With --refresh it writes a program instead: each clock whose daylight-saving rules its zone\n"
-    "has left gets the zone's present settings, and nothing else changes, not even white space or\n"
-    "comments. The zone is found by the rules. Each change is reported on standard error; -o may\n"
-    "name the program itself.\n"
+    "With --refresh it writes a program instead: each clock with daylight-saving rules that its\n"
+    "zone no longer uses gets the zone's current settings; nothing else changes, not even white\n"
+    "space or comments. The rules identify the zone. Each change is reported on standard error;\n"
+    "-o may name the program itself.\n"
     "\n"
-    "Exit codes: 0 exact, 1 not exact, or not known, or a clock could not be refreshed, 2 wrong\n"
+    "Exit codes: 0 exact, 1 not exact, no zone data, or a clock could not be refreshed, 2 wrong\n"
     "command line, 3 no such zone, or not a program.";
 
 constexpr int kFirstYear = 1970;

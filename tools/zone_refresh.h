@@ -1,4 +1,4 @@
-// tools/: clock_tool zone --refresh: gives clocks the rules that their zones have now.
+// tools/: clock_tool zone --refresh: gives clocks the current rules of their zones.
 #pragma once
 
 #include "commands.h"
@@ -16,11 +16,11 @@ struct ZoneValue
     QString value; ///< in the stored form
 };
 
-/// The attributes that settings have in a program, in the order in which they are written.
+/// The attributes that hold a zone's settings in a program, in the order in which they are written.
 QVector<ZoneValue> ZoneValues(const ClockZones::ZoneSettings &settings);
 
-/// Delivers the program with current rules for each clock whose rules a zone has left by `now` (UTC
-/// milliseconds), and tells what changed. A clock is left as it is, with an exit code of 1, if the
+/// Writes the program with current rules for each clock whose rules are out of date at `now` (UTC
+/// milliseconds), and reports each change. A clock is left as it is, with an exit code of 1, if the
 /// zones that had its rules have different ones now, or if no better rules are known.
 CommandResult RefreshZones(const QString &path, const QString &output, qint64 now);
 

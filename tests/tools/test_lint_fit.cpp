@@ -70,9 +70,9 @@ const Finding kFindings[] = {
     {"size", Wall(Digital(Time("60"))), kWarning, " points would fit; all sizes"},
     // The foot of the "J" is left of where the letter begins.
     {"beyond its image", Wall(Digital(Date("3", "14"))), kWarning,
-     "the images of the date are too small for its ink: 2 pixels of \"Jan.\" lost at the left"},
+     "the images of the date are too small for the ink: 2 pixels of \"Jan.\" lost at the left"},
     {"a line of a title", Wall(Digital(Title("One&#10;Two"))), kWarning,
-     "the images of the title are too small for its ink: "},
+     "the images of the title are too small for the ink: "},
     {"key colour", Wall(Digital(Time("20", "#010201"))), kWarning,
      "the colour of the time is the key colour #010201"},
     {"first of two elements", Wall(Digital(Time("60") + "\n<time fontSize=\"9\"/>")), kWarning,

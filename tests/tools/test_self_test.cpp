@@ -34,7 +34,7 @@ void TestSelfTest::DigitalDigest()
 {
     const QTemporaryDir folder;
     HClockNode clock;
-    QVERIFY(SetUpBlotClock(clock, 1, folder.path()));
+    QVERIFY(SetUpPatternClock(clock, 1, folder.path()));
     PlainDigitalClock::Shown shown =
         PlainDigitalClock::Gregorian(QDateTime(QDate(2024, 3, 5), QTime(13, 7, 42), Qt::UTC));
     shown.lunarMonth = 1;
@@ -47,9 +47,9 @@ void TestSelfTest::AnalogDigest()
 {
     const QTemporaryDir folder;
     HClockNode clock;
-    QVERIFY(SetUpBlotClock(clock, 0, folder.path()));
+    QVERIFY(SetUpPatternClock(clock, 0, folder.path()));
     Lw::HAppConfig::SetRenderImageFormat(QImage::Format_RGB32);
-    clock_set_time_source(&BlotInstant);
+    clock_set_time_source(&TestInstant);
     PlainClock plain(&clock);
     plain.Frame(); // its texts show from the second one on
     const QImage frame = plain.Frame();

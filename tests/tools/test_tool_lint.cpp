@@ -201,7 +201,7 @@ const QVector<Finding> kKinds {
     {"setting of another kind",
      Digital("<attribute key='ClockType' value='0'/>"),
      2,
-     {"ClockType makes a clock of type \"dial\"", "read as of type \"digital\""}},
+     {"ClockType makes a clock of type \"dial\"", "read as for type \"digital\""}},
     {"kind by a setting only",
      ProgramOf("<clock>\n<attribute key='ClockType' value='1'/></clock>"),
      2,

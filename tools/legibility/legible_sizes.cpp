@@ -125,11 +125,11 @@ QString LegibilityFault(const QString &family, int points, const QString &separa
     const QFont font = GlyphTypeface(family, points);
     QStringList faults = DigitFaults(family, DigitsOf(font));
     faults += SeparatorFaults(family, font, separators);
-    constexpr int kTold = 3;
-    const QString rest = faults.size() > kTold
-        ? QStringLiteral(" and %1 more").arg(faults.size() - kTold)
+    constexpr int kMaxListed = 3;
+    const QString rest = faults.size() > kMaxListed
+        ? QStringLiteral(" and %1 more").arg(faults.size() - kMaxListed)
         : QString();
-    return *known.insert(key, faults.mid(0, kTold).join(QStringLiteral(", ")) + rest);
+    return *known.insert(key, faults.mid(0, kMaxListed).join(QStringLiteral(", ")) + rest);
 }
 
 int NearestLegibleSize(const QString &family, int points, const QString &separators)

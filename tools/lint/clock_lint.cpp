@@ -133,8 +133,8 @@ private:
             if (!AttributesRead(m_type, name).contains(attribute.name()))
                 CheckUnreadAttribute(element, name, attribute.name());
             for (const ImportedSetting &setting : SettingsReadFrom(m_type, name, attribute.name()))
-                if (CheckValue(element, attribute.name(), attribute.value(),
-                               ImportFault(setting.target, setting.conversion, attribute.value())))
+                if (ReportFault(element, attribute.name(), attribute.value(),
+                                ImportFault(setting.target, setting.conversion, attribute.value())))
                     break;
         }
     }
@@ -175,15 +175,15 @@ private:
                  QStringLiteral("%1 is set more than once; the last one is used").arg(key));
         m_settings.insert(key);
         const QString value = setting.attribute(kValue);
-        CheckValue(setting, key, value, StoredFault(row->attribute, value));
+        ReportFault(setting, key, value, StoredFault(row->attribute, value));
     }
 
     static QString NearestKey(const QString &key)
     {
-        const QString nearest = Nearest(key, AllKeys());
-        return nearest.isEmpty()
+        const QString meant = DidYouMean(key, AllKeys());
+        return meant.isEmpty()
             ? QStringLiteral("; accepted: the keys that \"clock_tool attributes\" lists")
-            : QStringLiteral("; did you mean \"%1\"?").arg(nearest);
+            : meant;
     }
 
     void CheckFile(const QDomElement &file)
@@ -223,8 +223,8 @@ private:
                  QStringLiteral("the file %1 %2").arg(Quoted(path), fault));
     }
 
-    bool CheckValue(const QDomElement &element, const QString &name, const QString &value,
-                    const QString &fault)
+    bool ReportFault(const QDomElement &element, const QString &name, const QString &value,
+                     const QString &fault)
     {
         if (!fault.isEmpty())
             Warn(At(element, name), QStringLiteral("%1=%2 %3").arg(name, Quoted(value), fault));

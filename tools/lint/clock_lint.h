@@ -31,8 +31,8 @@ int MeantKind(const QDomElement &clock);
 /// Reports a kind that does not exist.
 void LintUnreadKind(const QDomElement &clock, Findings &findings);
 
-/// The kind by which an element is read, and that which its "attribute" children leave the clock
-/// with.
+/// Reports an element that is read as one kind (readKind), but whose "attribute" children make the
+/// clock another (shownKind).
 void LintKinds(const QDomElement &clock, int readKind, int shownKind, Findings &findings);
 
 /// Warns about settings that are valid individually but wrong together. The node has been set from

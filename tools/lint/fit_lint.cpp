@@ -25,7 +25,7 @@ public:
         : m_program(program), m_check(YearFrom(begin)), m_all(findings)
     {
         for (int i = 0; i < program.areas.size(); ++i) {
-            // Only the clock's own plugin made nodes.
+            // Only the clock plugin makes nodes here.
             auto *node =
                 static_cast<HClockNode *>(made.nodes[static_cast<std::size_t>(i)].node.get());
             m_clocks.append({node, program.areas[i].geometry});
@@ -36,7 +36,7 @@ public:
     {
         for (m_index = 0; m_index < m_clocks.size(); ++m_index) {
             m_findings = Findings();
-            LookAtClock();
+            CheckClock();
             m_all.AddOfClock(m_index + 1, m_findings);
         }
         CheckWall();
@@ -61,25 +61,25 @@ private:
         return PlaceAt(FamilyAttribute(part, Node().ClockType()));
     }
 
-    void LookAtClock()
+    void CheckClock()
     {
         const QRect visible = VisibleOf(m_clocks[m_index].area, m_program.size);
         if (visible.isEmpty())
             return; // off the screen, which CheckWall() reports
         const ClockFindings found = m_check.Check(Node(), visible);
-        TellCuts(found.cuts, visible);
-        TellClipped(found.clipped, visible);
+        ReportCuts(found.cuts, visible);
+        ReportClipped(found.clipped, visible);
         for (const Overlap &overlap : found.overlaps)
             m_findings.Warn(SizePlace(overlap.upper), OverlapWords(overlap));
         for (const TooLarge &tooLarge : found.tooLarge)
             m_findings.Warn(SizePlace(tooLarge.part), TooLargeWords(tooLarge));
-        TellColours(found);
+        ReportColours(found);
         for (const LostMarks &marks : found.lostMarks)
             m_findings.Note(At(Element()), LostMarksWords(marks));
-        TellMissing(found.missing);
+        ReportMissing(found.missing);
     }
 
-    void TellCuts(const QVector<Cut> &cuts, const QRect &visible)
+    void ReportCuts(const QVector<Cut> &cuts, const QRect &visible)
     {
         if (cuts.isEmpty())
             return;
@@ -99,7 +99,7 @@ private:
     }
 
     // In most fonts "T" and "/" begin one pixel outside their image, which is not visible.
-    void TellClipped(const QVector<Clipped> &all, const QRect &visible)
+    void ReportClipped(const QVector<Clipped> &all, const QRect &visible)
     {
         for (const Clipped &clipped : all) {
             if (clipped.pixels <= 1)
@@ -110,7 +110,7 @@ private:
         }
     }
 
-    void TellColours(const ClockFindings &found)
+    void ReportColours(const ClockFindings &found)
     {
         for (const Faint &faint : found.faint) {
             const Place place = ColourPlace(faint.part);
@@ -123,7 +123,7 @@ private:
             m_findings.Note(ColourPlace(hands.other), SameHandsWords(hands));
     }
 
-    void TellMissing(const QVector<MissingCharacters> &all)
+    void ReportMissing(const QVector<MissingCharacters> &all)
     {
         for (const MissingCharacters &missing : all) {
             const QString family = missing.families.value(0);
@@ -172,7 +172,7 @@ private:
     ClockCheck m_check;
     Findings &m_all;
     QVector<WallClock> m_clocks;
-    int m_index = 0;     ///< of the clock that is looked at
+    int m_index = 0;     ///< of the clock being checked
     Findings m_findings; ///< of this clock
 };
 

@@ -1,5 +1,7 @@
 #include "fit_words.h"
 
+#include "suggestion.h"
+
 #include <QColor>
 #include <QDateTime>
 
@@ -39,19 +41,10 @@ QString Pixels(int count)
     return count == 1 ? QStringLiteral("1 pixel") : QStringLiteral("%1 pixels").arg(count);
 }
 
-// Titles may have line breaks, and be of any length.
-QString QuotedText(const QString &text)
-{
-    constexpr int kLongest = 60;
-    const QString line = text.simplified();
-    return QStringLiteral("\"%1\"").arg(
-        line.size() > kLongest ? line.left(kLongest) + QStringLiteral("...") : line);
-}
-
 // ` as "Wednesday"`; empty for parts without a text.
 QString As(const QString &text)
 {
-    return text.isEmpty() ? QString() : QStringLiteral(" as %1").arg(QuotedText(text));
+    return text.isEmpty() ? QString() : QStringLiteral(" as %1").arg(Quoted(text));
 }
 
 QString ColourText(QRgb colour)
@@ -59,7 +52,7 @@ QString ColourText(QRgb colour)
     return QColor(colour).name();
 }
 
-QString Quoted(const QStringList &names)
+QString QuotedList(const QStringList &names)
 {
     QStringList quoted;
     for (const QString &name : names.mid(0, kMaxFamilies))
@@ -121,9 +114,9 @@ QString CutWords(const QVector<Cut> &cuts, int points, double factor)
 
 QString ClippedWords(const Clipped &clipped, int points)
 {
-    return QStringLiteral("the images of the %1 are too small for its ink: %2 of %3 lost at the "
+    return QStringLiteral("the images of the %1 are too small for the ink: %2 of %3 lost at the "
                           "%4; first %5%6")
-        .arg(NameOf(clipped.part), Pixels(clipped.pixels), QuotedText(clipped.worst.text),
+        .arg(NameOf(clipped.part), Pixels(clipped.pixels), Quoted(clipped.worst.text),
              SideName(clipped.side), InstantText(clipped.first.utc),
              points > 0 ? QStringLiteral("; none at %1 points").arg(points) : QString());
 }
@@ -175,7 +168,7 @@ QString MissingWords(const MissingCharacters &missing)
         : QStringLiteral("boxes appear for \"%1\"").arg(missing.boxes);
     const QString having = missing.families.isEmpty()
         ? QStringLiteral("no installed family has all of them")
-        : QStringLiteral("families with all of them: %1").arg(Quoted(missing.families));
+        : QStringLiteral("families with all of them: %1").arg(QuotedList(missing.families));
     return QStringLiteral("the family \"%1\" of the %2 lacks \"%3\": %4; %5")
         .arg(missing.family, NameOf(missing.part), missing.characters, instead, having);
 }

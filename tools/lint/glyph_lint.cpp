@@ -1,4 +1,4 @@
-// lint/: reports clocks whose glyph images are too many pixels to be made quickly or kept in
+// lint/: reports clocks whose glyph images have too many pixels to be drawn quickly or kept in
 // memory.
 #include "program_lint.h"
 
@@ -33,18 +33,18 @@ qint64 PixelsOf(const PlannedSet &images)
     return pixels;
 }
 
-void TellLongMaking(const QDomElement &clock, qint64 pixels, Findings &findings)
+void ReportSlowDrawing(const QDomElement &clock, qint64 pixels, Findings &findings)
 {
     if (pixels > kMaxPixels)
         findings.Warn(At(clock),
-                      QStringLiteral("the images of its texts have %1 megapixels, which takes a "
-                                     "small device long to draw; accepted: at most %2, so smaller "
+                      QStringLiteral("the images of its texts have %1 megapixels, which a small "
+                                     "device draws slowly; accepted: at most %2, with smaller "
                                      "font sizes or a shorter title")
                           .arg(pixels / 1'000'000)
                           .arg(kMaxPixels / 1'000'000));
 }
 
-void TellLost(const QDomElement &clock, const QVector<Lw::GlyphFault> &lost, Findings &findings)
+void ReportLost(const QDomElement &clock, const QVector<Lw::GlyphFault> &lost, Findings &findings)
 {
     for (const QString &warning : ClockProgram::DescribeGlyphFaults(lost).warnings)
         findings.Warn(At(clock), warning);
@@ -64,17 +64,17 @@ void LintGlyphs(const ClockProgram::Program &program, const ClockProgram::MadeNo
     const ClockProgram::CarriedFiles files(program.path);
     GlyphAccount account;
     for (int i = 0; i < program.areas.size(); ++i) {
-        // Only the clock's own plugin made nodes.
+        // Only the clock plugin makes nodes here.
         auto &node = static_cast<HClockNode &>(*made.nodes[static_cast<std::size_t>(i)].node);
         const QDomElement &element = program.areas[i].element;
         Findings found;
         if (node.FileRecords().isEmpty()) {
             const PlannedSet planned = PlannedImages(node);
-            TellLongMaking(element, PixelsOf(planned), found);
-            TellLost(element, account.AddPlanned(node, planned), found);
+            ReportSlowDrawing(element, PixelsOf(planned), found);
+            ReportLost(element, account.AddPlanned(node, planned), found);
         } else {
             ResolvePaths(files, node);
-            TellLost(element, account.AddFiles(node), found);
+            ReportLost(element, account.AddFiles(node), found);
         }
         findings.AddOfClock(i + 1, found);
     }

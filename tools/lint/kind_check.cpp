@@ -54,7 +54,7 @@ void CheckWord(const QDomElement &clock, int readKind, Findings &findings)
     findings.Warn(
         At(clock, kType),
         QStringLiteral("type=%1 is ignored because of <%2>, which makes this a clock of type "
-                       "\"%3\"; accepted: one of them")
+                       "\"%3\"; accepted: only one of the two")
             .arg(Quoted(word), QLatin1String(Sdk::kClockCom), WordOf(readKind)),
         WordOf(readKind));
 }
@@ -66,8 +66,8 @@ void CheckSetting(const QDomElement &clock, int readKind, int shownKind, Finding
         return;
     const QString key = Key(Attribute::ClockType);
     findings.Warn(At(KindSetting(clock), key),
-                  QStringLiteral("%1 makes a clock of type \"%2\", but the rest is read as of type "
-                                 "\"%3\"; accepted: <clock type=\"%2\">, without this")
+                  QStringLiteral("%1 makes a clock of type \"%2\", but the rest is read as for "
+                                 "type \"%3\"; accepted: <clock type=\"%2\">, without this setting")
                       .arg(key, WordOf(shownKind), WordOf(readKind)),
                   QString::number(readKind));
 }

@@ -40,7 +40,7 @@ using Validation = std::unique_ptr<xmlRelaxNGValidCtxt, Freer<xmlRelaxNGFreeVali
 struct Faults
 {
     QMap<int, QString> byLine;
-    QMap<int, QString> echoes;
+    QMap<int, QString> vague;
 };
 
 /// The library's own words, which may hold texts of any length.
@@ -58,7 +58,7 @@ QString ElementOf(ErrorPointer error)
 
 /// The message for an error in its own element; empty if the error only says that something
 /// within an element, or beside it, is wrong.
-QString Said(ErrorPointer error)
+QString OwnMessage(ErrorPointer error)
 {
     switch (error->code) {
     case XML_RELAXNG_ERR_ATTRVALID:
@@ -80,10 +80,10 @@ QString Said(ErrorPointer error)
 void Collect(void *context, ErrorPointer error)
 {
     auto &faults = *static_cast<Faults *>(context);
-    const QString said = Said(error);
-    auto &kept = said.isEmpty() ? faults.echoes : faults.byLine;
+    const QString own = OwnMessage(error);
+    auto &kept = own.isEmpty() ? faults.vague : faults.byLine;
     if (!kept.contains(error->line))
-        kept.insert(error->line, said.isEmpty() ? MessageOf(error) : said);
+        kept.insert(error->line, own.isEmpty() ? MessageOf(error) : own);
 }
 
 void Ignore(void *, ErrorPointer) { }
@@ -122,7 +122,7 @@ SchemaReport AsReport(const Faults &faults)
 {
     SchemaReport report;
     report.isVague = faults.byLine.isEmpty();
-    const auto &shown = report.isVague ? faults.echoes : faults.byLine;
+    const auto &shown = report.isVague ? faults.vague : faults.byLine;
     for (auto fault = shown.cbegin(); fault != shown.cend(); ++fault)
         report.faults.append({{fault.key(), {}, {}, 0},
                               Severity::Warning,
@@ -133,7 +133,7 @@ SchemaReport AsReport(const Faults &faults)
     return report;
 }
 
-SchemaReport LeftOut(int line, const QString &text)
+SchemaReport NotChecked(int line, const QString &text)
 {
     return {{{{line, {}, {}, 0}, Severity::Warning, text, {}}}, false};
 }
@@ -150,12 +150,12 @@ SchemaReport CheckAgainstSchema(const QByteArray &contents)
                                           XML_PARSE_NONET | XML_PARSE_BIG_LINES));
     const Schema schema = LoadSchema();
     if (!document || !schema)
-        return LeftOut(0, QStringLiteral("cannot check this document against the schema"));
+        return NotChecked(0, QStringLiteral("cannot check this document against the schema"));
     if (const int line = CrowdedLine(xmlDocGetRootElement(document.get())))
-        return LeftOut(line,
-                       QStringLiteral("this element has more than %1 children, so the "
-                                      "schema check was skipped")
-                           .arg(kMaxChildren));
+        return NotChecked(line,
+                          QStringLiteral("this element has more than %1 children, so the "
+                                         "schema check was skipped")
+                              .arg(kMaxChildren));
     const Validation validation(xmlRelaxNGNewValidCtxt(schema.get()));
     Faults faults;
     xmlRelaxNGSetValidStructuredErrors(validation.get(), Collect, &faults);

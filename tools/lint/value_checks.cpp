@@ -102,12 +102,12 @@ QString FamilyFault(const QString &text)
 {
     if (text.isEmpty() || ClockFit::IsInstalled(text) || !ClockFit::HasFonts())
         return {};
-    const QString nearest = Nearest(text, ClockFit::InstalledFamilies());
+    const QString meant = DidYouMean(text, ClockFit::InstalledFamilies());
     return QStringLiteral("is not an installed font; \"%1\" is used instead%2")
         .arg(ClockFit::FamilyUsed(text),
-             nearest.isEmpty()
+             meant.isEmpty()
                  ? QStringLiteral("; accepted: a family that \"fc-list : family\" lists")
-                 : QStringLiteral("; did you mean \"%1\"?").arg(nearest));
+                 : meant);
 }
 
 QString TextFault(Attribute attribute, const QString &text)
@@ -202,7 +202,7 @@ QString StoredFault(Attribute attribute, const QString &text)
 QString RulePairFault(const QString &start, const QString &end)
 {
     if (start.isEmpty() || end.isEmpty())
-        return QStringLiteral("daylight saving is asked for without a rule for its start and its "
+        return QStringLiteral("daylight saving is on without a rule for its start and its "
                               "end, so it is never in force; accepted: "
                               "month.occurrence.weekday.hh:mm:ss for both");
     if (start == end)

@@ -124,7 +124,7 @@ private:
                                            "exported program"));
     }
 
-    /// Fonts that can be used at all; a picture clock has no texts.
+    /// Warns if no font is installed, else checks the digits; a picture clock has no texts.
     void CheckFonts()
     {
         if (m_node.ClockType() == PictureClock)

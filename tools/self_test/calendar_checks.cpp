@@ -1,3 +1,4 @@
+// self_test/: checks the calendars and daylight saving.
 #include "calendar_digests.h"
 #include "checks.h"
 

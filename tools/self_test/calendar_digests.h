@@ -8,7 +8,7 @@ namespace ClockTool {
 inline constexpr char kLunarDigest[] =
     "6c380d4840c43f3cb4e12933845fbc40aa00ac4812e62f57281238bd534cc5cf";
 
-/// "1993-03-21 1372-1-1" and a newline for every day up to the year below.
+/// "1993-03-21 1372-1-1" and a newline for every day before the year kPersianEnd.
 inline constexpr char kPersianDigest[] =
     "622d247762e6befbfca1969e30126ca026035a22173f21c1253008582e7e8ce3";
 

@@ -15,7 +15,7 @@ struct CheckResult
     QString why; ///< empty if the check passed
 };
 
-/// The lunar calendar on every day that it has, the Persian one on every day up to 20 March
+/// The lunar calendar on every day that it has, the Persian one on every day up to 19 March
 /// 2061, and its leap years.
 QVector<CheckResult> CheckCalendars();
 

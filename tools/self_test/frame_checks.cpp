@@ -23,20 +23,20 @@ using namespace Lw::HNodeClock;
 constexpr int kPlainFormat = QImage::Format_RGB32;
 
 /// While it exists, clocks show one fixed instant, without antialiasing.
-class StillTime
+class FixedTime
 {
 public:
-    StillTime() : m_format(Lw::HAppConfig::instance()->RenderImageFormat())
+    FixedTime() : m_format(Lw::HAppConfig::instance()->RenderImageFormat())
     {
         Lw::HAppConfig::SetRenderImageFormat(kPlainFormat);
-        clock_set_time_source(&BlotInstant);
+        clock_set_time_source(&TestInstant);
     }
-    ~StillTime()
+    ~FixedTime()
     {
         clock_set_time_source(nullptr);
         Lw::HAppConfig::SetRenderImageFormat(m_format);
     }
-    Q_DISABLE_COPY(StillTime)
+    Q_DISABLE_COPY(FixedTime)
 
 private:
     const int m_format;
@@ -46,7 +46,7 @@ CheckResult CheckFrame(const QString &what, int type, const QString &directory,
                        const char *expected)
 {
     HClockNode clock;
-    if (directory.isEmpty() || !SetUpBlotClock(clock, type, directory))
+    if (directory.isEmpty() || !SetUpPatternClock(clock, type, directory))
         return {what, Outcome::Failed, QStringLiteral("temporary files cannot be written")};
     DrawDisplayImage drawer(&clock);
     drawer.DrawClockDisplayImage(); // an analog clock's texts show from the second frame on
@@ -76,7 +76,7 @@ CheckResult CheckPictureClock()
     if (!unreadable.isEmpty())
         return {what, Outcome::Failed, QStringLiteral("%1 cannot be read").arg(unreadable.first())};
     HClockNode clock;
-    SetUpBlotClock(clock, PictureClock, QString());
+    SetUpPatternClock(clock, PictureClock, QString());
     DrawDisplayImage drawer(&clock);
     for (int style = 1; style <= kStyleCount; ++style) {
         clock.SetAttribute(Key(Attribute::PictrueClockType), style, false);
@@ -103,7 +103,7 @@ QByteArray PictureDigest(const QImage &picture)
 
 QVector<CheckResult> CheckFrames(const QString &directory)
 {
-    const StillTime still;
+    const FixedTime still;
     return {
         CheckFrame(QStringLiteral("digital clock, a frame"), DigitalClock, directory,
                    kDigitalFrameDigest),

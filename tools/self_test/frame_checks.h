@@ -12,10 +12,10 @@ namespace ClockTool {
 /// Sets up a new clock of a type (0 analog, 1 digital, 2 picture) that shows every row, at UTC+8.
 /// A digital or analog one gets its glyph images, as files in the directory. Every pixel of them
 /// is opaque or clear. False when a file cannot be written.
-bool SetUpBlotClock(Lw::HNodeClock::HClockNode &clock, int type, const QString &directory);
+bool SetUpPatternClock(Lw::HNodeClock::HClockNode &clock, int type, const QString &directory);
 
 /// The instant at which the frames are drawn, in milliseconds since 1970-01-01 UTC.
-long long BlotInstant();
+long long TestInstant();
 
 /// SHA-256 of a picture's size and of the red, green and blue of its pixels, row by row.
 QByteArray PictureDigest(const QImage &picture);

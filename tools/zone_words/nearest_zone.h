@@ -5,8 +5,8 @@
 
 namespace ClockTool {
 
-/// The zone that an unknown name probably means: a city without its continent, one that
-/// shares the zone of another city, or a typing error. Empty when there is none.
+/// Recognises a city without its continent, one that shares the zone of another city, or a typing
+/// error. Empty if there is none.
 QString NearestZone(const QString &name);
 
 } // namespace ClockTool

@@ -33,19 +33,19 @@ int CellsOf(const GlyphRow &row)
 }
 
 /// A pattern that no other image has, nor any other cell.
-QImage Blot(const GlyphImage &image)
+QImage Pattern(const GlyphImage &image)
 {
     const int index = static_cast<int>(image.row->glyph);
     const int height = 9 + index % 4;
-    QImage blot(CellsOf(*image.row) * kCellWidth, height, QImage::Format_ARGB32);
-    for (int y = 0; y < blot.height(); ++y) {
-        for (int x = 0; x < blot.width(); ++x) {
+    QImage pattern(CellsOf(*image.row) * kCellWidth, height, QImage::Format_ARGB32);
+    for (int y = 0; y < pattern.height(); ++y) {
+        for (int x = 0; x < pattern.width(); ++x) {
             const bool clear = (x + 2 * y + image.number) % 4 == 0;
             const QRgb ink = qRgb(20 + 11 * index, 40 + 17 * image.number, 255 - x % 200);
-            blot.setPixel(x, y, clear ? qRgba(0, 0, 0, 0) : ink);
+            pattern.setPixel(x, y, clear ? qRgba(0, 0, 0, 0) : ink);
         }
     }
-    return blot;
+    return pattern;
 }
 
 void Set(HClockNode &clock, Attribute attribute, int value)
@@ -64,14 +64,14 @@ void ShowEverything(HClockNode &clock)
     Set(clock, Attribute::DigitalDisplayMode, 0);
 }
 
-bool WriteBlots(HClockNode &clock, int type, const QString &directory)
+bool WritePatterns(HClockNode &clock, int type, const QString &directory)
 {
     for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, type)) {
         const QString path = QStringLiteral("%1/%2%3%4")
                                  .arg(directory)
                                  .arg(type)
                                  .arg(image.Key(), QLatin1String(kGlyphSuffix));
-        if (!Blot(image).save(path, "PNG"))
+        if (!Pattern(image).save(path, "PNG"))
             return false;
         clock.SetFilePath(image.Key(), path, QString(), -1, kImageFileKind);
     }
@@ -80,12 +80,12 @@ bool WriteBlots(HClockNode &clock, int type, const QString &directory)
 
 } // namespace
 
-long long BlotInstant()
+long long TestInstant()
 {
     return QDateTime(QDate(2024, 3, 5), QTime(5, 7, 42), Qt::UTC).toMSecsSinceEpoch();
 }
 
-bool SetUpBlotClock(HClockNode &clock, int type, const QString &directory)
+bool SetUpPatternClock(HClockNode &clock, int type, const QString &directory)
 {
     clock.InitData();
     Set(clock, Attribute::ClockType, type);
@@ -93,7 +93,7 @@ bool SetUpBlotClock(HClockNode &clock, int type, const QString &directory)
     clock.SetAttribute(Key(Attribute::TimeZone), QStringLiteral("+08:00"), false);
     ShowEverything(clock);
     clock.SetSize(type == DigitalClock ? kDigitalSize : kAnalogSize);
-    return type == PictureClock || WriteBlots(clock, type, directory);
+    return type == PictureClock || WritePatterns(clock, type, directory);
 }
 
 } // namespace ClockTool
