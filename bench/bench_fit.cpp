@@ -1,4 +1,4 @@
-// What a check of a year costs: one clock, a wall of clocks, and the sizes that fit.
+// bench/: the cost of checking a year: one clock, a wall of clocks, and the sizes that fit.
 #include "bench_support.h"
 #include "checked_clocks.h"
 

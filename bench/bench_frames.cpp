@@ -1,6 +1,6 @@
-// Frames: a second of each kind of clock beside the least that a frame of its size can cost, beside
-// the plain way of drawing the same pixels, and beside what a careful program would do with Qt's
-// own drawing.
+// bench/: a second of each kind of clock, compared with the least that a frame of its size can
+// cost, with a simple renderer of the same pixels, and with a careful program that uses Qt's own
+// drawing.
 #include "bench_support.h"
 #include "plain_clocks.h"
 #include "plain_digital.h"
@@ -39,11 +39,11 @@ QDateTime Shown()
     return QDateTime::fromMSecsSinceEpoch(Lw::HNodeClock::UtcMilliseconds(), Qt::UTC);
 }
 
-constexpr int kFirstSeconds = 61; // a minute, in which each position of the second hand is kept
+constexpr int kFirstSeconds = 61; // a minute, in which each position of the second hand is cached
 
-// The player keeps the frame that it shows until it is given the next one.
+// Measures frames after the first minute. Like the player, it holds a frame until the next one.
 template<typename Frame>
-void PlayFrames(benchmark::State &state, bench::SteppedTime &time, Frame frame)
+void MeasureFrames(benchmark::State &state, bench::SteppedTime &time, Frame frame)
 {
     QImage shown;
     for (int i = 0; i < kFirstSeconds; ++i) {
@@ -64,7 +64,7 @@ void PlayClock(benchmark::State &state, int clockType)
     bench::MakeGlyphs(node.get());
     bench::SteppedTime time;
     DrawDisplayImage drawer(node.get());
-    PlayFrames(state, time, [&drawer] { return drawer.DrawClockDisplayImage(); });
+    MeasureFrames(state, time, [&drawer] { return drawer.DrawClockDisplayImage(); });
 }
 
 bool HasStylePictures(benchmark::State &state)
@@ -72,7 +72,7 @@ bool HasStylePictures(benchmark::State &state)
     const bool exists =
         QFileInfo::exists(Lw::HNodeClock::StyleFolder() + Lw::HNodeClock::DialPicture(1));
     if (!exists)
-        state.SkipWithError("no style pictures beside the program's directory");
+        state.SkipWithError("no style pictures next to the program's directory");
     return exists;
 }
 
@@ -92,7 +92,7 @@ void PictureSecond(benchmark::State &state)
         PlayClock(state, bench::kPicture);
 }
 
-// The time to the minute, within one minute.
+// A clock that shows hours and minutes, within one minute.
 void DigitalUnchanged(benchmark::State &state)
 {
     const auto node = bench::NewNode(bench::kDigital, Area(state));
@@ -108,7 +108,7 @@ void DigitalUnchanged(benchmark::State &state)
     }
 }
 
-// A frame of which nothing is known: filled, and every element drawn.
+// A frame with unknown contents: filled, and every element drawn.
 void DigitalFull(benchmark::State &state)
 {
     const auto node = bench::NewNode(bench::kDigital, Area(state));
@@ -138,19 +138,19 @@ void PlainDigitalSecond(benchmark::State &state)
 {
     const auto node = bench::NewNode(bench::kDigital, Area(state));
     bench::MakeGlyphs(node.get());
-    bench::SteppedTime time(bench::Asking::Plain);
+    bench::SteppedTime time(bench::ClockRead::Plain);
     PlainDigitalClock plain(*node);
-    PlayFrames(state, time,
-               [&plain] { return plain.Frame(PlainDigitalClock::Gregorian(Shown())); });
+    MeasureFrames(state, time,
+                  [&plain] { return plain.Frame(PlainDigitalClock::Gregorian(Shown())); });
 }
 
 void PlayPlain(benchmark::State &state, int clockType)
 {
     const auto node = bench::NewNode(clockType, Area(state));
     bench::MakeGlyphs(node.get());
-    bench::SteppedTime time(bench::Asking::Plain);
+    bench::SteppedTime time(bench::ClockRead::Plain);
     PlainClock plain(node.get());
-    PlayFrames(state, time, [&plain] { return plain.Frame(); });
+    MeasureFrames(state, time, [&plain] { return plain.Frame(); });
 }
 
 void PlainAnalogSecond(benchmark::State &state)
@@ -164,7 +164,7 @@ void PlainPictureSecond(benchmark::State &state)
         PlayPlain(state, bench::kPicture);
 }
 
-// Date, weekday and time as lines of text on a premultiplied image, the font made once.
+// Date, weekday and time as lines of text on a premultiplied image, with a font created once.
 void QtTextSecond(benchmark::State &state)
 {
     const QSize area = Area(state);
@@ -175,7 +175,7 @@ void QtTextSecond(benchmark::State &state)
                         QImage(area, QImage::Format_ARGB32_Premultiplied)};
     int next = 0;
     bench::SteppedTime time;
-    PlayFrames(state, time, [&] {
+    MeasureFrames(state, time, [&] {
         QImage &frame = frames[next ^= 1];
         const QDateTime now = Shown();
         frame.fill(QColor(1, 2, 1));
@@ -201,7 +201,7 @@ void QtDialSecond(benchmark::State &state)
                         QImage(area, QImage::Format_ARGB32_Premultiplied)};
     int next = 0;
     bench::SteppedTime time;
-    PlayFrames(state, time, [&] {
+    MeasureFrames(state, time, [&] {
         QImage &frame = frames[next ^= 1];
         const QTime now = Shown().time();
         frame.fill(QColor(1, 2, 1));

@@ -1,4 +1,4 @@
-// Glyph images: made by the generator, loaded by the composer.
+// bench/: glyph images: drawn by the generator, loaded by the composer.
 #include "bench_support.h"
 
 #include "compose/draw_clock_classify_image.h"
@@ -30,7 +30,7 @@ using Lw::HNodeClock::WriteImageFile;
 namespace {
 
 constexpr QSize kArea(256, 128);
-constexpr int kPointsOf16Pixels = 12; // at 96 pixels an inch
+constexpr int kPointsOf16Pixels = 12; // at 96 pixels per inch
 constexpr int kPointsOf48Pixels = 36;
 
 std::unique_ptr<Lw::HNodeClock::HClockNode> NodeOf(const benchmark::State &state)
@@ -39,7 +39,7 @@ std::unique_ptr<Lw::HNodeClock::HClockNode> NodeOf(const benchmark::State &state
                           static_cast<int>(state.range(1)));
 }
 
-// Nothing is remembered of the set; its files hold the right bytes already.
+// The cache is empty, but the files already hold the right bytes.
 void GlyphGeneration(benchmark::State &state)
 {
     const auto node = NodeOf(state);
@@ -59,7 +59,7 @@ void GlyphGenerationUnchanged(benchmark::State &state)
         DrwSourceIMage().DrawClockSourceImage(node.get());
 }
 
-// One attribute changes with each run, to a value that it did not have before.
+// The date's colour changes with each iteration, to a value that it did not have before.
 void GlyphGenerationDateColour(benchmark::State &state)
 {
     const auto node = NodeOf(state);
@@ -81,7 +81,7 @@ void EmptyOutput()
         QFile::remove(directory.filePath(name));
 }
 
-std::vector<std::unique_ptr<Lw::HNodeClock::HClockNode>> NodesAlike(const benchmark::State &state)
+std::vector<std::unique_ptr<Lw::HNodeClock::HClockNode>> EqualNodes(const benchmark::State &state)
 {
     std::vector<std::unique_ptr<Lw::HNodeClock::HClockNode>> nodes;
     for (int i = 0; i < static_cast<int>(state.range(2)); ++i) {
@@ -91,10 +91,11 @@ std::vector<std::unique_ptr<Lw::HNodeClock::HClockNode>> NodesAlike(const benchm
     return nodes;
 }
 
-// Of clocks that differ in their identities only, into an empty directory.
+// For clocks that differ only in their Ids, into an empty directory. The counts include emptying
+// it.
 void GlyphGenerationAlike(benchmark::State &state)
 {
-    const auto nodes = NodesAlike(state);
+    const auto nodes = EqualNodes(state);
     const bench::CountsPerIteration counts(state);
     for (auto _ : state) {
         state.PauseTiming();
@@ -106,10 +107,10 @@ void GlyphGenerationAlike(benchmark::State &state)
     }
 }
 
-// The floor of that: their files are created, with nothing to draw or look up.
+// The lower bound for GlyphGenerationAlike: the files are only created.
 void GlyphFilesCreated(benchmark::State &state)
 {
-    const auto nodes = NodesAlike(state);
+    const auto nodes = EqualNodes(state);
     QVector<QPair<QString, QByteArray>> files;
     for (const auto &node : nodes) {
         bench::MakeGlyphs(node.get());
@@ -154,7 +155,7 @@ void GlyphLoading(benchmark::State &state)
         composer.InitParameters(node.get());
 }
 
-// Loading, and whatever the first frame needs besides.
+// Loading, and everything else that the first frame needs.
 void FirstFrame(benchmark::State &state)
 {
     const auto node = NodeOf(state);

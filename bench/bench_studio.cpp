@@ -1,5 +1,5 @@
-// clock_studio_bench: how long the studio takes from a key to the new frame, and from its start to
-// the first frame. The window is the real one; needs no display.
+// bench/: clock_studio_bench: how long the studio takes from a key to the new frame, and from its
+// start to the first frame. It opens the studio's main window; needs no display.
 #include "window/main_window.h"
 
 #include "calendar/device_clock.h"
@@ -20,7 +20,8 @@ using namespace ClockStudio;
 
 namespace {
 
-/// Digital clocks in two rows and more, each with all of its parts at up to 48 pixels.
+/// Digital clocks in two rows of four, further ones on top of them. `points` is the font size of
+/// title and time.
 QByteArray WallOf(int clocks, int points)
 {
     QByteArray text = "<program width=\"256\" height=\"128\">\n";
@@ -40,7 +41,7 @@ QByteArray WallOf(int clocks, int points)
     return text + "</program>\n";
 }
 
-/// Milliseconds that this process has had; what else the machine does is not in them.
+/// Processor time of this process in milliseconds.
 double ProcessorTime()
 {
     timespec time {};
@@ -57,7 +58,7 @@ struct OpenWindow
     {
         QFile file(work.filePath("wall.xml"));
         if (!file.open(QFile::WriteOnly) || file.write(program) != program.size())
-            qFatal("no file can be written");
+            qFatal("the program file cannot be written");
         file.close();
         window = std::make_unique<MainWindow>(work.filePath("recovery"));
         window->show();
@@ -75,7 +76,8 @@ struct OpenWindow
             QCoreApplication::processEvents();
         while (!window->Editor().Wall().IsComplete());
     }
-    /// The longest that the window did not answer while the clocks were made.
+    /// The longest that the window did not respond while clocks were made, in milliseconds of
+    /// processor time.
     double LongestWait()
     {
         double longest = 0;
@@ -88,7 +90,7 @@ struct OpenWindow
     }
 };
 
-/// From a key in a control of the first clock to the frame that shows it.
+/// From a key press in a control of the first clock to the frame that shows its effect.
 void Press(benchmark::State &state, Lw::HNodeClock::Attribute attribute, Qt::Key key)
 {
     OpenWindow open(WallOf(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))));
@@ -118,7 +120,7 @@ void LargerTime(benchmark::State &state)
     Press(state, Lw::HNodeClock::Attribute::DigitalTimeFSize, Qt::Key_Up);
 }
 
-/// From the window's beginning to the first frame of a wall of eight clocks.
+/// From creating the window to the first frame of a wall of eight clocks.
 void Start(benchmark::State &state)
 {
     for (auto _ : state) {
@@ -128,7 +130,6 @@ void Start(benchmark::State &state)
     }
 }
 
-BENCHMARK(Start)->Unit(benchmark::kMillisecond)->Iterations(5);
 void Walls(benchmark::internal::Benchmark *benchmark)
 {
     benchmark->ArgNames({"clocks", "points"})->Unit(benchmark::kMillisecond)->Iterations(20);
@@ -136,6 +137,7 @@ void Walls(benchmark::internal::Benchmark *benchmark)
         benchmark->Args(wall);
 }
 
+BENCHMARK(Start)->Unit(benchmark::kMillisecond)->Iterations(5);
 BENCHMARK(Letter)->Apply(Walls);
 BENCHMARK(LargerTime)->Apply(Walls);
 

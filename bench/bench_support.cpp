@@ -59,7 +59,7 @@ std::unique_ptr<HClockNode> NewNode(int clockType, QSize size, int points)
     node->SetAttribute(Key(Attribute::ClockType), clockType, false);
     for (const Attribute font : kFonts)
         node->SetAttribute(Key(font), QStringLiteral("DejaVu Sans"), false);
-    // Four rows in the height; a point is a third larger than a pixel, a line a fifth higher.
+    // Four rows fit the height: a point is 4/3 pixels, and a line is 1.2 times the font size.
     if (points == 0)
         points = std::max(6, std::min(size.height() / 8, size.width() / 12));
     for (const Attribute fontSize : kSizes)
@@ -72,10 +72,10 @@ void MakeGlyphs(HClockNode *node)
     Lw::HNodeClock::DrwSourceIMage().DrawClockSourceImage(node);
 }
 
-SteppedTime::SteppedTime(Asking asking)
+SteppedTime::SteppedTime(ClockRead clockRead)
 {
     g_second = 0;
-    clock_set_time_source(asking == Asking::Lean ? &LeanNow : &PlainNow);
+    clock_set_time_source(clockRead == ClockRead::Lean ? &LeanNow : &PlainNow);
 }
 
 SteppedTime::~SteppedTime()

@@ -1,4 +1,4 @@
-// What the benchmarks share: nodes that are ready to be drawn, and a time that they step.
+// bench/: what the benchmarks share: nodes that are ready to be drawn, a stepped time, and counts.
 #pragma once
 
 #include "process_counts.h"
@@ -24,26 +24,27 @@ std::unique_ptr<Lw::HNodeClock::HClockNode> NewNode(int clockType, QSize size, i
 /// Writes the node's glyph images and records them on it.
 void MakeGlyphs(Lw::HNodeClock::HClockNode *node);
 
-/// How the device's clock is asked for each reading, before the stepped time is answered instead.
-enum class Asking {
-    Lean,  ///< the milliseconds since 1970, as the plugin asks
-    Plain, ///< the local date and time, converted to UTC
+/// How the device's clock is read before the stepped time is returned, so that its cost is
+/// included.
+enum class ClockRead {
+    Lean,  ///< as milliseconds since 1970, like the plugin
+    Plain, ///< as local date and time, converted to UTC
 };
 
-/// The plugin's time stands at 2024-03-05 10:00:00 UTC while one lives, and Step moves it on by a
-/// second within that hour, so that no date changes.
+/// While one exists, the plugin's time starts at 2024-03-05 10:00:00 UTC, and Step() advances it by
+/// a second; after an hour it starts again, so that no date changes.
 class SteppedTime
 {
 public:
-    explicit SteppedTime(Asking asking = Asking::Lean);
+    explicit SteppedTime(ClockRead clockRead = ClockRead::Lean);
     ~SteppedTime();
     SteppedTime(const SteppedTime &) = delete;
     SteppedTime &operator=(const SteppedTime &) = delete;
     void Step();
 };
 
-/// Puts what an iteration took of the process beside its time: allocations, their bytes, how many
-/// were as large as a frame, files opened, and processor time outside the kernel.
+/// Adds counters per iteration to the benchmark: allocations, their bytes, how many were as large
+/// as a frame, files opened, and user time. Paused time is included.
 class CountsPerIteration
 {
 public:

@@ -1,4 +1,4 @@
-// Many clocks at once, and what one keeps in memory.
+// bench/: many clocks at once, and the memory that one keeps.
 #include "bench_support.h"
 
 #include "calendar/time_units.h"
@@ -16,7 +16,7 @@ namespace {
 constexpr QSize kArea(256, 128);
 constexpr int kPoints = 12;
 
-// One clock as its player keeps it: the frame shown is held.
+// A clock as the player keeps it: with the frame that is shown.
 struct PlayedClock
 {
     explicit PlayedClock(HClockNode *node) : drawer(new DrawDisplayImage(node)) { }
@@ -47,7 +47,7 @@ void Wall(benchmark::State &state)
     }
 }
 
-// The heap that a played clock takes, its node apart, after two minutes.
+// The heap that a played clock takes after two minutes, without its node.
 void Memory(benchmark::State &state)
 {
     constexpr int kClocks = 16;
@@ -55,7 +55,7 @@ void Memory(benchmark::State &state)
     bench::MakeGlyphs(node.get());
     bench::SteppedTime time;
     for (auto _ : state) {
-        PlayedClock first(node.get()); // whatever is kept once for the process
+        PlayedClock first(node.get()); // allocates what all clocks share
         first.Play();
         const long long before = HeapInUse();
         std::vector<PlayedClock> clocks;
@@ -70,7 +70,8 @@ void Memory(benchmark::State &state)
     }
 }
 
-// By how much the heap grows after the first day, in which each position of a hand is drawn.
+// How much the heap grows after so many frames as a day has. They show the same hour again and
+// again.
 void Growth(benchmark::State &state)
 {
     const auto node = bench::NewNode(static_cast<int>(state.range(0)), kArea, kPoints);

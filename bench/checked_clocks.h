@@ -1,4 +1,4 @@
-// Clocks for measuring what a check of a year costs: one, or a wall of them.
+// bench/: one clock or a wall of clocks, to measure the cost of checking a year.
 #pragma once
 
 #include "wall_check.h"
@@ -14,12 +14,12 @@ constexpr int kClocksOfAWall = 64;
 class CheckedClocks
 {
 public:
-    /// Side by side, with every text shown and daylight saving. The first has this size, the
-    /// others smaller ones down to a third: few have a size in common.
+    /// In a grid, with every text shown and daylight saving. The first has texts of `points`, the
+    /// others smaller ones down to a third, so that few share a size.
     CheckedClocks(int clockType, int count, int points = kPointsOf48Pixels);
 
-    /// All that lint asks of the program; nothing is remembered from one check to the next. The
-    /// number of findings.
+    /// Runs the checks of a year that lint runs, without a cache between calls. Returns the number
+    /// of cuts and overlaps.
     int Check() const;
 
 private:

@@ -1,5 +1,5 @@
-// clock_fit_checks: checks a year of a number of clocks and nothing else, so that what it costs can
-// be counted from outside.
+// bench/: clock_fit_checks: checks a year of some clocks and nothing else, so that valgrind can
+// count the instructions (scripts/check-instructions).
 #include "checked_clocks.h"
 
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
-// clock_bench: what the clock's frames and glyphs cost. Needs no display; writes its glyph images
-// into a directory of its own that it removes.
+// bench/: clock_bench: benchmarks of frames, glyphs and checks. Needs no display; writes glyph
+// images to a temporary directory.
 #include "happconfig.h"
 
 #include <QGuiApplication>

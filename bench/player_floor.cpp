@@ -56,10 +56,10 @@ public:
 private:
     Stage &m_stage;
     QImage m_screen;
-    QVector<QRegion> m_changed; // by each area in its turn
+    QVector<QRegion> m_changed; // of each area, in the order of the layers
 };
 
-// scripts/check-instructions finds the function by its name.
+// scripts/check-instructions finds this function by its name.
 __attribute__((noinline)) void DrawSteadySeconds(BareScreen &screen, int seconds, double speed)
 {
     const auto wait = static_cast<long>(1e9 / speed);
@@ -85,9 +85,9 @@ MaybeFailure MeasureFloor(const Options &options, int seconds, const Warn &warn)
     BareScreen screen(stage);
     for (int i = 0; i <= ToldSeconds::kFirstSeconds; ++i)
         screen.ShowNextSecond();
-    const Taken begun;
+    const Usage begun;
     DrawSteadySeconds(screen, seconds, options.speed);
-    Print(begun, Taken(), seconds, seconds);
+    Print(begun, Usage(), seconds, seconds);
     return std::nullopt;
 }
 

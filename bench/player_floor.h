@@ -1,5 +1,5 @@
-// The least that a second of a program can take: its pictures are drawn and what changed in them is
-// copied, without a player, an event loop or a window.
+// bench/: measures the least that a second of a program can cost: drawing its pictures and copying
+// what changed in them, without a player, an event loop or a window.
 #pragma once
 
 #include "command_line.h"
@@ -7,7 +7,7 @@
 
 namespace bench {
 
-/// Prints what so many seconds of the options' program take so.
+/// Prints what that many seconds of the options' program cost.
 ClockProgram::MaybeFailure MeasureFloor(const ClockPlayer::Options &options, int seconds,
                                         const ClockPlayer::Warn &warn);
 

@@ -1,7 +1,7 @@
-// clock_player_seconds: steady seconds of the whole player, from its timer to the screen, and what
-// each of them takes of the process. With --floor the pictures are drawn and what changed in them
-// is copied, without a player, an event loop or a window: no player can take less. Without a number
-// of seconds it is the start, and its floor an application with a font.
+// bench/: clock_player_seconds: measures seconds of the whole player, from its timer to the screen.
+// With --floor the pictures are only drawn and what changed in them is copied, without a player, an
+// event loop or a window: no player can cost less. Without SECONDS it measures the start, and with
+// --floor that of a bare application with a font.
 #include "player_floor.h"
 #include "process_report.h"
 #include "told_seconds.h"
@@ -13,6 +13,7 @@
 #include "window_show.h"
 
 #include <QCommandLineParser>
+#include <QEventLoop>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QTemporaryDir>
@@ -34,7 +35,7 @@ void Complain(const QString &text)
     std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-// Returns when the first area has shown so many seconds, and says how often something was
+// Runs until the first area has shown so many seconds; returns how often something was
 // presented.
 int Present(int seconds)
 {
@@ -55,7 +56,7 @@ int Present(int seconds)
     return presentations;
 }
 
-// scripts/check-instructions finds the function by its name.
+// scripts/check-instructions finds this function by its name.
 __attribute__((noinline)) int PresentSteadySeconds(int seconds)
 {
     return Present(seconds);
@@ -77,9 +78,9 @@ MaybeFailure MeasurePlayer(const Options &options, int seconds)
     Present(ToldSeconds::kFirstSeconds);
     SetSpeed(options.speed);
     Present(2); // until all areas draw together
-    const bench::Taken begun;
+    const bench::Usage begun;
     const int presentations = PresentSteadySeconds(seconds);
-    Print(begun, bench::Taken(), presentations, seconds);
+    Print(begun, bench::Usage(), presentations, seconds);
     return std::nullopt;
 }
 
@@ -96,7 +97,7 @@ MaybeFailure MeasureStart(const Options &options)
     return std::nullopt;
 }
 
-// What no program with texts can do without: an application, and a font.
+// The least that any program with texts needs: an application and a font.
 void MeasureBareStart()
 {
     if (QFontMetrics(QFont(QStringLiteral("DejaVu Sans"))).horizontalAdvance(QLatin1Char('0')) > 0)
@@ -108,7 +109,7 @@ struct Request
     Options options;
     int seconds; ///< 0 for the start
     bool isFloor;
-    QString files; ///< where the glyph images are; empty: none are there
+    QString files; ///< the directory of the glyph images; empty: a new, empty one
 };
 
 MaybeFailure Measure(const Request &request)
@@ -137,10 +138,14 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     QCommandLineParser parser;
-    parser.addPositionalArgument(QStringLiteral("PROGRAM [SECONDS SPEED]"),
-                                 QStringLiteral("without SECONDS: the start"));
-    const QCommandLineOption floor(QStringLiteral("floor"));
-    const QCommandLineOption files(QStringLiteral("files-dir"), {}, QStringLiteral("DIRECTORY"));
+    parser.addPositionalArgument(
+        QStringLiteral("PROGRAM [SECONDS SPEED]"),
+        QStringLiteral("Measures so many seconds of the program; without SECONDS, its start."));
+    const QCommandLineOption floor(QStringLiteral("floor"),
+                                   QStringLiteral("Measures drawing and copying only."));
+    const QCommandLineOption files(QStringLiteral("files-dir"),
+                                   QStringLiteral("Uses the glyph images in DIRECTORY."),
+                                   QStringLiteral("DIRECTORY"));
     parser.addOptions({floor, files});
     parser.process(application);
     const QStringList arguments = parser.positionalArguments();

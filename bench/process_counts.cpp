@@ -53,7 +53,7 @@ int CountedOpen(Open next, const char *path, int flags, va_list arguments)
 
 } // namespace
 
-// The C library calls whatever allocator the program brings, and offers its own by these names.
+// A program may define malloc() and the like; glibc's own stay available under these names.
 extern "C" {
 void *__libc_malloc(std::size_t size);
 void *__libc_calloc(std::size_t count, std::size_t size);
@@ -87,7 +87,7 @@ int open(const char *path, int flags, ...)
     return file;
 }
 
-// Where files are of 64 bits on a 32-bit machine, this is open() already.
+// With 64-bit file offsets on a 32-bit machine, open64() is open() already.
 #if !defined(_FILE_OFFSET_BITS)
 int open64(const char *path, int flags, ...)
 {

@@ -18,7 +18,7 @@ double Milliseconds(clockid_t clock)
 
 } // namespace
 
-Taken::Taken()
+Usage::Usage()
 {
     processor = Milliseconds(CLOCK_THREAD_CPUTIME_ID);
     rusage used {};
@@ -36,16 +36,16 @@ void Print(const char *name, double number)
     std::printf("%s: %.4g\n", name, number);
 }
 
-// The counts of the start show that counting works.
-void Print(const Taken &begun, const Taken &ended, int presentations, int seconds)
+// The counts before are not 0, which shows that counting works.
+void Print(const Usage &begun, const Usage &ended, int presentations, int seconds)
 {
     const ProcessCounts &from = begun.counts;
     const ProcessCounts &to = ended.counts;
-    Print("presentations a second", double(presentations) / seconds);
-    Print("wake-ups a second", double(ended.wakeUps - begun.wakeUps) / seconds);
-    Print("processor ms a second", (ended.processor - begun.processor) / seconds);
-    Print("allocations a second", double(to.allocations - from.allocations) / seconds);
-    Print("bytes allocated a second", double(to.bytes - from.bytes) / seconds);
+    Print("presentations per second", double(presentations) / seconds);
+    Print("wake-ups per second", double(ended.wakeUps - begun.wakeUps) / seconds);
+    Print("processor ms per second", (ended.processor - begun.processor) / seconds);
+    Print("allocations per second", double(to.allocations - from.allocations) / seconds);
+    Print("bytes allocated per second", double(to.bytes - from.bytes) / seconds);
     Print("frame-sized allocations before", double(from.frameSized));
     Print("frame-sized allocations", double(to.frameSized - from.frameSized));
     Print("files opened before", double(from.filesOpened));

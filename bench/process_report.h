@@ -1,27 +1,27 @@
-// What a piece of a program's run took of the process, and its report line by line.
+// bench/: measures what a part of a run costs the process, and prints it line by line.
 #pragma once
 
 #include "process_counts.h"
 
 namespace bench {
 
-/// What the process has taken since it began.
-struct Taken
+/// What the process has used since its start.
+struct Usage
 {
     ProcessCounts counts = CountsNow();
     double processor; ///< milliseconds of this thread
-    long wakeUps;
+    long wakeUps;     ///< voluntary context switches of this thread
 
-    Taken();
+    Usage();
 };
 
-/// Processor time of all threads.
+/// Processor time of all threads, in milliseconds.
 double ProcessMilliseconds();
 
 /// Prints "NAME: NUMBER".
 void Print(const char *name, double number);
 
-/// Prints the difference of each count, per second.
-void Print(const Taken &begun, const Taken &ended, int presentations, int seconds);
+/// Prints the differences: per second, but frame-sized allocations and opened files in total.
+void Print(const Usage &begun, const Usage &ended, int presentations, int seconds);
 
 } // namespace bench

@@ -1,6 +1,6 @@
-// clock_seconds: draws seconds of one clock as its player asks for them. What is drawn after the
-// caches are filled has a function of its own, DrawSteadySeconds(), so that it can be counted from
-// outside without the start, which varies from run to run.
+// bench/: clock_seconds: draws seconds of one clock as a player does. The seconds after the caches
+// are filled are drawn by DrawSteadySeconds(), so that valgrind can count them without the start,
+// which varies from run to run.
 #include "bench_support.h"
 
 #include "calendar/device_clock.h"
@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int kFirstSeconds = 70; // a minute and what its change brings
+constexpr int kFirstSeconds = 70; // a minute, and what is composed when it changes
 
 bool DrawSeconds(Lw::HNodeClock::DrawDisplayImage &drawer, bench::SteppedTime &time, int seconds)
 {
@@ -28,8 +28,8 @@ bool DrawSeconds(Lw::HNodeClock::DrawDisplayImage &drawer, bench::SteppedTime &t
     return !shown.isNull();
 }
 
-// The environment's length decides where the stack begins. Qt blends buffers of its stack with
-// other instructions if they are not aligned for its vectors, so the stack is aligned here.
+// The length of the environment moves the stack. Qt blends buffers on its stack with other
+// instructions if they are not aligned for its vectors, so the stack is aligned here.
 __attribute__((noinline)) bool DrawSteadySeconds(Lw::HNodeClock::DrawDisplayImage &drawer,
                                                  bench::SteppedTime &time, int seconds)
 {

@@ -16,7 +16,7 @@ struct Second
     double speed = 1;
 };
 
-Second &Present()
+Second &Current()
 {
     static Second second;
     return second;
@@ -24,31 +24,32 @@ Second &Present()
 
 } // namespace
 
-// Who asks in the second half is early for the next second, which begins with its first area.
+// A call in the second half comes from an area that is early for the next second, which only the
+// first area begins; it gets the start of the current one.
 long long Tell()
 {
     using namespace ClockStage;
     StageTime::TellPlugin(); // costs what it does in the player
-    const Second &second = Present();
+    const Second &second = Current();
     const auto passed = static_cast<qint64>((StageTime::Steady() - second.begin) * second.speed);
     return kFirstInstant + second.count * kSecond + (passed < kSecond / 2 ? passed : 0);
 }
 
 void SetSpeed(double speed)
 {
-    Present().speed = speed;
+    Current().speed = speed;
 }
 
 void Advance()
 {
-    Second &second = Present();
+    Second &second = Current();
     ++second.count;
     second.begin = ClockStage::StageTime::Steady();
 }
 
 qint64 Count()
 {
-    return Present().count;
+    return Current().count;
 }
 
 } // namespace bench::ToldSeconds

@@ -32,8 +32,8 @@ QString Text(const Counts &counts)
 
 bool IsUndisturbed(const Counts &counts)
 {
-    const double presentations = counts.value("presentations a second");
-    const double wakeUps = counts.value("wake-ups a second");
+    const double presentations = counts.value("presentations per second");
+    const double wakeUps = counts.value("wake-ups per second");
     return presentations >= 1 && presentations < 1.1 && wakeUps > 0.9 && wakeUps <= 2;
 }
 
