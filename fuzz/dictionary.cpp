@@ -1,4 +1,4 @@
-// Prints the words that clocks and programs are written with, one a line, as a fuzzer's dictionary.
+// fuzz/: prints the words of clocks and programs, one per line, as a fuzzer's dictionary.
 #include "sdk_words.h"
 
 #include <cstdio>

@@ -1,5 +1,5 @@
-// A clock that plays while everything about it is changed: attributes of any key and value, its
-// size, the time, its glyph images, who holds its frames; and every operation of its drawer.
+// fuzz/: target: a clock plays while everything about it changes: attributes of any key and value,
+// its size, the time, its glyph images and held frames; every operation of its drawer is called.
 #include "fuzz_input.h"
 #include "fuzz_scene.h"
 #include "fuzz_target.h"
@@ -22,9 +22,9 @@ using namespace Lw::HNodeClock;
 namespace {
 
 constexpr int kMaxSteps = 64;
-constexpr int kMaxSets = 1; // of glyph images: they take longer than all else together
+constexpr int kMaxSets = 1; // of glyph images, which take longer than everything else together
 
-/// The corpus knows these by their places.
+/// Inputs of the corpus select these by index, so new ones are appended.
 using DrawerOperation = void (*)(DrawDisplayImage &drawer, int space);
 constexpr std::array<DrawerOperation, 13> kDrawerOperations = {
     [](DrawDisplayImage &drawer, int) { drawer.GetAngDisplayArea(); },
@@ -150,7 +150,7 @@ private:
     {
         m_held = m_input.Choice(2) ? m_drawer->DrawClockDisplayImage() : QImage();
         if (m_input.Choice(4) == 1 && !m_held.isNull())
-            m_held.fill(Qt::red); // the holder's own copy from here on
+            m_held.fill(Qt::red); // detaches the held copy
     }
 
     void SetFormat()
@@ -184,8 +184,9 @@ private:
 
     void DeleteNode() { m_node.reset(); }
 
-    // A digital frame shows the settings and nothing else; what the drawer kept must not be seen.
-    // A week code that is none keeps the images of the code before, in the one that has any.
+    // A digital frame depends only on the settings, not on what the drawer has cached.
+    // An invalid week code is left out: it keeps the images of the code before, which a fresh
+    // drawer does not have.
     void CompareWithFreshDrawer()
     {
         if (!m_node || m_node->ClockType() != DigitalClock)
@@ -196,7 +197,7 @@ private:
         SetUp();
         const QImage kept = m_drawer->DrawClockDisplayImage();
         DrawDisplayImage fresh(m_node.data());
-        Fuzz::Expect(kept == fresh.DrawClockDisplayImage(), "a kept frame is a fresh frame");
+        Fuzz::Expect(kept == fresh.DrawClockDisplayImage(), "a cached frame equals a fresh one");
     }
 
     Fuzz::Input m_input;

@@ -1,5 +1,6 @@
-// Glyph images made by others: any bytes in place of a PNG, or a picture of any shape and format.
-// They are loaded and drawn as elements of each kind of clock, and as the dial of a picture clock.
+// fuzz/: target: glyph images of other programs: any bytes as a PNG, or a picture of any shape and
+// format. They are loaded and drawn as elements of each kind of clock, and as the dial of a picture
+// clock.
 #include "fuzz_input.h"
 #include "fuzz_scene.h"
 #include "fuzz_target.h"
@@ -22,7 +23,7 @@ namespace {
 constexpr int kMaxImages = 4;
 constexpr int kFrames = 3;
 
-/// A style of the picture clock that is this process's own.
+/// A style of the picture clock for this process only.
 class OwnDial
 {
 public:
@@ -34,7 +35,7 @@ public:
     static QString Path() { return StyleFolder() + DialPicture(Style()); }
 };
 
-// Small files are kept as they are until they are shown; long ones are decoded at once.
+// The plugin decodes small files when they are first shown, and large ones when it loads them.
 void WriteBytes(const QString &path, Fuzz::Input &input)
 {
     const bool isLong = input.Choice(8) == 1;
@@ -45,7 +46,7 @@ void WriteBytes(const QString &path, Fuzz::Input &input)
         file.write(isLong ? bytes + QByteArray(64 << 10, '\0') : bytes);
 }
 
-// A picture file that is sound, of a shape that no generator of ours makes.
+// A valid picture file of a shape that the plugin's generator never makes.
 void WritePicture(const QString &path, Fuzz::Input &input)
 {
     static constexpr QImage::Format kFormats[] = {QImage::Format_ARGB32,
@@ -101,7 +102,7 @@ void ReplaceImages(HClockNode &node, Fuzz::Input &input)
     const QVector<GlyphImage> glyphs = GlyphImages(GlyphOrder::Generation, node.ClockType());
     const int images = 1 + input.Choice(kMaxImages);
     for (int i = 0; i < images; ++i) {
-        // Whole series are replaced, so that the month and the day do not decide what is seen.
+        // All images of a row are replaced, so that they are drawn in any month and on any weekday.
         const GlyphRow *const row = glyphs[input.Choice(glyphs.size())].row;
         for (const GlyphImage &image : glyphs) {
             if (image.row == row)

@@ -7,7 +7,7 @@ namespace Fuzz {
 
 namespace {
 
-constexpr int kLongest = 250; // characters of a text that is not repeated
+constexpr int kMaxTextBytes = 250; // of a text that is not repeated
 constexpr int kRepeats = 64;
 
 } // namespace
@@ -25,7 +25,7 @@ long long Input::Bytes(int count)
     return static_cast<long long>(value);
 }
 
-// A byte up to 247 is the number itself, minus eight.
+// A first byte up to 247 encodes the number plus eight.
 int Input::Number()
 {
     using Limits = std::numeric_limits<int>;
@@ -68,11 +68,11 @@ long long Input::LongNumber()
 QString Input::Text()
 {
     const int length = Byte();
-    const auto left = static_cast<int>(std::min<std::ptrdiff_t>(m_end - m_at, kLongest));
+    const auto left = static_cast<int>(std::min<std::ptrdiff_t>(m_end - m_at, kMaxTextBytes));
     const QByteArray bytes(reinterpret_cast<const char *>(m_at), std::min(length, left));
     m_at += bytes.size();
     const QString text = QString::fromUtf8(bytes);
-    return length > kLongest ? text.repeated(kRepeats * (length - kLongest)) : text;
+    return length > kMaxTextBytes ? text.repeated(kRepeats * (length - kMaxTextBytes)) : text;
 }
 
 QByteArray Input::Rest()

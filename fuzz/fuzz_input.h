@@ -1,5 +1,5 @@
-// Takes made-up bytes apart into choices, numbers and texts. Every sequence of bytes is an input;
-// past its end come zeros.
+// fuzz/: splits an input into choices, numbers and texts. Every sequence of bytes is valid; zeros
+// follow its end.
 #pragma once
 
 #include <QByteArray>
@@ -18,9 +18,9 @@ public:
     bool AtEnd() const { return m_at == m_end; }
     int Byte();
     int Choice(int count) { return Byte() % count; } ///< 0 to count - 1; at most 256
-    int Number();           ///< of any size, the small and the outermost ones more often
+    int Number();           ///< any int; small and extreme ones are more likely
     long long LongNumber(); ///< likewise
-    QString Text();         ///< up to some ten thousand characters, not all of them valid
+    QString Text();         ///< up to 80 000 characters, some of them invalid
     QByteArray Rest();
 
 private:

@@ -38,7 +38,7 @@ void ShowEverything(HClockNode &node)
     }
 }
 
-// Kept apart from the directory that a target writes to.
+// In a subdirectory, so that EmptyDirectory() does not remove them.
 QList<Lw::FileRecord> MakeGlyphs(int clockType)
 {
     static QTemporaryDir kept(Directory() + QStringLiteral("kept"));
@@ -54,7 +54,7 @@ QList<Lw::FileRecord> MakeGlyphs(int clockType)
 }
 
 /// The images of a clock of that type with its default settings, made at the first call and kept
-/// until the process ends. None for a picture clock.
+/// until the process ends; none for a picture clock.
 const QList<Lw::FileRecord> &PreparedGlyphs(int clockType)
 {
     static const QList<Lw::FileRecord> analog = MakeGlyphs(AnalogClock);

@@ -1,4 +1,4 @@
-// A clock for the targets that draw: a node with a set of glyph images that were made once.
+// fuzz/: a clock for the targets that draw, with glyph images that are made once per process.
 #pragma once
 
 #include "clock_node.h"
@@ -9,7 +9,7 @@ namespace Fuzz {
 /// and has glyph images, which are made once per process.
 void MakeScene(Lw::HNodeClock::HClockNode &node, int clockType);
 
-/// The milliseconds of the device's clock from now on.
+/// Sets the device's clock, which then stands still.
 void SetTime(long long utcMilliseconds);
 void AdvanceTime(int milliseconds); ///< not past the last instant
 

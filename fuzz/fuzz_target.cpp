@@ -12,7 +12,7 @@
 
 namespace {
 
-// What is not ours writes a line about each broken picture: too slow, and nobody reads it.
+// Qt logs a line about each broken picture, which is slow and of no use here.
 void DropMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtFatalMsg) {
@@ -21,8 +21,8 @@ void DropMessage(QtMsgType type, const QMessageLogContext &, const QString &text
     }
 }
 
-// A fuzzer ends without clearing up, so whoever starts one may name a place to clear up himself.
-QString Place()
+// A fuzzer exits without cleaning up, so its caller may name a directory and remove that.
+QString ScratchParent()
 {
     const QString named = qEnvironmentVariable("CLOCK_FUZZ_SCRATCH");
     if (!named.isEmpty())
@@ -33,7 +33,7 @@ QString Place()
 
 QTemporaryDir &Temporary()
 {
-    static QTemporaryDir directory(Place() + QStringLiteral("/clock-fuzz"));
+    static QTemporaryDir directory(ScratchParent() + QStringLiteral("/clock-fuzz"));
     return directory;
 }
 

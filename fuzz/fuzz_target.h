@@ -1,5 +1,5 @@
-// What a fuzz target is: one function called with made-up bytes. A fault is a crash, a leak, too
-// much time or memory, or a broken expectation.
+// fuzz/: the interface of a fuzz target: one function, called with any bytes. A fault is a crash, a
+// leak, too much time or memory, or a failed Expect().
 #pragma once
 
 #include <QString>
@@ -14,10 +14,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 namespace Fuzz {
 
-/// Ends the process, as any other fault does, where the condition does not hold.
+/// Aborts the process if the condition is false.
 void Expect(bool condition, const char *what);
 
-/// A directory of the process's own, with a trailing separator: in memory, or where
+/// The path of the process's own directory, with a trailing separator: in memory, or where
 /// CLOCK_FUZZ_SCRATCH says.
 QString Directory();
 

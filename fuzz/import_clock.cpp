@@ -1,6 +1,6 @@
-// The import of a clock element: every "clock" of a document where the input begins as one, else an
-// element put together of the words that clocks are written with. Whatever was taken over must be
-// exported and come back as the same.
+// fuzz/: target: imports clock elements: those of a document if the input begins with "<", else one
+// made of the words that clocks are written with. What was imported is exported, imported and
+// exported again: both exports must be equal.
 #include "clock_node.h"
 #include "clock_plugin.h"
 #include "clock_sdk_tables.h"
@@ -17,7 +17,7 @@ using namespace Lw::HNodeClock;
 namespace {
 
 constexpr int kMaxClocks = 8;
-constexpr int kDeepest = 8; // of elements in elements
+constexpr int kMaxDepth = 8; // of nested elements
 
 const QStringList kValues = {
     QStringLiteral("true"),
@@ -71,7 +71,7 @@ void CheckRoundTrip(HClockNode &node)
     QDomDocument second;
     Texts after;
     CollectTexts(Export(node, second), QString(), after);
-    Fuzz::Expect(before == after, "an export that is imported says the same again");
+    Fuzz::Expect(before == after, "an export that is imported exports the same again");
 }
 
 void ImportAndExport(QDomElement clock, bool withDefaults)
@@ -105,7 +105,7 @@ QDomElement MakeClock(QDomDocument &document, Fuzz::Input &input)
     int depth = 0;
     while (!input.AtEnd()) {
         const int step = input.Choice(5);
-        if (step == 0 && depth < kDeepest) {
+        if (step == 0 && depth < kMaxDepth) {
             at = at.appendChild(document.createElement(AnyOf(Fuzz::SdkWords(), input))).toElement();
             ++depth;
         } else if (step == 1 && depth > 0) {

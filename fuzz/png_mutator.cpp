@@ -1,4 +1,4 @@
-// Changes inputs that hold a PNG so that most of them still get past its checksums.
+// fuzz/: mutates inputs, and mostly repairs the checksums of a PNG in them, so that it is decoded.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -17,7 +17,7 @@ constexpr std::ptrdiff_t kLengthBytes = 4;
 constexpr std::ptrdiff_t kNameBytes = 4;
 constexpr std::ptrdiff_t kChecksumBytes = 4;
 
-// The cyclic redundancy check of ISO 3309, as PNG takes it over name and content.
+// The CRC-32 that PNG computes over the name and the content of a chunk.
 std::uint32_t Checksum(const std::uint8_t *at, const std::uint8_t *end)
 {
     std::uint32_t sum = 0xffffffff;
@@ -35,7 +35,7 @@ std::uint32_t Number(const std::uint8_t *at)
         | at[3];
 }
 
-// Every chunk that lies within the input gets the checksum of what it holds now.
+// Rewrites the checksum of every complete chunk.
 void RepairChecksums(std::uint8_t *at, std::uint8_t *end)
 {
     while (end - at >= kLengthBytes + kNameBytes + kChecksumBytes) {

@@ -1,4 +1,4 @@
-// Program files: read, checked, and made into nodes as player and tools do it.
+// fuzz/: target: reads program files and makes their nodes as the player and the tools do.
 #include "carried_files.h"
 #include "clock_plugin.h"
 #include "fuzz_target.h"
@@ -34,7 +34,7 @@ void CheckNodes(const Program &program, const MadeNodes &made)
     QSet<int> ids;
     for (const MadeNode &node : made.nodes)
         ids.insert(node.node->GetAttributeToInt(kIdKey));
-    Fuzz::Expect(ids.size() == program.areas.size(), "no two clocks have one identity");
+    Fuzz::Expect(ids.size() == program.areas.size(), "no two clocks have the same Id");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Replays inputs: every file named, and every file in every directory named.
+// fuzz/: main() that replays every file given, and every file in every directory given.
 #include "fuzz_target.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-// The words that clocks are written with, from the tables that read and write them.
+// fuzz/: the names in a clock's XML, from the tables that import and export it.
 #pragma once
 
 #include <QStringList>

@@ -1,6 +1,6 @@
-// The texts that say how a clock's time differs from UTC: zone, adjustment, daylight-saving rules.
+// fuzz/: target: parses zone, adjustment and daylight-saving rules, and reads the time with them.
 //
-// Lines: zone, adjustment, start rule, end rule, then a number for the adjust type and the instant.
+// Lines of an input: zone, adjustment, start rule, end rule, adjust type, instant.
 #include "calendar/clock_time.h"
 #include "calendar/device_clock.h"
 #include "clock_node.h"
@@ -19,7 +19,7 @@ using namespace Lw::HNodeClock;
 namespace {
 
 constexpr qint64 kDay = 86400000;
-// Two fields that are not numbers of the clock, three times: at most "99A99B99", or with signs
+// Three fields of two characters, which need not be a valid time: at most "99A99B99"; with signs
 // less.
 constexpr int kMaximumAdjustment = 99 * 3600 + 99 * 60 + 99;
 
@@ -51,14 +51,14 @@ void CheckRule(const QString &text, int year)
         Fuzz::Expect((date.day() - 1) / 7 + 1 == rule->occurrence, "the nth is the nth");
 }
 
-// What is kept from reading to reading must answer as what is made anew.
+// An object with cached boundaries must answer like a fresh one.
 void CheckShift(const QString &start, const QString &end, qint64 reading)
 {
     static DaylightSaving kept;
     for (const qint64 at : {reading, reading + 200 * kDay, reading - 200 * kDay}) {
         DaylightSaving fresh;
         const int shift = kept.ShiftSeconds(start, end, at);
-        Fuzz::Expect(shift == fresh.ShiftSeconds(start, end, at), "a kept rule is a fresh rule");
+        Fuzz::Expect(shift == fresh.ShiftSeconds(start, end, at), "a cached rule equals a new one");
         Fuzz::Expect(shift == 0 || shift == DaylightSaving::kShiftSeconds, "an hour or none");
     }
 }
