@@ -8,7 +8,7 @@
 
 namespace Lw::HNodeClock {
 
-/// Styles 1 to kStyleCount have a dial picture. image/CMakeLists.txt parses this line.
+/// Styles 1 to kStyleCount have a dial picture. image/CMakeLists.txt and scripts/sheet parse this line.
 inline constexpr int kStyleCount = 10;
 static_assert(RowOf(Attribute::PictrueClockType).range.last == kStyleCount,
               "the attribute table names the styles");

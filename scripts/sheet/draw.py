@@ -11,7 +11,7 @@ EXAMPLES = pathlib.Path(__file__).parents[2] / "examples"
 
 
 def second_frame(player, program, language, instant, *size):
-    """A dial shows its texts from its second frame on."""
+    """The second frame: a dial has no texts in the first."""
     with tempfile.TemporaryDirectory() as directory:
         subprocess.run(
             [player, program, "--output", directory, "--frames", "2", *size]
@@ -37,8 +37,8 @@ def main():
         program = EXAMPLES / f"{example}.xml"
         frame = second_frame(player, program, "en", samples.INSTANT, "--magnify", "2")
         (directory / f"{example}.png").write_bytes(frame)
-    diodes = second_frame(player, EXAMPLES / "wall.xml", "en", samples.INSTANT, "--led", "3")
-    (directory / "wall_diodes.png").write_bytes(diodes)
+    leds = second_frame(player, EXAMPLES / "wall.xml", "en", samples.INSTANT, "--led", "3")
+    (directory / "wall_leds.png").write_bytes(leds)
 
 
 main()

@@ -1,9 +1,14 @@
 """The samples on the contact sheet."""
+import pathlib
+import re
+
 from wall import AMBER, BLUE, CHINESE, GREEN, LATIN, WHITE
 from wall import Wall, analog, digital, picture, points
 
 # At this time the hands do not cover the texts, and the hour differs in the 12-hour form.
 INSTANT = "2024-03-05T14:50:07Z"
+
+STYLE_HEADER = pathlib.Path(__file__).parents[2] / "clock_plugin/display/style_pictures.h"
 
 
 def kinds(wall):
@@ -84,10 +89,15 @@ def dial_texts(wall):
                    for width, height in ((128, 64), (96, 128), (192, 128))))
 
 
+def style_count():
+    return int(re.search(r"kStyleCount = ([0-9]+)", STYLE_HEADER.read_text("utf-8"))[1])
+
+
 def styles(wall):
     wall.heading("Styles of the picture clock")
-    wall.samples(*((str(style), 150, 150, picture(style)) for style in range(1, 11)))
-    wall.samples(*((f"{style}: 64 px", 64, 64, picture(style)) for style in range(1, 11)))
+    numbers = range(1, style_count() + 1)
+    wall.samples(*((str(style), 150, 150, picture(style)) for style in numbers))
+    wall.samples(*((f"{style}: 64 px", 64, 64, picture(style)) for style in numbers))
     wall.samples(("32 px", 32, 32, picture(1)), ("96 x 64", 96, 64, picture(3)),
                  ("64 x 96", 64, 96, picture(6)),
                  ("no picture of this style", 128, 96, picture(99)))

@@ -1,7 +1,7 @@
 """Stacks PNG pictures of the same width without decoding pixels.
 
-Each row of a PNG picture is stored as differences to the row above it, which is black above the
-first row. Packed rows of pictures that end in a black row can therefore be concatenated.
+A row of a PNG picture depends only on the row above it, which counts as black above the first
+row. Packed rows of pictures that end in a black row can therefore be concatenated.
 """
 import struct
 import zlib
@@ -25,7 +25,7 @@ def chunk(kind, content):
 
 
 def read(data):
-    """(width, height, everything else of the header, stored rows)"""
+    """Width, height, the rest of the header, and the unpacked rows with their filters."""
     parts = list(chunks(data))
     width, height = struct.unpack(">II", parts[0][1][:8])
     packed = b"".join(content for kind, content in parts if kind == b"IDAT")

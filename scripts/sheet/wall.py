@@ -85,7 +85,7 @@ def text(words, size, ink, family=LATIN):
 
 
 class Wall:
-    """Areas from top to bottom, and the language and instant at which they are played."""
+    """Areas added from top to bottom, and the language and instant at which they are played."""
 
     def __init__(self, language, instant):
         self.language = language
@@ -98,12 +98,12 @@ class Wall:
         self._y += HEADING_HEIGHT
 
     def samples(self, *samples):
-        """Rows of (label, width, height, attributes), all in cells as large as the largest sample."""
+        """Adds rows of (label, width, height, attributes) in cells of the largest sample's size."""
         width = max(sample[1] for sample in samples) + GAP
         height = max(sample[2] for sample in samples)
-        a_row = (WIDTH - MARGIN) // width
-        for first in range(0, len(samples), a_row):
-            row = samples[first : first + a_row]
+        per_row = (WIDTH - MARGIN) // width
+        for first in range(0, len(samples), per_row):
+            row = samples[first : first + per_row]
             self._row(row, (WIDTH - width * len(row)) // 2, width, height)
 
     def _row(self, row, x, width, height):
