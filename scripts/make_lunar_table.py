@@ -7,7 +7,7 @@ Run by hand (Debian: python3-ephem); neither the build nor the tests run it:
 
 The months are computed astronomically, not taken from a table. A month begins on the day of a
 new moon, counted in China: by the mean time of Beijing, 116 degrees 25 minutes east, up to 1928,
-and by UTC+8 from 1929 on, as the calendar was made. Month 11 is the month that contains the winter
+and by UTC+8 from 1929 on, as the official calendar did. Month 11 contains the winter
 solstice. If thirteen months begin from one month 11 to the next, the first of them without a major
 solar term (the sun's longitude a multiple of 30 degrees) is the leap month and repeats the number
 before it.

@@ -97,7 +97,7 @@ def main():
     print("#pragma once\n\nnamespace ClockTool {\n")
     print('/// "1900-02-01 1$02" and a newline for every day that has a lunar date.')
     digest("kLunarDigest", lunar_lines())
-    print('\n/// "1993-03-21 1372-1-1" and a newline for every day up to the year below.')
+    print('\n/// "1993-03-21 1372-1-1" and a newline for every day before the year kPersianEnd.')
     digest("kPersianDigest", persian_lines(firsts))
     print("\n/// The leap years within the same years, one per line.")
     digest("kPersianLeapDigest", leap_lines(firsts))

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Print the outlines of texts as SVG paths, for the numerals of the style pictures.
+"""Prints the outlines of texts as SVG paths, for the numerals of the style pictures.
 
     outline_text.py FONT HEIGHT TEXT...
 
@@ -19,7 +19,7 @@ from fontTools.ttLib import TTFont
 
 
 def draw(font, text, pen, transform):
-    """Draws the glyphs of text side by side, in the order of their code points."""
+    """Draws the glyphs of text side by side, in the order of its characters, without shaping."""
     glyphs, names, x = font.getGlyphSet(), font.getBestCmap(), 0
     for character in text:
         glyph = glyphs[names[ord(character)]]

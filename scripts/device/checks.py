@@ -14,7 +14,7 @@ BOOT_SECONDS = 600  # on a busy machine
 # How long the last frame of a killed player may be shown, by the device's clock.
 DARK_SECONDS = 2
 # Growth between two measurements that is not a leak.
-MOST_GROWTH = {"kB": 64, "files": 2, "kB of memory free": 3072, "kB of the player": 512}
+MAX_GROWTH = {"kB": 64, "files": 2, "kB of memory free": 3072, "kB of the player": 512}
 
 
 class Checks:
@@ -22,8 +22,8 @@ class Checks:
     equal settings share a device. `note` is called with results."""
 
     CHECKS = {}
-    SETTINGS = {}  # of all its devices
-    PROGRAM = "/run/clock/program.xml"  # that plays
+    SETTINGS = {}  # of the devices of all its checks
+    PROGRAM = "/run/clock/program.xml"  # the program being played
     STATUS = "/run/clock/status.json"
 
     def __init__(self, devices, frames, folder, note):
@@ -78,7 +78,7 @@ class Checks:
                     f"mv -f {self.PROGRAM}.new {self.PROGRAM}")
 
     def ended(self, machine, screen, command, what, dark_seconds=DARK_SECONDS):
-        """The screen becomes dark, and right again after one restart."""
+        """After the command, the screen becomes dark, then correct again after one restart."""
         screen.await_right(FIRST)
         before = self.restarts(machine)
         since = uptime(machine)
@@ -89,7 +89,7 @@ class Checks:
             raise Failed(f"{what}: the screen took {dark_after:.1f} s to become dark")
         screen.await_right(FIRST)
         self.expect_restarts(machine, before, 1)
-        self.note(f"{what}: the screen was dark within {dark_after:.1f} s, then right again")
+        self.note(f"{what}: the screen was dark within {dark_after:.1f} s, then correct again")
 
     def replace(self, machine, screen):
         """Replaces the program while it plays."""
@@ -112,7 +112,7 @@ class Checks:
         self.expect_restarts(machine, first, 30)
         after = used(machine)
         expect_no_growth(before, after)
-        self.note(f"thirty restarts: {after}, before {before}")
+        self.note(f"after thirty restarts: {after}; before: {before}")
 
     def await_restart(self, machine, before):
         end = time.monotonic() + SETTLE_SECONDS
@@ -133,7 +133,7 @@ class ShortChecks(Checks):
 
     def boot(self, machine, screen, count=5):
         seconds = screen.await_right(FIRST)
-        self.note(f"right {seconds:.1f} s after the kernel's start; {memory(machine)}")
+        self.note(f"correct {seconds:.1f} s after the kernel's start; {memory(machine)}")
         screen.expect_right(FIRST, count)
         self.note(f"{count} of {count} samples of the screen equal the frames")
 
@@ -145,7 +145,7 @@ class ShortChecks(Checks):
         self.note("the clock was set forward, back and to 2038: the screen followed")
 
     def kill(self, machine, screen):
-        """A player that is killed leaves a dark screen, not a wrong time, and comes back."""
+        """A killed player leaves a dark screen, not a wrong time, and is restarted."""
         self.ended(machine, screen, "killall -9 clock_player", "killed")
 
 
@@ -167,7 +167,7 @@ def used(machine):
 
 
 def expect_no_growth(before, after):
-    for what, most in MOST_GROWTH.items():
+    for what, most in MAX_GROWTH.items():
         growth = after[what] - before[what]
         if (-growth if "free" in what else growth) > most:
             raise Failed(f"{what}: {after}, before {before}")

@@ -10,7 +10,7 @@ SCRIPTS = Path(__file__).resolve().parent
 TREE = SCRIPTS.parent.parent
 LIBRARIES = image.LIBRARIES
 
-# Besides the packages that programs for 32-bit ARM are built with.
+# In addition to the packages that programs for 32-bit ARM are built with.
 PACKAGES = ["base-passwd", "busybox-static", "coreutils", "fontconfig-config", "fonts-dejavu-core",
             "linux-image-armmp", "systemd-sysv", "tzdata", "udev"]
 # What the player opens at run time.

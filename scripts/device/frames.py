@@ -10,7 +10,7 @@ from PIL import Image
 import image
 
 
-# Frames drawn per start, and kept: starting the emulator takes longer than drawing more frames.
+# Frames drawn per start of the emulator, and cached: starting takes longer than drawing.
 AT_ONCE = 40
 
 

@@ -30,7 +30,7 @@ def needed_libraries(file):
 
 
 class Image:
-    """Files for a device, taken from folders of unpacked packages; earlier folders first."""
+    """A device's file system, copied from folders of unpacked packages; earlier folders first."""
 
     def __init__(self, sources, folder):
         self.sources = [Path(source) for source in sources]
@@ -39,7 +39,7 @@ class Image:
             (self.root / name).mkdir(parents=True)
 
     def add(self, path, links=False):
-        """Adds a file or folder of the packages at its own path; follows links unless `links`."""
+        """Adds a file or folder of the packages at its own path; `links` keeps links as links."""
         source, target = self.source_of(self.path_of([path])), self.root / path
         target.parent.mkdir(parents=True, exist_ok=True)
         if source.is_dir():
@@ -55,7 +55,7 @@ class Image:
         return None
 
     def path_of(self, paths):
-        """The first of these that a package has."""
+        """The first of these paths that a package contains; exits if there is none."""
         for path in paths:
             if self.source_of(path):
                 return path
@@ -111,7 +111,7 @@ def pack_initramfs(packed, script, target):
 
 
 def pack_root(folder, target):
-    """Uses gzip: other compressions need more memory than the smallest device has."""
+    """Packs a squashfs with gzip: other compressions need too much memory for small devices."""
     Path(target).unlink(missing_ok=True)
     subprocess.run(["mksquashfs", folder, target, "-comp", "gzip", "-b", "64K", "-all-root",
                     "-no-progress", "-quiet", "-no-xattrs"], check=True, stdout=subprocess.DEVNULL)
@@ -155,7 +155,7 @@ def remove(*folders):
 
 
 def clean(folder):
-    """The folder, empty."""
+    """Empties or creates the folder, and returns it."""
     remove(folder)
     os.makedirs(folder)
     return folder

@@ -1,4 +1,4 @@
-"""Checks of other memory, other screens, other times, and ten minutes."""
+"""Checks with little memory, other screens and other times, and of ten minutes of play."""
 
 import time
 
@@ -23,7 +23,7 @@ class LongChecks(ShortChecks):
         self.boot(machine, screen, 3)
 
     def sixteen_bits(self, machine, screen):
-        """Each colour is at most two levels off."""
+        """Each colour is at most two levels of the framebuffer's 5 or 6 bits off."""
         depth = machine.run("cat /sys/class/graphics/fb0/bits_per_pixel")
         if depth != "16":
             raise Failed(f"the framebuffer has {depth} bits per pixel")

@@ -22,7 +22,7 @@ SCREENS = {"virtio-gpu": ("virtio-gpu-device,xres={},yres={}", (0, 0, 0)),
 
 
 class Failed(Exception):
-    """The device did not do what it must."""
+    """A check failed, or the device does not respond."""
 
 
 class Machine:
@@ -105,7 +105,7 @@ class Machine:
                 self.heard = self.heard[found.end():]
                 return found
             self.hear()
-        raise Failed(f"nothing like {pattern.decode()!r} on the serial line in {seconds} s")
+        raise Failed(f"no match for {pattern.decode()!r} on the serial line within {seconds} s")
 
     def run(self, command, seconds=240):
         """Runs a command on the device, which must succeed; returns its output."""

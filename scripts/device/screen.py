@@ -7,7 +7,7 @@ from PIL import Image, ImageChops
 
 from machine import Failed
 
-# Part of a second of the device's clock after which the screen shows that second: drawing takes up
+# The part of a second after which the screen certainly shows that second: drawing takes up
 # to a tenth, and the framebuffer is copied to the screen twenty times a second.
 SHOWN_AFTER = 0.35
 POLL_SECONDS = 0.1
@@ -16,7 +16,7 @@ NOTICE_COLOURS = {(0, 0, 64), (255, 255, 255)}  # player/notice.cpp
 
 
 class Screen:
-    """Pictures that fail are saved in the folder."""
+    """Compares pictures of the screen; those that differ are saved in the folder."""
 
     def __init__(self, machine, frames, folder):
         self.machine = machine
@@ -59,7 +59,7 @@ class Screen:
             is_right, picture, frame = self.compare(program)
             if is_right:
                 return float(self.machine.run("cat /proc/uptime").split()[0])
-            time.sleep(POLL_SECONDS)  # the emulator needs the processor more
+            time.sleep(POLL_SECONDS)  # leaves the processor to the emulator
         raise self.wrong(f"the screen does not show {program}", picture, frame)
 
     def expect_right(self, program, count):
@@ -67,7 +67,7 @@ class Screen:
         for sample in range(count):
             is_right, picture, frame = self.compare(program)
             if not is_right:
-                raise self.wrong(f"sample {sample + 1} of the screen is not {program}", picture,
+                raise self.wrong(f"sample {sample + 1} does not show {program}", picture,
                                  frame)
 
     def await_dark(self):

@@ -7,8 +7,8 @@ from service_contents import SLOW
 
 UNIT = "clock-player"
 WATCHDOG_SECONDS = 20  # of the unit
-LATE_SECONDS = 20  # within which it must find a framebuffer, without being restarted for it
-BLANK_SECONDS = 5  # of the player, without a presented second
+LATE_SECONDS = 20  # the longest from a framebuffer's appearance to a correct screen
+BLANK_SECONDS = 5  # after which the player blanks the screen if no second is presented
 FIRST_THREAD = f"/sys/fs/cgroup/system.slice/{UNIT}.service/first"
 
 

@@ -14,7 +14,7 @@ SPOILT = {"directory": f"mkdir {PROGRAM}",
 
 
 class SpoiltChecks(ShortChecks):
-    # In this order: the others leave glyph images that a full disk would have no room for.
+    # full_disk is first: it needs the other program's glyph images to be missing.
     CHECKS = dict.fromkeys(["full_disk", "spoilt", "spoilt_at_start"], {})
 
     def spoilt(self, machine, screen):
