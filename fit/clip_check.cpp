@@ -33,15 +33,15 @@ public:
         m_clock.ForEachState([this](const ClockYear::State &state) {
             for (const PlacedPart &text : state.texts) {
                 if (text.part == Part::Time)
-                    TakeTime(state);
+                    RecordTimes(m_found[Part::Time], state, MeasureOf(state));
                 else
-                    m_found[text.part].Take(LossOf(*text.element).pixels, state.utc);
+                    m_found[text.part].Record(LossOf(*text.element).pixels, state.utc);
             }
-            TakeDial(state);
+            RecordDial(state);
         });
         QVector<Clipped> all;
         for (const auto &[part, worst] : m_found) {
-            if (worst.most > 0)
+            if (worst.max > 0)
                 all.append(ClippedAt(part, worst));
         }
         return all;
@@ -53,7 +53,7 @@ private:
         const Loss first = LossAt(part, worst.firstUtc);
         const Loss most = LossAt(part, worst.worstUtc);
         return {
-            part, most.side, worst.most, {worst.firstUtc, first.text}, {worst.worstUtc, most.text}};
+            part, most.side, worst.max, {worst.firstUtc, first.text}, {worst.worstUtc, most.text}};
     }
 
     Loss LossAt(Part part, qint64 utc)
@@ -75,7 +75,7 @@ private:
             if (chosen.isEmpty() || chosen[i])
                 Take(most, piece, shown);
         }
-        // The last pieces, which of a time are those of its seconds.
+        // Lost pieces are the last ones: of a time, those of its seconds.
         for (int i = 0; i < element.LostCount() && (chosen.isEmpty() || chosen.back()); ++i) {
             const Piece &piece = element.Lost(i);
             Take(most, piece, QRect(piece.sourceX, 0, 0, element.Height()));
@@ -98,20 +98,6 @@ private:
         }
     }
 
-    void TakeTime(const ClockYear::State &state)
-    {
-        WorstCase &found = m_found[Part::Time];
-        const TimeMeasure &loss = MeasureOf(state);
-        if (loss.Most() <= 0 || found.Covers(loss.Most(), state.stretch.begin))
-            return;
-        const int from = state.stretch.firstSecond;
-        const int end = state.stretch.EndSecond();
-        const int most = MostWithin(state.hours, loss, from, end);
-        if (most > 0)
-            found.Take(most, state.stretch.At(FirstSecond(state.hours, loss, 1, from, end)),
-                       state.stretch.At(FirstSecond(state.hours, loss, most, from, end)));
-    }
-
     const TimeMeasure &MeasureOf(const ClockYear::State &state)
     {
         const auto known = m_measures.find(state.hourClass);
@@ -125,13 +111,13 @@ private:
     }
 
     // Numerals and badge are the same all year.
-    void TakeDial(const ClockYear::State &state)
+    void RecordDial(const ClockYear::State &state)
     {
         for (const Part part : {Part::Numerals, Part::Badge}) {
             const auto key = std::make_pair(part, state.isMorning);
             if (m_dial.count(key) == 0)
                 m_dial[key] = part == Part::Badge ? LossOfBadge(state.isMorning) : LossOfNumerals();
-            m_found[part].Take(m_dial[key].pixels, state.utc);
+            m_found[part].Record(m_dial[key].pixels, state.utc);
         }
     }
 

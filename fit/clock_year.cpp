@@ -54,16 +54,16 @@ int ClockYear::FirstSecondOf(const HourClass &hours, const Stretch &stretch)
     return -1;
 }
 
-void TakeTimes(WorstCase &found, const ClockYear::State &state, const TimeMeasure &measure)
+void RecordTimes(WorstCase &found, const ClockYear::State &state, const TimeMeasure &measure)
 {
-    if (measure.Most() <= 0 || found.Covers(measure.Most(), state.stretch.begin))
+    if (measure.Max() <= 0 || found.Covers(measure.Max(), state.stretch.begin))
         return;
     const int from = state.stretch.firstSecond;
     const int end = state.stretch.EndSecond();
-    const int most = MostWithin(state.hours, measure, from, end);
-    if (most > 0)
-        found.Take(most, state.stretch.At(FirstSecond(state.hours, measure, 1, from, end)),
-                   state.stretch.At(FirstSecond(state.hours, measure, most, from, end)));
+    const int max = MaxWithin(state.hours, measure, from, end);
+    if (max > 0)
+        found.Record(max, state.stretch.At(FirstSecond(state.hours, measure, 1, from, end)),
+                     state.stretch.At(FirstSecond(state.hours, measure, max, from, end)));
 }
 
 } // namespace ClockFit

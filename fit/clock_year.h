@@ -59,29 +59,29 @@ private:
 /// The first and the worst instant of a value that varies over a year.
 struct WorstCase
 {
-    int most = 0; ///< 0 until a value above 0 is taken
+    int max = 0; ///< 0 until a value above 0 is recorded
     qint64 firstUtc = 0;
     qint64 worstUtc = 0;
 
     /// Ignores values of 0 or less. Instants may come in any order.
-    void Take(int value, qint64 utc) { Take(value, utc, utc); }
+    void Record(int value, qint64 utc) { Record(value, utc, utc); }
     /// Records a value reached at `worst`, and the instant `first` of the first value above 0.
-    void Take(int value, qint64 first, qint64 worst)
+    void Record(int value, qint64 first, qint64 worst)
     {
         if (value <= 0)
             return;
-        if (most == 0 || first < firstUtc)
+        if (max == 0 || first < firstUtc)
             firstUtc = first;
-        if (value > most || (value == most && worst < worstUtc))
+        if (value > max || (value == max && worst < worstUtc))
             worstUtc = worst;
-        most = qMax(most, value);
+        max = qMax(max, value);
     }
     /// Whether no value up to `value` at `utc` or later can change the result.
-    bool Covers(int value, qint64 utc) const { return most >= value && worstUtc < utc; }
+    bool Covers(int value, qint64 utc) const { return max >= value && worstUtc < utc; }
 };
 
 /// Adds the times of a state to a worst case: the largest measure within its hours and stretch,
-/// when it is first reached, and when any value above 0 is.
-void TakeTimes(WorstCase &found, const ClockYear::State &state, const TimeMeasure &measure);
+/// when it is first reached, and when the measure is first above 0.
+void RecordTimes(WorstCase &found, const ClockYear::State &state, const TimeMeasure &measure);
 
 } // namespace ClockFit

@@ -42,21 +42,21 @@ public:
         m_clock.ForEachState([this](const ClockYear::State &state) {
             for (const PlacedPart &text : state.texts) {
                 if (text.part == Part::Time)
-                    TakeTime(state, text.topLeft);
+                    RecordTime(state, text.topLeft);
                 else
-                    Take(text.part, Bounds(*text.element, text.topLeft), state.utc);
+                    Record(text.part, Bounds(*text.element, text.topLeft), state.utc);
             }
-            Take(Part::Badge, state.isMorning ? m_morning : m_afternoon, state.utc);
-            Take(Part::Numerals, m_numerals, state.utc);
-            Take(Part::HourMarks, m_hourMarks, state.utc);
-            Take(Part::MinuteMarks, m_minuteMarks, state.utc);
+            Record(Part::Badge, state.isMorning ? m_morning : m_afternoon, state.utc);
+            Record(Part::Numerals, m_numerals, state.utc);
+            Record(Part::HourMarks, m_hourMarks, state.utc);
+            Record(Part::MinuteMarks, m_minuteMarks, state.utc);
         });
         QVector<Cut> cuts;
         for (const auto &[place, worst] : m_found) {
-            if (worst.most > 0)
+            if (worst.max > 0)
                 cuts.append({place.first,
                              place.second,
-                             worst.most,
+                             worst.max,
                              IsGone(place.first, worst),
                              {worst.firstUtc, {}},
                              {worst.worstUtc, {}}});
@@ -70,12 +70,12 @@ private:
         return m_bounds.Of(element).translated(topLeft);
     }
 
-    void Take(Part part, const QRect &ink, qint64 utc)
+    void Record(Part part, const QRect &ink, qint64 utc)
     {
         for (const Side side : kSides) {
             const int pixels = Beyond(ink, m_visible, side);
             if (pixels > 0)
-                m_found[{part, side}].Take(pixels, utc);
+                m_found[{part, side}].Record(pixels, utc);
         }
     }
 
@@ -94,11 +94,11 @@ private:
             .first->second;
     }
 
-    void TakeTime(const ClockYear::State &state, const QPoint &topLeft)
+    void RecordTime(const ClockYear::State &state, const QPoint &topLeft)
     {
         for (const Side side : kSides) {
             const TimeMeasure &beyond = MeasureOf(state, topLeft, side);
-            TakeTimes(m_found[{Part::Time, side}], state, beyond);
+            RecordTimes(m_found[{Part::Time, side}], state, beyond);
         }
     }
 

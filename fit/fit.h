@@ -68,9 +68,9 @@ struct Clipped
 {
     Part part = Part::TopText;
     Side side = Side::Left;
-    int pixels = 0; ///< how far ink reaches beyond the edge, at the worst
+    int pixels = 0; ///< how far ink reaches beyond the edge in the worst case
     Moment first;   ///< when any ink is first lost; the text is the piece that loses most
-    Moment worst;   ///< when so much is first lost, likewise
+    Moment worst;   ///< when the worst loss first occurs, likewise
 };
 
 /// Ink of one part over that of another.
@@ -79,7 +79,7 @@ struct Overlap
     Part lower = Part::TopText;
     Part upper = Part::TopText; ///< equal to `lower` where numerals overlap each other
     int pixels = 0;             ///< ink in common in the worst case
-    Moment first;               ///< when any is first covered, and what the upper part shows
+    Moment first;               ///< when any ink is first covered; the text is the upper part's
     Moment worst;               ///< when the worst overlap first occurs, likewise
 };
 

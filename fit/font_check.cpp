@@ -137,7 +137,7 @@ Characters CharactersShown(ClockYear &clock, HClockNode &node, const GlyphImages
         if (part == Part::Time || part == Part::Numerals)
             AddNew(shown[part], QStringLiteral("0123456789"));
         else if (part == Part::Badge)
-            AddNew(shown[part], QStringLiteral("AMP"));
+            AddNew(shown[part], QStringLiteral("AMP")); // of "AM" and "PM"
     }
     return shown;
 }

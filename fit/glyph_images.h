@@ -33,8 +33,8 @@ public:
     QString TextOf(const Lw::HNodeClock::Element &element) const;
     /// The same of one of its pieces.
     QString TextOf(const Lw::HNodeClock::Piece &piece) const;
-    /// The bounds of all ink that the font draws for what a piece says, in pixels of its image,
-    /// which may be smaller.
+    /// The bounds of all ink that the font draws for a piece's text, in pixels of its image; it may
+    /// extend beyond the image.
     QRect WholeInk(const Lw::HNodeClock::Piece &piece);
 
 private:
@@ -47,7 +47,7 @@ private:
         QString family;
         int points = 0;
         QSize size;          ///< of the image
-        QVector<QRect> inks; ///< of each cell; filled when first asked for
+        QVector<QRect> inks; ///< of each cell; filled lazily
         int CellWidth() const { return size.width() / cells; }
     };
 

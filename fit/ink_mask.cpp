@@ -181,7 +181,7 @@ int InkMask::Common(const InkMask &other) const
             if (row[word] == 0)
                 continue;
             const quint32 both = row[word] & other.Columns(y, m_box.left() + word * kBits);
-            if (both != 0) // seldom: most texts are clear of each other
+            if (both != 0) // rarely: most texts do not overlap
                 count += static_cast<int>(qPopulationCount(both));
         }
     }

@@ -1,6 +1,7 @@
 // fit/: checks which parts of a clock are drawn over other parts.
 #include "clock_checks.h"
 
+#include <algorithm>
 #include <map>
 #include <utility>
 
@@ -10,8 +11,8 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-// An element with a fixed position, on which its overlaps depend.
-struct Still
+// A text other than the time, at its position, with the bounds of its ink.
+struct PlacedText
 {
     Part part;
     const Element *element;
@@ -32,13 +33,13 @@ public:
 
     QVector<Overlap> Run()
     {
-        m_clock.ForEachState([this](const ClockYear::State &state) { Look(state); });
+        m_clock.ForEachState([this](const ClockYear::State &state) { CheckState(state); });
         QVector<Overlap> overlaps;
         for (const auto &[parts, worst] : m_found) {
-            if (worst.most > 0)
+            if (worst.max > 0)
                 overlaps.append({parts.first,
                                  parts.second,
-                                 worst.most,
+                                 worst.max,
                                  {worst.firstUtc, {}},
                                  {worst.worstUtc, {}}});
         }
@@ -48,35 +49,35 @@ public:
 private:
     using Parts = std::pair<Part, Part>; // the lower one first
 
-    void Look(const ClockYear::State &state)
+    void CheckState(const ClockYear::State &state)
     {
-        LookAtDial(state);
-        std::vector<Still> lower;
+        CheckDial(state);
+        std::vector<PlacedText> lower;
         for (const PlacedPart &text : state.texts) {
             if (text.part == Part::Time) {
-                LookAtTime(state, text, lower);
+                CheckTime(state, text, lower);
                 continue;
             }
-            const Still still = {text.part, text.element, text.topLeft,
-                                 m_bounds.Of(*text.element).translated(text.topLeft)};
-            LookOverDial(state, still);
-            for (const Still &other : lower)
-                LookAtPair(state, other, still);
-            lower.push_back(still);
+            const PlacedText placed = {text.part, text.element, text.topLeft,
+                                       m_bounds.Of(*text.element).translated(text.topLeft)};
+            CheckTextOverDial(state, placed);
+            for (const PlacedText &other : lower)
+                CheckPair(state, other, placed);
+            lower.push_back(placed);
         }
     }
 
     // The badge over the marks and numerals, and the numerals over each other.
-    void LookAtDial(const ClockYear::State &state)
+    void CheckDial(const ClockYear::State &state)
     {
         const DialInk &dial = m_clock.Dial();
-        Found(Part::Numerals, Part::Numerals).Take(dial.coveredNumerals, state.utc);
-        if (!m_badgeLooked[state.isMorning])
-            LookUnder(state, Part::Badge, state.isMorning ? dial.morning : dial.afternoon);
-        m_badgeLooked[state.isMorning] = true;
+        Found(Part::Numerals, Part::Numerals).Record(dial.coveredNumerals, state.utc);
+        if (!m_isBadgeChecked[state.isMorning])
+            RecordOverDial(state, Part::Badge, state.isMorning ? dial.morning : dial.afternoon);
+        m_isBadgeChecked[state.isMorning] = true;
     }
 
-    void LookOverDial(const ClockYear::State &state, const Still &text)
+    void CheckTextOverDial(const ClockYear::State &state, const PlacedText &text)
     {
         const InkMask &under = m_under[state.isMorning];
         if (!under.HasInkIn(text.ink))
@@ -85,54 +86,54 @@ private:
         if (mask.Common(under) == 0)
             return;
         const DialInk &dial = m_clock.Dial();
-        LookUnder(state, text.part, mask);
+        RecordOverDial(state, text.part, mask);
         Found(Part::Badge, text.part)
-            .Take(mask.Common(state.isMorning ? dial.morning : dial.afternoon), state.utc);
+            .Record(mask.Common(state.isMorning ? dial.morning : dial.afternoon), state.utc);
     }
 
-    void LookUnder(const ClockYear::State &state, Part upper, const InkMask &mask)
+    void RecordOverDial(const ClockYear::State &state, Part upper, const InkMask &mask)
     {
         const DialInk &dial = m_clock.Dial();
-        Found(Part::HourMarks, upper).Take(mask.Common(dial.hourMarks), state.utc);
-        Found(Part::MinuteMarks, upper).Take(mask.Common(dial.minuteMarks), state.utc);
-        Found(Part::Numerals, upper).Take(mask.Common(dial.numerals), state.utc);
+        Found(Part::HourMarks, upper).Record(mask.Common(dial.hourMarks), state.utc);
+        Found(Part::MinuteMarks, upper).Record(mask.Common(dial.minuteMarks), state.utc);
+        Found(Part::Numerals, upper).Record(mask.Common(dial.numerals), state.utc);
     }
 
-    void LookAtPair(const ClockYear::State &state, const Still &lower, const Still &upper)
+    void CheckPair(const ClockYear::State &state, const PlacedText &lower, const PlacedText &upper)
     {
         if (lower.ink.intersects(upper.ink))
-            Found(lower.part, upper.part).Take(lower.Mask().Common(upper.Mask()), state.utc);
+            Found(lower.part, upper.part).Record(lower.Mask().Common(upper.Mask()), state.utc);
     }
 
     // Texts in `lower` are drawn before the time, the others after it: the lunar date, and on one
     // line date and week too.
-    void LookAtTime(const ClockYear::State &state, const PlacedPart &time,
-                    const std::vector<Still> &lower)
+    void CheckTime(const ClockYear::State &state, const PlacedPart &time,
+                   const std::vector<PlacedText> &lower)
     {
         const QRect box = BoxOf(state).translated(time.topLeft);
         for (const PlacedPart &text : state.texts) {
             if (text.part == Part::Time)
                 continue;
-            const Still other = {text.part, text.element, text.topLeft,
-                                 m_bounds.Of(*text.element).translated(text.topLeft)};
+            const PlacedText other = {text.part, text.element, text.topLeft,
+                                      m_bounds.Of(*text.element).translated(text.topLeft)};
             if (!other.ink.intersects(box))
                 continue;
-            const bool isBelow = std::any_of(lower.cbegin(), lower.cend(), [&](const Still &one) {
-                return one.part == text.part;
-            });
-            TakeOverlaps(isBelow ? Found(text.part, Part::Time) : Found(Part::Time, text.part),
-                         state, time.topLeft, other.Mask());
+            const bool isBelow =
+                std::any_of(lower.cbegin(), lower.cend(),
+                            [&](const PlacedText &one) { return one.part == text.part; });
+            RecordOverlaps(isBelow ? Found(text.part, Part::Time) : Found(Part::Time, text.part),
+                           state, time.topLeft, other.Mask());
         }
     }
 
-    void TakeOverlaps(WorstCase &found, const ClockYear::State &state, const QPoint &topLeft,
-                      const InkMask &other)
+    void RecordOverlaps(WorstCase &found, const ClockYear::State &state, const QPoint &topLeft,
+                        const InkMask &other)
     {
         const TimeMeasure common = Measure(state.hours, TimeMeasure::Sum,
                                            [&](const Element &time, const QVector<bool> &chosen) {
                                                return InkMask(time, topLeft, chosen).Common(other);
                                            });
-        TakeTimes(found, state, common);
+        RecordTimes(found, state, common);
     }
 
     // The bounds of the ink of all times in an hour class.
@@ -154,7 +155,7 @@ private:
     ClockYear &m_clock;
     InkBounds m_bounds;
     std::map<bool, InkMask> m_under; ///< ink of the dial below the texts, by half of the day
-    std::map<bool, bool> m_badgeLooked;
+    std::map<bool, bool> m_isBadgeChecked;
     std::map<std::size_t, QRect> m_boxes;
     std::map<Parts, WorstCase> m_found;
 };

@@ -70,13 +70,13 @@ std::vector<HourClass> HourClassesOf(ClockScene &scene, qint64 midnight)
     return classes;
 }
 
-int TimeMeasure::Most() const
+int TimeMeasure::Max() const
 {
-    const auto most = [](const std::vector<int> &numbers) {
+    const auto max = [](const std::vector<int> &numbers) {
         return *std::max_element(numbers.begin(), numbers.end());
     };
-    return kind == Sum ? most(hours) + most(minutes) + most(seconds)
-                       : std::max({most(hours), most(minutes), most(seconds)});
+    return kind == Sum ? max(hours) + max(minutes) + max(seconds)
+                       : std::max({max(hours), max(minutes), max(seconds)});
 }
 
 int TimeMeasure::At(std::size_t hour, int minute, int second) const
@@ -130,14 +130,14 @@ int FirstSecond(const HourClass &hours, const TimeMeasure &measure, int least, i
     return first;
 }
 
-int MostWithin(const HourClass &hours, const TimeMeasure &measure, int from, int end)
+int MaxWithin(const HourClass &hours, const TimeMeasure &measure, int from, int end)
 {
-    int most = 0;
+    int max = 0;
     ForEachSecond(hours, measure, from, end, [&](int, int value) {
-        most = std::max(most, value);
+        max = std::max(max, value);
         return false;
     });
-    return most;
+    return max;
 }
 
 } // namespace ClockFit

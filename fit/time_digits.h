@@ -39,7 +39,7 @@ struct TimeMeasure
     std::vector<int> seconds;
 
     /// An upper bound over all times.
-    int Most() const;
+    int Max() const;
     int At(std::size_t hour, int minute, int second) const;
 };
 
@@ -52,6 +52,6 @@ Measure(const HourClass &hours, TimeMeasure::Kind kind,
 /// is none.
 int FirstSecond(const HourClass &hours, const TimeMeasure &measure, int least, int from, int end);
 /// The largest measure in [from, end); 0 if none is above 0.
-int MostWithin(const HourClass &hours, const TimeMeasure &measure, int from, int end);
+int MaxWithin(const HourClass &hours, const TimeMeasure &measure, int from, int end);
 
 } // namespace ClockFit

@@ -13,9 +13,9 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr int kLinesAround = 1; // of room, in heights of the image
+constexpr int kLinesAround = 1; // room around the image, in image heights
 
-// What is drawn around the image too, in the image's pixels.
+// The bounds of what is drawn, in the image's pixels, including ink just outside the image.
 template<typename Draw>
 QRect InkOf(const QFont &font, const QSize &image, Draw draw)
 {
@@ -34,18 +34,18 @@ QRect InkOf(const QFont &font, const QSize &image, Draw draw)
     return InkMask::OfPicture(picture, QPoint(-room, -room)).Bounds();
 }
 
-QRect InkInTheMiddle(const QFont &font, const QSize &image, const QString &text)
+QRect InkOfCentredText(const QFont &font, const QSize &image, const QString &text)
 {
     return InkOf(font, image, [&](QPainter &painter) {
         painter.drawText(QRect(QPoint(0, 0), image), Qt::AlignCenter | Qt::TextDontClip, text);
     });
 }
 
-// Where Qt puts the characters of a text that is in the middle of an image.
-class Line
+// Where Qt puts the characters of a text that is centred in an image.
+class CentredLine
 {
 public:
-    Line(const QFont &font, const QSize &image, const QString &text) : m_layout(text, font)
+    CentredLine(const QFont &font, const QSize &image, const QString &text) : m_layout(text, font)
     {
         m_layout.beginLayout();
         m_line = m_layout.createLine();
@@ -71,7 +71,7 @@ QVector<QRect> InkOfDigits(const QFont &font, const QSize &image, const QString 
     QVector<QRect> inks;
     for (int digit = 0; digit < kDigitCells; ++digit)
         inks.append(
-            InkInTheMiddle(font, cell, digits.mid(digit, 1)).translated(digit * cell.width(), 0));
+            InkOfCentredText(font, cell, digits.mid(digit, 1)).translated(digit * cell.width(), 0));
     return inks;
 }
 
@@ -80,10 +80,10 @@ QVector<QRect> InkOfDigits(const QFont &font, const QSize &image, const QString 
 QVector<QRect> InkOfCells(const QFont &font, const QSize &image, const QString &text, int cells)
 {
     if (cells == 1)
-        return {InkInTheMiddle(font, image, text)};
+        return {InkOfCentredText(font, image, text)};
     if (cells == kDigitCells)
         return InkOfDigits(font, image, text);
-    const Line line(font, image, text);
+    const CentredLine line(font, image, text);
     QVector<QRect> inks;
     for (int i = 0; i < text.size(); ++i)
         inks.append(InkOf(font, image, [&](QPainter &painter) {

@@ -34,7 +34,7 @@ struct CommonInk
 CommonInk FirstCommon(const PartInk &one, const PartInk &other, qint64 begin);
 
 /// The parts in screen pixels; topLeft is that of the area. Hands are represented by the disc that
-/// they sweep over. A picture clock has one part, stored as HourMarks.
+/// they sweep over, stored as SecondHand. A picture clock has one part, stored as HourMarks.
 std::vector<PartInk> YearInkOf(Lw::HNodeClock::HClockNode &node,
                                const Lw::HNodeClock::GlyphSource &source, const Year &year,
                                const QPoint &topLeft);
