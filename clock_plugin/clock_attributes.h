@@ -51,7 +51,7 @@ inline constexpr AttributeRow kAttributeTable[] = {
     CodeAttribute(Attribute::AdjustType, "AdjustType", ClockKinds::All, CodeNames::kDirections, 0, Redraw::Yes, "Direction of the adjustment",
         "Whether the clock runs ahead of or behind its zone by the adjustment."),
     TextAttribute(Attribute::TimeAdjust, "TimeAdjust", ClockKinds::All, ValueRole::Adjustment, "00A00B00", Redraw::Yes, "Adjustment",
-        "How far the clock is off its zone: hours, \"A\", minutes, \"B\", seconds, two digits each."),
+        "How far the clock differs from its zone's time: hours, \"A\", minutes, \"B\", seconds, two digits each."),
     ComputedDefault(TextAttribute(Attribute::TimeZone, "TimeZone", ClockKinds::All, ValueRole::Zone, "", Redraw::Yes, "Time zone",
         "Offset from UTC: a sign, then \"hh:mm\" or \"h:mm\". The first character always counts as the sign.")),
     ComputedDefault(SwitchAttribute(Attribute::UseDaylightSavingTime, "UseDaylightSavingTime", ClockKinds::All, 0, Redraw::No, "Daylight saving",

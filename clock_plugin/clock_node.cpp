@@ -106,7 +106,7 @@ void HClockNode::StoreComputedDefault(Attribute attribute)
 
 // Zone and flag come from one call, because a slot may change what the host returns next. The zone
 // is stored without a sign, unlike those of editors, so ParseZoneOffset() takes its first digit for
-// one. One west of Greenwich is stored as the local time there at midnight UTC: -5 hours as
+// the sign. A zone west of Greenwich is stored as the local time there at midnight UTC: -5 hours as
 // "19:00".
 void HClockNode::StoreHostTime()
 {

@@ -10,9 +10,8 @@ namespace Lw::HNodeClock {
 constexpr int kImageSide = 32767;          ///< pixels
 constexpr qint64 kGlyphBytes = 64LL << 20; ///< a glyph image, written or read, or an element
 constexpr qint64 kFrameBytes = 256LL << 20;
-constexpr qint64 kClockGlyphBytes = 64LL << 20; ///< all glyph images of one clock
-constexpr qint64 kProcessGlyphBytes = 256LL
-    << 20; ///< all glyph images of all clocks of the process
+constexpr qint64 kClockGlyphBytes = 64LL << 20;    ///< all glyph images of one clock
+constexpr qint64 kProcessGlyphBytes = 256LL << 20; ///< all glyph images of the process
 
 /// Whether an image of this size is not empty, within kImageSide, and at 32 bits per pixel within
 /// `bytes`.

@@ -1,6 +1,8 @@
 // fit/: finds the sizes that fit, by bisection.
 #include "clock_parts.h"
 
+#include "glyph/glyph_picture.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -11,7 +13,6 @@ using namespace Lw::HNodeClock;
 
 namespace {
 
-constexpr int kDefaultPoints = 12; // used for a size of 0 or less
 constexpr int kMaxTrials = 10;
 
 std::size_t Index(GlyphFont font)
@@ -35,7 +36,8 @@ bool FitsAll(ClockCheck &check, HClockNode &node, const FontSizes &sizes, const 
     return std::none_of(cuts.cbegin(), cuts.cend(), HasFont);
 }
 
-// The largest number from least to most for which `succeeds` is true; least - 1 if there is none.
+// Bisects for the largest number from `least` to `most` that `succeeds`, in at most kMaxTrials
+// trials; `least` - 1 if none does.
 template<typename Trial>
 int LargestThat(int least, int most, Trial succeeds)
 {

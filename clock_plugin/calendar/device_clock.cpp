@@ -21,7 +21,7 @@ std::atomic<TimeSource> s_source {nullptr};
 struct Hold
 {
     int depth = 0;
-    qint64 reading = 0;
+    qint64 instant = 0;
 };
 thread_local Hold t_hold;
 
@@ -62,27 +62,27 @@ QDate FindLocalDate(qint64 utc)
 
 } // namespace
 
-HeldInstant::HeldInstant() : m_outer(t_hold.reading)
+HeldInstant::HeldInstant() : m_outer(t_hold.instant)
 {
     if (t_hold.depth++ == 0)
-        t_hold.reading = ReadSource();
+        t_hold.instant = ReadSource();
 }
 
-HeldInstant::HeldInstant(qint64 utcMilliseconds) : m_outer(t_hold.reading)
+HeldInstant::HeldInstant(qint64 utcMilliseconds) : m_outer(t_hold.instant)
 {
     ++t_hold.depth;
-    t_hold.reading = qBound<qint64>(-kFurthest, utcMilliseconds, kFurthest);
+    t_hold.instant = qBound<qint64>(-kFurthest, utcMilliseconds, kFurthest);
 }
 
 HeldInstant::~HeldInstant()
 {
     --t_hold.depth;
-    t_hold.reading = m_outer;
+    t_hold.instant = m_outer;
 }
 
 qint64 UtcMilliseconds()
 {
-    return t_hold.depth > 0 ? t_hold.reading : ReadSource();
+    return t_hold.depth > 0 ? t_hold.instant : ReadSource();
 }
 
 int LocalMillisecond()

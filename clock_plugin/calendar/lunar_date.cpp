@@ -123,8 +123,8 @@ LunarDate DateInYear(int year, int daysSinceNewYear)
 
 LunarDate LunarDateOf(const QDate &date)
 {
-    // 31 January 1900 is in the table but gets no lunar date: days are counted from the first of
-    // the Gregorian month, which the table does not reach.
+    // 31 January 1900 is in the table but gets no lunar date: the C functions answer only for
+    // Gregorian months whose first day is in the table.
     if (!date.isValid() || date.toJulianDay() <= kFirstNewYear
         || date.toJulianDay() >= kFirstNewYear + kNewYears.back())
         return {};

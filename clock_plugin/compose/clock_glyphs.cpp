@@ -48,7 +48,7 @@ GlyphStrip &ClockGlyphs::Strip(Glyph glyph, int number)
         return minus;
     case Glyph::Space:
         return space;
-    default: // a day of one of the week families
+    default: // a day of one of the weekday series
         weeks.resize(7);
         return weeks[number - 1];
     }

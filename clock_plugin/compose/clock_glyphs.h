@@ -38,7 +38,7 @@ private:
 struct ClockGlyphs
 {
     GlyphStrip lunar;
-    QVector<GlyphStrip> weeks; ///< seven, Monday first; empty until loaded with a valid week code
+    QVector<GlyphStrip> weeks; ///< seven weekdays, Monday first; empty until a valid code is loaded
     GlyphStrip topText;
     GlyphStrip timeNumber;
     GlyphStrip timeCh;
@@ -52,8 +52,8 @@ struct ClockGlyphs
     LiveGlyph morningMark;
     LiveGlyph afternoonMark;
 
-    /// Loads the images for a clock type; others are kept. A week code outside 0 to 3 leaves the
-    /// week images as they were.
+    /// Loads the images for a clock type; others are kept. A weekday code outside 0 to 3 leaves the
+    /// weekday images as they were.
     void Load(const GlyphSource &source, int clockType, int weekType);
 
     /// The image in a file; null if the glyph images of this clock, or of the process,

@@ -1,4 +1,4 @@
-// compose/: the host's class for the elements of a clock (date, time, week, lunar date, top text)
+// compose/: the host's class for a clock's elements (date, time, weekday, lunar date, top text)
 // as pixmaps, composed from the node's glyph images for the current time in its zone.
 #pragma once
 
@@ -17,7 +17,7 @@ namespace Lw::HNodeClock {
 
 class ElementComposer;
 
-/// Zone, adjustment, week code, date code and images are read by InitParameters(); everything else
+/// InitParameters() reads zone, adjustment, weekday code, date code and images; everything else
 /// is read from the node at each call. All pixmaps are null before InitParameters(), and where an
 /// image is missing.
 class CLOCK_EXPORT DrawClockClassifyImage : public QObject

@@ -12,8 +12,8 @@
 
 namespace Lw::HNodeClock {
 
-/// A full-height part of a strip and the x of its left edge in the element, in pixels. Clocks keep
-/// many.
+/// A full-height part of a strip and the x of its left edge in the element, in pixels. Compact, as
+/// clocks hold many.
 struct Piece
 {
     const GlyphStrip *strip = nullptr; ///< valid until the next SetUp() of its composer
@@ -31,7 +31,7 @@ struct Piece
     bool operator!=(const Piece &other) const { return !(*this == other); }
 };
 
-/// Pieces never overlap; anything beyond the canvas is clipped. At most twelve, with those cut off.
+/// Pieces never overlap and are clipped to the canvas. At most twelve, including the lost ones.
 class Element
 {
 public:
@@ -55,7 +55,7 @@ public:
     int Count() const { return m_count; }
     const Piece &At(int index) const { return m_pieces[Index(index)]; }
 
-    /// The pieces that are not shown at all: they begin where nothing is drawn any more.
+    /// The pieces that are not shown at all, as they begin beyond the canvas.
     int LostCount() const { return m_lost; }
     const Piece &Lost(int index) const { return m_pieces[m_pieces.size() - 1 - Index(index)]; }
 
@@ -66,7 +66,7 @@ public:
             return;
         if (!m_size.isEmpty() && sourceX >= 0 && sourceX < strip.Width() && HasRoom()) {
             const int present = std::min({width, strip.Width() - sourceX, kImageSide});
-            const long long x = std::min<long long>(m_end, kImageSide); // of a lost one at most
+            const long long x = std::min<long long>(m_end, kImageSide); // clamps lost pieces only
             const bool visible = m_end < m_size.width();
             m_pieces[visible ? Index(m_count++) : m_pieces.size() - 1 - Index(m_lost++)] = {
                 &strip,
@@ -113,7 +113,7 @@ private:
     long long m_end = 0; ///< where the next piece begins
     int m_count = 0;
     int m_lost = 0;
-    std::array<Piece, 12> m_pieces; ///< those shown from the first on, those lost from the last
+    std::array<Piece, 12> m_pieces; ///< shown ones from the front, lost ones from the back
 };
 
 } // namespace Lw::HNodeClock

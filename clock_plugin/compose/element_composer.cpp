@@ -27,7 +27,7 @@ QPixmap Drawn(const Element &element)
     return QPixmap::fromImage(image, Qt::NoOpaqueDetection);
 }
 
-void TellLost(HClockNode &node, const QVector<Lw::GlyphFault> &lost)
+void RecordLostImages(HClockNode &node, const QVector<Lw::GlyphFault> &lost)
 {
     QVector<Lw::GlyphFault> faults;
     for (const Lw::GlyphFault &fault : Lw::GlyphFaultsOf(node)) {
@@ -63,7 +63,7 @@ void ElementComposer::SetUp(HClockNode &node)
     m_fixedMarks.reset();
     QVector<Lw::GlyphFault> lost;
     SetUp(node, node.ClockType(), m_glyphs.RecordedFiles(node, &lost));
-    TellLost(node, lost);
+    RecordLostImages(node, lost);
 }
 
 void ElementComposer::SetUp(HClockNode &node, const GlyphSource &source)
@@ -120,7 +120,8 @@ const Element &ElementComposer::Date()
 }
 
 // Unlike all other images, the AM/PM mark is checked during playback: once per frame scope, and at
-// each call outside one. Midnight and noon keep their hour.
+// each call outside one. In 12-hour mode also reduces m_shownHour; midnight and noon keep theirs, 0
+// and 12.
 const GlyphStrip &ElementComposer::AmPmMark(bool twelveHours)
 {
     static const GlyphStrip none;

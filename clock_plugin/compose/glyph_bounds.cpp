@@ -11,8 +11,8 @@ namespace Lw::HNodeClock {
 namespace {
 
 // Indexed by the week code.
-constexpr Glyph kWeekFamilies[] = {Glyph::ChWeek, Glyph::EnWeek, Glyph::EnWeekSim,
-                                   Glyph::PersiaWeek};
+constexpr Glyph kWeekdaySeries[] = {Glyph::ChWeek, Glyph::EnWeek, Glyph::EnWeekSim,
+                                    Glyph::PersiaWeek};
 
 // 0 for an attribute that is missing.
 int Number(HClockNode &clock, Attribute attribute)
@@ -40,9 +40,9 @@ QVector<LoadedGlyph> GlyphsLoaded(int clockType, int weekType)
     if (clockType == PictureClock)
         return glyphs;
     glyphs += {{Glyph::TopText, 0}, {Glyph::Lunar, 0}};
-    const bool isKnownWeek = weekType >= 0 && weekType < int(std::size(kWeekFamilies));
+    const bool isKnownWeek = weekType >= 0 && weekType < int(std::size(kWeekdaySeries));
     for (int day = 1; isKnownWeek && day <= 7; ++day)
-        glyphs.append({kWeekFamilies[weekType], day});
+        glyphs.append({kWeekdaySeries[weekType], day});
     if (clockType == DigitalClock)
         glyphs += {{Glyph::TimeNumber, 0}, {Glyph::TimeCh, 0}, {Glyph::TimeChar, 0}};
     glyphs += {{Glyph::DateNumber, 0},
@@ -67,7 +67,7 @@ Lw::GlyphFault NotKept(const QString &key, const QString &path)
 QVector<Lw::GlyphFault> GlyphAccount::AddFiles(HClockNode &clock)
 {
     QVector<Lw::GlyphFault> lost;
-    OfClock kept;
+    ClockImages kept;
     for (const LoadedGlyph &glyph : GlyphsOf(clock)) {
         const QString &key = GlyphKey(glyph.glyph, glyph.number);
         const QString path = clock.GetFirstFile(key);
@@ -82,7 +82,7 @@ QVector<Lw::GlyphFault> GlyphAccount::AddPlanned(HClockNode &clock,
                                                  const QHash<QString, PlannedImage> &planned)
 {
     QVector<Lw::GlyphFault> lost;
-    OfClock kept;
+    ClockImages kept;
     for (const LoadedGlyph &glyph : GlyphsOf(clock)) {
         const QString &key = GlyphKey(glyph.glyph, glyph.number);
         const auto image = planned.constFind(key);
@@ -93,7 +93,7 @@ QVector<Lw::GlyphFault> GlyphAccount::AddPlanned(HClockNode &clock,
     return lost;
 }
 
-bool GlyphAccount::Keep(OfClock &clock, const QByteArray &identity,
+bool GlyphAccount::Keep(ClockImages &clock, const QByteArray &identity,
                         const std::function<qint64()> &bytes)
 {
     if (clock.bytes.contains(identity))

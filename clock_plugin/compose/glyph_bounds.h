@@ -21,8 +21,8 @@ struct LoadedGlyph
     int number; ///< within a series from 1; 0 for a single image
 };
 
-/// The images that a clock of this type loads when it is set up, in loading order. No week images
-/// for a code outside 0 to 3.
+/// The images that a clock of this type loads when it is set up, in loading order. No weekday
+/// images for a code outside 0 to 3.
 QVector<LoadedGlyph> GlyphsLoaded(int clockType, int weekType);
 
 /// The fault of an image that exceeds the limits.
@@ -45,13 +45,13 @@ public:
                                        const QHash<QString, PlannedImage> &planned);
 
 private:
-    struct OfClock
+    struct ClockImages
     {
         QHash<QByteArray, qint64> bytes;
         qint64 total = 0;
     };
 
-    bool Keep(OfClock &clock, const QByteArray &identity, const std::function<qint64()> &bytes);
+    bool Keep(ClockImages &clock, const QByteArray &identity, const std::function<qint64()> &bytes);
 
     QHash<QByteArray, qint64> m_bytes; ///< of all clocks, by file digest or planned identity
     qint64 m_total = 0;

@@ -184,10 +184,10 @@ GlyphStrip GlyphStrip::OfFile(const QString &path)
 GlyphStrip GlyphStrip::OfFile(PictureFile &file, qint64 bytes)
 {
     const QByteArray digest = file.Digest();
-    const bool isLater = !file.SmallPng().isEmpty();
-    const auto pixels = isLater ? std::make_shared<GlyphPixels>(file.SmallPng(), bytes)
-                                : std::make_shared<GlyphPixels>(file.Read());
-    if (!digest.isEmpty() && (isLater || !pixels->Size().isEmpty()))
+    const bool isLazy = !file.SmallPng().isEmpty();
+    const auto pixels = isLazy ? std::make_shared<GlyphPixels>(file.SmallPng(), bytes)
+                               : std::make_shared<GlyphPixels>(file.Read());
+    if (!digest.isEmpty() && (isLazy || !pixels->Size().isEmpty()))
         Remember(digest, pixels);
     return GlyphStrip(pixels);
 }

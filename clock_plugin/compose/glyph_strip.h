@@ -50,10 +50,8 @@ public:
     const QPixmap &Pixmap();
     qint64 Bytes() const { return m_bytes; }
     void CountExactly();
-    bool IsDamaged() const
-    {
-        return m_encoded.isNull() && m_size.isEmpty();
-    } ///< found when decoded
+    /// Known only once it has been decoded.
+    bool IsDamaged() const { return m_encoded.isNull() && m_size.isEmpty(); }
 
     /// One bit per pixel: that of column x is bit x % 32 of word x / 32. A spare word follows the
     /// last one.

@@ -21,10 +21,10 @@ namespace Lw::HNodeClock {
 namespace {
 
 // The largest file of a picture within the bounds: 64 bits per pixel uncompressed, plus overhead.
-constexpr qint64 kLongest = 2 * kGlyphBytes + kGlyphBytes / 8;
+constexpr qint64 kMaxFileBytes = 2 * kGlyphBytes + kGlyphBytes / 8;
 // A longer PNG is unlikely to have only one colour; it is counted as 32 bits per pixel without
 // decoding.
-constexpr qint64 kLongestInk = 4 << 20;
+constexpr qint64 kMaxInkFileBytes = 4 << 20;
 
 // Formats whose header gives the decoded size (of a GIF, only of its first frame). Others do not:
 // an icon's header may misstate the sizes of its pictures, and a vector drawing can have any size.
@@ -95,7 +95,7 @@ bool OpenRegular(QFile &file, const QString &path)
     if (descriptor < 0 || !file.open(descriptor, QFile::ReadOnly, QFile::AutoCloseHandle))
         return false;
     return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0
-        && status.st_size <= kLongest;
+        && status.st_size <= kMaxFileBytes;
 }
 
 } // namespace
@@ -153,7 +153,7 @@ qint64 PictureFile::MaxBytes() const
 
 qint64 PictureFile::GlyphBytes()
 {
-    if (IsNull() || !m_isPng || (m_file && m_file->size() > kLongestInk))
+    if (IsNull() || !m_isPng || (m_file && m_file->size() > kMaxInkFileBytes))
         return MaxBytes();
     if (!m_file)
         return GlyphBytesOfPng(m_png);
@@ -194,7 +194,7 @@ QImage DecodePng(const QByteArray &png)
 qint64 GlyphBytesOfPng(const QByteArray &png)
 {
     const QSize size = SizeOfPng(png);
-    const bool isInk = HasGlyphKind(png) && HasOneColour(DecodePng(png));
+    const bool isInk = HasGlyphFormat(png) && HasOneColour(DecodePng(png));
     return isInk ? InkBytes(size) : 4LL * size.width() * size.height();
 }
 

@@ -19,7 +19,7 @@ namespace Lw::HNodeClock {
 /// A picture file, opened and identified; its pixels are decoded on demand.
 ///
 /// Null for a path that is empty or does not name a regular file (a device or a pipe could block
-/// for ever), for an unknown format, and for a picture of more than 32767 pixels per side or 64 MiB
+/// forever), for an unknown format, and for a picture of more than 32767 pixels per side or 64 MiB
 /// by its header. Only formats whose headers can be trusted are read: PNG, BMP, GIF, JPEG, the PBM
 /// family, XBM and XPM.
 class PictureFile

@@ -53,7 +53,7 @@ QSize SizeOfPng(const QByteArray &png)
             qFromBigEndian<qint32>(png.constData() + kWidthAt + 4)};
 }
 
-bool HasGlyphKind(const QByteArray &png)
+bool HasGlyphFormat(const QByteArray &png)
 {
     constexpr char kKind[] = {8, 6, 0, 0, 0}; // bits, colour with alpha, and not interlaced
     constexpr int kKindAt = kPngHeaderEnd - sizeof kKind;

@@ -25,6 +25,6 @@ QByteArray PixelChunks(QIODevice &png);
 QSize SizeOfPng(const QByteArray &png);
 
 /// Whether the header of a PNG says 8-bit RGBA, not interlaced, like the glyph images we write.
-bool HasGlyphKind(const QByteArray &png);
+bool HasGlyphFormat(const QByteArray &png);
 
 } // namespace Lw::HNodeClock

@@ -42,7 +42,7 @@ public:
           m_label(glyphs.timeCh.Width() / kLabelCells)
     { }
 
-    // Codes outside the list reserve the width of two separators. Codes above it use part of that
+    // Codes outside the list reserve the width of two separators. Those above it use part of that
     // for their label, so that the end of their seconds may be cut off.
     long long Width() const
     {

@@ -81,7 +81,7 @@ void AnalogFace::RefreshDial(const QSize &size)
     m_dial = FramePair::NewImage(size);
     DrawDial();
     DrawBadge();
-    // A copy has no paint engine, so its memory is released.
+    // A copy has no paint engine; this releases the engine's memory.
     const QImage copy = m_dial.copy();
     if (!copy.isNull())
         m_dial = copy;
@@ -169,7 +169,7 @@ int AnalogFace::DrawHand(int index, double radius, FrameMemory::Painting &painti
     PutShape(flat, m_hands[index], row.hand == Hand::Second ? now.second : 0, painting);
     // A thin pen paints some pixels of a ring twice, so the ring cannot be cached.
     if (shape.ring.radius > 0)
-        painting.Covers(PaintRing(Painter(), shape.ring, flat.degrees, flat.colour));
+        painting.RecordPainted(PaintRing(Painter(), shape.ring, flat.degrees, flat.colour));
     return type;
 }
 
@@ -199,11 +199,11 @@ void AnalogFace::PutShape(const FlatShape &shape, HandCache &cache, int position
         painting.Blend(*cached);
     } else {
         PaintFlat(Painter(), shape);
-        painting.Covers(OutlineOn(centre, shape));
+        painting.RecordPainted(OutlineOn(centre, shape));
     }
 }
 
-// Begun lazily.
+// Begins painting on first use; DrawHands() ends it.
 QPainter &AnalogFace::Painter()
 {
     QPainter &painter = m_shared.painter;

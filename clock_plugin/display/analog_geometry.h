@@ -106,7 +106,7 @@ double HandAngle(Hand hand, int hour, int minute, int second);
 /// The box of the disc over the hands; empty on the smallest dials.
 QRect CentreCap(double radius, bool anyArrow);
 
-// The rest.
+// AM/PM badge and classic hands.
 
 /// Top left corner of the AM/PM badge within the area: centred, at three eighths of the height.
 QPoint BadgePlace(const QSize &area, const QSize &badge);

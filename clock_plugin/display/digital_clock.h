@@ -27,7 +27,7 @@ public:
 private:
     SharedByFaces &m_shared;
     std::array<FrameContents, 2> m_contents; // of the frame and of the one before it
-    bool m_secondIsCurrent = false;          // which of the two is the frame's
+    bool m_secondIsCurrent = false;          // whether the second is of the frame
 };
 
 } // namespace Lw::HNodeClock

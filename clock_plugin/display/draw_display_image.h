@@ -35,7 +35,7 @@ extern CLOCK_EXPORT QPoint minuteHand[3];
 extern CLOCK_EXPORT QPoint secondHand[3];
 
 /// Functions that need the node do nothing once it is deleted. DrawClockDisplayImage() draws a
-/// frame; the other functions are its steps, in this order. All lengths are in pixels.
+/// frame; the functions under each kind of clock are its steps. All lengths are in pixels.
 class CLOCK_EXPORT DrawDisplayImage : public QObject
 {
     Q_OBJECT
@@ -68,7 +68,7 @@ public:
     // Analog clock.
     /// Computes the top edges of the text rows. Draws nothing.
     void GetAngDisplayArea();
-    /// Draws the frame: a copy of the dial, hands over it. The text rows go onto the dial after
+    /// Draws the frame: a copy of the dial with hands on it. The text rows go onto the dial after
     /// that, so they show from the next frame on. The dial is redrawn only when the device's date,
     /// the node's size or AM/PM has changed.
     void DrawAnalogClock();
@@ -92,8 +92,8 @@ public:
     void Computations3Count(int space);
     void Computations4Count(int space);
     void Computations5Count(int space);
-    /// Draws the frame: the elements whose flag is 1, on one line or at the top edges worked out
-    /// last.
+    /// Draws the frame: the elements whose flag is 1, on one line or at the top edges last
+    /// computed.
     void DrawDigitalClock();
 
     // Picture clock.

@@ -80,9 +80,9 @@ bool PictureFace::NeedsPictures()
     const QSize wanted(m_shared.frameWidth, m_shared.Size().height());
     const bool lacksMemory = m_background.isNull() && FramePair::Drawable(wanted);
     const int style = m_shared.Number(Attribute::PictrueClockType);
-    const bool isAnother = m_style != style || m_size != wanted;
+    const bool hasChanged = m_style != style || m_size != wanted;
     m_style = style;
-    return isAnother || lacksMemory;
+    return hasChanged || lacksMemory;
 }
 
 void PictureFace::Restore(QImage &frame)
@@ -106,11 +106,12 @@ void PictureFace::Draw()
     const DisplayedFields &now = m_shared.now;
     FrameMemory::Painting painting(m_memory, frame);
     m_shared.painter.begin(&frame);
-    Put({m_hour, (now.hour + now.minute / 60.0) * 30, kHourPlace}, m_hourCache, 0, painting);
+    PaintCached({m_hour, (now.hour + now.minute / 60.0) * 30, kHourPlace}, m_hourCache, 0,
+                painting);
     // The minute hand has 3600 positions: too many to cache.
     Paint({m_minute, (now.minute + now.second / 60.0) * 6, kMinutePlace}, painting);
-    Put({m_second, now.second * 6.0, kSecondPlace}, m_secondCache, now.second, painting);
-    Put({m_centre, 0, kCentrePlace}, m_centreCache, 0, painting);
+    PaintCached({m_second, now.second * 6.0, kSecondPlace}, m_secondCache, now.second, painting);
+    PaintCached({m_centre, 0, kCentrePlace}, m_centreCache, 0, painting);
     m_shared.painter.end();
 }
 
@@ -121,12 +122,12 @@ void PictureFace::Paint(const TurnedPicture &part, FrameMemory::Painting &painti
     const QTransform face = FaceOn(m_shared.frames.Frame().size());
     m_shared.painter.setWorldTransform(face);
     PaintTurned(m_shared.painter, part.picture, part.degrees, part.place);
-    painting.Covers(m_shared.painter.transform().map(QPolygonF(QRectF(part.place))));
+    painting.RecordPainted(m_shared.painter.transform().map(QPolygonF(QRectF(part.place))));
 }
 
 // The hour hand is the lowest part, so its shape is cached together with the background under it.
-void PictureFace::Put(const TurnedPicture &part, HandCache &cache, int position,
-                      FrameMemory::Painting &painting)
+void PictureFace::PaintCached(const TurnedPicture &part, HandCache &cache, int position,
+                              FrameMemory::Painting &painting)
 {
     if (part.picture.isNull())
         return;

@@ -41,8 +41,8 @@ private:
     void DrawBackground(const QRect &dial, const QString &file);
     void Restore(QImage &frame);
     void Paint(const TurnedPicture &part, FrameMemory::Painting &painting);
-    void Put(const TurnedPicture &part, HandCache &cache, int position,
-             FrameMemory::Painting &painting);
+    void PaintCached(const TurnedPicture &part, HandCache &cache, int position,
+                     FrameMemory::Painting &painting);
     CachedShape CachedPicture(const TurnedPicture &part);
 
     SharedByFaces &m_shared;

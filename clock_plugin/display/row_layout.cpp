@@ -23,7 +23,7 @@ Shown ShownRows(const RowOrder &order, const Rows &flags)
     return shown;
 }
 
-const RowOrder &OrderOfMany(int swap)
+const RowOrder &OrderOfThreeOrMore(int swap)
 {
     return swap == 1 ? kDateFirst : kWeekFirst;
 }
@@ -33,8 +33,8 @@ int OddPixel(int space)
     return space % 2 != 0 ? 1 : 0;
 }
 
-// The extra pixel of an odd gap is above the centre line if the upper row is week or time; the top
-// text, the date and a week moved up by the swap do not get it.
+// The extra pixel of an odd gap is above the centre line if the upper row is weekday or time; the
+// top text, the date and a weekday moved up by the swap do not get it.
 int UpperRowPixel(Row upper, bool swapped, int space)
 {
     const bool takesIt = (upper == Row::Week && !swapped) || upper == Row::Time;
@@ -77,7 +77,7 @@ void LayOutTwoRows(const DigitalArea &area, Rows &positions)
 
 void LayOutThreeRows(const DigitalArea &area, Rows &positions)
 {
-    const Shown shown = ShownRows(OrderOfMany(area.swap), area.flags);
+    const Shown shown = ShownRows(OrderOfThreeOrMore(area.swap), area.flags);
     if (shown.count != 3)
         return;
     const auto [upper, middle, lower, unused4, unused5] = shown.rows;
@@ -90,7 +90,7 @@ void LayOutThreeRows(const DigitalArea &area, Rows &positions)
 
 void LayOutFourRows(const DigitalArea &area, Rows &positions)
 {
-    const Shown shown = ShownRows(OrderOfMany(area.swap), area.flags);
+    const Shown shown = ShownRows(OrderOfThreeOrMore(area.swap), area.flags);
     if (shown.count != 4)
         return;
     const auto [first, second, third, fourth, unused] = shown.rows;
@@ -105,7 +105,7 @@ void LayOutFourRows(const DigitalArea &area, Rows &positions)
 
 void LayOutFiveRows(const DigitalArea &area, Rows &positions)
 {
-    const auto &[first, second, third, fourth, fifth] = OrderOfMany(area.swap);
+    const auto &[first, second, third, fourth, fifth] = OrderOfThreeOrMore(area.swap);
     const long long centre = area.height / 2;
     const long long thirdTop = centre - area.heights[third] / 2;
     const long long secondTop = thirdTop - area.space - area.heights[second];

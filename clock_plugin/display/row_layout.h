@@ -51,7 +51,7 @@ struct DigitalArea
 {
     int height = 0; ///< of the area
     int space = 0;  ///< gap between neighbouring rows, in pixels; may be negative
-    int swap = 0;   ///< 1 exchanges date and week
+    int swap = 0;   ///< 1 exchanges date and weekday
     Rows flags;     ///< which rows take part: the non-zero ones
     Rows heights;
 };
@@ -62,7 +62,7 @@ struct AnalogArea
     int width = 0;
     int height = 0;
     int space = 0; ///< gap between neighbouring rows; may be negative
-    int swap = 0;  ///< exchanges date and week; see LayOutAnalogRows()
+    int swap = 0;  ///< exchanges date and weekday; see LayOutAnalogRows()
     Rows flags;    ///< which of the lower rows take part: the non-zero ones
     Rows heights;
 };
@@ -72,8 +72,8 @@ int CountRows(const Rows &flags);
 
 /// The rows of a digital clock around the middle of the area. The positions of rows that do not
 /// take part stay as they are, except that a single row positions all five. The date is above the
-/// week with two rows and below it with more; a swap of exactly 1 exchanges them. LayOutTwoRows to
-/// LayOutFourRows do nothing if a different number of rows takes part.
+/// weekday with two rows and below it with more; a swap of exactly 1 exchanges them. LayOutTwoRows
+/// to LayOutFourRows do nothing if a different number of rows takes part.
 void LayOutOneRow(const DigitalArea &area, Rows &positions);
 void LayOutTwoRows(const DigitalArea &area, Rows &positions);
 void LayOutThreeRows(const DigitalArea &area, Rows &positions);
@@ -89,8 +89,8 @@ constexpr Rows LowerRows(Rows rows)
 }
 
 /// The rows of an analog clock: the top text always around the upper anchor (the vertical centre of
-/// the upper texts); date, week and lunar date around the lower anchor, by their number. Swap
-/// exchanges date and week: with two rows when it is exactly 1, with three when it is not 0. The
+/// the upper texts); date, weekday and lunar date around the lower anchor, by their number. Swap
+/// exchanges date and weekday: with two rows when it is exactly 1, with three when it is not 0. The
 /// time row stays as it is.
 void LayOutAnalogRows(const AnalogArea &area, Rows &positions);
 

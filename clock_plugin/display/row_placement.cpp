@@ -92,16 +92,16 @@ const Element &ElementIn(Row row, ElementComposer &elements)
 
 DigitalSettings::DigitalSettings(HClockNode &node)
 {
-    const GuardedNode asked(&node);
+    const GuardedNode guarded(&node);
     area = node.Size();
-    space = Number(asked, Attribute::DigitalSpace);
-    swap = Number(asked, &HClockNode::DigitalSwapArea);
-    onOneLine = Number(asked, Attribute::DigitalDisplayMode) != 0;
-    flags.topText = Number(asked, &HClockNode::Digital_TopText_d);
-    flags.date = Number(asked, &HClockNode::Digital_Date_d);
-    flags.week = Number(asked, &HClockNode::Digital_Week_d);
-    flags.time = Number(asked, &HClockNode::Digital_Time_d);
-    flags.lunar = Number(asked, &HClockNode::Digital_Lunar_d);
+    space = Number(guarded, Attribute::DigitalSpace);
+    swap = Number(guarded, &HClockNode::DigitalSwapArea);
+    onOneLine = Number(guarded, Attribute::DigitalDisplayMode) != 0;
+    flags.topText = Number(guarded, &HClockNode::Digital_TopText_d);
+    flags.date = Number(guarded, &HClockNode::Digital_Date_d);
+    flags.week = Number(guarded, &HClockNode::Digital_Week_d);
+    flags.time = Number(guarded, &HClockNode::Digital_Time_d);
+    flags.lunar = Number(guarded, &HClockNode::Digital_Lunar_d);
 }
 
 void LayOutDigital(const DigitalSettings &settings, int count, int space, ElementComposer &elements,
@@ -143,20 +143,20 @@ constexpr TextRow kTexts[] = {
 
 void LayOutAnalog(HClockNode &node, ElementComposer &elements, Rows &tops)
 {
-    const GuardedNode asked(&node);
+    const GuardedNode guarded(&node);
     const QSize size = node.Size();
     Rows flags;
-    flags.date = Number(asked, Attribute::Analog_Date_d);
-    flags.week = Number(asked, Attribute::Analog_Week_d);
-    flags.lunar = Number(asked, Attribute::Analog_Lunar_d);
+    flags.date = Number(guarded, Attribute::Analog_Date_d);
+    flags.week = Number(guarded, Attribute::Analog_Week_d);
+    flags.lunar = Number(guarded, Attribute::Analog_Lunar_d);
     // A single row places all three; otherwise a row that does not take part is not measured.
     Rows measured = CountRows(flags) == 1 ? LowerRows(kEveryRow) : flags;
     measured.topText = 1;
     AnalogArea area;
     area.width = size.width();
     area.height = size.height();
-    area.space = Number(asked, Attribute::AnalogSpace);
-    area.swap = Number(asked, Attribute::AnalogSwapArea);
+    area.space = Number(guarded, Attribute::AnalogSpace);
+    area.swap = Number(guarded, Attribute::AnalogSwapArea);
     area.flags = flags;
     area.heights = HeightsOf(elements, measured);
     LayOutAnalogRows(area, tops);
@@ -164,11 +164,11 @@ void LayOutAnalog(HClockNode &node, ElementComposer &elements, Rows &tops)
 
 Placements PlaceAnalog(HClockNode &node, ElementComposer &elements, const Rows &tops)
 {
-    const GuardedNode asked(&node);
+    const GuardedNode guarded(&node);
     const int middle = node.Size().width() / 2;
     Placements placements;
     for (const TextRow &text : kTexts) {
-        if (Number(asked, text.flag) != 1)
+        if (Number(guarded, text.flag) != 1)
             continue;
         const Element &element = ElementIn(text.row, elements);
         placements.Add(element, QPoint(middle - element.Width() / 2, tops[text.row]));

@@ -166,12 +166,12 @@ GlyphOutcome DrwSourceIMage::DrawAndWrite(const GlyphRequest &request)
         return outcome;
     const GlyphFace &face = FaceFor(request.family, request.size);
     const GlyphContent content {request.shape, request.text, face.description, request.colour};
-    GlyphCache &memory = GlyphCache::Shared();
-    DrawnGlyph glyph = memory.Find(content);
+    GlyphCache &cache = GlyphCache::Shared();
+    DrawnGlyph glyph = cache.Find(content);
     bool isThere = glyph.state == GlyphState::Drawn && Holds(request.path, glyph);
     if (!isThere && glyph.file.isNull()) {
         glyph = DrawGlyphImage(*m_painter, content, face.font);
-        memory.Keep(content, glyph);
+        cache.Keep(content, glyph);
         isThere = Holds(request.path, glyph);
     }
     if (!isThere && glyph.state == GlyphState::Drawn)
@@ -189,7 +189,7 @@ const GlyphFace &DrwSourceIMage::FaceFor(const QString &family, int size)
 {
     if (!m_face || m_face->family != family || m_face->size != size) {
         const QFont font = GlyphTypeface(family, size);
-        m_face.reset(new GlyphFace {family, size, font, FaceOf(font)});
+        m_face.reset(new GlyphFace {family, size, font, FontIdentity(font)});
     }
     return *m_face;
 }

@@ -37,7 +37,7 @@ uint qHash(const GlyphContent &content, uint seed)
 
 // Text without strong directional letters follows the application's layout direction, and points
 // become pixels by the first screen's resolution.
-QByteArray FaceOf(const QFont &font)
+QByteArray FontIdentity(const QFont &font)
 {
     QByteArray face;
     QDataStream stream(&face, QIODevice::WriteOnly);
@@ -52,9 +52,9 @@ GlyphCache::GlyphCache() : m_facts(kMaxFactBytes), m_files(kMaxFileBytes) { }
 
 GlyphCache &GlyphCache::Shared()
 {
-    static GlyphCache memory;
-    memory.FollowApplication();
-    return memory;
+    static GlyphCache cache;
+    cache.FollowApplication();
+    return cache;
 }
 
 void GlyphCache::FollowApplication()

@@ -26,7 +26,7 @@ struct GlyphContent
 {
     GlyphShape shape = GlyphShape::Text;
     QString text;    ///< the ten digits for a strip
-    QByteArray face; ///< as FaceOf() describes the font
+    QByteArray face; ///< the FontIdentity() of its font
     int colour = 0;  ///< 0x00BBGGRR
 };
 
@@ -35,7 +35,7 @@ uint qHash(const GlyphContent &content, uint seed);
 
 /// Serialises a font and everything else its glyphs depend on: resolution, substitutes, text
 /// direction.
-QByteArray FaceOf(const QFont &font);
+QByteArray FontIdentity(const QFont &font);
 
 /// What is known about an image that was drawn.
 struct GlyphFacts

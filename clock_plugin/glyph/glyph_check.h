@@ -1,5 +1,5 @@
-// glyph/: which glyph images a clock shows, and whether they show what they should: font, size, ink
-// and writing.
+// glyph/: which glyph images a clock shows, and the faults of generated ones: no font, too large,
+// missing characters, no ink, not written.
 #pragma once
 
 #include "glyph/glyph_drawing.h"

@@ -44,7 +44,7 @@ bool AreOneEntry(const QString &path, const QString &other)
 }
 
 /// False for a path with a NUL, which the system would cut off.
-bool IsWhole(const QString &path)
+bool HasNoNul(const QString &path)
 {
     return !path.contains(QChar::Null);
 }
@@ -96,7 +96,7 @@ void MoveOver(const QString &source, const QString &dest, const QString &digest)
 
 void MoveToDigestName(const QString &source, const QString &dest, const QString &digest)
 {
-    if (digest.isEmpty() || !IsWhole(source) || !IsWhole(dest) || AreOneEntry(source, dest))
+    if (digest.isEmpty() || !HasNoNul(source) || !HasNoNul(dest) || AreOneEntry(source, dest))
         return;
     if (HMD5::FileDigest(dest) == digest)
         QFile::remove(source);

@@ -12,8 +12,6 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr int kDefaultPoints = 12;
-
 // Qt's text widths overflow at 2^25 pixels; this many characters stay below that at every size.
 constexpr int kMeasuredAtOnce = 256;
 

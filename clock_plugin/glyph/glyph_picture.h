@@ -14,8 +14,11 @@ QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
 
+/// The size of glyph texts whose own size is 0 or less, in points.
+inline constexpr int kDefaultPoints = 12;
+
 /// The font of glyph images, without antialiasing, so that every pixel is either background or
-/// stroke. An empty family is the application's default font, a size of 0 or less 12 points.
+/// stroke. An empty family is the application's default font, a size of 0 or less kDefaultPoints.
 QFont GlyphTypeface(const QString &family, int points);
 
 /// The advance width of a text in pixels. A text far too wide for an image gives a width that is

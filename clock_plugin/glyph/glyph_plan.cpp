@@ -46,7 +46,7 @@ PlannedFont FontOf(GlyphFont font, HClockNode &node)
     const int points = node.GetAttributeToInt(Key(attributes.size));
     const QFont typeface = GlyphTypeface(node.GetAttribute(Key(attributes.family)),
                                          std::min(points, kLargestFontSize));
-    return {points, node.GetAttributeToInt(Key(attributes.colour)), FaceOf(typeface),
+    return {points, node.GetAttributeToInt(Key(attributes.colour)), FontIdentity(typeface),
             QFontMetrics(typeface)};
 }
 

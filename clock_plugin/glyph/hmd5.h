@@ -10,7 +10,7 @@ class CLOCK_EXPORT HMD5
 public:
     HMD5();
 
-    /// Renames a file, within its directory, to its digest in lowercase hexadecimal, a full stop
+    /// Renames a file, within its directory, to its digest in lowercase hexadecimal, a dot
     /// and its old suffix. Returns the new absolute path, or a null string for a file that cannot
     /// be read. A failed rename is not reported and leaves both files in place; usually an
     /// identical file is already there. Not thread-safe: all calls share one file object.

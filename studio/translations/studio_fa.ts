@@ -588,7 +588,7 @@
         <translation>ساعت به اندازهٔ تنظیم از منطقهٔ خود جلوتر است یا عقب‌تر.</translation>
     </message>
     <message>
-        <source>How far the clock is off its zone: hours, &quot;A&quot;, minutes, &quot;B&quot;, seconds, two digits each.</source>
+        <source>How far the clock differs from its zone&apos;s time: hours, &quot;A&quot;, minutes, &quot;B&quot;, seconds, two digits each.</source>
         <translation>اختلاف ساعت با منطقهٔ خود: ساعت، «A»، دقیقه، «B»، ثانیه، هر یک دو رقم.</translation>
     </message>
     <message>

@@ -588,7 +588,7 @@
         <translation>时钟按调整量比其时区快还是慢。</translation>
     </message>
     <message>
-        <source>How far the clock is off its zone: hours, &quot;A&quot;, minutes, &quot;B&quot;, seconds, two digits each.</source>
+        <source>How far the clock differs from its zone&apos;s time: hours, &quot;A&quot;, minutes, &quot;B&quot;, seconds, two digits each.</source>
         <translation>时钟与其时区相差多少：小时、“A”、分钟、“B”、秒，各两位数字。</translation>
     </message>
     <message>

@@ -173,7 +173,7 @@ void TestAnalogMemory::KnownFrameGetsHandsOnly()
         FrameMemory::Painting painting(memory, frame);
         QPainter painter(&frame);
         painter.fillRect(8, 4, 2, 2, Qt::white);
-        painting.Covers(QPolygonF(QRectF(8, 4, 2, 2)));
+        painting.RecordPainted(QPolygonF(QRectF(8, 4, 2, 2)));
     }
     Smuggle(frame, 0, 0, kBlue);
     memory.Restore(frame, background);

@@ -13,6 +13,7 @@
 #include "compose/element_layout.h"
 #include "display/analog_geometry.h"
 #include "font_check.h"
+#include "glyph/glyph_picture.h"
 #include "glyph/glyph_set.h"
 #include "glyph_messages.h"
 #include "program_file.h"
@@ -22,8 +23,6 @@ namespace ClockTool {
 namespace {
 
 using namespace Lw::HNodeClock;
-
-constexpr int kUnsetPoints = 12; // for a size of 0
 
 class WholeClock
 {
@@ -169,7 +168,7 @@ private:
     void CheckStrip(Attribute family, Attribute size, const char *separators)
     {
         const QString name = Text(family);
-        const int points = Number(size) > 0 ? Number(size) : kUnsetPoints;
+        const int points = Number(size) > 0 ? Number(size) : kDefaultPoints;
         const QString marks = QLatin1String(separators);
         const QString fault = LegibilityFault(name, points, marks);
         if (fault.isEmpty())

@@ -14,7 +14,9 @@ namespace {
 void CopyRegion(const QImage &source, const QPoint &place, const QRegion &region, uchar *target,
                 int targetLine)
 {
-    for (const QRect &rect : region &source.rect().translated(place)) {
+    const QRect whole = source.rect().translated(place);
+    const QRegion shown = region.intersected(whole);
+    for (const QRect &rect : shown) {
         const auto bytes = static_cast<std::size_t>(rect.width()) * sizeof(QRgb);
         for (int y = rect.top(); y <= rect.bottom(); ++y) {
             const uchar *const from = source.constScanLine(y - place.y());
@@ -136,7 +138,7 @@ void FrameMemory::Painting::Blend(const CachedShape &shape)
     shape.Blend(m_frame.bits(), m_frame.bytesPerLine());
 }
 
-void FrameMemory::Painting::Covers(const QPolygonF &outline)
+void FrameMemory::Painting::RecordPainted(const QPolygonF &outline)
 {
     if (m_known)
         m_known->NextPart().Set(outline, m_frame.size());

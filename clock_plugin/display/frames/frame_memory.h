@@ -35,7 +35,7 @@ public:
         Q_DISABLE_COPY(Painting)
         void Blend(const CachedShape &shape);
         /// Records that a painter painted within this outline, in pixels of the frame.
-        void Covers(const QPolygonF &outline);
+        void RecordPainted(const QPolygonF &outline);
 
     private:
         QImage &m_frame;
