@@ -77,7 +77,7 @@ void Area::StartRenderer()
         return;
     Lw::pictureplayer::Register(m_playIdentifier, m_render);
     m_render->Start(m_playIdentifier, 0);
-    // The renderer makes its player itself, and has shown the first picture by now.
+    // The renderer creates its player itself, and has shown the first picture by now.
     Lw::pictureplayer *const player = Lw::pictureplayer::ForIdentifier(m_playIdentifier);
     if (!player)
         return;

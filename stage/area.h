@@ -51,7 +51,7 @@ public:
 
 Q_SIGNALS:
     void PictureChanged(QRegion region); ///< in screen pixels; empty if the picture is the same
-    void Restarted(Lw::HNode *node);     ///< on its request, with new glyph images
+    void Restarted(Lw::HNode *node);     ///< as the node requested, with new glyph images
 
 private:
     void ListenToNode();

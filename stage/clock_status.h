@@ -24,8 +24,8 @@ QString KeyOf(Lw::HNodeClock::Attribute attribute);
 /// a node that is not a clock.
 std::optional<Lw::HNodeClock::ZoneSettings> SettingsOf(Lw::HNode *node);
 
-/// Caches what a clock adds to UTC and when that changes: searching for
-/// the next change costs more than drawing a frame.
+/// Caches a clock's UTC offset and its next change: searching for the next change costs more than
+/// drawing a frame.
 class ZoneMemory
 {
 public:

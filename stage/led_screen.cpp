@@ -9,9 +9,9 @@ namespace ClockStage {
 namespace {
 
 constexpr int kFullCoverage = 256;
-constexpr int kSamples = 16;         // of each pixel, each way
-constexpr double kDiodeRadius = 0.4; // of the pitch
-constexpr int kLensLight = 20;       // the brightest channel of kDarkDiode
+constexpr int kSamples = 16;       // of each pixel, each way
+constexpr double kLedRadius = 0.4; // of the pitch
+constexpr int kUnlitLevel = 20;    // the brightest channel of kUnlitLed
 
 // The coverage of a pixel by the disc in the middle of the square. The corners belong to the mask
 // at any pitch.
@@ -20,7 +20,7 @@ int CoverageOf(int x, int y, int pitch)
     const auto isEdge = [pitch](int place) { return place == 0 || place == pitch - 1; };
     if (isEdge(x) && isEdge(y))
         return 0;
-    const double radius = kDiodeRadius * pitch;
+    const double radius = kLedRadius * pitch;
     const double middle = pitch / 2.0;
     int inside = 0;
     for (int sample = 0; sample < kSamples * kSamples; ++sample) {
@@ -32,10 +32,10 @@ int CoverageOf(int x, int y, int pitch)
     return inside * kFullCoverage / (kSamples * kSamples);
 }
 
-QRgb ColourOfDiode(QRgb pixel)
+QRgb ColourOfLed(QRgb pixel)
 {
-    const bool shines = std::max({qRed(pixel), qGreen(pixel), qBlue(pixel)}) > kLensLight;
-    return shines ? pixel | 0xff000000U : kDarkDiode;
+    const bool shines = std::max({qRed(pixel), qGreen(pixel), qBlue(pixel)}) > kUnlitLevel;
+    return shines ? pixel | 0xff000000U : kUnlitLed;
 }
 
 QRgb Dimmed(QRgb colour, int coverage)
@@ -66,7 +66,7 @@ QImage LedScreen::Diodes(const QImage &screen, const QRect &region) const
             + shown.x();
         auto *to = reinterpret_cast<QRgb *>(picture.scanLine(y));
         for (int column = 0; column < shown.width(); ++column) {
-            const QRgb colour = ColourOfDiode(from[column]);
+            const QRgb colour = ColourOfLed(from[column]);
             for (int x = 0; x < m_pitch; ++x)
                 *to++ = Dimmed(colour, Coverage(x, y % m_pitch));
         }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr QRgb kBlack = qRgb(0, 0, 0);
 
-/// The rows of a picture, whose memory is asked for once.
+/// The rows of a picture; bits() is called only once.
 class Rows
 {
 public:
@@ -78,7 +78,7 @@ void CoverWith(const Layer &layer, const Rows &screen, const QRect &region,
         coverRow(reinterpret_cast<const QRgb *>(line), screen.At(region.x(), y), region.width());
 }
 
-// Of most layers no more than this has to be found out.
+// A quick test, which is enough for most layers.
 bool IsBeside(const QRect &a, const QRect &b)
 {
     return a.left() > b.right() || a.right() < b.left() || a.top() > b.bottom()

@@ -28,11 +28,11 @@ QImage BlackScreen(QSize size);
 void ComposeScreen(QImage &picture, const QVector<Layer> &layers, const QRect &region,
                    QPoint origin = QPoint());
 
-/// Most pixels of a magnified screen: 64 Mi, which take 256 MiB.
+/// The most pixels that a magnified screen may have: 64 Mi, which take 256 MiB.
 constexpr qint64 kMaximumMagnifiedPixels = 64LL << 20;
 
-/// The picture magnified `times` (at least 1) without smoothing. Null
-/// when it would have too many pixels.
+/// The picture magnified `times` (at least 1) without smoothing. Null when it would have
+/// too many pixels.
 QImage Magnified(const QImage &screen, int times);
 
 } // namespace ClockStage

@@ -35,10 +35,10 @@ public:
     QImage Screen() const; ///< the composed screen
 
 Q_SIGNALS:
-    /// This region of the screen must be recomposed. Empty if an area shows the same
-    /// picture for another second.
+    /// This region of the screen must be recomposed. Empty if an area shows the same picture for
+    /// another second.
     void Changed(QRegion region);
-    /// A node asked for new glyph images while it played. They are made, unless they were carried,
+    /// A node asked for new glyph images while it played. They have been generated, unless carried,
     /// and loaded.
     void Restarted(Lw::HNode *node);
 

@@ -59,7 +59,7 @@ public:
     ~ClockSteps() override;
 
 Q_SIGNALS:
-    void Stepped(); ///< from the event loop, within a turn of it
+    void Stepped(); ///< emitted from the event loop
 
 private:
     void Arm();
@@ -82,12 +82,12 @@ long long TellPlugin();
 /// One call of TellPlugin().
 struct PluginTime
 {
-    qint64 instant = 0; ///< UTC milliseconds that the plugin was told
+    qint64 instant = 0; ///< UTC milliseconds that were returned to the plugin
     double steady = 0;  ///< when: milliseconds of the monotonic clock
 };
 
-/// The last call of TellPlugin(), once. Plugins read the time when they start
-/// to draw a picture.
+/// The last call of TellPlugin(); nothing if it was already taken. Plugins read the time when they
+/// start to draw a picture.
 std::optional<PluginTime> TakePluginTime();
 
 RealTime Real();

@@ -132,7 +132,7 @@ void TestLedScreen::DarkPixels()
     QFETCH(QRgb, pixel);
     QFETCH(bool, isDark);
     const QImage diode = LedScreen(6).Diodes(Plain({1, 1}, pixel));
-    QCOMPARE(diode.pixel(3, 3), isDark ? kDarkDiode : pixel | 0xff000000U);
+    QCOMPARE(diode.pixel(3, 3), isDark ? kUnlitLed : pixel | 0xff000000U);
     QCOMPARE(diode.pixel(0, 0), kBlack);
 }
 
@@ -143,7 +143,7 @@ void TestLedScreen::SeeThroughAreasAreDark()
     picture.setPixel(1, 0, kOrange);
     ComposeScreen(screen, {{QRect(0, 0, 2, 1), picture}}, screen.rect());
     const QImage wall = LedScreen(4).Diodes(screen);
-    QCOMPARE(wall.pixel(2, 2), kDarkDiode);
+    QCOMPARE(wall.pixel(2, 2), kUnlitLed);
     QCOMPARE(wall.pixel(6, 2), kOrange);
 }
 
