@@ -1,4 +1,4 @@
-// studio: clock_studio, the editor for walls of clocks. main().
+// studio/: main() of clock_studio, the editor for walls of clocks.
 #include "window/main_window.h"
 #include "window/studio_application.h"
 

@@ -12,7 +12,7 @@ enum class ClockKind { Digital, Analog, Picture };
 /// The smallest text size that the studio sets, in points: digits of smaller ones are hard to read.
 constexpr int kSmallestTextSize = 6;
 
-/// The text of an unindented area element, with line feeds. The zone is the computer's.
+/// An area element for a new clock in the computer's zone, not indented, with "\n" line ends.
 QString NewAreaText(ClockKind kind, const QRect &geometry);
 
 /// The text of a wall without clocks.

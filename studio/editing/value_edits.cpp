@@ -61,7 +61,7 @@ std::optional<QString> ImportText(Conversion conversion, const QString &stored)
     return std::nullopt;
 }
 
-/// The import tables for a kind of clock, in reading order.
+/// The import tables for a kind of clock. (A node reads font, analog or digital, then time.)
 QVector<const ImportElement *> ImportsOf(int kind)
 {
     QVector<const ImportElement *> imports;

@@ -38,8 +38,7 @@ TextEdits KindEdits(const ParsedProgram &parsed, int area, int kind);
 /// An attribute's default, as stored (text defaults are in the clocks' language).
 QString DefaultValue(Lw::HNodeClock::Attribute attribute);
 
-/// The text range that sets an attribute's value; the clock's start tag if nothing
-/// does.
+/// The range of the element that sets an attribute's value; the clock's start tag if none does.
 TextRange PlaceOf(const ParsedProgram &parsed, int area, Lw::HNodeClock::Attribute attribute);
 
 } // namespace ClockStudio

@@ -10,8 +10,8 @@
 
 namespace ClockStudio {
 
-/// Areas are identified by their index in the program, from 0. While the text is not a valid
-/// program, nothing is changed by these.
+/// Areas are identified by their index in the program, from 0. The operations do nothing while the
+/// text is not a valid program.
 class WallEditor : public QObject
 {
     Q_OBJECT

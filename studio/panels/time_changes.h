@@ -1,5 +1,5 @@
 // studio/panels: finds the next change of what clocks show: daylight saving, midnight, a new month,
-// year or lunar month. Pure.
+// year or lunar month.
 #pragma once
 
 #include "calendar/zone_time.h"

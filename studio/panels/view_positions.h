@@ -6,7 +6,7 @@
 
 namespace ClockStudio {
 
-/// A text as an editor keeps it, with line feeds.
+/// A text as QPlainTextEdit holds it, with line feeds only.
 QString InEditor(QString text);
 /// Where a position of the text is in the editor.
 int ToEditor(const QString &text, int position);

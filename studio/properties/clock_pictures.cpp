@@ -21,7 +21,7 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-// Not used by the clocks on the wall.
+// An Id and a play number that no clock on the wall has.
 constexpr int kIdentity = 99999;
 constexpr unsigned int kPlay = std::numeric_limits<unsigned int>::max();
 
@@ -32,7 +32,7 @@ constexpr int kTextSize = 11; // points
 constexpr int kHoursAndMinutes = 1;
 constexpr int kInk = 0x00b0ff; // amber, as the host packs it
 constexpr int kDialInk = 0xffffff;
-constexpr int kDimInk = 0x606060; // of what the picture is not about
+constexpr int kDimInk = 0x606060; // for the parts that the picture is not about
 
 /// 8 March 2026, 10:08:36 UTC: no hand covers another, and the digits differ.
 long long PictureTime()
@@ -83,8 +83,8 @@ QVector<StoredValue> BareDial()
     return values;
 }
 
-/// A quarter of a dial of twice the size, where a shape can be told: that with the hand at the
-/// pictures' time, or with some marks.
+/// The quarter of a double-size dial that shows a shape clearly: the one with the hand at the
+/// pictures' time, or with some of the marks.
 struct DialPart
 {
     Attribute shape;

@@ -33,17 +33,17 @@ struct ZoneAnswer
     /// The periods in the ten years from `today` in which such a clock is wrong; empty if exact.
     QVector<ClockZones::WrongTime> wrong;
     int otherShift = 0;    ///< the zone's, in seconds, where daylight saving is not an hour; or 0
-    qint64 rightUntil = 0; ///< UTC milliseconds; only set if `wrong` is empty
+    qint64 rightUntil = 0; ///< UTC ms until which the settings are right; only if `wrong` is empty
 };
 
 /// The best settings for a zone; nothing if the system does not know it.
 std::optional<ZoneAnswer> SettingsFor(const QByteArray &zone, const QDate &today);
 
-/// A zone that has the time of a clock's settings for the ten years from a day.
+/// A zone whose time agrees with a clock's settings for ten years from a day.
 struct KnownZone
 {
     QString city;          ///< empty where no zone has it
-    qint64 rightUntil = 0; ///< milliseconds since 1970-01-01 UTC: so long at least
+    qint64 rightUntil = 0; ///< UTC milliseconds; right at least until then
 };
 
 KnownZone ZoneOf(const ClockZones::ZoneSettings &settings, const QDate &today);

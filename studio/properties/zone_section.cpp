@@ -40,7 +40,7 @@ QString DateText(qint64 instant, int offset)
     return QLocale().toString(reading.date(), QLocale::LongFormat);
 }
 
-/// Date and time, to the second: some zones' settings are wrong for one.
+/// Date and time with seconds, as some zones' settings are wrong for a single second.
 QString InstantText(qint64 instant, int offset)
 {
     const QDateTime reading =

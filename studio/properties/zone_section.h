@@ -40,8 +40,8 @@ private:
     QLabel *m_note;
     QTimeEdit *m_adjustment;
     QComboBox *m_direction;
-    ClockZones::ZoneSettings m_inexactZone; ///< of a zone that cannot be expressed,
-    QString m_inexact;                      ///< and why; empty where none was chosen
+    ClockZones::ZoneSettings m_inexactZone; ///< the best settings for the zone chosen last,
+    QString m_inexact;                      ///< and why they are inexact; empty if exact
     bool m_isShowing = false;
 };
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kMergeable = 1; // QUndoCommand id of commands that may merge
 
-/// The edits that undo others, in their own order.
+/// The edits that undo these, in the order in which to apply them.
 TextEdits Reverted(const TextEdits &edits)
 {
     TextEdits reverted;

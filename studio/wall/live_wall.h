@@ -61,7 +61,7 @@ private:
         QString made;       ///< the `text` that the current clock was built from
         QRect geometry;     ///< pixels of the screen
         int area = 0;       ///< in the program
-        int identity = 0;   ///< in the names of its glyph files
+        int identity = 0;   ///< the clock's Id, part of its glyph files' names
         QImage lastPicture; ///< shown until the clock is rebuilt
         QString refusal;
         std::unique_ptr<ClockStage::Area> clock;

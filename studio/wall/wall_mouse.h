@@ -30,7 +30,7 @@ public:
     void Press(const WallScale &scale, const Grip &grip);
     void Move(const WallScale &scale, const Grip &grip);
     void Release(const WallScale &scale, const Grip &grip);
-    /// Cancels and reverts a drag. False if there is none.
+    /// Reverts a drag, or else leaves drawing mode. False if there was neither.
     bool Cancel();
 
     bool IsDragging() const { return m_drag != Drag::None; }
@@ -61,7 +61,7 @@ private:
     Drag m_drag = Drag::None;
     Handle m_handle = NoHandle;
     QPoint m_from;          ///< the pixel corner of the wall where the drag began
-    QPoint m_pressed;       ///< of the view
+    QPoint m_pressed;       ///< where the button was pressed, in the view
     QVector<QRect> m_rects; ///< the selected areas' rectangles when the drag began
     QRect m_band;
     SnapLines m_guides;

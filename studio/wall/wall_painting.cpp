@@ -44,7 +44,7 @@ struct Ruler
     {
         return orientation == Qt::Horizontal ? QPoint(along, across) : QPoint(across, along);
     }
-    /// From the place to the edge at the wall.
+    /// The part of the ruler between `from` and `to`, from `across` to the edge at the wall.
     QRect Strip(int from, int to, int across) const
     {
         return {At(from, across), At(to, kRulerWidth) - QPoint(1, 1)};

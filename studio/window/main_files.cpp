@@ -22,7 +22,7 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kPicturePitch = 8; // pixels per diode in a saved picture
+constexpr int kPicturePitch = 8; // pixels per LED in a saved picture
 
 QString WithSuffix(const QString &path, const QString &suffix)
 {

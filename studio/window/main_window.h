@@ -31,7 +31,7 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Unsaved work is kept in the directory.
+    /// Unsaved work is stored in `recoveryDirectory`.
     explicit MainWindow(const QString &recoveryDirectory, QWidget *parent = nullptr);
     ~MainWindow() override;
 
