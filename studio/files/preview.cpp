@@ -12,7 +12,7 @@ namespace ClockStudio {
 namespace {
 
 constexpr int kSeconds = 10;
-constexpr int kLeastWidth = 640; // pixels, up to which walls are magnified by whole numbers
+constexpr int kMagnifiedBelow = 640; // pixels; narrower walls are magnified by a whole number
 const QString kConverter = QStringLiteral("convert");
 
 // UTC milliseconds that the frames show. Static because a time source is a plain function.
@@ -32,7 +32,7 @@ QString WritePreviewFrames(LiveWall &wall, const QString &folder)
                                            "ImageMagick is not installed (package imagemagick).");
     s_instant = ClockStage::StageTime::Shown();
     clock_set_time_source(FrameTime);
-    const int factor = qMax(1, kLeastWidth / qMax(1, wall.Size().width()));
+    const int factor = qMax(1, kMagnifiedBelow / qMax(1, wall.Size().width()));
     bool isWritten = true;
     for (int second = 0; second < kSeconds && isWritten; ++second, s_instant += 1000) {
         wall.PlayNext();

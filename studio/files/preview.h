@@ -7,8 +7,7 @@
 namespace ClockStudio {
 
 /// Writes a frame for each of the next ten seconds to a folder, magnified if the wall is small.
-/// Returns the error message, empty on
-/// success.
+/// Returns an error message, empty on success.
 QString WritePreviewFrames(LiveWall &wall, const QString &folder);
 
 /// The command that assembles those frames into a GIF at `path`.

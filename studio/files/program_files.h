@@ -59,7 +59,7 @@ private:
     QString m_path;
     QByteArray m_digest;        ///< of the file as it was read or written here
     bool m_isRecovered = false; ///< the text was never saved, though the history is clean
-    QString m_keptText;         ///< as it was kept last
+    QString m_keptText;         ///< the text that was stored last
     QFileSystemWatcher m_watcher;
     QTimer m_looking;
     QTimer m_keeping;

@@ -7,7 +7,7 @@
 
 namespace ClockStudio {
 
-/// Writes an ordinary file atomically: on failure, the old one is unchanged. Returns an error
+/// Writes a regular file atomically: on failure, the old one is unchanged. Returns an error
 /// message, or nullopt on success.
 std::optional<QString> SaveFile(const QString &path, const QByteArray &bytes);
 

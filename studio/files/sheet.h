@@ -13,7 +13,7 @@ namespace ClockStudio {
 /// A PDF of A4 pages.
 QByteArray SheetPdf(const QString &title, LiveWall &wall, const QStringList &findings);
 
-/// Its contents as HTML: of each clock, what it shows and how. The picture is the resource "wall".
+/// Its contents as HTML: for each clock, what it shows and how. The picture is the resource "wall".
 QString SheetText(const QString &title, LiveWall &wall, const QStringList &findings);
 
 } // namespace ClockStudio

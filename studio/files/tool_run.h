@@ -24,19 +24,20 @@ struct ToolCommand
 QString ClockToolPath();
 /// The clock_tool command that exports a program to a folder, in the clocks' current language.
 ToolCommand ExportCommand(const QString &program, const QString &folder);
-/// Its checks of a program, likewise; each finding is a line of JSON.
+/// The clock_tool command that checks a program, in the same language; prints a line of JSON per
+/// finding.
 ToolCommand LintCommand(const QString &program);
 
 struct ToolResult
 {
     bool isCancelled = false;
     bool isGood = false;
-    QByteArray output; ///< standard output of all commands, as far as it is kept
+    QByteArray output; ///< standard output of all commands, up to a limit
     QString errors;    ///< what the last one wrote on standard error, or why it did not start
 };
 
-/// Runs commands, each when the one before it went well, behind a dialog that can be cancelled: the
-/// command is asked to end, and cleans up itself. Percentages in the output move the dialog's bar.
+/// Runs commands behind a dialog, each if the one before it succeeded. If the user cancels, the
+/// running command gets SIGTERM and cleans up. Percentages in the output move the progress bar.
 ToolResult RunBehindDialog(const QVector<ToolCommand> &commands, const QString &what,
                            QWidget *parent);
 

@@ -156,7 +156,7 @@ QString TargetFault(const WallTarget &target)
     if (target.IsRemote() && !host.match(target.host).hasMatch())
         return Translated(QT_TRANSLATE_NOOP(
             "ClockStudio::WallTarget",
-            "Write the host as operator@wall.example or operator@wall.example:22."));
+            "Enter the host as operator@wall.example or operator@wall.example:22."));
     const auto isPath = [](const QString &text) {
         return text.startsWith(QLatin1Char('/')) && !text.contains(QLatin1Char('\n'));
     };

@@ -19,8 +19,8 @@ public:
     explicit WallWatch(QObject *parent = nullptr);
     ~WallWatch() override;
 
-    /// Asks now and every few seconds, for a few minutes. Only a target with a status file is
-    /// asked.
+    /// Polls now and every few seconds, for a few minutes. Does nothing for a target without a
+    /// status file.
     void Follow(const WallTarget &target);
     void Stop();
 

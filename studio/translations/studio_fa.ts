@@ -1571,6 +1571,17 @@
     </message>
 </context>
 <context>
+    <name>ClockStudio::SavedFile</name>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 پرونده‌ای معمولی نیست.</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2</source>
+        <translation>%1 ذخیره نشد: %2</translation>
+    </message>
+</context>
+<context>
     <name>ClockStudio::Section</name>
     <message>
         <source>Show</source>
@@ -1632,7 +1643,7 @@
         <translation>در حال فرستادن به %1…</translation>
     </message>
     <message>
-        <source>%1 now has release %2. The previous one is kept.</source>
+        <source>Release %2 was sent to %1. The previous release is kept.</source>
         <translation>%1 نسخهٔ %2 را دارد. نسخهٔ پیشین نگه داشته شد.</translation>
     </message>
     <message>
@@ -1644,7 +1655,7 @@
         <translation>در حال تعویض نسخه…</translation>
     </message>
     <message>
-        <source>%1 has release %2.</source>
+        <source>%1 now plays release %2.</source>
         <translation>%1 نسخهٔ %2 را دارد.</translation>
     </message>
     <message>
@@ -2045,7 +2056,7 @@
         <translation>دیوار نام می‌خواهد.</translation>
     </message>
     <message>
-        <source>Write the host as operator@wall.example or operator@wall.example:22.</source>
+        <source>Enter the host as operator@wall.example or operator@wall.example:22.</source>
         <translation>میزبان را به شکل operator@wall.example یا operator@wall.example:22 بنویسید.</translation>
     </message>
     <message>
@@ -2080,17 +2091,6 @@
         <translation>
             <numerusform>%Ln ساعت برگزیده</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WholeFile</name>
-    <message>
-        <source>%1 is not an ordinary file.</source>
-        <translation>%1 پرونده‌ای معمولی نیست.</translation>
-    </message>
-    <message>
-        <source>%1 could not be saved: %2</source>
-        <translation>%1 ذخیره نشد: %2</translation>
     </message>
 </context>
 <context>

@@ -1571,6 +1571,17 @@
     </message>
 </context>
 <context>
+    <name>ClockStudio::SavedFile</name>
+    <message>
+        <source>%1 is not a regular file.</source>
+        <translation>%1 不是普通文件。</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2</source>
+        <translation>无法保存 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>ClockStudio::Section</name>
     <message>
         <source>Show</source>
@@ -1632,7 +1643,7 @@
         <translation>正在发送到 %1…</translation>
     </message>
     <message>
-        <source>%1 now has release %2. The previous one is kept.</source>
+        <source>Release %2 was sent to %1. The previous release is kept.</source>
         <translation>%1 现为版本 %2。先前的版本已保留。</translation>
     </message>
     <message>
@@ -1644,7 +1655,7 @@
         <translation>正在更换版本…</translation>
     </message>
     <message>
-        <source>%1 has release %2.</source>
+        <source>%1 now plays release %2.</source>
         <translation>%1 现为版本 %2。</translation>
     </message>
     <message>
@@ -2045,7 +2056,7 @@
         <translation>墙需要一个名称。</translation>
     </message>
     <message>
-        <source>Write the host as operator@wall.example or operator@wall.example:22.</source>
+        <source>Enter the host as operator@wall.example or operator@wall.example:22.</source>
         <translation>请将主机写作 operator@wall.example 或 operator@wall.example:22。</translation>
     </message>
     <message>
@@ -2080,17 +2091,6 @@
         <translation>
             <numerusform>已选 %n 个时钟</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>ClockStudio::WholeFile</name>
-    <message>
-        <source>%1 is not an ordinary file.</source>
-        <translation>%1 不是普通文件。</translation>
-    </message>
-    <message>
-        <source>%1 could not be saved: %2</source>
-        <translation>无法保存 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -195,7 +195,8 @@ void SendDialog::Send()
     const QString release =
         Lw::HNodeClock::FormatAscii(QDateTime::currentDateTimeUtc(), "yyyyMMdd-HHmmss");
     if (Bring(folder, release))
-        Follow(tr("%1 now has release %2. The previous one is kept.").arg(Target().name, release));
+        Follow(tr("Release %2 was sent to %1. The previous release is kept.")
+                   .arg(Target().name, release));
 }
 
 /// After a failure, removes the incomplete release if the target can still be reached.
@@ -250,7 +251,7 @@ void SendDialog::PlayRelease()
         return;
     const QString release = item->data(Qt::UserRole).toString();
     if (TellOf(RunBehindDialog({PlayCommand(Target(), release)}, tr("Switching releases…"), this)))
-        Follow(tr("%1 has release %2.").arg(Target().name, release));
+        Follow(tr("%1 now plays release %2.").arg(Target().name, release));
 }
 
 } // namespace ClockStudio
