@@ -19,7 +19,7 @@ struct ClockReport
     QJsonArray warnings; ///< one object per clock that is wrong, or will be within 90 days
 };
 
-/// At an instant in UTC milliseconds.
+/// The report for `instant`, in UTC milliseconds. `rules` caches when zones' rules end.
 ClockReport ReportClocks(const QVector<Lw::HNode *> &nodes, qint64 instant,
                          ClockZones::RulesEnds &rules);
 

@@ -22,7 +22,7 @@ constexpr int kMaximumSpeed = 100000;
 struct Options
 {
     QString programPath;
-    QString pluginDirectory; ///< empty: plugins/ beside the program's directory
+    QString pluginDirectory; ///< empty: ../plugins, relative to the executable's directory
     QString filesDirectory;  ///< for the glyph files; empty: a temporary one
     QString outputDirectory; ///< for the frames; empty: play on the display
     QString language;        ///< empty: the locale's

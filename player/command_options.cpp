@@ -81,14 +81,14 @@ constexpr OptionRow kOptions[] = {
      {kMinimumSpeed, kMaximumSpeed}},
     {kStats, nullptr, nullptr,
      "At the end, print to standard error how long frames took to draw and how long after the "
-     "whole second they appeared, in milliseconds. SIGUSR1 prints it at any time."},
+     "whole second they appeared, in milliseconds. SIGUSR1 prints this at any time."},
     {kWatch, nullptr, nullptr,
      "Reload the program file whenever it changes or is replaced. While it is broken, the last "
      "good program keeps playing, and a message says why."},
     {kKiosk, nullptr, nullptr,
      "For unattended devices: full screen, no cursor, no keys. If a program cannot be played, "
-     "the screen shows a notice with a short code and it is tried again; SIGHUP reloads the "
-     "program; a framebuffer is blanked when the player stops presenting seconds."},
+     "the screen shows a notice with a short code, and the player tries again; SIGHUP reloads "
+     "the program; a framebuffer is blanked if the clocks stop updating."},
     {kRequireTime, nullptr, nullptr,
      "Show a notice instead of clocks until the system clock is set. Needs --kiosk."},
     {kOffset, nullptr, "X,Y",

@@ -1,4 +1,4 @@
-// player/: the player's own command-line options: their names, and the text of --help
+// player/: the names of the player's own command-line options, and the text of --help
 // for all options.
 #pragma once
 

@@ -22,8 +22,8 @@ public:
     bool IsEmpty() const { return m_kept.isEmpty(); }
     double Minimum() const { return m_minimum; }
     double Maximum() const { return m_maximum; }
-    /// The nearest-rank percentile: the smallest number that at least this share of them does not
-    /// exceed.
+    /// The nearest-rank percentile: the smallest kept number that at least `percent` % of them do
+    /// not exceed; 0 if there are none.
     double Percentile(int percent) const;
     double Median() const { return Percentile(50); }
 
@@ -34,7 +34,7 @@ private:
     double m_maximum = 0;
 };
 
-/// A frame that was seen.
+/// A frame that was presented on the display.
 struct SeenFrame
 {
     qint64 instant = 0; ///< UTC milliseconds that it was drawn for

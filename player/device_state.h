@@ -23,11 +23,11 @@ bool IsTimeSet();
 /// Sends a state to the service manager, if any: "READY=1", "WATCHDOG=1", "STATUS=...".
 void NotifyService(const char *state);
 
-/// Replaces a file atomically with a JSON object. Fails if it is not an ordinary file.
+/// Replaces a file atomically with a JSON object. Fails if it exists and is not a regular
+/// file.
 ClockProgram::MaybeFailure WriteStatus(const QString &path, const QJsonObject &status);
 
-/// Hides the text cursor and the typed input of the controlling terminal
-/// while it exists.
+/// While it exists, the controlling terminal shows no text cursor and does not echo what is typed.
 class QuietConsole
 {
 public:

@@ -14,8 +14,8 @@ class HNode;
 namespace ClockPlayer {
 
 /// For nodes whose images are loaded. Warns of characters that no font has, and of images
-/// left out because of their memory; fails if images are blank or could not be written, so that
-/// nothing or something older is shown.
+/// left out because of their memory; fails if images are blank or could not be written: then
+/// nothing or an older image would be shown.
 ClockProgram::MaybeFailure CheckGlyphs(const QVector<Lw::HNode *> &nodes,
                                        const QString &programPath, const Warn &warn);
 

@@ -1,4 +1,4 @@
-// player/: clock_player: main program. Chooses the platform, reads the program and plays it.
+// player/: main() of clock_player: chooses the platform, reads the program and plays it.
 #include "player.h"
 
 #include "command_support.h"
@@ -34,7 +34,7 @@ int Report(const Failure &failure)
     return static_cast<int>(failure.code);
 }
 
-// In a kiosk: restarts the process, as what was missing may now be there.
+// Restarts a kiosk's process after a pause, since what was missing may have appeared.
 void Restart()
 {
     if (!g_kioskArguments)
@@ -74,7 +74,8 @@ void NoteComplaint(QtMsgType type, const QMessageLogContext &, const QString &me
     std::_Exit(static_cast<int>(ExitCode::RuntimeFailure));
 }
 
-// After that, Qt ends the process when it loses the display or on another fatal error.
+// Once the application exists, Qt ends the process if it loses the display or on another fatal
+// error.
 void EndTidily(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type != QtFatalMsg) {

@@ -16,7 +16,7 @@ struct Row
 
 // In the order of the enumeration.
 constexpr Row kRows[] = {
-    {"P1", "NO PROGRAM"}, {"P2", "PROGRAM WRONG"}, {"P3", "NO PLUGIN"},
+    {"P1", "NO PROGRAM"}, {"P2", "PROGRAM ERROR"}, {"P3", "NO PLUGIN"},
     {"G1", "NO GLYPHS"},  {"T1", "TIME NOT SET"},
 };
 
@@ -57,7 +57,6 @@ constexpr Letter kLetters[] = {
     {'S', ".####" "#...." "#...." ".###." "....#" "....#" "####."},
     {'T', "#####" "..#.." "..#.." "..#.." "..#.." "..#.." "..#.."},
     {'U', "#...#" "#...#" "#...#" "#...#" "#...#" "#...#" ".###."},
-    {'W', "#...#" "#...#" "#...#" "#.#.#" "#.#.#" "##.##" "#...#"},
     {'Y', "#...#" "#...#" ".#.#." "..#.." "..#.." "..#.." "..#.."},
 };
 // clang-format on

@@ -8,7 +8,7 @@
 namespace ClockPlayer {
 
 /// Why no program plays. The codes are documented, so that a photograph of the screen is enough to
-/// tell the cause.
+/// identify the cause.
 enum class Notice {
     NoProgram,    ///< P1: there is no program file
     WrongProgram, ///< P2: the program cannot be played

@@ -101,7 +101,7 @@ void Playback::ShowTravelledTime()
         m_stage->PlayNext();
 }
 
-// Otherwise the old time would stay until the pending timers fire.
+// Redraws at once; otherwise the old time would stay until the pending timers fire.
 void Playback::FollowSteppedClock()
 {
     if (m_stage && StageTime::Travel().IsPresent())

@@ -1,5 +1,5 @@
-// player/: plays a stage in the window: executes its keys, updates title and overlay, and measures
-// every frame.
+// player/: plays a stage in the window: executes key commands, updates title and overlay, and
+// measures every frame.
 #pragma once
 
 #include "controls.h"

@@ -18,8 +18,8 @@ class Stage;
 
 namespace ClockPlayer {
 
-/// As large as the stage's screen, magnified by the LED pitch if any; or the whole display. What
-/// changed is composed straight into the picture that the platform brings to the display.
+/// As large as the stage's screen, magnified by the LED pitch if any; or the whole display.
+/// Changed regions are composed directly into the window's backing store.
 class PlayerWindow : public QWindow
 {
     Q_OBJECT
@@ -33,7 +33,7 @@ public:
     void ShowNotice(Notice notice);
     /// Shows the window full screen without a cursor; keys are ignored.
     void ShowAlone();
-    /// Paints all of the window again, soon.
+    /// Schedules a repaint of the whole window.
     void Renew() { Renew(QRect(QPoint(), size())); }
     /// The rectangle of the window that the stage covers, in pixels.
     QRect Picture() const { return m_view.Whole(); }

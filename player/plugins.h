@@ -1,4 +1,4 @@
-// player/: loads and uses the content plugins.
+// player/: loads the content plugins, gives them the time, and builds stages with them.
 #pragma once
 
 #include "command_line.h"
@@ -20,7 +20,7 @@ ClockProgram::MaybeFailure LoadPlugins(const QString &directory, QStringList &wa
 /// Sets the time source of all plugins that support one. Fails if none does.
 ClockProgram::MaybeFailure SetTimeSource(long long (*utcMilliseconds)());
 
-/// Finds among the loaded plugins the one that claims an element.
+/// A function that returns the loaded plugin that claims an element.
 ClockProgram::PluginFinder LoadedPlugins();
 
 /// Builds a stage from a program with the loaded plugins; passes on its warnings.

@@ -1,4 +1,4 @@
-// player/: Unix signals in the event loop.
+// player/: delivers Unix signals through the event loop.
 #pragma once
 
 #include <QObject>
@@ -9,8 +9,8 @@
 
 namespace ClockPlayer {
 
-/// While one exists, its signals arrive as Received(); afterwards they do what they did before.
-/// There may be one for each signal at a time.
+/// While one exists, its signals arrive as Received(); its destructor restores their old actions.
+/// At most one object per signal at a time.
 class SignalPipe : public QObject
 {
     Q_OBJECT

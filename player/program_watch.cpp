@@ -43,7 +43,7 @@ Result<Program> ReadOrdinaryProgram(const QString &path)
     struct stat found = {};
     if (::stat(QFile::encodeName(path).constData(), &found) == 0 && !S_ISREG(found.st_mode))
         return Failure {ExitCode::ProgramError,
-                        QStringLiteral("%1: is not an ordinary file").arg(path)};
+                        QStringLiteral("%1: is not a regular file").arg(path)};
     return ReadProgram(path);
 }
 

@@ -9,8 +9,7 @@
 
 namespace ClockPlayer {
 
-/// Identifies a file and its version. All 0
-/// if there is no file.
+/// Identifies a file and its version. All fields are 0 if there is no file.
 struct FileSignature
 {
     quint64 device = 0;

@@ -13,8 +13,8 @@ namespace ClockPlayer {
 class ScreenGuard
 {
 public:
-    /// Calls the function on the watchdog thread when Feed() was not called for that long. Not
-    /// before the first Feed(). The thread sleeps in between.
+    /// Calls `blank` on the watchdog thread once no Feed() has followed the last one for this many
+    /// milliseconds; never before the first. The thread sleeps in between.
     ScreenGuard(std::function<void()> blank, int milliseconds);
     ~ScreenGuard();
 

@@ -14,7 +14,7 @@ namespace ClockPlayer {
 struct Placing
 {
     int turn = 0;     ///< degrees clockwise: 0, 90, 180 or 270
-    int ledPitch = 0; ///< pixels from diode to diode; 0: no diodes
+    int ledPitch = 0; ///< pixels from LED to LED; 0: no LED preview
     QPoint offset;    ///< of the turned picture's top left, pixels of the window
 };
 

@@ -25,7 +25,7 @@ namespace {
 // Per-second work runs with each presented second, and at this interval while none is presented.
 constexpr int kIdleInterval = 1500;    // milliseconds
 constexpr int kStatusInterval = 60000; // milliseconds
-constexpr int kBlankAfter = 5000;
+constexpr int kBlankAfter = 5000;      // milliseconds
 constexpr int kKeptFaults = 20;
 
 Placing PlacingOf(const Options &options)
@@ -88,7 +88,7 @@ MaybeFailure WindowShow::Play(const Result<Program> &program, const FileSignatur
     } else if (const MaybeFailure faulty = CheckGlyphs()) {
         if (!m_options.isKiosk)
             return faulty;
-        Fault(faulty->text); // a kiosk goes on with what there is
+        Fault(faulty->text); // a kiosk plays with the images that it has
     }
     RequireGlyphs();
     if (!m_options.isKiosk)

@@ -115,7 +115,7 @@ Result<QString> MakeWorkDirectory()
     LockedDirectory &current = Current();
     current.path = QFile::decodeName(path);
     current.lock = LockDirectory(path);
-    // The mark comes last: what has none is never taken for abandoned.
+    // Marked last: an unmarked directory is never treated as abandoned.
     if (current.lock >= 0 && Mark(path))
         return current.path;
     const Failure failure = CannotMake(form);

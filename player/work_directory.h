@@ -8,7 +8,7 @@
 namespace ClockPlayer {
 
 /// Creates the directory and returns its path. It is removed when the process calls exit().
-/// Directories that killed players of the same user left behind are removed too. Call it once.
+/// Also removes directories left behind by killed players of the same user. Call it once.
 ClockProgram::Result<QString> MakeWorkDirectory();
 
 /// For exits that bypass exit(). Does nothing without a directory.
