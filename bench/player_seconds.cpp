@@ -70,7 +70,7 @@ void SetSpeed(double speed)
 
 MaybeFailure MeasurePlayer(const Options &options, int seconds)
 {
-    WindowShow show(options, Playback::Travelling::Possible, Complain);
+    WindowShow show(options, Playback::TimeControl::Possible, Complain);
     const Result<Program> program = ReadProgram(options.programPath);
     if (const MaybeFailure failure = show.Play(program, SignatureOf(options.programPath)))
         return failure;
@@ -87,7 +87,7 @@ MaybeFailure MeasurePlayer(const Options &options, int seconds)
 // Up to the first frame in the window.
 MaybeFailure MeasureStart(const Options &options)
 {
-    WindowShow show(options, Playback::Travelling::Possible, Complain);
+    WindowShow show(options, Playback::TimeControl::Possible, Complain);
     const Result<Program> program = ReadProgram(options.programPath);
     if (const MaybeFailure failure = show.Play(program, SignatureOf(options.programPath)))
         return failure;

@@ -24,7 +24,7 @@ public:
 
     CommandLine Read()
     {
-        m_options.checkDisplay = IsSet(kCheckDisplay);
+        m_options.checksDisplay = IsSet(kCheckDisplay);
         m_options.platform = Text(kPlatform);
         m_options.pluginDirectory = Text(kPluginDir);
         m_options.filesDirectory = Text(kFilesDir);
@@ -62,7 +62,7 @@ private:
         m_options.programPath = paths.isEmpty() ? Text(kDefaultProgram) : paths.first();
         if (paths.size() > 1)
             Fail(QStringLiteral("only one program can be played; unexpected \"%1\"").arg(paths[1]));
-        else if (m_options.programPath.isEmpty() && !m_options.checkDisplay)
+        else if (m_options.programPath.isEmpty() && !m_options.checksDisplay)
             Fail(QStringLiteral("no program to play"));
     }
 

@@ -41,7 +41,7 @@ struct Options
     bool allowsLargeFrames = false;     ///< beyond ClockProgram::kUsualFrameBytes
     bool watchesProgram = false;        ///< reloads the program file when it changes
     bool printsStats = false;           ///< prints the deadline statistics at the end
-    bool checkDisplay = false;          ///< only checks whether the display can be opened
+    bool checksDisplay = false;         ///< only checks whether the display can be opened
 
     bool WritesFrames() const { return !outputDirectory.isEmpty(); }
 };

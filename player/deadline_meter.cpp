@@ -53,16 +53,16 @@ double Spread::Percentile(int percent) const
     return *place;
 }
 
-void DeadlineMeter::Drew(double milliseconds)
+void DeadlineMeter::AddDrawn(double milliseconds)
 {
     ++m_frames;
     m_drawing.Add(milliseconds);
 }
 
-void DeadlineMeter::Saw(const SeenFrame &frame)
+void DeadlineMeter::AddPresented(const PresentedFrame &frame)
 {
-    Drew(frame.drawing);
-    const std::optional<SeenFrame> last = m_last;
+    AddDrawn(frame.drawing);
+    const std::optional<PresentedFrame> last = m_last;
     const bool follows = last && FollowsOn(frame);
     m_last = frame;
     if (!last)
@@ -74,15 +74,15 @@ void DeadlineMeter::Saw(const SeenFrame &frame)
     const qint64 second = WholeSecond(frame.instant);
     const qint64 passed = (second - WholeSecond(last->instant)) / kMillisecondsPerSecond;
     if (passed < 1) {
-        ++m_secondPresentations;
+        ++m_repeatedPresentations;
         return;
     }
     m_missedSeconds += passed - 1;
     const double sinceSecond = double(frame.instant - second) / frame.speed;
-    m_lateness.Add(sinceSecond + frame.seen - frame.begun);
+    m_lateness.Add(sinceSecond + frame.presented - frame.begun);
 }
 
-bool DeadlineMeter::FollowsOn(const SeenFrame &frame) const
+bool DeadlineMeter::FollowsOn(const PresentedFrame &frame) const
 {
     const double expected = (frame.begun - m_last->begun) * frame.speed;
     return std::abs(double(frame.instant - m_last->instant) - expected) < kStep * frame.speed;
@@ -95,7 +95,7 @@ QStringList DeadlineMeter::Report() const
             .arg(m_frames)
             .arg(m_missedSeconds)
             .arg(m_clockSteps)
-            .arg(m_secondPresentations),
+            .arg(m_repeatedPresentations),
         Line(QStringLiteral("drawing"), m_drawing), Line(QStringLiteral("lateness"), m_lateness)};
 }
 

@@ -35,23 +35,23 @@ private:
 };
 
 /// A frame that was presented on the display.
-struct SeenFrame
+struct PresentedFrame
 {
-    qint64 instant = 0; ///< UTC milliseconds that it was drawn for
-    double begun = 0;   ///< when drawing began, in milliseconds of the monotonic clock
-    double seen = 0;    ///< when it had reached the display, by the same clock
-    double drawing = 0; ///< spent on drawing
-    double speed = 1;   ///< shown seconds for each real one
+    qint64 instant = 0;   ///< UTC milliseconds that it was drawn for
+    double begun = 0;     ///< when drawing began, in milliseconds of the monotonic clock
+    double presented = 0; ///< when it had reached the display, by the same clock
+    double drawing = 0;   ///< spent on drawing
+    double speed = 1;     ///< shown seconds for each real one
 };
 
 class DeadlineMeter
 {
 public:
     /// A frame without a deadline: only its drawing time counts.
-    void Drew(double milliseconds);
+    void AddDrawn(double milliseconds);
     /// Counts a frame shown on the display. The first one after a jump, and one that shows the same
     /// second again, have no lateness.
-    void Saw(const SeenFrame &frame);
+    void AddPresented(const PresentedFrame &frame);
     /// The time was changed on purpose, or the window was hidden: the next frame counts as the
     /// first.
     void Jumped() { m_last.reset(); }
@@ -61,7 +61,7 @@ public:
     /// How often the system clock was stepped between two frames.
     int ClockSteps() const { return m_clockSteps; }
     /// Repeated presentations of the same second, when an area was late.
-    int SecondPresentations() const { return m_secondPresentations; }
+    int RepeatedPresentations() const { return m_repeatedPresentations; }
     int Frames() const { return m_frames; }
     const Spread &Drawing() const { return m_drawing; }
     const Spread &Lateness() const { return m_lateness; } ///< in real milliseconds
@@ -70,13 +70,13 @@ public:
     QStringList Report() const;
 
 private:
-    bool FollowsOn(const SeenFrame &frame) const;
+    bool FollowsOn(const PresentedFrame &frame) const;
 
-    std::optional<SeenFrame> m_last;
+    std::optional<PresentedFrame> m_last;
     int m_frames = 0;
     qint64 m_missedSeconds = 0;
     int m_clockSteps = 0;
-    int m_secondPresentations = 0;
+    int m_repeatedPresentations = 0;
     Spread m_drawing;
     Spread m_lateness;
 };

@@ -58,7 +58,7 @@ QImage DrawFrame(Stage &stage, int number, const FrameRun &run)
         stage.PlayNext();
     const QImage frame = Enlarged(stage.Screen(), run);
     if (run.meter)
-        run.meter->Drew(StageTime::Steady() - begun);
+        run.meter->AddDrawn(StageTime::Steady() - begun);
     return frame;
 }
 
@@ -77,12 +77,12 @@ MaybeFailure WriteFrames(Stage &stage, const FrameRun &run)
         const QString path = directory.filePath(FrameName(number, run.count));
         const QImage frame = DrawFrame(stage, number, run);
         if (number == 1)
-            run.begun();
+            run.onFirstFrame();
         if (frame.isNull())
             return TooLarge(run);
         if (const MaybeFailure failure = SaveFrame(frame, path))
             return failure;
-        if (run.isEnded())
+        if (run.shouldStop())
             break;
     }
     return std::nullopt;

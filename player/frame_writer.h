@@ -22,8 +22,8 @@ struct FrameRun
     double speed = 1;               ///< seconds of the clocks from frame to frame
     qint64 start = 0;               ///< UTC milliseconds; the first frame shows its whole second
     DeadlineMeter *meter = nullptr; ///< records how long the frames took to draw; may be null
-    std::function<void()> begun;    ///< called when the first frame is drawn, before it is written
-    std::function<bool()> isEnded;  ///< asked after each frame; true ends the run early
+    std::function<void()> onFirstFrame; ///< called before the first frame is written
+    std::function<bool()> shouldStop;   ///< asked after each frame; true ends the run early
 };
 
 /// Starts the stage and writes its frames. The plugins must take their time from StageTime, and

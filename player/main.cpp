@@ -17,7 +17,7 @@ namespace {
 using namespace ClockPlayer;
 using namespace ClockProgram;
 
-constexpr unsigned int kPauseSeconds = 2;
+constexpr unsigned int kRestartDelaySeconds = 2;
 constexpr int kNoticeMilliseconds = 10000;
 
 QtMessageHandler g_defaultHandler = nullptr;
@@ -35,20 +35,20 @@ int Report(const Failure &failure)
 }
 
 // Restarts a kiosk's process after a pause, since what was missing may have appeared.
-void Restart()
+void RestartIfKiosk()
 {
     if (!g_kioskArguments)
         return;
     RemoveWorkDirectory();
-    ::sleep(kPauseSeconds);
+    ::sleep(kRestartDelaySeconds);
     ::execv("/proc/self/exe", g_kioskArguments);
 }
 
-void ShowNoticeForAWhile(Notice notice)
+void ShowNoticeBriefly(Notice notice)
 {
     PlayerWindow window(QStringLiteral("clock_player"));
     window.ShowNotice(notice);
-    window.ShowAlone();
+    window.ShowKiosk();
     QTimer::singleShot(kNoticeMilliseconds, qApp, &QCoreApplication::quit);
     QGuiApplication::exec();
 }
@@ -62,7 +62,7 @@ int FailWithoutDisplay()
 
 // Without a display, Qt ends the process inside the application's constructor. Its
 // earlier warnings are printed only in that case.
-void NoteComplaint(QtMsgType type, const QMessageLogContext &, const QString &message)
+void HandleStartupMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     static QStringList complaints;
     complaints.append(message.section(QLatin1Char('\n'), 0, 0));
@@ -70,13 +70,13 @@ void NoteComplaint(QtMsgType type, const QMessageLogContext &, const QString &me
         return;
     Say(complaints.join(QLatin1Char('\n')));
     FailWithoutDisplay();
-    Restart();
+    RestartIfKiosk();
     std::_Exit(static_cast<int>(ExitCode::RuntimeFailure));
 }
 
 // Once the application exists, Qt ends the process if it loses the display or on another fatal
 // error.
-void EndTidily(QtMsgType type, const QMessageLogContext &context, const QString &message)
+void HandleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (type != QtFatalMsg) {
         g_defaultHandler(type, context, message);
@@ -102,29 +102,29 @@ void ChoosePlatform(const Options &options)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-int RunOnDisplay(int argc, char **argv, const Options &options, const Result<Program> &program,
-                 const FileSignature &signature)
+int RunApplication(int argc, char **argv, const Options &options, const Result<Program> &program,
+                   const FileSignature &signature)
 {
     ChoosePlatform(options);
     if (options.isKiosk) {
         qputenv("QT_QPA_FB_HIDECURSOR", "1");
         qputenv("QT_QPA_FB_DISABLE_INPUT", "1"); // no keyboard or mouse is even opened
     }
-    g_defaultHandler = qInstallMessageHandler(NoteComplaint);
+    g_defaultHandler = qInstallMessageHandler(HandleStartupMessage);
     const QGuiApplication application(argc, argv);
-    qInstallMessageHandler(EndTidily);
+    qInstallMessageHandler(HandleMessage);
     if (!QGuiApplication::primaryScreen()) {
         FailWithoutDisplay();
-        Restart();
+        RestartIfKiosk();
         return static_cast<int>(ExitCode::RuntimeFailure);
     }
-    if (options.checkDisplay)
+    if (options.checksDisplay)
         return static_cast<int>(ExitCode::Success);
     const MaybeFailure failure = Play(options, program, signature, Say);
     if (failure && options.isKiosk) {
         Say(failure->text);
-        ShowNoticeForAWhile(Notice::NoPlugin);
-        Restart();
+        ShowNoticeBriefly(Notice::NoPlugin);
+        RestartIfKiosk();
     }
     return failure ? Report(*failure) : static_cast<int>(ExitCode::Success);
 }
@@ -141,14 +141,14 @@ int Run(int argc, char **argv)
     const Options &options = std::get<Options>(commandLine);
     if (options.isKiosk)
         g_kioskArguments = argv;
-    if (options.checkDisplay)
-        return RunOnDisplay(argc, argv, options, Program(), FileSignature());
+    if (options.checksDisplay)
+        return RunApplication(argc, argv, options, Program(), FileSignature());
     const FileSignature signature = SignatureOf(options.programPath);
-    const Result<Program> program = options.isKiosk ? ReadOrdinaryProgram(options.programPath)
+    const Result<Program> program = options.isKiosk ? ReadRegularProgram(options.programPath)
                                                     : ReadProgram(options.programPath);
     if (!program && !options.isKiosk)
         return Report(program.Error());
-    return RunOnDisplay(argc, argv, options, program, signature);
+    return RunApplication(argc, argv, options, program, signature);
 }
 
 } // namespace

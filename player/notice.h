@@ -10,11 +10,11 @@ namespace ClockPlayer {
 /// Why no program plays. The codes are documented, so that a photograph of the screen is enough to
 /// identify the cause.
 enum class Notice {
-    NoProgram,    ///< P1: there is no program file
-    WrongProgram, ///< P2: the program cannot be played
-    NoPlugin,     ///< P3: no plugin could be loaded, or no directory for the glyph images
-    NoGlyphs,     ///< G1: glyph images are missing, and the clocks would lack texts
-    TimeNotSet,   ///< T1: the device's clock is not set
+    NoProgram,  ///< P1: there is no program file
+    BadProgram, ///< P2: the program cannot be played
+    NoPlugin,   ///< P3: no plugin could be loaded, or no directory for the glyph images
+    NoGlyphs,   ///< G1: glyph images are missing, and the clocks would lack texts
+    TimeNotSet, ///< T1: the device's clock is not set
 };
 
 /// Such as "P1".

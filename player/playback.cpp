@@ -16,13 +16,13 @@ constexpr int kTitleInterval = 20; // milliseconds; the title changes at most th
 
 } // namespace
 
-Playback::Playback(PlayerWindow &window, Travelling travelling)
-    : m_window(window), m_canTravel(travelling == Travelling::Possible), m_name(window.title())
+Playback::Playback(PlayerWindow &window, TimeControl timeControl)
+    : m_window(window), m_canTravel(timeControl == TimeControl::Possible), m_name(window.title())
 {
     m_sinceTitle.start();
-    connect(&window, &PlayerWindow::Commanded, this, &Playback::Obey);
+    connect(&window, &PlayerWindow::Commanded, this, &Playback::Execute);
     connect(&window, &PlayerWindow::AboutToPaint, this, &Playback::ShowOverlay);
-    connect(&window, &PlayerWindow::Painted, this, &Playback::NotePaint);
+    connect(&window, &PlayerWindow::Painted, this, &Playback::RecordPresentation);
     connect(&m_clockSteps, &ClockSteps::Stepped, this, &Playback::FollowSteppedClock);
 }
 
@@ -32,7 +32,7 @@ void Playback::Play(std::unique_ptr<Stage> stage)
 {
     const TimeTravel &travel = StageTime::Travel();
     Lw::pictureplayer::SetTimeScale(travel.IsPaused() ? 0 : travel.Speed());
-    connect(stage.get(), &Stage::Changed, this, &Playback::NotePicture);
+    connect(stage.get(), &Stage::Changed, this, &Playback::RecordDrawing);
     stage->Start();
     m_window.SetStage(*stage);
     m_stage = std::move(stage); // deletes the previous stage last, as the window was showing it
@@ -48,7 +48,7 @@ void Playback::Clear()
     m_clocks.clear();
 }
 
-void Playback::Obey(const Command &command)
+void Playback::Execute(const Command &command)
 {
     switch (command.control) {
     case Control::Pause:
@@ -109,7 +109,7 @@ void Playback::FollowSteppedClock()
 }
 
 // A plugin that does not take its time from the player is not measured.
-void Playback::NotePicture()
+void Playback::RecordDrawing()
 {
     const std::optional<StageTime::PluginTime> told = StageTime::TakePluginTime();
     if (!m_window.isExposed()) {
@@ -120,7 +120,7 @@ void Playback::NotePicture()
     if (!told)
         return;
     if (!m_drawn) {
-        m_drawn = SeenFrame();
+        m_drawn = PresentedFrame();
         m_drawn->instant = told->instant;
         m_drawn->begun = told->steady;
         m_drawn->speed = StageTime::Travel().Speed();
@@ -128,12 +128,12 @@ void Playback::NotePicture()
     m_drawn->drawing += StageTime::Steady() - told->steady;
 }
 
-void Playback::NotePaint(double begun)
+void Playback::RecordPresentation(double begun)
 {
     if (m_drawn) {
-        m_drawn->seen = StageTime::Steady();
-        m_drawn->drawing += m_drawn->seen - begun;
-        m_meter.Saw(*m_drawn);
+        m_drawn->presented = StageTime::Steady();
+        m_drawn->drawing += m_drawn->presented - begun;
+        m_meter.AddPresented(*m_drawn);
         m_drawn.reset();
     }
     if (m_stage && m_sinceTitle.hasExpired(kTitleInterval))

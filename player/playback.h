@@ -28,12 +28,12 @@ class Playback : public QObject
     Q_OBJECT
 
 public:
-    enum class Travelling {
+    enum class TimeControl {
         Possible,
         Impossible
     }; ///< whether the plugins take their time from the player
 
-    Playback(PlayerWindow &window, Travelling travelling);
+    Playback(PlayerWindow &window, TimeControl timeControl);
     ~Playback() override;
 
     /// Plays a stage that was built. The previous one is shown until the first pictures of the
@@ -49,12 +49,12 @@ Q_SIGNALS:
     void Presented(); ///< the changes are on the display
 
 private:
-    void Obey(const Command &command);
+    void Execute(const Command &command);
     void Travel(const Command &command);
     void ShowTravelledTime();
     void FollowSteppedClock();
-    void NotePicture();
-    void NotePaint(double begun);
+    void RecordDrawing();
+    void RecordPresentation(double begun);
     void ShowStatus();
     void ShowTitle();
     void ShowOverlay();
@@ -66,7 +66,7 @@ private:
     const bool m_canTravel;
     const QString m_name; ///< the window's first title
     DeadlineMeter m_meter;
-    std::optional<SeenFrame> m_drawn; ///< on its way to the display
+    std::optional<PresentedFrame> m_drawn; ///< on its way to the display
     ClockStage::ClockSteps m_clockSteps;
     ClockStage::ZoneMemory m_zoneMemory;
     QVector<Lw::HNodeClock::ZoneSettings> m_clocks; ///< as they were when the stage began to play

@@ -81,7 +81,7 @@ Failure Interrupted()
 
 // Generating the images of large texts takes seconds without returning to the event loop, so the
 // service manager is told here that the process is alive.
-void GoOnBetweenImages()
+void KeepAliveBetweenImages()
 {
     constexpr int kNotifyInterval = 1000; // milliseconds
     static QElapsedTimer sinceNotified;
@@ -105,10 +105,10 @@ void QuitFramesBetweenImages()
 }
 
 // If no plugin accepts a time source, the clocks can still show the present.
-MaybeFailure InstallTimeSource(const Options &options, Playback::Travelling &travelling)
+MaybeFailure InstallTimeSource(const Options &options, Playback::TimeControl &timeControl)
 {
     const MaybeFailure failure = SetTimeSource(&StageTime::TellPlugin);
-    travelling = failure ? Playback::Travelling::Impossible : Playback::Travelling::Possible;
+    timeControl = failure ? Playback::TimeControl::Impossible : Playback::TimeControl::Possible;
     const bool isNeeded = options.startInstant || options.speed != 1 || options.WritesFrames();
     return isNeeded ? failure : std::nullopt;
 }
@@ -122,15 +122,15 @@ void BeginTravel(const Options &options)
 }
 
 MaybeFailure PlayInWindow(const Options &options, const Result<Program> &program,
-                          const FileSignature &signature, Playback::Travelling travelling,
+                          const FileSignature &signature, Playback::TimeControl timeControl,
                           const Warn &warn)
 {
-    Lw::HData::SetRecordObserver(GoOnBetweenImages);
+    Lw::HData::SetRecordObserver(KeepAliveBetweenImages);
     QuitSignals quitSignals(options.isKiosk ? QuitSignals::Losses::Ignore
                                             : QuitSignals::Losses::End);
     QObject::connect(&quitSignals, &QuitSignals::Requested, qApp, &QCoreApplication::quit);
     BeginTravel(options);
-    WindowShow show(options, travelling, warn);
+    WindowShow show(options, timeControl, warn);
     if (const MaybeFailure failure = show.Play(program, signature))
         return failure;
     QGuiApplication::exec();
@@ -154,7 +154,7 @@ FrameRun FrameRunOf(const Options &options)
     run.ledPitch = options.ledPitch;
     run.speed = options.speed;
     run.start = options.startInstant.value_or(StageTime::Shown());
-    run.isEnded = [] {
+    run.shouldStop = [] {
         QCoreApplication::processEvents();
         return QuitSignals::IsRequested();
     };
@@ -179,7 +179,7 @@ MaybeFailure PlayToFiles(const Options &options, const Program &program, const W
     FrameRun run = FrameRunOf(options);
     run.meter = &meter;
     MaybeFailure faulty;
-    run.begun = [&] { faulty = CheckGlyphs(stage.Nodes(), program.path, warn); };
+    run.onFirstFrame = [&] { faulty = CheckGlyphs(stage.Nodes(), program.path, warn); };
     const MaybeFailure failure = WriteFrames(stage, run);
     if (options.printsStats)
         print();
@@ -211,13 +211,13 @@ MaybeFailure Play(const Options &options, const Result<Program> &program,
         return failure;
     for (const QString &warning : qAsConst(warnings))
         warn(warning);
-    auto travelling = Playback::Travelling::Impossible;
-    if (const MaybeFailure failure = InstallTimeSource(options, travelling))
+    auto timeControl = Playback::TimeControl::Impossible;
+    if (const MaybeFailure failure = InstallTimeSource(options, timeControl))
         return failure;
     if (const MaybeFailure failure = PrepareFiles(options))
         return failure;
     return options.WritesFrames() ? PlayToFiles(options, *program, warn)
-                                  : PlayInWindow(options, program, signature, travelling, warn);
+                                  : PlayInWindow(options, program, signature, timeControl, warn);
 }
 
 } // namespace ClockPlayer

@@ -59,7 +59,7 @@ QImage *PlainPicture(QPaintDevice &device)
 
 } // namespace
 
-PlayerWindow::PlayerWindow(const QString &title, const Placing &placing) : m_view(placing)
+PlayerWindow::PlayerWindow(const QString &title, const Placing &placing) : m_mapping(placing)
 {
     setTitle(title);
 }
@@ -71,16 +71,16 @@ void PlayerWindow::SetStage(const Stage &stage)
     m_stage = &stage;
     m_notice.reset();
     m_screen = QImage();
-    m_view.SetScreenSize(stage.Size());
-    const QRect picture = m_view.Whole();
+    m_mapping.SetScreenSize(stage.Size());
+    const QRect picture = m_mapping.Whole();
     SetContentSize({picture.right() + 1, picture.bottom() + 1});
     connect(&stage, &Stage::Changed, this, &PlayerWindow::Change);
-    Renew();
+    ScheduleRepaint();
 }
 
 void PlayerWindow::SetContentSize(QSize size)
 {
-    if (m_isAlone)
+    if (m_isKiosk)
         return;
     const QSize visible = size.expandedTo({1, 1});
     setMinimumSize(visible);
@@ -93,12 +93,12 @@ void PlayerWindow::ShowNotice(Notice notice)
         disconnect(m_stage, nullptr, this, nullptr);
     m_stage = nullptr;
     m_notice = notice;
-    Renew();
+    ScheduleRepaint();
 }
 
-void PlayerWindow::ShowAlone()
+void PlayerWindow::ShowKiosk()
 {
-    m_isAlone = true;
+    m_isKiosk = true;
     setCursor(Qt::BlankCursor);
     setGeometry(screen()->geometry()); // where no window manager does it
     showFullScreen();
@@ -109,15 +109,15 @@ void PlayerWindow::Change(const QRegion &region)
 {
     if (region.isEmpty())
         requestUpdate();
-    else if (m_view.IsPlain())
-        Renew(region.translated(m_view.Whole().topLeft()));
+    else if (m_mapping.IsPlain())
+        ScheduleRepaint(region.translated(m_mapping.Whole().topLeft()));
     else
         for (const QRect &rect : region)
-            Renew(m_view.Placed(rect));
+            ScheduleRepaint(m_mapping.WindowRectOf(rect));
 }
 
 // A window that cannot be seen is painted whole when it appears.
-void PlayerWindow::Renew(const QRegion &region)
+void PlayerWindow::ScheduleRepaint(const QRegion &region)
 {
     if (!isExposed())
         return;
@@ -130,7 +130,7 @@ void PlayerWindow::SetOverlay(const QString &text)
     if (text == m_overlay)
         return;
     m_overlay = text;
-    Renew();
+    ScheduleRepaint();
 }
 
 bool PlayerWindow::event(QEvent *event)
@@ -154,7 +154,7 @@ void PlayerWindow::exposeEvent(QExposeEvent *)
 
 void PlayerWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (m_isAlone)
+    if (m_isKiosk)
         return;
     const std::optional<Command> command = CommandOf(event->key(), event->modifiers());
     // Auto-repeat applies only to stepping.
@@ -192,21 +192,21 @@ void PlayerWindow::Paint(QPaintDevice &device, const QRegion &region)
 
 void PlayerWindow::PaintScreen(QPaintDevice &device, const QRegion &region)
 {
-    const QRect picture = m_view.Whole();
+    const QRect picture = m_mapping.Whole();
     // Some platforms make the window larger than the program's screen.
     if (!picture.contains(region.boundingRect())) {
         QPainter painter(&device);
         for (const QRect &outside : region - picture)
             painter.fillRect(outside, Qt::black);
     }
-    QImage *const plain = m_view.IsPlain() ? PlainPicture(device) : nullptr;
+    QImage *const plain = m_mapping.IsPlain() ? PlainPicture(device) : nullptr;
     if (!plain || !m_stage) {
         PaintThroughScreen(device, region & picture);
         return;
     }
     const QVector<Layer> layers = m_stage->Layers();
     for (const QRect &rect : region)
-        ComposeScreen(*plain, layers, m_view.Origin(rect), picture.topLeft());
+        ComposeScreen(*plain, layers, m_mapping.ScreenRectOf(rect), picture.topLeft());
 }
 
 void PlayerWindow::PaintThroughScreen(QPaintDevice &device, const QRegion &region)
@@ -219,12 +219,13 @@ void PlayerWindow::PaintThroughScreen(QPaintDevice &device, const QRegion &regio
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     const QVector<Layer> layers = m_stage->Layers();
     for (const QRect &rect : region) {
-        const QRect pixels = m_view.Origin(rect);
+        const QRect pixels = m_mapping.ScreenRectOf(rect);
         ComposeScreen(m_screen, layers, pixels);
-        if (m_view.IsPlain())
-            painter.drawImage(m_view.Placed(pixels).topLeft(), m_screen, pixels);
+        if (m_mapping.IsPlain())
+            painter.drawImage(m_mapping.WindowRectOf(pixels).topLeft(), m_screen, pixels);
         else
-            painter.drawImage(m_view.Placed(pixels).topLeft(), m_view.Picture(m_screen, pixels));
+            painter.drawImage(m_mapping.WindowRectOf(pixels).topLeft(),
+                              m_mapping.Picture(m_screen, pixels));
     }
 }
 

@@ -3,7 +3,7 @@
 
 #include "controls.h"
 #include "notice.h"
-#include "wall_view.h"
+#include "screen_mapping.h"
 
 #include <QBackingStore>
 #include <QImage>
@@ -32,11 +32,11 @@ public:
     /// Shows a notice until the next SetStage(); the current stage is no longer used.
     void ShowNotice(Notice notice);
     /// Shows the window full screen without a cursor; keys are ignored.
-    void ShowAlone();
+    void ShowKiosk();
     /// Schedules a repaint of the whole window.
-    void Renew() { Renew(QRect(QPoint(), size())); }
+    void ScheduleRepaint() { ScheduleRepaint(QRect(QPoint(), size())); }
     /// The rectangle of the window that the stage covers, in pixels.
-    QRect Picture() const { return m_view.Whole(); }
+    QRect Picture() const { return m_mapping.Whole(); }
 
     /// Text over the lower part of the picture; empty for none.
     void SetOverlay(const QString &text);
@@ -55,7 +55,7 @@ protected:
 
 private:
     void Change(const QRegion &region);
-    void Renew(const QRegion &region);
+    void ScheduleRepaint(const QRegion &region);
     void SetContentSize(QSize size);
     void Present();
     void Paint(QPaintDevice &device, const QRegion &region);
@@ -66,8 +66,8 @@ private:
     QRegion m_changed; ///< of the window, not painted yet
     const ClockStage::Stage *m_stage = nullptr;
     std::optional<Notice> m_notice;
-    WallView m_view;
-    bool m_isAlone = false;
+    ScreenMapping m_mapping;
+    bool m_isKiosk = false;
     QImage m_screen; ///< null if it can be composed into the window directly
     QString m_overlay;
 };

@@ -52,7 +52,7 @@ MaybeFailure SetTimeSource(long long (*utcMilliseconds)())
                         .arg(QLatin1String(kTimeSourceSymbol))};
 }
 
-PluginFinder LoadedPlugins()
+PluginFinder LoadedPluginFinder()
 {
     return [](QDomElement &element) { return Lw::HPluginManager::instance()->PluginFor(element); };
 }
@@ -63,7 +63,7 @@ MaybeFailure BuildStage(Stage &stage, const Program &program, const Options &opt
     if (const MaybeFailure large = CheckFrameBytes(program); large && !options.allowsLargeFrames)
         return large;
     const MaybeFailure failure = stage.Build(
-        program, LoadedPlugins(), options.usesFiles ? GlyphFiles::Carried : GlyphFiles::Made);
+        program, LoadedPluginFinder(), options.usesFiles ? GlyphFiles::Carried : GlyphFiles::Made);
     for (const QString &warning : stage.Warnings())
         warn(warning);
     return failure;

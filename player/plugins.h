@@ -21,7 +21,7 @@ ClockProgram::MaybeFailure LoadPlugins(const QString &directory, QStringList &wa
 ClockProgram::MaybeFailure SetTimeSource(long long (*utcMilliseconds)());
 
 /// A function that returns the loaded plugin that claims an element.
-ClockProgram::PluginFinder LoadedPlugins();
+ClockProgram::PluginFinder LoadedPluginFinder();
 
 /// Builds a stage from a program with the loaded plugins; passes on its warnings.
 ClockProgram::MaybeFailure BuildStage(ClockStage::Stage &stage,

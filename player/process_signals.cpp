@@ -59,7 +59,7 @@ SignalPipe::SignalPipe(const std::vector<int> &numbers, Times times, QObject *pa
         return;
     auto *const notifier = new QSocketNotifier(m_ends[0], QSocketNotifier::Read, this);
     connect(notifier, &QSocketNotifier::activated, this, [this] {
-        Empty();
+        Drain();
         emit Received();
     });
     struct sigaction action = {};
@@ -90,7 +90,7 @@ bool SignalPipe::HasArrived(int number)
     return RouteOf(number).hasArrived;
 }
 
-void SignalPipe::Empty()
+void SignalPipe::Drain()
 {
     char bytes[16];
     while (::read(m_ends[0], bytes, sizeof bytes) > 0) { }

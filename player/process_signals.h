@@ -31,7 +31,7 @@ Q_SIGNALS:
     void Received(); ///< from the event loop; signals in quick succession are merged
 
 private:
-    void Empty();
+    void Drain();
 
     /// A signal, and what the process did with it before.
     struct Caught

@@ -38,7 +38,7 @@ FileSignature SignatureOf(const QString &path)
             Nanoseconds(found.st_ctim)};
 }
 
-Result<Program> ReadOrdinaryProgram(const QString &path)
+Result<Program> ReadRegularProgram(const QString &path)
 {
     struct stat found = {};
     if (::stat(QFile::encodeName(path).constData(), &found) == 0 && !S_ISREG(found.st_mode))

@@ -27,7 +27,7 @@ FileSignature SignatureOf(const QString &path);
 
 /// Reads a program while another one plays or a notice is shown. Fails for anything but a regular
 /// file, as opening a pipe would wait for its writer.
-ClockProgram::Result<ClockProgram::Program> ReadOrdinaryProgram(const QString &path);
+ClockProgram::Result<ClockProgram::Program> ReadRegularProgram(const QString &path);
 
 /// Decides when a watched file has to be reloaded. Pure.
 class ProgramWatch

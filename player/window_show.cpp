@@ -55,21 +55,21 @@ QJsonObject SpreadObject(const Spread &spread)
 
 Notice NoticeOf(const FileSignature &program)
 {
-    return program == FileSignature() ? Notice::NoProgram : Notice::WrongProgram;
+    return program == FileSignature() ? Notice::NoProgram : Notice::BadProgram;
 }
 
 } // namespace
 
-WindowShow::WindowShow(const Options &options, Playback::Travelling travelling, const Warn &warn)
+WindowShow::WindowShow(const Options &options, Playback::TimeControl timeControl, const Warn &warn)
     : m_options(options), m_warn(warn), m_reportSignal({SIGUSR1}, SignalPipe::Times::Always),
       m_window(QFileInfo(options.programPath).fileName(), PlacingOf(options)),
-      m_playback(m_window, travelling), m_watch(FileSignature())
+      m_playback(m_window, timeControl), m_watch(FileSignature())
 {
     connect(&m_playback, &Playback::StatsWanted, this, &WindowShow::PrintStats);
     connect(&m_reportSignal, &SignalPipe::Received, this, &WindowShow::Report);
-    connect(&m_playback, &Playback::Presented, this, &WindowShow::FollowSecond);
+    connect(&m_playback, &Playback::Presented, this, &WindowShow::OnSecondPresented);
     m_idle.setInterval(kIdleInterval);
-    connect(&m_idle, &QTimer::timeout, this, &WindowShow::FollowIdle);
+    connect(&m_idle, &QTimer::timeout, this, &WindowShow::OnIdle);
     m_sinceStatus.start();
 }
 
@@ -82,46 +82,46 @@ MaybeFailure WindowShow::Play(const Result<Program> &program, const FileSignatur
     if (failure && !m_options.isKiosk)
         return failure;
     if (failure) {
-        Fault(failure->text);
+        ReportFault(failure->text);
         ShowNotice(!program && signature == FileSignature() ? Notice::NoProgram
-                                                            : Notice::WrongProgram);
+                                                            : Notice::BadProgram);
     } else if (const MaybeFailure faulty = CheckGlyphs()) {
         if (!m_options.isKiosk)
             return faulty;
-        Fault(faulty->text); // a kiosk plays with the images that it has
+        ReportFault(faulty->text); // a kiosk plays with the images that it has
     }
-    RequireGlyphs();
+    ShowNoticeIfGlyphsMissing();
     if (!m_options.isKiosk)
         m_window.show();
-    KeepTimeRequired();
+    CheckRequiredTime();
     m_idle.start();
     NotifyService("READY=1");
-    KeepStatus();
+    WriteStatusFile();
     return std::nullopt;
 }
 
 void WindowShow::BeginKiosk()
 {
     m_console = std::make_unique<QuietConsole>();
-    m_readSignal.reset(new SignalPipe({SIGHUP}, SignalPipe::Times::Always));
-    connect(m_readSignal.get(), &SignalPipe::Received, this, &WindowShow::FollowReadSignal);
+    m_reloadSignal.reset(new SignalPipe({SIGHUP}, SignalPipe::Times::Always));
+    connect(m_reloadSignal.get(), &SignalPipe::Received, this, &WindowShow::ReloadOnSignal);
     const QString framebuffer = FramebufferOf(qEnvironmentVariable("QT_QPA_PLATFORM"));
     if (!framebuffer.isEmpty())
         m_guard = std::make_unique<ScreenGuard>([framebuffer] { BlankFramebuffer(framebuffer); },
                                                 kBlankAfter);
-    m_window.ShowAlone();
+    m_window.ShowKiosk();
 }
 
-void WindowShow::FollowSecond()
+void WindowShow::OnSecondPresented()
 {
     m_idle.start();
     if (m_guard) {
         m_guard->Feed();
         if (m_guard->TakeBlanked())
-            m_window.Renew();
+            m_window.ScheduleRepaint();
     }
     NotifyService("WATCHDOG=1");
-    KeepTimeRequired();
+    CheckRequiredTime();
     if (m_options.watchesProgram || m_notice)
         CheckProgram();
     if (!m_sinceStatus.hasExpired(kStatusInterval))
@@ -129,21 +129,21 @@ void WindowShow::FollowSecond()
     if (m_notice == Notice::NoGlyphs) // there may be room on the disk by now
         Reload();
     else
-        KeepStatus();
+        WriteStatusFile();
 }
 
 // A static notice is fine; stopped clocks are not, so the watchdog is not fed for them here.
-void WindowShow::FollowIdle()
+void WindowShow::OnIdle()
 {
     if (m_notice) {
-        FollowSecond();
+        OnSecondPresented();
         return;
     }
     if (m_options.watchesProgram)
         CheckProgram();
 }
 
-void WindowShow::KeepTimeRequired()
+void WindowShow::CheckRequiredTime()
 {
     if (!m_options.requiresTime)
         return;
@@ -162,22 +162,22 @@ void WindowShow::CheckProgram()
         return;
     const MaybeFailure failure = Read();
     if (!failure) {
-        KeepStatus();
+        WriteStatusFile();
         return;
     }
     if (step == ProgramWatch::Step::Read)
         m_watch.Failed();
     else
-        Fault(failure->text);
+        ReportFault(failure->text);
     if (m_notice)
         ShowNotice(NoticeOf(signature));
 }
 
 // While the clock is not set, no frame may be shown; the program is read once it is set.
-void WindowShow::FollowReadSignal()
+void WindowShow::ReloadOnSignal()
 {
     if (m_notice == Notice::TimeNotSet)
-        KeepStatus();
+        WriteStatusFile();
     else
         Reload();
 }
@@ -187,27 +187,27 @@ void WindowShow::Reload()
     const FileSignature signature = SignatureOf(m_options.programPath);
     m_watch = ProgramWatch(signature);
     if (const MaybeFailure failure = Read()) {
-        Fault(failure->text);
+        ReportFault(failure->text);
         if (m_notice)
             ShowNotice(NoticeOf(signature));
     }
-    KeepStatus();
+    WriteStatusFile();
 }
 
 MaybeFailure WindowShow::Read()
 {
-    const Result<Program> program = ReadOrdinaryProgram(m_options.programPath);
+    const Result<Program> program = ReadRegularProgram(m_options.programPath);
     if (!program)
         return program.Error();
     if (const MaybeFailure failure = Show(*program))
         return failure;
     if (const MaybeFailure faulty = CheckGlyphs())
-        Fault(faulty->text);
-    RequireGlyphs();
+        ReportFault(faulty->text);
+    ShowNoticeIfGlyphsMissing();
     return std::nullopt;
 }
 
-void WindowShow::RequireGlyphs()
+void WindowShow::ShowNoticeIfGlyphsMissing()
 {
     if (m_options.isKiosk && m_playback.Playing() && LacksFiles(*m_playback.Playing()))
         ShowNotice(Notice::NoGlyphs);
@@ -221,7 +221,7 @@ MaybeFailure WindowShow::CheckGlyphs() const
 void WindowShow::CheckRestarted(Lw::HNode *node)
 {
     if (const MaybeFailure faulty = ClockPlayer::CheckGlyphs({node}, m_options.programPath, m_warn))
-        Fault(faulty->text);
+        ReportFault(faulty->text);
 }
 
 MaybeFailure WindowShow::Show(const Program &program)
@@ -242,13 +242,13 @@ MaybeFailure WindowShow::Show(const Program &program)
     const QSize display = QGuiApplication::primaryScreen()->size();
     const QRect picture = m_window.Picture();
     if (m_options.isKiosk && !QRect(QPoint(), display).contains(picture))
-        Fault(QStringLiteral(
-                  "%1: the picture extends to %2,%3, but the display has only %4x%5 pixels")
-                  .arg(program.path)
-                  .arg(picture.right() + 1)
-                  .arg(picture.bottom() + 1)
-                  .arg(display.width())
-                  .arg(display.height()));
+        ReportFault(QStringLiteral(
+                        "%1: the picture extends to %2,%3, but the display has only %4x%5 pixels")
+                        .arg(program.path)
+                        .arg(picture.right() + 1)
+                        .arg(picture.bottom() + 1)
+                        .arg(display.width())
+                        .arg(display.height()));
     return std::nullopt;
 }
 
@@ -259,7 +259,7 @@ void WindowShow::ShowNotice(Notice notice)
     m_notice = notice;
     m_window.ShowNotice(notice);
     m_playback.Clear();
-    KeepStatus();
+    WriteStatusFile();
 }
 
 void WindowShow::PrintStats()
@@ -271,10 +271,10 @@ void WindowShow::PrintStats()
 void WindowShow::Report()
 {
     PrintStats();
-    KeepStatus();
+    WriteStatusFile();
 }
 
-void WindowShow::Fault(const QString &text)
+void WindowShow::ReportFault(const QString &text)
 {
     m_warn(text);
     ++m_faultCount;
@@ -283,10 +283,10 @@ void WindowShow::Fault(const QString &text)
                      {QStringLiteral("text"), text}});
     while (m_faults.size() > kKeptFaults)
         m_faults.removeFirst();
-    KeepStatus();
+    WriteStatusFile();
 }
 
-void WindowShow::KeepStatus()
+void WindowShow::WriteStatusFile()
 {
     m_sinceStatus.start();
     if (m_options.statusFile.isEmpty())
@@ -312,7 +312,7 @@ QJsonObject WindowShow::Status()
         {QStringLiteral("frames"), meter.Frames()},
         {QStringLiteral("missed_seconds"), meter.MissedSeconds()},
         {QStringLiteral("clock_steps"), meter.ClockSteps()},
-        {QStringLiteral("second_presentations"), meter.SecondPresentations()},
+        {QStringLiteral("second_presentations"), meter.RepeatedPresentations()},
         {QStringLiteral("lateness_ms"), SpreadObject(meter.Lateness())},
         {QStringLiteral("time_set"), IsTimeSet()},
         {QStringLiteral("time_synchronised"),

@@ -31,7 +31,7 @@ class WindowShow : public QObject
     Q_OBJECT
 
 public:
-    WindowShow(const Options &options, Playback::Travelling travelling, const Warn &warn);
+    WindowShow(const Options &options, Playback::TimeControl timeControl, const Warn &warn);
 
     /// The signature is the file's before the program was read. In a kiosk nothing fails: a notice
     /// is shown, and the program is tried again.
@@ -41,27 +41,27 @@ public:
 
 private:
     void BeginKiosk();
-    void FollowSecond();
-    void FollowIdle();
-    void KeepTimeRequired();
+    void OnSecondPresented();
+    void OnIdle();
+    void CheckRequiredTime();
     void CheckProgram();
-    void FollowReadSignal();
+    void ReloadOnSignal();
     void Reload();
     void Report();
     ClockProgram::MaybeFailure Read();
     ClockProgram::MaybeFailure Show(const ClockProgram::Program &program);
     ClockProgram::MaybeFailure CheckGlyphs() const;
-    void RequireGlyphs();
+    void ShowNoticeIfGlyphsMissing();
     void CheckRestarted(Lw::HNode *node);
     void ShowNotice(Notice notice);
-    void Fault(const QString &text);
-    void KeepStatus();
+    void ReportFault(const QString &text);
+    void WriteStatusFile();
     QJsonObject Status();
 
     const Options m_options;
     const Warn m_warn;
     const SignalPipe m_reportSignal;
-    std::unique_ptr<SignalPipe> m_readSignal;
+    std::unique_ptr<SignalPipe> m_reloadSignal;
     std::unique_ptr<QuietConsole> m_console;
     std::unique_ptr<ScreenGuard> m_guard;
     PlayerWindow m_window;

@@ -11,12 +11,12 @@ namespace {
 constexpr qint64 kNoon = 1700000000000; // a whole second
 
 /// Drawn within 3 ms and seen 5 ms after it was begun; the steady clock runs with the shown time.
-SeenFrame FrameAt(qint64 milliseconds)
+PresentedFrame FrameAt(qint64 milliseconds)
 {
-    SeenFrame frame;
+    PresentedFrame frame;
     frame.instant = kNoon + milliseconds;
     frame.begun = double(milliseconds);
-    frame.seen = frame.begun + 5;
+    frame.presented = frame.begun + 5;
     frame.drawing = 3;
     return frame;
 }
@@ -96,9 +96,9 @@ void TestDeadlineMeter::OnlyADayIsKept()
 void TestDeadlineMeter::OnTheSecond()
 {
     DeadlineMeter meter;
-    meter.Saw(FrameAt(-300)); // the first one is not due at a second
-    meter.Saw(FrameAt(0));
-    meter.Saw(FrameAt(1000));
+    meter.AddPresented(FrameAt(-300)); // the first one is not due at a second
+    meter.AddPresented(FrameAt(0));
+    meter.AddPresented(FrameAt(1000));
     QCOMPARE(meter.Frames(), 3);
     QCOMPARE(meter.MissedSeconds(), qint64(0));
     QCOMPARE(meter.ClockSteps(), 0);
@@ -110,9 +110,9 @@ void TestDeadlineMeter::OnTheSecond()
 void TestDeadlineMeter::LateFrames()
 {
     DeadlineMeter meter;
-    meter.Saw(FrameAt(0));
-    meter.Saw(FrameAt(1040));
-    meter.Saw(FrameAt(2700));
+    meter.AddPresented(FrameAt(0));
+    meter.AddPresented(FrameAt(1040));
+    meter.AddPresented(FrameAt(2700));
     QCOMPARE(meter.Lateness().Minimum(), 45.0);
     QCOMPARE(meter.Lateness().Maximum(), 705.0);
     QCOMPARE(meter.MissedSeconds(), qint64(0));
@@ -121,10 +121,10 @@ void TestDeadlineMeter::LateFrames()
 void TestDeadlineMeter::MissedSeconds()
 {
     DeadlineMeter meter;
-    meter.Saw(FrameAt(0));
-    meter.Saw(FrameAt(2100)); // nothing showed second 1
-    meter.Saw(FrameAt(3000));
-    meter.Saw(FrameAt(7999)); // nor 4, 5 and 6
+    meter.AddPresented(FrameAt(0));
+    meter.AddPresented(FrameAt(2100)); // nothing showed second 1
+    meter.AddPresented(FrameAt(3000));
+    meter.AddPresented(FrameAt(7999)); // nor 4, 5 and 6
     QCOMPARE(meter.MissedSeconds(), qint64(4));
     QCOMPARE(meter.ClockSteps(), 0);
     QCOMPARE(meter.Lateness().Maximum(), 1004.0);
@@ -133,10 +133,10 @@ void TestDeadlineMeter::MissedSeconds()
 void TestDeadlineMeter::RepeatedSeconds()
 {
     DeadlineMeter meter;
-    meter.Saw(FrameAt(0));
-    meter.Saw(FrameAt(1000));
-    meter.Saw(FrameAt(1500)); // drawn again, for any reason
-    meter.Saw(FrameAt(2000));
+    meter.AddPresented(FrameAt(0));
+    meter.AddPresented(FrameAt(1000));
+    meter.AddPresented(FrameAt(1500)); // drawn again, for any reason
+    meter.AddPresented(FrameAt(2000));
     QCOMPARE(meter.Frames(), 4);
     QCOMPARE(meter.Lateness().Maximum(), 5.0);
     QCOMPARE(meter.MissedSeconds(), qint64(0));
@@ -145,11 +145,11 @@ void TestDeadlineMeter::RepeatedSeconds()
 void TestDeadlineMeter::Jumps()
 {
     DeadlineMeter meter;
-    meter.Saw(FrameAt(0));
+    meter.AddPresented(FrameAt(0));
     meter.Jumped();
-    SeenFrame later = FrameAt(500);
+    PresentedFrame later = FrameAt(500);
     later.instant += 3600000;
-    meter.Saw(later);
+    meter.AddPresented(later);
     QCOMPARE(meter.ClockSteps(), 0);
     QCOMPARE(meter.MissedSeconds(), qint64(0));
     QVERIFY(meter.Lateness().IsEmpty());
@@ -169,13 +169,13 @@ void TestDeadlineMeter::SteppedClock()
 {
     QFETCH(qint64, step);
     DeadlineMeter meter;
-    meter.Saw(FrameAt(0));
+    meter.AddPresented(FrameAt(0));
     const qint64 shown = 450 + step;
     const qint64 millisecond = (shown % 1000 + 1000) % 1000;
     for (const qint64 at : {shown, shown - millisecond + 1000, shown - millisecond + 2000}) {
-        SeenFrame frame = FrameAt(at - step);
+        PresentedFrame frame = FrameAt(at - step);
         frame.instant = kNoon + at;
-        meter.Saw(frame);
+        meter.AddPresented(frame);
     }
     QCOMPARE(meter.ClockSteps(), 1);
     QCOMPARE(meter.MissedSeconds(), qint64(0));
@@ -186,10 +186,10 @@ void TestDeadlineMeter::OtherSpeeds()
 {
     DeadlineMeter meter;
     for (int i = 0; i < 3; ++i) { // one frame a real second, ten seconds of the clocks
-        SeenFrame frame = FrameAt(1000 * i);
+        PresentedFrame frame = FrameAt(1000 * i);
         frame.instant = kNoon + 10000 * i + 200;
         frame.speed = 10;
-        meter.Saw(frame);
+        meter.AddPresented(frame);
     }
     QCOMPARE(meter.MissedSeconds(), qint64(18));
     QCOMPARE(meter.ClockSteps(), 0);
@@ -199,8 +199,8 @@ void TestDeadlineMeter::OtherSpeeds()
 void TestDeadlineMeter::FramesNobodyWaitedFor()
 {
     DeadlineMeter meter;
-    meter.Drew(7);
-    meter.Drew(9);
+    meter.AddDrawn(7);
+    meter.AddDrawn(9);
     QCOMPARE(meter.Frames(), 2);
     QCOMPARE(meter.Drawing().Maximum(), 9.0);
     QVERIFY(meter.Lateness().IsEmpty());
@@ -209,9 +209,9 @@ void TestDeadlineMeter::FramesNobodyWaitedFor()
 void TestDeadlineMeter::Report()
 {
     DeadlineMeter meter;
-    meter.Saw(FrameAt(0));
-    meter.Saw(FrameAt(1000));
-    meter.Saw(FrameAt(3002));
+    meter.AddPresented(FrameAt(0));
+    meter.AddPresented(FrameAt(1000));
+    meter.AddPresented(FrameAt(3002));
     QCOMPARE(meter.Report(),
              QStringList({"frames: 3, missed seconds: 1, clock steps: 0, second presentations: 0",
                           "drawing ms: minimum 3.00, median 3.00, 99th percentile 3.00, "

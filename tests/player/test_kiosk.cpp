@@ -2,7 +2,7 @@
 #include "device_state.h"
 #include "notice.h"
 #include "screen_guard.h"
-#include "wall_view.h"
+#include "screen_mapping.h"
 
 #include <QJsonDocument>
 #include <QSemaphore>
@@ -60,33 +60,33 @@ void TestKiosk::TurnedPicture()
     QFETCH(int, turn);
     const QImage screen = Numbered({5, 3});
     const QImage turned = screen.transformed(QTransform().rotate(turn));
-    WallView view({turn, 0, {10, -1}});
-    view.SetScreenSize(screen.size());
-    QCOMPARE(view.Whole(), QRect(QPoint(10, -1), turned.size()));
+    ScreenMapping mapping({turn, 0, {10, -1}});
+    mapping.SetScreenSize(screen.size());
+    QCOMPARE(mapping.Whole(), QRect(QPoint(10, -1), turned.size()));
     for (int y = 0; y < screen.height(); ++y) {
         for (int x = 0; x < screen.width(); ++x) {
             const QRect pixel(x, y, 1, 1);
-            const QRect place = view.Placed(pixel);
+            const QRect place = mapping.WindowRectOf(pixel);
             QCOMPARE(place.size(), QSize(1, 1));
-            QCOMPARE(view.Origin(place), pixel);
-            QCOMPARE(view.Picture(screen, pixel).pixel(0, 0), screen.pixel(x, y));
+            QCOMPARE(mapping.ScreenRectOf(place), pixel);
+            QCOMPARE(mapping.Picture(screen, pixel).pixel(0, 0), screen.pixel(x, y));
             QCOMPARE(turned.pixel(place.topLeft() - QPoint(10, -1)), screen.pixel(x, y));
         }
     }
     const QRect part(1, 1, 3, 2);
-    QCOMPARE(view.Picture(screen, part).convertToFormat(QImage::Format_RGB32),
-             turned.copy(view.Placed(part).translated(-10, 1)));
-    QVERIFY(view.Origin({0, 0, 5, 5}).isEmpty());
+    QCOMPARE(mapping.Picture(screen, part).convertToFormat(QImage::Format_RGB32),
+             turned.copy(mapping.WindowRectOf(part).translated(-10, 1)));
+    QVERIFY(mapping.ScreenRectOf({0, 0, 5, 5}).isEmpty());
 }
 
 void TestKiosk::TurnedDiodes()
 {
-    WallView view({90, 8, {0, 0}});
-    view.SetScreenSize({5, 3});
-    QCOMPARE(view.Whole(), QRect(0, 0, 24, 40));
-    QCOMPARE(view.Placed({0, 0, 1, 1}), QRect(16, 0, 8, 8));
-    QCOMPARE(view.Origin({17, 3, 1, 1}), QRect(0, 0, 1, 1));
-    const QImage diode = view.Picture(Numbered({5, 3}), {0, 0, 1, 1});
+    ScreenMapping mapping({90, 8, {0, 0}});
+    mapping.SetScreenSize({5, 3});
+    QCOMPARE(mapping.Whole(), QRect(0, 0, 24, 40));
+    QCOMPARE(mapping.WindowRectOf({0, 0, 1, 1}), QRect(16, 0, 8, 8));
+    QCOMPARE(mapping.ScreenRectOf({17, 3, 1, 1}), QRect(0, 0, 1, 1));
+    const QImage diode = mapping.Picture(Numbered({5, 3}), {0, 0, 1, 1});
     QCOMPARE(diode.size(), QSize(8, 8));
     QCOMPARE(diode.pixel(0, 0), qRgb(0, 0, 0));
     QCOMPARE(diode.pixel(4, 4), qRgb(1, 1, 77));
@@ -103,7 +103,7 @@ void TestKiosk::NoticesFitTheirPicture_data()
 void TestKiosk::NoticesFitTheirPicture()
 {
     QFETCH(QSize, size);
-    const QImage picture = NoticePicture(Notice::WrongProgram, size);
+    const QImage picture = NoticePicture(Notice::BadProgram, size);
     QCOMPARE(picture.size(), size);
     int ink = 0;
     for (int y = 0; y < size.height(); ++y) {
@@ -119,7 +119,7 @@ void TestKiosk::NoticesFitTheirPicture()
 
 void TestKiosk::NoticesDiffer()
 {
-    const QVector<Notice> all {Notice::NoProgram, Notice::WrongProgram, Notice::NoPlugin,
+    const QVector<Notice> all {Notice::NoProgram, Notice::BadProgram, Notice::NoPlugin,
                                Notice::NoGlyphs, Notice::TimeNotSet};
     QVector<QImage> pictures;
     for (const Notice notice : all) {

@@ -50,7 +50,7 @@ void TestPlayerWindow::initTestCase()
 void TestPlayerWindow::ShowsTheScreen()
 {
     Stage stage;
-    QVERIFY(!stage.Build(m_program, LoadedPlugins(), GlyphFiles::Made));
+    QVERIFY(!stage.Build(m_program, LoadedPluginFinder(), GlyphFiles::Made));
     PlayerWindow window(QStringLiteral("p.xml"));
     window.SetStage(stage);
     QCOMPARE(window.size(), QSize(8, 4));

@@ -1,4 +1,4 @@
-#include "wall_view.h"
+#include "screen_mapping.h"
 
 #include <QTransform>
 
@@ -29,29 +29,29 @@ QRect TurnedRegion(const QRect &region, QSize size, int degrees)
 
 } // namespace
 
-WallView::WallView(const Placing &placing)
+ScreenMapping::ScreenMapping(const Placing &placing)
     : m_placing(placing),
       m_leds(placing.ledPitch ? std::optional(LedScreen(placing.ledPitch)) : std::nullopt)
 { }
 
-QRect WallView::Turned(const QRect &region) const
+QRect ScreenMapping::Turned(const QRect &region) const
 {
     return TurnedRegion(region, m_screen, m_placing.turn);
 }
 
-QRect WallView::TurnedBack(const QRect &region) const
+QRect ScreenMapping::TurnedBack(const QRect &region) const
 {
     const QSize turned = m_placing.turn % 180 ? m_screen.transposed() : m_screen;
     return TurnedRegion(region, turned, (360 - m_placing.turn) % 360);
 }
 
-QRect WallView::Placed(const QRect &region) const
+QRect ScreenMapping::WindowRectOf(const QRect &region) const
 {
     const QRect turned = Turned(region);
     return (m_leds ? m_leds->Magnified(turned) : turned).translated(m_placing.offset);
 }
 
-QRect WallView::Origin(const QRect &part) const
+QRect ScreenMapping::ScreenRectOf(const QRect &part) const
 {
     const QRect visible = (part & Whole()).translated(-m_placing.offset);
     if (visible.isEmpty())
@@ -59,7 +59,7 @@ QRect WallView::Origin(const QRect &part) const
     return TurnedBack(m_leds ? m_leds->Reduced(visible) : visible);
 }
 
-QImage WallView::Picture(const QImage &screen, const QRect &region) const
+QImage ScreenMapping::Picture(const QImage &screen, const QRect &region) const
 {
     if (!m_leds && !m_placing.turn)
         return screen.copy(region);

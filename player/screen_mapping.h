@@ -18,10 +18,10 @@ struct Placing
     QPoint offset;    ///< of the turned picture's top left, pixels of the window
 };
 
-class WallView
+class ScreenMapping
 {
 public:
-    explicit WallView(const Placing &placing);
+    explicit ScreenMapping(const Placing &placing);
 
     /// Size of the program's screen in pixels; call first.
     void SetScreenSize(QSize size) { m_screen = size; }
@@ -29,12 +29,12 @@ public:
     /// Whether pixels are only translated, so that Picture() is not needed.
     bool IsPlain() const { return !m_leds && m_placing.turn == 0; }
     /// What the whole screen covers of the window.
-    QRect Whole() const { return Placed({QPoint(), m_screen}); }
+    QRect Whole() const { return WindowRectOf({QPoint(), m_screen}); }
     /// What a region of the screen covers of the window.
-    QRect Placed(const QRect &region) const;
+    QRect WindowRectOf(const QRect &region) const;
     /// The smallest screen rectangle that covers this part of the window.
-    QRect Origin(const QRect &part) const;
-    /// What is painted at Placed(region). The screen has 32-bit pixels.
+    QRect ScreenRectOf(const QRect &part) const;
+    /// What is painted at WindowRectOf(region). The screen has 32-bit pixels.
     QImage Picture(const QImage &screen, const QRect &region) const;
 
 private:
