@@ -1,5 +1,6 @@
 #include "new_clock.h"
 
+#include "clock_attributes.h"
 #include "system_zones.h"
 
 #include <QDate>
@@ -12,7 +13,7 @@ namespace ClockStudio {
 
 namespace {
 
-using ClockZones::ZoneSettings;
+using namespace Lw::HNodeClock;
 
 constexpr int kLargestSize = 400;
 
@@ -35,19 +36,18 @@ ZoneSettings ZoneOfThisComputer()
     return settings;
 }
 
-QString Setting(const char *key, const QString &value)
+QString Setting(Attribute attribute, const QString &value)
 {
-    return QStringLiteral("    <attribute key=\"%1\" value=\"%2\"/>\n")
-        .arg(QLatin1String(key), value);
+    return QStringLiteral("    <attribute key=\"%1\" value=\"%2\"/>\n").arg(Key(attribute), value);
 }
 
 QString DaylightLines(const ZoneSettings &zone)
 {
     if (!zone.HasDaylightSaving())
         return {};
-    return Setting("UseDaylightSavingTime", QStringLiteral("1"))
-        + Setting("DaylightSavingTimeStart", zone.start)
-        + Setting("DaylightSavingTimeEnd", zone.end);
+    return Setting(Attribute::UseDaylightSavingTime, QStringLiteral("1"))
+        + Setting(Attribute::DaylightSavingTimeStart, zone.start)
+        + Setting(Attribute::DaylightSavingTimeEnd, zone.end);
 }
 
 QString Font(const QString &family, int size, const char *colour)
@@ -97,8 +97,8 @@ QString AnalogLines(QSize size)
 
 QString PictureLines()
 {
-    return Setting("ClockType", QStringLiteral("2"))
-        + Setting("PictrueClockType", QStringLiteral("1"));
+    return Setting(Attribute::ClockType, QString::number(PictureClock))
+        + Setting(Attribute::PictrueClockType, QStringLiteral("1"));
 }
 
 struct KindText

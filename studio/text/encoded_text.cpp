@@ -26,7 +26,7 @@ const Mark kBeginnings[] = {
     {"UTF-16BE", QByteArray("\0<", 2)},
 };
 
-bool HasWideCharacters(const TextForm &form)
+bool IsUtf16(const TextForm &form)
 {
     return form.codec.startsWith("UTF-16");
 }
@@ -81,7 +81,7 @@ std::optional<QByteArray> EncodeText(const QString &text, const TextForm &form)
 
 TextForm FormAfterEdits(const QString &text, const TextForm &form)
 {
-    if (HasWideCharacters(form))
+    if (IsUtf16(form))
         return form;
     const QByteArray declared = ClockProgram::DeclaredEncoding(text);
     const bool isUsable = QTextCodec::codecForName(declared) && !declared.startsWith("UTF-16");
@@ -92,11 +92,6 @@ TextForm FormAfterEdits(const QString &text, const TextForm &form)
     if (!form.mark.isEmpty())
         edited.codec = form.codec;
     return edited;
-}
-
-bool CanEncode(const QString &text, const TextForm &form)
-{
-    return EncodeText(text, form).has_value();
 }
 
 } // namespace ClockStudio

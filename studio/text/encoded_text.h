@@ -31,7 +31,4 @@ std::optional<QByteArray> EncodeText(const QString &text, const TextForm &form);
 /// The form after edits, which may have changed the encoding in the XML declaration.
 TextForm FormAfterEdits(const QString &text, const TextForm &form);
 
-/// Whether the encoding can represent every character of a text.
-bool CanEncode(const QString &text, const TextForm &form);
-
 } // namespace ClockStudio

@@ -36,7 +36,7 @@ std::optional<Program> ReadEmptyProgram(const QString &text, const XmlElements &
     if (root.name != ClockProgram::kProgramTag || !root.children.isEmpty())
         return std::nullopt;
     QString tag = text.mid(root.tag.begin, root.tag.Size());
-    tag.chop(root.closed ? 2 : 1);
+    tag.chop(root.isSelfClosing ? 2 : 1);
     const QString whole = tag
         + QStringLiteral("><area x=\"0\" y=\"0\" width=\"1\" height=\"1\"><clock/></area>"
                          "</program>");

@@ -100,7 +100,7 @@ TextEdit AppendChildEdit(const ParsedProgram &parsed, int parent, const QString 
     const QString child =
         indent ? lineEnd + *indent + Indented(xml, lineEnd, *indent) : Indented(xml, lineEnd, {});
     const QString after = indent ? lineEnd + IndentOf(parsed, parent) : QString();
-    if (element.closed) {
+    if (element.isSelfClosing) {
         const TextRange end {element.tag.end - 2, element.tag.end};
         return Replacement(parsed.text, end,
                            QStringLiteral(">") + child + after + ClosingTag(element));

@@ -55,10 +55,10 @@ private:
 
 StudioDocument::StudioDocument(QObject *parent) : QObject(parent)
 {
-    ForgetLast();
+    ResetParsed();
 }
 
-void StudioDocument::ForgetLast()
+void StudioDocument::ResetParsed()
 {
     auto empty = ReadProgramText(QStringLiteral("<program width=\"256\" height=\"128\"/>"), m_form);
     m_parsed = std::get<ParsedProgram>(empty);
@@ -72,7 +72,7 @@ bool StudioDocument::Load(const QByteArray &bytes)
     m_text = read->text;
     m_form = read->form;
     m_history.clear();
-    ForgetLast();
+    ResetParsed();
     EndMerging();
     emit Loaded();
     ReadText();

@@ -20,7 +20,6 @@ public:
     bool Load(const QByteArray &bytes);
     /// The bytes to save; nothing if the encoding cannot represent the text.
     std::optional<QByteArray> Bytes() const;
-    const TextForm &Form() const { return m_form; }
 
     const QString &Text() const { return m_text; }
     QUndoStack &History() { return m_history; }
@@ -45,7 +44,7 @@ Q_SIGNALS:
 private:
     friend class TextCommand;
     void Perform(const TextEdits &edits);
-    void ForgetLast();
+    void ResetParsed();
     void ReadText();
 
     QString m_text;

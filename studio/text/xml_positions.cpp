@@ -136,8 +136,8 @@ private:
             element.attributes.append(Attribute());
         if (!m_ok)
             return;
-        element.closed = m_text[m_at] == QLatin1Char('/');
-        m_at += element.closed ? 2 : 1;
+        element.isSelfClosing = m_text[m_at] == QLatin1Char('/');
+        m_at += element.isSelfClosing ? 2 : 1;
         element.tag = {element.whole.begin, m_at};
         element.whole.end = m_at;
         Add(element);
@@ -149,7 +149,7 @@ private:
         if (element.parent >= 0)
             m_elements[element.parent].children.append(index);
         m_elements.append(element);
-        if (!element.closed)
+        if (!element.isSelfClosing)
             m_open.append(index);
     }
 
@@ -228,16 +228,6 @@ QVector<int> ChildrenNamed(const XmlElements &elements, int parent, const QStrin
             found.append(child);
     }
     return found;
-}
-
-int ElementAt(const XmlElements &elements, int position)
-{
-    int innermost = -1;
-    for (int i = 0; i < elements.size() && elements[i].whole.begin <= position; ++i) {
-        if (elements[i].whole.Contains(position))
-            innermost = i;
-    }
-    return innermost;
 }
 
 int LineOf(const QString &text, int position)

@@ -21,9 +21,9 @@ struct XmlElement
     int parent = -1;
     QVector<int> children;
     QVector<XmlAttribute> attributes;
-    TextRange whole;     ///< from "<" of the start tag to ">" of the end tag
-    TextRange tag;       ///< the start tag
-    bool closed = false; ///< written <name/>
+    TextRange whole;            ///< from "<" of the start tag to ">" of the end tag
+    TextRange tag;              ///< the start tag
+    bool isSelfClosing = false; ///< written <name/>
 
     const XmlAttribute *Find(const QString &attribute) const;
     /// Empty where there is no such attribute.
@@ -39,9 +39,6 @@ std::optional<XmlElements> FindElements(const QString &text);
 
 /// The children of an element with the given name.
 QVector<int> ChildrenNamed(const XmlElements &elements, int parent, const QString &name);
-
-/// The innermost element around a position; -1 outside the root.
-int ElementAt(const XmlElements &elements, int position);
 
 /// The line of a position, from 1. CR, LF and CR LF end a line.
 int LineOf(const QString &text, int position);
