@@ -55,18 +55,18 @@ SourceView::SourceView(WallEditor &editor, QWidget *parent)
     setAccessibleName(tr("Program text"));
     setAccessibleDescription(tr("The XML of the program. Changes appear on the wall immediately."));
     new XmlHighlighter(document(), palette());
-    connect(&editor.Document(), &StudioDocument::Loaded, this, &SourceView::TakeText);
-    connect(&editor.Document(), &StudioDocument::Edited, this, &SourceView::TakeEdits);
+    connect(&editor.Document(), &StudioDocument::Loaded, this, &SourceView::LoadText);
+    connect(&editor.Document(), &StudioDocument::Edited, this, &SourceView::ApplyDocumentEdits);
     connect(&editor.Document(), &StudioDocument::Read, this, &SourceView::MarkSelected);
     connect(&editor, &WallEditor::SelectionChanged, this, &SourceView::MarkSelected);
-    connect(document(), &QTextDocument::contentsChanged, this, &SourceView::GiveEdit);
+    connect(document(), &QTextDocument::contentsChanged, this, &SourceView::SendEditToDocument);
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, &SourceView::SelectAtCursor);
     connect(this, &QPlainTextEdit::updateRequest, m_numbers, QOverload<>::of(&QWidget::update));
     connect(this, &QPlainTextEdit::blockCountChanged, this, &SourceView::PlaceNumbers);
     PlaceNumbers();
 }
 
-void SourceView::TakeText()
+void SourceView::LoadText()
 {
     const QScopedValueRollback<bool> guard(m_isOwnEdit, true);
     setPlainText(m_editor.Document().Text());
@@ -74,7 +74,7 @@ void SourceView::TakeText()
 
 /// Each edit's position refers to the text before it; these texts are reconstructed by reverting
 /// the edits.
-void SourceView::TakeEdits(const TextEdits &edits)
+void SourceView::ApplyDocumentEdits(const TextEdits &edits)
 {
     if (m_isOwnEdit)
         return;
@@ -93,7 +93,7 @@ void SourceView::TakeEdits(const TextEdits &edits)
     cursor.endEditBlock();
 }
 
-void SourceView::GiveEdit()
+void SourceView::SendEditToDocument()
 {
     if (m_isOwnEdit)
         return;

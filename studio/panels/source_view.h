@@ -24,9 +24,9 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void TakeText();
-    void TakeEdits(const TextEdits &edits);
-    void GiveEdit();
+    void LoadText();
+    void ApplyDocumentEdits(const TextEdits &edits);
+    void SendEditToDocument();
     void SelectAtCursor();
     void MarkSelected();
     void PaintNumbers(QPaintEvent *event);

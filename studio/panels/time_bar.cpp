@@ -108,8 +108,7 @@ QToolButton *TimeBar::NextChangeButton()
     auto *const next = Button(tr("Next change"), tr("Jump to just before the next change"));
     auto *const changes = new QMenu(next);
     for (const ChangeName &change : kChanges)
-        changes->addAction(tr(change.name), this,
-                           [this, change] { GoToNext(static_cast<int>(change.kind)); });
+        changes->addAction(tr(change.name), this, [this, change] { GoToNext(change.kind); });
     next->setMenu(changes);
     next->setPopupMode(QToolButton::InstantPopup);
     return next;
@@ -120,11 +119,11 @@ void TimeBar::FollowControls()
     connect(m_run, &QToolButton::clicked, this,
             [this] { SetRunning(StageTime::Travel().IsPaused()); });
     connect(m_date, &QDateTimeEdit::dateTimeChanged, this, [this](const QDateTime &time) {
-        if (!m_shows)
+        if (!m_isShowing)
             GoTo(time.toMSecsSinceEpoch());
     });
     connect(m_day, &QSlider::valueChanged, this, [this](int minute) {
-        if (!m_shows)
+        if (!m_isShowing)
             GoTo(QDateTime(Local(StageTime::Shown()).date(), QTime(minute / 60, minute % 60))
                      .toMSecsSinceEpoch());
     });
@@ -143,10 +142,7 @@ void TimeBar::GoTo(qint64 instant)
 
 void TimeBar::ReturnToPresent()
 {
-    ClockStage::TimeTravel &travel = StageTime::Travel();
-    travel.SetPaused(false, StageTime::Real());
-    travel.SetSpeed(1, StageTime::Real());
-    travel.ReturnToPresent();
+    StageTime::Travel().ReturnToPresent();
     m_speed->setCurrentIndex(0);
     TimeChanged();
 }
@@ -157,7 +153,7 @@ void TimeBar::SetRunning(bool runs)
     TimeChanged();
 }
 
-void TimeBar::GoToNext(int kind)
+void TimeBar::GoToNext(ChangeKind kind)
 {
     QVector<Lw::HNodeClock::ZoneSettings> clocks;
     for (int area = 0; area < m_wall.AreaCount(); ++area) {
@@ -165,7 +161,7 @@ void TimeBar::GoToNext(int kind)
             clocks.append(*settings);
     }
     const qint64 past = StageTime::Shown() + kBeforeChange;
-    if (const auto next = NextChangeOf(static_cast<ChangeKind>(kind), clocks, past)) {
+    if (const auto next = NextChangeOf(kind, clocks, past)) {
         StageTime::Travel().GoTo(*next - kBeforeChange, StageTime::Real());
         StageTime::Travel().SetPaused(false, StageTime::Real());
         TimeChanged();
@@ -183,7 +179,7 @@ void TimeBar::TimeChanged()
 
 void TimeBar::ShowTime()
 {
-    m_shows = true;
+    m_isShowing = true;
     const bool runs = !StageTime::Travel().IsPaused();
     const QDateTime time = Local(StageTime::Shown());
     m_run->setText(runs ? tr("Pause") : tr("Play"));
@@ -192,7 +188,7 @@ void TimeBar::ShowTime()
         m_date->setDateTime(time);
     if (!m_day->isSliderDown())
         m_day->setValue(time.time().hour() * 60 + time.time().minute());
-    m_shows = false;
+    m_isShowing = false;
 }
 
 } // namespace ClockStudio

@@ -15,6 +15,8 @@ QT_END_NAMESPACE
 
 namespace ClockStudio {
 
+enum class ChangeKind;
+
 class TimeBar : public QWidget
 {
     Q_OBJECT
@@ -32,7 +34,7 @@ private:
     void SetUpSpeed();
     QToolButton *NextChangeButton();
     void FollowControls();
-    void GoToNext(int kind);
+    void GoToNext(ChangeKind kind);
     void ShowTime();
     void TimeChanged();
 
@@ -42,7 +44,7 @@ private:
     QDateTimeEdit *m_date;
     QComboBox *m_speed;
     QTimer m_refresh;
-    bool m_shows = false; ///< controls are being set from the time
+    bool m_isShowing = false; ///< controls are being set from the time
 };
 
 } // namespace ClockStudio

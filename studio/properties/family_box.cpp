@@ -75,7 +75,7 @@ QString GlyphText(const GlyphImage &image, HClockNode &clock)
 
 } // namespace
 
-QString LackedCharacters(const QString &family, const QString &text)
+QString MissingCharacters(const QString &family, const QString &text)
 {
     const QRawFont font = QRawFont::fromFont(QFont(family));
     QString lacked;
@@ -129,16 +129,16 @@ void FamilyBox::Show(const QString &family, bool isMixed)
 
 void FamilyBox::showPopup()
 {
-    MarkLacking();
+    MarkIncompleteFamilies();
     view()->setMinimumWidth(280);
     QComboBox::showPopup();
 }
 
-void FamilyBox::MarkLacking()
+void FamilyBox::MarkIncompleteFamilies()
 {
     for (int i = 1; i < m_installedEnd; ++i) {
         const QString family = itemData(i).toString();
-        const QString lacked = LackedCharacters(family, m_text);
+        const QString lacked = MissingCharacters(family, m_text);
         setItemText(i,
                     lacked.isEmpty() ? family : tr("%1 (missing %2)").arg(family, lacked.left(6)));
         setItemData(i,

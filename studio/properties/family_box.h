@@ -20,24 +20,22 @@ public:
     FamilyBox();
 
     void Show(const QString &family, bool isMixed);
+    /// The text shown in this font, used to mark families.
+    void SetText(const QString &text) { m_text = text; }
     void showPopup() override;
 
 Q_SIGNALS:
     void Selected(const QString &family); ///< empty for the default font
 
-public:
-    /// The text shown in this font, used to mark families.
-    void SetText(const QString &text) { m_text = text; }
-
 private:
-    void MarkLacking();
+    void MarkIncompleteFamilies();
 
     QString m_text;
     int m_installedEnd = 0; ///< entries from here on are families that are not installed
 };
 
 /// The distinct characters of a text that a family has no glyph for.
-QString LackedCharacters(const QString &family, const QString &text);
+QString MissingCharacters(const QString &family, const QString &text);
 
 /// The text a clock writes in one of its fonts, in the clocks' language.
 QString WrittenWith(Lw::HNodeClock::HClockNode &clock, Lw::HNodeClock::Attribute familyAttribute);

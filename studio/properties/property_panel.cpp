@@ -90,6 +90,7 @@ PropertyPanel::PropertyPanel(WallEditor &editor, QWidget *parent)
     clockLayout->setSpacing(8);
     m_layout->addWidget(m_clock);
     m_layout->addStretch(1);
+    MakeKindAndZone();
     MakePlace();
     MakeGroups();
     setWidget(inner);
@@ -117,14 +118,14 @@ bool PropertyPanel::eventFilter(QObject *object, QEvent *event)
         && (qobject_cast<QLineEdit *>(object) || qobject_cast<QAbstractSpinBox *>(object))
         && static_cast<QKeyEvent *>(event)->matches(QKeySequence::InsertParagraphSeparator);
     if (object == widget() && event->type() == QEvent::LayoutRequest)
-        KeepWide();
+        UpdateMinimumWidth();
     if (isReturn) // after the value has been taken
         QMetaObject::invokeMethod(this, &PropertyPanel::Finished, Qt::QueuedConnection);
     return wouldChange || QScrollArea::eventFilter(object, event);
 }
 
 /// There is no horizontal scroll bar, and how wide the controls are depends on style and font.
-void PropertyPanel::KeepWide()
+void PropertyPanel::UpdateMinimumWidth()
 {
     setMinimumWidth(
         qMax(kPanelWidth,
@@ -155,7 +156,7 @@ void PropertyPanel::MakeHead()
     m_layout->addWidget(m_wall);
 }
 
-void PropertyPanel::MakePlace()
+void PropertyPanel::MakeKindAndZone()
 {
     auto *const kinds = new QWidget;
     auto *const line = new QHBoxLayout(kinds);
@@ -182,21 +183,15 @@ void PropertyPanel::MakePlace()
     m_clock->layout()->addWidget(m_zone);
 }
 
-void PropertyPanel::MakeGroups()
+void PropertyPanel::MakePlace()
 {
-    for (int i = 0; i < kPropertyGroupCount; ++i) {
-        m_groups.append({&kPropertyGroups[i], nullptr, {}});
-        m_making = &m_groups.last().editors;
-        m_groups.last().section = MakeGroup(kPropertyGroups[i]);
-        m_clock->layout()->addWidget(m_groups.last().section);
-    }
     auto *const place = new Section(tr("Position and size"));
     const QString names[] = {tr("Left edge in pixels"), tr("Top edge in pixels"),
                              tr("Width in pixels"), tr("Height in pixels")};
     for (int i = 0; i < 4; ++i) {
         m_place[i] = PlaceBox(i < 2 ? -ClockProgram::kMaximumSide : 1, names[i]);
         connect(m_place[i], QOverload<int>::of(&QSpinBox::valueChanged), this,
-                &PropertyPanel::GivePlace);
+                &PropertyPanel::ApplyPlace);
     }
     place->AddLine(tr("Position"), {m_place[0], m_place[1]});
     place->AddLine(tr("Size"), {m_place[2], m_place[3]});
@@ -205,7 +200,17 @@ void PropertyPanel::MakeGroups()
     fit->setToolTip(tr("Make the texts as large as the area allows on any day of the year"));
     connect(fit, &QPushButton::clicked, this, &PropertyPanel::FitSizes);
     place->AddWide(fit);
-    static_cast<QVBoxLayout *>(m_clock->layout())->insertWidget(2, place);
+    m_clock->layout()->addWidget(place);
+}
+
+void PropertyPanel::MakeGroups()
+{
+    for (int i = 0; i < kPropertyGroupCount; ++i) {
+        m_groups.append({&kPropertyGroups[i], nullptr, {}});
+        m_currentEditors = &m_groups.last().editors;
+        m_groups.last().section = MakeGroup(kPropertyGroups[i]);
+        m_clock->layout()->addWidget(m_groups.last().section);
+    }
 }
 
 Section *PropertyPanel::MakeGroup(const PropertyGroup &group)
@@ -230,7 +235,7 @@ Section *PropertyPanel::MakeGroup(const PropertyGroup &group)
 ValueEditor *PropertyPanel::MakeEditor(Attribute attribute)
 {
     ValueEditor *const editor = MakeValueEditor(attribute);
-    m_making->append(editor);
+    m_currentEditors->append(editor);
     connect(editor, &ValueEditor::Edited, this, [this, attribute](const QString &stored) {
         SetValues({{attribute, stored}}, TranslatedWords(RowOf(attribute).label),
                   QLatin1String(RowOf(attribute).key));

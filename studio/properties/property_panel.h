@@ -49,11 +49,12 @@ protected:
 
 private:
     void Refresh();
-    void KeepWide();
+    void UpdateMinimumWidth();
     void ShowClocks(const QVector<Lw::HNodeClock::HClockNode *> &clocks);
     void ShowPlace();
     void ShowWall();
     void MakeHead();
+    void MakeKindAndZone();
     void MakePlace();
     void MakeGroups();
     Section *MakeGroup(const PropertyGroup &group);
@@ -63,7 +64,7 @@ private:
     void SetShown(Lw::HNodeClock::Attribute shown, bool on);
     QRect VisiblePart(const ParsedProgram &parsed, int area) const;
     void SetKind(int kind);
-    void GivePlace();
+    void ApplyPlace();
     void Reset(Lw::HNodeClock::Attribute attribute);
     QVector<Lw::HNodeClock::HClockNode *> SelectedClocks() const;
 
@@ -84,7 +85,7 @@ private:
     QSpinBox *m_screenSize[2]; ///< width, height
     ZoneSection *m_zone;
     QVector<Group> m_groups;
-    QVector<ValueEditor *> *m_making = nullptr; ///< the editors of the group being built
+    QVector<ValueEditor *> *m_currentEditors = nullptr; ///< the editors of the group being built
     bool m_isShowing = false;
 };
 

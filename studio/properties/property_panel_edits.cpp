@@ -95,7 +95,7 @@ void PropertyPanel::FitSizes()
     });
 }
 
-void PropertyPanel::GivePlace()
+void PropertyPanel::ApplyPlace()
 {
     if (m_isShowing || m_editor.Selected().isEmpty())
         return;

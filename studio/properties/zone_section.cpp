@@ -76,9 +76,9 @@ ZoneSection::ZoneSection()
     AddWide(m_note);
     AddLine(tr("Adjust by"), {m_adjustment, m_direction});
     connect(m_city, &QPushButton::clicked, this, &ZoneSection::OpenDialog);
-    connect(m_adjustment, &QTimeEdit::timeChanged, this, &ZoneSection::GiveAdjustment);
+    connect(m_adjustment, &QTimeEdit::timeChanged, this, &ZoneSection::ApplyAdjustment);
     connect(m_direction, QOverload<int>::of(&QComboBox::activated), this,
-            &ZoneSection::GiveAdjustment);
+            &ZoneSection::ApplyAdjustment);
 }
 
 void ZoneSection::Show(const QVector<HClockNode *> &clocks)
@@ -122,10 +122,10 @@ QString ZoneSection::NoteOn(HClockNode &clock) const
     const QString change = next->after > next->before
         ? tr("Daylight saving begins on %1.").arg(date)
         : tr("Daylight saving ends on %1.").arg(date);
-    return change + QLatin1Char(' ') + HoldText(zone);
+    return change + QLatin1Char(' ') + ValidityText(zone);
 }
 
-QString ZoneSection::HoldText(const ZoneSettings &zone)
+QString ZoneSection::ValidityText(const ZoneSettings &zone)
 {
     const KnownZone known = ZoneOf(zone, QDate::currentDate());
     if (known.city.isEmpty())
@@ -177,7 +177,7 @@ void ZoneSection::Choose(const QByteArray &zone)
                 tr("Time zone"));
 }
 
-void ZoneSection::GiveAdjustment()
+void ZoneSection::ApplyAdjustment()
 {
     if (m_isShowing)
         return;

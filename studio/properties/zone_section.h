@@ -33,8 +33,8 @@ private:
     void OpenDialog();
     QString NoteOn(Lw::HNodeClock::HClockNode &clock) const;
     static QString InexactText(const ZoneAnswer &answer);
-    static QString HoldText(const ClockZones::ZoneSettings &zone);
-    void GiveAdjustment();
+    static QString ValidityText(const ClockZones::ZoneSettings &zone);
+    void ApplyAdjustment();
 
     QPushButton *m_city;
     QLabel *m_note;
