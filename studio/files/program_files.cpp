@@ -12,9 +12,9 @@ namespace ClockStudio {
 
 namespace {
 
-constexpr int kKeepingInterval = 4000; // milliseconds
+constexpr int kStoreInterval = 4000; // milliseconds
 // Other programs replace a file in several steps; it is checked after this delay, in milliseconds.
-constexpr int kLookingDelay = 200;
+constexpr int kDiskCheckDelay = 200;
 constexpr int kMaxRecent = 10;
 const QString kRecentKey = QStringLiteral("recentFiles");
 
@@ -29,14 +29,14 @@ ProgramFiles::ProgramFiles(StudioDocument &document, const QString &recoveryDire
                            QObject *parent)
     : QObject(parent), m_document(document), m_store(recoveryDirectory)
 {
-    m_looking.setSingleShot(true);
-    m_looking.setInterval(kLookingDelay);
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_looking,
+    m_diskCheckDelay.setSingleShot(true);
+    m_diskCheckDelay.setInterval(kDiskCheckDelay);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, &m_diskCheckDelay,
             QOverload<>::of(&QTimer::start));
-    connect(&m_looking, &QTimer::timeout, this, &ProgramFiles::LookAtDisk);
-    connect(&m_keeping, &QTimer::timeout, this, &ProgramFiles::KeepWork);
+    connect(&m_diskCheckDelay, &QTimer::timeout, this, &ProgramFiles::CheckDisk);
+    connect(&m_storeTimer, &QTimer::timeout, this, &ProgramFiles::StoreUnsavedWork);
     connect(&document.History(), &QUndoStack::cleanChanged, this, &ProgramFiles::NameChanged);
-    m_keeping.start(kKeepingInterval);
+    m_storeTimer.start(kStoreInterval);
 }
 
 QString ProgramFiles::Name() const
@@ -95,7 +95,7 @@ void ProgramFiles::Recover(const UnsavedWork &work)
         RecoveryStore::Remove(work);
 }
 
-void ProgramFiles::KeepWork()
+void ProgramFiles::StoreUnsavedWork()
 {
     // Consecutive typing is a single undo step, so the texts themselves are compared.
     if (IsSaved() || m_keptText == m_document.Text())
@@ -121,12 +121,12 @@ void ProgramFiles::SetPath(const QString &path, const QByteArray &contents)
     m_keptText.clear();
     if (!path.isEmpty()) {
         m_watcher.addPath(path);
-        NoteRecent(path);
+        AddRecent(path);
     }
     emit NameChanged();
 }
 
-void ProgramFiles::LookAtDisk()
+void ProgramFiles::CheckDisk()
 {
     if (m_path.isEmpty())
         return;
@@ -143,7 +143,7 @@ void ProgramFiles::LookAtDisk()
     emit ChangedOnDisk();
 }
 
-void ProgramFiles::NoteRecent(const QString &path)
+void ProgramFiles::AddRecent(const QString &path)
 {
     QSettings settings;
     QStringList paths = settings.value(kRecentKey).toStringList();

@@ -40,7 +40,7 @@ public:
     /// Discards unsaved work.
     void GiveUp();
     /// Stores unsaved work now; also runs every four seconds.
-    void KeepWork();
+    void StoreUnsavedWork();
 
     static QStringList Recent(); ///< paths of files that still exist, most recent first
 
@@ -51,8 +51,8 @@ Q_SIGNALS:
 
 private:
     void SetPath(const QString &path, const QByteArray &contents);
-    void LookAtDisk();
-    static void NoteRecent(const QString &path);
+    void CheckDisk();
+    static void AddRecent(const QString &path);
 
     StudioDocument &m_document;
     RecoveryStore m_store;
@@ -61,8 +61,8 @@ private:
     bool m_isRecovered = false; ///< the text was never saved, though the history is clean
     QString m_keptText;         ///< the text that was stored last
     QFileSystemWatcher m_watcher;
-    QTimer m_looking;
-    QTimer m_keeping;
+    QTimer m_diskCheckDelay;
+    QTimer m_storeTimer;
 };
 
 } // namespace ClockStudio

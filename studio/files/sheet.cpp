@@ -99,7 +99,7 @@ QString ClockTable(HClockNode &clock, int number, const QRect &geometry)
 
 } // namespace
 
-QString SheetText(const QString &title, LiveWall &wall, const QStringList &findings)
+QString SheetHtml(const QString &title, LiveWall &wall, const QStringList &findings)
 {
     QString html =
         QStringLiteral("<h1>%1</h1><p>%2 &nbsp; %3 × %4</p><p><img src=\"wall\" width=\"%5\"/></p>")
@@ -138,7 +138,7 @@ QByteArray SheetPdf(const QString &title, LiveWall &wall, const QStringList &fin
     const QImage picture = ClockStage::LedScreen(kPitch).Diodes(wall.Screen());
     document.addResource(QTextDocument::ImageResource, QUrl(QStringLiteral("wall")),
                          picture.isNull() ? wall.Screen() : picture);
-    document.setHtml(SheetText(title, wall, findings));
+    document.setHtml(SheetHtml(title, wall, findings));
     document.print(&writer);
     return pdf.data();
 }

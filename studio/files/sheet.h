@@ -14,6 +14,6 @@ namespace ClockStudio {
 QByteArray SheetPdf(const QString &title, LiveWall &wall, const QStringList &findings);
 
 /// Its contents as HTML: for each clock, what it shows and how. The picture is the resource "wall".
-QString SheetText(const QString &title, LiveWall &wall, const QStringList &findings);
+QString SheetHtml(const QString &title, LiveWall &wall, const QStringList &findings);
 
 } // namespace ClockStudio

@@ -16,7 +16,7 @@ namespace ClockStudio {
 namespace {
 
 constexpr int kMaxOutput = 4 << 20; // kept bytes of standard output
-constexpr int kPatience = 5000;     // milliseconds between SIGTERM and SIGKILL
+constexpr int kKillDelay = 5000;    // milliseconds between SIGTERM and SIGKILL
 
 QString Translated(const char *text)
 {
@@ -78,7 +78,7 @@ private:
     {
         m_result.isCancelled = true;
         process.terminate();
-        QTimer::singleShot(kPatience, &process, &QProcess::kill);
+        QTimer::singleShot(kKillDelay, &process, &QProcess::kill);
     }
 
     void TakeOutput(const QByteArray &output)

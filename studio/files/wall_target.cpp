@@ -131,7 +131,7 @@ QVector<WallTarget> KnownTargets()
     return targets;
 }
 
-void KeepTargets(const QVector<WallTarget> &targets)
+void SaveTargets(const QVector<WallTarget> &targets)
 {
     QSettings settings;
     settings.remove(kGroup);

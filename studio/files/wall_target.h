@@ -26,7 +26,7 @@ inline constexpr char kReleases[] = "releases";
 inline constexpr char kCurrentLink[] = "current";
 
 QVector<WallTarget> KnownTargets();
-void KeepTargets(const QVector<WallTarget> &targets);
+void SaveTargets(const QVector<WallTarget> &targets);
 
 /// What is wrong with a target; empty if valid. Hosts and folders are passed to other programs,
 /// so nothing that these could misinterpret is accepted.

@@ -5,21 +5,21 @@ namespace ClockStudio {
 namespace {
 
 constexpr int kInterval = 2000; // milliseconds
-constexpr int kPatience =
+constexpr int kPollingTime =
     180'000; // milliseconds; longer than the interval at which players write their status
 
 } // namespace
 
 WallWatch::WallWatch(QObject *parent) : QObject(parent)
 {
-    m_again.setSingleShot(true);
-    m_again.setInterval(kInterval);
-    connect(&m_again, &QTimer::timeout, this, &WallWatch::Ask);
+    m_pollTimer.setSingleShot(true);
+    m_pollTimer.setInterval(kInterval);
+    connect(&m_pollTimer, &QTimer::timeout, this, &WallWatch::Poll);
     connect(&m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
-            &WallWatch::Take);
+            &WallWatch::ReadReply);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart)
-            Take();
+            ReadReply();
     });
 }
 
@@ -35,31 +35,31 @@ void WallWatch::Follow(const WallTarget &target)
     if (m_target.statusFile.isEmpty())
         return;
     m_since.start();
-    Ask();
+    Poll();
 }
 
 void WallWatch::Stop()
 {
-    m_again.stop();
+    m_pollTimer.stop();
     m_process.blockSignals(true);
     m_process.kill();
     m_process.waitForFinished();
     m_process.blockSignals(false);
 }
 
-void WallWatch::Ask()
+void WallWatch::Poll()
 {
     const ToolCommand command = StatusCommand(m_target);
     m_process.start(command.program, command.arguments, QIODevice::ReadOnly);
 }
 
-void WallWatch::Take()
+void WallWatch::ReadReply()
 {
     const WallStatus status =
         ReadWallStatus(m_process.readAllStandardOutput(), QDateTime::currentDateTimeUtc());
-    if (status.state != WallStatus::State::Plays && !m_since.hasExpired(kPatience))
-        m_again.start();
-    emit Heard(status);
+    if (status.state != WallStatus::State::Plays && !m_since.hasExpired(kPollingTime))
+        m_pollTimer.start();
+    emit StatusReceived(status);
 }
 
 } // namespace ClockStudio

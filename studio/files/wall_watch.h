@@ -25,15 +25,15 @@ public:
     void Stop();
 
 Q_SIGNALS:
-    void Heard(const ClockStudio::WallStatus &status);
+    void StatusReceived(const ClockStudio::WallStatus &status);
 
 private:
-    void Ask();
-    void Take();
+    void Poll();
+    void ReadReply();
 
     WallTarget m_target;
     QProcess m_process;
-    QTimer m_again;
+    QTimer m_pollTimer;
     QElapsedTimer m_since;
 };
 

@@ -160,7 +160,7 @@ QPixmap ClockPicture(const QVector<StoredValue> &values, QSize size, const QStri
     node->SetAttribute(Key(Attribute::TimeZone), zone, false);
     node->SetAttribute(ClockProgram::kIdKey, kIdentity, false);
     ClockStage::Area area(kPlay, &plugin, std::move(node), ClockStage::GlyphFiles::Made);
-    StartWhole(area);
+    StartWithTexts(area);
     QImage screen = ClockStage::BlackScreen(size);
     ClockStage::ComposeScreen(screen, {{screen.rect(), area.Picture().image}}, screen.rect());
     return QPixmap::fromImage(screen);

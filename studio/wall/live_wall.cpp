@@ -8,6 +8,9 @@
 
 #include <QMultiHash>
 
+#include <algorithm>
+#include <utility>
+
 namespace ClockStudio {
 
 namespace {
@@ -25,7 +28,7 @@ QString MadeFrom(const ParsedProgram &parsed, int area)
 
 } // namespace
 
-void StartWhole(ClockStage::Area &area)
+void StartWithTexts(ClockStage::Area &area)
 {
     area.Start();
     area.PlayNext();
@@ -34,8 +37,8 @@ void StartWhole(ClockStage::Area &area)
 LiveWall::LiveWall(QObject *parent) : QObject(parent)
 {
     Lw::HAppConfig::SetClockOutputPath(m_files.path());
-    m_making.setSingleShot(true);
-    connect(&m_making, &QTimer::timeout, this, &LiveWall::MakeWaiting);
+    m_makeTimer.setSingleShot(true);
+    connect(&m_makeTimer, &QTimer::timeout, this, &LiveWall::MakePendingClocks);
 }
 
 LiveWall::~LiveWall() = default;
@@ -47,11 +50,11 @@ void LiveWall::Show(const ParsedProgram &parsed)
     for (Slot &slot : m_slots)
         Release(slot);
     m_slots = std::move(taken);
-    m_waiting = static_cast<int>(std::count_if(m_slots.cbegin(), m_slots.cend(),
-                                               [](const Slot &slot) { return slot.Waits(); }));
+    m_pending = static_cast<int>(std::count_if(m_slots.cbegin(), m_slots.cend(),
+                                               [](const Slot &slot) { return slot.IsPending(); }));
     if (m_screen.size() != parsed.program.size)
         m_screen = ClockStage::BlackScreen(parsed.program.size);
-    MakeWaiting();
+    MakePendingClocks();
     Compose(m_screen.rect());
 }
 
@@ -77,7 +80,7 @@ std::vector<LiveWall::Slot> LiveWall::TakeOver(const ParsedProgram &parsed)
         to.clock = std::move(from.clock);
     };
     for (Slot &slot : m_slots) {
-        const auto place = slot.Waits() ? wanted.end() : wanted.find(slot.made);
+        const auto place = slot.IsPending() ? wanted.end() : wanted.find(slot.made);
         if (place != wanted.end()) {
             move(slot, *place);
             wanted.erase(place);
@@ -91,19 +94,19 @@ std::vector<LiveWall::Slot> LiveWall::TakeOver(const ParsedProgram &parsed)
     return next;
 }
 
-void LiveWall::MakeWaiting()
+void LiveWall::MakePendingClocks()
 {
     QElapsedTimer spent;
     spent.start();
     for (Slot &slot : m_slots) {
-        if (!slot.Waits())
+        if (!slot.IsPending())
             continue;
         if (spent.hasExpired(kMakingSpan)) {
-            m_making.start();
+            m_makeTimer.start();
             break;
         }
         Make(slot);
-        --m_waiting;
+        --m_pending;
         Compose(slot.geometry);
     }
     emit ClocksMade();
@@ -126,9 +129,9 @@ void LiveWall::Make(Slot &slot)
     }
     auto &made = result->nodes.front();
     made.node->SetAttribute(ClockProgram::kIdKey, slot.identity, false);
-    slot.clock = std::make_unique<ClockStage::Area>(++m_plays, made.plugin, std::move(made.node),
+    slot.clock = std::make_unique<ClockStage::Area>(++m_lastPlay, made.plugin, std::move(made.node),
                                                     ClockStage::GlyphFiles::Made);
-    StartWhole(*slot.clock);
+    StartWithTexts(*slot.clock);
     ClockStage::Area *const clock = slot.clock.get();
     connect(clock, &ClockStage::Area::PictureChanged, this, [this, clock] {
         for (const Slot &shown : m_slots) {
@@ -164,7 +167,7 @@ Lw::HNodeClock::HClockNode *LiveWall::Clock(int area) const
     if (area < 0 || area >= AreaCount())
         return nullptr;
     const Slot &slot = m_slots[static_cast<std::size_t>(area)];
-    return slot.clock && !slot.Waits()
+    return slot.clock && !slot.IsPending()
         ? qobject_cast<Lw::HNodeClock::HClockNode *>(slot.clock->Node())
         : nullptr;
 }
@@ -181,8 +184,8 @@ void LiveWall::RecreateClocks()
 {
     for (Slot &slot : m_slots)
         slot.made.clear();
-    m_waiting = AreaCount();
-    MakeWaiting();
+    m_pending = AreaCount();
+    MakePendingClocks();
 }
 
 void LiveWall::Compose(const QRect &region)

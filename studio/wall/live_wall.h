@@ -32,7 +32,7 @@ public:
     /// Shows a program. Clocks are created in short batches between events; until then their areas
     /// show the previous picture.
     void Show(const ParsedProgram &parsed);
-    bool IsComplete() const { return m_waiting == 0; }
+    bool IsComplete() const { return m_pending == 0; }
 
     QSize Size() const { return m_screen.size(); }
     const QImage &Screen() const { return m_screen; }
@@ -66,11 +66,11 @@ private:
         QString refusal;
         std::unique_ptr<ClockStage::Area> clock;
 
-        bool Waits() const { return text != made; }
+        bool IsPending() const { return text != made; }
     };
 
     std::vector<Slot> TakeOver(const ParsedProgram &parsed);
-    void MakeWaiting();
+    void MakePendingClocks();
     void Make(Slot &slot);
     int FreeIdentity();
     void Release(Slot &slot);
@@ -81,14 +81,14 @@ private:
     std::vector<Slot> m_slots;
     QVector<int> m_freeIdentities;
     int m_identities = 0;
-    unsigned int m_plays = 0;
-    int m_waiting = 0;
-    QTimer m_making;
+    unsigned int m_lastPlay = 0; ///< the play number given last
+    int m_pending = 0;           ///< clocks still to be created
+    QTimer m_makeTimer;
     QImage m_screen;
 };
 
 /// Starts an area and plays a second frame at once, because a dial draws its texts only in its
 /// second frame.
-void StartWhole(ClockStage::Area &area);
+void StartWithTexts(ClockStage::Area &area);
 
 } // namespace ClockStudio

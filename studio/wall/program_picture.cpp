@@ -25,7 +25,7 @@ QImage PictureOfProgram(const QByteArray &bytes)
         node.node->SetAttribute(ClockProgram::kIdKey, kFirstIdentity + number, false);
         ClockStage::Area area(kFirstPlay + static_cast<unsigned int>(number++), node.plugin,
                               std::move(node.node), ClockStage::GlyphFiles::Made);
-        StartWhole(area);
+        StartWithTexts(area);
         layers.append(area.Picture());
     }
     QImage screen = ClockStage::BlackScreen(program->size);

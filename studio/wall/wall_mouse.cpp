@@ -2,12 +2,14 @@
 
 #include "wall_painting.h"
 
+#include <utility>
+
 namespace ClockStudio {
 
 namespace {
 
-constexpr int kFar = 3;   // view pixels that the pointer may move during a click
-constexpr int kReach = 6; // pixels of the view within which sides snap
+constexpr int kDragThreshold = 3; // view pixels that the pointer may move during a click
+constexpr int kReach = 6;         // pixels of the view within which sides snap
 
 // The size of a clock placed by a click instead of a drag.
 constexpr QSize kNewSize(64, 32);
@@ -43,17 +45,17 @@ Handle WallMouse::HandleUnder(const WallScale &scale, QPoint point) const
     return HandleAt(scale, m_editor.SelectedRects().first(), point);
 }
 
-void WallMouse::Press(const WallScale &scale, const Grip &grip)
+void WallMouse::Press(const WallScale &scale, const Pointer &pointer)
 {
-    m_pressed = grip.point;
-    m_from = scale.NearestCorner(grip.point);
-    m_isFar = false;
+    m_pressed = pointer.point;
+    m_from = scale.NearestCorner(pointer.point);
+    m_passedThreshold = false;
     m_band = QRect(m_from, QSize());
     m_history = m_editor.Document().History().index();
     m_editor.Document().EndMerging();
-    m_handle = HandleUnder(scale, grip.point);
-    const int area = AreaAt(scale.ToWall(grip.point));
-    const bool adds = grip.keys & (Qt::ShiftModifier | Qt::ControlModifier);
+    m_handle = HandleUnder(scale, pointer.point);
+    const int area = AreaAt(scale.ToWall(pointer.point));
+    const bool adds = pointer.keys & (Qt::ShiftModifier | Qt::ControlModifier);
     if (m_drawing) {
         m_drag = Drag::Draw;
     } else if (m_handle != NoHandle) {
@@ -72,9 +74,9 @@ void WallMouse::Press(const WallScale &scale, const Grip &grip)
     m_rects = m_editor.SelectedRects();
 }
 
-SnapLines WallMouse::Lines(const Grip &grip) const
+SnapLines WallMouse::Lines(const Pointer &pointer) const
 {
-    if (grip.keys & Qt::AltModifier)
+    if (pointer.keys & Qt::AltModifier)
         return {};
     QVector<QRect> others;
     for (int area = 0; area < m_editor.Wall().AreaCount(); ++area) {
@@ -82,35 +84,36 @@ SnapLines WallMouse::Lines(const Grip &grip) const
         if (!moves)
             others.append(m_editor.Wall().Geometry(area));
     }
-    return SnapLinesOf(m_editor.Wall().Size(), others, grip.module);
+    return SnapLinesOf(m_editor.Wall().Size(), others, pointer.module);
 }
 
-void WallMouse::Move(const WallScale &scale, const Grip &grip)
+void WallMouse::Move(const WallScale &scale, const Pointer &pointer)
 {
     if (m_drag == Drag::None) {
-        const int area = AreaAt(scale.ToWall(grip.point));
+        const int area = AreaAt(scale.ToWall(pointer.point));
         if (std::exchange(m_hovered, area) != area)
             emit Changed();
         return;
     }
-    m_isFar = m_isFar || (grip.point - m_pressed).manhattanLength() > kFar;
-    if (!m_isFar)
+    m_passedThreshold =
+        m_passedThreshold || (pointer.point - m_pressed).manhattanLength() > kDragThreshold;
+    if (!m_passedThreshold)
         return;
     if (m_drag == Drag::Move || m_drag == Drag::Resize)
-        DragSelected(scale, grip);
+        DragSelected(scale, pointer);
     else
-        DragBand(scale, grip);
+        DragBand(scale, pointer);
     emit Changed();
 }
 
-void WallMouse::DragSelected(const WallScale &scale, const Grip &grip)
+void WallMouse::DragSelected(const WallScale &scale, const Pointer &pointer)
 {
-    const QPoint wanted = scale.NearestCorner(grip.point) - m_from;
+    const QPoint wanted = scale.NearestCorner(pointer.point) - m_from;
     const int reach = qMax(1, kReach / scale.zoom);
     const QRect around = Around(m_rects);
     const Snap snap = m_drag == Drag::Move
-        ? SnapMove(around, wanted, Lines(grip), reach)
-        : SnapResize(around, m_handle, wanted, Lines(grip), reach);
+        ? SnapMove(around, wanted, Lines(pointer), reach)
+        : SnapResize(around, m_handle, wanted, Lines(pointer), reach);
     m_guides = snap.met;
     QVector<QRect> rects = m_rects;
     for (QRect &rect : rects)
@@ -119,27 +122,27 @@ void WallMouse::DragSelected(const WallScale &scale, const Grip &grip)
     m_editor.Place(rects, m_drag == Drag::Move ? tr("Move") : tr("Resize"), QStringLiteral("drag"));
 }
 
-void WallMouse::DragBand(const WallScale &scale, const Grip &grip)
+void WallMouse::DragBand(const WallScale &scale, const Pointer &pointer)
 {
-    QPoint corner = scale.NearestCorner(grip.point);
+    QPoint corner = scale.NearestCorner(pointer.point);
     if (m_drag == Drag::Draw) {
         const int reach = qMax(1, kReach / scale.zoom);
         const Snap snap = SnapResize({m_from, QSize(0, 0)}, RightSide | BottomSide, corner - m_from,
-                                     Lines(grip), reach);
+                                     Lines(pointer), reach);
         m_guides = snap.met;
         corner = m_from + snap.distance;
     }
     m_band = BandBetween(m_from, corner);
 }
 
-void WallMouse::Release(const WallScale &, const Grip &grip)
+void WallMouse::Release(const Pointer &pointer)
 {
     const Drag drag = std::exchange(m_drag, Drag::None);
     m_guides = {};
     if (drag == Drag::Draw)
         FinishDrawing();
-    else if (drag == Drag::Select && m_isFar)
-        SelectWithin(m_band, grip.keys & (Qt::ShiftModifier | Qt::ControlModifier));
+    else if (drag == Drag::Select && m_passedThreshold)
+        SelectWithin(m_band, pointer.keys & (Qt::ShiftModifier | Qt::ControlModifier));
     m_editor.Document().EndMerging();
     emit Changed();
 }
@@ -182,7 +185,7 @@ bool WallMouse::Cancel()
 
 std::optional<QRect> WallMouse::Band() const
 {
-    const bool isShown = m_isFar && (m_drag == Drag::Draw || m_drag == Drag::Select);
+    const bool isShown = m_passedThreshold && (m_drag == Drag::Draw || m_drag == Drag::Select);
     return isShown ? std::optional<QRect>(m_band) : std::nullopt;
 }
 

@@ -20,16 +20,16 @@ public:
     std::optional<ClockKind> Drawing() const { return m_drawing; }
     void SetDrawing(std::optional<ClockKind> kind);
 
-    struct Grip
+    struct Pointer
     {
         QPoint point; ///< in the view
         Qt::KeyboardModifiers keys;
         QSize module; ///< cell size of the panel grid; empty if there is none
     };
 
-    void Press(const WallScale &scale, const Grip &grip);
-    void Move(const WallScale &scale, const Grip &grip);
-    void Release(const WallScale &scale, const Grip &grip);
+    void Press(const WallScale &scale, const Pointer &pointer);
+    void Move(const WallScale &scale, const Pointer &pointer);
+    void Release(const Pointer &pointer);
     /// Reverts a drag, or else leaves drawing mode. False if there was neither.
     bool Cancel();
 
@@ -50,9 +50,9 @@ private:
 
     int AreaAt(QPoint pixel) const;
     Handle HandleUnder(const WallScale &scale, QPoint point) const;
-    SnapLines Lines(const Grip &grip) const;
-    void DragSelected(const WallScale &scale, const Grip &grip);
-    void DragBand(const WallScale &scale, const Grip &grip);
+    SnapLines Lines(const Pointer &pointer) const;
+    void DragSelected(const WallScale &scale, const Pointer &pointer);
+    void DragBand(const WallScale &scale, const Pointer &pointer);
     void SelectWithin(const QRect &band, bool keeps);
     void FinishDrawing();
 
@@ -67,7 +67,7 @@ private:
     SnapLines m_guides;
     int m_history = 0; ///< undo index when the drag began
     int m_hovered = -1;
-    bool m_isFar = false; ///< the pointer has moved beyond the drag threshold
+    bool m_passedThreshold = false; ///< the pointer has moved beyond the drag threshold
 };
 
 } // namespace ClockStudio

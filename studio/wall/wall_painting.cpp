@@ -7,13 +7,13 @@ namespace ClockStudio {
 namespace {
 
 // Minimum distance between numbered ruler ticks, in view pixels.
-constexpr int kLeastMarkDistance = 48;
+constexpr int kMinTickDistance = 48;
 
 /// The distance between numbered ticks in wall pixels, wide enough for the numbers.
 int MarkStep(int zoom)
 {
     for (const int step : {8, 16, 32, 64, 128, 256, 512, 1024}) {
-        if (step * zoom >= kLeastMarkDistance)
+        if (step * zoom >= kMinTickDistance)
             return step;
     }
     return 2048;

@@ -36,7 +36,7 @@ WallView::WallView(WallEditor &editor, QWidget *parent)
         viewport()->update(m_scale.ToView(region));
     });
     connect(&m_editor.Wall(), &LiveWall::ClocksMade, viewport(), QOverload<>::of(&QWidget::update));
-    connect(&m_editor, &WallEditor::SelectionChanged, this, &WallView::TellChoice);
+    connect(&m_editor, &WallEditor::SelectionChanged, this, &WallView::AnnounceSelection);
     connect(&m_mouse, &WallMouse::Changed, viewport(), QOverload<>::of(&QWidget::update));
     connect(&m_mouse, &WallMouse::DrawingChanged, this, [this] {
         viewport()->setCursor(m_mouse.Drawing() ? Qt::CrossCursor : Qt::ArrowCursor);
@@ -93,9 +93,9 @@ void WallView::ZoomToFit()
     PlaceWall();
 }
 
-void WallView::SetDiodes(bool diodes)
+void WallView::SetShowsLeds(bool diodes)
 {
-    m_diodes = diodes;
+    m_showsLeds = diodes;
     viewport()->update();
 }
 
@@ -120,7 +120,7 @@ void WallView::PaintWall(QPainter &painter, const QRect &exposed)
     const QImage &screen = m_editor.Wall().Screen();
     const QRect source = m_scale.ToWall(exposed) & screen.rect();
     if (!source.isEmpty()) {
-        if (m_diodes && m_scale.zoom >= ClockStage::kMinimumLedPitch)
+        if (m_showsLeds && m_scale.zoom >= ClockStage::kMinimumLedPitch)
             painter.drawImage(m_scale.ToView(source).topLeft(), m_leds.Diodes(screen, source));
         else
             painter.drawImage(m_scale.ToView(source), screen, source);
@@ -189,7 +189,7 @@ void WallView::mousePressEvent(QMouseEvent *event)
     if (event->button() == Qt::LeftButton || selects)
         m_mouse.Press(m_scale, {event->pos(), event->modifiers(), m_module});
     if (selects)
-        m_mouse.Release(m_scale, {event->pos(), event->modifiers(), m_module});
+        m_mouse.Release({event->pos(), event->modifiers(), m_module});
 }
 
 void WallView::mouseMoveEvent(QMouseEvent *event)
@@ -202,7 +202,7 @@ void WallView::mouseMoveEvent(QMouseEvent *event)
 void WallView::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && m_mouse.IsDragging())
-        m_mouse.Release(m_scale, {event->pos(), event->modifiers(), m_module});
+        m_mouse.Release({event->pos(), event->modifiers(), m_module});
 }
 
 void WallView::wheelEvent(QWheelEvent *event)
@@ -261,7 +261,7 @@ bool WallView::focusNextPrevChild(bool next)
     return true;
 }
 
-void WallView::TellChoice()
+void WallView::AnnounceSelection()
 {
     viewport()->update();
     const QVector<int> &selected = m_editor.Selected();

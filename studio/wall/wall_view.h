@@ -24,8 +24,7 @@ public:
     /// default that at the centre.
     void SetZoom(int zoom, std::optional<QPoint> around = {});
     void ZoomToFit();
-    bool ShowsDiodes() const { return m_diodes; }
-    void SetDiodes(bool diodes);
+    void SetShowsLeds(bool diodes);
     QSize Module() const { return m_module; }
     void SetModule(QSize module); ///< empty shows no grid
     const WallScale &Scale() const { return m_scale; }
@@ -59,14 +58,14 @@ private:
     void PaintWall(QPainter &painter, const QRect &exposed);
     void PaintMarks(QPainter &painter);
     void PaintHint(QPainter &painter);
-    void TellChoice();
+    void AnnounceSelection();
     bool MoveByKey(const QKeyEvent &event);
 
     WallEditor &m_editor;
     WallMouse m_mouse;
     WallScale m_scale;
     ClockStage::LedScreen m_leds;
-    bool m_diodes = false;
+    bool m_showsLeds = false;
     bool m_fits = true; ///< the zoom follows the size of the view
     QSize m_module {64, 32};
     QSize m_shown; ///< the wall's size when it was placed

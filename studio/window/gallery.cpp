@@ -6,7 +6,6 @@
 
 #include <QFileInfo>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
@@ -77,13 +76,13 @@ Gallery::Gallery(QWidget *parent)
     auto *const layout = new QHBoxLayout(this);
     layout->setContentsMargins(36, 28, 36, 28);
     layout->setSpacing(36);
-    layout->addLayout(BeginningPart(), 1);
+    layout->addLayout(StartPart(), 1);
     layout->addLayout(TemplatesPart(), 4);
     AddTemplates();
 }
 
 /// Buttons and recent files.
-QLayout *Gallery::BeginningPart()
+QLayout *Gallery::StartPart()
 {
     auto *const part = new QVBoxLayout;
     auto *const empty = new QPushButton(tr("Empty wall"));

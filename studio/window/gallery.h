@@ -27,7 +27,7 @@ Q_SIGNALS:
     void ReturnWanted();
 
 private:
-    QLayout *BeginningPart();
+    QLayout *StartPart();
     void SetUpRecentPart();
     QLayout *TemplatesPart();
     void AddTemplates();

@@ -131,7 +131,7 @@ void MainWindow::ImportSdk()
 {
     const QString path = QFileDialog::getOpenFileName(this, tr("Import SDK XML"), {},
                                                       tr("SDK XML (*.xml);;All files (*)"));
-    if (path.isEmpty() || !MayLeave())
+    if (path.isEmpty() || !ConfirmLeave())
         return;
     const QTemporaryDir work;
     const QString program = work.filePath(QStringLiteral("program.xml"));

@@ -10,12 +10,10 @@
 
 #include <QActionGroup>
 #include <QDockWidget>
-#include <QInputDialog>
 #include <QLabel>
 #include <QLocale>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
@@ -23,6 +21,8 @@
 namespace ClockStudio {
 
 namespace {
+
+using namespace Lw::HNodeClock;
 
 using Keys = QVector<QKeySequence>;
 
@@ -42,11 +42,11 @@ struct DrawingTool
 
 constexpr DrawingTool kDrawingTools[] = {
     {ClockKind::Digital, QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "Digital clock"),
-     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "D"), 1},
+     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "D"), DigitalClock},
     {ClockKind::Analog, QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "Analog clock"),
-     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "A"), 0},
+     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "A"), AnalogClock},
     {ClockKind::Picture, QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "Picture clock"),
-     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "P"), 2},
+     QT_TRANSLATE_NOOP("ClockStudio::MainWindow", "P"), PictureClock},
 };
 
 } // namespace
@@ -204,7 +204,7 @@ void MainWindow::MakeViewMenu()
     connect(diodes, &QAction::toggled, this, [this](bool on) {
         if (on && m_view->Zoom() < ClockStage::kMinimumLedPitch)
             m_view->SetZoom(ClockStage::kMinimumLedPitch);
-        m_view->SetDiodes(on);
+        m_view->SetShowsLeds(on);
     });
     m_actions.append(diodes);
     QMenu *const grid = menu->addMenu(tr("&Panel grid"));

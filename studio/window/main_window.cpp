@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
@@ -145,7 +146,7 @@ void MainWindow::ShowWallPage()
 
 bool MainWindow::Open(const QString &path)
 {
-    if (!MayLeave())
+    if (!ConfirmLeave())
         return false;
     if (const auto problem = m_files.Open(path)) {
         SayProblem(*problem);
@@ -159,7 +160,7 @@ bool MainWindow::Open(const QString &path)
 
 void MainWindow::BeginWith(const QByteArray &bytes)
 {
-    if (!MayLeave())
+    if (!ConfirmLeave())
         return;
     m_files.Begin(bytes);
     ShowWallPage();
@@ -207,7 +208,7 @@ bool MainWindow::SaveAs()
     return true;
 }
 
-bool MainWindow::MayLeave()
+bool MainWindow::ConfirmLeave()
 {
     if (m_files.IsSaved())
         return true;
@@ -247,7 +248,7 @@ void MainWindow::OfferRecovery()
 
 void MainWindow::Recover(const UnsavedWork &work)
 {
-    if (MayLeave()) {
+    if (ConfirmLeave()) {
         m_files.Recover(work);
         ShowWallPage();
     }
@@ -309,7 +310,7 @@ void MainWindow::UpdateState()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!MayLeave()) {
+    if (!ConfirmLeave()) {
         event->ignore();
         return;
     }

@@ -70,7 +70,7 @@ private:
     bool Save();
     bool SaveAs();
     /// Asks about unsaved work. True if it was saved or discarded.
-    bool MayLeave();
+    bool ConfirmLeave();
     void BeginWith(const QByteArray &bytes);
     void ShowWallPage();
     /// Offers, one at a time, to recover the unsaved work of studios that crashed.

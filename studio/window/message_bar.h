@@ -27,7 +27,6 @@ public:
 
     /// Shows a message and its buttons in place of the current one.
     void Ask(const QString &text, const QVector<Answer> &answers);
-    void Say(const QString &text) { Ask(text, {}); }
 
 private:
     QLabel *m_text;

@@ -43,19 +43,19 @@ QLabel *Line()
 SendDialog::SendDialog(const QString &program, QWidget *parent)
     : QDialog(parent), m_program(program), m_targets(KnownTargets()), m_name(new QComboBox),
       m_host(new QLineEdit), m_folder(new QLineEdit), m_key(new QLineEdit), m_status(new QLineEdit),
-      m_said(Line()), m_wallStatus(Line()), m_releases(new QListWidget),
-      m_again(Button(tr("Play the selected release")))
+      m_message(Line()), m_wallStatus(Line()), m_releases(new QListWidget),
+      m_playRelease(Button(tr("Play the selected release")))
 {
     setWindowTitle(tr("Send to a wall"));
     auto *const layout = new QVBoxLayout(this);
     auto *const form = new QFormLayout;
     AddFields(*form);
     layout->addLayout(form);
-    layout->addWidget(m_said);
+    layout->addWidget(m_message);
     layout->addWidget(m_wallStatus);
     AddReleases();
     AddButtons();
-    connect(&m_watch, &WallWatch::Heard, this,
+    connect(&m_watch, &WallWatch::StatusReceived, this,
             [this](const WallStatus &status) { m_wallStatus->setText(StatusText(status)); });
     for (const WallTarget &target : qAsConst(m_targets))
         m_name->addItem(target.name);
@@ -109,16 +109,17 @@ void SendDialog::AddReleases()
     earlier->setObjectName(QStringLiteral("earlier"));
     m_releases->setObjectName(QStringLiteral("releases"));
     m_releases->setAccessibleName(earlier->text());
-    m_again->setObjectName(QStringLiteral("again"));
-    m_again->setEnabled(false);
-    for (QWidget *const widget : std::initializer_list<QWidget *> {earlier, m_releases, m_again})
+    m_playRelease->setObjectName(QStringLiteral("again"));
+    m_playRelease->setEnabled(false);
+    for (QWidget *const widget :
+         std::initializer_list<QWidget *> {earlier, m_releases, m_playRelease})
         layout()->addWidget(widget);
     m_releases->hide();
-    m_again->hide();
+    m_playRelease->hide();
     connect(earlier, &QPushButton::clicked, this, &SendDialog::ListReleases);
-    connect(m_again, &QPushButton::clicked, this, &SendDialog::PlayRelease);
+    connect(m_playRelease, &QPushButton::clicked, this, &SendDialog::PlayRelease);
     connect(m_releases, &QListWidget::currentRowChanged, this,
-            [this](int row) { m_again->setEnabled(row >= 0); });
+            [this](int row) { m_playRelease->setEnabled(row >= 0); });
 }
 
 void SendDialog::AddButtons()
@@ -147,73 +148,73 @@ void SendDialog::ShowTarget(int index)
     m_folder->setText(target.folder);
     m_key->setText(target.key);
     m_status->setText(target.statusFile);
-    m_said->clear();
+    m_message->clear();
     m_wallStatus->clear();
     m_watch.Stop();
     m_releases->clear();
 }
 
-void SendDialog::KeepTarget()
+void SendDialog::SaveTarget()
 {
     const WallTarget target = Target();
     for (WallTarget &known : m_targets) {
         if (known.name == target.name) {
             known = target;
-            return KeepTargets(m_targets);
+            return SaveTargets(m_targets);
         }
     }
     m_targets.append(target);
-    KeepTargets(m_targets);
+    SaveTargets(m_targets);
 }
 
-bool SendDialog::IsComplete()
+bool SendDialog::CheckTarget()
 {
     m_watch.Stop();
     m_wallStatus->clear();
-    m_said->setText(TargetFault(Target()));
-    return m_said->text().isEmpty();
+    m_message->setText(TargetFault(Target()));
+    return m_message->text().isEmpty();
 }
 
-bool SendDialog::TellOf(const ToolResult &result)
+bool SendDialog::ShowFailure(const ToolResult &result)
 {
     if (!result.isGood)
-        m_said->setText(result.isCancelled ? tr("Cancelled. The wall is unchanged.")
-                                           : result.errors);
+        m_message->setText(result.isCancelled ? tr("Cancelled. The wall is unchanged.")
+                                              : result.errors);
     return result.isGood;
 }
 
 void SendDialog::Send()
 {
-    if (!IsComplete())
+    if (!CheckTarget())
         return;
-    KeepTarget();
+    SaveTarget();
     const QTemporaryDir work;
     const QString folder = work.filePath(QStringLiteral("export"));
-    if (!TellOf(RunBehindDialog({ExportCommand(m_program, folder)},
-                                tr("Generating the glyph files…"), this)))
+    if (!ShowFailure(RunBehindDialog({ExportCommand(m_program, folder)},
+                                     tr("Generating the glyph files…"), this)))
         return;
     const QString release =
         Lw::HNodeClock::FormatAscii(QDateTime::currentDateTimeUtc(), "yyyyMMdd-HHmmss");
-    if (Bring(folder, release))
+    if (Upload(folder, release))
         Follow(tr("Release %2 was sent to %1. The previous release is kept.")
                    .arg(Target().name, release));
 }
 
 /// After a failure, removes the incomplete release if the target can still be reached.
-bool SendDialog::Bring(const QString &folder, const QString &release)
+bool SendDialog::Upload(const QString &folder, const QString &release)
 {
     const QString what = tr("Sending to %1…").arg(Target().name);
-    const bool isBrought =
-        TellOf(RunBehindDialog(SendCommands(Target(), folder, release), what, this));
-    if (!isBrought)
+    const bool isUploaded =
+        ShowFailure(RunBehindDialog(SendCommands(Target(), folder, release), what, this));
+    if (!isUploaded)
         RunBehindDialog({DiscardCommand(Target(), release)}, tr("Removing the incomplete release…"),
                         this);
-    return isBrought;
+    return isUploaded;
 }
 
-void SendDialog::Follow(const QString &said)
+void SendDialog::Follow(const QString &message)
 {
-    m_said->setText(said);
+    m_message->setText(message);
     if (!Target().statusFile.isEmpty())
         m_wallStatus->setText(tr("Waiting for the wall to play the release…"));
     m_watch.Follow(Target());
@@ -223,9 +224,9 @@ void SendDialog::Follow(const QString &said)
 
 void SendDialog::ListReleases()
 {
-    const QString said = m_said->text();
+    const QString message = m_message->text();
     if (!TargetFault(Target()).isEmpty()) {
-        IsComplete();
+        CheckTarget();
         return;
     }
     const ToolResult result =
@@ -238,19 +239,20 @@ void SendDialog::ListReleases()
         item->setData(Qt::UserRole, release);
     }
     m_releases->setVisible(result.isGood);
-    m_again->setVisible(result.isGood);
-    m_said->setText(said);
-    if (TellOf(result) && list.releases.isEmpty())
-        m_said->setText(tr("There are no releases yet."));
+    m_playRelease->setVisible(result.isGood);
+    m_message->setText(message);
+    if (ShowFailure(result) && list.releases.isEmpty())
+        m_message->setText(tr("There are no releases yet."));
 }
 
 void SendDialog::PlayRelease()
 {
     const QListWidgetItem *const item = m_releases->currentItem();
-    if (!item || !IsComplete())
+    if (!item || !CheckTarget())
         return;
     const QString release = item->data(Qt::UserRole).toString();
-    if (TellOf(RunBehindDialog({PlayCommand(Target(), release)}, tr("Switching releases…"), this)))
+    if (ShowFailure(
+            RunBehindDialog({PlayCommand(Target(), release)}, tr("Switching releases…"), this)))
         Follow(tr("%1 now plays release %2.").arg(Target().name, release));
 }
 

@@ -34,14 +34,16 @@ private:
     void AddButtons();
     WallTarget Target() const;
     void ShowTarget(int index);
-    void KeepTarget();
+    void SaveTarget();
     void Send();
-    bool Bring(const QString &folder, const QString &release);
-    void Follow(const QString &said);
+    bool Upload(const QString &folder, const QString &release);
+    void Follow(const QString &message);
     void ListReleases();
     void PlayRelease();
-    bool IsComplete();
-    bool TellOf(const ToolResult &result);
+    /// Shows what is wrong with the target, if anything, and stops watching. False if it is wrong.
+    bool CheckTarget();
+    /// Shows why a command failed. True if it succeeded.
+    bool ShowFailure(const ToolResult &result);
 
     const QString m_program;
     QVector<WallTarget> m_targets;
@@ -50,10 +52,10 @@ private:
     QLineEdit *m_folder;
     QLineEdit *m_key;
     QLineEdit *m_status;
-    QLabel *m_said;
+    QLabel *m_message;
     QLabel *m_wallStatus;
     QListWidget *m_releases;
-    QPushButton *m_again;
+    QPushButton *m_playRelease;
     WallWatch m_watch;
 };
 

@@ -190,7 +190,7 @@ void TestProgramFiles::SavedWorkIsNotRecovered()
         ProgramFiles files(document, directory);
         files.Begin(kWall);
         document.Change(Widened(document), "wider");
-        files.KeepWork();
+        files.StoreUnsavedWork();
         QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 1);
         QVERIFY(!files.Save(work.filePath("wall.xml")));
         QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 0);
@@ -227,7 +227,7 @@ void TestProgramFiles::KeepsWhatIsTypedOn()
         const int end = document.Text().indexOf('"', place);
         document.Change({{place, document.Text().mid(place, end - place), text}}, "typing",
                         "typing");
-        files.KeepWork();
+        files.StoreUnsavedWork();
         const QStringList kept = QDir(directory).entryList({"*.work"}, QDir::Files);
         QCOMPARE(kept.size(), 1);
         QVERIFY(ContentsOf(directory + '/' + kept.first()).contains(document.Text().toUtf8()));
@@ -244,11 +244,11 @@ void TestProgramFiles::KeepsWhatWasGivenUp()
     ProgramFiles files(document, directory);
     files.Begin(kWall);
     document.Change(Widened(document), "wider");
-    files.KeepWork();
+    files.StoreUnsavedWork();
     files.GiveUp();
     QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 0);
     QVERIFY(files.Open(work.filePath("missing.xml")));
-    files.KeepWork();
+    files.StoreUnsavedWork();
     QCOMPARE(QDir(directory).entryList({"*.work"}, QDir::Files).size(), 1);
 }
 
@@ -269,7 +269,7 @@ void TestProgramFiles::FullDiskKeepsFileAndWork()
     QCOMPARE(ContentsOf(path), kWall);
     QCOMPARE(QDir(work.path()).entryList(QDir::Files | QDir::Hidden), QStringList("wall.xml"));
     QVERIFY(!files.IsSaved());
-    files.KeepWork();
+    files.StoreUnsavedWork();
     QCOMPARE(QDir(elsewhere.filePath("recovery")).entryList({"*.work"}, QDir::Files).size(), 1);
     QVERIFY(disk.Resize(20));
     QVERIFY(!files.Save(path));

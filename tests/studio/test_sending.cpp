@@ -197,7 +197,7 @@ void TestSending::SendTwice(const QTemporaryDir &work, const WallTarget &target)
              QByteArray("the same in each release"));
     QVERIFY(RunAll({PlayCommand(target, "1")}));
     QCOMPARE(ContentsOf(target.folder + "/current/program.xml"), kWall);
-    KeepTargets({target});
+    SaveTargets({target});
     QCOMPARE(KnownTargets().size(), 1);
     QCOMPARE(KnownTargets().first().folder, target.folder);
     QCOMPARE(KnownTargets().first().statusFile, target.statusFile);

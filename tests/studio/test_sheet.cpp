@@ -41,7 +41,7 @@ void TestSheet::SaysWhatIsShown()
 {
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();
-    const QString all = SheetText("wall", studio.wall, {"a finding"});
+    const QString all = SheetHtml("wall", studio.wall, {"a finding"});
     QVERIFY(all.contains("128 × 64"));
     QVERIFY(all.contains("a finding"));
     const QString first = all.section("<h3>", 2, 2);
@@ -61,7 +61,7 @@ void TestSheet::TextsAreNotMarkup()
 {
     StudioUnderTest studio(kTwo);
     studio.WaitForClocks();
-    const QString all = SheetText("100%3<b>", studio.wall, {"1 < 2"});
+    const QString all = SheetHtml("100%3<b>", studio.wall, {"1 < 2"});
     QVERIFY(all.contains("100%3&lt;b&gt;"));
     QVERIFY(all.contains("1 &lt; 2"));
 }
