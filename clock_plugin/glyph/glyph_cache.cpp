@@ -5,6 +5,8 @@
 #include <QFontMetrics>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace Lw::HNodeClock {
 
 namespace {
@@ -19,6 +21,12 @@ int CostOf(const GlyphContent &content, const GlyphFacts &facts)
     return kOverhead + content.face.size()
         + static_cast<int>(sizeof(QChar))
         * (content.text.size() + facts.charactersWithoutGlyph.size());
+}
+
+bool HasLetter(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(),
+                       [](QChar character) { return character.isLetterOrNumber(); });
 }
 
 } // namespace
@@ -86,6 +94,9 @@ void GlyphCache::Keep(const GlyphContent &content, const DrawnGlyph &glyph)
     if (glyph.state != GlyphState::Drawn)
         return;
     ++m_drawnImages;
+    // Without any font no letter has a glyph. This spares loading the default font.
+    if (glyph.facts.charactersWithoutGlyph.isEmpty() && HasLetter(content.text))
+        m_hasFonts = true;
     const int cost = CostOf(content, glyph.facts);
     m_facts.insert(content, new GlyphFacts(glyph.facts), cost);
     m_files.insert(content, new QByteArray(glyph.file), cost + glyph.file.size());

@@ -7,7 +7,10 @@
 #include "plain_clocks.h"
 #include "start_program.h"
 
+#include "clock_render.h"
 #include "display/draw_display_image.h"
+
+#include "pictureplayer.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -82,6 +85,7 @@ private Q_SLOTS:
     void EqualsThePlainWay_data();
     void EqualsThePlainWay();
     void ChangingSettings();
+    void ADigitalClockBecomesOne();
     void HandsPointAtTheTime();
     void DialIsCentred_data();
     void DialIsCentred();
@@ -199,6 +203,21 @@ void TestPictureClock::ChangingSettings()
 }
 
 // 09:30:30: the hour hand at 285 degrees, the minute hand at 183, the second hand at 180.
+// The renderer of a digital clock has loaded no pictures.
+void TestPictureClock::ADigitalClockBecomesOne()
+{
+    constexpr unsigned int kId = 41;
+    SaveFancyPictures();
+    ClockUnderTest clock(DigitalClock, QSize(100, 90));
+    clock.MakeGlyphs();
+    HClockRender render(&clock.node);
+    render.Start(kId, 0);
+    clock.Set("ClockType", kPicture);
+    render.PlayNext();
+    PlainClock plain(&clock.node);
+    QCOMPARE(Lw::pictureplayer::ForIdentifier(kId)->LastImage(), plain.Frame());
+}
+
 void TestPictureClock::HandsPointAtTheTime()
 {
     SaveHands();
