@@ -63,7 +63,7 @@ MaybeFailure ShowAsJson(const Findings &findings, const QString &path)
 }
 
 // The options of a lint run.
-struct Choices
+struct LintOptions
 {
     qint64 begin = 0; ///< of the year to check, in UTC milliseconds
     bool checksFit = true;
@@ -72,7 +72,7 @@ struct Choices
 };
 
 /// A program that cannot be played has none of these findings.
-void LintClocks(const QDomDocument &document, const QString &path, const Choices &choices,
+void LintClocks(const QDomDocument &document, const QString &path, const LintOptions &options,
                 Findings &findings)
 {
     const Result<ClockProgram::Program> program = ClockProgram::InterpretProgram(document, path);
@@ -83,16 +83,16 @@ void LintClocks(const QDomDocument &document, const QString &path, const Choices
         return LintAreas(*program, findings);
     LintGlyphs(*program, *made, findings);
     LintStyles(*program, *made, findings);
-    LintValidity(*program, *made, choices.begin, findings);
+    LintValidity(*program, *made, options.begin, findings);
     const bool isLarge =
         ClockProgram::CheckFrameBytes(*program).has_value(); // which LintProgram() reports
-    if (choices.checksFit && (!isLarge || choices.allowsLargeFrames))
-        LintFit(*program, *made, choices.begin, findings);
+    if (options.checksFit && (!isLarge || options.allowsLargeFrames))
+        LintFit(*program, *made, options.begin, findings);
     else
         LintAreas(*program, findings);
 }
 
-CommandResult LintFile(const QString &path, const Choices &choices)
+CommandResult LintFile(const QString &path, const LintOptions &options)
 {
     const Result<QByteArray> bytes = ClockProgram::ReadContents(path);
     if (!bytes)
@@ -101,8 +101,8 @@ CommandResult LintFile(const QString &path, const Choices &choices)
     if (!document)
         return Report(document.Error());
     Findings findings = LintProgram(*document, *bytes, path);
-    LintClocks(*document, path, choices, findings);
-    if (!choices.asJson)
+    LintClocks(*document, path, options, findings);
+    if (!options.asJson)
         Show(findings, path);
     else if (const MaybeFailure failure = ShowAsJson(findings, path))
         return Report(*failure);
@@ -112,7 +112,7 @@ CommandResult LintFile(const QString &path, const Choices &choices)
 const QLatin1String kFormat("format");
 const QLatin1String kNoFit("no-fit");
 
-Result<Choices> ReadChoices(const ToolArguments &tool)
+Result<LintOptions> ReadOptions(const ToolArguments &tool)
 {
     const QString format = tool.Value(kFormat);
     if (format != QLatin1String("text") && format != QLatin1String("json"))
@@ -121,12 +121,12 @@ Result<Choices> ReadChoices(const ToolArguments &tool)
     const Result<qint64> begin = tool.YearBegin();
     if (!begin)
         return begin.Error();
-    Choices choices;
-    choices.asJson = format == QLatin1String("json");
-    choices.allowsLargeFrames = tool.AllowsLargeFrames();
-    choices.begin = *begin;
-    choices.checksFit = !tool.IsSet(kNoFit);
-    return choices;
+    LintOptions options;
+    options.asJson = format == QLatin1String("json");
+    options.allowsLargeFrames = tool.AllowsLargeFrames();
+    options.begin = *begin;
+    options.checksFit = !tool.IsSet(kNoFit);
+    return options;
 }
 
 } // namespace
@@ -145,13 +145,13 @@ CommandResult RunLint(const QStringList &arguments)
         return *ended;
     if (const MaybeFailure failure = tool.InstallLanguage())
         return Report(*failure);
-    const Result<Choices> choices = ReadChoices(tool);
-    if (!choices)
-        return Report(choices.Error());
+    const Result<LintOptions> options = ReadOptions(tool);
+    if (!options)
+        return Report(options.Error());
     CommandResult worst = ExitCode::Success;
     const QStringList paths = tool.Positionals();
     for (const QString &path : paths)
-        worst = std::max(worst, LintFile(path, *choices));
+        worst = std::max(worst, LintFile(path, *options));
     return worst;
 }
 
