@@ -212,24 +212,33 @@ bool ChangesOnly(HClockNode &before, HClockNode &after, const StoredValue &value
 }
 
 /// Verifies an edit with the plugin itself.
-bool IsReadAsMeant(const ParsedProgram &parsed, int area, const TextEdit &edit,
+bool IsReadAsMeant(const ParsedProgram &parsed, int area, const std::optional<ParsedProgram> &after,
                    const StoredValue &value)
 {
-    const auto after = ReadAfter(parsed, {edit});
     const auto nodeBefore = ClockOf(parsed, area);
     const auto nodeAfter = after ? ClockOf(*after, area) : nullptr;
     return nodeBefore && nodeAfter && ChangesOnly(*nodeBefore, *nodeAfter, value);
 }
 
-TextEdit EditOf(const ParsedProgram &parsed, int area, int kind, const StoredValue &value)
+struct ReadEdit
 {
-    const std::optional<TextEdit> best = BestEdit(parsed, area, kind, value);
-    if (best && IsReadAsMeant(parsed, area, *best, value))
-        return *best;
+    TextEdit edit;
+    std::optional<ParsedProgram> after; ///< nothing if the text is then no program
+};
+
+ReadEdit EditOf(const ParsedProgram &parsed, int area, int kind, const StoredValue &value)
+{
+    if (const std::optional<TextEdit> best = BestEdit(parsed, area, kind, value)) {
+        auto after = ReadAfter(parsed, {*best});
+        if (IsReadAsMeant(parsed, area, after, value))
+            return {*best, std::move(after)};
+    }
     const int clock = parsed.ClockElement(area);
     const Source stored = StoredSource(parsed, clock, value.attribute);
-    return stored.IsNothing() ? StoredElementEdit(parsed, clock, value)
-                              : SetAttributeEdit(parsed, stored.element, kValueName, value.text);
+    const TextEdit edit = stored.IsNothing()
+        ? StoredElementEdit(parsed, clock, value)
+        : SetAttributeEdit(parsed, stored.element, kValueName, value.text);
+    return {edit, ReadAfter(parsed, {edit})};
 }
 
 int KindOf(const ParsedProgram &parsed, int area)
@@ -263,12 +272,11 @@ TextEdits ValueEdits(const ParsedProgram &parsed, int area, const QVector<Stored
         if (node && node->GetAttribute(Key(value.attribute)) == value.text
             && node->HaveAttribute(Key(value.attribute)))
             continue;
-        const TextEdit edit = EditOf(current, area, kind, value);
-        const auto after = ReadAfter(current, {edit});
-        if (!after)
+        const ReadEdit made = EditOf(current, area, kind, value);
+        if (!made.after)
             continue;
-        edits.append(edit);
-        current = *after;
+        edits.append(made.edit);
+        current = *made.after;
     }
     return edits;
 }
@@ -282,7 +290,7 @@ TextEdits ResetEdits(const ParsedProgram &parsed, int area, Attribute attribute)
         const TextEdit removal = source.isStored
             ? RemoveElementEdit(parsed, source.element)
             : RemoveAttributeEdit(parsed, source.element, source.attribute);
-        if (IsReadAsMeant(parsed, area, removal, value))
+        if (IsReadAsMeant(parsed, area, ReadAfter(parsed, {removal}), value))
             return {removal};
     }
     return ValueEdits(parsed, area, {value});

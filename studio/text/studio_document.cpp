@@ -104,7 +104,7 @@ void StudioDocument::ReadText()
 {
     auto read = ReadProgramText(m_text, FormAfterEdits(m_text, m_form));
     if (auto *const parsed = std::get_if<ParsedProgram>(&read)) {
-        m_parsed = *parsed;
+        m_parsed = std::move(*parsed);
         m_fault.reset();
     } else {
         m_fault = std::get<TextFault>(read);

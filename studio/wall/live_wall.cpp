@@ -16,7 +16,9 @@ namespace ClockStudio {
 namespace {
 
 // How long creating clocks may block the event loop, in milliseconds.
-constexpr int kMakingSpan = 40;
+constexpr int kMakingSpan = 12;
+// Time between two signals that clocks have been made, in milliseconds.
+constexpr int kTellingSpan = 200;
 // Above the plugin's random Ids and those that programs usually set.
 constexpr int kFirstIdentity = 100000;
 
@@ -50,8 +52,8 @@ void LiveWall::Show(const ParsedProgram &parsed)
     for (Slot &slot : m_slots)
         Release(slot);
     m_slots = std::move(taken);
-    m_pending = static_cast<int>(std::count_if(m_slots.cbegin(), m_slots.cend(),
-                                               [](const Slot &slot) { return slot.IsPending(); }));
+    m_pendingCount = static_cast<int>(std::count_if(
+        m_slots.cbegin(), m_slots.cend(), [](const Slot &slot) { return slot.IsPending(); }));
     if (m_screen.size() != parsed.program.size)
         m_screen = ClockStage::BlackScreen(parsed.program.size);
     MakePendingClocks();
@@ -94,6 +96,11 @@ std::vector<LiveWall::Slot> LiveWall::TakeOver(const ParsedProgram &parsed)
     return next;
 }
 
+LiveWall::Pending::Pending(const Slot &slot, ClockProgram::MadeNode node)
+    : text(slot.text), identity(slot.identity), made(std::move(node)),
+      images(static_cast<Lw::HNodeClock::HClockNode &>(*made.node)) // only clocks are made
+{ }
+
 void LiveWall::MakePendingClocks()
 {
     QElapsedTimer spent;
@@ -101,25 +108,48 @@ void LiveWall::MakePendingClocks()
     for (Slot &slot : m_slots) {
         if (!slot.IsPending())
             continue;
-        if (spent.hasExpired(kMakingSpan)) {
+        if (spent.hasExpired(kMakingSpan) || !Make(slot, spent)) {
             m_makeTimer.start();
             break;
         }
-        Make(slot);
-        --m_pending;
+        --m_pendingCount;
         Compose(slot.geometry);
     }
-    emit ClocksMade();
+    if (m_pendingCount == 0 || !m_told.isValid() || m_told.hasExpired(kTellingSpan)) {
+        m_told.start();
+        emit ClocksMade();
+    }
 }
 
-void LiveWall::Make(Slot &slot)
+/// False if that takes another turn of the event loop.
+bool LiveWall::Make(Slot &slot, const QElapsedTimer &spent)
 {
-    slot.made = slot.text;
-    slot.refusal.clear();
-    slot.clock.reset();
-    slot.lastPicture = QImage();
     if (slot.identity == 0)
         slot.identity = FreeIdentity();
+    if (!m_pending || m_pending->text != slot.text || m_pending->identity != slot.identity)
+        Begin(slot);
+    if (m_pending && !m_pending->images.IsDone()) {
+        while (!m_pending->images.IsDone() && !spent.hasExpired(kMakingSpan))
+            m_pending->images.MakeNext();
+        return false;
+    }
+    slot.made = slot.text;
+    slot.lastPicture = QImage();
+    if (m_pending)
+        Play(slot, std::move(m_pending->made));
+    m_pending.reset();
+    return true;
+}
+
+/// The old clock shows its last picture until then: the files of its images are overwritten.
+void LiveWall::Begin(Slot &slot)
+{
+    m_pending.reset();
+    if (slot.clock)
+        slot.lastPicture = slot.clock->Picture().image;
+    slot.clock.reset();
+    slot.made.clear();
+    slot.refusal.clear();
     ClockProgram::Program alone = m_program;
     alone.areas = {m_program.areas[slot.area]};
     auto result = ClockProgram::MakeNodes(alone, ClockTool::FindClockPlugin);
@@ -129,6 +159,11 @@ void LiveWall::Make(Slot &slot)
     }
     auto &made = result->nodes.front();
     made.node->SetAttribute(ClockProgram::kIdKey, slot.identity, false);
+    m_pending = std::make_unique<Pending>(slot, std::move(made));
+}
+
+void LiveWall::Play(Slot &slot, ClockProgram::MadeNode made)
+{
     slot.clock = std::make_unique<ClockStage::Area>(++m_lastPlay, made.plugin, std::move(made.node),
                                                     ClockStage::GlyphFiles::Made);
     StartWithTexts(*slot.clock);
@@ -182,17 +217,20 @@ void LiveWall::PlayNext()
 
 void LiveWall::RecreateClocks()
 {
+    m_pending.reset();
     for (Slot &slot : m_slots)
         slot.made.clear();
-    m_pending = AreaCount();
+    m_pendingCount = AreaCount();
     MakePendingClocks();
 }
 
 void LiveWall::Compose(const QRect &region)
 {
     QVector<ClockStage::Layer> layers;
-    for (int area = 0; area < AreaCount(); ++area)
-        layers.append({Geometry(area), Picture(area)});
+    for (int area = 0; area < AreaCount(); ++area) {
+        if (Geometry(area).intersects(region))
+            layers.append({Geometry(area), Picture(area)});
+    }
     ClockStage::ComposeScreen(m_screen, layers, region);
     emit Painted(region & m_screen.rect());
 }

@@ -2,9 +2,11 @@
 // recreated.
 #pragma once
 
+#include "image_slices.h"
 #include "text/parsed_program.h"
 
 #include "area.h"
+#include "node_maker.h"
 #include "screen_composer.h"
 
 #include <QElapsedTimer>
@@ -14,10 +16,6 @@
 
 #include <memory>
 #include <vector>
-
-namespace Lw::HNodeClock {
-class HClockNode;
-}
 
 namespace ClockStudio {
 
@@ -32,7 +30,7 @@ public:
     /// Shows a program. Clocks are created in short batches between events; until then their areas
     /// show the previous picture.
     void Show(const ParsedProgram &parsed);
-    bool IsComplete() const { return m_pending == 0; }
+    bool IsComplete() const { return m_pendingCount == 0; }
 
     QSize Size() const { return m_screen.size(); }
     const QImage &Screen() const { return m_screen; }
@@ -52,7 +50,7 @@ public:
 
 Q_SIGNALS:
     void Painted(const QRect &region); ///< pixels of the screen that changed
-    void ClocksMade();                 ///< nodes have been recreated
+    void ClocksMade();                 ///< nodes have been recreated; always after the last
 
 private:
     struct Slot
@@ -69,9 +67,22 @@ private:
         bool IsPending() const { return text != made; }
     };
 
+    /// The clock that is being made, in several turns of the event loop if its images are large.
+    struct Pending
+    {
+        Pending(const Slot &slot, ClockProgram::MadeNode node);
+
+        QString text;
+        int identity;
+        ClockProgram::MadeNode made;
+        ImageSlices images;
+    };
+
     std::vector<Slot> TakeOver(const ParsedProgram &parsed);
     void MakePendingClocks();
-    void Make(Slot &slot);
+    bool Make(Slot &slot, const QElapsedTimer &spent);
+    void Begin(Slot &slot);
+    void Play(Slot &slot, ClockProgram::MadeNode made);
     int FreeIdentity();
     void Release(Slot &slot);
     void Compose(const QRect &region);
@@ -81,9 +92,11 @@ private:
     std::vector<Slot> m_slots;
     QVector<int> m_freeIdentities;
     int m_identities = 0;
-    unsigned int m_lastPlay = 0; ///< the play number given last
-    int m_pending = 0;           ///< clocks still to be created
+    unsigned int m_lastPlay = 0;
+    int m_pendingCount = 0;
     QTimer m_makeTimer;
+    QElapsedTimer m_told; ///< since ClocksMade
+    std::unique_ptr<Pending> m_pending;
     QImage m_screen;
 };
 

@@ -49,6 +49,7 @@ private slots:
     void RefusedClockIsEmpty();
     void ManyClocksDoNotBlock();
     void LargeFontsDoNotBlock();
+    void LargeImagesOfOneClockDoNotBlock();
 };
 
 void TestWallEditor::ShowsFrames()
@@ -240,6 +241,32 @@ void TestWallEditor::LargeFontsDoNotBlock()
     QVERIFY(!studio.wall.IsComplete());
     studio.WaitForClocks();
     QVERIFY(studio.wall.Clock(11));
+}
+
+// One image after the other, while the old picture is shown; the text may change meanwhile.
+void TestWallEditor::LargeImagesOfOneClockDoNotBlock()
+{
+    const QByteArray program =
+        "<program width=\"512\" height=\"256\">\n<area x=\"0\" y=\"0\" width=\"512\" "
+        "height=\"256\"><clock type=\"digital\"><title display=\"false\"/>"
+        "<date display=\"false\"/><week display=\"false\"/><time fontSize=\"60\"/>"
+        "</clock></area></program>\n";
+    StudioUnderTest studio(program);
+    studio.WaitForClocks();
+    const QImage before = studio.Screen();
+    studio.document.Change({{program.indexOf("60"), "60", "90"}}, "larger");
+    QVERIFY(!studio.wall.IsComplete());
+    QCOMPARE(studio.Screen(), before);
+    studio.document.History().undo();
+    studio.WaitForClocks();
+    QVERIFY(studio.wall.Clock(0));
+    QCOMPARE(studio.Screen(), before);
+    studio.document.History().redo();
+    studio.WaitForClocks();
+    StudioUnderTest fresh(QByteArray(program).replace("60", "90"));
+    fresh.WaitForClocks();
+    QVERIFY(studio.Screen() != before);
+    QCOMPARE(studio.Screen(), fresh.Screen());
 }
 
 QTEST_MAIN(TestWallEditor)
