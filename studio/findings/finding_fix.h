@@ -19,8 +19,8 @@ int ElementOf(const ParsedProgram &parsed, const ClockTool::Finding &finding);
 /// The key of the attribute that a finding is about; empty where there is none.
 QString KeyOf(const ClockTool::Finding &finding, int clockType);
 
-/// The edit that applies a finding's suggestion, if the finding then disappears. None for texts too
-/// small to read.
+/// The edit that applies a finding's suggestion, if the finding then disappears. None if the
+/// suggested text size is too small to read.
 std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const ClockTool::Finding &finding,
                               qint64 instant);
 

@@ -27,7 +27,7 @@ public:
     const QVector<ClockTool::Finding> &Findings() const { return m_findings; }
     /// Checks immediately instead of after the delay. Slower findings are listed when they arrive.
     void Check();
-    /// The same, and waits for all of it while events are handled.
+    /// Like Check(), but also waits for the slower findings; meanwhile user input is not handled.
     void CheckAll();
     /// As listed: with the number of the clock, and times as it shows them.
     QString TextOf(const ClockTool::Finding &finding) const;

@@ -41,8 +41,11 @@ FitCheck::FitCheck(QObject *parent) : QObject(parent)
     connect(&m_process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             &FitCheck::Take);
     connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart)
-            Fail(tr("%1 is missing or cannot be started.").arg(m_process.program()));
+        if (error != QProcess::FailedToStart)
+            return;
+        m_limit.stop();
+        m_next.reset(); // it would fail, too
+        Fail(tr("%1 is missing or cannot be started.").arg(m_process.program()));
     });
 }
 
@@ -61,7 +64,7 @@ void FitCheck::Start(const QByteArray &program)
         Begin();
 }
 
-/// Without waiting for it to end, which would hold up the typing.
+/// Does not wait for the process to end, which would block typing.
 void FitCheck::Drop()
 {
     m_next.reset();
@@ -101,7 +104,7 @@ void FitCheck::Take(int exitCode, QProcess::ExitStatus status)
     }
     if (isLate)
         return Fail(tr("it takes longer than two minutes."));
-    // The tool ends with 1 where it warns, with more where it could not check.
+    // The tool exits with 1 if it warned, with a larger code if it could not check.
     if (status != QProcess::NormalExit || exitCode > 1)
         return Fail(tr("%1 ended with code %2.").arg(m_process.program()).arg(exitCode));
     emit Found(findings);

@@ -1,5 +1,5 @@
-// studio/findings: what is wrong with a program, found as it arises.
-// All checks of a program, those of a whole year among them, made while the window stays alive.
+// studio/findings: runs all checks of a program, those of a whole year included, in a clock_tool
+// process, so that the window stays responsive.
 #pragma once
 
 #include "lint/finding.h"
@@ -13,8 +13,7 @@
 
 namespace ClockStudio {
 
-/// Runs clock_tool's lint: a check of every day of a year takes too long for the window's own
-/// thread.
+/// Runs clock_tool lint: checking every day of a year takes too long for the window's thread.
 class FitCheck : public QObject
 {
     Q_OBJECT
@@ -23,17 +22,17 @@ public:
     explicit FitCheck(QObject *parent = nullptr);
     ~FitCheck() override;
 
-    /// Checks a program; what was being checked before is dropped.
+    /// Checks a program; a check that still runs is abandoned.
     void Start(const QByteArray &program);
-    /// Nothing is told of what is being checked.
+    /// Abandons the running check; Found is not emitted for it.
     void Drop();
     bool IsRunning() const { return m_process.state() != QProcess::NotRunning; }
 
 Q_SIGNALS:
     /// In the order of the text.
     void Found(const QVector<ClockTool::Finding> &findings);
-    /// In place of Found: the tool cannot be run, or takes minutes, as it may for hundreds of
-    /// clocks above each other.
+    /// In place of Found: the tool cannot be run or takes minutes, as it may for hundreds of
+    /// overlapping clocks.
     void Failed(const QString &reason);
     void Ended(); ///< after either, or without if the check was dropped
 
@@ -43,7 +42,7 @@ private:
     void Fail(const QString &reason);
 
     QTemporaryDir m_work;
-    std::optional<QByteArray> m_next; ///< to be checked when what runs has ended
+    std::optional<QByteArray> m_next; ///< to be checked when the running check has ended
     bool m_isDropped = false;
     QProcess m_process;
     QTimer m_limit;
