@@ -22,10 +22,11 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
-constexpr int kPitch = 6;          // pixels per LED in the picture
-constexpr int kResolution = 150;   // dots per inch
-constexpr int kPictureWidth = 630; // pixels at 96 dpi: as wide as the text between the margins that
-                                   // QTextDocument sets
+constexpr int kPitch = 6;        // pixels per LED in the picture
+constexpr int kResolution = 150; // dots per inch
+// Pixels at 96 dpi: as wide as the text between the margins that QTextDocument sets, and so high
+// that the findings fit under it.
+constexpr QSize kPicture(630, 600);
 
 QString Translated(const char *text)
 {
@@ -106,7 +107,7 @@ QString SheetHtml(const QString &title, LiveWall &wall, const QStringList &findi
             .arg(title.toHtmlEscaped(),
                  QLocale().toString(QDate::currentDate(), QLocale::LongFormat),
                  QString::number(wall.Size().width()), QString::number(wall.Size().height()),
-                 QString::number(kPictureWidth));
+                 QString::number(wall.Size().scaled(kPicture, Qt::KeepAspectRatio).width()));
     html += QStringLiteral("<h3>%1</h3>")
                 .arg(Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "Findings")));
     if (findings.isEmpty())

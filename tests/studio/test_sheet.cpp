@@ -35,6 +35,8 @@ private slots:
     void initTestCase() { QVERIFY(ClockCatalogues::Install("en")); }
     void SaysWhatIsShown();
     void TextsAreNotMarkup();
+    void PictureFitsOnAPage_data();
+    void PictureFitsOnAPage();
 };
 
 void TestSheet::SaysWhatIsShown()
@@ -64,6 +66,23 @@ void TestSheet::TextsAreNotMarkup()
     const QString all = SheetHtml("100%3<b>", studio.wall, {"1 < 2"});
     QVERIFY(all.contains("100%3&lt;b&gt;"));
     QVERIFY(all.contains("1 &lt; 2"));
+}
+
+void TestSheet::PictureFitsOnAPage_data()
+{
+    QTest::addColumn<QByteArray>("size");
+    QTest::newRow("tall") << QByteArray("width=\"64\" height=\"960\"");
+    QTest::newRow("wide") << QByteArray("width=\"960\" height=\"64\"");
+}
+
+// One page is enough for the picture and a wall without clocks.
+void TestSheet::PictureFitsOnAPage()
+{
+    QFETCH(QByteArray, size);
+    StudioUnderTest studio("<program " + size + "/>\n");
+    const QByteArray pdf = SheetPdf("wall", studio.wall, {});
+    QVERIFY(pdf.startsWith("%PDF"));
+    QCOMPARE(pdf.count("/Type /Page\n"), 1);
 }
 
 QTEST_MAIN(TestSheet)
