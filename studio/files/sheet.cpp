@@ -23,10 +23,25 @@ namespace {
 using namespace Lw::HNodeClock;
 
 constexpr int kPitch = 6;        // pixels per LED in the picture
+constexpr int kMinPitch = 3;     // printed dots per LED
 constexpr int kResolution = 150; // dots per inch
 // Pixels at 96 dpi: as wide as the text between the margins that QTextDocument sets, and so high
 // that the findings fit under it.
 constexpr QSize kPicture(630, 600);
+
+QSize PrintedSize(LiveWall &wall)
+{
+    return wall.Size().scaled(kPicture, Qt::KeepAspectRatio);
+}
+
+// As LEDs where they can be told apart; smaller ones would only darken the picture.
+QImage PictureOf(LiveWall &wall)
+{
+    const double dots = double(kResolution) / 96 * PrintedSize(wall).width() / wall.Size().width();
+    const QImage leds =
+        dots < kMinPitch ? QImage() : ClockStage::LedScreen(kPitch).Diodes(wall.Screen());
+    return leds.isNull() ? wall.Screen() : leds;
+}
 
 QString Translated(const char *text)
 {
@@ -107,7 +122,7 @@ QString SheetHtml(const QString &title, LiveWall &wall, const QStringList &findi
             .arg(title.toHtmlEscaped(),
                  QLocale().toString(QDate::currentDate(), QLocale::LongFormat),
                  QString::number(wall.Size().width()), QString::number(wall.Size().height()),
-                 QString::number(wall.Size().scaled(kPicture, Qt::KeepAspectRatio).width()));
+                 QString::number(PrintedSize(wall).width()));
     html += QStringLiteral("<h3>%1</h3>")
                 .arg(Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "Findings")));
     if (findings.isEmpty())
@@ -136,9 +151,8 @@ QByteArray SheetPdf(const QString &title, LiveWall &wall, const QStringList &fin
     writer.setPageMargins(QMarginsF());
     writer.setTitle(title);
     QTextDocument document;
-    const QImage picture = ClockStage::LedScreen(kPitch).Diodes(wall.Screen());
     document.addResource(QTextDocument::ImageResource, QUrl(QStringLiteral("wall")),
-                         picture.isNull() ? wall.Screen() : picture);
+                         PictureOf(wall));
     document.setHtml(SheetHtml(title, wall, findings));
     document.print(&writer);
     return pdf.data();
