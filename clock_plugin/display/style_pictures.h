@@ -8,7 +8,8 @@
 
 namespace Lw::HNodeClock {
 
-/// Styles 1 to kStyleCount have a dial picture. image/CMakeLists.txt and scripts/sheet parse this line.
+/// Styles 1 to kStyleCount have a dial picture. image/CMakeLists.txt and scripts/sheet parse this
+/// line.
 inline constexpr int kStyleCount = 10;
 static_assert(RowOf(Attribute::PictrueClockType).range.last == kStyleCount,
               "the attribute table names the styles");
