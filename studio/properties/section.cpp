@@ -60,8 +60,9 @@ void Section::AddLine(const QString &label, const QVector<QWidget *> &controls)
     m_grid->addWidget(caption, row, 0);
     auto *const line = new QHBoxLayout;
     line->setSpacing(6);
+    const QMetaObject *const kind = controls.first()->metaObject();
     for (QWidget *const control : controls)
-        line->addWidget(control, control == controls.first() ? 1 : 0);
+        line->addWidget(control, control->metaObject() == kind ? 1 : 0);
     m_grid->addLayout(line, row, 1);
 }
 

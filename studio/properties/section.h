@@ -22,7 +22,7 @@ public:
     void AddSwitch(const QString &explanation);
     void SetSwitch(Qt::CheckState state);
 
-    /// Adds a labelled row of controls.
+    /// Adds a labelled row of controls. Those of the kind of the first share the width.
     void AddLine(const QString &label, const QVector<QWidget *> &controls);
     void AddWide(QWidget *control);
 
