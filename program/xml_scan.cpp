@@ -22,6 +22,16 @@ QString Shown(const QStringRef &name)
     return name.left(kLongestName).toString();
 }
 
+/// What is wrong with "&" and these characters up to a semicolon; empty without one.
+QString ReferenceFault(const QStringRef &name)
+{
+    const bool isName = !name.isEmpty()
+        && std::all_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); });
+    return isName
+        ? QStringLiteral("&%1; is not defined in XML; write the character itself").arg(name)
+        : QStringLiteral("\"&\" in text must be written as &amp;");
+}
+
 bool EndsName(QChar c)
 {
     switch (c.unicode()) {
@@ -120,7 +130,7 @@ private:
                 || is("gt") || is("quot") || is("apos");
             if (end < 0 || !isKnown)
                 return Fail(m_line + text.left(i).count(QLatin1Char('\n')),
-                            QStringLiteral("\"&\" in text must be written as &amp;"));
+                            ReferenceFault(name.size() == end - i - 1 ? name : QStringRef()));
         }
     }
 
