@@ -223,7 +223,7 @@ void TestGlyphLoading::SwappedForAPipe()
     QBuffer buffer(&picture);
     QVERIFY(buffer.open(QBuffer::WriteOnly) && image.save(&buffer, "PNG"));
     const SwappedFile swapped(path, picture);
-    QVERIFY(swapped.BothAreMet(2000, 5000, [&path] { return !ReadImageFile(path).isNull(); }));
+    QVERIFY(swapped.BothAreMet(2000, [&path] { return !ReadImageFile(path).isNull(); }));
 }
 
 void TestGlyphLoading::TooLargeIsNotDecoded()

@@ -116,7 +116,7 @@ void TestCarriedFiles::SwappedForAPipe()
 {
     const SwappedFile swapped(Path("swapped"), kContent);
     QVERIFY(swapped.BothAreMet(
-        1000, 60000, [this] { return WarningsOf(Path("swapped"), kDigest, 12).isEmpty(); }));
+        1000, [this] { return WarningsOf(Path("swapped"), kDigest, 12).isEmpty(); }));
 }
 
 } // namespace

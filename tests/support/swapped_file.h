@@ -28,10 +28,12 @@ public:
     }
     Q_DISABLE_COPY(SwappedFile)
 
-    /// Whether both were met, often, until each was met so many times or the time is over.
+    /// Whether both were met often, until each was met so many times or two minutes are over: on a
+    /// busy machine the threads may take turns for a while.
     template<typename Read>
-    static bool BothAreMet(int times, int milliseconds, const Read &isFile)
+    static bool BothAreMet(int times, const Read &isFile)
     {
+        constexpr int milliseconds = 120000;
         int files = 0;
         int pipes = 0;
         QElapsedTimer timer;
