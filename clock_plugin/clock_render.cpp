@@ -69,9 +69,7 @@ HClockRender::HClockRender(HClockNode *node) : m_node(node), m_state(kIdle)
 {
     m_player.reset(new pictureplayer(nullptr));
     m_drawer.reset(new DrawDisplayImage(m_node));
-    // A clock of another kind loads them when it becomes a picture clock.
-    if (m_node && m_node->ClockType() == PictureClock)
-        m_drawer->InitClockTypePixmap();
+    m_drawer->InitClockTypePixmap();
     new FrameDamage(m_drawer.data(), this);
 }
 

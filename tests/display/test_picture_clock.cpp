@@ -203,7 +203,7 @@ void TestPictureClock::ChangingSettings()
 }
 
 // 09:30:30: the hour hand at 285 degrees, the minute hand at 183, the second hand at 180.
-// The renderer of a digital clock has loaded no pictures.
+// The renderer was created for a digital clock.
 void TestPictureClock::ADigitalClockBecomesOne()
 {
     constexpr unsigned int kId = 41;

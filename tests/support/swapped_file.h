@@ -28,8 +28,8 @@ public:
     }
     Q_DISABLE_COPY(SwappedFile)
 
-    /// Whether both were met often, until each was met so many times or two minutes are over: on a
-    /// busy machine the threads may take turns for a while.
+    /// Reads until each was met so many times, for at most two minutes: a busy machine may run one
+    /// of the threads for long. Returns whether both were met often.
     template<typename Read>
     static bool BothAreMet(int times, const Read &isFile)
     {
