@@ -41,11 +41,11 @@ QByteArray WallOf(int clocks, int points)
     return text + "</program>\n";
 }
 
-/// Processor time of this process in milliseconds.
+/// Processor time of the window's thread in milliseconds.
 double ProcessorTime()
 {
     timespec time {};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
@@ -77,7 +77,7 @@ struct OpenWindow
         while (!window->Editor().Wall().IsComplete());
     }
     /// The longest that the window did not respond while clocks were made, in milliseconds of
-    /// processor time.
+    /// its thread's processor time.
     double LongestWait()
     {
         double longest = 0;

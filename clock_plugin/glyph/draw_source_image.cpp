@@ -43,6 +43,16 @@ bool Holds(const QString &path, const DrawnGlyph &glyph)
                                : FileHolds(path, glyph.file);
 }
 
+bool CanBeDrawn(const GlyphRequest &request)
+{
+    return !request.text.isEmpty() && request.size <= kLargestFontSize;
+}
+
+GlyphContent ContentOf(const GlyphRequest &request, const GlyphFace &face)
+{
+    return {request.shape, request.text, face.description, request.colour};
+}
+
 bool IsTopTextFile(const QString &key, const QString &fileSuffix)
 {
     return key == GlyphKey(Glyph::TopText) && fileSuffix == key + QLatin1String(kGlyphSuffix);
@@ -109,14 +119,38 @@ void DrwSourceIMage::DrawClockSourceImage(HClockNode *node, bool calcMD5, bool i
     Lw::SetGlyphFaults(*node, faults);
 }
 
-GlyphOutcome DrwSourceIMage::DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id)
+GlyphRequest DrwSourceIMage::RequestFor(const GlyphImage &image, const QString &id) const
 {
     const FontSettings &font = m_fonts[static_cast<int>(image.row->font)];
-    const QString &key = image.Key();
-    const QString path = PathOf(image.row->shape, id, key + QLatin1String(kGlyphSuffix));
-    return Make(node, key,
-                {image.row->shape, GlyphText(image, m_topText), font.family, font.size, font.colour,
-                 path, image.row->glyph == Glyph::TopText});
+    const QString path = PathOf(image.row->shape, id, image.Key() + QLatin1String(kGlyphSuffix));
+    return {image.row->shape,
+            GlyphText(image, m_topText),
+            font.family,
+            font.size,
+            font.colour,
+            path,
+            image.row->glyph == Glyph::TopText};
+}
+
+GlyphOutcome DrwSourceIMage::DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id)
+{
+    return Make(node, image.Key(), RequestFor(image, id));
+}
+
+std::optional<UnencodedGlyph> DrwSourceIMage::DrawUnencoded(const GlyphImage &image,
+                                                            const QString &id)
+{
+    const GlyphRequest request = RequestFor(image, id);
+    if (!CanBeDrawn(request))
+        return std::nullopt;
+    const GlyphFace &face = FaceFor(request.family, request.size);
+    const GlyphContent content = ContentOf(request, face);
+    const DrawnGlyph known = GlyphCache::Shared().Find(content);
+    const bool isThere =
+        known.state == GlyphState::Drawn && (!known.file.isNull() || Holds(request.path, known));
+    if (isThere)
+        return std::nullopt;
+    return UnencodedGlyph {content, DrawGlyphPicture(*m_painter, content, face.font)};
 }
 
 void DrwSourceIMage::DrawImage(HClockNode *node, QString key, QString text, QString id,
@@ -162,15 +196,15 @@ GlyphOutcome DrwSourceIMage::DrawAndWrite(const GlyphRequest &request)
     GlyphOutcome outcome;
     if (request.text.isEmpty())
         outcome.state = GlyphState::Nothing;
-    if (request.text.isEmpty() || request.size > kLargestFontSize)
+    if (!CanBeDrawn(request))
         return outcome;
     const GlyphFace &face = FaceFor(request.family, request.size);
-    const GlyphContent content {request.shape, request.text, face.description, request.colour};
+    const GlyphContent content = ContentOf(request, face);
     GlyphCache &cache = GlyphCache::Shared();
     DrawnGlyph glyph = cache.Find(content);
     bool isThere = glyph.state == GlyphState::Drawn && Holds(request.path, glyph);
     if (!isThere && glyph.file.isNull()) {
-        glyph = DrawGlyphImage(*m_painter, content, face.font);
+        glyph = EncodeGlyphPicture(DrawGlyphPicture(*m_painter, content, face.font));
         cache.Keep(content, glyph);
         isThere = Holds(request.path, glyph);
     }

@@ -12,6 +12,8 @@
 #include <QScopedPointer>
 #include <QString>
 
+#include <optional>
+
 QT_BEGIN_NAMESPACE
 class QPainter;
 QT_END_NAMESPACE
@@ -21,6 +23,7 @@ namespace Lw::HNodeClock {
 struct GlyphFace;
 struct GlyphOutcome;
 struct GlyphRequest;
+struct UnencodedGlyph;
 
 /// Use one object per generation.
 ///
@@ -54,6 +57,18 @@ public:
     int GetNumberMaxWidth(QFontMetrics metrics); ///< the widest advance among "0" to "9", in pixels
     QColor IntToQColor(int colour);              ///< 0x00BBGGRR, always opaque
 
+    // For programs that make the set image by image; InitParameters() is called first, and
+    // the Id is the node's. Not exported.
+
+    /// Draws an image of the node's set; nullopt if it cannot be drawn, or need not be because the
+    /// cache or its file has it. The image is neither encoded, cached nor written.
+    Q_DECL_HIDDEN std::optional<UnencodedGlyph> DrawUnencoded(const GlyphImage &image,
+                                                              const QString &id);
+    /// Writes an image of the node's set and records its file on the node. Draws and encodes it
+    /// unless it is cached.
+    Q_DECL_HIDDEN GlyphOutcome DrawGlyph(HClockNode *node, const GlyphImage &image,
+                                         const QString &id);
+
 public Q_SLOTS:
     /// Writes the node's whole set and records every file on it. With calcMD5 each file gets its
     /// digest name; with isTempUpdate the text images go to the temporary image directory, the
@@ -70,8 +85,7 @@ private:
 
     // The class is exported; its private functions are not.
     Q_DECL_HIDDEN void ReadFont(HClockNode *node, GlyphFont font);
-    Q_DECL_HIDDEN GlyphOutcome DrawGlyph(HClockNode *node, const GlyphImage &image,
-                                         const QString &id);
+    Q_DECL_HIDDEN GlyphRequest RequestFor(const GlyphImage &image, const QString &id) const;
     Q_DECL_HIDDEN QString PathOf(GlyphShape shape, const QString &id, const QString &suffix) const;
     Q_DECL_HIDDEN GlyphOutcome Make(HClockNode *node, const QString &key,
                                     const GlyphRequest &request);

@@ -31,22 +31,16 @@ bool HasInk(const QImage &image)
     return false;
 }
 
-DrawnGlyph Encoded(const QPixmap &picture)
+/// A null image if there is no memory for it.
+GlyphPicture Finished(QPainter &painter, const QPixmap &picture)
 {
+    painter.end();
     const QImage image = picture.toImage();
-    DrawnGlyph drawn;
-    drawn.file = EncodePng(image);
-    if (drawn.file.isEmpty())
-        return {};
-    drawn.state = GlyphState::Drawn;
-    drawn.facts.size = drawn.file.size();
-    drawn.facts.digest = QCryptographicHash::hash(drawn.file, QCryptographicHash::Sha1);
-    drawn.facts.hasInk = image.depth() != 32 || HasInk(image);
-    return drawn;
+    return {image.isNull() ? GlyphState::TooLarge : GlyphState::Drawn, image, {}};
 }
 
-/// The picture is encoded while the painter is still active; a strip after painter.end().
-DrawnGlyph DrawText(QPainter &painter, const QFont &font, const QString &text, const QColor &colour)
+GlyphPicture DrawText(QPainter &painter, const QFont &font, const QString &text,
+                      const QColor &colour)
 {
     const int width = GlyphTextWidth(QFontMetrics(font), text);
     if (width <= 0)
@@ -55,19 +49,16 @@ DrawnGlyph DrawText(QPainter &painter, const QFont &font, const QString &text, c
     if (picture.isNull())
         return {};
     BeginText(painter, picture, font, colour, text);
-    const DrawnGlyph drawn = Encoded(picture);
-    painter.end();
-    return drawn;
+    return Finished(painter, picture);
 }
 
-DrawnGlyph DrawStrip(QPainter &painter, const QFont &font, const QColor &colour)
+GlyphPicture DrawStrip(QPainter &painter, const QFont &font, const QColor &colour)
 {
     QPixmap picture = EmptyPicture(font, kDigitCells * WidestDigit(QFontMetrics(font)));
     if (picture.isNull())
         return {};
     BeginDigits(painter, picture, font, colour);
-    painter.end();
-    return Encoded(picture);
+    return Finished(painter, picture);
 }
 
 /// Whether a character is visible, so that its absence matters.
@@ -92,16 +83,31 @@ QString CharactersWithoutGlyph(const QFontMetrics &metrics, const QString &text)
 
 } // namespace
 
-DrawnGlyph DrawGlyphImage(QPainter &painter, const GlyphContent &content, const QFont &font)
+GlyphPicture DrawGlyphPicture(QPainter &painter, const GlyphContent &content, const QFont &font)
 {
     const QColor colour = ColourOf(content.colour);
-    DrawnGlyph drawn = content.shape == GlyphShape::DigitStrip
+    GlyphPicture drawn = content.shape == GlyphShape::DigitStrip
         ? DrawStrip(painter, font, colour)
         : DrawText(painter, font, content.text, colour);
     if (drawn.state == GlyphState::Drawn)
-        drawn.facts.charactersWithoutGlyph =
-            CharactersWithoutGlyph(QFontMetrics(font), content.text);
+        drawn.charactersWithoutGlyph = CharactersWithoutGlyph(QFontMetrics(font), content.text);
     return drawn;
+}
+
+DrawnGlyph EncodeGlyphPicture(const GlyphPicture &picture)
+{
+    DrawnGlyph glyph;
+    glyph.state = picture.state;
+    if (picture.state != GlyphState::Drawn)
+        return glyph;
+    glyph.file = EncodePng(picture.image);
+    if (glyph.file.isEmpty())
+        return {};
+    glyph.facts.size = glyph.file.size();
+    glyph.facts.digest = QCryptographicHash::hash(glyph.file, QCryptographicHash::Sha1);
+    glyph.facts.hasInk = picture.image.depth() != 32 || HasInk(picture.image);
+    glyph.facts.charactersWithoutGlyph = picture.charactersWithoutGlyph;
+    return glyph;
 }
 
 } // namespace Lw::HNodeClock

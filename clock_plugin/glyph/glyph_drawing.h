@@ -1,4 +1,4 @@
-// glyph/: draws a glyph image and encodes it as a PNG file in memory.
+// glyph/: draws a glyph image, and encodes it as a PNG file in memory.
 #pragma once
 
 #include "glyph/glyph_cache.h"
@@ -6,6 +6,7 @@
 #include "lw_types.h"
 
 #include <QColor>
+#include <QImage>
 
 QT_BEGIN_NAMESPACE
 class QFont;
@@ -24,7 +25,24 @@ inline QColor ColourOf(int stored)
     return QColor(RedOf(packed), GreenOf(packed), BlueOf(packed));
 }
 
-/// Draws and encodes one image. The painter must not be active.
-DrawnGlyph DrawGlyphImage(QPainter &painter, const GlyphContent &content, const QFont &font);
+/// A glyph image before it is encoded.
+struct GlyphPicture
+{
+    GlyphState state = GlyphState::TooLarge;
+    QImage image;                   ///< null if it was not drawn
+    QString charactersWithoutGlyph; ///< characters that no installed font has
+};
+
+/// A glyph image before it is encoded, and what it was drawn from.
+struct UnencodedGlyph
+{
+    GlyphContent content;
+    GlyphPicture picture;
+};
+
+/// Draws one image, in the application's thread. The painter must not be active.
+GlyphPicture DrawGlyphPicture(QPainter &painter, const GlyphContent &content, const QFont &font);
+/// Encodes what was drawn, in any thread. Takes several times as long as drawing it.
+DrawnGlyph EncodeGlyphPicture(const GlyphPicture &picture);
 
 } // namespace Lw::HNodeClock

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace ClockStudio {
 
@@ -24,7 +25,8 @@ bool HasLargeFonts(HClockNode &node)
 
 } // namespace
 
-ImageSlices::ImageSlices(HClockNode &node) : m_node(node), m_topText(TopTextOf(node))
+ImageSlices::ImageSlices(HClockNode &node)
+    : m_node(node), m_id(QString::number(node.GetAttributeToInt(Key(Attribute::Id))))
 {
     if (node.ClockType() == PictureClock || !HasLargeFonts(node))
         return;
@@ -32,20 +34,18 @@ ImageSlices::ImageSlices(HClockNode &node) : m_node(node), m_topText(TopTextOf(n
     m_images = GlyphImages(GlyphOrder::Generation, node.ClockType());
 }
 
-void ImageSlices::MakeNext()
+void ImageSlices::MakeNext(ImageEncoder &encoder)
 {
-    const GlyphImage &image = m_images[m_next++];
-    const GlyphFontAttributes font = FontAttributes(image.row->font, m_node.ClockType());
-    const QString id = QString::number(m_node.GetAttributeToInt(Key(Attribute::Id)));
-    const QString family = m_node.GetAttribute(Key(font.family));
-    const int size = m_node.GetAttributeToInt(Key(font.size));
-    const int colour = m_node.GetAttributeToInt(Key(font.colour));
-    const QString suffix = image.Key() + QLatin1String(kGlyphSuffix);
-    if (image.row->shape == GlyphShape::DigitStrip)
-        m_drawer.DrawNumberImage(&m_node, image.Key(), id, family, size, colour, suffix);
-    else
-        m_drawer.DrawImage(&m_node, image.Key(), GlyphText(image, m_topText), id, family, size,
-                           colour, suffix);
+    const GlyphImage &image = m_images[m_next];
+    if (!m_isEncoded) {
+        if (auto drawn = m_drawer.DrawUnencoded(image, m_id)) {
+            m_isEncoded = true;
+            return encoder.Encode(std::move(*drawn));
+        }
+    }
+    m_drawer.DrawGlyph(&m_node, image, m_id);
+    m_isEncoded = false;
+    ++m_next;
 }
 
 } // namespace ClockStudio

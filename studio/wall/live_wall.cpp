@@ -41,6 +41,7 @@ LiveWall::LiveWall(QObject *parent) : QObject(parent)
     Lw::HAppConfig::SetClockOutputPath(m_files.path());
     m_makeTimer.setSingleShot(true);
     connect(&m_makeTimer, &QTimer::timeout, this, &LiveWall::MakePendingClocks);
+    connect(&m_encoder, &ImageEncoder::Encoded, this, &LiveWall::MakePendingClocks);
 }
 
 LiveWall::~LiveWall() = default;
@@ -109,7 +110,8 @@ void LiveWall::MakePendingClocks()
         if (!slot.IsPending())
             continue;
         if (spent.hasExpired(kMakingSpan) || !Make(slot, spent)) {
-            m_makeTimer.start();
+            if (!m_encoder.IsBusy())
+                m_makeTimer.start();
             break;
         }
         --m_pendingCount;
@@ -121,7 +123,7 @@ void LiveWall::MakePendingClocks()
     }
 }
 
-/// False if that takes another turn of the event loop.
+/// False if that takes another turn of the event loop, or an image that is being encoded.
 bool LiveWall::Make(Slot &slot, const QElapsedTimer &spent)
 {
     if (slot.identity == 0)
@@ -129,8 +131,8 @@ bool LiveWall::Make(Slot &slot, const QElapsedTimer &spent)
     if (!m_pending || m_pending->text != slot.text || m_pending->identity != slot.identity)
         Begin(slot);
     if (m_pending && !m_pending->images.IsDone()) {
-        while (!m_pending->images.IsDone() && !spent.hasExpired(kMakingSpan))
-            m_pending->images.MakeNext();
+        while (!m_pending->images.IsDone() && !m_encoder.IsBusy() && !spent.hasExpired(kMakingSpan))
+            m_pending->images.MakeNext(m_encoder);
         return false;
     }
     slot.made = slot.text;

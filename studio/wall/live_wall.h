@@ -2,6 +2,7 @@
 // recreated.
 #pragma once
 
+#include "image_encoder.h"
 #include "image_slices.h"
 #include "text/parsed_program.h"
 
@@ -97,6 +98,7 @@ private:
     QTimer m_makeTimer;
     QElapsedTimer m_told; ///< since ClocksMade
     std::unique_ptr<Pending> m_pending;
+    ImageEncoder m_encoder {this};
     QImage m_screen;
 };
 
