@@ -81,12 +81,16 @@ int main(int argc, char **argv)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
-    SetUpApplication(application);
+    const QString problem = SetUpApplication(application);
     const QString program = ProgramFrom(application);
     clock_set_time_source(ClockStage::StageTime::TellPlugin);
     int code = EXIT_SUCCESS;
     {
         MainWindow window(RecoveryDirectory());
+        if (!problem.isEmpty()) {
+            ClockProgram::PrintErrorLines("clock_studio", problem);
+            window.Warn(problem);
+        }
         window.show();
         if (!program.isEmpty())
             window.Open(program);

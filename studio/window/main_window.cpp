@@ -231,6 +231,13 @@ void MainWindow::SayProblem(const QString &text)
     m_messages->Ask(text, {{tr("Dismiss"), {}}});
 }
 
+void MainWindow::Warn(const QString &text)
+{
+    auto *const bar = new MessageBar;
+    qobject_cast<QVBoxLayout *>(centralWidget()->layout())->insertWidget(0, bar);
+    bar->Ask(text, {{tr("Dismiss"), {}}});
+}
+
 void MainWindow::OfferRecovery()
 {
     const QVector<UnsavedWork> left = m_files.Recoverable();

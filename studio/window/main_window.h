@@ -37,6 +37,8 @@ public:
 
     /// False if the file cannot be opened; the window shows the error.
     bool Open(const QString &path);
+    /// Shows a text above everything else, until the user dismisses it.
+    void Warn(const QString &text);
     /// Shows the start page: templates and recent files.
     void ShowGallery();
 

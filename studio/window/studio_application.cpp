@@ -1,13 +1,17 @@
 #include "studio_application.h"
 
 #include "catalogues.h"
+#include "font_check.h"
+#include "glyph_messages.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
+#include <algorithm>
 #include <cstring>
 
 namespace ClockStudio {
@@ -22,12 +26,32 @@ bool Load(QApplication &application, const QLocale &locale, const char *name,
         && QCoreApplication::installTranslator(translator);
 }
 
-/// A language that the studio lacks is replaced as a whole, so that its texts, dates, direction and
-/// Qt's own texts stay in one language.
+bool HasFontFor(const QLocale &locale)
+{
+    const QFontMetrics metrics(QApplication::font());
+    const QVector<uint> sample = locale.nativeLanguageName().toUcs4();
+    return std::all_of(sample.cbegin(), sample.cend(),
+                       [&metrics](uint letter) { return metrics.inFontUcs4(letter); });
+}
+
+/// Not translated: it is about texts that cannot be shown.
+QString FontProblem(const QLocale &locale)
+{
+    if (!ClockFit::HasFonts())
+        return ClockProgram::NoFontText();
+    if (HasFontFor(locale))
+        return QString();
+    return QStringLiteral("No installed font has the characters of %1, so the window is in "
+                          "English.")
+        .arg(QLocale::languageToString(locale.language()));
+}
+
+/// A language that the studio or every font lacks is replaced as a whole, so that its texts, dates,
+/// direction and Qt's own texts stay in one language.
 void LoadTranslations(QApplication &application)
 {
     const QString catalogues = QStringLiteral(":/translations");
-    if (!Load(application, QLocale(), "studio", catalogues)) {
+    if (!HasFontFor(QLocale()) || !Load(application, QLocale(), "studio", catalogues)) {
         QLocale::setDefault(QLocale(QLocale::English));
         Load(application, QLocale(), "studio", catalogues);
     }
@@ -48,15 +72,18 @@ bool HasDisplay(int argc, char **argv)
         || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-void SetUpApplication(QApplication &application)
+QString SetUpApplication(QApplication &application)
 {
     QCoreApplication::setApplicationName(QStringLiteral("clock-studio"));
     QCoreApplication::setOrganizationName(QStringLiteral("clock-studio"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CLOCK_STUDIO_VERSION));
-    QGuiApplication::setApplicationDisplayName(QString());
+    const QString problem = FontProblem(QLocale());
+    // Part of every window's title: the desktop draws it and may have fonts of its own.
+    QGuiApplication::setApplicationDisplayName(ClockFit::HasFonts() ? QString() : problem);
     QGuiApplication::setDesktopFileName(QStringLiteral("clock-studio"));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/clock-studio.svg")));
     LoadTranslations(application);
+    return problem;
 }
 
 } // namespace ClockStudio

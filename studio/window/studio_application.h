@@ -1,7 +1,7 @@
 // studio/window: sets up the QApplication: names, icon, translations.
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 QT_BEGIN_NAMESPACE
 class QApplication;
@@ -12,7 +12,8 @@ namespace ClockStudio {
 /// Whether a window can be opened, judging by the environment and the arguments.
 bool HasDisplay(int argc, char **argv);
 
-/// Sets names, icon, translations and the layout direction.
-void SetUpApplication(QApplication &application);
+/// Sets names, icon, translations and the layout direction. Returns which fonts the window lacks;
+/// empty if none.
+QString SetUpApplication(QApplication &application);
 
 } // namespace ClockStudio
