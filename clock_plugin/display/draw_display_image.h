@@ -97,8 +97,9 @@ public:
     void DrawDigitalClock();
 
     // Picture clock.
-    /// Loads the pictures of the hands and of the style given by PictrueClockType. Unreadable
-    /// pictures are skipped. Forces an analog dial redraw.
+    /// Loads the pictures of the hands and of the style given by PictrueClockType again; before the
+    /// first frame of a picture clock, leaves that to it. Unreadable pictures are skipped. Forces
+    /// an analog dial redraw.
     void InitClockTypePixmap();
     /// Draws the frame: dial and hands. Loads the pictures again when style or size has changed.
     void DrawPixmapClock();

@@ -37,20 +37,25 @@ void PaintTurned(QPainter &painter, const QPixmap &picture, double degrees, cons
 
 } // namespace
 
+// Before the first frame, which always loads the pictures, the host is only asked for what they
+// depend on.
 void PictureFace::LoadPictures()
 {
+    const QSize size = m_shared.Size();
+    const int style = m_shared.Number(Attribute::PictrueClockType);
+    if (!m_style)
+        return;
     const QString folder = StyleFolder();
     m_hour = ReadPixmapFile(folder + QLatin1String(kHourPicture));
     m_minute = ReadPixmapFile(folder + QLatin1String(kMinutePicture));
     m_second = ReadPixmapFile(folder + QLatin1String(kSecondPicture));
     m_centre = ReadPixmapFile(folder + QLatin1String(kCentrePicture));
 
-    const QSize size = m_shared.Size();
     m_size = QSize(m_shared.frameWidth, size.height());
     // Clamped, as a host's size may be any number; beyond the bounds nothing is drawn.
     const int side = qBound(0, std::min(size.width(), size.height()), kImageSide + 1);
     const QRect dial((size.width() - side) / 2, (m_size.height() - side) / 2, side, side);
-    DrawBackground(dial, folder + DialPicture(m_shared.Number(Attribute::PictrueClockType)));
+    DrawBackground(dial, folder + DialPicture(style));
 }
 
 // The background covers only the part of the frame that the dial and the hands reach.

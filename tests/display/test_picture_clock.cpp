@@ -4,6 +4,7 @@
 #include "clock_under_test.h"
 #include "messages.h"
 #include "odd_areas.h"
+#include "opened_files.h"
 #include "plain_clocks.h"
 #include "start_program.h"
 
@@ -22,6 +23,7 @@ namespace {
 
 constexpr char kChildMark[] = "CLOCK_PICTURE_TEST_CHILD";
 constexpr int kPicture = 2;
+constexpr unsigned int kId = 41;
 constexpr QRgb kKeyColour = 0xff010201;
 
 QString Folder()
@@ -92,6 +94,8 @@ private Q_SLOTS:
     void HandsFollowTheSmallerSide();
     void StyleChangesAtTheNextFrame();
     void PicturesAreKept();
+    void EachPictureIsReadOnce_data();
+    void EachPictureIsReadOnce();
     void MissingDialShowsHands();
     void MissingHandsShowDial();
     void OddFiles_data();
@@ -206,7 +210,6 @@ void TestPictureClock::ChangingSettings()
 // The renderer was created for a digital clock.
 void TestPictureClock::ADigitalClockBecomesOne()
 {
-    constexpr unsigned int kId = 41;
     SaveFancyPictures();
     ClockUnderTest clock(DigitalClock, QSize(100, 90));
     clock.MakeGlyphs();
@@ -288,6 +291,32 @@ void TestPictureClock::PicturesAreKept()
     QVERIFY(QDir(Folder()).removeRecursively());
     QCOMPARE(drawer.DrawClockDisplayImage(), first);
     QCOMPARE(drawer.DrawClockDisplayImage(), first);
+}
+
+void TestPictureClock::EachPictureIsReadOnce_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QStringList>("files");
+    const QStringList none;
+    QTest::newRow("analog") << int(AnalogClock) << none;
+    QTest::newRow("digital") << int(DigitalClock) << none;
+    QTest::newRow("picture") << kPicture
+                             << QStringList {"center.png", "hour.png", "minute.png",
+                                             "picbutton1.png", "second.png"};
+}
+
+void TestPictureClock::EachPictureIsReadOnce()
+{
+    QFETCH(int, type);
+    SaveFancyPictures();
+    OpenedFiles opened(Folder());
+    QVERIFY(opened.IsWatching());
+    ClockUnderTest clock(type, QSize(100, 90));
+    HClockRender render(&clock.node);
+    render.Start(kId, 0);
+    QTEST(opened.Take(), "files");
+    render.PlayNext();
+    QCOMPARE(opened.Take(), QStringList());
 }
 
 void TestPictureClock::MissingDialShowsHands()

@@ -101,7 +101,7 @@ private Q_SLOTS:
     void DestructionStopsThePlayerFirst();
     void RendererGoneByInitialising_data();
     void RendererGoneByInitialising();
-    void PicturesAreLoadedAtConstruction();
+    void StyleIsReadAtConstruction();
     void WritesPassFalse();
 };
 
@@ -321,8 +321,8 @@ void TestMinimalHost::RendererGoneByInitialising()
     QCOMPARE(MinimalHost::Calls(), calls);
 }
 
-// Which style to load is asked of the node when the renderer is made, not at the first frame.
-void TestMinimalHost::PicturesAreLoadedAtConstruction()
+// Hosts may count on it, although the pictures are only loaded for the first frame.
+void TestMinimalHost::StyleIsReadAtConstruction()
 {
     const std::unique_ptr<Lw::HNode> node = MakeNode(QByteArray());
     node->SetAttribute(QStringLiteral("ClockType"), 2, false);
