@@ -10,6 +10,9 @@
 
 #include "hnode.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 #include <algorithm>
 #include <cstdio>
 #include <optional>
@@ -69,7 +72,14 @@ struct LintOptions
     bool checksFit = true;
     bool asJson = false;
     bool allowsLargeFrames = false;
+    QString base; ///< the directory of the programs' glyph files; empty: that of each program
 };
+
+/// The path by which a program's glyph files are found.
+QString BasePath(const QString &path, const LintOptions &options)
+{
+    return options.base.isEmpty() ? path : QDir(options.base).filePath(QFileInfo(path).fileName());
+}
 
 /// A program that cannot be played has none of these findings.
 void LintClocks(const QDomDocument &document, const QString &path, const LintOptions &options,
@@ -100,8 +110,9 @@ CommandResult LintFile(const QString &path, const LintOptions &options)
     const Result<QDomDocument> document = ClockProgram::ParseDocument(*bytes, path);
     if (!document)
         return Report(document.Error());
-    Findings findings = LintProgram(*document, *bytes, path);
-    LintClocks(*document, path, options, findings);
+    const QString base = BasePath(path, options);
+    Findings findings = LintProgram(*document, *bytes, base);
+    LintClocks(*document, base, options, findings);
     if (!options.asJson)
         Show(findings, path);
     else if (const MaybeFailure failure = ShowAsJson(findings, path))
@@ -111,6 +122,7 @@ CommandResult LintFile(const QString &path, const LintOptions &options)
 
 const QLatin1String kFormat("format");
 const QLatin1String kNoFit("no-fit");
+const QLatin1String kBase("base");
 
 Result<LintOptions> ReadOptions(const ToolArguments &tool)
 {
@@ -126,6 +138,7 @@ Result<LintOptions> ReadOptions(const ToolArguments &tool)
     options.allowsLargeFrames = tool.AllowsLargeFrames();
     options.begin = *begin;
     options.checksFit = !tool.IsSet(kNoFit);
+    options.base = tool.Value(kBase);
     return options;
 }
 
@@ -139,6 +152,12 @@ CommandResult RunLint(const QStringList &arguments)
     tool.AddLargeFrames();
     tool.AddYear();
     tool.AddFlag(kNoFit, QStringLiteral("Skip the check of what the clocks show in a year."));
+    tool.AddOption(
+        {kBase},
+        QStringLiteral(
+            "Look for the programs' glyph files in this directory instead of beside each "
+            "program."),
+        QStringLiteral("directory"));
     tool.AddOption({kFormat}, QStringLiteral("Output format of the findings: text or json."),
                    QStringLiteral("format"), QStringLiteral("text"));
     if (const auto ended = tool.Parse(arguments))

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QProcess>
 #include <QProgressDialog>
 #include <QTimer>
@@ -126,11 +127,14 @@ ToolCommand ExportCommand(const QString &program, const QString &folder)
              ClockCatalogues::Installed(), program, folder}};
 }
 
-ToolCommand LintCommand(const QString &program)
+ToolCommand LintCommand(const QString &copy, const QString &original)
 {
-    return {ClockToolPath(),
-            {QStringLiteral("lint"), QStringLiteral("--format"), QStringLiteral("json"),
-             QStringLiteral("--language"), ClockCatalogues::Installed(), program}};
+    QStringList arguments {QStringLiteral("lint"), QStringLiteral("--format"),
+                           QStringLiteral("json"), QStringLiteral("--language"),
+                           ClockCatalogues::Installed()};
+    if (!original.isEmpty())
+        arguments += {QStringLiteral("--base"), QFileInfo(original).absolutePath()};
+    return {ClockToolPath(), arguments + QStringList(copy)};
 }
 
 ToolResult RunBehindDialog(const QVector<ToolCommand> &commands, const QString &what,

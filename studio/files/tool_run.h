@@ -24,9 +24,9 @@ struct ToolCommand
 QString ClockToolPath();
 /// The clock_tool command that exports a program to a folder, in the clocks' current language.
 ToolCommand ExportCommand(const QString &program, const QString &folder);
-/// The clock_tool command that checks a program, in the same language; prints a line of JSON per
-/// finding.
-ToolCommand LintCommand(const QString &program);
+/// The clock_tool command that checks a copy of a program, in the same language; prints a line of
+/// JSON per finding. The glyph files are beside the original; its path is empty if there is none.
+ToolCommand LintCommand(const QString &copy, const QString &original);
 
 struct ToolResult
 {

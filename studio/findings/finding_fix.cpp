@@ -19,13 +19,14 @@ namespace {
 
 using ClockTool::Finding;
 
-bool HasFinding(const QString &text, const TextForm &form, const QString &sentence, qint64 instant)
+bool HasFinding(const QString &text, const TextForm &form, const QString &sentence, qint64 instant,
+                const QString &path)
 {
     const auto read = ReadProgramText(text, form);
     const auto *const parsed = std::get_if<ParsedProgram>(&read);
     if (!parsed)
         return true;
-    const QVector<Finding> findings = FindingsIn(*parsed, instant);
+    const QVector<Finding> findings = FindingsIn(*parsed, instant, path);
     return std::any_of(findings.cbegin(), findings.cend(),
                        [&sentence](const Finding &finding) { return finding.text == sentence; });
 }
@@ -74,14 +75,14 @@ bool IsTooSmallText(const ParsedProgram &parsed, const Finding &finding)
 
 } // namespace
 
-QVector<Finding> FindingsIn(const ParsedProgram &parsed, qint64 instant)
+QVector<Finding> FindingsIn(const ParsedProgram &parsed, qint64 instant, const QString &path)
 {
     const std::optional<QByteArray> contents = EncodeText(parsed.text, parsed.form);
     if (!contents)
         return {};
     const QDomDocument &document = parsed.program.document;
-    ClockTool::Findings findings = ClockTool::LintProgram(document, *contents, QString());
-    if (const auto program = ClockProgram::InterpretProgram(document, QString()))
+    ClockTool::Findings findings = ClockTool::LintProgram(document, *contents, path);
+    if (const auto program = ClockProgram::InterpretProgram(document, path))
         LintClocks(*program, instant, findings);
     return findings.ByLine();
 }
@@ -117,7 +118,8 @@ QString KeyOf(const Finding &finding, int clockType)
     return RowNamed(finding.place.attribute) ? finding.place.attribute : QString();
 }
 
-std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const Finding &finding, qint64 instant)
+std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const Finding &finding, qint64 instant,
+                              const QString &path)
 {
     const int element = ElementOf(parsed, finding);
     if (finding.suggestion.isEmpty() || element < 0 || IsTooSmallText(parsed, finding))
@@ -127,7 +129,7 @@ std::optional<TextEdit> FixOf(const ParsedProgram &parsed, const Finding &findin
             Replacement(parsed.text, range, EscapedValue(finding.suggestion, QLatin1Char('"'))));
         QString text = parsed.text;
         ApplyEdits(text, {edit});
-        if (!HasFinding(text, parsed.form, finding.text, instant))
+        if (!HasFinding(text, parsed.form, finding.text, instant, path))
             return edit;
     }
     return std::nullopt;

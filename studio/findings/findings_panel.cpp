@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace ClockStudio {
 
@@ -56,6 +57,12 @@ FindingsPanel::FindingsPanel(WallEditor &editor, QWidget *parent)
     Check();
 }
 
+void FindingsPanel::SetProgramPath(const QString &path)
+{
+    if (std::exchange(m_path, path) != path)
+        m_delay.start();
+}
+
 void FindingsPanel::Check()
 {
     m_delay.stop();
@@ -63,11 +70,11 @@ void FindingsPanel::Check()
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
     const auto bytes = m_editor.Document().Bytes();
     const bool hasClocks = parsed && parsed->AreaCount() > 0;
-    List(hasClocks ? FindingsIn(*parsed, Lw::HNodeClock::SystemMilliseconds())
+    List(hasClocks ? FindingsIn(*parsed, Lw::HNodeClock::SystemMilliseconds(), m_path)
                    : QVector<ClockTool::Finding>());
     m_unchecked->hide();
     if (hasClocks && bytes)
-        m_fit.Start(*bytes);
+        m_fit.Start(*bytes, m_path);
 }
 
 void FindingsPanel::SayUnchecked(const QString &reason)
@@ -137,7 +144,7 @@ std::optional<TextEdit> FindingsPanel::FixFor(int row) const
     const ParsedProgram *const parsed = m_editor.Document().Parsed();
     if (!parsed || row < 0 || row >= m_findings.size())
         return std::nullopt;
-    return FixOf(*parsed, m_findings[row], Lw::HNodeClock::SystemMilliseconds());
+    return FixOf(*parsed, m_findings[row], Lw::HNodeClock::SystemMilliseconds(), m_path);
 }
 
 void FindingsPanel::UpdateFix()

@@ -25,6 +25,8 @@ public:
     explicit FindingsPanel(WallEditor &editor, QWidget *parent = nullptr);
 
     const QVector<ClockTool::Finding> &Findings() const { return m_findings; }
+    /// The program's file, beside which its glyph files are; empty while it was never saved.
+    void SetProgramPath(const QString &path);
     /// Checks immediately instead of after the delay. Slower findings are listed when they arrive.
     void Check();
     /// Like Check(), but also waits for the slower findings; meanwhile user input is not handled.
@@ -51,6 +53,7 @@ private:
     QPushButton *m_fix;
     QLabel *m_none;
     QLabel *m_unchecked; ///< why the list lacks the findings of a year
+    QString m_path;
     QTimer m_delay;
     FitCheck m_fit;
     QVector<ClockTool::Finding> m_findings;

@@ -56,9 +56,10 @@ FitCheck::~FitCheck()
     m_process.waitForFinished();
 }
 
-void FitCheck::Start(const QByteArray &program)
+void FitCheck::Start(const QByteArray &program, const QString &path)
 {
     Drop();
+    m_path = path;
     m_next = program;
     if (!IsRunning())
         Begin();
@@ -80,7 +81,7 @@ void FitCheck::Begin()
     m_next.reset();
     if (problem)
         return Fail(*problem);
-    const ToolCommand command = LintCommand(path);
+    const ToolCommand command = LintCommand(path, m_path);
     m_process.start(command.program, command.arguments, QIODevice::ReadOnly);
     m_limit.start();
 }

@@ -22,8 +22,9 @@ public:
     explicit FitCheck(QObject *parent = nullptr);
     ~FitCheck() override;
 
-    /// Checks a program; a check that still runs is abandoned.
-    void Start(const QByteArray &program);
+    /// Checks a program; a check that still runs is abandoned. Its glyph files are beside the path;
+    /// empty if it was never saved.
+    void Start(const QByteArray &program, const QString &path);
     /// Abandons the running check; Found is not emitted for it.
     void Drop();
     bool IsRunning() const { return m_process.state() != QProcess::NotRunning; }
@@ -43,6 +44,7 @@ private:
 
     QTemporaryDir m_work;
     std::optional<QByteArray> m_next; ///< to be checked when the running check has ended
+    QString m_path;
     bool m_isDropped = false;
     QProcess m_process;
     QTimer m_limit;

@@ -41,6 +41,8 @@ MainWindow::MainWindow(const QString &recoveryDirectory, QWidget *parent)
     MakeToolBar();
     MakeStatus();
     connect(&m_files, &ProgramFiles::NameChanged, this, &MainWindow::UpdateTitle);
+    connect(&m_files, &ProgramFiles::NameChanged, this,
+            [this] { m_findings->SetProgramPath(m_files.Path()); });
     connect(&m_files, &ProgramFiles::ChangedOnDisk, this, &MainWindow::AskAboutChange);
     connect(&m_files, &ProgramFiles::LostOnDisk, this, [this] {
         m_messages->Ask(

@@ -2,15 +2,20 @@
 // selects clock and property, a button fixes it.
 #include "studio_under_test.h"
 
+#include "files/saved_file.h"
+#include "files/tool_run.h"
 #include "findings/finding_words.h"
 #include "findings/findings_panel.h"
+#include "window/main_window.h"
 
 #include "catalogues.h"
 
 #include <QLabel>
 #include <QListWidget>
+#include <QProcess>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStandardPaths>
 
 using namespace ClockStudio;
 
@@ -65,7 +70,11 @@ class TestFindings : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(ClockCatalogues::Install("en")); }
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QVERIFY(ClockCatalogues::Install("en"));
+    }
     void AppearsAndIsFixed();
     void CheckAllIncludesTheYear();
     void NotesAreNotCounted();
@@ -75,6 +84,7 @@ private slots:
     void EventsAreHandledDuringTheCheck();
     void TimesAreThoseOfTheClock();
     void EndOfRulesIsListedAtOnce();
+    void FilesBesideTheProgram();
 };
 
 void TestFindings::AppearsAndIsFixed()
@@ -205,6 +215,35 @@ void TestFindings::EndOfRulesIsListedAtOnce()
     QVERIFY(std::any_of(findings.cbegin(), findings.cend(), [](const ClockTool::Finding &finding) {
         return finding.place.clock == 1 && finding.text.contains("zone --refresh");
     }));
+}
+
+/// The glyph files of an exported program are beside it, though a copy of the text is checked.
+void TestFindings::FilesBesideTheProgram()
+{
+    const QTemporaryDir work;
+    const QString given = work.filePath("given.xml");
+    QVERIFY(!SaveFile(given, kCut));
+    const QString folder = work.filePath("sent");
+    const ToolCommand exported = ExportCommand(given, folder);
+    QCOMPARE(QProcess::execute(exported.program, exported.arguments), 0);
+    const QString path = QDir(folder).filePath("program.xml");
+    MainWindow window(work.filePath("recovery"));
+    QVERIFY(window.Open(path));
+    auto &panel = *window.findChild<FindingsPanel *>();
+    const auto missing = [&panel] {
+        panel.CheckAll();
+        const auto &found = panel.Findings();
+        return std::any_of(found.cbegin(), found.cend(), [](const ClockTool::Finding &finding) {
+            return finding.text.contains("is missing");
+        });
+    };
+    QVERIFY(!missing());
+    const QStringList before = QDir(folder).entryList();
+    QVERIFY(QDir(folder + "/files").removeRecursively());
+    QVERIFY(missing());
+    QVERIFY(before.contains("files"));
+    QCOMPARE(QDir(folder).entryList(),
+             QStringList(before).filter(QRegularExpression("^(?!files$)")));
 }
 
 QTEST_MAIN(TestFindings)

@@ -323,6 +323,7 @@ private slots:
     void SeveralPrograms();
     void SystemWithoutFonts();
     void StylePictures();
+    void FilesElsewhere();
     void ManyFindings();
 
 private:
@@ -596,6 +597,25 @@ void TestToolLint::StylePictures()
     told = Warnings(RunProcess(copy, {"lint", "--no-fit", program}).errors);
     QCOMPARE(told.size(), 1);
     QVERIFY2(told.first().contains("cannot read second.png in "), qPrintable(told.first()));
+}
+
+// Only the place differs: the message has the path in the program.
+void TestToolLint::FilesElsewhere()
+{
+    const QTemporaryDir folder;
+    const QString program = folder.filePath("copy.xml");
+    QVERIFY(WriteText(program, Carried("in.png", "5d41402abc4b2a76b9719d911017c592", 5)));
+    QVERIFY(WriteText(m_directory.filePath("in.png"), "hello"));
+    const QString told = RunTool({"lint", "--no-fit", program}).errors;
+    QVERIFY2(told.contains("the file \"in.png\" is missing"), qPrintable(told));
+    const QString beside =
+        RunTool({"lint", "--no-fit", "--base", m_directory.path(), program}).errors;
+    QVERIFY2(!beside.contains("in.png"), qPrintable(beside));
+    QVERIFY(WriteText(m_directory.filePath("in.png"), "HELLO"));
+    const QString other =
+        RunTool({"lint", "--no-fit", "--base", m_directory.path(), program}).errors;
+    QVERIFY2(other.contains("copy.xml:2: warning: the file \"in.png\" has the digest "),
+             qPrintable(other));
 }
 
 // However much is wrong with one program, the next one is heard of.
