@@ -82,6 +82,7 @@ TimeBar::TimeBar(LiveWall &wall, QWidget *parent)
 void TimeBar::SetUpDate()
 {
     m_date->setCalendarPopup(true);
+    m_date->setLayoutDirection(Qt::LeftToRight); // or hours and seconds are swapped
     m_date->setDisplayFormat(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
     m_date->setAccessibleName(tr("Date and time that the wall shows"));
     m_date->setToolTip(m_date->accessibleName());

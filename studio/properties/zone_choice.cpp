@@ -8,6 +8,7 @@
 #include <QTimeZone>
 
 #include <algorithm>
+#include <iterator>
 
 namespace ClockStudio {
 
@@ -54,6 +55,8 @@ const QVector<ZoneName> &AllZones()
     return zones;
 }
 
+namespace {
+
 bool Matches(const ZoneName &zone, const QString &search)
 {
     static const QRegularExpression blanks(QStringLiteral("[\\s/,_]+"));
@@ -66,6 +69,19 @@ bool Matches(const ZoneName &zone, const QString &search)
             return word.startsWith(begin, Qt::CaseInsensitive);
         });
     });
+}
+
+} // namespace
+
+QVector<ZoneName> MatchingZones(const QString &search)
+{
+    QVector<ZoneName> found;
+    std::copy_if(AllZones().cbegin(), AllZones().cend(), std::back_inserter(found),
+                 [&search](const ZoneName &zone) { return Matches(zone, search); });
+    std::stable_partition(found.begin(), found.end(), [&search](const ZoneName &zone) {
+        return zone.city.startsWith(search.trimmed(), Qt::CaseInsensitive);
+    });
+    return found;
 }
 
 std::optional<ZoneAnswer> SettingsFor(const QByteArray &zone, const QDate &today)

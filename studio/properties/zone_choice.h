@@ -24,8 +24,9 @@ struct ZoneName
 /// All of the system's zones with a city, sorted by city. Built once.
 const QVector<ZoneName> &AllZones();
 
-/// Whether each word of the search is a prefix of a word of the zone's city, region or offset.
-bool Matches(const ZoneName &zone, const QString &search);
+/// The zones in which each word of the search is a prefix of a word of city, region or offset;
+/// first those whose city begins with the search. Otherwise sorted by city.
+QVector<ZoneName> MatchingZones(const QString &search);
 
 struct ZoneAnswer
 {

@@ -23,8 +23,11 @@ ZoneDialog::ZoneDialog(QWidget *parent)
     m_search->installEventFilter(this);
     m_list->setAccessibleName(tr("Cities"));
     m_list->setUniformItemSizes(true);
+    m_list->setLayoutDirection(Qt::LeftToRight); // the names are English
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setText(tr("Use this time zone"));
+    for (QAbstractButton *const button : buttons->buttons())
+        button->setIcon(QIcon()); // beside which texts from right to left are cut
     layout->addWidget(m_search);
     layout->addWidget(m_list);
     layout->addWidget(buttons);
@@ -46,9 +49,7 @@ QByteArray ZoneDialog::Zone() const
 void ZoneDialog::ShowMatches(const QString &search)
 {
     m_list->clear();
-    for (const ZoneName &zone : AllZones()) {
-        if (!Matches(zone, search))
-            continue;
+    for (const ZoneName &zone : MatchingZones(search)) {
         auto *const item = new QListWidgetItem(
             QStringLiteral("%1    UTC%2    %3").arg(zone.city, zone.offset, zone.region), m_list);
         item->setData(Qt::UserRole, zone.zone);

@@ -64,6 +64,7 @@ ZoneSection::ZoneSection()
     m_city->setAccessibleName(tr("City whose time is shown"));
     m_city->setToolTip(tr("Choose the city whose time the clock shows"));
     m_note->setWordWrap(true);
+    m_adjustment->setLayoutDirection(Qt::LeftToRight); // or hours and seconds are swapped
     m_adjustment->setDisplayFormat(QStringLiteral("HH:mm:ss"));
     m_adjustment->setKeyboardTracking(false);
     m_adjustment->setObjectName(QStringLiteral("AdjustmentEdit"));

@@ -686,11 +686,11 @@
     </message>
     <message>
         <source>Clock %1: </source>
-        <translation>ساعت %1: </translation>
+        <translation>ساعت %L1: </translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation>سطر %1</translation>
+        <translation>سطر %L1</translation>
     </message>
     <message>
         <source>The text is not a valid program.</source>
@@ -1318,7 +1318,7 @@
     </message>
     <message>
         <source>Findings (%1)</source>
-        <translation>یافته‌ها (%1)</translation>
+        <translation>یافته‌ها (%L1)</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Clock Studio %1&lt;/h3&gt;&lt;p&gt;An editor for walls of clocks. All clocks are drawn by the clock plugin itself.&lt;/p&gt;</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>Clock %1</source>
-        <translation>ساعت %1</translation>
+        <translation>ساعت %L1</translation>
     </message>
     <message>
         <source>Kind of clock</source>
@@ -2084,7 +2084,7 @@
     </message>
     <message>
         <source>Clock %1 of %2</source>
-        <translation>ساعت %1 از %2</translation>
+        <translation>ساعت %L1 از %L2</translation>
     </message>
     <message numerus="yes">
         <source>%n clock(s) selected</source>
@@ -2197,6 +2197,29 @@
         <translation>
             <numerusform>در ده سال آینده ساعت %Ln بار نادرست خواهد بود، نخست از %1 تا %2.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>تأیید</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>ذخیره</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>لغو</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>بستن</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>دور انداختن</translation>
     </message>
 </context>
 </TS>

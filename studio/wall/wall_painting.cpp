@@ -153,6 +153,7 @@ void PaintTag(QPainter &painter, const WallScale &scale, const QRect &rect, cons
     painter.setBrush(kSelected);
     painter.drawRoundedRect(tag, 3, 3);
     painter.setPen(QColor(0x10, 0x18, 0x24));
+    painter.setLayoutDirection(Qt::LeftToRight);
     painter.drawText(tag, Qt::AlignCenter, text);
 }
 
@@ -162,6 +163,7 @@ void PaintRulers(QPainter &painter, const WallScale &scale, QSize view, const QR
     font.setPixelSize(10);
     painter.setFont(font);
     painter.setPen(kRulerInk);
+    painter.setLayoutDirection(Qt::LeftToRight); // of negative numbers
     PaintRuler(painter, {Qt::Horizontal}, scale, view.width(), selected);
     PaintRuler(painter, {Qt::Vertical}, scale, view.height(), selected);
     painter.fillRect(0, 0, kRulerWidth, kRulerWidth, kRuler);

@@ -18,6 +18,12 @@ namespace ClockStudio {
 
 namespace {
 
+// Buttons of Qt's own dialogs. Qt has no Persian catalogue, and a system may lack the others.
+[[maybe_unused]] constexpr const char *kQtButtons[] = {
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"), QT_TRANSLATE_NOOP("QPlatformTheme", "Save"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"), QT_TRANSLATE_NOOP("QPlatformTheme", "Close"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Discard")};
+
 bool Load(QApplication &application, const QLocale &locale, const char *name,
           const QString &directory)
 {

@@ -2,7 +2,9 @@
 #include "window/studio_application.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QLocale>
+#include <QPushButton>
 #include <QtTest>
 
 using namespace ClockStudio;
@@ -24,10 +26,12 @@ void TestLanguages::FollowTheLocale_data()
     QTest::addColumn<QString>("month"); // as dates are written
     QTest::addColumn<QString>("one");
     QTest::addColumn<QString>("two");
+    QTest::addColumn<QString>("cancel"); // a button of Qt's
     const auto english = [](const char *name, const QLocale &locale) {
         QTest::newRow(name) << locale << Qt::LeftToRight << "March"
                             << "1 clock"
-                            << "2 clocks";
+                            << "2 clocks"
+                            << "Cancel";
     };
     english("none", QLocale::c());
     english("British", QLocale("en_GB"));
@@ -35,10 +39,12 @@ void TestLanguages::FollowTheLocale_data()
     english("one that the studio lacks, from right to left", QLocale("he_IL"));
     QTest::newRow("Persian") << QLocale("fa_IR") << Qt::RightToLeft << "مارس"
                              << "۱ ساعت"
-                             << "۲ ساعت";
+                             << "۲ ساعت"
+                             << "لغو";
     QTest::newRow("Chinese") << QLocale("zh_CN") << Qt::LeftToRight << "三月"
                              << "1 个时钟"
-                             << "2 个时钟";
+                             << "2 个时钟"
+                             << "取消";
 }
 
 void TestLanguages::FollowTheLocale()
@@ -54,6 +60,8 @@ void TestLanguages::FollowTheLocale()
     };
     QTEST(clocks(1), "one");
     QTEST(clocks(2), "two");
+    QTEST(QDialogButtonBox(QDialogButtonBox::Cancel).button(QDialogButtonBox::Cancel)->text(),
+          "cancel");
 }
 
 QTEST_MAIN(TestLanguages)

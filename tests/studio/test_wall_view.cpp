@@ -2,11 +2,14 @@
 #include "studio_under_test.h"
 
 #include "panels/time_bar.h"
+#include "wall/wall_painting.h"
 #include "wall/wall_view.h"
 
 #include "time_travel.h"
 
 #include <QComboBox>
+#include <QDateTimeEdit>
+#include <QPainter>
 
 using namespace ClockStudio;
 
@@ -24,6 +27,7 @@ private slots:
     void RightButtonSelects();
     void RightButtonDrawsNothing();
     void GoingToATimeKeepsTheSpeed();
+    void NumbersAreNotMirrored();
 };
 
 QPoint PointOf(const WallView &view, QPoint pixel)
@@ -89,6 +93,27 @@ void TestWallView::GoingToATimeKeepsTheSpeed()
 }
 
 } // namespace
+
+/// Rulers with negative numbers, the place of a dragged rectangle, and the shown time.
+void TestWallView::NumbersAreNotMirrored()
+{
+    const auto painted = [](Qt::LayoutDirection direction) {
+        QImage image(400, 300, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        painter.setLayoutDirection(direction);
+        PaintRulers(painter, {1, {200, 150}}, image.size(), {});
+        painter.setLayoutDirection(direction);
+        PaintTag(painter, {1, {200, 150}}, {-10, 20, 30, 40}, "-10, 20   30 × 40");
+        return image;
+    };
+    QCOMPARE(painted(Qt::RightToLeft), painted(Qt::LeftToRight));
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    StudioUnderTest studio(kClock);
+    const TimeBar bar(studio.wall);
+    QCOMPARE(bar.findChild<QDateTimeEdit *>()->layoutDirection(), Qt::LeftToRight);
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+}
 
 QTEST_MAIN(TestWallView)
 
