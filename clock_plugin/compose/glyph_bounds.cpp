@@ -2,6 +2,7 @@
 
 #include "clock_node.h"
 #include "compose/picture_file.h"
+#include "glyph/ink.h"
 #include "image_bounds.h"
 
 #include <iterator>

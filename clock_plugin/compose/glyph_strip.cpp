@@ -2,19 +2,19 @@
 
 #include "compose/picture_file.h"
 #include "compose/piece_canvas.h"
+#include "glyph/fresh_ink.h"
 
 #include <QHash>
 
 #include <algorithm>
 #include <atomic>
 #include <iterator>
-#include <limits>
+#include <optional>
+#include <utility>
 
 namespace Lw::HNodeClock {
 
 namespace {
-
-constexpr int kBits = 32; // of a word
 
 std::atomic<qint64> s_bytes {0};
 
@@ -26,24 +26,6 @@ quint32 NewKey()
 {
     static std::atomic<quint32> s_last {0};
     return ++s_last;
-}
-
-int WordsFor(int width)
-{
-    return (width + kBits - 1) / kBits;
-}
-
-GlyphRows RowsBetween(int first, int end)
-{
-    constexpr int kMax = std::numeric_limits<quint16>::max();
-    return {static_cast<quint16>(std::min(first, kMax)),
-            static_cast<quint16>(std::min(end - first, kMax))};
-}
-
-// One spare word for two-word loads.
-QVector<quint32> NoInk(const QSize &size)
-{
-    return QVector<quint32>(WordsFor(size.width()) * size.height() + 1);
 }
 
 // Expired entries are removed each time the table has doubled in size.
@@ -67,6 +49,11 @@ GlyphPixels::GlyphPixels(const QImage &image) : GlyphPixels()
     Take(image);
 }
 
+GlyphPixels::GlyphPixels(Ink ink) : GlyphPixels()
+{
+    TakeInk(std::move(ink));
+}
+
 GlyphPixels::GlyphPixels(const QByteArray &png, qint64 bytes) : GlyphPixels()
 {
     m_encoded = png;
@@ -76,16 +63,6 @@ GlyphPixels::GlyphPixels(const QByteArray &png, qint64 bytes) : GlyphPixels()
 GlyphPixels::~GlyphPixels()
 {
     SetBytes(0);
-}
-
-std::shared_ptr<GlyphPixels> GlyphPixels::Blank(const QSize &size)
-{
-    const auto pixels = std::shared_ptr<GlyphPixels>(new GlyphPixels);
-    pixels->m_size = size;
-    pixels->m_wordsPerRow = WordsFor(size.width());
-    pixels->m_ink = NoInk(size);
-    pixels->SetBytes(InkBytes(size));
-    return pixels;
 }
 
 void GlyphPixels::SetBytes(qint64 bytes)
@@ -113,47 +90,18 @@ void GlyphPixels::Take(QImage image)
     m_size = image.isNull() ? QSize(0, 0) : image.size();
     if (image.isNull())
         return SetBytes(0);
-    if (TakeInk(image))
-        return SetBytes(InkBytes(m_size));
-    m_rows = RowsBetween(0, m_size.height());
+    if (std::optional<Ink> ink = InkFrom(image))
+        return TakeInk(std::move(*ink));
+    m_ink.rows = RowsBetween(0, m_size.height());
     SetBytes(4LL * m_size.width() * m_size.height());
     m_pixmap = QPixmap::fromImage(std::move(image));
 }
 
-// Only for the formats that transparent PNGs decode to: in these, converting to a pixmap does not
-// change a pixel of alpha 0 or 255.
-bool GlyphPixels::TakeInk(const QImage &image)
+void GlyphPixels::TakeInk(Ink ink)
 {
-    if (image.format() != QImage::Format_ARGB32
-        && image.format() != QImage::Format_ARGB32_Premultiplied)
-        return false;
-    const int width = image.width();
-    const int height = image.height();
-    const int words = WordsFor(width);
-    QVector<quint32> ink = NoInk(image.size());
-    quint32 *row = ink.data();
-    QRgb colour = 0;
-    int first = height;
-    int end = 0;
-    for (int y = 0; y < height; ++y, row += words) {
-        const auto *const pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        for (int x = 0; x < width; ++x) {
-            if (qAlpha(pixels[x]) == 0)
-                continue;
-            if (colour == 0)
-                colour = pixels[x];
-            if (pixels[x] != colour || qAlpha(colour) != 255)
-                return false;
-            row[x / kBits] |= 1u << x % kBits;
-            first = std::min(first, y);
-            end = y + 1;
-        }
-    }
-    m_rows = RowsBetween(std::min(first, end), end);
-    m_ink = ink;
-    m_wordsPerRow = words;
-    m_colour = colour;
-    return true;
+    m_size = ink.size;
+    m_ink = std::move(ink);
+    SetBytes(InkBytes(m_size));
 }
 
 const QPixmap &GlyphPixels::Pixmap()
@@ -185,8 +133,10 @@ GlyphStrip GlyphStrip::OfFile(PictureFile &file, qint64 bytes)
 {
     const QByteArray digest = file.Digest();
     const bool isLazy = !file.SmallPng().isEmpty();
-    const auto pixels = isLazy ? std::make_shared<GlyphPixels>(file.SmallPng(), bytes)
-                               : std::make_shared<GlyphPixels>(file.Read());
+    std::optional<Ink> ink = FreshInk::OfThread().Take(file.SmallPng());
+    const auto pixels = ink ? std::make_shared<GlyphPixels>(std::move(*ink))
+        : isLazy            ? std::make_shared<GlyphPixels>(file.SmallPng(), bytes)
+                            : std::make_shared<GlyphPixels>(file.Read());
     if (!digest.isEmpty() && (isLazy || !pixels->Size().isEmpty()))
         Remember(digest, pixels);
     return GlyphStrip(pixels);
@@ -194,7 +144,7 @@ GlyphStrip GlyphStrip::OfFile(PictureFile &file, qint64 bytes)
 
 GlyphStrip GlyphStrip::Blank(const QSize &size)
 {
-    return size.isEmpty() ? GlyphStrip() : GlyphStrip(GlyphPixels::Blank(size));
+    return size.isEmpty() ? GlyphStrip() : GlyphStrip(std::make_shared<GlyphPixels>(Ink(size)));
 }
 
 GlyphStrip GlyphStrip::Loaded(const QByteArray &digest)

@@ -6,12 +6,12 @@
 // immediately but decoded lazily: a clock shows few of its images.
 #pragma once
 
+#include "glyph/ink.h"
+
 #include <QByteArray>
-#include <QColor>
 #include <QImage>
 #include <QPixmap>
 #include <QString>
-#include <QVector>
 
 #include <memory>
 
@@ -19,23 +19,16 @@ namespace Lw::HNodeClock {
 
 class PictureFile;
 
-/// Rows of a glyph image, from the top.
-struct GlyphRows
-{
-    quint16 first = 0;
-    quint16 count = 0;
-};
-
 /// The pixels of a glyph image. Its bytes count towards GlyphBytesInProcess().
 class GlyphPixels
 {
 public:
     explicit GlyphPixels(const QImage &image);
+    explicit GlyphPixels(Ink ink);
     /// An undecoded PNG that takes at most this many bytes once decoded.
     GlyphPixels(const QByteArray &png, qint64 bytes);
     ~GlyphPixels();
     Q_DISABLE_COPY(GlyphPixels)
-    static std::shared_ptr<GlyphPixels> Blank(const QSize &size);
 
     const QSize &Size()
     {
@@ -45,7 +38,7 @@ public:
     bool IsInk()
     {
         Decode();
-        return m_wordsPerRow > 0;
+        return m_ink.wordsPerRow > 0;
     }
     const QPixmap &Pixmap();
     qint64 Bytes() const { return m_bytes; }
@@ -53,15 +46,13 @@ public:
     /// Known only once it has been decoded.
     bool IsDamaged() const { return m_encoded.isNull() && m_size.isEmpty(); }
 
-    /// One bit per pixel: that of column x is bit x % 32 of word x / 32. A spare word follows the
-    /// last one.
-    const quint32 *InkRow(int y) const { return m_ink.constData() + y * m_wordsPerRow; }
-    QRgb InkColour() const { return m_colour; }
+    const quint32 *InkRow(int y) const { return m_ink.Row(y); }
+    QRgb InkColour() const { return m_ink.colour; }
     /// All but the rows above and below that are known to be transparent.
     GlyphRows ShownRows()
     {
         Decode();
-        return m_rows;
+        return m_ink.rows;
     }
     quint32 Key() const { return m_key; }
 
@@ -74,7 +65,7 @@ private:
     }
     void DecodeNow();
     void Take(QImage image);
-    bool TakeInk(const QImage &image);
+    void TakeInk(Ink ink);
     void SetBytes(qint64 bytes);
 
     const quint32 m_key;
@@ -82,10 +73,7 @@ private:
     qint64 m_bytes = 0;
     bool m_isExact = false; // false while m_bytes is an upper bound for an undecoded image
     QSize m_size {0, 0};
-    int m_wordsPerRow = 0; // of the ink; 0 where the image is not kept as ink
-    QRgb m_colour = 0;
-    GlyphRows m_rows;
-    QVector<quint32> m_ink;
+    Ink m_ink;        // no words per row where the image is not kept as ink
     QPixmap m_pixmap; // created on first use for ink
 };
 

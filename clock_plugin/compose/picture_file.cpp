@@ -2,6 +2,7 @@
 
 #include "compose/png_chunks.h"
 #include "glyph/glyph_file.h"
+#include "glyph/ink.h"
 #include "image_bounds.h"
 
 #include <QBuffer>
@@ -194,34 +195,8 @@ QImage DecodePng(const QByteArray &png)
 qint64 GlyphBytesOfPng(const QByteArray &png)
 {
     const QSize size = SizeOfPng(png);
-    const bool isInk = HasGlyphFormat(png) && HasOneColour(DecodePng(png));
+    const bool isInk = HasGlyphFormat(png) && InkFrom(DecodePng(png)).has_value();
     return isInk ? InkBytes(size) : 4LL * size.width() * size.height();
-}
-
-bool HasOneColour(const QImage &image)
-{
-    if (image.format() != QImage::Format_ARGB32
-        && image.format() != QImage::Format_ARGB32_Premultiplied)
-        return false;
-    QRgb colour = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        const auto *const row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(row[x]) == 0)
-                continue;
-            if (colour == 0)
-                colour = row[x];
-            if (row[x] != colour || qAlpha(colour) != 255)
-                return false;
-        }
-    }
-    return true;
-}
-
-qint64 InkBytes(const QSize &size)
-{
-    constexpr int kWord = 32;
-    return 4LL * ((size.width() + kWord - 1) / kWord) * size.height();
 }
 
 } // namespace Lw::HNodeClock

@@ -66,10 +66,4 @@ QImage DecodePng(const QByteArray &png);
 /// The memory a PNG takes as a glyph, in bytes; see PictureFile::GlyphBytes().
 qint64 GlyphBytesOfPng(const QByteArray &png);
 
-/// Whether every pixel is transparent or of one opaque colour; false without alpha.
-bool HasOneColour(const QImage &image);
-
-/// The memory of a glyph image stored as ink, in bytes: one bit per pixel, rows padded to words.
-qint64 InkBytes(const QSize &size);
-
 } // namespace Lw::HNodeClock

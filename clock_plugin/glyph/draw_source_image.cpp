@@ -1,5 +1,6 @@
 #include "glyph/draw_source_image.h"
 
+#include "glyph/fresh_ink.h"
 #include "glyph/glyph_check.h"
 #include "glyph/glyph_drawing.h"
 #include "glyph/glyph_file.h"
@@ -32,7 +33,8 @@ struct GlyphRequest
     int size; // points
     int colour;
     QString path;
-    bool isTopText; ///< if there is nothing to draw, the file is removed
+    bool isTopText;        ///< if there is nothing to draw, the file is removed
+    bool isNeeded = false; ///< for the first frame
 };
 
 namespace {
@@ -134,7 +136,9 @@ GlyphRequest DrwSourceIMage::RequestFor(const GlyphImage &image, const QString &
 
 GlyphOutcome DrwSourceIMage::DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id)
 {
-    return Make(node, image.Key(), RequestFor(image, id));
+    GlyphRequest request = RequestFor(image, id);
+    request.isNeeded = IsNeeded(image, *node);
+    return Make(node, image.Key(), request);
 }
 
 std::optional<UnencodedGlyph> DrwSourceIMage::DrawUnencoded(const GlyphImage &image,
@@ -207,6 +211,8 @@ GlyphOutcome DrwSourceIMage::DrawAndWrite(const GlyphRequest &request)
         glyph = EncodeGlyphPicture(DrawGlyphPicture(*m_painter, content, face.font));
         cache.Keep(content, glyph);
         isThere = Holds(request.path, glyph);
+        if (request.isNeeded && glyph.ink)
+            FreshInk::OfThread().Keep(glyph.file, *glyph.ink);
     }
     if (!isThere && glyph.state == GlyphState::Drawn)
         // A file under its digest's name is never written again, so it must be complete on disk.

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "glyph/glyph_set.h"
+#include "glyph/ink.h"
 
 #include <QByteArray>
 #include <QCache>
@@ -56,7 +57,8 @@ struct DrawnGlyph
 {
     GlyphState state = GlyphState::TooLarge;
     GlyphFacts facts;
-    QByteArray file; ///< the PNG; null if not drawn or no longer cached
+    QByteArray file;        ///< the PNG; null if not drawn or no longer cached
+    std::optional<Ink> ink; ///< if it was just drawn, in one colour
 };
 
 /// Not thread-safe.

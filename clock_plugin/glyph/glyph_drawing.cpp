@@ -21,8 +21,20 @@ QByteArray EncodePng(const QImage &image)
     return encoded ? png : QByteArray();
 }
 
+// In one colour without soft edges, both formats have the same pixels; Qt need not convert this
+// one.
+QImage ForEncoding(QImage image, bool isInk)
+{
+    if (isInk)
+        image.reinterpretAsFormat(QImage::Format_ARGB32);
+    return image;
+}
+
+// Pixels of soft edges are ink too, and so is an image without alpha.
 bool HasInk(const QImage &image)
 {
+    if (image.depth() != 32)
+        return true;
     for (int y = 0; y < image.height(); ++y) {
         const auto *const line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         if (std::any_of(line, line + image.width(), [](QRgb pixel) { return qAlpha(pixel) != 0; }))
@@ -100,12 +112,13 @@ DrawnGlyph EncodeGlyphPicture(const GlyphPicture &picture)
     glyph.state = picture.state;
     if (picture.state != GlyphState::Drawn)
         return glyph;
-    glyph.file = EncodePng(picture.image);
+    glyph.ink = InkFrom(picture.image);
+    glyph.file = EncodePng(ForEncoding(picture.image, glyph.ink.has_value()));
     if (glyph.file.isEmpty())
         return {};
     glyph.facts.size = glyph.file.size();
     glyph.facts.digest = QCryptographicHash::hash(glyph.file, QCryptographicHash::Sha1);
-    glyph.facts.hasInk = picture.image.depth() != 32 || HasInk(picture.image);
+    glyph.facts.hasInk = glyph.ink ? glyph.ink->rows.count > 0 : HasInk(picture.image);
     glyph.facts.charactersWithoutGlyph = picture.charactersWithoutGlyph;
     return glyph;
 }

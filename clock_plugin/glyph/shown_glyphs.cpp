@@ -75,23 +75,36 @@ bool IsMarkHidden(HClockNode &node)
     return node.HaveAttribute(key) && node.GetAttributeToInt(key) == 0;
 }
 
+bool IsRowShown(Glyph glyph, HClockNode &node)
+{
+    const ShownRow &row = kShown[static_cast<int>(glyph)];
+    const int clockType = node.ClockType();
+    if (clockType != AnalogClock && clockType != DigitalClock)
+        return false;
+    const auto flag = clockType == DigitalClock ? row.digitalFlag : row.analogFlag;
+    return flag && node.GetAttributeToInt(Key(*flag)) != 0;
+}
+
 } // namespace
 
 bool IsShown(const GlyphImage &image, HClockNode &node)
 {
     const Glyph glyph = image.row->glyph;
-    const ShownRow &row = kShown[static_cast<int>(glyph)];
-    const int clockType = node.ClockType();
-    if (clockType != AnalogClock && clockType != DigitalClock)
-        return false;
-    const bool isDigital = clockType == DigitalClock;
-    const auto flag = isDigital ? row.digitalFlag : row.analogFlag;
-    const auto format = isDigital ? row.digitalFormat : row.analogFormat;
-    if (!flag || node.GetAttributeToInt(Key(*flag)) == 0)
+    if (!IsRowShown(glyph, node))
         return false;
     if ((glyph == Glyph::TimeAM || glyph == Glyph::TimePM) && IsMarkHidden(node))
         return false;
+    const ShownRow &row = kShown[static_cast<int>(glyph)];
+    const auto format = node.ClockType() == DigitalClock ? row.digitalFormat : row.analogFormat;
     return !format || FormatShows(node, *format, row.codes);
+}
+
+bool IsNeeded(const GlyphImage &image, HClockNode &node)
+{
+    const Glyph glyph = image.row->glyph;
+    const bool isLabel = glyph == Glyph::DateCh || glyph == Glyph::TimeCh;
+    return glyph == Glyph::DateNumber || IsShown(image, node)
+        || (isLabel && IsRowShown(glyph, node));
 }
 
 } // namespace Lw::HNodeClock

@@ -1,5 +1,6 @@
 // What PNG files tell without being decoded, of files that the PNG library wrote.
 #include "compose/picture_file.h"
+#include "glyph/ink.h"
 #include "compose/png_chunks.h"
 
 #include <QBuffer>

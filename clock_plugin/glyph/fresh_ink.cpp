@@ -1,0 +1,35 @@
+#include "glyph/fresh_ink.h"
+
+#include <memory>
+#include <utility>
+
+namespace Lw::HNodeClock {
+
+namespace {
+
+constexpr int kMaxBytes = 64 << 10;
+
+} // namespace
+
+FreshInk::FreshInk() : m_ink(kMaxBytes) { }
+
+FreshInk &FreshInk::OfThread()
+{
+    thread_local FreshInk t_ink;
+    return t_ink;
+}
+
+void FreshInk::Keep(const QByteArray &png, const Ink &ink)
+{
+    const qint64 bytes = png.size() + InkBytes(ink.size);
+    if (bytes <= kMaxBytes)
+        m_ink.insert(png, new Ink(ink), static_cast<int>(bytes));
+}
+
+std::optional<Ink> FreshInk::Take(const QByteArray &png)
+{
+    const std::unique_ptr<Ink> ink(m_ink.take(png));
+    return ink ? std::make_optional(std::move(*ink)) : std::nullopt;
+}
+
+} // namespace Lw::HNodeClock
