@@ -3,6 +3,8 @@
 #include "display/analog_geometry.h"
 #include "glyph/glyph_set.h"
 
+#include <QCoreApplication>
+
 namespace ClockFit {
 
 using namespace Lw::HNodeClock;
@@ -20,20 +22,22 @@ struct PartRow
     std::optional<Attribute> colour;
 };
 
+#define WORDS(text) QT_TRANSLATE_NOOP("ClockFit::Parts", text)
+
 // clang-format off
 constexpr PartRow kParts[] = {
-    {Part::TopText,     "title",        GlyphFont::TopText,   {}},
-    {Part::Date,        "date",         GlyphFont::Date,      {}},
-    {Part::Week,        "weekday",      GlyphFont::Week,      {}},
-    {Part::Time,        "time",         GlyphFont::Time,      {}},
-    {Part::Lunar,       "lunar date",   GlyphFont::Lunar,     {}},
-    {Part::Badge,       "AM/PM badge",  GlyphFont::AmPm,      {}},
-    {Part::Numerals,    "numerals",     GlyphFont::HourScale, {}},
-    {Part::HourMarks,   "hour marks",   {},                   A::HourScaleColor},
-    {Part::MinuteMarks, "minute marks", {},                   A::MinuteScaleColor},
-    {Part::HourHand,    "hour hand",    {},                   A::HourHandColor},
-    {Part::MinuteHand,  "minute hand",  {},                   A::MinuteHandColor},
-    {Part::SecondHand,  "second hand",  {},                   A::SecondHandColor},
+    {Part::TopText,     WORDS("title"),        GlyphFont::TopText,   {}},
+    {Part::Date,        WORDS("date"),         GlyphFont::Date,      {}},
+    {Part::Week,        WORDS("weekday"),      GlyphFont::Week,      {}},
+    {Part::Time,        WORDS("time"),         GlyphFont::Time,      {}},
+    {Part::Lunar,       WORDS("lunar date"),   GlyphFont::Lunar,     {}},
+    {Part::Badge,       WORDS("AM/PM badge"),  GlyphFont::AmPm,      {}},
+    {Part::Numerals,    WORDS("numerals"),     GlyphFont::HourScale, {}},
+    {Part::HourMarks,   WORDS("hour marks"),   {},                   A::HourScaleColor},
+    {Part::MinuteMarks, WORDS("minute marks"), {},                   A::MinuteScaleColor},
+    {Part::HourHand,    WORDS("hour hand"),    {},                   A::HourHandColor},
+    {Part::MinuteHand,  WORDS("minute hand"),  {},                   A::MinuteHandColor},
+    {Part::SecondHand,  WORDS("second hand"),  {},                   A::SecondHandColor},
 };
 // clang-format on
 
@@ -107,7 +111,7 @@ bool IsShown(HClockNode &node, Part part)
 
 QString NameOf(Part part)
 {
-    return QString::fromLatin1(RowOfPart(part).name);
+    return QCoreApplication::translate("ClockFit::Parts", RowOfPart(part).name);
 }
 
 std::optional<GlyphFont> FontOf(Part part)

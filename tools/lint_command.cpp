@@ -10,8 +10,10 @@
 
 #include "hnode.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QTranslator>
 
 #include <algorithm>
 #include <cstdio>
@@ -123,6 +125,20 @@ CommandResult LintFile(const QString &path, const LintOptions &options)
 const QLatin1String kFormat("format");
 const QLatin1String kNoFit("no-fit");
 const QLatin1String kBase("base");
+const QLatin1String kCatalogue("catalogue");
+
+/// Installs the catalogue that translates findings, if one is given.
+MaybeFailure InstallCatalogue(const ToolArguments &tool)
+{
+    static QTranslator translator;
+    const QString path = tool.Value(kCatalogue);
+    if (path.isEmpty())
+        return std::nullopt;
+    if (!translator.load(path) || !QCoreApplication::installTranslator(&translator))
+        return ClockProgram::Failure {ExitCode::ProgramError,
+                                      path + QStringLiteral(": cannot be read as a catalogue")};
+    return std::nullopt;
+}
 
 Result<LintOptions> ReadOptions(const ToolArguments &tool)
 {
@@ -158,11 +174,15 @@ CommandResult RunLint(const QStringList &arguments)
             "Look for the programs' glyph files in this directory instead of beside each "
             "program."),
         QStringLiteral("directory"));
+    tool.AddOption({kCatalogue}, QStringLiteral("Translate findings by a Qt catalogue (.qm)."),
+                   QStringLiteral("file"));
     tool.AddOption({kFormat}, QStringLiteral("Output format of the findings: text or json."),
                    QStringLiteral("format"), QStringLiteral("text"));
     if (const auto ended = tool.Parse(arguments))
         return *ended;
     if (const MaybeFailure failure = tool.InstallLanguage())
+        return Report(*failure);
+    if (const MaybeFailure failure = InstallCatalogue(tool))
         return Report(*failure);
     const Result<LintOptions> options = ReadOptions(tool);
     if (!options)

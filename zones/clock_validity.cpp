@@ -3,6 +3,7 @@
 #include "calendar/calendar_deviations.h"
 #include "calendar/time_units.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 
 #include <cstddef>
@@ -23,14 +24,16 @@ struct EndRow
     const char *text; ///< %1 is the instant, %2 the zone
 };
 
+#define WORDS(text) QT_TRANSLATE_NOOP("ClockZones::Validity", text)
+
 constexpr EndRow kEnds[] = {
     {ValidityEnd::Rules, "daylight_saving_rules",
-     "the daylight-saving rules are those of %2 only until %1"},
+     WORDS("the daylight-saving rules are those of %2 only until %1")},
     {ValidityEnd::ZoneData, "zone_data",
-     "the daylight-saving rules are those of %2 until %1, where the system's zone data end"},
-    {ValidityEnd::LunarDate, "lunar_calendar", "the lunar date is wrong from %1 on"},
-    {ValidityEnd::LunarTable, "lunar_table", "the lunar date is missing from %1 on"},
-    {ValidityEnd::PersianDate, "persian_calendar", "the Persian date is wrong from %1 on"},
+     WORDS("the daylight-saving rules are those of %2 until %1, where the system's zone data end")},
+    {ValidityEnd::LunarDate, "lunar_calendar", WORDS("the lunar date is wrong from %1 on")},
+    {ValidityEnd::LunarTable, "lunar_table", WORDS("the lunar date is missing from %1 on")},
+    {ValidityEnd::PersianDate, "persian_calendar", WORDS("the Persian date is wrong from %1 on")},
 };
 
 constexpr bool EndsFollowEnumeration()
@@ -141,7 +144,7 @@ QString CodeOf(ValidityEnd end)
 
 QString TextOf(const Validity &validity)
 {
-    return QString::fromLatin1(RowOf(validity.end).text)
+    return QCoreApplication::translate("ClockZones::Validity", RowOf(validity.end).text)
         .replace(QLatin1String("%1"),
                  QDateTime::fromMSecsSinceEpoch(validity.until, Qt::UTC).toString(Qt::ISODate))
         .replace(QLatin1String("%2"), QString::fromLatin1(validity.zone));

@@ -127,13 +127,15 @@ ToolCommand ExportCommand(const QString &program, const QString &folder)
              ClockCatalogues::Installed(), program, folder}};
 }
 
-ToolCommand LintCommand(const QString &copy, const QString &original)
+ToolCommand LintCommand(const QString &copy, const QString &original, const QString &catalogue)
 {
     QStringList arguments {QStringLiteral("lint"), QStringLiteral("--format"),
                            QStringLiteral("json"), QStringLiteral("--language"),
                            ClockCatalogues::Installed()};
     if (!original.isEmpty())
         arguments += {QStringLiteral("--base"), QFileInfo(original).absolutePath()};
+    if (!catalogue.isEmpty())
+        arguments += {QStringLiteral("--catalogue"), catalogue};
     return {ClockToolPath(), arguments + QStringList(copy)};
 }
 

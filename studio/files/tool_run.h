@@ -25,8 +25,9 @@ QString ClockToolPath();
 /// The clock_tool command that exports a program to a folder, in the clocks' current language.
 ToolCommand ExportCommand(const QString &program, const QString &folder);
 /// The clock_tool command that checks a copy of a program, in the same language; prints a line of
-/// JSON per finding. The glyph files are beside the original; its path is empty if there is none.
-ToolCommand LintCommand(const QString &copy, const QString &original);
+/// JSON per finding. The glyph files are beside the original, which may be empty, and so may the
+/// catalogue that translates the findings.
+ToolCommand LintCommand(const QString &copy, const QString &original, const QString &catalogue);
 
 struct ToolResult
 {

@@ -3,6 +3,7 @@
 #include "calendar/time_units.h"
 
 #include <QDateTime>
+#include <QLocale>
 #include <QRegularExpression>
 
 namespace ClockStudio {
@@ -11,16 +12,25 @@ namespace {
 
 using namespace Lw::HNodeClock;
 
+/// Keeps year, month and day in this order in a text from right to left.
+QString FromLeftToRight(const QString &text)
+{
+    constexpr ushort kEmbedding = 0x202A;
+    constexpr ushort kEnd = 0x202C;
+    return QLocale().textDirection() == Qt::LeftToRight ? text
+                                                        : QChar(kEmbedding) + text + QChar(kEnd);
+}
+
 QString LocalTime(const QDateTime &instant, const ZoneSettings &zone)
 {
     const int offset = OffsetAt(zone, instant.toMSecsSinceEpoch());
     const QDateTime local = instant.toOffsetFromUtc(offset);
     const QString seconds = offset % kSecondsPerMinute == 0 ? QString() : QStringLiteral(":ss");
     const QTime size = QTime(0, 0).addSecs(qAbs(offset));
-    return QStringLiteral("%1 (UTC%2%3)")
-        .arg(local.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")),
-             offset < 0 ? QStringLiteral("-") : QStringLiteral("+"),
-             size.toString(QStringLiteral("hh:mm") + seconds));
+    return FromLeftToRight(QStringLiteral("%1 (UTC%2%3)")
+                               .arg(local.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")),
+                                    offset < 0 ? QStringLiteral("-") : QStringLiteral("+"),
+                                    size.toString(QStringLiteral("hh:mm") + seconds)));
 }
 
 } // namespace

@@ -3,8 +3,10 @@
 #include "files/saved_file.h"
 #include "files/tool_run.h"
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 
 namespace ClockStudio {
 
@@ -73,6 +75,18 @@ void FitCheck::Drop()
     m_process.kill();
 }
 
+/// The catalogue of the window's language as a file; empty if it cannot be written, or there is
+/// none: the findings are then in English.
+QString FitCheck::Catalogue() const
+{
+    const QString name =
+        QStringLiteral("studio_%1.qm").arg(QLocale().name().section(QLatin1Char('_'), 0, 0));
+    const QString path = m_work.filePath(name);
+    const bool isThere =
+        QFile::exists(path) || QFile::copy(QStringLiteral(":/translations/") + name, path);
+    return isThere ? path : QString();
+}
+
 void FitCheck::Begin()
 {
     m_isDropped = false;
@@ -81,7 +95,7 @@ void FitCheck::Begin()
     m_next.reset();
     if (problem)
         return Fail(*problem);
-    const ToolCommand command = LintCommand(path, m_path);
+    const ToolCommand command = LintCommand(path, m_path, Catalogue());
     m_process.start(command.program, command.arguments, QIODevice::ReadOnly);
     m_limit.start();
 }

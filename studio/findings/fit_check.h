@@ -38,6 +38,7 @@ Q_SIGNALS:
     void Ended(); ///< after either, or without if the check was dropped
 
 private:
+    QString Catalogue() const;
     void Begin();
     void Take(int exitCode, QProcess::ExitStatus status);
     void Fail(const QString &reason);

@@ -2,6 +2,57 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fa">
 <context>
+    <name>ClockFit::Parts</name>
+    <message>
+        <source>title</source>
+        <translation>برچسب</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>تاریخ</translation>
+    </message>
+    <message>
+        <source>weekday</source>
+        <translation>روز هفته</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>زمان</translation>
+    </message>
+    <message>
+        <source>lunar date</source>
+        <translation>تاریخ قمری</translation>
+    </message>
+    <message>
+        <source>AM/PM badge</source>
+        <translation>نشان صبح/عصر</translation>
+    </message>
+    <message>
+        <source>numerals</source>
+        <translation>عددهای ساعت</translation>
+    </message>
+    <message>
+        <source>hour marks</source>
+        <translation>نشان‌های ساعت</translation>
+    </message>
+    <message>
+        <source>minute marks</source>
+        <translation>نشان‌های دقیقه</translation>
+    </message>
+    <message>
+        <source>hour hand</source>
+        <translation>ساعت‌شمار</translation>
+    </message>
+    <message>
+        <source>minute hand</source>
+        <translation>دقیقه‌شمار</translation>
+    </message>
+    <message>
+        <source>second hand</source>
+        <translation>ثانیه‌شمار</translation>
+    </message>
+</context>
+<context>
     <name>ClockStudio::Attributes</name>
     <message>
         <source>Kind of clock</source>
@@ -2197,6 +2248,239 @@
         <translation>
             <numerusform>در ده سال آینده ساعت %Ln بار نادرست خواهد بود، نخست از %1 تا %2.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ClockTool::FindingWords</name>
+    <message>
+        <source>left</source>
+        <translation>چپ</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>بالا</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>راست</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>پایین</translation>
+    </message>
+    <message>
+        <source>1 pixel</source>
+        <translation>1 پیکسل</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 پیکسل</translation>
+    </message>
+    <message>
+        <source> as %1</source>
+        <translation> با نوشتهٔ %1</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>و %1 مورد دیگر</translation>
+    </message>
+    <message>
+        <source>the %1 are</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>the %1 is</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>; %1 points would fit</source>
+        <translation>؛ با %1 پوینت جا می‌شود</translation>
+    </message>
+    <message>
+        <source>; no size of the %1 fits by itself</source>
+        <translation>؛ تنها با تغییر اندازهٔ %1 جا نمی‌شود</translation>
+    </message>
+    <message>
+        <source>; all sizes would fit if scaled by %1</source>
+        <translation>؛ اگر همهٔ اندازه‌ها در %1 ضرب شوند جا می‌شود</translation>
+    </message>
+    <message>
+        <source>%1 at the %2</source>
+        <translation>%1 از %2</translation>
+    </message>
+    <message>
+        <source>%1 cut: %2%3; first at %4%5%6</source>
+        <translation>%1 بریده می‌شود: %2%3؛ نخست در %4%5%6</translation>
+    </message>
+    <message>
+        <source>, completely hidden</source>
+        <translation>، کاملاً ناپیدا</translation>
+    </message>
+    <message>
+        <source>the images of the %1 are too small for the ink: %2 of %3 lost at the %4; first %5%6</source>
+        <translation>تصویرهای %1 برای نوشته کوچک‌اند: %2 از %3 در %4 گم می‌شود؛ نخست در %5%6</translation>
+    </message>
+    <message>
+        <source>; none at %1 points</source>
+        <translation>؛ با %1 پوینت هیچ</translation>
+    </message>
+    <message>
+        <source>the %1 overlap each other: %2</source>
+        <translation>%1 روی هم می‌افتند: %2</translation>
+    </message>
+    <message>
+        <source>%1 drawn over the %2: up to %3; first %4%5</source>
+        <translation>%1 روی %2 کشیده می‌شود: تا %3؛ نخست در %4%5</translation>
+    </message>
+    <message>
+        <source>the colour of the %1 is the key colour %2, which the host makes transparent</source>
+        <translation>رنگ %1 رنگ شفاف %2 است و دیده نمی‌شود</translation>
+    </message>
+    <message>
+        <source>the colour %1 of the %2 has a contrast of %3 against its background %4; 3 or more is easy to see</source>
+        <translation>رنگ %1 برای %2 با زمینهٔ %4 تضاد %3 دارد؛ 3 یا بیشتر خوب دیده می‌شود</translation>
+    </message>
+    <message>
+        <source>the %1 and the %2 are both %3: where they overlap they cannot be told apart</source>
+        <translation>%1 و %2 هر دو %3 هستند: جایی که روی هم می‌افتند از هم شناخته نمی‌شوند</translation>
+    </message>
+    <message>
+        <source>a dial with a radius of %1 pixels has no %2; they need at least %3</source>
+        <translation>صفحه‌ای با شعاع %1 پیکسل %2 ندارد؛ دست‌کم %3 لازم است</translation>
+    </message>
+    <message>
+        <source>another family is used for them</source>
+        <translation>با قلم دیگری نوشته می‌شوند</translation>
+    </message>
+    <message>
+        <source>boxes appear for &quot;%1&quot;</source>
+        <translation>به جای «%1» مربع دیده می‌شود</translation>
+    </message>
+    <message>
+        <source>no installed family has all of them</source>
+        <translation>هیچ قلم نصب‌شده‌ای همه را ندارد</translation>
+    </message>
+    <message>
+        <source>families with all of them: %1</source>
+        <translation>قلم‌هایی که همه را دارند: %1</translation>
+    </message>
+    <message>
+        <source>the family &quot;%1&quot; of the %2 lacks &quot;%3&quot;: %4; %5</source>
+        <translation>قلم «%1» برای %2 نویسه‌های «%3» را ندارد: %4؛ %5</translation>
+    </message>
+    <message>
+        <source>%1 not drawn: at %2 points its image would be empty or too large</source>
+        <translation>%1 کشیده نمی‌شود: تصویر آن با %2 پوینت خالی یا بیش از حد بزرگ است</translation>
+    </message>
+    <message>
+        <source>the area is off the screen</source>
+        <translation>ناحیه بیرون از صفحه است</translation>
+    </message>
+    <message>
+        <source>the area extends beyond the screen: %1</source>
+        <translation>ناحیه از صفحه بیرون می‌زند: %1</translation>
+    </message>
+    <message>
+        <source>this clock is drawn over the clock in line %1</source>
+        <translation>این ساعت روی ساعت سطر %1 کشیده می‌شود</translation>
+    </message>
+    <message>
+        <source>%1 drawn over the %2 of the clock in line %3</source>
+        <translation>%1 روی %2 ساعت سطر %3 کشیده می‌شود</translation>
+    </message>
+    <message>
+        <source>%1: %2; first on the day starting at %3</source>
+        <translation>%1: %2؛ نخست در روزی که از %3 آغاز می‌شود</translation>
+    </message>
+    <message>
+        <source>the images of its texts have %1 megapixels, which a small device draws slowly; accepted: at most %2, with smaller font sizes or a shorter title</source>
+        <translation>تصویر نوشته‌ها %1 مگاپیکسل است و دستگاه کوچک آن را کند می‌کشد؛ با اندازهٔ کوچک‌تر یا برچسب کوتاه‌تر حداکثر %2</translation>
+    </message>
+    <message>
+        <source>cannot read %1 in %2, so the clock is drawn without; the pictures come with the player</source>
+        <translation>%1 در %2 خوانده نمی‌شود و ساعت بدون آن کشیده می‌شود؛ تصویرها همراه پخش‌کننده‌اند</translation>
+    </message>
+    <message>
+        <source>; &quot;clock_tool zone --refresh&quot; updates them</source>
+        <translation>؛ با «clock_tool zone --refresh» به‌روز می‌شوند</translation>
+    </message>
+    <message>
+        <source> from then on</source>
+        <translation> از آن پس</translation>
+    </message>
+    <message>
+        <source>is not an installed font; &quot;%1&quot; is used instead%2</source>
+        <translation>قلم نصب‌شده‌ای نیست؛ به جای آن «%1» به کار می‌رود%2</translation>
+    </message>
+    <message>
+        <source>; accepted: a family that &quot;fc-list : family&quot; lists</source>
+        <translation>؛ قلم‌های پذیرفته را «fc-list : family» فهرست می‌کند</translation>
+    </message>
+    <message>
+        <source>the clock has no time zone and shows the player&apos;s, which is UTC; accepted: for example timezone=&quot;+01:00&quot;</source>
+        <translation>ساعت منطقهٔ زمانی ندارد و منطقهٔ پخش‌کننده (UTC) را نشان می‌دهد؛ شهری را برگزینید</translation>
+    </message>
+    <message>
+        <source>the clock has rules for daylight saving that are not used: UseDaylightSavingTime is %1; accepted: 1, or no rules</source>
+        <translation>قاعده‌های ساعت تابستانی به کار نمی‌روند: UseDaylightSavingTime برابر %1 است؛ باید 1 باشد یا قاعده‌ای نباشد</translation>
+    </message>
+    <message>
+        <source>all rows of this clock are hidden; accepted: display=&quot;true&quot; for one of them</source>
+        <translation>همهٔ سطرهای این ساعت پنهان‌اند؛ دست‌کم یکی را نمایش دهید</translation>
+    </message>
+    <message>
+        <source>the minus of date type 8 is missing from an exported program</source>
+        <translation>خط تیرهٔ قالب تاریخ 8 در برنامهٔ صادرشده نیست</translation>
+    </message>
+    <message>
+        <source>the digits of %1 are not legible at %2 points: %3%4</source>
+        <translation>رقم‌های %1 با %2 پوینت خوانا نیستند: %3%4</translation>
+    </message>
+    <message>
+        <source>the default font</source>
+        <translation>قلم پیش‌فرض</translation>
+    </message>
+    <message>
+        <source>; accepted: %1</source>
+        <translation>؛ پذیرفته: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ClockTool::RuleNote</name>
+    <message>
+        <source>these rules give the time of %1 until %2</source>
+        <translation>این قاعده‌ها تا %2 ساعت %1 را می‌دهند</translation>
+    </message>
+    <message>
+        <source>no known zone uses these rules</source>
+        <translation>هیچ منطقهٔ شناخته‌شده‌ای این قاعده‌ها را ندارد</translation>
+    </message>
+    <message>
+        <source>daylight saving ends an hour late for %2: the end is in standard time, an hour before the published one; accepted: %1</source>
+        <translation>ساعت تابستانی برای %2 یک ساعت دیر پایان می‌یابد: پایان به وقت استاندارد است، یک ساعت پیش از زمان اعلام‌شده؛ پذیرفته: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ClockZones::Validity</name>
+    <message>
+        <source>the daylight-saving rules are those of %2 only until %1</source>
+        <translation>قاعده‌های ساعت تابستانی تنها تا %1 با %2 یکی است</translation>
+    </message>
+    <message>
+        <source>the daylight-saving rules are those of %2 until %1, where the system&apos;s zone data end</source>
+        <translation>قاعده‌های ساعت تابستانی تا %1 با %2 یکی است؛ داده‌های منطقه در سامانه همان‌جا پایان می‌یابد</translation>
+    </message>
+    <message>
+        <source>the lunar date is wrong from %1 on</source>
+        <translation>تاریخ قمری از %1 نادرست است</translation>
+    </message>
+    <message>
+        <source>the lunar date is missing from %1 on</source>
+        <translation>تاریخ قمری از %1 نمایش داده نمی‌شود</translation>
+    </message>
+    <message>
+        <source>the Persian date is wrong from %1 on</source>
+        <translation>تاریخ خورشیدی از %1 نادرست است</translation>
     </message>
 </context>
 <context>

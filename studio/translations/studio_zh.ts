@@ -2,6 +2,57 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh">
 <context>
+    <name>ClockFit::Parts</name>
+    <message>
+        <source>title</source>
+        <translation>标签</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>weekday</source>
+        <translation>星期</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>lunar date</source>
+        <translation>农历</translation>
+    </message>
+    <message>
+        <source>AM/PM badge</source>
+        <translation>上午/下午标记</translation>
+    </message>
+    <message>
+        <source>numerals</source>
+        <translation>小时数字</translation>
+    </message>
+    <message>
+        <source>hour marks</source>
+        <translation>小时刻度</translation>
+    </message>
+    <message>
+        <source>minute marks</source>
+        <translation>分钟刻度</translation>
+    </message>
+    <message>
+        <source>hour hand</source>
+        <translation>时针</translation>
+    </message>
+    <message>
+        <source>minute hand</source>
+        <translation>分针</translation>
+    </message>
+    <message>
+        <source>second hand</source>
+        <translation>秒针</translation>
+    </message>
+</context>
+<context>
     <name>ClockStudio::Attributes</name>
     <message>
         <source>Kind of clock</source>
@@ -2197,6 +2248,239 @@
         <translation>
             <numerusform>未来十年内时钟将有 %n 次错误，首次从 %1 到 %2。</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>ClockTool::FindingWords</name>
+    <message>
+        <source>left</source>
+        <translation>左边</translation>
+    </message>
+    <message>
+        <source>top</source>
+        <translation>上边</translation>
+    </message>
+    <message>
+        <source>right</source>
+        <translation>右边</translation>
+    </message>
+    <message>
+        <source>bottom</source>
+        <translation>下边</translation>
+    </message>
+    <message>
+        <source>1 pixel</source>
+        <translation>1 像素</translation>
+    </message>
+    <message>
+        <source>%1 pixels</source>
+        <translation>%1 像素</translation>
+    </message>
+    <message>
+        <source> as %1</source>
+        <translation>（显示 %1 时）</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>另有 %1 个</translation>
+    </message>
+    <message>
+        <source>the %1 are</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>the %1 is</source>
+        <translation>%1</translation>
+    </message>
+    <message>
+        <source>; %1 points would fit</source>
+        <translation>；%1 磅可完整显示</translation>
+    </message>
+    <message>
+        <source>; no size of the %1 fits by itself</source>
+        <translation>；只改%1的字号无法完整显示</translation>
+    </message>
+    <message>
+        <source>; all sizes would fit if scaled by %1</source>
+        <translation>；所有字号乘以 %1 可完整显示</translation>
+    </message>
+    <message>
+        <source>%1 at the %2</source>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>%1 cut: %2%3; first at %4%5%6</source>
+        <translation>%1被裁切：%2%3；首次在 %4%5%6</translation>
+    </message>
+    <message>
+        <source>, completely hidden</source>
+        <translation>，完全看不见</translation>
+    </message>
+    <message>
+        <source>the images of the %1 are too small for the ink: %2 of %3 lost at the %4; first %5%6</source>
+        <translation>%1的图像容不下笔画：%3 在%4缺少 %2；首次在 %5%6</translation>
+    </message>
+    <message>
+        <source>; none at %1 points</source>
+        <translation>；%1 磅时完整</translation>
+    </message>
+    <message>
+        <source>the %1 overlap each other: %2</source>
+        <translation>%1互相重叠：%2</translation>
+    </message>
+    <message>
+        <source>%1 drawn over the %2: up to %3; first %4%5</source>
+        <translation>%1画在%2上：最多 %3；首次在 %4%5</translation>
+    </message>
+    <message>
+        <source>the colour of the %1 is the key colour %2, which the host makes transparent</source>
+        <translation>%1的颜色是透明色 %2，因此看不见</translation>
+    </message>
+    <message>
+        <source>the colour %1 of the %2 has a contrast of %3 against its background %4; 3 or more is easy to see</source>
+        <translation>%2的颜色 %1 与背景 %4 的对比度为 %3；3 以上才容易看清</translation>
+    </message>
+    <message>
+        <source>the %1 and the %2 are both %3: where they overlap they cannot be told apart</source>
+        <translation>%1和%2都是 %3：重叠处无法区分</translation>
+    </message>
+    <message>
+        <source>a dial with a radius of %1 pixels has no %2; they need at least %3</source>
+        <translation>半径为 %1 像素的表盘没有%2；至少需要 %3</translation>
+    </message>
+    <message>
+        <source>another family is used for them</source>
+        <translation>改用其他字体显示</translation>
+    </message>
+    <message>
+        <source>boxes appear for &quot;%1&quot;</source>
+        <translation>“%1”显示为方框</translation>
+    </message>
+    <message>
+        <source>no installed family has all of them</source>
+        <translation>没有一种已安装的字体包含全部字符</translation>
+    </message>
+    <message>
+        <source>families with all of them: %1</source>
+        <translation>包含全部字符的字体：%1</translation>
+    </message>
+    <message>
+        <source>the family &quot;%1&quot; of the %2 lacks &quot;%3&quot;: %4; %5</source>
+        <translation>%2的字体“%1”缺少“%3”：%4；%5</translation>
+    </message>
+    <message>
+        <source>%1 not drawn: at %2 points its image would be empty or too large</source>
+        <translation>%1未显示：%2 磅时图像为空或过大</translation>
+    </message>
+    <message>
+        <source>the area is off the screen</source>
+        <translation>该区域在屏幕之外</translation>
+    </message>
+    <message>
+        <source>the area extends beyond the screen: %1</source>
+        <translation>该区域超出屏幕：%1</translation>
+    </message>
+    <message>
+        <source>this clock is drawn over the clock in line %1</source>
+        <translation>此时钟画在第 %1 行的时钟上</translation>
+    </message>
+    <message>
+        <source>%1 drawn over the %2 of the clock in line %3</source>
+        <translation>%1画在第 %3 行时钟的%2上</translation>
+    </message>
+    <message>
+        <source>%1: %2; first on the day starting at %3</source>
+        <translation>%1：%2；首次在始于 %3 的一天</translation>
+    </message>
+    <message>
+        <source>the images of its texts have %1 megapixels, which a small device draws slowly; accepted: at most %2, with smaller font sizes or a shorter title</source>
+        <translation>其文字图像有 %1 百万像素，小型设备绘制较慢；请缩小字号或缩短标签，使其不超过 %2</translation>
+    </message>
+    <message>
+        <source>cannot read %1 in %2, so the clock is drawn without; the pictures come with the player</source>
+        <translation>无法读取 %2 中的 %1，时钟将缺少这些图片；图片随播放器提供</translation>
+    </message>
+    <message>
+        <source>; &quot;clock_tool zone --refresh&quot; updates them</source>
+        <translation>；用“clock_tool zone --refresh”更新</translation>
+    </message>
+    <message>
+        <source> from then on</source>
+        <translation>（自该时起）</translation>
+    </message>
+    <message>
+        <source>is not an installed font; &quot;%1&quot; is used instead%2</source>
+        <translation>不是已安装的字体；将使用“%1”代替%2</translation>
+    </message>
+    <message>
+        <source>; accepted: a family that &quot;fc-list : family&quot; lists</source>
+        <translation>；可用“fc-list : family”列出的字体</translation>
+    </message>
+    <message>
+        <source>the clock has no time zone and shows the player&apos;s, which is UTC; accepted: for example timezone=&quot;+01:00&quot;</source>
+        <translation>时钟没有时区，将显示播放器的时区 (UTC)；请选择城市</translation>
+    </message>
+    <message>
+        <source>the clock has rules for daylight saving that are not used: UseDaylightSavingTime is %1; accepted: 1, or no rules</source>
+        <translation>时钟有夏令时规则但未使用：UseDaylightSavingTime 为 %1；应为 1，或不设规则</translation>
+    </message>
+    <message>
+        <source>all rows of this clock are hidden; accepted: display=&quot;true&quot; for one of them</source>
+        <translation>此时钟的所有行都被隐藏；请至少显示一行</translation>
+    </message>
+    <message>
+        <source>the minus of date type 8 is missing from an exported program</source>
+        <translation>导出的程序缺少日期格式 8 的减号</translation>
+    </message>
+    <message>
+        <source>the digits of %1 are not legible at %2 points: %3%4</source>
+        <translation>%1 的数字在 %2 磅时难以辨认：%3%4</translation>
+    </message>
+    <message>
+        <source>the default font</source>
+        <translation>默认字体</translation>
+    </message>
+    <message>
+        <source>; accepted: %1</source>
+        <translation>；可用 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ClockTool::RuleNote</name>
+    <message>
+        <source>these rules give the time of %1 until %2</source>
+        <translation>这些规则在 %2 年之前与 %1 的时间一致</translation>
+    </message>
+    <message>
+        <source>no known zone uses these rules</source>
+        <translation>没有已知时区使用这些规则</translation>
+    </message>
+    <message>
+        <source>daylight saving ends an hour late for %2: the end is in standard time, an hour before the published one; accepted: %1</source>
+        <translation>对 %2 而言夏令时晚一小时结束：结束时间按标准时间填写，比公布的早一小时；应为 %1</translation>
+    </message>
+</context>
+<context>
+    <name>ClockZones::Validity</name>
+    <message>
+        <source>the daylight-saving rules are those of %2 only until %1</source>
+        <translation>夏令时规则只在 %1 之前符合 %2</translation>
+    </message>
+    <message>
+        <source>the daylight-saving rules are those of %2 until %1, where the system&apos;s zone data end</source>
+        <translation>夏令时规则在 %1 之前符合 %2，系统的时区数据到此为止</translation>
+    </message>
+    <message>
+        <source>the lunar date is wrong from %1 on</source>
+        <translation>农历从 %1 起有误</translation>
+    </message>
+    <message>
+        <source>the lunar date is missing from %1 on</source>
+        <translation>农历从 %1 起缺失</translation>
+    </message>
+    <message>
+        <source>the Persian date is wrong from %1 on</source>
+        <translation>波斯历日期从 %1 起有误</translation>
     </message>
 </context>
 <context>

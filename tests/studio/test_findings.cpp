@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStandardPaths>
+#include <QTranslator>
 
 using namespace ClockStudio;
 
@@ -85,6 +86,8 @@ private slots:
     void TimesAreThoseOfTheClock();
     void EndOfRulesIsListedAtOnce();
     void FilesBesideTheProgram();
+    void LanguageOfTheWindow_data();
+    void LanguageOfTheWindow();
 };
 
 void TestFindings::AppearsAndIsFixed()
@@ -244,6 +247,40 @@ void TestFindings::FilesBesideTheProgram()
     QVERIFY(before.contains("files"));
     QCOMPARE(QDir(folder).entryList(),
              QStringList(before).filter(QRegularExpression("^(?!files$)")));
+}
+
+void TestFindings::LanguageOfTheWindow_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("cut");
+    QTest::addColumn<QString>("noZone");
+    QTest::newRow("Chinese") << QLocale("zh_CN") << "时间被裁切：左边 "
+                             << "时钟没有时区";
+    QTest::newRow("Persian") << QLocale("fa_IR") << "زمان بریده می‌شود: "
+                             << "ساعت منطقهٔ زمانی ندارد";
+}
+
+/// Of the window's own checks and of those of the tool, which can still be fixed.
+void TestFindings::LanguageOfTheWindow()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, cut);
+    QFETCH(QString, noZone);
+    QTranslator translator;
+    QVERIFY(translator.load(locale, "studio", "_", ":/translations"));
+    QCoreApplication::installTranslator(&translator);
+    QLocale::setDefault(locale);
+    {
+        FindingsUnderTest test(QByteArray(kCut).replace(" timezone=\"+00:00\"", ""));
+        QVERIFY(test.RowWith(noZone) >= 0);
+        test.panel.CheckAll();
+        QVERIFY(test.RowWith(noZone) >= 0);
+        test.panel.findChild<QListWidget *>()->setCurrentRow(test.RowWith(cut));
+        QTest::mouseClick(test.panel.findChild<QPushButton *>(), Qt::LeftButton);
+        test.panel.CheckAll();
+        QVERIFY(test.RowWith(cut) < 0);
+    }
+    QLocale::setDefault(QLocale::c());
 }
 
 QTEST_MAIN(TestFindings)

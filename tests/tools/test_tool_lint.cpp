@@ -324,6 +324,7 @@ private slots:
     void SystemWithoutFonts();
     void StylePictures();
     void FilesElsewhere();
+    void UnreadableCatalogue();
     void ManyFindings();
 
 private:
@@ -616,6 +617,15 @@ void TestToolLint::FilesElsewhere()
         RunTool({"lint", "--no-fit", "--base", m_directory.path(), program}).errors;
     QVERIFY2(other.contains("copy.xml:2: warning: the file \"in.png\" has the digest "),
              qPrintable(other));
+}
+
+void TestToolLint::UnreadableCatalogue()
+{
+    const QString program = m_directory.filePath("sound.xml");
+    QVERIFY(WriteText(program, Digital("")));
+    const ProcessRun run = RunTool({"lint", "--no-fit", "--catalogue", program, program});
+    QCOMPARE(run.exitCode, 3);
+    QCOMPARE(run.errors, QString("clock_tool: %1: cannot be read as a catalogue\n").arg(program));
 }
 
 // However much is wrong with one program, the next one is heard of.

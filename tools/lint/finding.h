@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QSet>
 #include <QString>
 #include <QVector>
@@ -35,6 +36,13 @@ struct Finding
     QString text;       ///< the message, with what would be accepted
     QString suggestion; ///< what to write instead of the attribute's value, or of the name where
                         ///< that is what is wrong; empty for none
+};
+
+/// Translates texts of findings by the catalogues that the program installed; otherwise they are
+/// English.
+class FindingWords
+{
+    Q_DECLARE_TR_FUNCTIONS(ClockTool::FindingWords)
 };
 
 /// One JSON object on one line, with a newline; docs/fit.md lists the keys.

@@ -37,9 +37,9 @@ void ReportSlowDrawing(const QDomElement &clock, qint64 pixels, Findings &findin
 {
     if (pixels > kMaxPixels)
         findings.Warn(At(clock),
-                      QStringLiteral("the images of its texts have %1 megapixels, which a small "
-                                     "device draws slowly; accepted: at most %2, with smaller "
-                                     "font sizes or a shorter title")
+                      FindingWords::tr("the images of its texts have %1 megapixels, which a small "
+                                       "device draws slowly; accepted: at most %2, with smaller "
+                                       "font sizes or a shorter title")
                           .arg(pixels / 1'000'000)
                           .arg(kMaxPixels / 1'000'000));
 }

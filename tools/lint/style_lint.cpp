@@ -23,8 +23,9 @@ Place StylePlace(const QDomElement &clock)
 
 QString Words(const QStringList &files)
 {
-    return QStringLiteral("cannot read %1 in %2, so the clock is drawn without; the pictures come "
-                          "with the player")
+    return FindingWords::tr(
+               "cannot read %1 in %2, so the clock is drawn without; the pictures come "
+               "with the player")
         .arg(files.join(QStringLiteral(", ")), QDir::cleanPath(StyleFolder()));
 }
 

@@ -16,8 +16,8 @@ void Tell(const QDomElement &clock, const Validity &validity, qint64 instant, Fi
     const bool isRules = validity.end == ValidityEnd::Rules;
     QString advice;
     if (isRules)
-        advice = QStringLiteral("; \"clock_tool zone --refresh\" updates them")
-            + (instant < validity.until ? QStringLiteral(" from then on") : QString());
+        advice = FindingWords::tr("; \"clock_tool zone --refresh\" updates them")
+            + (instant < validity.until ? FindingWords::tr(" from then on") : QString());
     if (IsDue(validity, instant))
         findings.Warn(At(clock), TextOf(validity) + advice);
     else if (isRules)

@@ -1,5 +1,6 @@
 #include "value_checks.h"
 
+#include "finding.h"
 #include "suggestion.h"
 
 #include "calendar/clock_time.h"
@@ -103,10 +104,10 @@ QString FamilyFault(const QString &text)
     if (text.isEmpty() || ClockFit::IsInstalled(text) || !ClockFit::HasFonts())
         return {};
     const QString meant = DidYouMean(text, ClockFit::InstalledFamilies());
-    return QStringLiteral("is not an installed font; \"%1\" is used instead%2")
+    return FindingWords::tr("is not an installed font; \"%1\" is used instead%2")
         .arg(ClockFit::FamilyUsed(text),
              meant.isEmpty()
-                 ? QStringLiteral("; accepted: a family that \"fc-list : family\" lists")
+                 ? FindingWords::tr("; accepted: a family that \"fc-list : family\" lists")
                  : meant);
 }
 

@@ -62,8 +62,8 @@ private:
             && !HasSetting(Attribute::TimeZone))
             m_findings.Note(
                 At(m_clock, zone),
-                QStringLiteral("the clock has no time zone and shows the player's, "
-                               "which is UTC; accepted: for example timezone=\"+01:00\""));
+                FindingWords::tr("the clock has no time zone and shows the player's, "
+                                 "which is UTC; accepted: for example timezone=\"+01:00\""));
     }
 
     void CheckRules()
@@ -75,12 +75,13 @@ private:
         if (flag == 1)
             return CheckRulesInUse(settings);
         if (!settings.start.isEmpty() && !settings.end.isEmpty())
-            m_findings.Warn(At(m_clock, Key(Attribute::UseDaylightSavingTime)),
-                            QStringLiteral("the clock has rules for daylight saving that are not "
-                                           "used: UseDaylightSavingTime is %1; accepted: 1, or no "
-                                           "rules")
-                                .arg(flag),
-                            QStringLiteral("1"));
+            m_findings.Warn(
+                At(m_clock, Key(Attribute::UseDaylightSavingTime)),
+                FindingWords::tr("the clock has rules for daylight saving that are not "
+                                 "used: UseDaylightSavingTime is %1; accepted: 1, or no "
+                                 "rules")
+                    .arg(flag),
+                QStringLiteral("1"));
     }
 
     void CheckRulesInUse(const ZoneSettings &settings)
@@ -109,8 +110,8 @@ private:
             hasRow = hasRow || Number(row) != 0;
         if (!hasRow)
             m_findings.Warn(At(m_clock),
-                            QStringLiteral("all rows of this clock are hidden; accepted: "
-                                           "display=\"true\" for one of them"));
+                            FindingWords::tr("all rows of this clock are hidden; accepted: "
+                                             "display=\"true\" for one of them"));
     }
 
     void CheckDate()
@@ -119,8 +120,8 @@ private:
         const Attribute date = isDigital ? Attribute::DigitalDateType : Attribute::AnalogDateType;
         if (m_node.ClockType() != PictureClock && Number(date) == DateWithMinus)
             m_findings.Note(At(m_clock),
-                            QStringLiteral("the minus of date type 8 is missing from an "
-                                           "exported program"));
+                            FindingWords::tr("the minus of date type 8 is missing from an "
+                                             "exported program"));
     }
 
     /// Warns if no font is installed, else checks the digits; a picture clock has no texts.
@@ -176,10 +177,10 @@ private:
         const int right = NearestLegibleSize(name, points, marks);
         m_findings.Warn(
             PlaceInClock(size),
-            QStringLiteral("the digits of %1 are not legible at %2 points: %3%4")
-                .arg(name.isEmpty() ? QStringLiteral("the default font") : Quoted(name))
+            FindingWords::tr("the digits of %1 are not legible at %2 points: %3%4")
+                .arg(name.isEmpty() ? FindingWords::tr("the default font") : Quoted(name))
                 .arg(points)
-                .arg(fault, right > 0 ? QStringLiteral("; accepted: %1").arg(right) : QString()),
+                .arg(fault, right > 0 ? FindingWords::tr("; accepted: %1").arg(right) : QString()),
             right > 0 ? QString::number(right) : QString());
     }
 

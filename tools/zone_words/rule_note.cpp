@@ -5,6 +5,7 @@
 
 #include "calendar/clock_time.h"
 
+#include <QCoreApplication>
 #include <QHash>
 
 namespace ClockTool {
@@ -13,6 +14,11 @@ namespace {
 
 using namespace ClockZones;
 using namespace Lw::HNodeClock;
+
+QString Translated(const char *text)
+{
+    return QCoreApplication::translate("ClockTool::RuleNote", text);
+}
 
 /// The rule one hour earlier on the same day; empty if that falls on the day before.
 QString HourEarlier(const QString &text)
@@ -28,7 +34,8 @@ RuleNote NoteFor(const ZoneSettings &settings, const Span &span)
 {
     const QByteArray zone = ZoneWith(settings, span);
     if (!zone.isEmpty())
-        return {QStringLiteral("these rules give the time of %1 until %2")
+        return {Translated(QT_TRANSLATE_NOOP("ClockTool::RuleNote",
+                                             "these rules give the time of %1 until %2"))
                     .arg(QString::fromLatin1(zone), DateOf(span.end).left(4)),
                 {}};
     ZoneSettings earlier = settings;
@@ -37,11 +44,14 @@ RuleNote NoteFor(const ZoneSettings &settings, const Span &span)
     if (meant.isEmpty()) // rules with a known end have a finding of their own
         return {RulesEnds().Of(settings, span.begin)
                     ? QString()
-                    : QStringLiteral("no known zone uses these rules"),
+                    : Translated(
+                        QT_TRANSLATE_NOOP("ClockTool::RuleNote", "no known zone uses these rules")),
                 {}};
     return {
-        QStringLiteral("daylight saving ends an hour late for %2: the end is in standard time, an "
-                       "hour before the published one; accepted: %1")
+        Translated(QT_TRANSLATE_NOOP(
+                       "ClockTool::RuleNote",
+                       "daylight saving ends an hour late for %2: the end is in standard time, an "
+                       "hour before the published one; accepted: %1"))
             .arg(earlier.end, QString::fromLatin1(meant)),
         earlier.end};
 }
