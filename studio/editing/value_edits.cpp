@@ -1,5 +1,7 @@
 #include "value_edits.h"
 
+#include "value_sources.h"
+
 #include "clock_finder.h"
 #include "clock_node.h"
 #include "clock_sdk_tables.h"
@@ -13,27 +15,6 @@ namespace ClockStudio {
 namespace {
 
 using namespace Lw::HNodeClock;
-
-/// Where a value is set: an XML attribute of an element; the name is empty if it is not set.
-struct Source
-{
-    int element = -1;
-    QString attribute;
-    Conversion conversion = Conversion::Text;
-    bool isStored = false; ///< an <attribute> child, whose value is in the stored form
-
-    bool IsNothing() const { return attribute.isEmpty(); }
-};
-
-/// Where a value that is not set yet would be set.
-struct NewSource
-{
-    QString element; ///< element to create; empty if it exists
-    Source source;
-};
-
-const QString kKeyName = QStringLiteral("key");
-const QString kValueName = QLatin1String(Sdk::kValue);
 
 QString ColourName(int stored)
 {
@@ -61,99 +42,6 @@ std::optional<QString> ImportText(Conversion conversion, const QString &stored)
     return std::nullopt;
 }
 
-/// The import tables for a kind of clock. (A node reads font, analog or digital, then time.)
-QVector<const ImportElement *> ImportsOf(int kind)
-{
-    QVector<const ImportElement *> imports;
-    const auto add = [&imports](const auto &table) {
-        for (const ImportElement &element : table)
-            imports.append(&element);
-    };
-    add(kTimeImport);
-    if (kind != PictureClock) {
-        add(kFontImport);
-        kind == AnalogClock ? add(kAnalogImport) : add(kDigitalImport);
-    }
-    return imports;
-}
-
-/// The element that an import row reads: the clock itself, or its first child with the name, else
-/// with the fallback name; -1 if none.
-int ElementRead(const ParsedProgram &parsed, int clock, const ImportElement &import)
-{
-    if (!import.name)
-        return clock;
-    for (const char *const name : {import.name, import.fallback}) {
-        const QVector<int> found =
-            name ? ChildrenNamed(parsed.elements, clock, QLatin1String(name)) : QVector<int>();
-        if (!found.isEmpty())
-            return found.first();
-    }
-    return -1;
-}
-
-QVector<const ImportRow *> RowsFor(const ImportElement &import, Attribute target)
-{
-    QVector<const ImportRow *> rows;
-    for (const ImportRow &row : import.rows) {
-        if (row.source.attribute && row.target == target)
-            rows.append(&row);
-    }
-    return rows;
-}
-
-Source StoredSource(const ParsedProgram &parsed, int clock, Attribute attribute)
-{
-    Source last;
-    for (const int child : ChildrenNamed(parsed.elements, clock, ClockProgram::kAttributeTag)) {
-        if (parsed.elements[child].Value(kKeyName) == Key(attribute))
-            last = {child, kValueName, Conversion::Text, true};
-    }
-    return last;
-}
-
-/// Where the value is set: the last "attribute" child with the key, else the last imported source.
-Source SourceOf(const ParsedProgram &parsed, int clock, int kind, Attribute attribute)
-{
-    Source found = StoredSource(parsed, clock, attribute);
-    if (!found.IsNothing())
-        return found;
-    for (const ImportElement *const import : ImportsOf(kind)) {
-        const int element = ElementRead(parsed, clock, *import);
-        for (const ImportRow *const row : RowsFor(*import, attribute)) {
-            for (const ImportSource *const source : {&row->source, &row->fallback}) {
-                if (element >= 0 && source->attribute
-                    && parsed.elements[element].Find(QLatin1String(source->attribute))) {
-                    found = {element, QLatin1String(source->attribute), source->conversion, false};
-                    break;
-                }
-            }
-        }
-    }
-    return found;
-}
-
-/// The usual place for a new value: the specific element, under the documented name.
-/// Elements that set several attributes at once (font, clockCom) are not used.
-std::optional<NewSource> NewSourceOf(const ParsedProgram &parsed, int clock, int kind,
-                                     Attribute attribute)
-{
-    for (const ImportElement *const import : ImportsOf(kind)) {
-        const bool isShared = import->name
-            && (qstrcmp(import->name, "font") == 0 || qstrcmp(import->name, Sdk::kClockCom) == 0);
-        const QVector<const ImportRow *> rows = RowsFor(*import, attribute);
-        if (isShared || rows.isEmpty())
-            continue;
-        const int element = ElementRead(parsed, clock, *import);
-        const ImportSource &source = rows.first()->source;
-        const Source place {element, QLatin1String(source.attribute), source.conversion, false};
-        if (element >= 0)
-            return NewSource {{}, place};
-        return NewSource {QLatin1String(import->fallback ? import->fallback : import->name), place};
-    }
-    return std::nullopt;
-}
-
 TextEdit StoredElementEdit(const ParsedProgram &parsed, int clock, const StoredValue &value)
 {
     return AppendChildEdit(
@@ -167,7 +55,7 @@ std::optional<TextEdit> BestEdit(const ParsedProgram &parsed, int area, int kind
                                  const StoredValue &value)
 {
     const int clock = parsed.ClockElement(area);
-    Source source = SourceOf(parsed, clock, kind, value.attribute);
+    ValueSource source = SourceOf(parsed, clock, kind, value.attribute);
     QString element;
     if (source.IsNothing()) {
         const auto made = NewSourceOf(parsed, clock, kind, value.attribute);
@@ -234,7 +122,7 @@ ReadEdit EditOf(const ParsedProgram &parsed, int area, int kind, const StoredVal
             return {*best, std::move(after)};
     }
     const int clock = parsed.ClockElement(area);
-    const Source stored = StoredSource(parsed, clock, value.attribute);
+    const ValueSource stored = StoredSource(parsed, clock, value.attribute);
     const TextEdit edit = stored.IsNothing()
         ? StoredElementEdit(parsed, clock, value)
         : SetAttributeEdit(parsed, stored.element, kValueName, value.text);
@@ -284,7 +172,7 @@ TextEdits ValueEdits(const ParsedProgram &parsed, int area, const QVector<Stored
 TextEdits ResetEdits(const ParsedProgram &parsed, int area, Attribute attribute)
 {
     const StoredValue value {attribute, DefaultValue(attribute)};
-    const Source source =
+    const ValueSource source =
         SourceOf(parsed, parsed.ClockElement(area), KindOf(parsed, area), attribute);
     if (!source.IsNothing()) {
         const TextEdit removal = source.isStored
@@ -328,7 +216,7 @@ QString DefaultValue(Attribute attribute)
 TextRange PlaceOf(const ParsedProgram &parsed, int area, Attribute attribute)
 {
     const int clock = parsed.ClockElement(area);
-    const Source source = SourceOf(parsed, clock, KindOf(parsed, area), attribute);
+    const ValueSource source = SourceOf(parsed, clock, KindOf(parsed, area), attribute);
     return source.IsNothing() ? parsed.elements[clock].tag : parsed.elements[source.element].whole;
 }
 
