@@ -81,6 +81,8 @@ Gallery::Gallery(QWidget *parent)
     AddTemplates();
 }
 
+Gallery::~Gallery() = default;
+
 /// Buttons and recent files.
 QLayout *Gallery::StartPart()
 {
@@ -148,12 +150,22 @@ void Gallery::DrawNextPicture()
 {
     if (m_drawn >= m_templates->count())
         return;
-    if (isVisible()) {
-        QListWidgetItem *const item = m_templates->item(m_drawn++);
-        const QByteArray bytes = TemplateBytes(item->data(Qt::UserRole).toString());
-        item->setIcon(QIcon(Card(PictureOfProgram(bytes))));
-    }
+    if (isVisible())
+        DrawNextClock();
     QTimer::singleShot(isVisible() ? 0 : 200, this, &Gallery::DrawNextPicture);
+}
+
+void Gallery::DrawNextClock()
+{
+    QListWidgetItem *const item = m_templates->item(m_drawn);
+    if (!m_picture)
+        m_picture =
+            std::make_unique<ProgramPicture>(TemplateBytes(item->data(Qt::UserRole).toString()));
+    if (!m_picture->IsDone())
+        return m_picture->DrawNextClock();
+    item->setIcon(QIcon(Card(m_picture->Image())));
+    m_picture.reset();
+    ++m_drawn;
 }
 
 void Gallery::Refresh(const QStringList &recent, bool isOpen)

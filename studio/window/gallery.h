@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+#include <memory>
+
 QT_BEGIN_NAMESPACE
 class QListWidget;
 class QPushButton;
@@ -10,12 +12,15 @@ QT_END_NAMESPACE
 
 namespace ClockStudio {
 
+class ProgramPicture;
+
 class Gallery : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit Gallery(QWidget *parent = nullptr);
+    ~Gallery() override;
 
     /// Updates the recent files. If a program is open, a button leads back to its wall.
     void Refresh(const QStringList &recent, bool isOpen);
@@ -32,13 +37,15 @@ private:
     QLayout *TemplatesPart();
     void AddTemplates();
     void DrawNextPicture();
+    void DrawNextClock();
     void BeginEmpty();
 
     QPushButton *m_return;
     QListWidget *m_templates;
     QListWidget *m_recent;
     QWidget *m_recentPart;
-    int m_drawn = 0; ///< number of templates whose picture is drawn
+    int m_drawn = 0;                           ///< number of templates whose picture is drawn
+    std::unique_ptr<ProgramPicture> m_picture; ///< of the next one, while it is drawn
 };
 
 } // namespace ClockStudio

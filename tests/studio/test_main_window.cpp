@@ -3,6 +3,8 @@
 #include "sample_programs.h"
 
 #include "files/recovery_store.h"
+#include "files/templates.h"
+#include "wall/program_picture.h"
 #include "window/gallery.h"
 #include "window/main_window.h"
 
@@ -178,6 +180,7 @@ private slots:
     void UndoFollowsTheHistory();
     void GalleryOpensOnce_data();
     void GalleryOpensOnce();
+    void TemplatePictures();
     void ClosingAsksToSave();
     void SavesAndOpensRecent();
     void DropsAFile();
@@ -271,6 +274,30 @@ void TestMainWindow::GalleryOpensOnce()
                               list->visualItemRect(list->item(0)).center());
     }
     QCOMPARE(chosen.count(), 1);
+}
+
+/// A template's picture, drawn clock by clock, is its wall.
+void TestMainWindow::TemplatePictures()
+{
+    ClockStage::StageTime::HoldAt(
+        QDateTime::fromString("2026-05-04T10:08:36Z", Qt::ISODate).toMSecsSinceEpoch());
+    WindowUnderTest test;
+    for (const Template &one : Templates()) {
+        const QByteArray bytes = TemplateBytes(one.name);
+        test.window.Document().Load(bytes);
+        const LiveWall &wall = test.window.Editor().Wall();
+        QTRY_VERIFY(wall.IsComplete());
+        ProgramPicture picture(bytes);
+        for (int area = 0; area < wall.AreaCount(); ++area) {
+            QVERIFY(!picture.IsDone());
+            picture.DrawNextClock();
+        }
+        QVERIFY(picture.IsDone());
+        QCOMPARE(picture.Image(), wall.Screen());
+    }
+    ClockStage::StageTime::Travel().ReturnToPresent();
+    QVERIFY(ProgramPicture("<program").IsDone());
+    QVERIFY(ProgramPicture("<program").Image().isNull());
 }
 
 void TestMainWindow::ClosingAsksToSave()
