@@ -5,6 +5,7 @@
 #include "clock_sdk_tables.h"
 
 #include "happconfig.h"
+#include "number_text.h"
 
 #include <QColor>
 #include <QDomDocument>
@@ -61,7 +62,7 @@ std::optional<int> ClockTypeIn(const QDomElement &element)
 {
     const QDomElement clockCom = element.firstChildElement(QLatin1String(Sdk::kClockCom));
     if (!clockCom.isNull())
-        return clockCom.attribute(QLatin1String(Sdk::kClockType), QStringLiteral("-1")).toInt();
+        return NumberIn(clockCom.attribute(QLatin1String(Sdk::kClockType), QStringLiteral("-1")));
     const QString named =
         element.attribute(QLatin1String(Sdk::kType), QLatin1String(Sdk::kTypeNames[AnalogClock]));
     for (const int type : {AnalogClock, DigitalClock, PictureClock}) {
@@ -91,7 +92,7 @@ void HClockNode::CoverToSDKFormate(QDomElement &parent, Lw::GetProgramModel mode
     QDomElement clock = document.createElement(QLatin1String(Sdk::kClock));
     parent.appendChild(clock);
     const int clockType = HaveAttribute(Key(Attribute::ClockType))
-        ? GetAttribute(Key(Attribute::ClockType)).toInt()
+        ? NumberIn(GetAttribute(Key(Attribute::ClockType)))
         : -1;
     if (HaveAttribute(Key(Attribute::Guid)))
         clock.setAttribute(QLatin1String(Sdk::kGuid), GetGuid());
@@ -219,9 +220,9 @@ void HClockNode::Apply(Attribute target, Conversion conversion, const QString &t
     case Conversion::Text:
         return Store(target, text);
     case Conversion::Number:
-        return Store(target, text.toInt());
+        return Store(target, NumberIn(text));
     case Conversion::InvertedNumber:
-        return Store(target, text.toInt() == 0 ? 1 : 0);
+        return Store(target, NumberIn(text) == 0 ? 1 : 0);
     case Conversion::Flag:
         return Store(target, CovertDisplay(text));
     case Conversion::Colour:
@@ -229,7 +230,7 @@ void HClockNode::Apply(Attribute target, Conversion conversion, const QString &t
     case Conversion::ParsedColour:
         return Store(target, ParsedColour(text));
     case Conversion::AdjustSeconds:
-        return SetTimeAdjust(text.toInt());
+        return SetTimeAdjust(NumberIn(text));
     case Conversion::AdjustTime:
         if (const std::optional<int> seconds = SignedSeconds(text))
             SetTimeAdjust(*seconds);

@@ -70,7 +70,7 @@ HClockRender::HClockRender(HClockNode *node) : m_node(node), m_state(kIdle)
     m_player.reset(new pictureplayer(nullptr));
     m_drawer.reset(new DrawDisplayImage(m_node));
     m_drawer->InitClockTypePixmap();
-    new FrameDamage(m_drawer.data(), this);
+    new FrameDamage(m_drawer.get(), this);
 }
 
 HClockRender::~HClockRender()
@@ -130,7 +130,7 @@ void HClockRender::PlayNext()
         return;
     }
     const QPointer<HClockRender> self(this);
-    QScopedPointer<DrawDisplayImage> drawer(m_drawer.take());
+    std::unique_ptr<DrawDisplayImage> drawer = std::move(m_drawer);
     QImage frame;
     int millisecond = 0;
     {
@@ -140,7 +140,7 @@ void HClockRender::PlayNext()
     }
     if (!self || !m_player)
         return;
-    m_drawer.swap(drawer);
+    m_drawer = std::move(drawer);
     m_player->UpdateImage(std::move(frame));
     // UpdateImage() may remove or delete this renderer too.
     if (!self || !m_player)
@@ -158,7 +158,7 @@ void HClockRender::CleanResources()
 {
     m_drawer.reset();
     // Stop() may re-enter this function or delete this renderer.
-    const QScopedPointer<pictureplayer> player(m_player.take());
+    const std::unique_ptr<pictureplayer> player = std::move(m_player);
     if (player)
         player->Stop();
 }

@@ -7,7 +7,8 @@
 #include "icontentrender.h"
 
 #include <QPointer>
-#include <QScopedPointer>
+
+#include <memory>
 
 namespace Lw {
 class pictureplayer;
@@ -46,8 +47,8 @@ private:
     int m_state;
     unsigned int m_playIdentifier = 0;
     int m_tickCounter = 0;
-    QScopedPointer<DrawDisplayImage> m_drawer; // like the player, null once removed
-    QScopedPointer<Lw::pictureplayer> m_player;
+    std::unique_ptr<DrawDisplayImage> m_drawer; // like the player, null once removed
+    std::unique_ptr<Lw::pictureplayer> m_player;
 };
 
 } // namespace Lw::HNodeClock

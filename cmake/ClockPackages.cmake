@@ -47,7 +47,7 @@ The interfaces between a display's host and its content plugins, as C++
 headers, and the files that let other CMake projects build a host against
 them.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-    "clock-player (= ${full_version}), qtbase5-dev (>= 5.10)")
+    "clock-player (= ${full_version}), ${clock_development_package_${CLOCK_QT}} (>= ${clock_oldest_qt})")
 
 if(TARGET clock_studio)
     clock_package_studio(${full_version})

@@ -32,7 +32,7 @@ QVector<uint> CharactersOf(const QString &text)
 
 QString TextOf(const QVector<uint> &characters)
 {
-    return QString::fromUcs4(characters.constData(), characters.size());
+    return QString::fromStdU32String({characters.cbegin(), characters.cend()});
 }
 
 bool IsVariationSelector(uint character)
@@ -54,9 +54,12 @@ bool NeedsGlyph(uint character)
     }
 }
 
-// Checks the family itself, without Qt's fallback families.
+// Checks the family itself, without Qt's fallback families. Without any font nothing is looked up:
+// Qt 6 has no raw font then.
 QVector<uint> MissingIn(const QString &family, const QVector<uint> &characters)
 {
+    if (!HasFonts())
+        return {};
     const QRawFont own = QRawFont::fromFont(GlyphTypeface(family, kAnyPoints));
     QVector<uint> lacking;
     std::copy_if(characters.begin(), characters.end(), std::back_inserter(lacking),
@@ -99,7 +102,11 @@ QString FamilyUsed(const QString &family)
 
 const QStringList &InstalledFamilies()
 {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    static const QStringList families = QFontDatabase::families();
+#else
     static const QStringList families = QFontDatabase().families();
+#endif
     return families;
 }
 

@@ -97,7 +97,7 @@ FontSizes Scaled(HClockNode &node, const Fraction &factor)
     for (const GlyphFont font : FontsShown(node)) {
         int &points = sizes[Index(font)];
         const qint64 scaled = qint64(EffectiveSize(points)) * factor.numerator / factor.denominator;
-        points = static_cast<int>(qBound<qint64>(1, scaled, kLargestFontSize));
+        points = static_cast<int>(qBound(qint64(1), scaled, qint64(kLargestFontSize)));
     }
     return sizes;
 }
@@ -160,7 +160,7 @@ QVector<PartSize> SizesOfParts(ClockCheck &check, HClockNode &node, const QVecto
 CommonSizes ShrunkSizes(ClockCheck &check, HClockNode &node, const QRect &visible)
 {
     const QVector<Fraction> steps = StepsBelowOne(node);
-    const int largest = LargestThat(0, steps.size() - 1, [&](int step) {
+    const int largest = LargestThat(0, static_cast<int>(steps.size()) - 1, [&](int step) {
         return FitsAll(check, node, Scaled(node, steps[step]), visible);
     });
     if (largest < 0)

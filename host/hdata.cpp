@@ -1,5 +1,7 @@
 #include "hdata.h"
 
+#include "number_text.h"
+
 #include <QHash>
 
 namespace Lw {
@@ -66,7 +68,7 @@ void HData::SetAttribute(QString key, int value, bool)
 
 void HData::SetAttribute(QString key, QString value, bool)
 {
-    d->Store(key, {value, value.toInt()});
+    d->Store(key, {value, NumberIn(value)});
 }
 
 bool HData::HaveAttribute(QString key)

@@ -121,8 +121,8 @@ void PlaySchedule::WakeAt(qint64 deadline)
 {
     if (m_timer < 0) {
         const qint64 wait = (deadline - Now() + kMillisecond - 1) / kMillisecond; // rounded up
-        m_fallback.start(
-            static_cast<int>(qBound<qint64>(0, wait, std::numeric_limits<int>::max())));
+        constexpr qint64 kLongest = std::numeric_limits<int>::max();
+        m_fallback.start(static_cast<int>(qBound(qint64(0), wait, kLongest)));
         return;
     }
     itimerspec time {};

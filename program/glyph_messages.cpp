@@ -80,7 +80,7 @@ QString DistinctCharacters(const Faults &faults)
 {
     QString characters;
     for (const GlyphFault &fault : faults) {
-        for (const uint code : fault.characters.toUcs4()) {
+        for (const char32_t code : fault.characters.toUcs4()) {
             const QString character = QString::fromUcs4(&code, 1);
             if (!characters.contains(character))
                 characters += character;

@@ -37,6 +37,9 @@ Result<QDomDocument> ParseDocument(const QByteArray &contents, const QString &pa
 /// "path:line: text", for failures and warnings about an element of a document.
 QString AtElement(const QString &path, const QDomElement &element, const QString &text);
 
+/// Whether a text has these characters at a position, which may be beyond its end.
+bool HasAt(const QString &text, int position, QLatin1String characters);
+
 struct XmlFault
 {
     int line; ///< from 1

@@ -13,17 +13,17 @@ constexpr int kLongestName = 60; // of a name in a message
 
 struct Tag
 {
-    QStringRef name;
+    QStringView name;
     int line = 0;
 };
 
-QString Shown(const QStringRef &name)
+QString Shown(QStringView name)
 {
     return name.left(kLongestName).toString();
 }
 
 /// What is wrong with "&" and these characters up to a semicolon; empty without one.
-QString ReferenceFault(const QStringRef &name)
+QString ReferenceFault(QStringView name)
 {
     const bool isName = !name.isEmpty()
         && std::all_of(name.begin(), name.end(), [](QChar c) { return c.isLetterOrNumber(); });
@@ -68,10 +68,7 @@ public:
 
 private:
     QChar Current() const { return m_at < m_text.size() ? m_text[m_at] : QChar(); }
-    bool StartsWith(const char *word) const
-    {
-        return m_text.midRef(m_at, 9).startsWith(QLatin1String(word));
-    }
+    bool StartsWith(const char *word) const { return HasAt(m_text, m_at, QLatin1String(word)); }
 
     void Fail(int line, const QString &text)
     {
@@ -94,43 +91,58 @@ private:
         MoveTo(end);
     }
 
-    QStringRef Name()
+    QStringView Between(int begin, int end) const
+    {
+        return QStringView(m_text).mid(begin, end - begin);
+    }
+
+    QStringView Name()
     {
         const int begin = m_at;
         while (m_at < m_text.size() && !EndsName(m_text[m_at]))
             ++m_at;
-        return m_text.midRef(begin, m_at - begin);
+        return Between(begin, m_at);
+    }
+
+    int End() const { return static_cast<int>(m_text.size()); }
+
+    /// The first position of a character in a part of the text; the part's end without it.
+    int Find(QChar character, int begin, int end) const
+    {
+        const auto *const text = m_text.constData();
+        return static_cast<int>(std::find(text + begin, text + end, character) - text);
     }
 
     void Text()
     {
-        int end = m_text.indexOf(QLatin1Char('<'), m_at);
-        end = end < 0 ? m_text.size() : end;
-        const QStringRef text = m_text.midRef(m_at, end - m_at);
-        if (m_open.isEmpty() && !text.trimmed().isEmpty()) {
+        const int end = Find(QLatin1Char('<'), m_at, End());
+        if (m_open.isEmpty() && !Between(m_at, end).trimmed().isEmpty()) {
             SkipSpace();
             return Fail(m_line,
                         m_elements == 0 ? QStringLiteral("is not XML: it begins with text")
                                         : QStringLiteral("there is text after the last element"));
         }
-        CheckReferences(text);
+        CheckReferences(end);
         MoveTo(end);
     }
 
-    /// Without a document type definition only the five predefined entities and character numbers
-    /// exist.
-    void CheckReferences(const QStringRef &text)
+    /// Checks the references up to a position. Without a document type definition only the five
+    /// predefined entities and character numbers exist.
+    void CheckReferences(int end)
     {
-        for (int i = text.indexOf(QLatin1Char('&')); i >= 0;
-             i = text.indexOf(QLatin1Char('&'), i + 1)) {
-            const int end = text.indexOf(QLatin1Char(';'), i);
-            const QStringRef name = text.mid(i + 1, std::min(end, i + 12) - i - 1);
+        constexpr int kLongest = 11; // of a name, in characters
+        const auto next = [&](int from) { return Find(QLatin1Char('&'), from, end); };
+        for (int i = next(m_at); i < end; i = next(i + 1)) {
+            const int close = Find(QLatin1Char(';'), i, end);
+            const bool isReference = close < end && close - i - 1 <= kLongest;
+            const QStringView name = isReference ? Between(i + 1, close) : QStringView();
             const auto is = [&name](const char *word) { return name == QLatin1String(word); };
             const bool isKnown = name.startsWith(QLatin1Char('#')) || is("amp") || is("lt")
                 || is("gt") || is("quot") || is("apos");
-            if (end < 0 || !isKnown)
-                return Fail(m_line + text.left(i).count(QLatin1Char('\n')),
-                            ReferenceFault(name.size() == end - i - 1 ? name : QStringRef()));
+            if (isKnown)
+                continue;
+            MoveTo(i);
+            return Fail(m_line, ReferenceFault(name));
         }
     }
 
@@ -150,16 +162,16 @@ private:
 
     void SkipPast(int begin, const char *end, const char *what)
     {
-        const int found = m_text.indexOf(QLatin1String(end), m_at + begin);
+        const auto found = m_text.indexOf(QLatin1String(end), m_at + begin);
         if (found < 0)
             return Fail(m_line, QStringLiteral("%1 is never closed").arg(QLatin1String(what)));
-        MoveTo(found + static_cast<int>(qstrlen(end)));
+        MoveTo(static_cast<int>(found) + static_cast<int>(qstrlen(end)));
     }
 
     void EndTag()
     {
         m_at += 2;
-        const QStringRef name = Name();
+        const QStringView name = Name();
         SkipSpace();
         if (Current() != QLatin1Char('>'))
             return Fail(m_line, QStringLiteral("\"</%1\" has no \">\"").arg(Shown(name)));
@@ -192,7 +204,7 @@ private:
 
     void Attributes(const Tag &tag)
     {
-        QVector<QStringRef> names;
+        QVector<QStringView> names;
         while (!m_fault) {
             const bool isApart = Current().isSpace();
             SkipSpace();
@@ -221,9 +233,9 @@ private:
                  QStringLiteral("elements are nested more than %1 levels deep").arg(kMaximumDepth));
     }
 
-    void Attribute(const Tag &tag, QVector<QStringRef> &names)
+    void Attribute(const Tag &tag, QVector<QStringView> &names)
     {
-        const QStringRef name = Name();
+        const QStringView name = Name();
         if (names.contains(name))
             return Fail(
                 m_line,
@@ -248,17 +260,17 @@ private:
         Value(tag, name, quote);
     }
 
-    void Value(const Tag &tag, const QStringRef &name, QChar quote)
+    void Value(const Tag &tag, QStringView name, QChar quote)
     {
         const int begin = m_at + 1;
-        const int end = m_text.indexOf(quote, begin);
-        const QStringRef value = m_text.midRef(begin, end < 0 ? -1 : end - begin);
-        if (end < 0 || value.contains(QLatin1Char('<')))
+        const int end = Find(quote, begin, End());
+        if (end == End() || Find(QLatin1Char('<'), begin, end) < end)
             return Fail(m_line,
                         QStringLiteral("the value of %1 of <%2> has no closing quotation mark, or "
                                        "a \"<\" that must be written as &lt;")
                             .arg(Shown(name), Shown(tag.name)));
-        CheckReferences(value);
+        MoveTo(begin);
+        CheckReferences(end);
         MoveTo(end + 1);
     }
 
@@ -272,6 +284,11 @@ private:
 };
 
 } // namespace
+
+bool HasAt(const QString &text, int position, QLatin1String characters)
+{
+    return position <= text.size() && QStringView(text).mid(position).startsWith(characters);
+}
 
 std::optional<XmlFault> ScanXml(const QString &text)
 {

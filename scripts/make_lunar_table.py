@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Makes tests/calendar/lunar_months.csv: every month of the Chinese calendar, 1900 to 2050.
+"""Makes tests/calendar/reference/lunar_months.csv: every month of the Chinese calendar, 1900 to 2050.
 
 Run by hand (Debian: python3-ephem); neither the build nor the tests run it:
 
-    /usr/bin/python3 scripts/make_lunar_table.py > tests/calendar/lunar_months.csv
+    /usr/bin/python3 scripts/make_lunar_table.py > tests/calendar/reference/lunar_months.csv
 
 The months are computed astronomically, not taken from a table. A month begins on the day of a
 new moon, counted in China: by the mean time of Beijing, 116 degrees 25 minutes east, up to 1928,

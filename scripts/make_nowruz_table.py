@@ -1,9 +1,9 @@
 #!/usr/bin/python3
-"""Makes tests/calendar/nowruz.csv: the Gregorian day that begins each Persian year.
+"""Makes tests/calendar/reference/nowruz.csv: the Gregorian day that begins each Persian year.
 
 Run by hand (Debian: python3-ephem); neither the build nor the tests run it:
 
-    /usr/bin/python3 scripts/make_nowruz_table.py > tests/calendar/nowruz.csv
+    /usr/bin/python3 scripts/make_nowruz_table.py > tests/calendar/reference/nowruz.csv
 
 The year begins on the day of the March equinox if that is before noon at UTC+3:30, otherwise on the
 next day.

@@ -5,7 +5,7 @@ Run by hand from the top of the tree; neither the build nor the tests run it:
 
     scripts/make_self_test_digests.py > tools/self_test/calendar_digests.h
 
-The dates come from tests/calendar/lunar_months.csv and nowruz.csv, which are computed
+The dates come from tests/calendar/reference/lunar_months.csv and nowruz.csv, which are computed
 astronomically. The days on which the clock differs (docs/calendars.md) are corrected by hand below,
 without using the clock's output.
 """
@@ -34,7 +34,7 @@ PERSIAN_EXCEPTIONS = {1404, 1437}
 
 
 def read(name):
-    with open(f"tests/calendar/{name}", encoding="ascii") as file:
+    with open(f"tests/calendar/reference/{name}", encoding="ascii") as file:
         return list(csv.DictReader(file))
 
 

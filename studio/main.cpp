@@ -1,4 +1,5 @@
 // studio/: main() of clock_studio, the editor for walls of clocks.
+#include "qt_names.h"
 #include "window/main_window.h"
 #include "window/studio_application.h"
 
@@ -78,8 +79,7 @@ int main(int argc, char **argv)
         return EXIT_FAILURE;
     }
     ClockProgram::FixFontResolution();
-    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    ScaleForScreen();
     QApplication application(argc, argv);
     const QString problem = SetUpApplication(application);
     const QString program = ProgramFrom(application);

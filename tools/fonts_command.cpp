@@ -1,11 +1,10 @@
 // tools/: clock_tool fonts, which lists the sizes at which the digits of a font are legible.
 #include "commands.h"
+#include "font_check.h"
 #include "legibility/legible_sizes.h"
 #include "output.h"
 #include "suggestion.h"
 #include "tool_arguments.h"
-
-#include <QFontDatabase>
 
 namespace ClockTool {
 
@@ -60,7 +59,7 @@ CommandResult RunFonts(const QStringList &arguments)
     tool.AddOutput();
     if (const auto ended = tool.Parse(arguments))
         return *ended;
-    const QStringList installed = QFontDatabase().families();
+    const QStringList installed = ClockFit::InstalledFamilies();
     const QStringList given = tool.Positionals();
     for (const QString &family : given) {
         if (!installed.contains(family))

@@ -78,7 +78,7 @@ QString ErrorText(int seconds)
 
 int YearBefore(qint64 utc)
 {
-    return DateOf(utc).leftRef(4).toInt() - 1;
+    return DateOf(utc).left(4).toInt() - 1;
 }
 
 /// Zone rules change, so every result says when to check again.

@@ -4,6 +4,7 @@
 #include "calendar/time_units.h"
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTimeZone>
 
@@ -40,6 +41,13 @@ bool IsZoneName(const QByteArray &name)
     static const QRegularExpression form(
         QStringLiteral("^[A-Za-z0-9_:+-]{1,64}(/[A-Za-z0-9_+-]{1,64}){0,3}$"));
     return form.match(QString::fromLatin1(name.constData(), name.size())).hasMatch();
+}
+
+// Qt 6 has a zone for any other word too, as if it were the abbreviation of one.
+bool IsZone(const QByteArray &name)
+{
+    return QTimeZone::isTimeZoneIdAvailable(name)
+        || QFileInfo(QStringLiteral("/usr/share/zoneinfo/") + QString::fromLatin1(name)).isFile();
 }
 
 CivilTime CivilTimeOf(const QTimeZone &zone, const Span &span)
@@ -114,7 +122,7 @@ bool HasZoneData(const QList<QByteArray> &names)
 
 std::optional<CivilTime> CivilTimeOf(const QByteArray &name, const Span &span)
 {
-    if (!IsZoneName(name))
+    if (!IsZoneName(name) || !IsZone(name))
         return std::nullopt;
     const QTimeZone zone(name);
     return zone.isValid() ? std::optional(CivilTimeOf(zone, span)) : std::nullopt;

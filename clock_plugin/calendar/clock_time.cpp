@@ -2,8 +2,9 @@
 
 #include "calendar/time_units.h"
 
+#include "number_text.h"
+
 #include <QLocale>
-#include <QStringRef>
 
 #include <algorithm>
 
@@ -27,7 +28,7 @@ QTime TimeFromText(const QString &text, const QString &pattern, int longest)
 
 int FieldAt(const QString &text, int position)
 {
-    return text.midRef(position, 2).toInt();
+    return NumberIn(text.mid(position, 2));
 }
 
 } // namespace

@@ -2,8 +2,9 @@
 
 #include "calendar/clock_time.h"
 
-#include <QStringRef>
-#include <QVector>
+#include "number_text.h"
+
+#include <QStringList>
 
 namespace Lw::HNodeClock {
 
@@ -18,13 +19,13 @@ qint64 MillisecondsOfDate(const QDate &date)
 }
 
 // A number from 1 to highest; 0 for any other text.
-int NumberUpTo(int highest, const QStringRef &text)
+int NumberUpTo(int highest, const QString &text)
 {
-    const int number = text.toInt();
+    const int number = NumberIn(text);
     return number >= 1 && number <= highest ? number : 0;
 }
 
-int OccurrenceFromText(const QStringRef &text)
+int OccurrenceFromText(const QString &text)
 {
     return text == QLatin1String("Last") ? DaylightRule::kLast : NumberUpTo(5, text);
 }
@@ -61,12 +62,12 @@ std::optional<DaylightRule> ParseDaylightRule(const QString &text)
     const QLatin1Char separator('.');
     if (text.count(separator) != 3)
         return std::nullopt;
-    const QVector<QStringRef> fields = text.splitRef(separator);
+    const QStringList fields = text.split(separator);
     DaylightRule rule;
     rule.month = NumberUpTo(12, fields[0]);
     rule.occurrence = OccurrenceFromText(fields[1]);
     rule.weekday = NumberUpTo(7, fields[2]);
-    rule.time = ParseTimeOfDay(fields[3].toString());
+    rule.time = ParseTimeOfDay(fields[3]);
     return IsComplete(rule) ? std::optional(rule) : std::nullopt;
 }
 

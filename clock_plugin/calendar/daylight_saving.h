@@ -32,7 +32,7 @@ struct DaylightRule
 ///     weekday    = 1 (Monday) to 7 (Sunday)
 ///     time       = hh ":" mm ":" ss
 ///
-/// Numbers are decimal integers as QString::toInt() parses them: surrounding white space, a sign
+/// Numbers are decimal integers as Lw::NumberIn() reads them: surrounding white space, a sign
 /// and leading zeros are accepted. "Last" is case-sensitive; the time has two ASCII digits per
 /// field. A rule may name a day that the month does not have in every year, such as a fifth Sunday.
 std::optional<DaylightRule> ParseDaylightRule(const QString &text);

@@ -3,6 +3,7 @@
 #include <QDataStream>
 #include <QFont>
 #include <QFontMetrics>
+#include <QIODevice>
 #include <QScreen>
 
 #include <algorithm>
@@ -37,7 +38,7 @@ bool operator==(const GlyphContent &one, const GlyphContent &other)
         && one.face == other.face;
 }
 
-uint qHash(const GlyphContent &content, uint seed)
+HashValue qHash(const GlyphContent &content, HashValue seed)
 {
     return qHash(content.text, seed) ^ qHash(content.face, seed) ^ ::qHash(content.colour, seed)
         ^ ::qHash(static_cast<int>(content.shape), ~seed);

@@ -32,7 +32,9 @@ struct GlyphContent
 };
 
 bool operator==(const GlyphContent &one, const GlyphContent &other);
-uint qHash(const GlyphContent &content, uint seed);
+
+using HashValue = decltype(::qHash(QString())); ///< Qt 6 has longer ones than Qt 5
+HashValue qHash(const GlyphContent &content, HashValue seed);
 
 /// Serialises a font and everything else its glyphs depend on: resolution, substitutes, text
 /// direction.

@@ -85,7 +85,7 @@ bool IsSeen(uint letter)
 QString CharactersWithoutGlyph(const QFontMetrics &metrics, const QString &text)
 {
     QString lacking;
-    for (const uint letter : text.toUcs4()) {
+    for (const char32_t letter : text.toUcs4()) {
         const QString written = QString::fromUcs4(&letter, 1);
         if (IsSeen(letter) && !metrics.inFontUcs4(letter) && !lacking.contains(written))
             lacking += written;

@@ -1,11 +1,11 @@
 #include "new_clock.h"
 
 #include "clock_attributes.h"
+#include "font_check.h"
 #include "system_zones.h"
 
 #include <QDate>
 #include <QFont>
-#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QTimeZone>
 
@@ -126,7 +126,7 @@ QString NewClockFamily()
 {
     static const QString family = [] {
         const QString wanted = QStringLiteral("DejaVu Sans");
-        return QFontDatabase().families().contains(wanted) ? wanted : QFont().family();
+        return ClockFit::InstalledFamilies().contains(wanted) ? wanted : QFont().family();
     }();
     return family;
 }

@@ -54,7 +54,8 @@ QVector<TextRange> Candidates(const XmlElement &element, const Finding &finding)
         }
     } else if (const XmlAttribute *const attribute = element.Find(finding.place.attribute)) {
         ranges.append(attribute->value);
-        ranges.append({attribute->whole.begin, attribute->whole.begin + attribute->name.size()});
+        const auto nameLength = static_cast<int>(attribute->name.size());
+        ranges.append({attribute->whole.begin, attribute->whole.begin + nameLength});
     }
     return ranges;
 }

@@ -13,7 +13,7 @@ QString InEditor(QString text)
 
 int ToEditor(const QString &text, int position)
 {
-    return position - text.leftRef(position).count(QLatin1String("\r\n"));
+    return position - text.left(position).count(QLatin1String("\r\n"));
 }
 
 int FromEditor(const QString &text, int position)

@@ -4,9 +4,9 @@
 #include "glyph/glyph_set.h"
 
 #include "clock_node.h"
+#include "font_check.h"
 
 #include <QAbstractItemView>
-#include <QFontDatabase>
 #include <QRawFont>
 
 namespace ClockStudio {
@@ -77,9 +77,11 @@ QString GlyphText(const GlyphImage &image, HClockNode &clock)
 
 QString MissingCharacters(const QString &family, const QString &text)
 {
+    if (!ClockFit::HasFonts())
+        return {};
     const QRawFont font = QRawFont::fromFont(QFont(family));
     QString lacked;
-    for (const uint character : text.toUcs4()) {
+    for (const char32_t character : text.toUcs4()) {
         const QString one = QString::fromUcs4(&character, 1);
         if (!QChar::isSpace(character) && !font.supportsCharacter(character)
             && !lacked.contains(one))
@@ -106,9 +108,7 @@ FamilyBox::FamilyBox()
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     addItem(tr("Default font"), QString());
-    for (const QString &family : QFontDatabase().families()) {
-        if (QFontDatabase().isPrivateFamily(family))
-            continue;
+    for (const QString &family : ClockFit::InstalledFamilies()) {
         addItem(family, family);
         setItemData(count() - 1, QFont(family, 11), Qt::FontRole);
     }

@@ -1,5 +1,7 @@
 #include "program_edits.h"
 
+#include "xml_document.h"
+
 #include <algorithm>
 
 namespace ClockStudio {
@@ -121,8 +123,10 @@ TextEdit RemoveElementEdit(const ParsedProgram &parsed, int element)
     const bool hasLine = indent && range.begin > indent->size() && lineEnd < parsed.text.size()
         && IsLineEnd(parsed.text[lineEnd]);
     if (hasLine) {
-        range = {range.begin - indent->size() - 1, lineEnd};
-        if (range.begin > 0 && parsed.text.midRef(range.begin - 1, 2) == QLatin1String("\r\n"))
+        range.begin -= static_cast<int>(indent->size()) + 1;
+        range.end = lineEnd;
+        if (range.begin > 0
+            && ClockProgram::HasAt(parsed.text, range.begin - 1, QLatin1String("\r\n")))
             --range.begin;
     }
     return Replacement(parsed.text, range, QString());

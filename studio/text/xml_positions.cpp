@@ -14,6 +14,13 @@ bool IsSpace(QChar c)
         || c == QLatin1Char('\r');
 }
 
+bool EndsLine(const QString &text, int at)
+{
+    return text[at] == QLatin1Char('\n')
+        || (text[at] == QLatin1Char('\r')
+            && !ClockProgram::HasAt(text, at + 1, QLatin1String("\n")));
+}
+
 bool EndsName(QChar c)
 {
     return IsSpace(c) || c == QLatin1Char('=') || c == QLatin1Char('/') || c == QLatin1Char('>')
@@ -35,7 +42,7 @@ QString Referenced(const QString &name)
 {
     if (name.startsWith(QLatin1Char('#'))) {
         const bool isHex = name.startsWith(QLatin1String("#x"));
-        const uint code = isHex ? name.mid(2).toUInt(nullptr, 16) : name.mid(1).toUInt();
+        const char32_t code = isHex ? name.mid(2).toUInt(nullptr, 16) : name.mid(1).toUInt();
         return code > 0 && code <= QChar::LastValidCodePoint ? QString::fromUcs4(&code, 1)
                                                              : QString();
     }
@@ -56,7 +63,8 @@ QString ReadValue(const QString &text, TextRange range)
                 break;
             value += Referenced(text.mid(i + 1, end - i - 1));
             i = end;
-        } else if (text[i] == QLatin1Char('\r') && text.midRef(i + 1, 1) == QLatin1String("\n")) {
+        } else if (text[i] == QLatin1Char('\r')
+                   && ClockProgram::HasAt(text, i + 1, QLatin1String("\n"))) {
             continue; // CR LF becomes one space
         } else {
             value += IsSpace(text[i]) ? QChar(QLatin1Char(' ')) : text[i];
@@ -83,7 +91,7 @@ public:
 private:
     bool Begins(const char *word) const
     {
-        return m_text.midRef(m_at, static_cast<int>(qstrlen(word))) == QLatin1String(word);
+        return ClockProgram::HasAt(m_text, m_at, QLatin1String(word));
     }
 
     void Markup()
@@ -166,7 +174,7 @@ private:
         attribute.whole.begin = m_at;
         attribute.name = Name();
         SkipSpace();
-        m_ok = m_ok && m_text.midRef(m_at, 1) == QLatin1String("=");
+        m_ok = m_ok && Begins("=");
         ++m_at;
         SkipSpace();
         const bool isQuoted = m_at < m_text.size()
@@ -186,8 +194,7 @@ private:
         m_at += 2;
         const QString name = Name();
         SkipSpace();
-        m_ok = m_ok && !m_open.isEmpty() && m_elements[m_open.last()].name == name
-            && m_text.midRef(m_at, 1) == QLatin1String(">");
+        m_ok = m_ok && !m_open.isEmpty() && m_elements[m_open.last()].name == name && Begins(">");
         if (m_ok)
             m_elements[m_open.takeLast()].whole.end = ++m_at;
     }
@@ -232,19 +239,17 @@ QVector<int> ChildrenNamed(const XmlElements &elements, int parent, const QStrin
 
 int LineOf(const QString &text, int position)
 {
-    const QStringRef before = text.leftRef(position);
-    const int both = before.count(QLatin1String("\r\n"));
-    return 1 + before.count(QLatin1Char('\n')) + before.count(QLatin1Char('\r')) - both;
+    int line = 1;
+    for (int at = 0; at < position && at < text.size(); ++at)
+        line += EndsLine(text, at) ? 1 : 0;
+    return line;
 }
 
 int StartOfLine(const QString &text, int line)
 {
     int at = 0;
-    for (int number = 1; number < line && at < text.size(); ++at) {
-        const bool isPair = text.midRef(at, 2) == QLatin1String("\r\n");
-        if (!isPair && (text[at] == QLatin1Char('\n') || text[at] == QLatin1Char('\r')))
-            ++number;
-    }
+    for (int number = 1; number < line && at < text.size(); ++at)
+        number += EndsLine(text, at) ? 1 : 0;
     return at;
 }
 

@@ -3,11 +3,11 @@
 #include "catalogues.h"
 #include "font_check.h"
 #include "glyph_messages.h"
+#include "qt_names.h"
 
 #include <QApplication>
 #include <QFontMetrics>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -61,7 +61,7 @@ void LoadTranslations(QApplication &application)
         QLocale::setDefault(QLocale(QLocale::English));
         Load(application, QLocale(), "studio", catalogues);
     }
-    Load(application, QLocale(), "qtbase", QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    Load(application, QLocale(), "qtbase", QtTranslations());
     ClockCatalogues::InstallOrDefault({});
     QApplication::setLayoutDirection(QLocale().textDirection());
 }

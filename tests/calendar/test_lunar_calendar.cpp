@@ -64,7 +64,7 @@ const Exception kExceptions[] = {
 // The months of the calendar, day by day from kTableBegin.
 QVector<LunarDay> ReadCalendar()
 {
-    QFile file(QFINDTESTDATA("lunar_months.csv"));
+    QFile file(QStringLiteral(CLOCK_REFERENCE_DIR "/lunar_months.csv"));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     file.readLine();

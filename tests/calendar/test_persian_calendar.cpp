@@ -41,7 +41,7 @@ const Exception kAheadOfQt[] = {
 // The days that begin the years from 1372 on, by the equinox.
 QVector<QDate> ReadNewYears()
 {
-    QFile file(QFINDTESTDATA("nowruz.csv"));
+    QFile file(QStringLiteral(CLOCK_REFERENCE_DIR "/nowruz.csv"));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     file.readLine();

@@ -42,6 +42,7 @@ const QVector<Room> kRooms = {
     {"calendar/", {"clock_plugin/calendar/"}},
     {"image_bounds", {"clock_plugin/image_bounds.", "clock_plugin/clock_export."}},
     {"host/", {"host/"}},
+    {"number_text", {"host/number_text."}},
 };
 
 // The rooms that see less than every floor below them: the programs that load a plugin, and what
@@ -52,7 +53,7 @@ const QMap<QString, QStringList> kNarrowRooms = {
     {"program/", {"host/"}},
     {"zones/", {"calendar/"}},
     {"clock_attributes", {"image_bounds"}},
-    {"calendar/", {"image_bounds"}}, // for clock_export.h
+    {"calendar/", {"image_bounds", "number_text"}}, // the former for clock_export.h
     {"image_bounds", {}},
 };
 

@@ -18,7 +18,7 @@ namespace {
 // Braille without a dot: it has a width and no ink. The other is the last character for private
 // use; no font that the tests install has it.
 const QString kInkless(QChar(0x2800));
-const uint kUnknownLetter = 0x10fffd;
+const char32_t kUnknownLetter = 0x10fffd;
 
 QStringList Keys(const QVector<GlyphFault> &faults, GlyphFault::Kind kind)
 {

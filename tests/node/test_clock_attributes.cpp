@@ -1,5 +1,6 @@
 // The attributes of a new clock, and the operations that write one of them.
 #include "node_test_support.h"
+#include "type_names.h"
 
 #include <QMetaMethod>
 #include <QPointer>
@@ -471,8 +472,8 @@ private Q_SLOTS:
         QVERIFY(node.inherits("Lw::HContentNode"));
         QVERIFY(!node.inherits("HClockNode"));
         const int pointer = qMetaTypeId<HClockNode *>();
-        QCOMPARE(QMetaType::type("HClockNode*"), pointer);
-        QCOMPARE(QMetaType::type("Lw::HNodeClock::HClockNode*"), pointer);
+        QCOMPARE(TypeNamed("HClockNode*"), pointer);
+        QCOMPARE(TypeNamed("Lw::HNodeClock::HClockNode*"), pointer);
     }
 
     void SignalsStandInTheirOrder()

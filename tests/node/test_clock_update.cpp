@@ -423,8 +423,9 @@ private Q_SLOTS:
             << "<clock timezone='%n%s' adjust='%n'><fixedText value='%s%n'/>"
                "<file key='%n' path='%s' md5='%n'/></clock>"
             << true;
-        QTest::newRow("character 0")
-            << "<clock timezone='a&#0;b'><fixedText value='&#0;'/></clock>" << true;
+        if (QT_VERSION_MAJOR == 5) // later readers refuse it
+            QTest::newRow("character 0")
+                << "<clock timezone='a&#0;b'><fixedText value='&#0;'/></clock>" << true;
         QTest::newRow("all invalid")
             << "<clock type='digital' timezone='?' adjust='?'><font name='' size='?' color='?'/>"
                "<date display='?' format='?' color='?' fontSize='?'/></clock>"

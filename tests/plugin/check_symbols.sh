@@ -19,12 +19,17 @@ names() {
 }
 
 host_symbols() {
-    names --undefined-only "$1" | grep 'Lw::' || true
+    names --undefined-only "$1" | qt5_names | sort -u | grep 'Lw::' || true
+}
+
+# Some have other names with Qt 6.
+qt5_names() {
+    sed -e 's/QList<QString>/QStringList/g' -e 's/^qt_plugin_query_metadata_v2$/qt_plugin_query_metadata/'
 }
 
 # The standard library's templates are everybody's, and the linker adds marks of its own.
 exported_symbols() {
-    names --defined-only "$1" | grep -Ev '(^| )std::|^(__bss_start|_edata|_end|_init|_fini)$'
+    names --defined-only "$1" | qt5_names | sort -u | grep -Ev '(^| )std::|^(__bss_start|_edata|_end|_init|_fini)$'
 }
 
 entries() {
@@ -80,7 +85,7 @@ check_dynamic_section() {
         status=1
     }
     sed -n 's/.*NEEDED.*\[\(.*\)\]/\1/p' "$work/dynamic" |
-        grep -Ev '^(libQt5(Core|Gui|Xml)|libstdc\+\+|libgcc_s|libm|libc|ld-linux.*)\.so\.[0-9]+$' \
+        grep -Ev '^(libQt[56](Core|Gui|Xml)|libstdc\+\+|libgcc_s|libm|libc|ld-linux.*)\.so\.[0-9]+$' \
             >"$work/found" || true
     complain "libraries that the plugin must not need:"
 }

@@ -9,7 +9,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLibrary>
-#include <QLibraryInfo>
 #include <QPluginLoader>
 #include <QProcess>
 #include <QtTest>
@@ -91,8 +90,7 @@ void TestLoader::MetaData()
 
 void TestLoader::MetaDataAsQtsOwnToolReadsIt()
 {
-    const QString tool = QStandardPaths::findExecutable(
-        "qtplugininfo", {QLibraryInfo::location(QLibraryInfo::BinariesPath)});
+    const QString tool = QStandardPaths::findExecutable("qtplugininfo", {QT_TOOLS_DIR});
     QVERIFY2(!tool.isEmpty(), "needs qtplugininfo, of Qt's tools");
     if (MachineOf(tool) != MachineOf(QString::fromUtf8(kPluginFile)))
         QSKIP("qtplugininfo reads plugins for its own machine only");

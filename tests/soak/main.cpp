@@ -94,8 +94,8 @@ void YearOfAClock::Compare(const QImage &frame, qint64 instant)
             expected = fresh.Frame(before);
     }
     ++m_result.compared;
-    m_digest.addData(reinterpret_cast<const char *>(frame.constBits()),
-                     static_cast<int>(frame.sizeInBytes()));
+    m_digest.addData(QByteArray::fromRawData(reinterpret_cast<const char *>(frame.constBits()),
+                                             static_cast<int>(frame.sizeInBytes())));
     if (!frame.isNull() && frame == expected)
         return;
     if (m_result.different++ == 0)

@@ -3,8 +3,6 @@
 
 #include "text/encoded_text.h"
 
-#include <QTextCodec>
-
 using namespace ClockStudio;
 
 class TestEncodedText : public QObject

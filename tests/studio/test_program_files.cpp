@@ -28,7 +28,8 @@ bool Write(const QString &path, const QByteArray &bytes)
 
 TextEdits Widened(const StudioDocument &document)
 {
-    return {{document.Text().indexOf("8"), "8", "16"}};
+    const auto place = static_cast<int>(document.Text().indexOf("8"));
+    return {{place, "8", "16"}};
 }
 
 } // namespace

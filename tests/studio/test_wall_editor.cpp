@@ -254,7 +254,8 @@ void TestWallEditor::LargeImagesOfOneClockDoNotBlock()
     StudioUnderTest studio(program);
     studio.WaitForClocks();
     const QImage before = studio.Screen();
-    studio.document.Change({{program.indexOf("60"), "60", "90"}}, "larger");
+    const auto place = static_cast<int>(program.indexOf("60"));
+    studio.document.Change({{place, "60", "90"}}, "larger");
     QVERIFY(!studio.wall.IsComplete());
     QCOMPARE(studio.Screen(), before);
     studio.document.History().undo();

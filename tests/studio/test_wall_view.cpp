@@ -38,7 +38,9 @@ QPoint PointOf(const WallView &view, QPoint pixel)
 /// Moves the pointer to a pixel of the wall.
 void Hover(WallView &view, QPoint pixel)
 {
-    QMouseEvent move(QEvent::MouseMove, PointOf(view, pixel), Qt::NoButton, {}, {});
+    const QPoint place = PointOf(view, pixel);
+    QMouseEvent move(QEvent::MouseMove, place, view.viewport()->mapToGlobal(place), Qt::NoButton,
+                     {}, {});
     QCoreApplication::sendEvent(view.viewport(), &move);
 }
 

@@ -1,6 +1,7 @@
 // Comparison of drawn pictures with reference pictures in the tree.
 //
-// The references of a test are in the folder "reference" beside it, as PNG files. A picture that
+// The references of a test are in the folder "reference" beside it, as PNG files; those of pictures
+// that Qt 6 draws otherwise are in its folder "qt6". A picture that
 // differs is written, with a picture of the differing pixels, into the folder "difference" of the
 // test's build directory, and the test fails naming them. With CLOCK_ACCEPT_REFERENCES=1 in the
 // environment the references are rewritten instead: look at them before committing.
@@ -53,6 +54,20 @@ inline QImage Difference(const QImage &actual, const QImage &expected, int toler
     return picture;
 }
 
+inline QImage Read(const QString &path)
+{
+    return QImage(path).convertToFormat(QImage::Format_ARGB32);
+}
+
+/// The file of a reference; with Qt 6 its own one, if there is one or it is accepted and differs.
+inline QString PathOf(const QString &name, const QImage &accepted, const Folders &folders)
+{
+    const QString path = QStringLiteral("%1/%2.png").arg(folders.references, name);
+    const QString own = QStringLiteral("%1/qt6/%2.png").arg(folders.references, name);
+    const bool differs = !accepted.isNull() && Read(path) != accepted;
+    return QT_VERSION_MAJOR == 6 && (differs || QFileInfo::exists(own)) ? own : path;
+}
+
 inline bool Accepting()
 {
     return qEnvironmentVariableIntValue("CLOCK_ACCEPT_REFERENCES") == 1;
@@ -72,13 +87,13 @@ inline QString Compare(const QImage &picture, const QString &name, int tolerance
                        const Folders &folders = Folders())
 {
     const QImage actual = picture.convertToFormat(QImage::Format_ARGB32);
-    const QString path = folders.references + QLatin1Char('/') + name + QStringLiteral(".png");
+    const QString path = PathOf(name, Accepting() ? actual : QImage(), folders);
     if (actual.isNull())
         return QStringLiteral("nothing was drawn for %1").arg(path);
     if (Accepting())
         return Accept(actual, path);
 
-    const QImage expected = QImage(path).convertToFormat(QImage::Format_ARGB32);
+    const QImage expected = Read(path);
     int count = 0;
     const QImage difference = Difference(actual, expected, tolerance, count);
     if (count == 0)

@@ -9,7 +9,7 @@
 namespace {
 
 // The last character for private use; no font that the tests install has it.
-constexpr uint kUnknownLetter = 0x10fffd;
+constexpr char32_t kUnknownLetter = 0x10fffd;
 
 const QString kInstant = QStringLiteral("2024-03-05T13:07:58Z");
 

@@ -44,7 +44,7 @@ QVector<QImage> SeparatorsOf(const QFont &font, const QString &text)
     BeginText(painter, strip, font, Qt::white, text);
     painter.end();
     const QImage image = strip.toImage();
-    const int cell = image.width() / text.size();
+    const int cell = image.width() / static_cast<int>(text.size());
     QVector<QImage> separators;
     for (int i = 0; i < text.size(); ++i)
         separators.append(image.copy(i * cell, 0, cell, image.height()));

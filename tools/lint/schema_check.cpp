@@ -129,7 +129,7 @@ SchemaReport AsReport(const Faults &faults)
                               QStringLiteral("%1; see docs/program.rng").arg(fault.value()),
                               {}});
     if (report.isVague)
-        report.faults.resize(std::min(1, report.faults.size()));
+        report.faults = report.faults.mid(0, 1);
     return report;
 }
 

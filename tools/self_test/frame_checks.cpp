@@ -97,7 +97,8 @@ QByteArray PictureDigest(const QImage &picture)
     QCryptographicHash digest(QCryptographicHash::Sha256);
     digest.addData(QByteArray::number(plain.width()) + 'x' + QByteArray::number(plain.height()));
     for (int y = 0; y < plain.height(); ++y)
-        digest.addData(reinterpret_cast<const char *>(plain.constScanLine(y)), 3 * plain.width());
+        digest.addData(QByteArray::fromRawData(
+            reinterpret_cast<const char *>(plain.constScanLine(y)), 3 * plain.width()));
     return digest.result().toHex();
 }
 

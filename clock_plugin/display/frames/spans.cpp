@@ -102,7 +102,7 @@ QRegion Spans::Region() const
 {
     constexpr int kBandHeight = 16;
     QVarLengthArray<QRect, 128> bands;
-    const int end = m_top + m_rows.size();
+    const int end = m_top + Count();
     for (int top = m_top; top < end;) {
         const int next = std::min(end, (top / kBandHeight + 1) * kBandHeight);
         const Row bounds = BoundsOf(m_rows.constData() + top - m_top, next - top);
@@ -111,18 +111,18 @@ QRegion Spans::Region() const
         top = next;
     }
     QRegion region;
-    region.setRects(bands.constData(), bands.size());
+    region.setRects(bands.constData(), static_cast<int>(bands.size()));
     return region;
 }
 
 void Spans::Copy(const QImage &source, const QPoint &place, uchar *target, int targetLine) const
 {
     const QRect part(place, source.size());
-    const int sourceLine = source.bytesPerLine();
+    const qsizetype sourceLine = source.bytesPerLine();
     const int top = std::max(m_top, part.top());
-    const int count = std::min(m_top + m_rows.size(), part.bottom() + 1) - top;
+    const int count = std::min(m_top + Count(), part.bottom() + 1) - top;
     const Row *row = m_rows.constData() + (top - m_top);
-    const uchar *from = source.constBits() + qint64(top - part.top()) * sourceLine;
+    const uchar *from = source.constBits() + (top - part.top()) * sourceLine;
     uchar *to = target + qint64(top) * targetLine;
     for (int i = 0; i < count; ++i, ++row, from += sourceLine, to += targetLine) {
         const int left = std::max<int>(row->left, part.left());

@@ -39,7 +39,7 @@ public:
     bool IsEmpty() const { return m_rows.isEmpty(); }
     int Top() const { return m_top; }
     const QVector<Row> &Rows() const { return m_rows; }
-    int Bytes() const { return m_rows.size() * int(sizeof(Row)); }
+    int Bytes() const { return Count() * int(sizeof(Row)); }
     /// Whether this is an implicitly shared copy of `other`; compares pointers only.
     bool IsCopyOf(const Spans &other) const
     {
@@ -53,6 +53,8 @@ public:
     void Copy(const QImage &source, const QPoint &place, uchar *target, int targetLine) const;
 
 private:
+    int Count() const { return static_cast<int>(m_rows.size()); }
+
     int m_top = 0;
     QVector<Row> m_rows;
 };
