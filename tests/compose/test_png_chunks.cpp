@@ -1,7 +1,7 @@
 // What PNG files tell without being decoded, of files that the PNG library wrote.
 #include "compose/picture_file.h"
-#include "glyph/ink.h"
 #include "compose/png_chunks.h"
+#include "glyph/ink.h"
 
 #include <QBuffer>
 #include <QImage>
