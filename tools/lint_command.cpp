@@ -113,7 +113,7 @@ CommandResult LintFile(const QString &path, const LintOptions &options)
     if (!document)
         return Report(document.Error());
     const QString base = BasePath(path, options);
-    Findings findings = LintProgram(*document, *bytes, base);
+    Findings findings = LintProgram(*document, *bytes, base, options.begin);
     LintClocks(*document, base, options, findings);
     if (!options.asJson)
         Show(findings, path);

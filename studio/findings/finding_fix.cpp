@@ -82,7 +82,7 @@ QVector<Finding> FindingsIn(const ParsedProgram &parsed, qint64 instant, const Q
     if (!contents)
         return {};
     const QDomDocument &document = parsed.program.document;
-    ClockTool::Findings findings = ClockTool::LintProgram(document, *contents, path);
+    ClockTool::Findings findings = ClockTool::LintProgram(document, *contents, path, instant);
     if (const auto program = ClockProgram::InterpretProgram(document, path))
         LintClocks(*program, instant, findings);
     return findings.ByLine();

@@ -321,6 +321,7 @@ private slots:
     void ExportedCodesAreNoted();
     void SeveralPrograms_data();
     void SeveralPrograms();
+    void RulesAreJudgedAsOfTheDay();
     void SystemWithoutFonts();
     void StylePictures();
     void FilesElsewhere();
@@ -557,6 +558,19 @@ void TestToolLint::SeveralPrograms()
     QCOMPARE(run.errors.count('\n') - notes, lines);
     for (const QString &name : names)
         QCOMPARE(run.errors.contains("/" + name + ":"), name != "sound.xml");
+}
+
+// System zone data are compared until 2037.
+void TestToolLint::RulesAreJudgedAsOfTheDay()
+{
+    const QByteArray program =
+        ProgramOf("<clock type='digital' timezone='+03:00'>"
+                  "<attribute key='UseDaylightSavingTime' value='1'/>"
+                  "<attribute key='DaylightSavingTimeStart' value='3.2.7.02:00:00'/>"
+                  "<attribute key='DaylightSavingTimeEnd' value='11.1.7.01:00:00'/></clock>");
+    const QString note("no known zone uses these rules");
+    QVERIFY(Lint(program, "2026-01-01").errors.contains(note));
+    QVERIFY(!Lint(program, "2039-01-01").errors.contains(note));
 }
 
 // That is one fault of a clock, whatever its fonts, sizes and characters.

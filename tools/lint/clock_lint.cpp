@@ -44,8 +44,9 @@ QStringList ChildNames(const QDomElement &parent)
 class ClockLint
 {
 public:
-    ClockLint(const QDomElement &clock, ClockProgram::CarriedFiles &files, Findings &findings)
-        : m_clock(clock), m_files(files), m_findings(findings)
+    ClockLint(const QDomElement &clock, ClockProgram::CarriedFiles &files, qint64 instant,
+              Findings &findings)
+        : m_clock(clock), m_files(files), m_instant(instant), m_findings(findings)
     {
         // The node itself decides what is read from the element.
         m_node.InitData();
@@ -70,7 +71,7 @@ public:
             LintKinds(m_clock, m_kind, m_node.ClockType(), m_findings);
         else
             LintUnreadKind(m_clock, m_findings);
-        LintWhole(m_clock, m_node, m_findings);
+        LintWhole(m_clock, m_node, m_instant, m_findings);
     }
 
 private:
@@ -238,6 +239,7 @@ private:
 
     const QDomElement m_clock;
     ClockProgram::CarriedFiles &m_files;
+    const qint64 m_instant;
     Findings &m_findings;
     HClockNode m_node;
     bool m_understood = false;
@@ -250,9 +252,10 @@ private:
 
 } // namespace
 
-void LintClock(const QDomElement &clock, ClockProgram::CarriedFiles &files, Findings &findings)
+void LintClock(const QDomElement &clock, ClockProgram::CarriedFiles &files, qint64 instant,
+               Findings &findings)
 {
-    ClockLint(clock, files, findings).Run();
+    ClockLint(clock, files, instant, findings).Run();
 }
 
 std::optional<int> GivenId(const QDomElement &clock)

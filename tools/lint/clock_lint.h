@@ -15,9 +15,11 @@ class HClockNode;
 
 namespace ClockTool {
 
-/// Warns about every word and value that the clock ignores or misreads, about carried
-/// files that are missing or differ, and about settings that conflict.
-void LintClock(const QDomElement &clock, ClockProgram::CarriedFiles &files, Findings &findings);
+/// Warns about every word and value that the clock ignores or misreads, about carried files that are
+/// missing or differ, and about settings that conflict, as of an instant in milliseconds since
+/// 1970-01-01 UTC.
+void LintClock(const QDomElement &clock, ClockProgram::CarriedFiles &files, qint64 instant,
+               Findings &findings);
 
 /// The Id that the program gives the clock, if any.
 std::optional<int> GivenId(const QDomElement &clock);
@@ -37,6 +39,7 @@ void LintKinds(const QDomElement &clock, int readKind, int shownKind, Findings &
 
 /// Warns about settings that are valid individually but wrong together. The node has been set from
 /// the element and its "attribute" children.
-void LintWhole(const QDomElement &clock, Lw::HNodeClock::HClockNode &node, Findings &findings);
+void LintWhole(const QDomElement &clock, Lw::HNodeClock::HClockNode &node, qint64 instant,
+               Findings &findings);
 
 } // namespace ClockTool

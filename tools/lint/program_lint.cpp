@@ -31,7 +31,9 @@ void CheckStructure(const QDomDocument &document, const QString &path, Findings 
 class ClockWalk
 {
 public:
-    ClockWalk(const QString &path, Findings &findings) : m_files(path), m_findings(findings) { }
+    ClockWalk(const QString &path, qint64 instant, Findings &findings)
+        : m_files(path), m_instant(instant), m_findings(findings)
+    { }
 
     /// The element of an area; areas count from 1.
     void Check(int area, const QDomElement &element)
@@ -45,7 +47,7 @@ public:
             return;
         }
         Findings found;
-        LintClock(element, m_files, found);
+        LintClock(element, m_files, m_instant, found);
         CheckId(element, found);
         m_findings.AddOfClock(area, found);
     }
@@ -69,13 +71,15 @@ private:
     }
 
     CarriedFiles m_files;
+    qint64 m_instant;
     Findings &m_findings;
     QHash<int, int> m_lines; // of the first clock with an Id
 };
 
-void CheckClocks(const QDomDocument &document, const QString &path, Findings &findings)
+void CheckClocks(const QDomDocument &document, const QString &path, qint64 instant,
+                 Findings &findings)
 {
-    ClockWalk walk(path, findings);
+    ClockWalk walk(path, instant, findings);
     int number = 0;
     for (QDomElement area = document.documentElement().firstChildElement(kAreaTag); !area.isNull();
          area = area.nextSiblingElement(kAreaTag)) {
@@ -100,11 +104,12 @@ void CheckSchema(const QByteArray &contents, Findings &findings)
 
 } // namespace
 
-Findings LintProgram(const QDomDocument &document, const QByteArray &contents, const QString &path)
+Findings LintProgram(const QDomDocument &document, const QByteArray &contents, const QString &path,
+                     qint64 instant)
 {
     Findings findings;
     CheckStructure(document, path, findings);
-    CheckClocks(document, path, findings);
+    CheckClocks(document, path, instant, findings);
     CheckSchema(contents, findings);
     return findings;
 }

@@ -11,8 +11,10 @@
 
 namespace ClockTool {
 
-/// Checks structure, clocks and schema. The document was read from the contents.
-Findings LintProgram(const QDomDocument &document, const QByteArray &contents, const QString &path);
+/// Checks structure, clocks and schema, as of an instant in milliseconds since 1970-01-01 UTC. The
+/// document was read from the contents.
+Findings LintProgram(const QDomDocument &document, const QByteArray &contents, const QString &path,
+                     qint64 instant);
 
 /// Reports areas wholly or partly off the screen. LintFit() reports them too, with the pixels.
 void LintAreas(const ClockProgram::Program &program, Findings &findings);

@@ -7,7 +7,6 @@
 #include "zone_words/rule_note.h"
 
 #include "calendar/clock_time.h"
-#include "calendar/system_time.h"
 #include "clock_node.h"
 #include "clock_sdk_tables.h"
 #include "compose/element_layout.h"
@@ -27,8 +26,8 @@ using namespace Lw::HNodeClock;
 class WholeClock
 {
 public:
-    WholeClock(const QDomElement &clock, HClockNode &node, Findings &findings)
-        : m_clock(clock), m_node(node), m_findings(findings)
+    WholeClock(const QDomElement &clock, HClockNode &node, qint64 instant, Findings &findings)
+        : m_clock(clock), m_node(node), m_instant(instant), m_findings(findings)
     { }
 
     void Run()
@@ -89,7 +88,8 @@ private:
         const QString fault = RulePairFault(settings.start, settings.end);
         if (!fault.isEmpty())
             return m_findings.Warn(At(m_clock), fault);
-        const RuleNote note = NoteOnRules(settings, SystemDate());
+        const RuleNote note =
+            NoteOnRules(settings, QDateTime::fromMSecsSinceEpoch(m_instant, Qt::UTC).date());
         if (!note.rightEnd.isEmpty())
             m_findings.Warn(At(m_clock, Key(Attribute::DaylightSavingTimeEnd)), note.text,
                             note.rightEnd);
@@ -192,14 +192,15 @@ private:
 
     const QDomElement m_clock;
     HClockNode &m_node;
+    const qint64 m_instant;
     Findings &m_findings;
 };
 
 } // namespace
 
-void LintWhole(const QDomElement &clock, HClockNode &node, Findings &findings)
+void LintWhole(const QDomElement &clock, HClockNode &node, qint64 instant, Findings &findings)
 {
-    WholeClock(clock, node, findings).Run();
+    WholeClock(clock, node, instant, findings).Run();
 }
 
 } // namespace ClockTool
