@@ -176,7 +176,7 @@ void HClockNode::ProcFile(QDomElement &element, QList<Lw::FileInfo> &files)
     for (QDomElement file = element.firstChildElement(tag); !file.isNull();
          file = file.nextSiblingElement(tag)) {
         const QString md5 = file.attribute(QStringLiteral("md5"));
-        const quint64 size = file.attribute(QStringLiteral("size")).toULongLong();
+        const quint64 size = NumberText(file.attribute(QStringLiteral("size"))).toULongLong();
         const QString path = file.attribute(QStringLiteral("path"));
         SetFilePath(file.attribute(QStringLiteral("key")), path, md5, static_cast<long long>(size),
                     kImageFileKind);

@@ -72,7 +72,8 @@ if(CLOCK_QT EQUAL 6)
     target_link_libraries(clock_text_codecs INTERFACE Qt::Core5Compat)
     set(clock_qt_tools ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS})
     set(clock_sizes_exceed_int ON)
-    # Without the definitions of each test's directories, the tests share a precompiled header.
+    # Drops the definitions of each test's directories, or the tests could not share a precompiled
+    # header.
     set_property(TARGET Qt6::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
 else()
     target_link_libraries(clock_text_codecs INTERFACE Qt::Core)

@@ -5,12 +5,18 @@
 
 namespace Lw {
 
-/// The decimal integer that a text has, perhaps with a sign and between white space; 0 for any
-/// other text and for numbers that do not fit an int. The same with every Qt: version 6 by itself
-/// knows less white space and ends a text at a character 0.
-inline int NumberIn(const QString &text)
+/// A text as QString's conversions to numbers are given it: with every version of Qt the same white
+/// space around a number is accepted, and a character 0 nowhere. Empty if it has one.
+inline QString NumberText(const QString &text)
 {
-    return text.contains(QChar(QChar::Null)) ? 0 : text.trimmed().toInt();
+    return text.contains(QChar(QChar::Null)) ? QString() : text.trimmed();
+}
+
+/// The decimal integer in a text, with an optional sign and surrounding white space; 0 otherwise,
+/// or if it does not fit an int.
+inline int NumberIn(const QString &text, bool *isNumber = nullptr)
+{
+    return NumberText(text).toInt(isNumber);
 }
 
 } // namespace Lw

@@ -5,6 +5,7 @@
 
 #include "hnode.h"
 #include "inodeplugin.h"
+#include "number_text.h"
 
 #include <algorithm>
 
@@ -43,14 +44,14 @@ QString SettingOf(const QDomElement &element, const QString &key)
 
 bool SetsPictureClock(const QDomElement &element)
 {
-    return SettingOf(element, QLatin1String(kClockTypeKey)).toInt() == kPictureClock;
+    return Lw::NumberIn(SettingOf(element, QLatin1String(kClockTypeKey))) == kPictureClock;
 }
 
 bool NamesPictureClock(const QDomElement &element)
 {
     const QDomElement older = element.firstChildElement(QLatin1String(kOlderForm));
     return element.attribute(QLatin1String(kTypeWord)) == QLatin1String(kPictureWord)
-        || older.attribute(QLatin1String(kOlderTypeWord)).toInt() == kPictureClock
+        || Lw::NumberIn(older.attribute(QLatin1String(kOlderTypeWord))) == kPictureClock
         || SetsPictureClock(element);
 }
 

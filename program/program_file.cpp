@@ -2,6 +2,8 @@
 
 #include "command_support.h"
 
+#include "number_text.h"
+
 #include <QCryptographicHash>
 #include <QStringList>
 
@@ -89,7 +91,7 @@ private:
     int Number(const QDomElement &element, const char *name, int minimum)
     {
         bool isNumber = false;
-        const int number = element.attribute(QLatin1String(name)).toInt(&isNumber);
+        const int number = Lw::NumberIn(element.attribute(QLatin1String(name)), &isNumber);
         if (isNumber && number >= minimum && number <= kMaximumSide)
             return number;
         m_wrongNumbers.append(QStringLiteral("%1 from %2 to %3")

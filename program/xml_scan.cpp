@@ -19,7 +19,7 @@ struct Tag
 
 QString Shown(QStringView name)
 {
-    return name.left(kLongestName).toString();
+    return name.toString().left(kLongestName);
 }
 
 /// What is wrong with "&" and these characters up to a semicolon; empty without one.
@@ -130,19 +130,19 @@ private:
     /// predefined entities and character numbers exist.
     void CheckReferences(int end)
     {
-        constexpr int kLongest = 11; // of a name, in characters
-        const auto next = [&](int from) { return Find(QLatin1Char('&'), from, end); };
-        for (int i = next(m_at); i < end; i = next(i + 1)) {
-            const int close = Find(QLatin1Char(';'), i, end);
-            const bool isReference = close < end && close - i - 1 <= kLongest;
-            const QStringView name = isReference ? Between(i + 1, close) : QStringView();
+        constexpr int kLongest = 11; // of a name in a message
+        int after = end;
+        for (int i = Find(QLatin1Char('&'), m_at, end); i < end; i = after) {
+            after = Find(QLatin1Char('&'), i + 1, end);
+            const int close = Find(QLatin1Char(';'), i, after);
+            const QStringView name = close < after ? Between(i + 1, close) : QStringView();
             const auto is = [&name](const char *word) { return name == QLatin1String(word); };
             const bool isKnown = name.startsWith(QLatin1Char('#')) || is("amp") || is("lt")
                 || is("gt") || is("quot") || is("apos");
             if (isKnown)
                 continue;
             MoveTo(i);
-            return Fail(m_line, ReferenceFault(name));
+            return Fail(m_line, ReferenceFault(name.size() <= kLongest ? name : QStringView()));
         }
     }
 

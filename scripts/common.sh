@@ -52,13 +52,12 @@ build() {
     quietly cmake --build "$directory" "$@"
 }
 
-# The Qt to build with, by the environment variable CLOCK_QT; its packages serve the need "qt5" or
-# "qt6".
+# Qt's major version, from the environment variable CLOCK_QT.
 qt=${CLOCK_QT:-5}
 
 # native_build - prints the build directory for this machine
 native_build() {
-    if ((qt == 6)); then echo build-qt6; else echo build; fi
+    if [[ $qt == 6 ]]; then echo build-qt6; else echo build; fi
 }
 
 # quietly COMMAND... - shows the command's output only if it fails

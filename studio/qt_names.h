@@ -1,4 +1,4 @@
-// studio/: what Qt 6 names otherwise than Qt 5.
+// studio/: names that differ between Qt 5 and Qt 6.
 #pragma once
 
 #include <QApplication>
@@ -9,7 +9,7 @@ namespace ClockStudio {
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 
-inline QPoint PlaceOf(const QMouseEvent &event)
+inline QPoint PositionOf(const QMouseEvent &event)
 {
     return event.position().toPoint();
 }
@@ -23,7 +23,7 @@ inline void ScaleForScreen() { } // always done
 
 #else
 
-inline QPoint PlaceOf(const QMouseEvent &event)
+inline QPoint PositionOf(const QMouseEvent &event)
 {
     return event.pos();
 }

@@ -134,7 +134,9 @@ MaybeFailure InstallCatalogue(const ToolArguments &tool)
     const QString path = tool.Value(kCatalogue);
     if (path.isEmpty())
         return std::nullopt;
-    if (!translator.load(path) || !QCoreApplication::installTranslator(&translator))
+    // QTranslator would try shorter names than that of a missing file.
+    if (!QFileInfo(path).isFile() || !translator.load(path)
+        || !QCoreApplication::installTranslator(&translator))
         return ClockProgram::Failure {ExitCode::ProgramError,
                                       path + QStringLiteral(": cannot be read as a catalogue")};
     return std::nullopt;
@@ -155,6 +157,9 @@ Result<LintOptions> ReadOptions(const ToolArguments &tool)
     options.begin = *begin;
     options.checksFit = !tool.IsSet(kNoFit);
     options.base = tool.Value(kBase);
+    if (!options.base.isEmpty() && !QFileInfo(options.base).isDir())
+        return ClockProgram::Failure {ExitCode::ProgramError,
+                                      options.base + QStringLiteral(": is not a directory")};
     return options;
 }
 

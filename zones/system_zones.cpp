@@ -46,8 +46,8 @@ bool IsZoneName(const QByteArray &name)
 // Qt 6 has a zone for any other word too, as if it were the abbreviation of one.
 bool IsZone(const QByteArray &name)
 {
-    return QTimeZone::isTimeZoneIdAvailable(name)
-        || QFileInfo(QStringLiteral("/usr/share/zoneinfo/") + QString::fromLatin1(name)).isFile();
+    return QFileInfo(QStringLiteral("/usr/share/zoneinfo/") + QString::fromLatin1(name)).isFile()
+        || QTimeZone::isTimeZoneIdAvailable(name);
 }
 
 CivilTime CivilTimeOf(const QTimeZone &zone, const Span &span)

@@ -52,8 +52,9 @@ QVector<int> PossibleOffsets(const CivilTime &civil)
 {
     QVector<int> offsets;
     const auto add = [&](int seconds) {
-        const int minutes =
-            qRound(seconds / static_cast<double>(kSecondsPerMinute)) * kSecondsPerMinute;
+        const auto minutes =
+            static_cast<int>(FloorDivide(seconds + kSecondsPerMinute / 2, kSecondsPerMinute))
+            * kSecondsPerMinute;
         if (qAbs(minutes) < kSecondsPerDay && !offsets.contains(minutes))
             offsets.append(minutes);
     };

@@ -19,11 +19,23 @@ bool IsAscii(const QString &text)
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 128; });
 }
 
+// Qt 6 refuses a sign in place of a field's leading zero; Qt 5 does not.
+QString WithoutSigns(QString text)
+{
+    for (int i = 0; i + 1 < text.size(); ++i) {
+        const bool beginsField = i == 0 || text.at(i - 1) == QLatin1Char(':');
+        if (beginsField && text.at(i) == QLatin1Char('+') && text.at(i + 1).isDigit())
+            text[i] = QLatin1Char('0');
+    }
+    return text;
+}
+
 // Untrusted strings may have any length, so the length is checked first. QTime::fromString() also
 // accepts the locale's digits; a text must mean the same on every device.
 QTime TimeFromText(const QString &text, const QString &pattern, int longest)
 {
-    return text.size() <= longest && IsAscii(text) ? QTime::fromString(text, pattern) : QTime();
+    return text.size() <= longest && IsAscii(text) ? QTime::fromString(WithoutSigns(text), pattern)
+                                                   : QTime();
 }
 
 int FieldAt(const QString &text, int position)

@@ -7,6 +7,7 @@
 #include "clock_sdk_tables.h"
 #include "happconfig.h"
 #include "node_maker.h"
+#include "number_text.h"
 
 #include <QColor>
 
@@ -29,12 +30,12 @@ std::optional<QString> ImportText(Conversion conversion, const QString &stored)
     case Conversion::Number:
         return stored;
     case Conversion::InvertedNumber:
-        return QLatin1String(stored.toInt() == 0 ? "1" : "0");
+        return QLatin1String(Lw::NumberIn(stored) == 0 ? "1" : "0");
     case Conversion::Flag:
-        return QLatin1String(stored.toInt() != 0 ? "true" : "false");
+        return QLatin1String(Lw::NumberIn(stored) != 0 ? "true" : "false");
     case Conversion::Colour:
     case Conversion::ParsedColour:
-        return ColourName(stored.toInt());
+        return ColourName(Lw::NumberIn(stored));
     case Conversion::AdjustSeconds:
     case Conversion::AdjustTime:
         break;

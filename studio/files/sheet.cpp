@@ -7,6 +7,7 @@
 #include "clock_node.h"
 #include "happconfig.h"
 #include "led_screen.h"
+#include "number_text.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -57,16 +58,17 @@ QString ValueText(const AttributeRow &row, HClockNode &clock)
 {
     const QString stored = clock.GetAttribute(Key(row.attribute));
     if (row.role == ValueRole::Colour) {
-        const QString colour = Lw::HAppConfig::IntToColor(stored.toInt()).name();
+        const QString colour = Lw::HAppConfig::IntToColor(Lw::NumberIn(stored)).name();
         return QStringLiteral(
                    "<span style=\"background-color:%1\">&nbsp;&nbsp;&nbsp;&nbsp;</span> %1")
             .arg(colour);
     }
-    if (const char *const name = row.range.NameOf(stored.toInt()))
+    if (const char *const name = row.range.NameOf(Lw::NumberIn(stored)))
         return Words(name);
     if (row.role == ValueRole::Flag)
-        return stored.toInt() != 0 ? Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "yes"))
-                                   : Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "no"));
+        return Lw::NumberIn(stored) != 0
+            ? Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "yes"))
+            : Translated(QT_TRANSLATE_NOOP("ClockStudio::Sheet", "no"));
     return row.role == ValueRole::Size ? stored + QStringLiteral(" pt") : stored.toHtmlEscaped();
 }
 

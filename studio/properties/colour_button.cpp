@@ -1,6 +1,7 @@
 #include "colour_button.h"
 
 #include "happconfig.h"
+#include "number_text.h"
 
 #include <QColorDialog>
 #include <QGridLayout>
@@ -49,7 +50,7 @@ ColourButton::ColourButton()
 
 void ColourButton::Show(const QString &stored, bool isMixed)
 {
-    m_colour = isMixed ? QColor() : Lw::HAppConfig::IntToColor(stored.toInt());
+    m_colour = isMixed ? QColor() : Lw::HAppConfig::IntToColor(Lw::NumberIn(stored));
     setIcon(SwatchOf(m_colour, iconSize()));
 }
 

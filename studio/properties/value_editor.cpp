@@ -5,6 +5,7 @@
 #include "family_box.h"
 
 #include "clock_node.h"
+#include "number_text.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
@@ -41,9 +42,9 @@ public:
 
     void Show(const QString &stored, bool isMixed) override
     {
-        m_box->setCheckState(isMixed                   ? Qt::PartiallyChecked
-                                 : stored.toInt() != 0 ? Qt::Checked
-                                                       : Qt::Unchecked);
+        m_box->setCheckState(isMixed                         ? Qt::PartiallyChecked
+                                 : Lw::NumberIn(stored) != 0 ? Qt::Checked
+                                                             : Qt::Unchecked);
     }
 
 private:
@@ -111,7 +112,7 @@ public:
 
     void Show(const QString &stored, bool isMixed) override
     {
-        const int index = isMixed ? -1 : m_box->findData(stored.toInt());
+        const int index = isMixed ? -1 : m_box->findData(Lw::NumberIn(stored));
         m_box->DrawPicture(index);
         m_box->setCurrentIndex(index);
     }
@@ -142,7 +143,7 @@ public:
     {
         m_isShowing = true;
         m_box->setSpecialValueText(isMixed ? kMixed : QString());
-        m_box->setValue(isMixed ? m_box->minimum() : stored.toInt());
+        m_box->setValue(isMixed ? m_box->minimum() : Lw::NumberIn(stored));
         m_isShowing = false;
     }
 

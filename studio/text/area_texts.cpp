@@ -3,6 +3,7 @@
 #include "program_edits.h"
 
 #include "node_keys.h"
+#include "number_text.h"
 
 #include <QSet>
 
@@ -86,7 +87,7 @@ QSet<int> GivenIds(const ParsedProgram &parsed)
     QSet<int> ids;
     for (int area = 0; area < parsed.AreaCount(); ++area) {
         for (const int element : IdElements(parsed, area))
-            ids.insert(parsed.elements[element].Value(QStringLiteral("value")).toInt());
+            ids.insert(Lw::NumberIn(parsed.elements[element].Value(QStringLiteral("value"))));
     }
     return ids;
 }

@@ -109,8 +109,10 @@ void LiveWall::MakePendingClocks()
     for (Slot &slot : m_slots) {
         if (!slot.IsPending())
             continue;
-        if (spent.hasExpired(kMakingSpan) || !Make(slot, spent)) {
-            if (!m_encoder.IsBusy())
+        const bool isSpent = spent.hasExpired(kMakingSpan);
+        if (isSpent || !Make(slot, spent)) {
+            // An image that is being encoded may belong to a clock that is no longer wanted.
+            if (isSpent || !m_encoder.IsBusy())
                 m_makeTimer.start();
             break;
         }

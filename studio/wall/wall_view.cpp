@@ -188,22 +188,22 @@ void WallView::mousePressEvent(QMouseEvent *event)
         && !m_mouse.Drawing() && m_mouse.Hovered() >= 0
         && !m_editor.Selected().contains(m_mouse.Hovered());
     if (event->button() == Qt::LeftButton || selects)
-        m_mouse.Press(m_scale, {PlaceOf(*event), event->modifiers(), m_module});
+        m_mouse.Press(m_scale, {PositionOf(*event), event->modifiers(), m_module});
     if (selects)
-        m_mouse.Release({PlaceOf(*event), event->modifiers(), m_module});
+        m_mouse.Release({PositionOf(*event), event->modifiers(), m_module});
 }
 
 void WallView::mouseMoveEvent(QMouseEvent *event)
 {
-    m_mouse.Move(m_scale, {PlaceOf(*event), event->modifiers(), m_module});
-    viewport()->setCursor(m_mouse.Cursor(m_scale, PlaceOf(*event)));
-    emit PointedAt(m_scale.ToWall(PlaceOf(*event)));
+    m_mouse.Move(m_scale, {PositionOf(*event), event->modifiers(), m_module});
+    viewport()->setCursor(m_mouse.Cursor(m_scale, PositionOf(*event)));
+    emit PointedAt(m_scale.ToWall(PositionOf(*event)));
 }
 
 void WallView::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton && m_mouse.IsDragging())
-        m_mouse.Release({PlaceOf(*event), event->modifiers(), m_module});
+        m_mouse.Release({PositionOf(*event), event->modifiers(), m_module});
 }
 
 void WallView::wheelEvent(QWheelEvent *event)

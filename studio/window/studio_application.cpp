@@ -6,6 +6,7 @@
 #include "qt_names.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFontMetrics>
 #include <QIcon>
 #include <QLocale>
@@ -52,15 +53,29 @@ QString FontProblem(const QLocale &locale)
         .arg(QLocale::languageToString(locale.language()));
 }
 
-/// A language that the studio or every font lacks is replaced as a whole, so that its texts, dates,
-/// direction and Qt's own texts stay in one language.
+QString CatalogueFolder()
+{
+    return QStringLiteral(":/translations");
+}
+
+/// The first of the user's languages that the studio has. One that it lacks is replaced as a whole,
+/// so that its texts, dates, direction and Qt's own texts are in one language.
+QLocale WantedLocale()
+{
+    const QLocale system;
+    for (const QString &name : system.uiLanguages()) {
+        const QLocale locale(name);
+        const QString language = locale.name().section(QLatin1Char('_'), 0, 0);
+        if (QFile::exists(QStringLiteral("%1/studio_%2.qm").arg(CatalogueFolder(), language)))
+            return locale.language() == system.language() ? system : locale;
+    }
+    return QLocale(QLocale::English);
+}
+
+/// The texts of the language of QLocale().
 void LoadTranslations(QApplication &application)
 {
-    const QString catalogues = QStringLiteral(":/translations");
-    if (!HasFontFor(QLocale()) || !Load(application, QLocale(), "studio", catalogues)) {
-        QLocale::setDefault(QLocale(QLocale::English));
-        Load(application, QLocale(), "studio", catalogues);
-    }
+    Load(application, QLocale(), "studio", CatalogueFolder());
     Load(application, QLocale(), "qtbase", QtTranslations());
     ClockCatalogues::InstallOrDefault({});
     QApplication::setLayoutDirection(QLocale().textDirection());
@@ -83,7 +98,9 @@ QString SetUpApplication(QApplication &application)
     QCoreApplication::setApplicationName(QStringLiteral("clock-studio"));
     QCoreApplication::setOrganizationName(QStringLiteral("clock-studio"));
     QCoreApplication::setApplicationVersion(QStringLiteral(CLOCK_STUDIO_VERSION));
-    const QString problem = FontProblem(QLocale());
+    const QLocale wanted = WantedLocale();
+    const QString problem = FontProblem(wanted);
+    QLocale::setDefault(problem.isEmpty() ? wanted : QLocale(QLocale::English));
     // Part of every window's title: the desktop draws it and may have fonts of its own.
     QGuiApplication::setApplicationDisplayName(ClockFit::HasFonts() ? QString() : problem);
     QGuiApplication::setDesktopFileName(QStringLiteral("clock-studio"));

@@ -102,6 +102,7 @@ void TestClockTime::Zone_data()
     QTest::newRow("minus zero") << "-00:00" << 0;
     QTest::newRow("largest") << "+23:59" << 86340;
     QTest::newRow("smallest") << "-23:59" << -86340;
+    QTest::newRow("sign for a leading zero") << "-+5:+7" << -18420;
     QTest::newRow("blank for the sign") << " 08:00" << 28800;
     QTest::newRow("letter for the sign") << "x08:00" << 28800;
     QTest::newRow("minus sign of typography") << QString(QStringLiteral(u"\u221208:00")) << 28800;

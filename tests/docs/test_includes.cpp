@@ -48,9 +48,9 @@ const QVector<Room> kRooms = {
 // The rooms that see less than every floor below them: the programs that load a plugin, and what
 // is pure.
 const QMap<QString, QStringList> kNarrowRooms = {
-    {"player/", {"stage/", "program/", "zones/", "calendar/", "host/"}},
-    {"stage/", {"program/", "zones/", "clock_attributes", "calendar/", "host/"}},
-    {"program/", {"host/"}},
+    {"player/", {"stage/", "program/", "zones/", "calendar/", "host/", "number_text"}},
+    {"stage/", {"program/", "zones/", "clock_attributes", "calendar/", "host/", "number_text"}},
+    {"program/", {"host/", "number_text"}},
     {"zones/", {"calendar/"}},
     {"clock_attributes", {"image_bounds"}},
     {"calendar/", {"image_bounds", "number_text"}}, // the former for clock_export.h

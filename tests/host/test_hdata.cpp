@@ -88,6 +88,10 @@ void TestHData::TextReadAsNumber_data()
     QTest::newRow("fraction") << "12.5" << 0;
     QTest::newRow("thousands") << "1,000" << 0;
     QTest::newRow("two signs") << "--1" << 0;
+    QTest::newRow("both signs") << "+-5" << 0;
+    QTest::newRow("typographic minus") << QString(QChar(0x2212)) + "5" << -5;
+    QTest::newRow("no-break space behind") << "12" + QString(QChar(0xa0)) << 12;
+    QTest::newRow("zero character behind") << QString::fromLatin1("12\0", 3) << 0;
     QTest::newRow("full-width digits") << QString::fromUtf8("１２") << 0;
     QTest::newRow("zero character inside") << QString::fromLatin1("1\0002", 3) << 0;
 }

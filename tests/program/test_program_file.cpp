@@ -229,6 +229,8 @@ void TestProgramFile::OddTextsAreAccepted_data()
         << AreaWith("<panel><!-- <!DOCTYPE a> --><![CDATA[<!DOCTYPE a>]]></panel>");
     QTest::newRow("every reference")
         << AreaWith("<panel a='&amp;&lt;&gt;&quot;&apos;&#65;&#x41;'>&amp;</panel>");
+    QTest::newRow("long character numbers")
+        << AreaWith("<panel a='&#x" + QByteArray(40, '0') + "41;'>&#0000000000065;</panel>");
     QTest::newRow("spaces in tags") << Screen("<area x = '0'\ny='0'\twidth='8'\r\nheight='8' >"
                                               "<panel\n/></area\n>");
     QTest::newRow("greater-than sign in a value") << AreaWith("<panel a='>' b=\"'\"/>");

@@ -93,7 +93,8 @@ void TestLargeFonts::FilesAreThePlugins()
     const int before = DrawnImages();
     studio.WaitForClocks();
     QVERIFY(encoded.count() > 20);
-    QCOMPARE(DrawnImages() - before, encoded.count() + EncoderOf(studio).IsBusy());
+    QVERIFY(!EncoderOf(studio).IsBusy());
+    QCOMPARE(DrawnImages() - before, encoded.count());
 
     const auto files = FilesIn(Lw::HAppConfig::ClockOutputPath());
     QVERIFY(files.size() >= encoded.count());

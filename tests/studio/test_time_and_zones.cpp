@@ -94,6 +94,7 @@ void TestTimeAndZones::Search()
     QCOMPARE(Cities("no such place"), QStringList());
     // Chagos is in the British Indian Ocean Territory.
     const QStringList found = Cities(" te");
+    QVERIFY(found.contains("Tehran") && found.contains("Chagos"));
     QVERIFY(found.indexOf("Tehran") < found.indexOf("Chagos"));
 }
 

@@ -15,8 +15,10 @@ class OpenedFiles
 public:
     explicit OpenedFiles(const QString &folder)
         : m_queue(inotify_init1(IN_NONBLOCK | IN_CLOEXEC)),
-          m_isWatching(inotify_add_watch(m_queue, QFile::encodeName(folder).constData(), IN_OPEN)
-                       >= 0)
+          // Equal events in succession are one, so that closing is watched too.
+          m_isWatching(
+              inotify_add_watch(m_queue, QFile::encodeName(folder).constData(), IN_OPEN | IN_CLOSE)
+              >= 0)
     { }
     ~OpenedFiles() { close(m_queue); }
     Q_DISABLE_COPY(OpenedFiles)
@@ -31,7 +33,7 @@ public:
         const ssize_t bytes = read(m_queue, events, sizeof events);
         for (ssize_t at = 0; at < bytes;) {
             const auto *const event = reinterpret_cast<const inotify_event *>(events + at);
-            if (event->len > 0)
+            if (event->len > 0 && (event->mask & IN_OPEN) != 0)
                 names.append(QFile::decodeName(event->name));
             at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
         }

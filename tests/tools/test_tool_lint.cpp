@@ -631,6 +631,7 @@ void TestToolLint::FilesElsewhere()
         RunTool({"lint", "--no-fit", "--base", m_directory.path(), program}).errors;
     QVERIFY2(other.contains("copy.xml:2: warning: the file \"in.png\" has the digest "),
              qPrintable(other));
+    QCOMPARE(RunTool({"lint", "--no-fit", "--base", program, program}).exitCode, 3);
 }
 
 void TestToolLint::UnreadableCatalogue()
@@ -640,6 +641,14 @@ void TestToolLint::UnreadableCatalogue()
     const ProcessRun run = RunTool({"lint", "--no-fit", "--catalogue", program, program});
     QCOMPARE(run.exitCode, 3);
     QCOMPARE(run.errors, QString("clock_tool: %1: cannot be read as a catalogue\n").arg(program));
+
+    // Of a name that goes on, Qt would take the file of the shorter one.
+    const QString shorter = m_directory.filePath("studio.qm");
+    QVERIFY(QFile::copy(QStringLiteral(CATALOGUE), shorter));
+    const QStringList arguments {"lint", "--no-fit", "--catalogue"};
+    QCOMPARE(RunTool(arguments + QStringList {shorter, program}).exitCode, 0);
+    const QString missing = m_directory.filePath("studio_de.qm");
+    QCOMPARE(RunTool(arguments + QStringList {missing, program}).exitCode, 3);
 }
 
 // However much is wrong with one program, the next one is heard of.

@@ -7,6 +7,7 @@
 #include "clock_node.h"
 #include "glyph/glyph_set.h"
 #include "node_maker.h"
+#include "number_text.h"
 #include "program_file.h"
 
 #include <QRegularExpression>
@@ -264,7 +265,7 @@ std::optional<int> GivenId(const QDomElement &clock)
     for (QDomElement setting = clock.firstChildElement(ClockProgram::kAttributeTag);
          !setting.isNull(); setting = setting.nextSiblingElement(ClockProgram::kAttributeTag)) {
         if (setting.attribute(kKey) == Key(Attribute::Id))
-            id = setting.attribute(kValue).toInt();
+            id = Lw::NumberIn(setting.attribute(kValue));
     }
     return id;
 }

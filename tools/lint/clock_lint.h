@@ -15,8 +15,8 @@ class HClockNode;
 
 namespace ClockTool {
 
-/// Warns about every word and value that the clock ignores or misreads, about carried files that are
-/// missing or differ, and about settings that conflict, as of an instant in milliseconds since
+/// Warns about every word and value that the clock ignores or misreads, about carried files that
+/// are missing or differ, and about settings that conflict, as of an instant in milliseconds since
 /// 1970-01-01 UTC.
 void LintClock(const QDomElement &clock, ClockProgram::CarriedFiles &files, qint64 instant,
                Findings &findings);

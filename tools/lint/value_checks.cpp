@@ -8,6 +8,7 @@
 #include "clock_sdk_tables.h"
 #include "font_check.h"
 #include "happconfig.h"
+#include "number_text.h"
 
 #include <QColor>
 #include <QRegularExpression>
@@ -21,7 +22,7 @@ using namespace Lw::HNodeClock;
 QString NumberFault(Attribute attribute, const QString &text)
 {
     bool isNumber = false;
-    const int number = text.toInt(&isNumber);
+    const int number = Lw::NumberIn(text, &isNumber);
     if (!isNumber)
         return QStringLiteral("is not a whole number and is read as 0; accepted: a decimal such as "
                               "12");
@@ -53,7 +54,7 @@ QString ColourFault(const QString &text)
 QString StoredColourFault(const QString &text)
 {
     bool isNumber = false;
-    const int number = text.toInt(&isNumber);
+    const int number = Lw::NumberIn(text, &isNumber);
     if (isNumber && number >= 0 && number <= 0xffffff)
         return {};
     const QString form = QStringLiteral("red + 256 * green + 65536 * blue");
@@ -140,7 +141,7 @@ QString AdjustSecondsFault(const QString &text)
 {
     constexpr int day = 86400;
     bool isNumber = false;
-    const int seconds = text.toInt(&isNumber);
+    const int seconds = Lw::NumberIn(text, &isNumber);
     if (isNumber && qAbs(qint64(seconds)) < day)
         return {};
     return QStringLiteral("is not an adjustment within a day; accepted: seconds from -86399 to "
