@@ -5,11 +5,13 @@
 
 namespace Lw {
 
-/// A text as QString's conversions to numbers are given it: with every version of Qt the same white
-/// space around a number is accepted, and a character 0 nowhere. Empty if it has one.
+/// A text for QString's conversions to numbers, which then accept the same with every version of
+/// Qt: any white space around the number, the minus sign of typography, no character 0.
 inline QString NumberText(const QString &text)
 {
-    return text.contains(QChar(QChar::Null)) ? QString() : text.trimmed();
+    return text.contains(QChar(QChar::Null))
+        ? QString()
+        : text.trimmed().replace(QChar(0x2212), QLatin1Char('-'));
 }
 
 /// The decimal integer in a text, with an optional sign and surrounding white space; 0 otherwise,
