@@ -133,10 +133,13 @@ GlyphStrip GlyphStrip::OfFile(PictureFile &file, qint64 bytes)
 {
     const QByteArray digest = file.Digest();
     const bool isLazy = !file.SmallPng().isEmpty();
-    std::optional<Ink> ink = FreshInk::OfThread().Take(file.SmallPng());
-    const auto pixels = ink ? std::make_shared<GlyphPixels>(std::move(*ink))
-        : isLazy            ? std::make_shared<GlyphPixels>(file.SmallPng(), bytes)
-                            : std::make_shared<GlyphPixels>(file.Read());
+    std::shared_ptr<GlyphPixels> pixels;
+    if (std::optional<Ink> ink = FreshInk::OfThread().Take(file.SmallPng()))
+        pixels = std::make_shared<GlyphPixels>(std::move(*ink));
+    else if (isLazy)
+        pixels = std::make_shared<GlyphPixels>(file.SmallPng(), bytes);
+    else
+        pixels = std::make_shared<GlyphPixels>(file.Read());
     if (!digest.isEmpty() && (isLazy || !pixels->Size().isEmpty()))
         Remember(digest, pixels);
     return GlyphStrip(pixels);

@@ -9,15 +9,13 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr int kBits = 32; // of a word of ink
-
-// Up to 32 columns of a row of ink, the first as the lowest bit.
+// Up to a word of columns of a row of ink.
 quint32 Columns(const quint32 *row, int from, int count)
 {
-    const quint32 *const word = row + from / kBits;
-    const quint64 two = word[0] | static_cast<quint64>(word[1]) << kBits;
-    const auto bits = static_cast<quint32>(two >> from % kBits);
-    return count < kBits ? bits & ((1u << count) - 1) : bits;
+    const quint32 *const word = row + from / kInkColumns;
+    const quint64 two = word[0] | static_cast<quint64>(word[1]) << kInkColumns;
+    const auto bits = static_cast<quint32>(two >> from % kInkColumns);
+    return count < kInkColumns ? bits & ((1u << count) - 1) : bits;
 }
 
 } // namespace
@@ -65,7 +63,7 @@ void PieceCanvas::DrawInk(const GlyphPixels &ink, const QRect &source, const QPo
     for (int y = 0; y < source.height(); ++y) {
         const quint32 *const row = ink.InkRow(source.y() + y);
         QRgb *const pixels = At(target.x(), target.y() + y);
-        for (int x = 0; x < source.width(); x += kBits) {
+        for (int x = 0; x < source.width(); x += kInkColumns) {
             QRgb *pixel = pixels + x;
             quint32 bits = Columns(row, source.x() + x, source.width() - x);
             while (bits != 0) {

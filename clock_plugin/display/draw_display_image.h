@@ -97,9 +97,9 @@ public:
     void DrawDigitalClock();
 
     // Picture clock.
-    /// Loads the pictures of the hands and of the style given by PictrueClockType again; before the
-    /// first frame of a picture clock, leaves that to it. Unreadable pictures are skipped. Forces
-    /// an analog dial redraw.
+    /// Reloads the pictures of the hands and of the style given by PictrueClockType; does nothing
+    /// before the first frame of a picture clock, which loads them. Unreadable pictures are
+    /// skipped. Forces an analog dial redraw.
     void InitClockTypePixmap();
     /// Draws the frame: dial and hands. Loads the pictures again when style or size has changed.
     void DrawPixmapClock();

@@ -38,7 +38,7 @@ void PaintTurned(QPainter &painter, const QPixmap &picture, double degrees, cons
 } // namespace
 
 // Before the first frame, which always loads the pictures, the host is only asked for what they
-// depend on.
+// depend on: hosts may rely on being asked at construction.
 void PictureFace::LoadPictures()
 {
     const QSize size = m_shared.Size();

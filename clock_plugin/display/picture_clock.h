@@ -21,7 +21,7 @@ public:
     /// Whether the pictures must be (re)loaded: style or size has changed, or memory ran out
     /// before.
     bool NeedsPictures();
-    void LoadPictures(); ///< not before the first NeedsPictures()
+    void LoadPictures(); ///< does nothing before the first NeedsPictures()
     void Draw();
     /// Where the frame differs from the previous one; nullopt if either was not drawn by this face.
     std::optional<QRegion> Changes() const

@@ -33,7 +33,7 @@ struct GlyphContent
 
 bool operator==(const GlyphContent &one, const GlyphContent &other);
 
-using HashValue = decltype(::qHash(QString())); ///< Qt 6 has longer ones than Qt 5
+using HashValue = decltype(::qHash(QString())); ///< uint in Qt 5, size_t in Qt 6
 HashValue qHash(const GlyphContent &content, HashValue seed);
 
 /// Serialises a font and everything else its glyphs depend on: resolution, substitutes, text

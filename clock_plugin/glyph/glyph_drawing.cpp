@@ -21,8 +21,7 @@ QByteArray EncodePng(const QImage &image)
     return encoded ? png : QByteArray();
 }
 
-// In one colour without soft edges, both formats have the same pixels; Qt need not convert this
-// one.
+// In one colour without soft edges, both formats have the same pixels; Qt need not convert ARGB32.
 QImage ForEncoding(QImage image, bool isInk)
 {
     if (isInk)
@@ -44,15 +43,15 @@ bool HasInk(const QImage &image)
 }
 
 /// A null image if there is no memory for it.
-GlyphPicture Finished(QPainter &painter, const QPixmap &picture)
+UnencodedPicture Finished(QPainter &painter, const QPixmap &picture)
 {
     painter.end();
     const QImage image = picture.toImage();
     return {image.isNull() ? GlyphState::TooLarge : GlyphState::Drawn, image, {}};
 }
 
-GlyphPicture DrawText(QPainter &painter, const QFont &font, const QString &text,
-                      const QColor &colour)
+UnencodedPicture DrawText(QPainter &painter, const QFont &font, const QString &text,
+                          const QColor &colour)
 {
     const int width = GlyphTextWidth(QFontMetrics(font), text);
     if (width <= 0)
@@ -64,7 +63,7 @@ GlyphPicture DrawText(QPainter &painter, const QFont &font, const QString &text,
     return Finished(painter, picture);
 }
 
-GlyphPicture DrawStrip(QPainter &painter, const QFont &font, const QColor &colour)
+UnencodedPicture DrawStrip(QPainter &painter, const QFont &font, const QColor &colour)
 {
     QPixmap picture = EmptyPicture(font, kDigitCells * WidestDigit(QFontMetrics(font)));
     if (picture.isNull())
@@ -95,10 +94,10 @@ QString CharactersWithoutGlyph(const QFontMetrics &metrics, const QString &text)
 
 } // namespace
 
-GlyphPicture DrawGlyphPicture(QPainter &painter, const GlyphContent &content, const QFont &font)
+UnencodedPicture DrawGlyphPicture(QPainter &painter, const GlyphContent &content, const QFont &font)
 {
     const QColor colour = ColourOf(content.colour);
-    GlyphPicture drawn = content.shape == GlyphShape::DigitStrip
+    UnencodedPicture drawn = content.shape == GlyphShape::DigitStrip
         ? DrawStrip(painter, font, colour)
         : DrawText(painter, font, content.text, colour);
     if (drawn.state == GlyphState::Drawn)
@@ -106,7 +105,7 @@ GlyphPicture DrawGlyphPicture(QPainter &painter, const GlyphContent &content, co
     return drawn;
 }
 
-DrawnGlyph EncodeGlyphPicture(const GlyphPicture &picture)
+DrawnGlyph EncodeGlyphPicture(const UnencodedPicture &picture)
 {
     DrawnGlyph glyph;
     glyph.state = picture.state;

@@ -26,7 +26,7 @@ inline QColor ColourOf(int stored)
 }
 
 /// A glyph image before it is encoded.
-struct GlyphPicture
+struct UnencodedPicture
 {
     GlyphState state = GlyphState::TooLarge;
     QImage image;                   ///< null if it was not drawn
@@ -37,12 +37,13 @@ struct GlyphPicture
 struct UnencodedGlyph
 {
     GlyphContent content;
-    GlyphPicture picture;
+    UnencodedPicture picture;
 };
 
 /// Draws one image, in the application's thread. The painter must not be active.
-GlyphPicture DrawGlyphPicture(QPainter &painter, const GlyphContent &content, const QFont &font);
+UnencodedPicture DrawGlyphPicture(QPainter &painter, const GlyphContent &content,
+                                  const QFont &font);
 /// Encodes what was drawn, in any thread. Takes several times as long as drawing it.
-DrawnGlyph EncodeGlyphPicture(const GlyphPicture &picture);
+DrawnGlyph EncodeGlyphPicture(const UnencodedPicture &picture);
 
 } // namespace Lw::HNodeClock

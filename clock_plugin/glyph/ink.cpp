@@ -7,11 +7,9 @@ namespace Lw::HNodeClock {
 
 namespace {
 
-constexpr int kBits = 32; // of a word
-
 int WordsFor(int width)
 {
-    return (width + kBits - 1) / kBits;
+    return (width + kInkColumns - 1) / kInkColumns;
 }
 
 // Only in these formats, to which transparent PNGs decode, does a pixel of alpha 0 or 255 stay the
@@ -36,7 +34,7 @@ RowOfInk AddInk(const QRgb *pixels, int width, QRgb &colour, quint32 *bits)
             colour = pixel;
         if (pixel != colour || qAlpha(pixel) != 255)
             return RowOfInk::OtherColours;
-        bits[x / kBits] |= 1u << x % kBits;
+        bits[x / kInkColumns] |= 1u << x % kInkColumns;
         found = RowOfInk::Some;
     }
     return found;

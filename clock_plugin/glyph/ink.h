@@ -10,6 +10,9 @@
 
 namespace Lw::HNodeClock {
 
+/// Columns of ink per word, the first as the lowest bit.
+inline constexpr int kInkColumns = 32;
+
 /// Rows of a glyph image, from the top.
 struct GlyphRows
 {
@@ -25,7 +28,7 @@ struct Ink
     Ink() = default;
     explicit Ink(const QSize &inkSize); ///< transparent
 
-    /// The bit of column x is bit x % 32 of word x / 32. A spare word follows the last one.
+    /// kInkColumns per word. A spare word follows the last row.
     const quint32 *Row(int y) const { return bits.constData() + y * wordsPerRow; }
 
     QSize size {0, 0};
