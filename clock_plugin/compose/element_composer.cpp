@@ -4,7 +4,6 @@
 #include "calendar/lunar_date.h"
 #include "compose/element_layout.h"
 #include "compose/piece_canvas.h"
-#include "glyph/fresh_ink.h"
 #include "glyph/glyph_set.h"
 
 #include <QImage>
@@ -64,7 +63,6 @@ void ElementComposer::SetUp(HClockNode &node)
     m_fixedMarks.reset();
     QVector<Lw::GlyphFault> lost;
     SetUp(node, node.ClockType(), m_glyphs.RecordedFiles(node, &lost));
-    FreshInk::OfThread().Clear();
     RecordLostImages(node, lost);
 }
 

@@ -21,7 +21,8 @@ FreshInk &FreshInk::OfThread()
 
 void FreshInk::Keep(const QByteArray &png, const Ink &ink)
 {
-    const qint64 bytes = png.size() + InkBytes(ink.size);
+    constexpr int kOverhead = 250; // bytes per entry
+    const qint64 bytes = kOverhead + png.size() + InkBytes(ink.size);
     if (bytes <= kMaxBytes)
         m_ink.insert(png, new Ink(ink), static_cast<int>(bytes));
 }

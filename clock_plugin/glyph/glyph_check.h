@@ -26,8 +26,9 @@ struct GlyphOutcome
 /// clock does not have.
 bool IsShown(const GlyphImage &image, HClockNode &node);
 
-/// Whether frames need the image, if only to measure it: the label strips set the height of all
-/// formats, and the digits of the date the width of the blank among the months.
+/// Whether the clock needs the ink of the image as soon as it is set up, if only to measure it: the
+/// label strips set the height of all formats, and the digits of the date the width of the blank
+/// among the months.
 bool IsNeeded(const GlyphImage &image, HClockNode &node);
 
 /// What is wrong with a generated image; nullopt if nothing is. For an image that the clock does

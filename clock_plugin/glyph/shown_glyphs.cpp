@@ -75,6 +75,21 @@ bool IsMarkHidden(HClockNode &node)
     return node.HaveAttribute(key) && node.GetAttributeToInt(key) == 0;
 }
 
+// The numerals and marks of a dial are loaded as pixmaps, the marks of a digital clock later.
+bool IsLoadedLater(Glyph glyph)
+{
+    switch (glyph) {
+    case Glyph::HourhandNumber:
+    case Glyph::AnalogAM:
+    case Glyph::AnalogPM:
+    case Glyph::TimeAM:
+    case Glyph::TimePM:
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool IsRowShown(Glyph glyph, HClockNode &node)
 {
     const ShownRow &row = kShown[static_cast<int>(glyph)];
@@ -102,6 +117,8 @@ bool IsShown(const GlyphImage &image, HClockNode &node)
 bool IsNeeded(const GlyphImage &image, HClockNode &node)
 {
     const Glyph glyph = image.row->glyph;
+    if (IsLoadedLater(glyph))
+        return false;
     const bool isLabel = glyph == Glyph::DateCh || glyph == Glyph::TimeCh;
     return glyph == Glyph::DateNumber || IsShown(image, node)
         || (isLabel && IsRowShown(glyph, node));

@@ -74,11 +74,14 @@ private Q_SLOTS:
     void EqualsTheFile();
     void OnlyWhatIsNeeded();
     void LoadingTakesIt();
-    void RestIsDropped();
+    void NothingIsLeft_data();
+    void NothingIsLeft();
     void ReplacedFilesAreRead();
     void RemovedFilesAreMissing();
     void TwoClocks();
+    void EachClockTakesItsOwn();
     void IsBounded();
+    void SmallOnesAreBoundedToo();
     void OtherThreadsHaveTheirOwn();
 };
 
@@ -160,12 +163,24 @@ void TestFreshInk::LoadingTakesIt()
     QVERIFY(!Taken(path));
 }
 
-void TestFreshInk::RestIsDropped()
+void TestFreshInk::NothingIsLeft_data()
 {
+    QTest::addColumn<int>("type");
+    QTest::newRow("analog") << int(AnalogClock);
+    QTest::newRow("digital") << int(DigitalClock);
+}
+
+// Images that the clock loads later or without their ink leave none.
+void TestFreshInk::NothingIsLeft()
+{
+    QFETCH(int, type);
     const GlyphOutput output;
     HClockNode node;
-    FillNode(node, DigitalClock, 1);
-    SetInt(node, Attribute::DigitalMode, 1); // its marks are loaded later
+    FillNode(node, type, 1);
+    SetInt(node, Attribute::HourScaleType, 3);
+    for (const Attribute shown : {Attribute::Digital_Time_d, Attribute::DigitalMode,
+                                  Attribute::Analog_AMPM_d, Attribute::Analog_Date_d})
+        SetInt(node, shown, 1);
     Generate(node);
     ElementComposer composer;
     composer.SetUp(node);
@@ -173,7 +188,7 @@ void TestFreshInk::RestIsDropped()
         QVERIFY2(!Taken(path), qPrintable(path));
 }
 
-// Even one of the same time.
+// Even one with the same modification time.
 void TestFreshInk::ReplacedFilesAreRead()
 {
     const GlyphOutput output;
@@ -228,6 +243,22 @@ void TestFreshInk::TwoClocks()
     QCOMPARE(FirstFrameTime(green), second);
 }
 
+// Hosts may have the images of all clocks made before they create a renderer.
+void TestFreshInk::EachClockTakesItsOwn()
+{
+    const GlyphOutput output;
+    HClockNode red;
+    HClockNode green;
+    FillNode(red, DigitalClock, 1);
+    FillNode(green, DigitalClock, 2);
+    SetFonts(green, QStringLiteral("DejaVu Sans"), 12, 0x00ff00);
+    Generate(red);
+    Generate(green);
+    FirstFrameTime(red);
+    QVERIFY(!Taken(red.GetFirstFile(GlyphKey(Glyph::TimeNumber))));
+    QVERIFY(Taken(green.GetFirstFile(GlyphKey(Glyph::TimeNumber))));
+}
+
 void TestFreshInk::IsBounded()
 {
     const GlyphOutput output;
@@ -244,6 +275,19 @@ void TestFreshInk::IsBounded()
     }
     QVERIFY(bytes > kMostBytes / 2);
     QVERIFY(bytes <= kMostBytes);
+}
+
+// Each takes more than its pixels: at least the object and the block of its bits.
+void TestFreshInk::SmallOnesAreBoundedToo()
+{
+    FreshInk &fresh = FreshInk::OfThread();
+    for (int i = 0; i < 5000; ++i)
+        fresh.Keep(QByteArray::number(i), Ink(QSize(1, 1)));
+    int kept = 0;
+    for (int i = 0; i < 5000; ++i)
+        kept += fresh.Take(QByteArray::number(i)).has_value();
+    QVERIFY(kept > 100);
+    QVERIFY(kept <= kMostBytes / qint64(sizeof(Ink) + 2 * sizeof(void *)));
 }
 
 void TestFreshInk::OtherThreadsHaveTheirOwn()
