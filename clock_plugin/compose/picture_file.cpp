@@ -195,7 +195,7 @@ QImage DecodePng(const QByteArray &png)
 qint64 GlyphBytesOfPng(const QByteArray &png)
 {
     const QSize size = SizeOfPng(png);
-    const bool isInk = HasGlyphFormat(png) && InkFrom(DecodePng(png)).has_value();
+    const bool isInk = HasGlyphFormat(png) && InkColourOf(DecodePng(png)).has_value();
     return isInk ? InkBytes(size) : 4LL * size.width() * size.height();
 }
 

@@ -208,11 +208,12 @@ GlyphOutcome DrwSourceIMage::DrawAndWrite(const GlyphRequest &request)
     DrawnGlyph glyph = cache.Find(content);
     bool isThere = glyph.state == GlyphState::Drawn && Holds(request.path, glyph);
     if (!isThere && glyph.file.isNull()) {
-        glyph = EncodeGlyphPicture(DrawGlyphPicture(*m_painter, content, face.font));
+        const UnencodedPicture picture = DrawGlyphPicture(*m_painter, content, face.font);
+        glyph = EncodeGlyphPicture(picture);
         cache.Keep(content, glyph);
         isThere = Holds(request.path, glyph);
-        if (request.isNeeded && glyph.ink)
-            FreshInk::OfThread().Keep(glyph.file, *glyph.ink);
+        if (glyph.state == GlyphState::Drawn && request.isNeeded)
+            FreshInk::OfThread().Keep(glyph.file, picture.image);
     }
     if (!isThere && glyph.state == GlyphState::Drawn)
         // A file under its digest's name is never written again, so it must be complete on disk.

@@ -19,12 +19,14 @@ FreshInk &FreshInk::OfThread()
     return t_ink;
 }
 
-void FreshInk::Keep(const QByteArray &png, const Ink &ink)
+void FreshInk::Keep(const QByteArray &png, const QImage &image)
 {
     constexpr int kOverhead = 250; // bytes per entry
-    const qint64 bytes = kOverhead + png.size() + InkBytes(ink.size);
-    if (bytes <= kMaxBytes)
-        m_ink.insert(png, new Ink(ink), static_cast<int>(bytes));
+    const qint64 bytes = kOverhead + png.size() + InkBytes(image.size());
+    if (bytes > kMaxBytes)
+        return;
+    if (std::optional<Ink> ink = InkFrom(image))
+        m_ink.insert(png, new Ink(std::move(*ink)), static_cast<int>(bytes));
 }
 
 std::optional<Ink> FreshInk::Take(const QByteArray &png)

@@ -17,8 +17,8 @@ public:
     /// The one of the calling thread.
     static FreshInk &OfThread();
 
-    /// Keeps the ink of a file with this content, unless it is too large.
-    void Keep(const QByteArray &png, const Ink &ink);
+    /// Keeps the ink of an image whose file has this content, unless it is too large or no ink.
+    void Keep(const QByteArray &png, const QImage &image);
     /// The ink of a file with this content, which is then no longer kept; nullopt if there is none.
     std::optional<Ink> Take(const QByteArray &png);
     void Clear() { m_ink.clear(); }

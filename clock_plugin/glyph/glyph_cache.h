@@ -6,7 +6,6 @@
 #pragma once
 
 #include "glyph/glyph_set.h"
-#include "glyph/ink.h"
 
 #include <QByteArray>
 #include <QCache>
@@ -59,8 +58,7 @@ struct DrawnGlyph
 {
     GlyphState state = GlyphState::TooLarge;
     GlyphFacts facts;
-    QByteArray file;        ///< the PNG; null if not drawn or no longer cached
-    std::optional<Ink> ink; ///< if it was just drawn, in one colour
+    QByteArray file; ///< the PNG; null if not drawn or no longer cached
 };
 
 /// Not thread-safe.

@@ -1,6 +1,7 @@
 #include "glyph/glyph_drawing.h"
 
 #include "glyph/glyph_picture.h"
+#include "glyph/ink.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -8,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <optional>
 
 namespace Lw::HNodeClock {
 
@@ -21,12 +23,16 @@ QByteArray EncodePng(const QImage &image)
     return encoded ? png : QByteArray();
 }
 
-// In one colour without soft edges, both formats have the same pixels; Qt need not convert ARGB32.
-QImage ForEncoding(QImage image, bool isInk)
+// For an image of one colour without soft edges: premultiplied, it has the same pixels, and Qt need
+// not convert ARGB32. Shares the pixels, which nothing changes; those declared constant would be
+// copied with the resolution.
+QImage AsArgb32(const QImage &image)
 {
-    if (isInk)
-        image.reinterpretAsFormat(QImage::Format_ARGB32);
-    return image;
+    QImage same(const_cast<uchar *>(image.constBits()), image.width(), image.height(),
+                image.bytesPerLine(), QImage::Format_ARGB32);
+    same.setDotsPerMeterX(image.dotsPerMeterX());
+    same.setDotsPerMeterY(image.dotsPerMeterY());
+    return same;
 }
 
 // Pixels of soft edges are ink too, and so is an image without alpha.
@@ -111,13 +117,13 @@ DrawnGlyph EncodeGlyphPicture(const UnencodedPicture &picture)
     glyph.state = picture.state;
     if (picture.state != GlyphState::Drawn)
         return glyph;
-    glyph.ink = InkFrom(picture.image);
-    glyph.file = EncodePng(ForEncoding(picture.image, glyph.ink.has_value()));
+    const std::optional<QRgb> colour = InkColourOf(picture.image);
+    glyph.file = EncodePng(colour ? AsArgb32(picture.image) : picture.image);
     if (glyph.file.isEmpty())
         return {};
     glyph.facts.size = glyph.file.size();
     glyph.facts.digest = QCryptographicHash::hash(glyph.file, QCryptographicHash::Sha1);
-    glyph.facts.hasInk = glyph.ink ? glyph.ink->rows.count > 0 : HasInk(picture.image);
+    glyph.facts.hasInk = colour ? *colour != 0 : HasInk(picture.image);
     glyph.facts.charactersWithoutGlyph = picture.charactersWithoutGlyph;
     return glyph;
 }

@@ -20,24 +20,16 @@ bool HasInkFormat(const QImage &image)
         || image.format() == QImage::Format_ARGB32_Premultiplied;
 }
 
-enum class RowOfInk { None, Some, OtherColours };
-
-// Sets the bits of a row's opaque pixels, which must have this colour; 0 becomes that of the first.
-RowOfInk AddInk(const QRgb *pixels, int width, QRgb &colour, quint32 *bits)
+// Sets the bits of a row's opaque pixels. Whether there are any.
+bool AddInk(const QRgb *pixels, int width, quint32 *bits)
 {
-    RowOfInk found = RowOfInk::None;
+    quint32 found = 0;
     for (int x = 0; x < width; ++x) {
-        const QRgb pixel = pixels[x];
-        if (qAlpha(pixel) == 0)
-            continue;
-        if (colour == 0)
-            colour = pixel;
-        if (pixel != colour || qAlpha(pixel) != 255)
-            return RowOfInk::OtherColours;
-        bits[x / kInkColumns] |= 1u << x % kInkColumns;
-        found = RowOfInk::Some;
+        const quint32 isSet = pixels[x] >> 31;
+        bits[x / kInkColumns] |= isSet << x % kInkColumns;
+        found |= isSet;
     }
-    return found;
+    return found != 0;
 }
 
 } // namespace
@@ -55,20 +47,39 @@ Ink::Ink(const QSize &inkSize)
       bits(wordsPerRow * inkSize.height() + 1)
 { }
 
-std::optional<Ink> InkFrom(const QImage &image)
+std::optional<QRgb> InkColourOf(const QImage &image)
 {
     if (!HasInkFormat(image))
         return std::nullopt;
+    QRgb colour = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *const pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = pixels[x];
+            if (qAlpha(pixel) == 0)
+                continue;
+            if (colour == 0)
+                colour = pixel;
+            if (pixel != colour || qAlpha(pixel) != 255)
+                return std::nullopt;
+        }
+    }
+    return colour;
+}
+
+std::optional<Ink> InkFrom(const QImage &image)
+{
+    const std::optional<QRgb> colour = InkColourOf(image);
+    if (!colour)
+        return std::nullopt;
     Ink ink(image.size());
+    ink.colour = *colour;
     quint32 *row = ink.bits.data();
     int first = ink.size.height();
     int end = 0;
     for (int y = 0; y < ink.size.height(); ++y, row += ink.wordsPerRow) {
         const auto *const pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        const RowOfInk found = AddInk(pixels, ink.size.width(), ink.colour, row);
-        if (found == RowOfInk::OtherColours)
-            return std::nullopt;
-        if (found == RowOfInk::None)
+        if (!AddInk(pixels, ink.size.width(), row))
             continue;
         first = std::min(first, y);
         end = y + 1;

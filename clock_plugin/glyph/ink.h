@@ -38,7 +38,11 @@ struct Ink
     QVector<quint32> bits;
 };
 
-/// Nullopt for an image without alpha, with several colours or with soft edges.
+/// The colour of an image; 0 if all of it is transparent. Nullopt for an image without alpha, with
+/// several colours or with soft edges. Allocates nothing.
+std::optional<QRgb> InkColourOf(const QImage &image);
+
+/// Nullopt where InkColourOf() is.
 std::optional<Ink> InkFrom(const QImage &image);
 
 /// The memory that ink of this size takes, in bytes.

@@ -281,8 +281,10 @@ void TestFreshInk::IsBounded()
 void TestFreshInk::SmallOnesAreBoundedToo()
 {
     FreshInk &fresh = FreshInk::OfThread();
+    QImage dot(1, 1, QImage::Format_ARGB32);
+    dot.fill(Qt::red);
     for (int i = 0; i < 5000; ++i)
-        fresh.Keep(QByteArray::number(i), Ink(QSize(1, 1)));
+        fresh.Keep(QByteArray::number(i), dot);
     int kept = 0;
     for (int i = 0; i < 5000; ++i)
         kept += fresh.Take(QByteArray::number(i)).has_value();

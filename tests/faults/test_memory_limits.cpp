@@ -4,8 +4,10 @@
 #include "clock_render.h"
 #include "compose/draw_clock_classify_image.h"
 #include "compose/glyph_strip.h"
+#include "compose/picture_file.h"
 #include "failing_memory.h"
 #include "fault_support.h"
+#include "glyph/glyph_drawing.h"
 #include "messages.h"
 #include "process_run.h"
 
@@ -74,6 +76,8 @@ private Q_SLOTS:
     void AllRequestsFailFromOneOn();
     void PixmapsOfElements();
     void GlyphsMadeWithoutMemory();
+    void EncodingALargeGlyph();
+    void CountingALargeGlyph();
     void AreasUnderALimit_data();
     void AreasUnderALimit();
     void PlayerUnderALimit_data();
@@ -316,6 +320,49 @@ void TestMemoryLimits::GlyphsMadeWithoutMemory()
     clock->MakeGlyphs();
     QVERIFY(content() != before);
     QVERIFY(!QImage(path).isNull());
+}
+
+namespace {
+
+/// Of 64 MiB, its ink of 2 MiB: transparent but for a green bar.
+QImage LargeGlyph()
+{
+    QImage image(4096, 4096, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    for (int x = 0; x < image.width(); ++x)
+        image.setPixel(x, 7, qRgb(0, 255, 0));
+    return image;
+}
+
+} // namespace
+
+// Needs neither a copy of the image nor its ink.
+void TestMemoryLimits::EncodingALargeGlyph()
+{
+    UnencodedPicture picture {GlyphState::Drawn, LargeGlyph(), {}};
+    picture.image.setDotsPerMeterX(5000);
+    QBuffer expected;
+    QVERIFY(expected.open(QBuffer::WriteOnly));
+    QVERIFY(picture.image.save(&expected, "png"));
+    FailingMemory::Fail(kLarge, 0, true);
+    const DrawnGlyph encoded = EncodeGlyphPicture(picture);
+    FailingMemory::Stop();
+    QVERIFY(encoded.state == GlyphState::Drawn);
+    QVERIFY(encoded.facts.hasInk);
+    QCOMPARE(encoded.file, expected.data());
+}
+
+// There is memory for the image, but not for its ink as well.
+void TestMemoryLimits::CountingALargeGlyph()
+{
+    const QImage image = LargeGlyph();
+    QBuffer png;
+    QVERIFY(png.open(QBuffer::WriteOnly));
+    QVERIFY(image.save(&png, "png"));
+    FailingMemory::Fail(kLarge, 1, true);
+    const qint64 bytes = GlyphBytesOfPng(png.data());
+    FailingMemory::Stop();
+    QCOMPARE(bytes, 4096LL * 4096 / 8);
 }
 
 void TestMemoryLimits::AreasUnderALimit_data()
