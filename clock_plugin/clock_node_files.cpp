@@ -11,6 +11,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 
 #include <cstdio>
 
@@ -54,8 +55,10 @@ void HClockNode::AfterUpdate(bool isTemp)
     GetAllFileList(files);
     if (!files.isEmpty())
         return;
+    const QPointer<HClockNode> self(this); // which the host may delete meanwhile
     DrwSourceIMage().DrawClockSourceImage(this, true, isTemp);
-    GetAllFileList(files); // some hosts update their file list here
+    if (self)
+        GetAllFileList(files); // some hosts update their file list here
 }
 
 bool HClockNode::AllFileExists()

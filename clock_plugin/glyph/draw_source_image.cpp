@@ -5,6 +5,7 @@
 #include "glyph/glyph_drawing.h"
 #include "glyph/glyph_file.h"
 #include "glyph/glyph_picture.h"
+#include "glyph/guarded_node.h"
 #include "glyph/hmd5.h"
 
 #include "happconfig.h"
@@ -12,7 +13,8 @@
 #include <QFileInfo>
 #include <QFont>
 #include <QPainter>
-#include <QPointer>
+
+#include <functional>
 
 namespace Lw::HNodeClock {
 
@@ -33,8 +35,8 @@ struct GlyphRequest
     int size; // points
     int colour;
     QString path;
-    bool isTopText;        ///< if there is nothing to draw, the file is removed
-    bool isNeeded = false; ///< for the first frame
+    bool isTopText;                 ///< if there is nothing to draw, the file is removed
+    std::function<bool()> isNeeded; ///< for the first frame; called if the image is drawn
 };
 
 namespace {
@@ -75,48 +77,52 @@ void DrwSourceIMage::InitParameters(HClockNode *node)
 {
     if (!node)
         return;
-    m_clockType = node->GetAttributeToInt(Key(Attribute::ClockType));
+    const GuardedNode guarded(node);
+    m_clockType = guarded.ClockType();
+    if (!guarded.Node())
+        return;
     if (m_clockType == AnalogClock) {
         m_typePrefix = QLatin1String(kAnalogPrefix);
         m_topText = TopTextOf(*node);
         for (GlyphFont font : kAnalogFonts)
-            ReadFont(node, font);
+            ReadFont(guarded, font);
     } else if (m_clockType == DigitalClock) {
         m_typePrefix = QLatin1String(kDigitalPrefix);
         m_topText = TopTextOf(*node);
         for (GlyphFont font : kDigitalFonts)
-            ReadFont(node, font);
+            ReadFont(guarded, font);
     }
 }
 
-void DrwSourceIMage::ReadFont(HClockNode *node, GlyphFont font)
+void DrwSourceIMage::ReadFont(const GuardedNode &node, GlyphFont font)
 {
     const GlyphFontAttributes attributes = FontAttributes(font, m_clockType);
-    m_fonts[static_cast<int>(font)] = {node->GetAttribute(Key(attributes.family)),
-                                       node->GetAttributeToInt(Key(attributes.size)),
-                                       node->GetAttributeToInt(Key(attributes.colour))};
+    m_fonts[static_cast<int>(font)] = {node.Text(attributes.family), node.Number(attributes.size),
+                                       node.Number(attributes.colour)};
 }
 
-// The host is called for every image. If it deletes the node there, the remaining images are
-// skipped.
 void DrwSourceIMage::DrawClockSourceImage(HClockNode *node, bool calcMD5, bool isTempUpdate)
 {
     if (!node)
         return;
     m_isTempUpdate = isTempUpdate;
-    if (node->ClockType() == PictureClock)
+    const GuardedNode guarded(node);
+    if (guarded.ClockType() == PictureClock)
         return;
     m_calcMd5 = calcMD5;
-    InitParameters(node);
-    const QPointer<HClockNode> guarded(node);
-    const QString id = QString::number(node->GetAttributeToInt(Key(Attribute::Id)));
+    InitParameters(guarded.Node());
+    const QString id = QString::number(guarded.Number(Attribute::Id));
+    if (!guarded.Node())
+        return;
     QVector<Lw::GlyphFault> faults;
     for (const GlyphImage &image : GlyphImages(GlyphOrder::Generation, m_clockType)) {
         const GlyphOutcome outcome = DrawGlyph(node, image, id);
-        if (!guarded)
+        if (!guarded.Node())
             return;
         if (const auto fault = FaultOf(image, outcome, *node))
             faults.append(*fault);
+        if (!guarded.Node())
+            return;
     }
     Lw::SetGlyphFaults(*node, faults);
 }
@@ -131,13 +137,14 @@ GlyphRequest DrwSourceIMage::RequestFor(const GlyphImage &image, const QString &
             font.size,
             font.colour,
             path,
-            image.row->glyph == Glyph::TopText};
+            image.row->glyph == Glyph::TopText,
+            {}};
 }
 
 GlyphOutcome DrwSourceIMage::DrawGlyph(HClockNode *node, const GlyphImage &image, const QString &id)
 {
     GlyphRequest request = RequestFor(image, id);
-    request.isNeeded = IsNeeded(image, *node);
+    request.isNeeded = [node, &image] { return node && IsNeeded(image, *node); };
     return Make(node, image.Key(), request);
 }
 
@@ -162,7 +169,7 @@ void DrwSourceIMage::DrawImage(HClockNode *node, QString key, QString text, QStr
 {
     const QString path = PathOf(GlyphShape::Text, id, fileSuffix);
     Make(node, key,
-         {GlyphShape::Text, text, family, size, colour, path, IsTopTextFile(key, fileSuffix)});
+         {GlyphShape::Text, text, family, size, colour, path, IsTopTextFile(key, fileSuffix), {}});
 }
 
 void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, QString family,
@@ -170,7 +177,7 @@ void DrwSourceIMage::DrawNumberImage(HClockNode *node, QString key, QString id, 
 {
     const QString path = PathOf(GlyphShape::DigitStrip, id, fileSuffix);
     Make(node, key,
-         {GlyphShape::DigitStrip, QLatin1String(kDigits), family, size, colour, path, false});
+         {GlyphShape::DigitStrip, QLatin1String(kDigits), family, size, colour, path, false, {}});
 }
 
 // Digit strips are always in the regular directory, shared by a program and its temporary updates.
@@ -185,12 +192,13 @@ QString DrwSourceIMage::PathOf(GlyphShape shape, const QString &id, const QStrin
 // wall.
 GlyphOutcome DrwSourceIMage::Make(HClockNode *node, const QString &key, const GlyphRequest &request)
 {
+    const GuardedNode guarded(node);
     GlyphOutcome outcome = DrawAndWrite(request);
     outcome.path = request.path;
     outcome.text = request.text;
     if (outcome.state == GlyphState::Nothing && request.isTopText)
         RemoveImageFile(request.path);
-    Record(node, key, request.path);
+    Record(guarded.Node(), key, request.path);
     return outcome;
 }
 
@@ -212,7 +220,7 @@ GlyphOutcome DrwSourceIMage::DrawAndWrite(const GlyphRequest &request)
         glyph = EncodeGlyphPicture(picture);
         cache.Keep(content, glyph);
         isThere = Holds(request.path, glyph);
-        if (glyph.state == GlyphState::Drawn && request.isNeeded)
+        if (glyph.state == GlyphState::Drawn && request.isNeeded && request.isNeeded())
             FreshInk::OfThread().Keep(glyph.file, picture.image);
     }
     if (!isThere && glyph.state == GlyphState::Drawn)

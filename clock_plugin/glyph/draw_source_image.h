@@ -20,12 +20,15 @@ QT_END_NAMESPACE
 
 namespace Lw::HNodeClock {
 
+class GuardedNode;
 struct GlyphFace;
 struct GlyphOutcome;
 struct GlyphRequest;
 struct UnencodedGlyph;
 
 /// Use one object per generation.
+///
+/// The host may delete the node within any call to it: then the remaining images are skipped.
 ///
 /// Failures are recorded on the node (host/glyph_faults.h). An image that cannot be made or written
 /// leaves an existing file unchanged, but its path is still recorded on the node. It cannot be made
@@ -84,7 +87,7 @@ private:
     };
 
     // The class is exported; its private functions are not.
-    Q_DECL_HIDDEN void ReadFont(HClockNode *node, GlyphFont font);
+    Q_DECL_HIDDEN void ReadFont(const GuardedNode &node, GlyphFont font);
     Q_DECL_HIDDEN GlyphRequest RequestFor(const GlyphImage &image, const QString &id) const;
     Q_DECL_HIDDEN QString PathOf(GlyphShape shape, const QString &id, const QString &suffix) const;
     Q_DECL_HIDDEN GlyphOutcome Make(HClockNode *node, const QString &key,

@@ -1,7 +1,7 @@
 #include "glyph/glyph_check.h"
 
-#include "clock_node.h"
 #include "glyph/draw_source_image.h"
+#include "glyph/guarded_node.h"
 
 #include <algorithm>
 
@@ -68,11 +68,12 @@ std::optional<Lw::GlyphFault> FaultOf(const GlyphImage &image, const GlyphOutcom
 
 QString TopTextOf(HClockNode &node)
 {
-    switch (node.ClockType()) {
+    const GuardedNode guarded(&node);
+    switch (guarded.ClockType()) {
     case AnalogClock:
-        return node.GetAttribute(Key(Attribute::AnalogTopText));
+        return guarded.Text(Attribute::AnalogTopText);
     case DigitalClock:
-        return node.GetAttribute(Key(Attribute::DigitalTopText));
+        return guarded.Text(Attribute::DigitalTopText);
     default:
         return {};
     }

@@ -3,7 +3,7 @@
 // show no label.
 #include "glyph/glyph_check.h"
 
-#include "clock_node.h"
+#include "glyph/guarded_node.h"
 
 #include <iterator>
 #include <optional>
@@ -62,17 +62,16 @@ static_assert(std::size(kShown) == kGlyphCount && RowsFollowEnumeration(),
               "row i of the table must describe glyph i");
 
 /// False for undocumented codes.
-bool FormatShows(HClockNode &node, Attribute format, const char *codes)
+bool FormatShows(const GuardedNode &node, Attribute format, const char *codes)
 {
-    const int code = node.GetAttributeToInt(Key(format));
+    const int code = node.Number(format);
     return RowOf(format).range.Contains(code)
         && QLatin1String(codes).contains(QLatin1Char(static_cast<char>('0' + code)));
 }
 
-bool IsMarkHidden(HClockNode &node)
+bool IsMarkHidden(const GuardedNode &node)
 {
-    const QString &key = Key(Attribute::DigitalDispAMPM);
-    return node.HaveAttribute(key) && node.GetAttributeToInt(key) == 0;
+    return node.Has(Attribute::DigitalDispAMPM) && node.Number(Attribute::DigitalDispAMPM) == 0;
 }
 
 // The numerals and marks of a dial are loaded as pixmaps, the marks of a digital clock later.
@@ -90,21 +89,18 @@ bool IsLoadedLater(Glyph glyph)
     }
 }
 
-bool IsRowShown(Glyph glyph, HClockNode &node)
+bool IsRowShown(Glyph glyph, const GuardedNode &node)
 {
     const ShownRow &row = kShown[static_cast<int>(glyph)];
     const int clockType = node.ClockType();
     if (clockType != AnalogClock && clockType != DigitalClock)
         return false;
     const auto flag = clockType == DigitalClock ? row.digitalFlag : row.analogFlag;
-    return flag && node.GetAttributeToInt(Key(*flag)) != 0;
+    return flag && node.Number(*flag) != 0;
 }
 
-} // namespace
-
-bool IsShown(const GlyphImage &image, HClockNode &node)
+bool IsGlyphShown(Glyph glyph, const GuardedNode &node)
 {
-    const Glyph glyph = image.row->glyph;
     if (!IsRowShown(glyph, node))
         return false;
     if ((glyph == Glyph::TimeAM || glyph == Glyph::TimePM) && IsMarkHidden(node))
@@ -114,14 +110,22 @@ bool IsShown(const GlyphImage &image, HClockNode &node)
     return !format || FormatShows(node, *format, row.codes);
 }
 
+} // namespace
+
+bool IsShown(const GlyphImage &image, HClockNode &node)
+{
+    return IsGlyphShown(image.row->glyph, GuardedNode(&node));
+}
+
 bool IsNeeded(const GlyphImage &image, HClockNode &node)
 {
     const Glyph glyph = image.row->glyph;
     if (IsLoadedLater(glyph))
         return false;
+    const GuardedNode guarded(&node);
     const bool isLabel = glyph == Glyph::DateCh || glyph == Glyph::TimeCh;
-    return glyph == Glyph::DateNumber || IsShown(image, node)
-        || (isLabel && IsRowShown(glyph, node));
+    return glyph == Glyph::DateNumber || IsGlyphShown(glyph, guarded)
+        || (isLabel && IsRowShown(glyph, guarded));
 }
 
 } // namespace Lw::HNodeClock

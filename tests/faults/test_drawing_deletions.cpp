@@ -1,7 +1,10 @@
-// A renderer deleted or removed by the host while it draws a frame, at each call that drawing makes
-// out of the plugin: for the time, for the size, for attributes and files.
+// A renderer deleted or removed by the host while it draws a frame, and a node while its images are
+// made, at each call that this makes out of the plugin: for the time, for the size, for attributes
+// and files.
 #include "clock_render.h"
 #include "fault_support.h"
+#include "glyph/draw_source_image.h"
+#include "glyph/glyph_cache.h"
 #include "messages.h"
 
 #include "pictureplayer.h"
@@ -67,6 +70,15 @@ QString HData::GetAttribute(QString key)
     return value;
 }
 
+bool HData::HaveAttribute(QString key)
+{
+    using Function = bool (*)(HData *, QString);
+    static const auto next = Next<Function>("_ZN2Lw5HData13HaveAttributeE7QString");
+    const bool value = next(this, key);
+    CalledOut();
+    return value;
+}
+
 QString HData::GetFirstFile(QString key)
 {
     using Function = QString (*)(HData *, QString);
@@ -93,6 +105,9 @@ private Q_SLOTS:
     void NodeDeletedByTheTime();
     void NodeDeletedByItsSize_data() { AddKinds(); }
     void NodeDeletedByItsSize();
+    void NodeDeletedWhileImagesAreMade_data();
+    void NodeDeletedWhileImagesAreMade();
+    void KnownImagesAreAskedForNothing();
 
 private:
     QTemporaryDir m_directory;
@@ -211,6 +226,76 @@ void TestDrawingDeletions::NodeDeletedByItsSize()
         }
         render.PlayNext();
     }
+}
+
+namespace {
+
+QPointer<HClockNode> NodeWithEverything(int kind)
+{
+    QPointer<HClockNode> node(new HClockNode);
+    node->InitData();
+    for (const char *const key : {"Analog_AMPM_d", "Analog_Date_d", "Analog_Week_d",
+                                  "Analog_Lunar_d", "Digital_Lunar_d", "DigitalMode"})
+        node->SetAttribute(QLatin1String(key), 1, false);
+    node->SetAttribute(Key(Attribute::ClockType), kind, false);
+    return node;
+}
+
+/// How often making the images calls out.
+int CallsToMakeImages(HClockNode &node)
+{
+    g_calls = 0;
+    DrwSourceIMage().DrawClockSourceImage(&node);
+    return g_calls;
+}
+
+} // namespace
+
+void TestDrawingDeletions::NodeDeletedWhileImagesAreMade_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<bool>("areDrawn"); // else their files are there
+    for (const int kind : {AnalogClock, DigitalClock}) {
+        QTest::addRow("%s, drawn", KindName(kind)) << kind << true;
+        QTest::addRow("%s, known", KindName(kind)) << kind << false;
+    }
+}
+
+void TestDrawingDeletions::NodeDeletedWhileImagesAreMade()
+{
+    QFETCH(int, kind);
+    QFETCH(bool, areDrawn);
+    const auto forget = [areDrawn] {
+        if (areDrawn)
+            GlyphCache::Shared().Forget();
+    };
+    QPointer<HClockNode> node = NodeWithEverything(kind);
+    CallsToMakeImages(*node);
+    forget();
+    const int calls = CallsToMakeImages(*node);
+    delete node;
+    QVERIFY(calls > 20);
+    for (int fatal = 1; fatal <= calls; ++fatal) {
+        forget();
+        node = NodeWithEverything(kind);
+        g_calls = 0;
+        g_fatalCall = fatal;
+        g_deed = [&node] { delete node; };
+        DrwSourceIMage().DrawClockSourceImage(node);
+        g_fatalCall = 0;
+        QVERIFY2(!node, qPrintable(QString::number(fatal)));
+    }
+}
+
+// Only for images that are drawn the host is asked whether a frame needs them.
+void TestDrawingDeletions::KnownImagesAreAskedForNothing()
+{
+    GlyphCache::Shared().Forget();
+    const QPointer<HClockNode> node = NodeWithEverything(DigitalClock);
+    const int drawn = CallsToMakeImages(*node);
+    const int known = CallsToMakeImages(*node);
+    delete node;
+    QVERIFY(known < drawn);
 }
 
 QTEST_MAIN(TestDrawingDeletions)
