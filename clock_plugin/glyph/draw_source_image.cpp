@@ -15,6 +15,7 @@
 #include <QPainter>
 
 #include <functional>
+#include <utility>
 
 namespace Lw::HNodeClock {
 
@@ -161,7 +162,10 @@ std::optional<UnencodedGlyph> DrwSourceIMage::DrawUnencoded(const GlyphImage &im
         known.state == GlyphState::Drawn && (!known.file.isNull() || Holds(request.path, known));
     if (isThere)
         return std::nullopt;
-    return UnencodedGlyph {content, DrawGlyphPicture(*m_painter, content, face.font)};
+    UnencodedPicture picture = DrawGlyphPicture(*m_painter, content, face.font);
+    if (picture.state != GlyphState::Drawn)
+        return std::nullopt;
+    return UnencodedGlyph {content, std::move(picture)};
 }
 
 void DrwSourceIMage::DrawImage(HClockNode *node, QString key, QString text, QString id,

@@ -1,8 +1,10 @@
 #include "image_encoder.h"
 
 #include <QGuiApplication>
+#include <QScopeGuard>
 
 #include <chrono>
+#include <new>
 #include <utility>
 
 namespace ClockStudio {
@@ -19,9 +21,10 @@ void ImageEncoder::Encode(UnencodedGlyph glyph)
     m_content = glyph.content;
     m_isOutdated = false;
     m_encoded = std::async([this, picture = std::move(glyph.picture)] {
-        DrawnGlyph encoded = EncodeGlyphPicture(picture);
-        QMetaObject::invokeMethod(this, &ImageEncoder::Take, Qt::QueuedConnection);
-        return encoded;
+        // Also if there is no memory to encode it.
+        const auto finished = qScopeGuard(
+            [this] { QMetaObject::invokeMethod(this, &ImageEncoder::Take, Qt::QueuedConnection); });
+        return EncodeGlyphPicture(picture);
     });
     // Deferred if the system has no thread left.
     if (m_encoded.wait_for(std::chrono::seconds(0)) == std::future_status::deferred)
@@ -30,9 +33,13 @@ void ImageEncoder::Encode(UnencodedGlyph glyph)
 
 void ImageEncoder::Take()
 {
-    const DrawnGlyph encoded = m_encoded.get();
-    if (!m_isOutdated)
-        GlyphCache::Shared().Keep(m_content, encoded);
+    try {
+        const DrawnGlyph encoded = m_encoded.get();
+        if (!m_isOutdated)
+            GlyphCache::Shared().Keep(m_content, encoded);
+    } catch (const std::bad_alloc &) {
+        // It is then not in the cache.
+    }
     emit Encoded();
 }
 

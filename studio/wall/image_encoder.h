@@ -10,7 +10,7 @@
 
 namespace ClockStudio {
 
-/// Encodes one image at a time and puts it into the plugin's cache of images.
+/// Encodes one image at a time and puts it into the plugin's cache of images, if there is memory.
 class ImageEncoder : public QObject
 {
     Q_OBJECT

@@ -5,11 +5,13 @@
 #include "wall/image_encoder.h"
 
 #include "clock_node.h"
+#include "failing_memory.h"
 #include "glyph/draw_source_image.h"
 #include "glyph/glyph_picture.h"
 #include "happconfig.h"
 
 #include <QPainter>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 
 using namespace ClockStudio;
@@ -76,6 +78,8 @@ private slots:
     void TypingReplacesWhatIsEncoded();
     void WallIsClosedMeanwhile();
     void OutdatedFontsAreNotCached();
+    void NoWidthIsNotEncoded();
+    void NoMemoryToEncode();
 };
 
 void TestLargeFonts::FilesAreThePlugins_data()
@@ -161,6 +165,37 @@ void TestLargeFonts::OutdatedFontsAreNotCached()
     encoder.Encode(glyph);
     QVERIFY(encoded.wait());
     QCOMPARE(GlyphCache::Shared().Find(glyph.content).file, EncodeGlyphPicture(glyph.picture).file);
+}
+
+// A label of a space without width.
+void TestLargeFonts::NoWidthIsNotEncoded()
+{
+    StudioUnderTest studio(Wall("digital", "&#8203;"));
+    QSignalSpy encoded(&EncoderOf(studio), &ImageEncoder::Encoded);
+    const int before = DrawnImages();
+    studio.WaitForClocks();
+    QVERIFY(encoded.count() > 20);
+    QCOMPARE(encoded.count(), DrawnImages() - before);
+}
+
+// Noise makes a large file.
+void TestLargeFonts::NoMemoryToEncode()
+{
+    if (!FailingMemory::Available())
+        QSKIP("the allocator cannot be limited under a sanitizer");
+    UnencodedGlyph glyph = DrawnGate();
+    glyph.picture.image = QImage(1000, 1000, QImage::Format_ARGB32);
+    QRandomGenerator(1).fillRange(reinterpret_cast<quint32 *>(glyph.picture.image.bits()),
+                                  1000 * 1000);
+    ImageEncoder encoder;
+    QSignalSpy encoded(&encoder, &ImageEncoder::Encoded);
+    FailingMemory::Fail(1 << 20, 0, true);
+    encoder.Encode(glyph);
+    const bool isEncoded = encoded.wait();
+    QVERIFY(FailingMemory::Stop() > 0);
+    QVERIFY(isEncoded);
+    QVERIFY(!encoder.IsBusy());
+    QVERIFY(GlyphCache::Shared().Find(glyph.content).state != GlyphState::Drawn);
 }
 
 QTEST_MAIN(TestLargeFonts)
