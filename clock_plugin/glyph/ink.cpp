@@ -20,16 +20,28 @@ bool HasInkFormat(const QImage &image)
         || image.format() == QImage::Format_ARGB32_Premultiplied;
 }
 
-// Sets the bits of a row's opaque pixels. Whether there are any.
-bool AddInk(const QRgb *pixels, int width, quint32 *bits)
+enum class RowOfInk { None, Some, OtherColours };
+
+// A row's opaque pixels must have this colour; 0 becomes that of the first. Sets their bits, unless
+// null.
+RowOfInk AddInk(const QImage &image, int y, QRgb &colour, quint32 *bits)
 {
-    quint32 found = 0;
+    const auto *const pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+    const int width = image.width();
+    RowOfInk found = RowOfInk::None;
     for (int x = 0; x < width; ++x) {
-        const quint32 isSet = pixels[x] >> 31;
-        bits[x / kInkColumns] |= isSet << x % kInkColumns;
-        found |= isSet;
+        const QRgb pixel = pixels[x];
+        if (qAlpha(pixel) == 0)
+            continue;
+        if (colour == 0)
+            colour = pixel;
+        if (pixel != colour || qAlpha(pixel) != 255)
+            return RowOfInk::OtherColours;
+        if (bits)
+            bits[x / kInkColumns] |= 1u << x % kInkColumns;
+        found = RowOfInk::Some;
     }
-    return found != 0;
+    return found;
 }
 
 } // namespace
@@ -53,33 +65,25 @@ std::optional<QRgb> InkColourOf(const QImage &image)
         return std::nullopt;
     QRgb colour = 0;
     for (int y = 0; y < image.height(); ++y) {
-        const auto *const pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = pixels[x];
-            if (qAlpha(pixel) == 0)
-                continue;
-            if (colour == 0)
-                colour = pixel;
-            if (pixel != colour || qAlpha(pixel) != 255)
-                return std::nullopt;
-        }
+        if (AddInk(image, y, colour, nullptr) == RowOfInk::OtherColours)
+            return std::nullopt;
     }
     return colour;
 }
 
 std::optional<Ink> InkFrom(const QImage &image)
 {
-    const std::optional<QRgb> colour = InkColourOf(image);
-    if (!colour)
+    if (!HasInkFormat(image))
         return std::nullopt;
     Ink ink(image.size());
-    ink.colour = *colour;
     quint32 *row = ink.bits.data();
     int first = ink.size.height();
     int end = 0;
     for (int y = 0; y < ink.size.height(); ++y, row += ink.wordsPerRow) {
-        const auto *const pixels = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        if (!AddInk(pixels, ink.size.width(), row))
+        const RowOfInk found = AddInk(image, y, ink.colour, row);
+        if (found == RowOfInk::OtherColours)
+            return std::nullopt;
+        if (found == RowOfInk::None)
             continue;
         first = std::min(first, y);
         end = y + 1;
