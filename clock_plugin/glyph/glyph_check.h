@@ -23,7 +23,7 @@ struct GlyphOutcome
 };
 
 /// Whether the clock ever shows the image with its settings. False for an image that its kind of
-/// clock does not have. As in all of these, the host may delete the node within the call.
+/// clock does not have. The host may delete the node within this call and the following ones.
 bool IsShown(const GlyphImage &image, HClockNode &node);
 
 /// Whether the clock needs the ink of the image as soon as it is set up, if only to measure it: the

@@ -23,9 +23,8 @@ QByteArray EncodePng(const QImage &image)
     return encoded ? png : QByteArray();
 }
 
-// For an image of one colour without soft edges: premultiplied, it has the same pixels, and Qt need
-// not convert ARGB32. Shares the pixels, which nothing changes; those declared constant would be
-// copied with the resolution.
+// In one colour without soft edges, both formats have the same pixels; Qt need not convert ARGB32.
+// Shares the image's pixels. They are only read, but Qt's setters would copy constant ones.
 QImage AsArgb32(const QImage &image)
 {
     QImage same(const_cast<uchar *>(image.constBits()), image.width(), image.height(),
