@@ -164,8 +164,8 @@ private:
     Q_DECL_HIDDEN void StoreComputedDefault(Attribute attribute);
     Q_DECL_HIDDEN void StoreHostTime(); // zone and daylight-saving flag
 
-    Q_DECL_HIDDEN void Import(const QDomElement &clock, const ImportElement *begin,
-                              const ImportElement *end);
+    Q_DECL_HIDDEN void ImportAll(const QDomElement &clock, const ImportElement *begin,
+                                 const ImportElement *end);
     Q_DECL_HIDDEN void Apply(Attribute target, Conversion conversion, const QString &text);
     Q_DECL_HIDDEN QString SdkAdjust(); // the stored adjustment as the SDK writes it
     Q_DECL_HIDDEN void CoverChildToSDK(QDomElement &child, const ExportSource &source);

@@ -156,7 +156,7 @@ bool HClockNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &files)
     if (element.isNull())
         return false;
     const QPointer<HClockNode> self(this);
-    Import(element, std::begin(kFontImport), std::end(kFontImport));
+    ImportAll(element, std::begin(kFontImport), std::end(kFontImport));
     const std::optional<int> type = ClockTypeIn(element);
     if (!self || (type != DigitalClock && type != AnalogClock))
         return false;
@@ -164,7 +164,7 @@ bool HClockNode::UpdateNode(QDomElement element, QList<Lw::FileInfo> &files)
     if (self)
         Store(Attribute::ClockType, *type);
     if (self)
-        Import(element, std::begin(kTimeImport), std::end(kTimeImport));
+        ImportAll(element, std::begin(kTimeImport), std::end(kTimeImport));
     if (self)
         ProcFile(element, files);
     return !self.isNull();
@@ -186,20 +186,20 @@ void HClockNode::ProcFile(QDomElement &element, QList<Lw::FileInfo> &files)
 
 bool HClockNode::PatchAnalog(QDomElement &element)
 {
-    Import(element, std::begin(kAnalogImport), std::end(kAnalogImport));
+    ImportAll(element, std::begin(kAnalogImport), std::end(kAnalogImport));
     return true;
 }
 
 bool HClockNode::PatchDigital(QDomElement &element)
 {
-    Import(element, std::begin(kDigitalImport), std::end(kDigitalImport));
+    ImportAll(element, std::begin(kDigitalImport), std::end(kDigitalImport));
     return true;
 }
 
 // A slot connected to ReDrawSourceImage() may delete the node; the rest of the element is then
 // ignored.
-void HClockNode::Import(const QDomElement &clock, const ImportElement *begin,
-                        const ImportElement *end)
+void HClockNode::ImportAll(const QDomElement &clock, const ImportElement *begin,
+                           const ImportElement *end)
 {
     const QPointer<HClockNode> self(this);
     for (const ImportElement *element = begin; element != end; ++element) {
